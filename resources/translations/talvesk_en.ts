@@ -226,6 +226,16 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ResolutionDialog</name>
+    <message numerus="yes">
+        <source>Stopped: %n test(s) completed.</source>
+        <translation>
+            <numerusform>Stopped: %n test completed.</numerusform>
+            <numerusform>Stopped: %n tests completed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::TableTexts</name>
     <message numerus="yes">
         <source>and %n more</source>

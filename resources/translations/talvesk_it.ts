@@ -401,6 +401,18 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <comment>run, remarks</comment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>by errors of %1</source>
+        <translation>con errori di %1</translation>
+    </message>
+    <message>
+        <source>by other errors, so these do not compare: %1</source>
+        <translation>con errori diversi, quindi non confrontabili: %1</translation>
+    </message>
+    <message>
+        <source>of all picks as they are %1 ms</source>
+        <translation>di tutti i primi arrivi così come sono %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::DialogSetGeometry</name>
@@ -1179,6 +1191,102 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>[m]</source>
         <translation>[m]</translation>
     </message>
+    <message>
+        <source>Depth of %1, 16 to 84 %</source>
+        <translation>Profondità di %1, dal 16 all&apos;84 %</translation>
+    </message>
+    <message>
+        <source>Pale: uncertain, ± %1 to %2 % and no ray</source>
+        <translation>Sbiadito: incerto, da ± %1 a %2 % e senza raggi</translation>
+    </message>
+    <message>
+        <source>picks have changed since the certainty was found out</source>
+        <translation>i primi arrivi sono cambiati dopo il calcolo dell&apos;affidabilità</translation>
+    </message>
+    <message>
+        <source>certainty of other sections than this one: %1 % of its cells with rays lie beyond two deviations</source>
+        <translation>affidabilità di sezioni diverse da questa: il %1 % delle sue celle con raggi sta oltre due deviazioni</translation>
+    </message>
+    <message>
+        <source>±: half of the range from 16 to 84 % of %1 members</source>
+        <translation>±: metà dell&apos;intervallo dal 16 all&apos;84 % di %1 membri</translation>
+    </message>
+    <message>
+        <source>certainty of %1 members</source>
+        <translation>affidabilità di %1 membri</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 esclusi</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geofono a [m]</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [pick errors]</source>
+        <translation>Calcolato meno misurato [errori dei primi arrivi]</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Tiro %1, geofono %2 a %3 m, distanza %4 m: misurato %5 ms, calcolato %6 ms, residuo %7 ms, errore %8 ms (%9 errori)</translation>
+    </message>
+    <message>
+        <source>; suspect</source>
+        <translation>; sospetto</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geofono a [m]; tratteggiato: nessun primo arrivo, con un punto: sospetto</translation>
+    </message>
+    <message>
+        <source>Shot, along the line</source>
+        <translation>Tiro, lungo la linea</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Primi arrivi</translation>
+    </message>
+    <message>
+        <source>Suspect</source>
+        <translation>Sospetti</translation>
+    </message>
+    <message>
+        <source>Running median</source>
+        <translation>Mediana mobile</translation>
+    </message>
+    <message>
+        <source>One standard deviation</source>
+        <translation>Una deviazione standard</translation>
+    </message>
+    <message>
+        <source>Stands out</source>
+        <translation>Anomalo</translation>
+    </message>
+    <message>
+        <source>Median and one standard deviation</source>
+        <translation>Mediana e una deviazione standard</translation>
+    </message>
+    <message>
+        <source>%1: %2 m/s</source>
+        <translation>%1: %2 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m beside the line)</source>
+        <translation>%1 (%2 m di lato alla linea)</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Sondaggi</translation>
+    </message>
+    <message>
+        <source>Known depths</source>
+        <translation>Profondità note</translation>
+    </message>
+    <message>
+        <source>Fixed bodies</source>
+        <translation>Corpi fissi</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1313,6 +1421,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Picks</source>
         <translation>Primi arrivi</translation>
+    </message>
+    <message>
+        <source>The section is drawn to the velocities and depths of &quot;Known ground&quot; by their errors, and fixed bodies stay as they are. How the section goes with them is told after the run; chi-square is of the picks alone.</source>
+        <translation>La sezione è attratta verso le velocità e le profondità di &quot;Terreno noto&quot; secondo i loro errori, e i corpi fissi restano come sono. Come la sezione vi si accorda è detto dopo il calcolo; il chi quadrato è dei soli primi arrivi.</translation>
+    </message>
+    <message>
+        <source>Hold to known ground</source>
+        <translation>Vincola al terreno noto</translation>
     </message>
 </context>
 <context>
@@ -1711,6 +1827,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>%1 (exists)</source>
         <translation>%1 (esiste)</translation>
     </message>
+    <message>
+        <source>Residuals of the picks</source>
+        <translation>Residui dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>Shot by geophone, and in the section along the rays</source>
+        <translation>Tiro per geofono, e nella sezione lungo i raggi</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::InversionTexts</name>
@@ -1819,6 +1943,208 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Best of the picks&apos; models</source>
         <translation>Il migliore dei modelli dai primi arrivi</translation>
+    </message>
+    <message>
+        <source>With the time shifts of shots</source>
+        <translation>Con le traslazioni temporali dei tiri</translation>
+    </message>
+    <message>
+        <source>Without suspects, with the time shifts of shots</source>
+        <translation>Senza i sospetti, con le traslazioni temporali dei tiri</translation>
+    </message>
+    <message>
+        <source>Without suspects</source>
+        <translation>Senza i sospetti</translation>
+    </message>
+    <message>
+        <source>All picks as they are, </source>
+        <translation>Tutti i primi arrivi così come sono, </translation>
+    </message>
+    <message>
+        <source>Known ground: %1 conditions, RMS %2 of their errors; fixed cells %3
+</source>
+        <translation>Terreno noto: %1 condizioni, RMS %2 dei loro errori; celle fisse %3
+</translation>
+    </message>
+    <message>
+        <source>The section does not go with %1: off by %2 of its errors
+</source>
+        <translation>La sezione non si accorda con %1: scarto di %2 volte l&apos;errore
+</translation>
+    </message>
+    <message>
+        <source>RMS of what chi-square counts: %1 ms.</source>
+        <translation>RMS di ciò che conta nel chi quadrato: %1 ms.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownGroundDialog</name>
+    <message>
+        <source>Known ground</source>
+        <translation>Terreno noto</translation>
+    </message>
+    <message>
+        <source>&amp;Boreholes</source>
+        <translation>&amp;Sondaggi</translation>
+    </message>
+    <message>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Una riga è uno strato; gli strati con lo stesso nome sono di un solo sondaggio, dall&apos;alto in basso. Le profondità sono in metri dal suolo. Senza errore una velocità vale come nota al 5 %.</translation>
+    </message>
+    <message>
+        <source>Boreholes</source>
+        <translation>Sondaggi</translation>
+    </message>
+    <message>
+        <source>&amp;Depths</source>
+        <translation>&amp;Profondità</translation>
+    </message>
+    <message>
+        <source>A row is a place where a refractor is known to lie: the velocity that is reached there, or those above and below. Without an error a depth counts as known to a tenth. Points of one refractor number belong together.</source>
+        <translation>Una riga è un punto in cui si sa che passa un rifrattore: la velocità che vi si raggiunge, o quelle sopra e sotto. Senza errore una profondità vale come nota a un decimo. I punti con lo stesso numero di rifrattore vanno insieme.</translation>
+    </message>
+    <message>
+        <source>Depths</source>
+        <translation>Profondità</translation>
+    </message>
+    <message>
+        <source>B&amp;odies</source>
+        <translation>&amp;Corpi</translation>
+    </message>
+    <message>
+        <source>A row is a corner; corners of one name go around a body of known velocity, which a fit leaves as it is.</source>
+        <translation>Una riga è un vertice; i vertici con lo stesso nome delimitano un corpo di velocità nota, che un adattamento lascia com&apos;è.</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>Corpi</translation>
+    </message>
+    <message>
+        <source>Insert a row above the current one. The last line of a table is always empty: type there to go on</source>
+        <translation>Inserisce una riga sopra quella attuale. L&apos;ultima riga di una tabella è sempre vuota: per continuare basta scrivere lì</translation>
+    </message>
+    <message>
+        <source>&amp;Add row</source>
+        <translation>&amp;Aggiungi riga</translation>
+    </message>
+    <message>
+        <source>Remove the rows with selected cells</source>
+        <translation>Toglie le righe con celle selezionate</translation>
+    </message>
+    <message>
+        <source>&amp;Remove rows</source>
+        <translation>&amp;Rimuovi righe</translation>
+    </message>
+    <message>
+        <source>Take the last step in these tables back</source>
+        <translation>Annulla l&apos;ultimo passo in queste tabelle</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla modifica</translation>
+    </message>
+    <message>
+        <source>Do it again</source>
+        <translation>Rifà il passo annullato</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti modifica</translation>
+    </message>
+    <message>
+        <source>Read a table in place of all that stands here</source>
+        <translation>Legge una tabella al posto di tutto ciò che sta qui</translation>
+    </message>
+    <message>
+        <source>&amp;Import ...</source>
+        <translation>&amp;Importa ...</translation>
+    </message>
+    <message>
+        <source>Write all of it as one table</source>
+        <translation>Scrive tutto in un&apos;unica tabella</translation>
+    </message>
+    <message>
+        <source>&amp;Export ...</source>
+        <translation>&amp;Esporta ...</translation>
+    </message>
+    <message>
+        <source>Boreholes: %1, known depths: %2, bodies: %3.</source>
+        <translation>Sondaggi: %1, profondità note: %2, corpi: %3.</translation>
+    </message>
+    <message>
+        <source>%1, row %2: %3.</source>
+        <translation>%1, riga %2: %3.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed in these tables?</source>
+        <translation>Abbandonare le modifiche a queste tabelle?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::KnownTable</name>
+    <message>
+        <source>Position [m]</source>
+        <translation>Posizione [m]</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Scostamento [m]</translation>
+    </message>
+    <message>
+        <source>Top [m]</source>
+        <translation>Tetto [m]</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profondità [m]</translation>
+    </message>
+    <message>
+        <source>Bottom [m]</source>
+        <translation>Letto [m]</translation>
+    </message>
+    <message>
+        <source>Isovalue [m/s]</source>
+        <translation>Isovalore [m/s]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Error [m]</source>
+        <translation>Errore [m]</translation>
+    </message>
+    <message>
+        <source>Error [m/s]</source>
+        <translation>Errore [m/s]</translation>
+    </message>
+    <message>
+        <source>Refractor</source>
+        <translation>Rifrattore</translation>
+    </message>
+    <message>
+        <source>Above [m/s]</source>
+        <translation>Sopra [m/s]</translation>
+    </message>
+    <message>
+        <source>Below [m/s]</source>
+        <translation>Sotto [m/s]</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>&quot;%1&quot; non è un numero.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: %1 rows of %2 columns do not fit from here on.</source>
+        <translation>Non è stato incollato nulla: %1 righe di %2 colonne non entrano da qui in poi.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted. Row %1: %2</source>
+        <translation>Non è stato incollato nulla. Riga %1: %2</translation>
     </message>
 </context>
 <context>
@@ -5289,6 +5615,338 @@ Impostare la posizione dei geofoni
         <source>Uncertainty of velocity</source>
         <translation>Incertezza della velocità</translation>
     </message>
+    <message>
+        <source>There are no picks yet: a resolution test takes their positions and errors.</source>
+        <translation>Non ci sono ancora primi arrivi: una prova di risoluzione ne usa posizioni ed errori.</translation>
+    </message>
+    <message>
+        <source>how sure the section is is not known; find it out first</source>
+        <translation>quanto sia sicura la sezione non è noto; calcolare prima l&apos;affidabilità</translation>
+    </message>
+    <message>
+        <source>there is no section whose times could be compared with the picks; run an inversion first</source>
+        <translation>non c&apos;è una sezione di cui confrontare i tempi con i primi arrivi; eseguire prima un&apos;inversione</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw.</source>
+        <translation>Non c&apos;è nulla da disegnare.</translation>
+    </message>
+    <message>
+        <source>There are no rays of this section.</source>
+        <translation>Non ci sono raggi di questa sezione.</translation>
+    </message>
+    <message>
+        <source>it does not begin with a heading of the columns kind, name, x, depth, bottom, velocity, error, ...</source>
+        <translation>non comincia con un&apos;intestazione delle colonne kind, name, x, depth, bottom, velocity, error, ...</translation>
+    </message>
+    <message>
+        <source>there is no column %1</source>
+        <translation>non c&apos;è la colonna %1</translation>
+    </message>
+    <message>
+        <source>column %1 is in another unit than m and m/s</source>
+        <translation>la colonna %1 è in un&apos;unità diversa da m e m/s</translation>
+    </message>
+    <message>
+        <source>it has too many rows</source>
+        <translation>ha troppe righe</translation>
+    </message>
+    <message>
+        <source>%1 is none of borehole, depth, body</source>
+        <translation>%1 non è né borehole, né depth, né body</translation>
+    </message>
+    <message>
+        <source>%1 is no number for %2</source>
+        <translation>%1 non è un numero valido per %2</translation>
+    </message>
+    <message>
+        <source>there is no row below its heading</source>
+        <translation>nessuna riga segue la sua intestazione</translation>
+    </message>
+    <message>
+        <source>what was known of its ground is lost</source>
+        <translation>ciò che era noto del suo terreno è perso</translation>
+    </message>
+    <message>
+        <source>finding out how sure the section is begins anew instead of going on</source>
+        <translation>il calcolo dell&apos;affidabilità ricomincia da capo invece di riprendere</translation>
+    </message>
+    <message>
+        <source>it does not go with the certainty of the project</source>
+        <translation>non corrisponde all&apos;affidabilità del progetto</translation>
+    </message>
+    <message>
+        <source>what it counts cannot be</source>
+        <translation>i suoi conteggi non sono possibili</translation>
+    </message>
+    <message>
+        <source>its depth bands cannot be drawn so; there are none now</source>
+        <translation>le sue fasce di profondità non si possono disegnare così; ora non ce ne sono</translation>
+    </message>
+    <message>
+        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
+        <translation>%1 m/s non è una velocità del terreno (da %2 a %3)</translation>
+    </message>
+    <message>
+        <source>%1 m is no depth below the surface (0 to %2)</source>
+        <translation>%1 m non è una profondità dal suolo (da 0 a %2)</translation>
+    </message>
+    <message>
+        <source>%1 m is no position along the line</source>
+        <translation>%1 m non è una posizione lungo la linea</translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation>non ha un nome</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 m has its bottom not below its top</source>
+        <translation>uno strato da %1 a %2 m ha il letto non più in basso del tetto</translation>
+    </message>
+    <message>
+        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
+        <translation>un errore di %1 m/s non può essere negativo, e deve essere minore della velocità, %2</translation>
+    </message>
+    <message>
+        <source>it has no layer</source>
+        <translation>non ha strati</translation>
+    </message>
+    <message>
+        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
+        <translation>lo strato da %1 m comincia sopra il letto di quello precedente, %2 m</translation>
+    </message>
+    <message>
+        <source>%1 m is no error of a depth</source>
+        <translation>%1 m non è l&apos;errore di una profondità</translation>
+    </message>
+    <message>
+        <source>refractors have the numbers 1 to %1</source>
+        <translation>i rifrattori hanno i numeri da 1 a %1</translation>
+    </message>
+    <message>
+        <source>the velocities above and below are the same, so nothing begins here</source>
+        <translation>le velocità sopra e sotto sono uguali, quindi qui non comincia nulla</translation>
+    </message>
+    <message>
+        <source>its outline needs three corners at least</source>
+        <translation>il suo contorno richiede almeno tre vertici</translation>
+    </message>
+    <message>
+        <source>more is known than can be held: %1 boreholes, depths and bodies at most, with %2 layers and corners</source>
+        <translation>gli elementi noti sono troppi: al massimo %1 fra sondaggi, profondità e corpi, con %2 fra strati e vertici</translation>
+    </message>
+    <message>
+        <source>borehole %1</source>
+        <translation>sondaggio %1</translation>
+    </message>
+    <message>
+        <source>known depth %1</source>
+        <translation>profondità nota %1</translation>
+    </message>
+    <message>
+        <source>body %1</source>
+        <translation>corpo %1</translation>
+    </message>
+    <message>
+        <source>there is no %1</source>
+        <translation>manca %1</translation>
+    </message>
+    <message>
+        <source>a %1 has no %2</source>
+        <translation>un elemento %1 non ha %2</translation>
+    </message>
+    <message>
+        <source>borehole %1 stands somewhere else in the rows above</source>
+        <translation>il sondaggio %1 sta altrove nelle righe sopra</translation>
+    </message>
+    <message>
+        <source>the number of a refractor is a whole one</source>
+        <translation>il numero di un rifrattore deve essere intero</translation>
+    </message>
+    <message>
+        <source>body %1 has another velocity in the rows above</source>
+        <translation>il corpo %1 ha un&apos;altra velocità nelle righe sopra</translation>
+    </message>
+    <message>
+        <source>fewer than six picks of it</source>
+        <translation>ha meno di sei primi arrivi</translation>
+    </message>
+    <message>
+        <source>picks of it from shots on one side only, which cannot tell a dip from a velocity</source>
+        <translation>ha primi arrivi di tiri da un lato solo, che non distinguono una pendenza da una velocità</translation>
+    </message>
+    <message>
+        <source>no shot has three picks of it on one side, with waves the other way beside them, that are faster than the first layer</source>
+        <translation>nessun tiro ha tre suoi primi arrivi da un lato, accompagnati da onde in verso opposto, che siano più veloci del primo strato</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
+        <translation>Strato %1: né velocità né profondità a %2 ricevitori, dove la velocità risulta fuori da 50-12 000 m/s.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
+        <translation>Strato %1: nessuna profondità a %2 ricevitori, dove risulta maggiore della lunghezza della linea.</translation>
+    </message>
+    <message>
+        <source>Layer %1: no depth at %2 receivers, where the ground above it comes out to cost no time.</source>
+        <translation>Strato %1: nessuna profondità a %2 ricevitori, dove il terreno sovrastante risulta attraversato in tempo nullo.</translation>
+    </message>
+    <message>
+        <source>Layer %1: %2.</source>
+        <translation>Strato %1: %2.</translation>
+    </message>
+    <message>
+        <source>The first layer has no velocity, so there are no depths.</source>
+        <translation>Il primo strato non ha velocità, quindi non ci sono profondità.</translation>
+    </message>
+    <message>
+        <source>%1 ± %2</source>
+        <translation>%1 ± %2</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: nothing</source>
+        <translation>Strato %1, %2: nulla</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s, no depth</source>
+        <translation>Strato %1, %2: %3 m/s, nessuna profondità</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Strato %1, %2: %3 m/s a una profondità di %4 m (mediane); profondità a %5 geofoni su %6, di cui %7 non sostenute da primi arrivi in quel punto</translation>
+    </message>
+    <message>
+        <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
+        <translation>Strato %1: i metodi discordano oltre gli errori dei primi arrivi, nella profondità a %2 geofoni su %3, nella velocità a %4</translation>
+    </message>
+    <message>
+        <source>no two shots have picks of it at five geophones between them</source>
+        <translation>nessuna coppia di tiri ne ha primi arrivi a cinque geofoni compresi fra i due</translation>
+    </message>
+    <message>
+        <source>no second layer can be fitted</source>
+        <translation>non è possibile adattare un secondo strato</translation>
+    </message>
+    <message>
+        <source>a second layer gains %1 ms</source>
+        <translation>un secondo strato migliora di %1 ms</translation>
+    </message>
+    <message>
+        <source>no third layer can be fitted</source>
+        <translation>non è possibile adattare un terzo strato</translation>
+    </message>
+    <message>
+        <source>a third layer gains %1 ms</source>
+        <translation>un terzo strato migliora di %1 ms</translation>
+    </message>
+    <message>
+        <source>1 layer, misfit %1 ms</source>
+        <translation>1 strato, scarto %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 layers, misfit %2 ms</source>
+        <translation>%1 strati, scarto %2 ms</translation>
+    </message>
+    <message>
+        <source>no layers are proposed: there are too few picks to fit any</source>
+        <translation>nessuno strato proposto: i primi arrivi sono troppo pochi per adattarne</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
+        <translation>nessuno strato: una velocità che cresce costantemente con la profondità, da %1 m/s di %2 m/s al metro, ha uno scarto di %3 ms</translation>
+    </message>
+    <message>
+        <source>%1; without layers, by a steady gradient, %2 ms</source>
+        <translation>%1; senza strati, con un gradiente costante, %2 ms</translation>
+    </message>
+    <message>
+        <source>three layers fit better, but no shot at each end of the line has picks of the layer in between: two layers are proposed</source>
+        <translation>tre strati si adattano meglio, ma non c&apos;è un tiro a ogni estremo della linea con primi arrivi dello strato intermedio: si propongono due strati</translation>
+    </message>
+    <message>
+        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>tiro %1, alla sua destra: lo strato %2 poggia su meno di quattro primi arrivi (%3)</translation>
+    </message>
+    <message>
+        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
+        <translation>tiro %1, alla sua sinistra: lo strato %2 poggia su meno di quattro primi arrivi (%3)</translation>
+    </message>
+    <message>
+        <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
+        <translation>%1 primi arrivi non si adattano ad alcuno strato e non sono assegnati (tiro/traccia): %2</translation>
+    </message>
+    <message>
+        <source>Known ground</source>
+        <translation>Terreno noto</translation>
+    </message>
+    <message>
+        <source>with %1 ms less, the pick of receiver %2 would come before the shot</source>
+        <translation>con %1 ms in meno, il primo arrivo del ricevitore %2 precederebbe il tiro</translation>
+    </message>
+    <message>
+        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>La sezione si adatta ai primi arrivi entro i loro errori: chi quadrato %1. Il modello da cui è partita vi si adatta meglio, chi quadrato %2, ed è stato smussato fin dove gli errori consentono. Per mantenerlo netto, indicare errori %3 volte più grandi.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
+        <translation>%1 Il modello da cui è partita era troppo lontano dai primi arrivi, chi quadrato %2, per vincolare la sezione ai suoi salti netti: prima sono stati smussati.</translation>
+    </message>
+    <message>
+        <source>%1 holds no cell of the grid: it is too small, or beyond it.</source>
+        <translation>%1 non contiene celle della griglia: è troppo piccolo, o ne è fuori.</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m stands beyond the grid.</source>
+        <translation>%1 a %2 m sta fuori dalla griglia.</translation>
+    </message>
+    <message>
+        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
+        <translation>%1 arriva a %2 m di profondità, sotto la griglia; ciò che sta sotto %3 m non conta.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3 m</source>
+        <translation>%1, da %2 a %3 m</translation>
+    </message>
+    <message>
+        <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
+        <translation>%1: nessuna cella è in maggior parte di questo strato; conta per la sua quota delle celle, o sta dentro un corpo fisso.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (a %2 m lungo la linea, profonda %3 m) è fuori dalla griglia, o più vicina al suo bordo del proprio errore o di una cella.</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s at %3 m</source>
+        <translation>%1, %2 m/s a %3 m</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s above</source>
+        <translation>%1, %2 m/s sopra</translation>
+    </message>
+    <message>
+        <source>%1, %2 m/s below</source>
+        <translation>%1, %2 m/s sotto</translation>
+    </message>
+    <message>
+        <source>Layered interpretation</source>
+        <translation>Interpretazione a strati</translation>
+    </message>
+    <message>
+        <source>Section of another project</source>
+        <translation>Sezione di un altro progetto</translation>
+    </message>
+    <message>
+        <source>There is no layered interpretation to start from. Build one first.</source>
+        <translation>Non c&apos;è un&apos;interpretazione a strati da cui partire. Crearne prima una.</translation>
+    </message>
+    <message>
+        <source>Mean residual of the rays</source>
+        <translation>Residuo medio dei raggi</translation>
+    </message>
+    <message>
+        <source>Mean residual over pick error</source>
+        <translation>Residuo medio rapportato all&apos;errore del primo arrivo</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7068,6 +7726,66 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>RMS misfit of the section after every iteration, 0 being the starting model</source>
         <translation>Scarto quadratico medio della sezione dopo ogni iterazione, 0 essendo il modello iniziale</translation>
     </message>
+    <message>
+        <source>Reciprocal</source>
+        <translation>Reciproco</translation>
+    </message>
+    <message>
+        <source>Delay times</source>
+        <translation>Tempi di ritardo</translation>
+    </message>
+    <message>
+        <source>Intercept times</source>
+        <translation>Tempi d&apos;intercetta</translation>
+    </message>
+    <message>
+        <source>Plus-minus</source>
+        <translation>Plus-minus</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>entrambe</translation>
+    </message>
+    <message>
+        <source>depth</source>
+        <translation>profondità</translation>
+    </message>
+    <message>
+        <source>velocity</source>
+        <translation>velocità</translation>
+    </message>
+    <message>
+        <source>%1: depth [m]</source>
+        <translation>%1: profondità [m]</translation>
+    </message>
+    <message>
+        <source>%1: velocity [m/s]</source>
+        <translation>%1: velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Disagree in</source>
+        <translation>Discordano in</translation>
+    </message>
+    <message>
+        <source>Layers by method</source>
+        <translation>Strati secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface. A value in parentheses is not carried by picks there, but by shifted arrivals of other shots, across a gap or by a continuation.</source>
+        <translation>Le profondità sono dal suolo. Un valore fra parentesi non è sostenuto da primi arrivi in quel punto, ma da arrivi traslati di altri tiri, attraverso una lacuna o per prolungamento.</translation>
+    </message>
+    <message>
+        <source>Errors are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations. Methods disagree where two of them differ by more than three times what their difference scatters by.</source>
+        <translation>Gli errori sono la semiampiezza entro cui cadono 68 risultati su 100 quando i primi arrivi si spostano secondo i loro errori, da %1 interpretazioni di questo tipo. I metodi discordano dove due di essi differiscono di più di tre volte la dispersione della loro differenza.</translation>
+    </message>
+    <message>
+        <source>Layer %1 by method</source>
+        <translation>Strato %1 secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Residuals of the picks, shot by geophone</source>
+        <translation>Residui dei primi arrivi, tiro per geofono</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -7184,6 +7902,327 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     </message>
 </context>
 <context>
+    <name>talvesk::ResidualsDialog</name>
+    <message>
+        <source>Residuals</source>
+        <translation>Residui</translation>
+    </message>
+    <message>
+        <source>Residuals &amp;in:</source>
+        <translation>Residui &amp;in:</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>Millisecondi</translation>
+    </message>
+    <message>
+        <source>Errors of the picks</source>
+        <translation>Errori dei primi arrivi</translation>
+    </message>
+    <message>
+        <source>&amp;Colour shot:</source>
+        <translation>&amp;Colora il tiro:</translation>
+    </message>
+    <message>
+        <source>Whose dots have a colour of their own in the picture over the offset</source>
+        <translation>Il tiro i cui punti hanno un colore proprio nell&apos;immagine in funzione della distanza</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mappa</translation>
+    </message>
+    <message>
+        <source>Residuals, shot by geophone</source>
+        <translation>Residui, tiro per geofono</translation>
+    </message>
+    <message>
+        <source>Over the &amp;offset</source>
+        <translation>Per &amp;distanza</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residui in funzione della distanza dal tiro</translation>
+    </message>
+    <message>
+        <source>Shots and &amp;geophones</source>
+        <translation>Tiri e geo&amp;foni</translation>
+    </message>
+    <message>
+        <source>Residuals per shot</source>
+        <translation>Residui per tiro</translation>
+    </message>
+    <message>
+        <source>Residuals per geophone</source>
+        <translation>Residui per geofono</translation>
+    </message>
+    <message>
+        <source>&amp;Along the rays</source>
+        <translation>&amp;Lungo i raggi</translation>
+    </message>
+    <message>
+        <source>Every cell has the mean residual of the rays through it, by their lengths in it; suspect picks are left out.</source>
+        <translation>Ogni cella ha il residuo medio dei raggi che la attraversano, pesato con la loro lunghezza in essa; i primi arrivi sospetti sono esclusi.</translation>
+    </message>
+    <message>
+        <source>Shows the trace of the current pick in the window, as a click on it or Return does</source>
+        <translation>Mostra nella finestra principale la traccia del primo arrivo attuale, come un clic su di esso o Invio</translation>
+    </message>
+    <message>
+        <source>Show &amp;trace</source>
+        <translation>Mostra la &amp;traccia</translation>
+    </message>
+    <message>
+        <source>Puts the picture in view on the clipboard</source>
+        <translation>Mette negli appunti l&apos;immagine in vista</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>C&amp;opia immagine</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture...</source>
+        <translation>Salva imma&amp;gine...</translation>
+    </message>
+    <message>
+        <source>All picks with their residuals, for spreadsheets</source>
+        <translation>Tutti i primi arrivi con i loro residui, per fogli di calcolo</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Salva tabella...</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tiro %1</translation>
+    </message>
+    <message>
+        <source>Geophone at %1 m</source>
+        <translation>Geofono a %1 m</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>There is no section yet whose times could be looked at.</source>
+        <translation>Non c&apos;è ancora una sezione di cui guardare i tempi.</translation>
+    </message>
+    <message>
+        <source>Section of &quot;%1&quot;: %2.</source>
+        <translation>Sezione di &quot;%1&quot;: %2.</translation>
+    </message>
+    <message>
+        <source>Picks: %1, suspect: %2.</source>
+        <translation>Primi arrivi: %1, sospetti: %2.</translation>
+    </message>
+    <message>
+        <source>The section was smoothed afterwards.</source>
+        <translation>La sezione è stata smussata in seguito.</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found are counted.</source>
+        <translation>Si tiene conto delle traslazioni temporali dei tiri trovate dall&apos;adattamento.</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the section was found: it was fitted to others.</source>
+        <translation>I primi arrivi sono cambiati dopo il calcolo della sezione: era adattata ad altri.</translation>
+    </message>
+    <message>
+        <source>Offset [m]</source>
+        <translation>Distanza dal tiro [m]</translation>
+    </message>
+    <message>
+        <source>Median [pick errors]</source>
+        <translation>Mediana [errori dei primi arrivi]</translation>
+    </message>
+    <message>
+        <source>Median [ms]</source>
+        <translation>Mediana [ms]</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>Geophone at [m]</source>
+        <translation>Geofono a [m]</translation>
+    </message>
+    <message>
+        <source>Click a pick, or walk to it with the arrow keys.</source>
+        <translation>Fai clic su un primo arrivo, o raggiungilo con le frecce.</translation>
+    </message>
+    <message>
+        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
+        <translation>Tiro %1, geofono a %2 m: nessun primo arrivo con un tempo calcolato</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: picks %2, median %3, two of three from %4 to %5</source>
+        <translation>%1: primi arrivi %2, mediana %3, due su tre da %4 a %5</translation>
+    </message>
+    <message>
+        <source>; stands out</source>
+        <translation>; anomalo</translation>
+    </message>
+    <message>
+        <source>The picture cannot be made.</source>
+        <translation>Non è possibile creare l&apos;immagine.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ResolutionDialog</name>
+    <message>
+        <source>Resolution Test</source>
+        <translation>Prova di risoluzione</translation>
+    </message>
+    <message>
+        <source>Would the survey see it? A pattern is laid over the section, the times of all picks are computed through it with noise of their errors, and a section is fitted to them. Where what comes back correlates with what was put in, ground of that size is resolved.</source>
+        <translation>Il rilievo lo vedrebbe? Alla sezione si sovrappone un motivo, i tempi di tutti i primi arrivi si calcolano attraverso di esso con rumore pari ai loro errori, e vi si adatta una sezione. Dove ciò che torna è correlato con ciò che è stato messo, il terreno di quella dimensione è risolto.</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation>&amp;Motivo:</translation>
+    </message>
+    <message>
+        <source>What the section is disturbed by</source>
+        <translation>Che cosa perturba la sezione</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze [m]:</source>
+        <translation>&amp;Dimensione [m]:</translation>
+    </message>
+    <message>
+        <source>Side of a square, or thickness of a layer</source>
+        <translation>Lato di un quadrato, o spessore di uno strato</translation>
+    </message>
+    <message>
+        <source>Se&amp;veral sizes</source>
+        <translation>&amp;Più dimensioni</translation>
+    </message>
+    <message>
+        <source>Try sizes from the distance between positions up to the largest that fits the grid, and tell the smallest that is resolved at each depth</source>
+        <translation>Prova dimensioni dalla distanza fra le posizioni fino alla massima che entra nella griglia, e indica la minima risolta a ogni profondità</translation>
+    </message>
+    <message>
+        <source>St&amp;rength [%]:</source>
+        <translation>&amp;Intensità [%]:</translation>
+    </message>
+    <message>
+        <source>How much faster and slower the pattern is than the section</source>
+        <translation>Di quanto il motivo è più veloce e più lento della sezione</translation>
+    </message>
+    <message>
+        <source>&amp;Over:</source>
+        <translation>&amp;Sopra:</translation>
+    </message>
+    <message>
+        <source>What the pattern is laid over</source>
+        <translation>A che cosa si sovrappone il motivo</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Avvia</translation>
+    </message>
+    <message>
+        <source>S&amp;top</source>
+        <translation>&amp;Ferma</translation>
+    </message>
+    <message>
+        <source>S&amp;hown size:</source>
+        <translation>Dimensione mos&amp;trata:</translation>
+    </message>
+    <message>
+        <source>Of which of the tests the pictures are</source>
+        <translation>Di quale delle prove sono le immagini</translation>
+    </message>
+    <message>
+        <source>Save P&amp;icture ...</source>
+        <translation>Salva immagi&amp;ne ...</translation>
+    </message>
+    <message>
+        <source>Save Ta&amp;ble ...</source>
+        <translation>Salva ta&amp;bella ...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Scacchiera</translation>
+    </message>
+    <message>
+        <source>Spikes</source>
+        <translation>Impulsi</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Strati</translation>
+    </message>
+    <message>
+        <source>the section</source>
+        <translation>la sezione</translation>
+    </message>
+    <message>
+        <source>its mean at each depth</source>
+        <translation>la sua media a ogni profondità</translation>
+    </message>
+    <message>
+        <source>Start shows here what was put in, what came back and how they agree.</source>
+        <translation>&quot;Avvia&quot; mostra qui ciò che è stato messo, ciò che è tornato e quanto si accordano.</translation>
+    </message>
+    <message>
+        <source>The test is under way.</source>
+        <translation>La prova è in corso.</translation>
+    </message>
+    <message>
+        <source>Times are computed through the pattern.</source>
+        <translation>Si calcolano i tempi attraverso il motivo.</translation>
+    </message>
+    <message>
+        <source>Size %1: iteration %2.</source>
+        <translation>Dimensione %1: iterazione %2.</translation>
+    </message>
+    <message>
+        <source>Stopped before the first test was completed.</source>
+        <translation>Fermata prima di completare la prima prova.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped: %n test(s) completed.</source>
+        <translation>
+            <numerusform>Fermata: %n prova completata.</numerusform>
+            <numerusform>Fermata: %n prove completate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No test was completed.</source>
+        <translation>Nessuna prova è stata completata.</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>The resolution test could not be completed.</source>
+        <translation>Non è stato possibile completare la prova di risoluzione.</translation>
+    </message>
+    <message>
+        <source>at %1 m none</source>
+        <translation>a %1 m nessuna</translation>
+    </message>
+    <message>
+        <source>at %1 m depth %2 m</source>
+        <translation>a %1 m di profondità %2 m</translation>
+    </message>
+    <message>
+        <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
+        <translation>Dimensione minima risolta (correlazione da %1 in su): %2.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RunTexts</name>
     <message>
         <source>Fitted to errors</source>
@@ -7202,20 +8241,12 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>velocità da %1 a %2 m/s</translation>
     </message>
     <message>
-        <source>errors of %1 ms or %2 %</source>
-        <translation>errori di %1 ms o del %2 %</translation>
-    </message>
-    <message>
         <source>robust</source>
         <translation>robusta</translation>
     </message>
     <message>
         <source>blocky</source>
         <translation>a blocchi</translation>
-    </message>
-    <message>
-        <source>with shot statics</source>
-        <translation>con statiche dei tiri</translation>
     </message>
     <message>
         <source>suspect picks: %1</source>
@@ -7249,6 +8280,34 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>positions have changed since</source>
         <translation>posizioni cambiate in seguito</translation>
     </message>
+    <message>
+        <source>%1 ms or %2 %</source>
+        <translation>%1 ms o %2 %</translation>
+    </message>
+    <message>
+        <source>errors of %1</source>
+        <translation>errori di %1</translation>
+    </message>
+    <message>
+        <source>from &quot;%1&quot;</source>
+        <translation>da &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>non robusta</translation>
+    </message>
+    <message>
+        <source>with shot statics, trigger error %1 ms</source>
+        <translation>con statiche dei tiri, errore del trigger %1 ms</translation>
+    </message>
+    <message>
+        <source>held to known ground</source>
+        <translation>vincolata al terreno noto</translation>
+    </message>
+    <message>
+        <source>from coarse to fine</source>
+        <translation>dal grosso al fine</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RunsDialog</name>
@@ -7275,10 +8334,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>RMS [ms]</source>
         <translation>RMS [ms]</translation>
-    </message>
-    <message>
-        <source>RMS [%]</source>
-        <translation>RMS [%]</translation>
     </message>
     <message>
         <source>Iterations</source>
@@ -7335,6 +8390,30 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>in use</source>
         <translation>in uso</translation>
+    </message>
+    <message>
+        <source>By errors of</source>
+        <translation>Con errori di</translation>
+    </message>
+    <message>
+        <source>Errors of picks that state none, by which chi-square is measured: figures by other errors do not compare.</source>
+        <translation>Errori dei primi arrivi che non ne indicano, con cui si misura il chi quadrato: valori ottenuti con altri errori non sono confrontabili.</translation>
+    </message>
+    <message>
+        <source>Of what chi-square counts: without suspect picks, with the time shifts of shots that a fit has found.</source>
+        <translation>Di ciò che conta nel chi quadrato: senza primi arrivi sospetti, con le traslazioni temporali dei tiri trovate da un adattamento.</translation>
+    </message>
+    <message>
+        <source>RMS of all [ms]</source>
+        <translation>RMS di tutti [ms]</translation>
+    </message>
+    <message>
+        <source>Of all picks as they are, suspect ones among them, without time shifts.</source>
+        <translation>Di tutti i primi arrivi così come sono, sospetti compresi, senza traslazioni temporali.</translation>
+    </message>
+    <message>
+        <source>RMS of all [%]</source>
+        <translation>RMS di tutti [%]</translation>
     </message>
 </context>
 <context>
@@ -7411,16 +8490,8 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Positivo: la registrazione comincia troppo tardi, e i suoi primi arrivi sono in ritardo.</translation>
     </message>
     <message>
-        <source>Shifts the records of the checked shots with their picks, as Mend recording does. One step to be undone.</source>
-        <translation>Trasla le registrazioni dei tiri spuntati con i loro primi arrivi, come &quot;Correggi la registrazione&quot;. Un solo passo da annullare.</translation>
-    </message>
-    <message>
         <source>&amp;Take over as time shifts of the records</source>
         <translation>&amp;Applica come traslazioni delle registrazioni</translation>
-    </message>
-    <message>
-        <source>no recording that could be shifted</source>
-        <translation>nessuna registrazione da traslare</translation>
     </message>
     <message>
         <source>There is no section yet whose times could be looked at.</source>
@@ -7439,24 +8510,48 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Primi arrivi lontani più di cinque dei loro errori; un clic mostra la traccia:</translation>
     </message>
     <message>
-        <source>Time shifts of shots that the fit has found:</source>
-        <translation>Traslazioni temporali dei tiri trovate dall&apos;adattamento:</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m, depth %3 to %4 m</source>
-        <translation>da %1 a %2 m, profondità da %3 a %4 m</translation>
-    </message>
-    <message>
-        <source>Cells at the limit of %1 m/s: %2 (%3)</source>
-        <translation>Celle al limite di %1 m/s: %2 (%3)</translation>
-    </message>
-    <message>
-        <source>Cells shown that no ray crosses: %1 of %2 (%3)</source>
-        <translation>Celle mostrate che nessun raggio attraversa: %1 di %2 (%3)</translation>
-    </message>
-    <message>
         <source>No velocity is at a limit, and rays cross all cells shown.</source>
         <translation>Nessuna velocità è a un limite, e i raggi attraversano tutte le celle mostrate.</translation>
+    </message>
+    <message>
+        <source>Shifts the records of the checked shots with their picks, as Mend recording does; of shots without a recording the picks, with their errors. One step to be undone.</source>
+        <translation>Trasla le registrazioni dei tiri spuntati con i loro primi arrivi, come &quot;Correggi la registrazione&quot;; dei tiri senza registrazione i primi arrivi, con i loro errori. Un solo passo da annullare.</translation>
+    </message>
+    <message>
+        <source>no recording: its picks are shifted</source>
+        <translation>nessuna registrazione: si traslano i suoi primi arrivi</translation>
+    </message>
+    <message>
+        <source>Errors of picks below %1 ms count as %1 ms: %2</source>
+        <translation>Gli errori dei primi arrivi sotto %1 ms contano come %1 ms: %2</translation>
+    </message>
+    <message>
+        <source>Time shifts of shots that the fit has found; a click shows the shot:</source>
+        <translation>Traslazioni temporali dei tiri trovate dall&apos;adattamento; un clic mostra il tiro:</translation>
+    </message>
+    <message>
+        <source>Ground to look at; a click shows it in the section:</source>
+        <translation>Terreno da riguardare; un clic lo mostra nella sezione:</translation>
+    </message>
+    <message>
+        <source>No pick stands out: %1 are off by more than five of their errors, but none by more than %2, as the section does not fit the picks to their errors.</source>
+        <translation>Nessun primo arrivo è anomalo: %1 scartano di più di cinque volte il loro errore, ma nessuno di più di %2, poiché la sezione non si adatta ai primi arrivi entro i loro errori.</translation>
+    </message>
+    <message>
+        <source>Picks off by more than %2 of their errors, which stand out where %1 are off by more than five; a click shows the trace:</source>
+        <translation>Primi arrivi che scartano di più di %2 volte il loro errore, e sono anomali dove %1 scartano di più di cinque; un clic mostra la traccia:</translation>
+    </message>
+    <message>
+        <source>Cells at the limit of %1 m/s: %2</source>
+        <translation>Celle al limite di %1 m/s: %2</translation>
+    </message>
+    <message>
+        <source>Cells shown that no ray crosses: %1 of %2</source>
+        <translation>Celle mostrate che nessun raggio attraversa: %1 su %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
+        <translation>%1 (da %2 a %3 m, profondità da %4 a %5 m)</translation>
     </message>
 </context>
 <context>
@@ -9611,6 +10706,171 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>Uncertainty %1 %</source>
         <translation>Incertezza %1 %</translation>
+    </message>
+    <message>
+        <source>Residuals...</source>
+        <translation>Residui...</translation>
+    </message>
+    <message>
+        <source>Look at what the section leaves of every pick: shot by geophone, over the offset, per shot and geophone, and along the rays</source>
+        <translation>Guarda che cosa la sezione lascia di ogni primo arrivo: tiro per geofono, in funzione della distanza, per tiro e geofono, e lungo i raggi</translation>
+    </message>
+    <message>
+        <source>Known ground ...</source>
+        <translation>Terreno noto ...</translation>
+    </message>
+    <message>
+        <source>Boreholes, known depths and bodies of known velocity, to be drawn and to hold a fit to</source>
+        <translation>Sondaggi, profondità note e corpi di velocità nota, da disegnare e a cui vincolare un adattamento</translation>
+    </message>
+    <message>
+        <source>Show known ground</source>
+        <translation>Mostra il terreno noto</translation>
+    </message>
+    <message>
+        <source>Draw boreholes, known depths and bodies over the section</source>
+        <translation>Disegna sondaggi, profondità note e corpi sopra la sezione</translation>
+    </message>
+    <message>
+        <source>Resolution test ...</source>
+        <translation>Prova di risoluzione ...</translation>
+    </message>
+    <message>
+        <source>Find out how small ground may be that this survey still sees, by patterns laid over the section</source>
+        <translation>Determina quanto può essere piccolo il terreno che questo rilievo vede ancora, con motivi sovrapposti alla sezione</translation>
+    </message>
+    <message>
+        <source>Fade Uncertain Ground</source>
+        <translation>Sbiadisci il terreno incerto</translation>
+    </message>
+    <message>
+        <source>Let the colours of the velocity section pale where it is not sure</source>
+        <translation>Sbiadisce i colori della sezione di velocità dove non è sicura</translation>
+    </message>
+    <message>
+        <source>Depth Bands ...</source>
+        <translation>Fasce di profondità ...</translation>
+    </message>
+    <message>
+        <source>Draw between which depths velocities of your choice are reached, 16 to 84 %</source>
+        <translation>Disegna fra quali profondità si raggiungono le velocità scelte, dal 16 all&apos;84 %</translation>
+    </message>
+    <message>
+        <source>Certainty as table ...</source>
+        <translation>Affidabilità come tabella ...</translation>
+    </message>
+    <message>
+        <source>Export median, 16 and 84 % velocity and spread of every cell as a table (.csv)</source>
+        <translation>Esporta mediana, velocità al 16 e all&apos;84 % e dispersione di ogni cella in una tabella (.csv)</translation>
+    </message>
+    <message>
+        <source>Export Certainty Table</source>
+        <translation>Esporta tabella dell&apos;affidabilità</translation>
+    </message>
+    <message>
+        <source>Table of the certainty (*.csv);;All Files (*)</source>
+        <translation>Tabella dell&apos;affidabilità (*.csv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Stopped before anything was found; the section is as it was.</source>
+        <translation>Fermato prima di trovare qualcosa; la sezione è com&apos;era.</translation>
+    </message>
+    <message>
+        <source>The section is not held to known ground.</source>
+        <translation>La sezione non è vincolata al terreno noto.</translation>
+    </message>
+    <message>
+        <source>The section is held to this.</source>
+        <translation>La sezione è vincolata a questo.</translation>
+    </message>
+    <message>
+        <source>The section is held to known ground that was another: run the fit again.</source>
+        <translation>La sezione è vincolata a un terreno noto che era diverso: ripetere l&apos;adattamento.</translation>
+    </message>
+    <message>
+        <source>Import known ground</source>
+        <translation>Importa terreno noto</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv *.txt);;All files (*)</source>
+        <translation>Tabelle del terreno noto (*.csv *.txt);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Non è stato importato nulla.</translation>
+    </message>
+    <message>
+        <source>Export known ground</source>
+        <translation>Esporta terreno noto</translation>
+    </message>
+    <message>
+        <source>Tables of known ground (*.csv)</source>
+        <translation>Tabelle del terreno noto (*.csv)</translation>
+    </message>
+    <message>
+        <source>Save picture of residuals</source>
+        <translation>Salva immagine dei residui</translation>
+    </message>
+    <message>
+        <source>Save table of residuals</source>
+        <translation>Salva tabella dei residui</translation>
+    </message>
+    <message>
+        <source>Save picture of the resolution test</source>
+        <translation>Salva immagine della prova di risoluzione</translation>
+    </message>
+    <message>
+        <source>Save table of the resolution test</source>
+        <translation>Salva tabella della prova di risoluzione</translation>
+    </message>
+    <message>
+        <source>Table of resolution by depth (*.csv)</source>
+        <translation>Tabella della risoluzione per profondità (*.csv)</translation>
+    </message>
+    <message>
+        <source>How sure the section before was is known no more; Undo brings back both.</source>
+        <translation>Quanto fosse sicura la sezione precedente non è più noto; &quot;Annulla modifica&quot; ripristina entrambe.</translation>
+    </message>
+    <message>
+        <source>suspect picks: %1</source>
+        <translation>primi arrivi sospetti: %1</translation>
+    </message>
+    <message>
+        <source>time shifts of shots: %1</source>
+        <translation>traslazioni temporali dei tiri: %1</translation>
+    </message>
+    <message>
+        <source>cells at a limit of the velocity: %1</source>
+        <translation>celle a un limite della velocità: %1</translation>
+    </message>
+    <message>
+        <source>cells shown that no ray crosses: %1</source>
+        <translation>celle mostrate che nessun raggio attraversa: %1</translation>
+    </message>
+    <message>
+        <source>Second look (%1)</source>
+        <comment>kinds of things to look at</comment>
+        <translation>Da riguardare (%1)</translation>
+    </message>
+    <message>
+        <source>Shots without a recording, whose picks were shifted: %1.</source>
+        <translation>Tiri senza registrazione, di cui sono stati traslati i primi arrivi: %1.</translation>
+    </message>
+    <message>
+        <source>Depth Bands</source>
+        <translation>Fasce di profondità</translation>
+    </message>
+    <message>
+        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Fino a %1 &amp;velocità in m/s; le profondità a cui il 68 % centrale dei membri le raggiunge si disegnano come una fascia. Nessuna velocità toglie le fasce.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no list of velocities.</source>
+        <translation>&quot;%1&quot; non è un elenco di velocità.</translation>
+    </message>
+    <message>
+        <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
+        <translation>Indicare fino a %1 numeri maggiori di 0 separati da punto e virgola: 800; 1500</translation>
     </message>
 </context>
 <context>
