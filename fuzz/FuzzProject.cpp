@@ -7,6 +7,7 @@
 #include "io/project/ProjectZip.h"
 #include "io/project/projectReader.h"
 #include "model/GroundModel.h"
+#include "model/KeptRun.h"
 #include "model/KnownGround.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"

@@ -28,7 +28,10 @@ void prepareDrawing() {
   // No display is needed, and an environment that names one is not asked.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(hearQt);
-  static const QApplication application(argc, argv);
+  // It is never ended: its end cleans up caches of Qt, such as that of hatched brushes, which as
+  // younger objects would be gone by then.
+  static const auto* const application = new QApplication(argc, argv);
+  Q_UNUSED(application)
   // Qt has taken over the user's locale.
   std::setlocale(LC_NUMERIC, "C");
   // All texts are English here, and documents must not call them anything else.

@@ -76,9 +76,6 @@ Json settingsJson(const InversionRecord& record) {
     json["lambda"] = record.fit->lambda;
     return json;
   }
-  const PickErrorRule rule;  // of its chi-square
-  json["sigma_ms"] = rule.floor * kMsPerSecond;
-  json["sigma_percent"] = rule.share * 100.0;
   json["solver_iterations"] = record.solverIterations;
   json["smoothing"] = record.smoothing;
   json["smoothing_type"] = record.smoothingType;

@@ -1,5 +1,6 @@
 #include "refraction/GradientFit.h"
 
+#include "numerics/Medians.h"
 #include "refraction/WaveFit.h"
 
 #include <algorithm>

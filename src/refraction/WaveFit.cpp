@@ -14,7 +14,6 @@ namespace talvesk {
 namespace {
 
 constexpr double kTuning = 2.385;         // of the Cauchy weights: 95 % efficient on normal errors
-constexpr double kNormalMedian = 0.6745;  // of the sizes of normal deviates
 constexpr double kLeastScale = 0.02;      // of the errors of picks
 constexpr double kUsualDip = 0.15;        // standard deviation of a delay's slope over slowness
 constexpr double kUsualChange = 0.15;     // of a velocity from knot to knot
@@ -37,13 +36,6 @@ double robustWeight(double scaled) {
 double robustCost(double scaled) {
   const double u = scaled / kTuning;
   return std::log1p(u * u);
-}
-
-double robustDeviation(const std::vector<double>& scaled) {
-  std::vector<double> sizes;
-  sizes.reserve(scaled.size());
-  for (const double u : scaled) sizes.push_back(std::fabs(u));
-  return medianOf(std::move(sizes), 0.0) / kNormalMedian;
 }
 
 double divingOffset(double offset, double growth) {

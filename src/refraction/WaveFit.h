@@ -106,7 +106,4 @@ inline constexpr std::size_t kLeastPicksOfPiece = 4;
 double robustWeight(double scaled);
 double robustCost(double scaled);  ///< what the fit minimizes
 
-/// Standard deviation of scaled residuals, from their median size; 0 without any.
-double robustDeviation(const std::vector<double>& scaled);
-
 }  // namespace talvesk
