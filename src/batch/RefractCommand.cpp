@@ -8,6 +8,7 @@
 #include "batch/RefractionJson.h"
 #include "batch/Reports.h"
 #include "batch/ShotPicking.h"
+#include "batch/StartModel.h"
 #include "figures/RefractionFigure.h"
 #include "io/LayerFile.h"
 #include "io/project/projectReader.h"
@@ -174,6 +175,10 @@ int run(const RefractOptions& options) {
   }
   // What is left out or replaced is told even who wants to hear nothing else.
   for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
+  if (options.startModel) {
+    status = putStartModel(*options.startModel, project);
+    if (!status.ok()) return failed(status.message());
+  }
   status = prepareReport(options, document);
   if (!status.ok()) return failed(status.message());
   const int exitCode = writeResults(options, project, outcome.warnings);
