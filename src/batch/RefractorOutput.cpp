@@ -1,7 +1,7 @@
 #include "batch/RefractorOutput.h"
 
 #include "base/TextNumber.h"
-#include "batch/Diagnostics.h"
+#include "batch/Failure.h"
 #include "batch/JsonText.h"
 #include "batch/Options.h"
 #include "batch/OutputFiles.h"

@@ -1,6 +1,6 @@
 #include "batch/StartModel.h"
 
-#include "batch/Diagnostics.h"
+#include "batch/Failure.h"
 #include "grid/SurveyProfile.h"
 #include "io/Survey.h"
 #include "model/GroundModel.h"
