@@ -129,12 +129,12 @@ void LayeredProfile::noteCrossings() {
                        .arg(lower.size()));
 }
 
-double LayeredProfile::firstX() const {
-  return mRefractors.front().depths.front().x;
+double LayeredProfile::firstX(std::size_t refractor) const {
+  return mRefractors[refractor].depths.front().x;
 }
 
-double LayeredProfile::lastX() const {
-  return mRefractors.front().depths.back().x;
+double LayeredProfile::lastX(std::size_t refractor) const {
+  return mRefractors[refractor].depths.back().x;
 }
 
 double LayeredProfile::depth(std::size_t refractor, double x) const {
@@ -189,13 +189,16 @@ void noteReach(const Grid& grid, double xOffset, const LayeredProfile& profile,
                std::vector<Message>& notes) {
   const double left = -xOffset;
   const double right = grid.col() * grid.aLato() - xOffset;
-  if (left < profile.firstX() || right > profile.lastX()) {
-    notes.push_back(Message::tr("The profile is known from %1 to %2 m; depths and velocities stay "
-                                "as they are there to the ends of the grid.")
-                        .arg(profile.firstX())
-                        .arg(profile.lastX()));
-  }
   for (std::size_t refractor = 0; refractor < profile.refractors(); ++refractor) {
+    const double first = profile.firstX(refractor);
+    const double last = profile.lastX(refractor);
+    if (left < first || right > last) {
+      notes.push_back(Message::tr("Layer %1 is known from %2 to %3 m; its depth and velocity stay "
+                                  "as they are there to the ends of the grid.")
+                          .arg(refractor + 2)
+                          .arg(first)
+                          .arg(last));
+    }
     std::uint32_t above = 0;
     for (std::uint32_t column = 0; column < grid.col() && grid.righe() > 0; ++column) {
       const std::uint32_t lowest = grid.cellIndex(grid.righe() - 1, column);

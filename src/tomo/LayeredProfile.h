@@ -23,8 +23,8 @@ class LayeredProfile {
   static Status read(const refractionDataStructure::processingData& results, LayeredProfile& out);
 
   std::size_t refractors() const { return mRefractors.size(); }  ///< 1 or 2
-  double firstX() const;  ///< first and last receiver with a depth, metres
-  double lastX() const;
+  double firstX(std::size_t refractor) const;  ///< first and last receiver with a depth, metres
+  double lastX(std::size_t refractor) const;
 
   /// Metres below the surface; not negative, and none above that of the refractor before.
   /// \param refractor from 0

@@ -71,8 +71,9 @@ TEST(LayeredProfile, fillsTheCellsOfItsLayers) {
   for (const Case& c : cases) {
     EXPECT_NEAR(velocityAt(line, c.x, c.depth), c.velocity, 2.6) << c.x << ' ' << c.depth;
   }
-  EXPECT_THAT(notes, says("known from 2 to 20 m"));
-  EXPECT_EQ(notes.size(), 1U);
+  EXPECT_THAT(notes, says("Layer 2 is known from 2 to 20 m"));
+  EXPECT_THAT(notes, says("Layer 3 is known from 2 to 20 m"));
+  EXPECT_EQ(notes.size(), 2U);
   EXPECT_EQ(line.result->info_density, std::vector<double>(line.model->grid->cellCount(), -1.0));
 }
 
