@@ -362,7 +362,8 @@ const std::set<std::string> kBesideTheWay = {
     "show_filtered_cb",      "actionShow_refraction", "actionShow_Certainty_Layer",
     "actionZoom_back",       "actionZoom_forward",    "actionRedo",
     "actionConfirm_picks",   "actionRemove_picks",    "actionRemove_unconfirmed",
-    "actionCount_from_shot", "actionTake_back_mends"};
+    "actionCount_from_shot", "actionTake_back_mends", "actionStart_from_layers",
+    "actionCompare_layers"};
 
 class GrowingSurvey : public Commands {
  protected:

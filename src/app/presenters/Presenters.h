@@ -8,6 +8,7 @@
 #include "app/presenters/GeometryPresenter.h"
 #include "app/presenters/HelpPresenter.h"
 #include "app/presenters/InversionPresenter.h"
+#include "app/presenters/LayersPresenter.h"
 #include "app/presenters/ModelPresenter.h"
 #include "app/presenters/PalettePresenter.h"
 #include "app/presenters/ProcessingPresenter.h"
@@ -63,6 +64,7 @@ struct Presenters {
   ProcessingPresenter processing;
   ReviewPresenter review;
   RefractionPresenter refraction;
+  LayersPresenter layers;
   ExportPresenter exports;
   RecordExportPresenter records;
   ReportPresenter reports;
