@@ -34,6 +34,8 @@ constexpr Page kPages[] = {
     {"progressTomographyDialog", "inversion.html"},
     {"smoothingDialog", "inversion.html"},
     {"RefractionProcessingDialog", "refraction.html"},
+    {"StartLayersDialog", "refraction.html"},
+    {"CompareLayersDialog", "refraction.html"},
     {"PaletteDialog", "colours.html"},
     {"contourlines_dialog", "colours.html"},
     {"ExportTomoVelData", "export.html"},

@@ -5,6 +5,7 @@
 #include "batch/Images.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
+#include "batch/RefractorOutput.h"
 #include "batch/Reports.h"
 #include "batch/RunList.h"
 #include "export/CertaintyTable.h"
@@ -41,6 +42,7 @@ std::vector<OutputFile> outputsOf(const ExportOptions& options) {
                                      {"--kml-section", options.kmlSection},
                                      {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  for (const std::string& file : options.refractors) outputs.push_back({"--refractor", file});
   return outputs;
 }
 
@@ -102,6 +104,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) { return writeSectionFigure(document, section, path); });
   }
+  writeRefractor(options, project, attempt, summary);
   attempt(options.report, [&](const auto& path) {
     return writeReportFile({document, &*project.interpretation}, options.reportFields, section,
                            path);
@@ -111,7 +114,8 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
 
 /// Makes ready what figures and residuals need: rays are not in a project.
 Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
-  const bool draws = !options.images.empty() || !options.report.empty();
+  const bool draws =
+      !options.images.empty() || !options.report.empty() || !options.refractors.empty();
   if (!draws && options.residuals.empty()) return {};
   if (draws) prepareDrawing();
   Log log;
@@ -126,8 +130,8 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
 
 /// Where the layered profile is drawn or told.
 void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project) {
-  const bool shown =
-      !options.report.empty() || (!options.images.empty() && project.section.refraction);
+  const bool shown = !options.report.empty() || !options.refractors.empty() ||
+                     (!options.images.empty() && project.section.refraction);
   if (shown && picksChangedSince(project.document, project.interpretation->refractData)) {
     warn("picks have changed since the layered profile was built");
   }

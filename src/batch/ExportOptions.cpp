@@ -55,6 +55,37 @@ CLI::Option* addGridded(CLI::App& app, ExportOptions& options) {
   return gridded->group(kOutputGroup);
 }
 
+void readSign(const std::string& text, ExportOptions& options) {
+  options.refractorByGradient = text == "gradient";
+  if (options.refractorByGradient) return;
+  options.refractorAt = numberWithin("--refractor-at", text, rangeOf(parameters::kLayerVelocity));
+}
+
+void addRefractor(CLI::App& app, ExportOptions& options) {
+  CLI::Option* refractor = mustEndIn(
+      app.add_option("--refractor", options.refractors,
+                     "A refractor of the layered profile beside the same in the section, geophone "
+                     "by geophone with mean and RMS of the differences: .csv or .json, or as two "
+                     "lines over the section: .png, .svg or .pdf; once per file")
+          ->type_name("FILE")
+          ->allow_extra_args(false)
+          ->group(kOutputGroup),
+      {".csv", ".json", ".png", ".svg", ".pdf"}, true);
+  app.add_option_function<std::string>(
+         "--refractor-at", [&options](const std::string& text) { readSign(text, options); },
+         "What stands for the refractor in the section: a velocity in m/s, or gradient, the "
+         "steepest gradient of ln v with depth (default: the middle between the velocities of the "
+         "layers above and below)")
+      ->type_name("V|gradient")
+      ->needs(refractor)
+      ->group(kOutputGroup);
+  addNumber(app, "--refractor-layer", "N", Range<int>{2, 3},
+            "Layer that begins at the refractor (default: 2)",
+            [&options](int value) { options.refractorLayer = value; })
+      ->needs(refractor)
+      ->group(kOutputGroup);
+}
+
 void addOutputs(CLI::App& app, ExportOptions& options) {
   addGridded(app, options);
   const auto output = [&app](const char* name, std::string& path, const char* suffix,
@@ -70,6 +101,7 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
   output("--otte", options.otte, ".otte", "The picks as a travel-time exchange file");
   output("--sgt", options.sgt, ".sgt", kUnifiedHelp);
   addPath(app, "--residuals", options.residuals, kResidualsHelp)->group(kOutputGroup);
+  addRefractor(app, options);
   CLI::Option* line = output("--kml-line", options.kmlLine, ".kml",
                              "Geophones and shots as marks on the globe, named *.kml");
   CLI::Option* section = output("--kml-section", options.kmlSection, ".kml",

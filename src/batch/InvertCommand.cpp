@@ -77,8 +77,13 @@ Status setUpModel(const InvertOptions& options, Survey& survey, Log& log) {
   status = editSurvey(Edit::kGrid, survey,
                       [&](Survey& next) { return setUpGrid(next.document, settings, log); });
   if (!status.ok() || options.layers.empty()) return status;
-  return editSurvey(Edit::kStartingModel, survey,
-                    [&](Survey& next) { return applyLayers(next.document, options.layers); });
+  status = editSurvey(Edit::kStartingModel, survey, [&](Survey& next) {
+    return applyLayers(next.document, options.layers, options.layerFill);
+  });
+  if (status.ok() || !options.layerFill.spline || !checkSharpLayers(options.layers).ok()) {
+    return status;
+  }
+  return Status::failure(status.message() + " Or keep their jumps with --sharp-layers.");
 }
 
 /// What the window would ask about; nobody is there to answer.

@@ -61,21 +61,34 @@ void addGridOptions(CLI::App& app, InvertOptions& options) {
         options.ownGrid = true;
       })
       ->group("Grid");
-  app.add_option_function<std::vector<std::string>>(
-         "--layer",
-         [&](const std::vector<std::string>& texts) {
-           for (const std::string& text : texts) options.layers.push_back(readLayer(text));
-           options.ownGrid = true;
+  CLI::Option* layer =
+      app.add_option_function<std::vector<std::string>>(
+             "--layer",
+             [&](const std::vector<std::string>& texts) {
+               for (const std::string& text : texts) options.layers.push_back(readLayer(text));
+               options.ownGrid = true;
+             },
+             "One layer of the starting model: depths of top and bottom in metres below the "
+             "surface " +
+                 rangeText(parameters::kLayerDepth) + ", velocities at top and bottom in m/s " +
+                 rangeText(parameters::kLayerVelocity) +
+                 ". Once per "
+                 "layer, from the top down, each beginning with the velocity that the one above "
+                 "ends "
+                 "with "
+                 "(default: a model that grows with depth)")
+          ->type_name("TOP:BOTTOM:VTOP:VBOTTOM")
+          ->allow_extra_args(false)
+          ->group("Grid");
+  app.add_option_function<std::string>(
+         "--sharp-layers",
+         [&](const std::string& text) {
+           options.layerFill = {false, readGrading("--sharp-layers", text)};
          },
-         "One layer of the starting model: depths of top and bottom in metres below the surface " +
-             rangeText(parameters::kLayerDepth) + ", velocities at top and bottom in m/s " +
-             rangeText(parameters::kLayerVelocity) +
-             ". Once per "
-             "layer, from the top down, each beginning with the velocity that the one above ends "
-             "with "
-             "(default: a model that grows with depth)")
-      ->type_name("TOP:BOTTOM:VTOP:VBOTTOM")
-      ->allow_extra_args(false)
+         "Put the layers of --layer into the grid as they are, not by the spline through them, "
+         "which swings where velocities jump: sharp, or graded:M, jumps spread over M metres")
+      ->type_name("sharp|graded:M")
+      ->needs(layer)
       ->group("Grid");
 }
 

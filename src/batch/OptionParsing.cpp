@@ -2,6 +2,7 @@
 
 #include "base/StreamPlace.h"
 #include "batch/OutputFiles.h"
+#include "grid/SharpLayers.h"
 
 #include <algorithm>
 #include <cctype>
@@ -67,6 +68,16 @@ CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, b
     }
     return "the name '" + path + "' must end in " + listed(suffixes);
   });
+}
+
+double readGrading(const std::string& option, const std::string& text) {
+  if (text == "sharp") return 0.0;
+  const std::string graded = "graded:";
+  if (text.compare(0, graded.size(), graded) != 0) {
+    throw CLI::ValidationError(option, "'" + text + "' is neither sharp nor graded:M");
+  }
+  return numberWithin(option, text.substr(graded.size()),
+                      Range<double>{LayerFill::kLeastThickness, LayerFill::kMostThickness});
 }
 
 void wrapHelp(CLI::App& app) {

@@ -99,6 +99,10 @@ CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,
 CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase,
                        bool pipesToo = false);
 
+/// "sharp" or "graded:M": metres over which jumps between layers are graded, 0 when sharp. Throws
+/// CLI::ValidationError.
+double readGrading(const std::string& option, const std::string& text);
+
 /// Breaks the help texts of a command and its subcommands into lines that fit a terminal.
 void wrapHelp(CLI::App& app);
 

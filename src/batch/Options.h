@@ -1,6 +1,7 @@
 #pragma once
 
 #include "export/GriddedText.h"
+#include "grid/SharpLayers.h"
 #include "grid/VelocityLayers.h"
 #include "io/RecordExport.h"
 #include "io/TravelTimeFile.h"
@@ -115,8 +116,9 @@ struct InvertOptions {
   std::optional<double> depth;             ///< metres; none: half the array length
   int nodes = parameters::kNodes.initial;  ///< per cell side
   std::vector<VelocityLayer> layers;       ///< none: the grid's default model
-  bool ownGrid = false;                    ///< one of the above was given
-  std::string run;  ///< of the project, to start from; empty: from the section that it has
+  LayerFill layerFill;
+  bool ownGrid = false;  ///< one of the above was given
+  std::string run;       ///< of the project, to start from; empty: from the section that it has
   InversionMethod method = InversionMethod::kSmoothed;
   FittedSettings fitted;                   ///< but what follows, which both methods have
   std::string reference = kBestReference;  ///< of a fit: a key of References.h, or a project file
@@ -174,9 +176,10 @@ struct RefractOptions {
   LayerMethodOptions layering;
   std::string json;
   std::string table;
-  std::string misfit;               ///< table of computed times against picks
-  std::string project;              ///< to save the survey and its layers in
-  std::vector<std::string> images;  ///< one picture per path
+  std::string misfit;                ///< table of computed times against picks
+  std::string project;               ///< to save the survey and its layers in
+  std::optional<double> startModel;  ///< put the layers into the grid, jumps over so many metres
+  std::vector<std::string> images;   ///< one picture per path
   std::string report;
   ReportFields reportFields;
   bool quiet = false;
@@ -191,7 +194,11 @@ struct ExportOptions {
   GriddedTextOptions griddedText;
   std::string otte;
   std::string sgt;
-  std::string residuals;  ///< table
+  std::string residuals;                ///< table
+  std::vector<std::string> refractors;  ///< a refractor of layers and section: table or picture
+  std::optional<double> refractorAt;    ///< velocity that stands for it, m/s; none: middle
+  bool refractorByGradient = false;     ///< its steepest gradient does
+  int refractorLayer = 2;
   std::string vtk;
   std::string surfer;
   std::string certainty;  ///< table of how sure the section is
@@ -206,9 +213,10 @@ struct ExportOptions {
   bool quiet = false;
 
   bool anyOutput() const {
-    return !images.empty() || !(gridded + otte + sgt + residuals + vtk + surfer + certainty +
-                                kmlLine + kmlSection + report)
-                                   .empty();
+    return !images.empty() || !refractors.empty() ||
+           !(gridded + otte + sgt + residuals + vtk + surfer + certainty + kmlLine + kmlSection +
+             report)
+                .empty();
   }
 };
 

@@ -9,6 +9,7 @@
 #include "batch/RefractionJson.h"
 #include "batch/Reports.h"
 #include "batch/ShotPicking.h"
+#include "batch/StartModel.h"
 #include "figures/RefractionFigure.h"
 #include "io/LayerFile.h"
 #include "io/project/projectReader.h"
@@ -143,7 +144,8 @@ int writeResults(const RefractOptions& options, const LoadedProject& project, co
     });
   }
   attempt(options.report, [&](const auto& path) {
-    return writeReportFile({document, &interpretation, work.findings.methods()}, options.reportFields,
+    return writeReportFile({document, &interpretation, work.findings.methods()},
+                           options.reportFields,
                            sectionFigureOptions(project.section, project.palettes->current(),
                                                 refractorLines(interpretation)),
                            path);
@@ -225,6 +227,10 @@ int run(const RefractOptions& options) {
   if (!outcome.built && !outcome.warnings.empty()) outcome.warnings.pop_back();
   for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
   for (const std::string& remark : remarksOf(work.findings)) warn(remark);
+  if (options.startModel) {
+    status = putStartModel(*options.startModel, project);
+    if (!status.ok()) return failed(status.message());
+  }
   status = prepareReport(options, document);
   if (!status.ok()) return failed(status.message());
   const int exitCode = writeResults(options, project, work);

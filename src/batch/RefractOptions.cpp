@@ -64,10 +64,22 @@ void addRefract(CLI::App& app, RefractOptions& options) {
                                  "Draw the section of layers: .png, .svg or .pdf; once per "
                                  "picture");
   CLI::Option* project = mustEndIn(
-      addPath(command, "--project", options.project,
+      addPath(command, "-o,--project", options.project,
               "Save the survey with its picks, traces and layers as a project named *.tvsk"),
       {".tvsk"}, false);
-  for (CLI::Option* option : {json, table, misfit, image, project}) option->group("Output");
+  CLI::Option* start =
+      command
+          .add_option_function<std::string>(
+              "--start-model",
+              [&options](const std::string& text) {
+                options.startModel = readGrading("--start-model", text);
+              },
+              "Put the layered profile into the grid of --project, so that an inversion starts "
+              "from it: sharp, each cell in the layer of its middle, or graded:M, jumps spread "
+              "over M metres. A survey without a grid gets the one that 'invert' proposes")
+          ->type_name("sharp|graded:M")
+          ->needs(project);
+  for (CLI::Option* option : {json, table, misfit, image, project, start}) option->group("Output");
   addReport(command, options.report, options.reportFields);
   CLI::Option* quiet = command.add_flag("--quiet", options.quiet, kQuietHelp);
   command

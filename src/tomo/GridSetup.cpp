@@ -55,15 +55,14 @@ Status fail(Log& log, const Message& message) {
   return Status::failure(message);
 }
 
-/// Rays, coverage and misfit belong to the grid that they were traced through.
-void install(TomoDocument& document, std::unique_ptr<Grid> grid) {
+}  // namespace
+
+void installGrid(TomoDocument& document, std::unique_ptr<Grid> grid) {
   std::vector<double> noInformation(grid->cellCount(), -1.0);
   document.clearInversion();
   document.result.edit().info_density = std::move(noInformation);
   document.model.edit().grid = std::move(grid);
 }
-
-}  // namespace
 
 GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& log) {
   profile = measure(document, log);
@@ -105,7 +104,7 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
       return fail(log, Message::tr("The grid could not be built; see the error stream."));
     }
     log.write("Generating the grid ... COMPLETED");
-    install(document, std::move(grid));
+    installGrid(document, std::move(grid));
     document.model.edit().surface = std::move(surface);
     document.model.edit().xOffset = profile.xOffset;
   } catch (const std::exception& error) {
@@ -116,15 +115,18 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
   return {};
 }
 
-Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers) {
+Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers,
+                   const LayerFill& fill) {
   if (document.model->grid == nullptr) {
     return Status::failure(Message::tr("There is no grid yet; build the grid first."));
   }
   std::vector<VelocityLayer> accepted = acceptedLayers(layers);
   std::unique_ptr<Grid> grid;
-  Status status = buildLayeredGrid(*document.model->grid, accepted, document.model->surface, grid);
+  const Grid& current = *document.model->grid;
+  Status status = fill.spline ? buildLayeredGrid(current, accepted, document.model->surface, grid)
+                              : buildSharpGrid(current, accepted, fill.thickness, grid);
   if (!status.ok()) return status;
-  install(document, std::move(grid));
+  installGrid(document, std::move(grid));
   document.model.edit().layers = std::move(accepted);
   return {};
 }

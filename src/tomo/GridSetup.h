@@ -2,16 +2,17 @@
 
 #include "base/Log.h"
 #include "base/Status.h"
+#include "grid/SharpLayers.h"
 #include "model/Parameters.h"
 #include "tomo/Smoothing.h"
 
+#include <memory>
 #include <vector>
 
 namespace talvesk {
 
 class TomoDocument;
 struct SurveyProfile;
-struct VelocityLayer;
 
 /// What the user chooses for a grid.
 struct GridSettings {
@@ -31,9 +32,14 @@ GridSettings proposeGrid(TomoDocument& document, SurveyProfile& profile, Log& lo
 /// (no geometry, too large, exception) the document keeps its grid.
 Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log);
 
+/// Puts a grid into the document. What an inversion through the grid before left is forgotten:
+/// rays, coverage and misfit belong to the grid that they were traced through.
+void installGrid(TomoDocument& document, std::unique_ptr<Grid> grid);
+
 /// Replaces the document's grid by one with a layered model and keeps the layers. What an inversion
 /// through the grid before left is forgotten.
-Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers);
+Status applyLayers(TomoDocument& document, const std::vector<VelocityLayer>& layers,
+                   const LayerFill& fill = {});
 
 /// Smooths the slownesses of the document's grid and replaces the grid by one that has them. The
 /// geometry stays, and so do coverage, draw flags and the figures of the last solver pass. The rays

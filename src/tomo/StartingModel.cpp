@@ -1,6 +1,7 @@
 #include "tomo/StartingModel.h"
 
 #include "grid/GridBuilder.h"
+#include "grid/SharpLayers.h"
 #include "model/GroundModel.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
@@ -12,11 +13,11 @@ namespace {
 
 constexpr double kTolerance = 1e-5;  // relative; six digits are what a text may have kept
 
-/// Whether every cell has the velocity of a model at the depth of its row's top.
-template <typename VelocityOfDepth>
-bool follows(const Grid& grid, const VelocityOfDepth& velocityOfDepth) {
+/// Whether every cell has the velocity of a model in its row.
+template <typename VelocityOfRow>
+bool hasRows(const Grid& grid, const VelocityOfRow& velocityOfRow) {
   for (std::uint32_t row = 0; row < grid.righe(); ++row) {
-    const double expected = velocityOfDepth(row * grid.aLato());
+    const double expected = velocityOfRow(row);
     for (std::uint32_t column = 0; column < grid.col(); ++column) {
       const double velocity = grid.velocity(grid.cellIndex(row, column));
       if (!(std::fabs(velocity - expected) <= kTolerance * expected)) return false;
@@ -25,7 +26,13 @@ bool follows(const Grid& grid, const VelocityOfDepth& velocityOfDepth) {
   return true;
 }
 
-bool followsLayers(const Grid& grid, const std::vector<VelocityLayer>& layers) {
+/// The same at the depth of the row's top.
+template <typename VelocityOfDepth>
+bool follows(const Grid& grid, const VelocityOfDepth& velocityOfDepth) {
+  return hasRows(grid, [&](std::uint32_t row) { return velocityOfDepth(row * grid.aLato()); });
+}
+
+bool followsSpline(const Grid& grid, const std::vector<VelocityLayer>& layers) {
   if (!checkLayers(grid.geometry().size(), layers).ok()) return false;
   const Splines::CubicSpline spline = layerSpline(acceptedLayers(layers));
   return follows(grid, [&spline](double depth) { return spline(depth); });
@@ -33,14 +40,23 @@ bool followsLayers(const Grid& grid, const std::vector<VelocityLayer>& layers) {
 
 }  // namespace
 
+bool followsSharpLayers(const Grid& grid, const std::vector<VelocityLayer>& layers) {
+  const std::vector<VelocityLayer> accepted = acceptedLayers(layers);
+  if (!checkSharpLayers(accepted).ok()) return false;
+  const std::vector<double> rows = sharpRows(grid.geometry().size(), accepted, 0.0);
+  return hasRows(grid, [&](std::uint32_t row) { return rows[row]; });
+}
+
 StartingModel startingModelOf(const TomoDocument& document) {
   if (document.model->grid == nullptr) return StartingModel::kNone;
   if (document.result->has_tomographic_info) {
     return document.result->smoothedResult ? StartingModel::kSmoothed : StartingModel::kResult;
   }
   if (follows(*document.model->grid, defaultVelocity)) return StartingModel::kDefault;
-  return followsLayers(*document.model->grid, document.model->layers) ? StartingModel::kLayered
-                                                                      : StartingModel::kOther;
+  const Grid& grid = *document.model->grid;
+  const std::vector<VelocityLayer>& layers = document.model->layers;
+  return followsSpline(grid, layers) || followsSharpLayers(grid, layers) ? StartingModel::kLayered
+                                                                         : StartingModel::kOther;
 }
 
 }  // namespace talvesk

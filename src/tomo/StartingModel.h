@@ -1,5 +1,9 @@
 #pragma once
 
+#include "grid/VelocityLayers.h"
+
+#include <vector>
+
 namespace talvesk {
 
 class TomoDocument;
@@ -8,7 +12,7 @@ class TomoDocument;
 enum class StartingModel {
   kNone,      ///< there is no grid
   kDefault,   ///< the default model
-  kLayered,   ///< the document's layers
+  kLayered,   ///< the document's layers, by their spline or sharp
   kResult,    ///< the result of the last inversion
   kSmoothed,  ///< the same, smoothed since
   kOther      ///< of none of these, like a smoothed starting model
@@ -17,5 +21,8 @@ enum class StartingModel {
 /// Tells it from the velocities themselves, as a project does not say where they came from. They
 /// may have lost their last digits in a file.
 StartingModel startingModelOf(const TomoDocument& document);
+
+/// Whether the cells of a grid have the velocities of sharp layers.
+bool followsSharpLayers(const Grid& grid, const std::vector<VelocityLayer>& layers);
 
 }  // namespace talvesk

@@ -16,7 +16,7 @@
 namespace talvesk {
 namespace {
 
-constexpr int kSplinePoints = 401;
+constexpr int kCurvePoints = 401;
 constexpr double kRoom = 1.06;      // of the scale beyond the largest velocity
 constexpr double kFarthest = 0.75;  // how far the scale follows the spline out, of that velocity
 
@@ -26,10 +26,10 @@ draw1DVelocityProfile::draw1DVelocityProfile(QWidget* parent)
     : PlotPage(parent),
       mNonPositive(new QwtPlotZoneItem),
       mLayerCurve(new QwtPlotCurve),
-      mSplineCurve(new QwtPlotCurve) {
+      mGridCurve(new QwtPlotCurve) {
   mNonPositive->setOrientation(Qt::Vertical);
   add(mNonPositive);
-  for (QwtPlotCurve* curve : {mLayerCurve, mSplineCurve}) {
+  for (QwtPlotCurve* curve : {mLayerCurve, mGridCurve}) {
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
     curve->setLegendAttribute(QwtPlotCurve::LegendShowLine);
     add(curve);
@@ -48,8 +48,10 @@ void draw1DVelocityProfile::setGridDepth(double depth) {
   draw();
 }
 
-void draw1DVelocityProfile::setLayers(const std::vector<VelocityLayer>& layers) {
+void draw1DVelocityProfile::setLayers(const std::vector<VelocityLayer>& layers,
+                                      const LayerFill& fill) {
   mLayers = layers;
+  mFill = fill;
   mLargestVelocity = 0.0;
   for (const VelocityLayer& layer : layers) {
     mLargestVelocity = std::max({mLargestVelocity, layer.initialVelocity, layer.finalVelocity});
@@ -70,15 +72,17 @@ void draw1DVelocityProfile::draw() {
     deepest = std::max(deepest, layer.finalDepth);
   }
   mLayerCurve->setSamples(layers);
-  const VelocityCurve spline = sampleLayers(mLayers, mGridDepth, kSplinePoints);
+  const VelocityCurve curve =
+      mFill.spline ? sampleLayers(mLayers, mGridDepth, kCurvePoints)
+                   : sampleSharpLayers(mLayers, mGridDepth, mFill.thickness, kCurvePoints);
   QPolygonF points;
-  for (std::size_t i = 0; i < spline.depths.size(); ++i) {
-    if (std::isfinite(spline.velocities[i])) {
-      points << QPointF(spline.velocities[i], spline.depths[i]);
+  for (std::size_t i = 0; i < curve.depths.size(); ++i) {
+    if (std::isfinite(curve.velocities[i])) {
+      points << QPointF(curve.velocities[i], curve.depths[i]);
     }
   }
-  mSplineCurve->setSamples(points);
-  QRectF whole = velocities(spline);
+  mGridCurve->setSamples(points);
+  QRectF whole = velocities(curve);
   whole.setHeight(deepest > 0.0 ? deepest : 1.0);
   setWhole(whole, false);
 }
@@ -122,7 +126,7 @@ void draw1DVelocityProfile::dress() {
   PlotPage::dress();
   const TraceColors colors = traceColors(palette(), true);
   mLayerCurve->setPen(QPen(colors.negative, 3.0));
-  mSplineCurve->setPen(QPen(colors.positive, 1.6));
+  mGridCurve->setPen(QPen(colors.positive, 1.6));
   QColor zone = colors.pick;
   zone.setAlphaF(0.18);
   mNonPositive->setBrush(zone);
@@ -134,7 +138,7 @@ void draw1DVelocityProfile::retranslate() {
   setAccessibleName(tr("Velocity against depth"));
   setTexts({}, tr("Velocity (m/s)"), tr("Depth below the ground (m)"));
   mLayerCurve->setTitle(tr("Layers"));
-  mSplineCurve->setTitle(tr("Velocity that the grid gets"));
+  mGridCurve->setTitle(tr("Velocity that the grid gets"));
 }
 
 }  // namespace talvesk

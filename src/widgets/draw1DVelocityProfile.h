@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grid/VelocityLayers.h"
+#include "grid/SharpLayers.h"
 #include "widgets/PlotPage.h"
 
 #include <vector>
@@ -10,8 +10,8 @@ class QwtPlotZoneItem;
 
 namespace talvesk {
 
-/// A layered starting model, velocity to the right and depth downward, and over the layers the
-/// spline through them that the grid will get.
+/// A layered starting model, velocity to the right and depth downward, and over the layers what the
+/// grid will get of them.
 class draw1DVelocityProfile : public PlotPage {
   Q_OBJECT
 
@@ -21,7 +21,7 @@ class draw1DVelocityProfile : public PlotPage {
 
   /// \param depth metres
   void setGridDepth(double depth);
-  void setLayers(const std::vector<VelocityLayer>& layers);
+  void setLayers(const std::vector<VelocityLayer>& layers, const LayerFill& fill = {});
 
   double gridDepth() const { return mGridDepth; }
   /// Of all tops and bottoms of the layers, m/s; 0 without layers. The scale reaches to it at
@@ -43,10 +43,11 @@ class draw1DVelocityProfile : public PlotPage {
 
   QwtPlotZoneItem* mNonPositive;
   QwtPlotCurve* mLayerCurve;
-  QwtPlotCurve* mSplineCurve;
+  QwtPlotCurve* mGridCurve;
   double mGridDepth = 0.0;
   double mLargestVelocity = 0.0;
   std::vector<VelocityLayer> mLayers;
+  LayerFill mFill;
 };
 
 }  // namespace talvesk

@@ -9,6 +9,7 @@
 #include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestSurveys.h"
+#include "tomo/StartingModel.h"
 #include "widgets/MisfitPlot.h"
 #include "widgets/draw1DVelocityProfile.h"
 
@@ -404,8 +405,9 @@ TEST_F(Layers, thatSwingBelowZeroAreShownAndExplained) {
   EXPECT_TRUE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
   EXPECT_THAT(text(*dialog, "problemLabel"), ::testing::HasSubstr("no velocity of the ground"));
   const std::vector<double> before = line.model->grid->slownesses();
+  EXPECT_TRUE(child<QPushButton>(*dialog, "sharpButton").isVisible());
   dialogs.expectBox("Define model velocity", "The layers make no velocity model.",
-                    "no velocity of the ground", QMessageBox::Ok);
+                    "Do you want sharp layers instead?", QMessageBox::No);
   dialog->accept();
   EXPECT_TRUE(dialog->isVisible());
   EXPECT_EQ(line.model->grid->slownesses(), before);
@@ -414,9 +416,38 @@ TEST_F(Layers, thatSwingBelowZeroAreShownAndExplained) {
   EXPECT_FALSE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
   EXPECT_EQ(text(*dialog, "problemLabel"),
             "The results of the last inversion will be removed (Undo brings them back).");
+  EXPECT_FALSE(child<QPushButton>(*dialog, "sharpButton").isVisible());
   line.result.edit().has_tomographic_info = false;
   child<QSpinBox>(row(0), "v1Edit").setValue(201);
   EXPECT_EQ(text(*dialog, "problemLabel"), "");
+}
+
+TEST_F(Layers, thatNoSplineCarriesGoSharpOrGradedIntoTheGrid) {
+  const std::vector<VelocityLayer> jump = {{0, 5000, 12, 5000}, {12, 200, 24, 200}};
+  const auto velocityOfRow = [this](std::uint32_t r) {
+    return line.model->grid->velocity(line.model->grid->cellIndex(r, 3));
+  };
+  open(jump);
+  EXPECT_FALSE(child<QDoubleSpinBox>(*dialog, "thicknessEdit").isEnabled());
+  dialogs.expectBox("Define model velocity", "The layers make no velocity model.",
+                    "Do you want sharp layers instead?", QMessageBox::Yes);
+  dialog->accept();
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_NEAR(velocityOfRow(11), 5000.0, 1e-9);
+  EXPECT_NEAR(velocityOfRow(12), 200.0, 1e-9);
+  EXPECT_EQ(startingModelOf(line), StartingModel::kLayered);
+
+  open(jump);
+  EXPECT_EQ(child<QComboBox>(*dialog, "fillCombo").currentIndex(), 1) << "as the grid has them";
+  EXPECT_FALSE(child<draw1DVelocityProfile>(*dialog, "widget").showsNonPositiveZone());
+  child<QComboBox>(*dialog, "fillCombo").setCurrentIndex(2);
+  child<QDoubleSpinBox>(*dialog, "thicknessEdit").setValue(4.0);
+  dialog->accept();
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_NEAR(velocityOfRow(9), 5000.0, 1e-9);
+  EXPECT_NEAR(velocityOfRow(11), 3200.0, 1e-9);
+  EXPECT_NEAR(velocityOfRow(12), 2000.0, 1e-9);
+  EXPECT_NEAR(velocityOfRow(14), 200.0, 1e-9);
 }
 
 }  // namespace

@@ -100,12 +100,23 @@ TEST(Files, aGridThatCannotBeIsRefusedInOneLine) {
 TEST(Files, aLayerModelWithoutPositiveVelocitiesIsRefused) {
   const Folder folder;
   const std::string input = folder.write("line.otte", smallLine());
-  const Outcome outcome =
-      runBatch({"invert", input, "--cell-size", "1", "--layer", "0:2:3000:10", "--layer",
-                "2:12:10:20", "--depth", "26", "--json", folder / "out.json"});
+  std::vector<std::string> arguments = {
+      "invert",       input,        "--cell-size", "1",  "--layer", "0:2:3000:10",
+      "--layer",      "2:12:10:20", "--depth",     "26", "--json",  folder / "out.json",
+      "--iterations", "1"};
+  const Outcome outcome = runBatch(arguments);
   EXPECT_EQ(outcome.code, 1);
   EXPECT_THAT(outcome.err, HasSubstr("velocity"));
+  EXPECT_THAT(outcome.err, HasSubstr("--sharp-layers"));
   EXPECT_FALSE(folder.holds("out.json"));
+  // No spline swings where there is none.
+  for (const char* manner : {"sharp", "graded:1"}) {
+    auto sharp = arguments;
+    sharp.insert(sharp.end(), {"--sharp-layers", manner});
+    const Outcome done = runBatch(sharp);
+    EXPECT_EQ(done.code, 0) << done.err;
+    EXPECT_TRUE(folder.holds("out.json"));
+  }
 }
 
 TEST(Files, outputPlacesAreCheckedBeforeTheWork) {

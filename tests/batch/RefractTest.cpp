@@ -111,6 +111,40 @@ TEST(Refract, savesItsLayersInAProjectAndDescribesThemInAReport) {
               HasSubstr("Refraction interpretation"));
 }
 
+/// The section that an inversion starts from, read back from it.
+TEST(Refract, putsItsLayersIntoTheGridForAnInversionToStartFrom) {
+  const Survey survey;
+  const Environment home = {{"HOME", survey.folder / ""}};
+  const std::string project = survey.folder / "line.tvsk";
+  const std::string json = survey.folder / "both.json";
+  const std::string table = survey.folder / "both.csv";
+  const std::string picture = survey.folder / "both.svg";
+  for (const char* manner : {"sharp", "graded:3"}) {
+    SCOPED_TRACE(manner);
+    const Outcome outcome = runBatch({"refract", survey.picks, "--layers", survey.layers, "-o",
+                                      project, "--start-model", manner, "--quiet"},
+                                     home);
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_THAT(outcome.err, HasSubstr("stay as they are there to the ends of the grid"));
+    for (const char* sign : {"800", "gradient"}) {
+      const Outcome read = runBatch({"export", project, "--refractor", json, "--refractor", table,
+                                     "--refractor", picture, "--refractor-at", sign},
+                                    home);
+      ASSERT_EQ(read.code, 0) << read.err;
+      const ordered_json both = ordered_json::parse(contentsOf(json));
+      EXPECT_EQ(both["layer"], 2);
+      EXPECT_GT(both["count"].get<int>(), 40);
+      EXPECT_LT(both["rms"].get<double>(), 1.6);
+      EXPECT_EQ(both["x"].size(), both["section_depth"].size());
+      EXPECT_THAT(contentsOf(table), HasSubstr("position_m,elevation_m,layers_depth_m"));
+      EXPECT_THAT(contentsOf(picture), HasSubstr("Layer 2, layered profile"));
+    }
+  }
+  const Outcome inverted = runBatch(
+      {"invert", project, "--iterations", "1", "--json", survey.folder / "inverted.json"}, home);
+  EXPECT_EQ(inverted.code, 0) << inverted.err;
+}
+
 TEST(Refract, saysWhatKeepsItFromAProfile) {
   const Survey survey;
   const std::string out = survey.folder / "r.json";
@@ -140,6 +174,14 @@ TEST(Refract, saysWhatKeepsItFromAProfile) {
        {survey.picks, "--json", out, "--method", "guess"},
        2,
        "none of reciprocal, delay-times, intercept, plus-minus, all"},
+      {"no project for the model",
+       {survey.picks, "--json", out, "--start-model", "sharp"},
+       2,
+       "--project"},
+      {"no such manner",
+       {survey.picks, "--project", out + ".tvsk", "--start-model", "graded"},
+       2,
+       "neither sharp nor graded:M"},
       {"output on input", {survey.picks, "--json", survey.picks}, 2, "line.otte"},
       {"broken marks", {survey.picks, "--json", out, "--layers", bad}, 1, "bad.csv, line 1"},
       {"no refractor",

@@ -360,14 +360,16 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
 
 /// What these need is not on the way to a section: a filtered copy, a layered profile, a view that
 /// was zoomed, a step that was undone, picks that were made.
-const std::set<std::string> kBesideTheWay = {"show_filtered_cb",           "actionShow_refraction",
-                                             "actionShow_Certainty_Layer", "actionExport_certainty",
-                                             "actionFade_uncertain",       "actionDepth_bands",
-                                             "actionShow_known",           "actionZoom_back",
-                                             "actionZoom_forward",         "actionRedo",
-                                             "actionConfirm_picks",        "actionRemove_picks",
-                                             "actionRemove_unconfirmed",   "actionCount_from_shot",
-                                             "actionTake_back_mends"};
+const std::set<std::string> kBesideTheWay = {
+    "show_filtered_cb",           "actionShow_refraction",
+    "actionShow_Certainty_Layer", "actionExport_certainty",
+    "actionFade_uncertain",       "actionDepth_bands",
+    "actionShow_known",           "actionZoom_back",
+    "actionZoom_forward",         "actionRedo",
+    "actionConfirm_picks",        "actionRemove_picks",
+    "actionRemove_unconfirmed",   "actionCount_from_shot",
+    "actionTake_back_mends",      "actionStart_from_layers",
+    "actionCompare_layers"};
 
 class GrowingSurvey : public Commands {
  protected:

@@ -21,6 +21,9 @@
 namespace talvesk {
 namespace {
 
+/// Entries of the choice, in its order.
+enum FillEntry { kSpline, kSharp, kGraded };
+
 constexpr int kProblemLines = 2;  // that the place for the problem holds without moving the buttons
 
 }  // namespace
@@ -34,10 +37,31 @@ select_speed_Dialog::select_speed_Dialog(TomoDocument& document, QWidget* parent
   connect(mUi->addButton, &QPushButton::clicked, this, [this] { addLayer(); });
   connect(mUi->removeButton, &QPushButton::clicked, this, [this] { removeLayers(); });
   connect(mUi->listWidget, &QListWidget::itemSelectionChanged, this, [this] { showRemovable(); });
+  connectFill();
   setDocument();
 }
 
 select_speed_Dialog::~select_speed_Dialog() = default;
+
+void select_speed_Dialog::connectFill() {
+  mUi->thicknessEdit->setRange(LayerFill::kLeastThickness, LayerFill::kMostThickness);
+  mUi->thicknessEdit->setValue(LayerFill::kUsualThickness);
+  mUi->thicknessEdit->setEnabled(false);
+  connect(mUi->fillCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+          [this](int entry) {
+            mUi->thicknessEdit->setEnabled(entry == kGraded);
+            showModel(layers());
+          });
+  connect(mUi->thicknessEdit, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+          [this] { showModel(layers()); });
+  connect(mUi->sharpButton, &QPushButton::clicked, this,
+          [this] { mUi->fillCombo->setCurrentIndex(kSharp); });
+}
+
+LayerFill select_speed_Dialog::fill() const {
+  const int entry = mUi->fillCombo->currentIndex();
+  return {entry == kSpline, entry == kGraded ? mUi->thicknessEdit->value() : 0.0};
+}
 
 double select_speed_Dialog::gridDepth() const {
   return mDocument.model->grid ? mDocument.model->grid->righe() * mDocument.model->grid->aLato()
@@ -49,6 +73,13 @@ void select_speed_Dialog::setDocument() {
   for (const VelocityLayer& layer : mDocument.model->layers) addRow(layer);
   if (mDocument.model->layers.empty()) addRow(defaultLayer(gridDepth()));
   mAtFirst = layers();
+  // What the grid has of layers that it has is the choice that stands.
+  if (mDocument.model->grid && !mDocument.model->layers.empty() && !check(mAtFirst).ok() &&
+      followsSharpLayers(*mDocument.model->grid, mAtFirst)) {
+    const QSignalBlocker quiet(mUi->fillCombo);
+    mUi->fillCombo->setCurrentIndex(kSharp);
+  }
+  mFillAtFirst = fill();
   showModel(mAtFirst);
   row(0)->focusFirstField();
 }
@@ -101,12 +132,19 @@ void select_speed_Dialog::onLineeditmod() {
 
 /// Whether the layers make a model for the grid.
 Status select_speed_Dialog::check(const std::vector<VelocityLayer>& layers) const {
+  if (!fill().spline) return checkSharpLayers(layers);
   return mDocument.model->grid ? checkLayers(mDocument.model->grid->geometry().size(), layers)
                                : Status();
 }
 
+/// Whether what keeps the layers from the grid is their spline alone.
+bool select_speed_Dialog::sharpWouldDo(const std::vector<VelocityLayer>& layers) const {
+  return fill().spline && !check(layers).ok() && checkSharpLayers(layers).ok();
+}
+
 void select_speed_Dialog::showModel(const std::vector<VelocityLayer>& layers) {
-  mUi->widget->setLayers(layers);
+  mUi->widget->setLayers(layers, fill());
+  mUi->sharpButton->setVisible(sharpWouldDo(layers));
   const Status status = check(layers);
   QString text = textOf(status.text());
   if (status.ok() && mDocument.result->has_tomographic_info) {
@@ -150,7 +188,9 @@ void select_speed_Dialog::showRemovable() {
 
 bool select_speed_Dialog::isAsItWas() const {
   const std::vector<VelocityLayer> now = layers();
-  return std::equal(now.begin(), now.end(), mAtFirst.begin(), mAtFirst.end(),
+  const LayerFill filled = fill();
+  return filled.spline == mFillAtFirst.spline && filled.thickness == mFillAtFirst.thickness &&
+         std::equal(now.begin(), now.end(), mAtFirst.begin(), mAtFirst.end(),
                     [](const VelocityLayer& a, const VelocityLayer& b) {
                       return a.initialDepth == b.initialDepth && a.finalDepth == b.finalDepth &&
                              a.initialVelocity == b.initialVelocity &&
@@ -169,9 +209,22 @@ bool select_speed_Dialog::wantsLayersAgain() {
       false);
 }
 
+Status select_speed_Dialog::apply() {
+  return whileWaiting([this] { return applyLayers(mDocument, takeLayers(), fill()); });
+}
+
 void select_speed_Dialog::accept() {
   if (isAsItWas() && check(mAtFirst).ok() && !wantsLayersAgain()) return reject();
-  const Status status = whileWaiting([this] { return applyLayers(mDocument, takeLayers()); });
+  Status status = apply();
+  if (!status.ok() && sharpWouldDo(layers())) {
+    const QString question = tr("Do you want sharp layers instead? They need no spline.");
+    if (!askYesNo(this, tr("Define model velocity"), tr("The layers make no velocity model."),
+                  textOf(status.text()) + QLatin1Char('\n') + question, true)) {
+      return;
+    }
+    mUi->fillCombo->setCurrentIndex(kSharp);
+    status = apply();
+  }
   if (status.ok()) {
     QDialog::accept();
     return;

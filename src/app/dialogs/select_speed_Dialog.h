@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grid/VelocityLayers.h"
+#include "grid/SharpLayers.h"
 
 #include <QDialog>
 #include <memory>
@@ -31,8 +31,10 @@ class select_speed_Dialog : public QDialog {
 
   /// What the rows say, those that make no layer left out.
   std::vector<VelocityLayer> layers() const;
+  LayerFill fill() const;  ///< how they get into the grid
 
-  /// Builds the grid. Where the layers make no model it says why and stays open.
+  /// Builds the grid. Where the layers make no model it says why and stays open; where only the
+  /// spline makes none it offers sharp layers.
   void accept() override;
 
  public slots:
@@ -40,7 +42,10 @@ class select_speed_Dialog : public QDialog {
 
  private:
   void setDocument();
+  void connectFill();
   Status check(const std::vector<VelocityLayer>& layers) const;
+  bool sharpWouldDo(const std::vector<VelocityLayer>& layers) const;
+  Status apply();
   bool isAsItWas() const;
   bool wantsLayersAgain();
   std::vector<VelocityLayer> takeLayers() const;  ///< the same, each one told on the console
@@ -57,6 +62,7 @@ class select_speed_Dialog : public QDialog {
   std::unique_ptr<Ui::select_speed_Dialog> mUi;
   TomoDocument& mDocument;
   std::vector<VelocityLayer> mAtFirst;
+  LayerFill mFillAtFirst;
 };
 
 }  // namespace talvesk

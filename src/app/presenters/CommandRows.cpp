@@ -85,6 +85,7 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
       {"actionGrid", &State::strings, [&p](bool) { p.models.makeGrid(); }},
       {"actionDefine_model_velocity", &State::cells,
        call(p.models, &ModelPresenter::defineVelocity)},
+      {"actionStart_from_layers", &State::refractors, call(p.layers, &LayersPresenter::start)},
       {"actionSet_title", always, call(p.survey, &SurveyPresenter::askForTitle)},
 
       {"actionAutoPick", &State::shotInView, call(p.processing, &ProcessingPresenter::autoPick)},
@@ -105,6 +106,8 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
       {"actionResolution", &State::records, call(p.resolution, &ResolutionPresenter::test)},
       {"actionApply_smoothing", &State::cells, call(p.models, &ModelPresenter::smooth)},
       {"actionRefraction", &State::records, call(p.refraction, &RefractionPresenter::interpret)},
+      {"actionCompare_layers", [](const State& state) { return state.cells && state.refractors; },
+       call(p.layers, &LayersPresenter::compare)},
   };
 }
 

@@ -29,6 +29,7 @@ Presenters::Presenters(Desk& desk)
       processing(desk),
       review(desk),
       refraction(desk),
+      layers(desk, models),
       exports(desk),
       records(desk),
       reports(desk),

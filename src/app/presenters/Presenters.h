@@ -9,6 +9,7 @@
 #include "app/presenters/HelpPresenter.h"
 #include "app/presenters/InversionPresenter.h"
 #include "app/presenters/KnownGroundPresenter.h"
+#include "app/presenters/LayersPresenter.h"
 #include "app/presenters/ModelPresenter.h"
 #include "app/presenters/PalettePresenter.h"
 #include "app/presenters/ProcessingPresenter.h"
@@ -67,6 +68,7 @@ struct Presenters {
   ProcessingPresenter processing;
   ReviewPresenter review;
   RefractionPresenter refraction;
+  LayersPresenter layers;
   ExportPresenter exports;
   RecordExportPresenter records;
   ReportPresenter reports;
