@@ -99,12 +99,15 @@ void SecondLookDialog::fillShifts() {
     const ShotShift& shift = mLook.shifts[static_cast<std::size_t>(row)];
     put(table, row, kShiftShot, QString::number(shift.record + 1));
     QTableWidgetItem* box = table.item(row, kShiftShot);
-    box->setCheckState(shift.recording && shift.clear ? Qt::Checked : Qt::Unchecked);
+    box->setCheckState(shift.recording && shift.clear && !shift.seeming ? Qt::Checked
+                                                                        : Qt::Unchecked);
     if (!shift.recording)
       box->setFlags(box->flags() & ~Qt::ItemIsUserCheckable & ~Qt::ItemIsEnabled);
     put(table, row, kLate, number(kMilliseconds * shift.late, 2));
-    auto* why = new QTableWidgetItem(shift.recording ? QString()
-                                                     : tr("no recording that could be shifted"));
+    QString reason;
+    if (!shift.recording) reason = tr("no recording that could be shifted");
+    if (shift.seeming) reason = tr("seems so: run again with shifts of shots");
+    auto* why = new QTableWidgetItem(reason);
     table.setItem(row, kWhy, why);
   }
   table.setCurrentCell(-1, -1);
@@ -129,7 +132,9 @@ void SecondLookDialog::showTexts() {
           : tr("Picks off by more than five of their errors; a click shows the trace:"));
   mUi->shiftsPage->setVisible(!mLook.shifts.empty());
   mUi->shiftsLabel->setText(
-      tr("Time shifts of shots that the fit has found; a click shows the shot:"));
+      mLook.seeming().empty()
+          ? tr("Time shifts of shots that the fit has found; a click shows the shot:")
+          : tr("Shots that seem to be shifted in time; a click shows the shot:"));
   mUi->cellsLabel->setText(mPatches.empty()
                                ? tr("No velocity is at a limit, and rays cross all cells shown.")
                                : tr("Ground to look at; a click shows it in the section:"));
