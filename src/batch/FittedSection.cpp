@@ -96,7 +96,8 @@ Status findCertainty(const InvertOptions& options, const Channels& channels, Sur
 }
 
 void warnAboutFit(const FittedRunResult& fit) {
-  if (fit.end != FitEnd::kTarget && fit.end != FitEnd::kStopped) warn(fit.outcome);
+  const bool told = fit.end == FitEnd::kTarget || fit.end == FitEnd::kStopped;
+  if (!told || !fit.lateShots.empty()) warn(fit.outcome);
   if (fit.suspects.empty()) return;
   std::string text = std::to_string(fit.suspects.size()) + " of " + std::to_string(fit.fit.count) +
                      " picks are suspect and left out of chi-square: ";

@@ -268,7 +268,7 @@ int run(const InvertOptions& options) {
       fits ? fit->fit.run : invert(options, parameters, channels, project, log);
   // What the completed iterations found is not lost with the one that failed.
   int runCode = result.status.ok() ? kDone : failed(result.status.message());
-  if (result.iterationsDone == 0) return runCode;
+  if (fit ? !found(fit->fit) : result.iterationsDone == 0) return runCode;
   if (fit) warnAboutFit(fit->fit);
   for (const Message& gone : result.runsGone) {
     warn("the list of inversion runs is full; its oldest has gone: " + gone.english());

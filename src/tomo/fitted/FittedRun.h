@@ -24,6 +24,7 @@ struct FittedSettings {
 struct FittedRunProgress {
   int completed = 0;
   int most = 0;  ///< iterations allowed; few fits need them
+  Message from;  ///< the model that this fit has started from, after others that did not convince
   double elapsedSeconds = 0.0;
   ChiSquare fit;          ///< through the section of this iteration
   SectionMisfit section;  ///< the same in times
@@ -39,11 +40,16 @@ struct FittedRunResult {
   ChiSquare fit;                      ///< of the section, statics included
   std::vector<double> chi2History;    ///< of the start and after every iteration
   double lambda = 0.0;                ///< see FittedResult
+  int kept = 0;                       ///< the same
   std::vector<SuspectPick> suspects;  ///< in the order of the records
+  std::vector<ShotShift> lateShots;   ///< that seem so, where no shifts were asked for
   /// Seconds per record, late is positive; not a number for shots that took no part; empty when
   /// none were asked for. A shot's times come true when its time shift grows by as much.
   std::vector<double> statics;
 };
+
+/// Whether the document holds the section of the run: not after a failure or an early stop.
+bool found(const FittedRunResult& result);
 
 /// Fits the section of a document, which must hold a grid, to its picks, and installs it with rays,
 /// times, coverage, information density and a record of the run. Picks that the grid does not reach

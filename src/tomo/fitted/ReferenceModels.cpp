@@ -1,5 +1,6 @@
 #include "tomo/fitted/ReferenceModels.h"
 
+#include "grid/GridBuilder.h"
 #include "numerics/Medians.h"
 #include "tomo/fitted/GradientProfile.h"
 #include "tomo/fitted/LayeredReading.h"
@@ -170,6 +171,15 @@ StartFit fitOf(const FitData& data, std::vector<double> times) {
 }
 
 }  // namespace
+
+std::vector<double> defaultSlownesses(const GridGeometry& geometry) {
+  std::vector<double> slownesses;
+  for (std::uint32_t row = 0; row < geometry.righe(); ++row) {
+    slownesses.insert(slownesses.end(), geometry.col(),
+                      1.0 / defaultVelocity(row * geometry.aLato()));
+  }
+  return slownesses;
+}
 
 Message nameOf(ReferenceKind kind) {
   switch (kind) {
