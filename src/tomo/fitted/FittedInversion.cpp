@@ -80,6 +80,7 @@ class FittedInversion::Fit {
   std::vector<std::size_t> mSuspects;  ///< of the last section
   double mMisfit = 0.0;                ///< of the same, see robustMisfit()
   int mPoorGains = 0;                  ///< one after the other
+  int mStandstills = 0;                ///< the same
   bool mLoosened = false;              ///< see FittedResult
 };
 
@@ -141,9 +142,12 @@ std::optional<FitEnd> FittedInversion::Fit::ended(const FitSection& section, boo
     ++mPoorGains;
   }
   if (mPoorGains == kPoorGains) return unless(FitEnd::kNoGain);
-  if (below && !cut && std::fabs(fit.chi2 - before) < kStandstill * before) {
-    return unless(FitEnd::kFitsBetter);
+  if (!below || std::fabs(fit.chi2 - before) >= kStandstill * before) {
+    mStandstills = 0;
+  } else if (!cut) {
+    ++mStandstills;
   }
+  if (mStandstills == kPoorGains) return unless(FitEnd::kFitsBetter);
   if (mHistory.size() > static_cast<std::size_t>(mProblem.options().mostIterations)) {
     return unless(FitEnd::kIterations);
   }
