@@ -172,7 +172,8 @@ Status findCertainty(const InvertOptions& options, const Channels& channels, Sur
 }
 
 void warnAboutFit(const FittedRunResult& fit) {
-  if (fit.end != FitEnd::kTarget && fit.end != FitEnd::kStopped) warn(fit.outcome);
+  const bool told = fit.end == FitEnd::kTarget || fit.end == FitEnd::kStopped;
+  if (!told || !fit.lateShots.empty()) warn(fit.outcome);
   if (fit.known) warnAboutKnown(*fit.known);
 }
 

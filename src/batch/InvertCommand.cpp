@@ -296,7 +296,7 @@ int run(const InvertOptions& options) {
       fits ? fit->fit.run : invert(options, parameters, channels, project, log);
   // What the completed iterations found is not lost with the one that failed.
   int runCode = result.status.ok() ? kDone : failed(result.status.message());
-  if (result.iterationsDone == 0) {
+  if (fit ? !found(fit->fit) : result.iterationsDone == 0) {
     return runCode != kDone ? runCode
                             : failed("stopped before anything was found; nothing was written");
   }

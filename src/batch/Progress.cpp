@@ -67,14 +67,23 @@ std::string progressBar(const TomographyProgress& progress, int width) {
                                              : text;
 }
 
+namespace {
+
+std::string fromWhere(const FittedRunProgress& progress) {
+  return progress.from.empty() ? "" : "From " + progress.from.english() + ": ";
+}
+
+}  // namespace
+
 std::string progressLine(const FittedRunProgress& progress) {
-  return "Iteration " + std::to_string(progress.completed) + ", " + std::to_string(progress.most) +
-         " at most: chi-square " + formatDouble(progress.fit.chi2, 4) + ", section " +
-         rms(progress.section) + ", elapsed " + clock(progress.elapsedSeconds);
+  return fromWhere(progress) + "Iteration " + std::to_string(progress.completed) + ", " +
+         std::to_string(progress.most) + " at most: chi-square " +
+         formatDouble(progress.fit.chi2, 4) + ", section " + rms(progress.section) + ", elapsed " +
+         clock(progress.elapsedSeconds);
 }
 
 std::string progressBar(const FittedRunProgress& progress) {
-  return "Iteration " + std::to_string(progress.completed) + ": chi-square " +
+  return fromWhere(progress) + "Iteration " + std::to_string(progress.completed) + ": chi-square " +
          formatDouble(progress.fit.chi2, 4) + ", section " + rms(progress.section);
 }
 

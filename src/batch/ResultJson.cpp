@@ -208,6 +208,32 @@ Json referencesJson(const References& references) {
   return list;
 }
 
+/// Fits that were made, in their order; the one that is kept starts from the reference.
+Json trialsJson(const std::vector<ReferenceTrial>& trials) {
+  Json list = Json::array();
+  for (const ReferenceTrial& trial : trials) {
+    Json json = Json::object();
+    json["reference"] = trial.reference;
+    json["chi2"] = trial.fit.chi2;
+    json["suspects"] = trial.fit.suspects.size();
+    json["iterations"] = trial.iterations;
+    json["target"] = trial.end == FitEnd::kTarget;
+    list.push_back(std::move(json));
+  }
+  return list;
+}
+
+Json lateShotsJson(const std::vector<ShotShift>& shots) {
+  Json list = Json::array();
+  for (const ShotShift& shot : shots) {
+    Json json = Json::object();
+    json["shot"] = shot.record;
+    json["late_ms"] = shot.late * 1000.0;
+    list.push_back(std::move(json));
+  }
+  return list;
+}
+
 /// Shots and receivers count from 0.
 void putFit(Json& json, const ReferencedRun& run) {
   const FittedRunResult& fit = run.fit;
@@ -219,6 +245,8 @@ void putFit(Json& json, const ReferencedRun& run) {
   json["lambda"] = fit.lambda;
   json["outcome"] = fit.outcome.english();
   json["constraints"] = constraintsJson(fit.known);
+  json["trials"] = trialsJson(run.trials);
+  json["late_shots"] = lateShotsJson(fit.lateShots);
   json["suspects"] = suspectsJson(fit.suspects);
   Json statics = Json::array();
   for (const double shift : fit.statics) statics.push_back(shift * 1000.0 + 0.0);  // no -0

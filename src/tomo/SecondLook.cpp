@@ -6,9 +6,13 @@
 #include "model/Residuals.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
+#include "tomo/fitted/FitOptions.h"
+#include "tomo/fitted/ShotShifts.h"
+#include "tomo/fitted/SurveyFit.h"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace talvesk {
 namespace {
@@ -55,6 +59,25 @@ bool hasRecording(const TomoDocument& document, std::size_t record) {
          !document.recordings->traceSets[set].empty();
 }
 
+/// Shots whose wave seems to have begun at another time, where nothing has looked for that.
+void lookAtShots(const TomoDocument& document, SecondLook& look) {
+  const auto& run = document.result->lastInversion;
+  if (run && run->fit && run->fit->statics) return;
+  const FitData data = picksToFit(document, errorRuleOf(document));
+  std::vector<double> times;
+  for (const FitPick& pick : data.picks) {
+    const auto& found = document.ttArray[pick.record].ttCalcolati;
+    if (pick.receiver >= found.size() || !(found[pick.receiver] > 0.0)) return;
+    times.push_back(found[pick.receiver]);
+  }
+  const std::vector<double> shifts = seemingShifts(data, times, FittedOptions().triggerError);
+  for (std::size_t s = 0; s < shifts.size(); ++s) {
+    const std::size_t record = data.shots[s].record;
+    if (shifts[s] != 0.0)
+      look.shifts.push_back({record, shifts[s], hasRecording(document, record), true, true});
+  }
+}
+
 void lookAtPicks(const TomoDocument& document, SecondLook& look) {
   look.suspects = suspectsOf(document);
   const ChiSquare fit = sectionChiSquareOf(document);
@@ -75,12 +98,20 @@ void lookAtPicks(const TomoDocument& document, SecondLook& look) {
 
 }  // namespace
 
+std::vector<ShotShift> SecondLook::seeming() const {
+  std::vector<ShotShift> seeming;
+  std::copy_if(shifts.begin(), shifts.end(), std::back_inserter(seeming),
+               [](const ShotShift& shift) { return shift.seeming; });
+  return seeming;
+}
+
 SecondLook secondLook(const TomoDocument& document) {
   SecondLook look;
   look.known = sectionMisfitOf(document).count > 0 && document.model->grid != nullptr;
   if (!look.known) return look;
   look.picksChanged = picksChangedSince(document);
   lookAtPicks(document, look);
+  lookAtShots(document, look);
   const auto& run = document.result->lastInversion;
   if (!run) return look;
   look.least = run->minVelocity;

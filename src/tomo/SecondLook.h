@@ -16,12 +16,14 @@ struct SuspectPick {
   double sigma = 0.0;        ///< seconds
 };
 
-/// A time shift of a shot that the fit of a section has found and that nobody has taken over yet.
+/// A time shift of a shot that the fit of a section has found, or that seems to be there, and that
+/// nobody has taken over yet.
 struct ShotShift {
   std::size_t record = 0;
   double late = 0.0;       ///< seconds that the record begins too late by
   bool recording = false;  ///< there are traces that can be shifted, else picks alone
   bool clear = false;      ///< it is more than the least error of a pick
+  bool seeming = false;    ///< read from picks and residuals of a section that knows of no shifts
 };
 
 /// Cells that have something in common: how many, and the box around them.
@@ -48,6 +50,9 @@ struct SecondLook {
   CellPatch atGreatest;
   CellPatch withoutRays;  ///< drawn, and crossed by none
   std::size_t drawn = 0;  ///< cells
+
+  /// Shifts that no fit has looked for.
+  std::vector<ShotShift> seeming() const;
 };
 
 SecondLook secondLook(const TomoDocument& document);

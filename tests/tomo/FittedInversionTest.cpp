@@ -161,6 +161,46 @@ TEST(FittedInversion, smoothsAStartThatFitsBetterThanTheErrorsDemand) {
   EXPECT_LT(steepest(result.slownesses), 0.8 * steepest(options.start));
 }
 
+TEST(FittedInversion, returnsAStartOnTargetAsItIs) {
+  const double depth = 4.0;
+  FitLine line = fitLine({}, twoLayerTimes(500.0, 2000.0, depth));
+  FittedOptions options = line.options();
+  options.start = twoLayerModel(line, 500.0, 2000.0, depth);
+  const double chi2 = fit(line, options).chi2History.front();
+  for (FitPick& pick : line.data.picks) pick.sigma *= std::sqrt(chi2);
+  const FittedResult result = fit(line, options);
+  EXPECT_EQ(result.end, FitEnd::kTarget);
+  EXPECT_EQ(result.iterations, 0);
+  for (std::size_t c = 0; c < options.start.size(); ++c) {
+    EXPECT_DOUBLE_EQ(result.slownesses[c], options.start[c]);
+  }
+  EXPECT_NEAR(result.fit.chi2, 1.0, 1e-9);
+  EXPECT_EQ(result.traced.times.size(), line.data.picks.size());
+}
+
+TEST(FittedInversion, saysHowManyPicksASectionLeavesOut) {
+  for (const std::size_t gross : {1U, 3U}) {
+    FitLine line = fitLine({}, gradientTimes(400.0, 50.0));
+    for (std::size_t i = 0; i < gross; ++i) line.data.picks[20 + 45 * i].time += 0.025;
+    const FittedResult result = fit(line, line.options());
+    EXPECT_EQ(result.end, FitEnd::kTarget) << describe(result);
+    EXPECT_EQ(result.fit.suspects.size(), gross);
+    const std::string number = gross == 1 ? "all but one of the " : "all but 3 of the ";
+    EXPECT_NE(describe(result).english().find(number), std::string::npos) << describe(result);
+  }
+}
+
+TEST(FittedInversion, neverFitsByLeavingOutMoreThanATenth) {
+  FitLine line = fitLine({}, gradientTimes(400.0, 50.0));
+  const FitShot& nonsense = line.data.shots[2];
+  for (std::size_t i = 0; i < nonsense.receivers.size(); ++i) {
+    line.data.picks[nonsense.firstPick + i].time = 0.01 + 0.037 * static_cast<double>(i % 5);
+  }
+  const FittedResult result = fit(line, line.options());
+  EXPECT_TRUE(result.end == FitEnd::kNoGain || result.end == FitEnd::kIterations);
+  EXPECT_EQ(describe(result).english().find("target not reached"), 0U) << describe(result);
+}
+
 TEST(FittedInversion, letsGoOfStepsInTheWrongPlaces) {
   const FitLine line = fitLine({}, twoLayerTimes(500.0, 2000.0, 3.0));
   FittedOptions options = line.options();

@@ -1,5 +1,6 @@
 #include "TestInversion.h"
 #include "model/ChiSquare.h"
+#include "model/KeptRun.h"
 #include "model/TomographyOutcome.h"
 #include "support/ConsoleCapture.h"
 #include "tomo/fitted/References.h"
@@ -74,6 +75,68 @@ TEST(References, leaveTheDocumentAloneWhenTheyAreStopped) {
   EXPECT_TRUE(run.fit.run.stopped);
   EXPECT_EQ(run.fit.run.iterationsDone, 0);
   EXPECT_FALSE(line.result->has_tomographic_info);
+}
+
+TEST(References, areTriedOneAfterTheOtherUntilOneExplainsThePicks) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers();
+  FittedSettings settings;
+  settings.reference = kBestReference;
+  settings.errors = {1e-5, 0.0};  // which no section meets
+  settings.fit.mostIterations = 2;
+  Log log;
+  std::vector<std::string> told;
+  const ReferencedRun run = fitFromReference(
+      line, settings, log,
+      [&](const FittedRunProgress& state) { told.push_back(state.from.english()); });
+  ASSERT_TRUE(run.fit.run.status.ok()) << run.fit.run.status.message();
+  ASSERT_EQ(run.trials.size(), run.references.models.size() - 1) << "all but the present section";
+  EXPECT_EQ(run.trials.front().reference, keyOf(run.references.models.front().kind));
+  EXPECT_EQ(run.trials.back().reference, "default");
+  EXPECT_TRUE(told.front().empty());
+  EXPECT_EQ(told.back(), "Default model");
+  for (const ReferenceTrial& trial : run.trials) {
+    EXPECT_LE(distanceOf(run.fit.fit), distanceOf(trial.fit)) << trial.reference;
+    EXPECT_NE(run.fit.outcome.english().find(trial.name.english()), std::string::npos);
+  }
+  EXPECT_EQ(line.result->lastInversion->fit->chi2, run.fit.fit.chi2);
+  EXPECT_EQ(line.runs->size(), 1U) << "of which one is kept";
+
+  settings.reference = "default";
+  EXPECT_EQ(fitFromReference(line, settings, log).trials.size(), 1U) << "as the user wants it";
+}
+
+TEST(References, keepTheNearestSoFarWhenTheirTrialsAreStopped) {
+  const testing::ConsoleCapture console;
+  TomoDocument line = twoLayers();
+  FittedSettings settings;
+  settings.reference = kBestReference;
+  settings.errors = {1e-5, 0.0};
+  settings.fit.mostIterations = 2;
+  Log log;
+  bool second = false;
+  const ReferencedRun run = fitFromReference(
+      line, settings, log, [&](const FittedRunProgress& state) { second = !state.from.empty(); },
+      [&] { return second; });
+  EXPECT_TRUE(run.fit.run.stopped);
+  EXPECT_EQ(run.trials.size(), 2U);
+  EXPECT_TRUE(line.result->has_tomographic_info);
+}
+
+TEST(SecondLook, proposesShiftsForAShotThatSeemsLate) {
+  TomoDocument line = twoLayers();
+  for (double& time : line.ttArray.edit()[2].ttMisurati.edit()) time += 0.005;
+  const ReferencedRun run = fitFrom("default", line);
+  ASSERT_TRUE(run.fit.run.status.ok()) << run.fit.run.status.message();
+  ASSERT_EQ(run.fit.lateShots.size(), 1U) << run.fit.outcome;
+  EXPECT_EQ(run.fit.lateShots.front().record, 2U);
+  // With two partners alone the trigger error holds it back.
+  EXPECT_GT(run.fit.lateShots.front().late, 0.0025);
+  EXPECT_LT(run.fit.lateShots.front().late, 0.0055);
+  EXPECT_NE(run.fit.outcome.english().find("Shot 3 seems late by"), std::string::npos);
+  EXPECT_EQ(secondLook(line).seeming().size(), 1U);
+  TomoDocument onTime = twoLayers();
+  EXPECT_TRUE(fitFrom("default", onTime).fit.lateShots.empty());
 }
 
 TEST(SecondLook, namesCellsAtTheLimitsWithTheirPlace) {

@@ -99,10 +99,13 @@ void SecondLookDialog::fillShifts() {
   for (int row = 0; row < table.rowCount(); ++row) {
     const ShotShift& shift = mLook.shifts[static_cast<std::size_t>(row)];
     put(table, row, kShiftShot, QString::number(shift.record + 1));
-    table.item(row, kShiftShot)->setCheckState(shift.clear ? Qt::Checked : Qt::Unchecked);
+    table.item(row, kShiftShot)
+        ->setCheckState(shift.clear && !shift.seeming ? Qt::Checked : Qt::Unchecked);
     put(table, row, kLate, number(kMilliseconds * shift.late, 2));
-    auto* why = new QTableWidgetItem(shift.recording ? QString()
-                                                     : tr("no recording: its picks are shifted"));
+    QString reason;
+    if (!shift.recording) reason = tr("no recording: its picks are shifted");
+    if (shift.seeming) reason = tr("seems so: run again with shifts of shots");
+    auto* why = new QTableWidgetItem(reason);
     table.setItem(row, kWhy, why);
   }
   table.setCurrentCell(-1, -1);
@@ -127,7 +130,9 @@ void SecondLookDialog::showTexts() {
   mUi->suspectsLabel->setText(suspectsText());
   mUi->shiftsPage->setVisible(!mLook.shifts.empty());
   mUi->shiftsLabel->setText(
-      tr("Time shifts of shots that the fit has found; a click shows the shot:"));
+      mLook.seeming().empty()
+          ? tr("Time shifts of shots that the fit has found; a click shows the shot:")
+          : tr("Shots that seem to be shifted in time; a click shows the shot:"));
   mUi->cellsLabel->setText(mPatches.empty()
                                ? tr("No velocity is at a limit, and rays cross all cells shown.")
                                : tr("Ground to look at; a click shows it in the section:"));

@@ -1,5 +1,6 @@
 #include "app/dialogs/progressTomographyDialog.h"
 
+#include "app/MessageText.h"
 #include "app/ToolTips.h"
 #include "ui_progressTomographyDialog.h"
 
@@ -74,6 +75,8 @@ void progressTomographyDialog::beginFit(int mostIterations) {
 void progressTomographyDialog::addFit(const FittedRunProgress& progress) {
   mUi->stateLabel->setText(
       tr("Ends by itself, after %1 iterations at the latest.").arg(progress.most));
+  if (progress.completed == 1 && !progress.from.empty())
+    addLine(tr("Another fit, from: %1").arg(textOf(progress.from)));
   const QLocale locale;
   addLine(tr("Iteration %1: chi-square %2, RMS %3 ms (%4 %)")
               .arg(progress.completed)

@@ -117,12 +117,12 @@ FittedRunResult InversionPresenter::fitBeside(const FittedSettings& settings) {
         inversion.fit(settings, [&](const FittedRunProgress& state) { progress.addFit(state); })
             .fit;
   });
-  if (result.run.iterationsDone == 0) return result;
+  if (!found(result)) return result;
   const bool done = mDesk.tellUnlessDone(edit.commit([&](Survey& survey) {
     survey.document = inversion.copy();
     return Status();
   }));
-  if (!done) result.run.iterationsDone = 0;
+  if (!done) result = {};
   return result;
 }
 
@@ -189,7 +189,7 @@ void InversionPresenter::showResult(const TomographyResult& result) {
   QStringList left;
   const QString completed =
       tr("%n external iteration(s) completed.", nullptr, result.iterationsDone);
-  if (!tellOutcome(result, completed, left)) return;
+  if (!tellOutcome(result, result.iterationsDone > 0, completed, left)) return;
   if (result.misfit.count == 0) {
     if (!left.isEmpty()) showWarning(&mDesk.window, tr("Inversion results"), leftOutBox(left));
     return;
@@ -200,7 +200,7 @@ void InversionPresenter::showResult(const TomographyResult& result) {
 
 void InversionPresenter::showFit(const FittedRunResult& result) {
   QStringList left;
-  if (!tellOutcome(result.run, textOf(result.outcome), left)) return;
+  if (!tellOutcome(result.run, found(result), textOf(result.outcome), left)) return;
   showNote(&mDesk.window, tr("Inversion results"), fitResultsText(result, mDesk.document()),
            leftOutBox(left));
   mSecondLook.showIfAny();
@@ -208,12 +208,12 @@ void InversionPresenter::showFit(const FittedRunResult& result) {
 
 /// Shows the section that was found, if there is one, and says so in the status bar.
 /// \param left out: what took no part \return false when there is nothing to show
-bool InversionPresenter::tellOutcome(const TomographyResult& result, const QString& completed,
-                                     QStringList& left) {
+bool InversionPresenter::tellOutcome(const TomographyResult& result, bool hasSection,
+                                     const QString& completed, QStringList& left) {
   if (!result.status.ok()) {
     mDesk.tellFailure(tr("The inversion could not be completed."), result.status);
   }
-  if (result.iterationsDone == 0) {
+  if (!hasSection) {
     if (result.status.ok()) {
       mDesk.tell(tr("Stopped before anything was found; the section is as it was."));
     }

@@ -45,7 +45,8 @@ class InversionPresenter : public QObject {
   std::vector<QWidget*> documentEditors() const;
   void showResult(const TomographyResult& result);
   void showFit(const FittedRunResult& result);
-  bool tellOutcome(const TomographyResult& result, const QString& completed, QStringList& left);
+  bool tellOutcome(const TomographyResult& result, bool hasSection, const QString& completed,
+                   QStringList& left);
   void closeLater();
 
   Desk& mDesk;

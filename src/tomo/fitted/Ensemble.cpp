@@ -1,6 +1,5 @@
 #include "tomo/fitted/Ensemble.h"
 
-#include "grid/GridBuilder.h"
 #include "tomo/fitted/MemberNoise.h"
 #include "tomo/fitted/ReferenceModels.h"
 #include "tomo/fitted/ShotRays.h"
@@ -15,15 +14,6 @@ namespace talvesk {
 namespace {
 
 constexpr int kMemberIterations = 4;  // most need two: they start where an earlier fit has ended
-
-std::vector<double> defaultModel(const GridGeometry& geometry) {
-  std::vector<double> slownesses;
-  for (std::uint32_t cell = 0; cell < geometry.cellCount(); ++cell) {
-    const std::uint32_t row = cell / geometry.col();
-    slownesses.push_back(1.0 / defaultVelocity(row * geometry.aLato()));
-  }
-  return slownesses;
-}
 
 std::vector<bool> touchedCells(const RayMatrix& rays, std::size_t cells) {
   std::vector<bool> touched(cells, false);
@@ -113,7 +103,11 @@ void Ensemble::findModels() {
     const bool layered = !model.refractors.empty();
     addModel(std::move(model.name), layered, std::move(model.slownesses));
   }
-  addModel(Message::tr("Default model"), false, defaultModel(*mGeometry));
+  std::vector<double> usual = defaultSlownesses(*mGeometry);
+  for (double& slowness : usual) {
+    slowness = std::clamp(slowness, 1.0 / bounds.greatest, 1.0 / bounds.least);
+  }
+  addModel(Message::tr("Default model"), false, std::move(usual));
   addModel(Message::tr("Present section"), false, mOptions.fit.start);
 }
 

@@ -101,6 +101,10 @@ bool FitStepper::advance(FitSection& section, const std::function<bool()>& goOn)
   return true;
 }
 
+bool FitStepper::cut() const {
+  return mLength < kShortStep || mDamping > 0.0;
+}
+
 /// Steps that had to be cut short were too rough for rays that bend with the section. A damping of
 /// their roughness keeps their length where a mere cut would take it from all of the step alike.
 void FitStepper::adaptDamping() {

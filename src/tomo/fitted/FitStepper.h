@@ -17,6 +17,8 @@ class FitStepper {
   /// The same, where a step past a chi-square of 1 ends there. \return false when it was stopped
   bool advance(FitSection& section, const std::function<bool()>& goOn);
 
+  /// Whether the last step was shortened or damped.
+  bool cut() const;
   /// Of the next step, as a share of the weight of the roughness.
   double damping() const { return mDamping; }
   void adaptDamping();

@@ -16,12 +16,18 @@ namespace talvesk {
 
 /// Why a fit has ended.
 enum class FitEnd {
-  kTarget,      ///< chi-square is 1 within 5 %
+  kTarget,      ///< chi-square is 1 within 5 %, a tenth of the picks being suspect at most
   kNoGain,      ///< it is above and does not come down any further
   kFitsBetter,  ///< it is below and stays there however smooth the section is
   kIterations,  ///< none of these within the iterations allowed
   kStopped      ///< by the caller
 };
+
+/// How far a section is from fitting its picks as closely as their errors are: from a chi-square of
+/// 1, and the more the more picks that leaves out.
+double distanceOf(const ChiSquare& fit);
+/// Whether no more picks are suspect than any line has.
+bool fewSuspects(const ChiSquare& fit);
 
 struct FitProgress {
   int iteration = 0;                 ///< completed, from 1
@@ -35,8 +41,8 @@ struct FittedResult {
   /// Failed: nothing else holds. Not so after a stop.
   Status status;
   FitEnd end = FitEnd::kStopped;
-  int iterations = 0;               ///< completed; 0 after an early stop: the section is the start
-  std::vector<double> slownesses;   ///< s/m, of the section whose chi-square is nearest to 1
+  int iterations = 0;  ///< completed; 0: the start is on target, or the fit was stopped early
+  std::vector<double> slownesses;   ///< s/m, of the section that is nearest, see distanceOf()
   std::vector<double> reference;    ///< s/m, that the section was held to
   bool loosened = false;            ///< the reference is a smooth version of the one asked for
   TracedRays traced;                ///< through that section

@@ -142,6 +142,20 @@ void complete(const TomoDocument& document, const FittedSettings& settings, Cloc
   run.elapsedSeconds = settings.asked ? secondsSince(*settings.asked) : run.computingSeconds;
 }
 
+Message withLateShots(const Message& outcome, const std::vector<ShotShift>& shots) {
+  Message text = outcome;
+  for (const ShotShift& shot : shots) {
+    Message line = shot.late > 0.0
+                       ? Message::tr("%1 Shot %2 seems late by %3 ms: run again with shifts.")
+                       : Message::tr("%1 Shot %2 seems early by %3 ms: run again with shifts.");
+    text = std::move(line)
+               .arg(text)
+               .arg(shot.record + 1)
+               .arg(Message::number(1000.0 * std::fabs(shot.late), 2));
+  }
+  return text;
+}
+
 void describeFit(const FitData& data, FittedResult fit, const TomoDocument& document,
                  FittedRunResult& result) {
   for (const std::size_t i : fit.fit.suspects) {
@@ -156,7 +170,8 @@ void describeFit(const FitData& data, FittedResult fit, const TomoDocument& docu
     }
   }
   result.end = fit.end;
-  result.outcome = describe(fit);
+  result.lateShots = secondLook(document).seeming();
+  result.outcome = withLateShots(describe(fit), result.lateShots);
   result.fit = std::move(fit.fit);
   result.chi2History = std::move(fit.chi2History);
   result.lambda = fit.lambda;
@@ -184,13 +199,14 @@ FittedRunResult runOnCopy(TomoDocument& document, const FittedSettings& settings
         log.write("Fitted section, iteration " + std::to_string(state.iteration) + ": chi-square " +
                   std::to_string(state.fit.chi2));
         if (state.iteration == 0 || !progress) return;
-        progress({state.iteration, state.most, secondsSince(start), state.fit, section});
+        progress({state.iteration, state.most, {}, secondsSince(start), state.fit, section});
       },
       [&] { return !cancelled || !cancelled(); });
   result.run.status = fit.status;
   result.run.stopped = fit.end == FitEnd::kStopped;
   result.run.iterationsDone = fit.status.ok() ? fit.iterations : 0;
-  if (result.run.iterationsDone == 0) return result;
+  result.end = fit.end;
+  if (!found(result)) return result;
 
   InversionRecord record = recordOf(settings, fit, document);
   record.fit->shifts = shiftsOf(data, fit, document);
@@ -212,6 +228,11 @@ FittedRunResult runOnCopy(TomoDocument& document, const FittedSettings& settings
 
 }  // namespace
 
+bool found(const FittedRunResult& result) {
+  if (!result.run.status.ok()) return false;
+  return result.run.iterationsDone > 0 || result.end == FitEnd::kTarget;
+}
+
 FittedRunResult runFittedInversion(TomoDocument& document, const FittedSettings& settings, Log& log,
                                    const std::function<void(const FittedRunProgress&)>& progress,
                                    const std::function<bool()>& cancelled) {
@@ -221,7 +242,7 @@ FittedRunResult runFittedInversion(TomoDocument& document, const FittedSettings&
   try {
     TomoDocument copy = document;
     result = runOnCopy(copy, settings, log, progress, cancelled);
-    if (result.run.status.ok() && result.run.iterationsDone > 0) document = std::move(copy);
+    if (result.run.status.ok() && found(result)) document = std::move(copy);
   } catch (const std::exception& error) {
     result = {};
     result.run.status = Status::failure(Message::tr("The inversion failed: %1").arg(error.what()));

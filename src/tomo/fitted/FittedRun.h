@@ -27,6 +27,7 @@ struct FittedSettings {
 struct FittedRunProgress {
   int completed = 0;
   int most = 0;  ///< iterations allowed; few fits need them
+  Message from;  ///< the model that this fit has started from, after others that did not convince
   double elapsedSeconds = 0.0;
   ChiSquare fit;          ///< through the section of this iteration
   SectionMisfit section;  ///< the same in times
@@ -45,10 +46,14 @@ struct FittedRunResult {
   std::optional<KnownFit> known;      ///< with what it was held to; none: with nothing
   int kept = 0;                       ///< iteration that found the section; 0 is the start
   std::vector<SuspectPick> suspects;  ///< in the order of the records
+  std::vector<ShotShift> lateShots;   ///< that seem so, where no shifts were asked for
   /// Seconds per record, late is positive; not a number for shots that took no part; empty when
   /// none were asked for. A shot's times come true when its time shift grows by as much.
   std::vector<double> statics;
 };
+
+/// Whether the document holds the section of the run: not after a failure or an early stop.
+bool found(const FittedRunResult& result);
 
 /// Fits the section of a document, which must hold a grid, to its picks, and installs it with rays,
 /// times, coverage, information density and a record of the run. Picks that the grid does not reach

@@ -1,9 +1,10 @@
 #include "tomo/fitted/ReferenceModels.h"
 
+#include "grid/GridBuilder.h"
 #include "numerics/Medians.h"
+#include "numerics/RobustFit.h"
 #include "tomo/fitted/GradientProfile.h"
 #include "tomo/fitted/LayeredReading.h"
-#include "numerics/RobustFit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -211,6 +212,15 @@ StartFit fitOf(const FitData& data, const ReferenceModel& model, std::vector<dou
 }
 
 }  // namespace
+
+std::vector<double> defaultSlownesses(const GridGeometry& geometry) {
+  std::vector<double> slownesses;
+  for (std::uint32_t row = 0; row < geometry.righe(); ++row) {
+    slownesses.insert(slownesses.end(), geometry.col(),
+                      1.0 / defaultVelocity(row * geometry.aLato()));
+  }
+  return slownesses;
+}
 
 Message nameOf(ReferenceKind kind) {
   switch (kind) {

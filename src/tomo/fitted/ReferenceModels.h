@@ -49,6 +49,9 @@ struct StartFit {
   std::vector<double> times;  ///< seconds by rays, per pick
 };
 
+/// Of the model that a new grid has, s/m per cell.
+std::vector<double> defaultSlownesses(const GridGeometry& geometry);
+
 /// Slownesses to start from or to be held to, with what they were made of.
 struct ReferenceModel {
   ReferenceKind kind = ReferenceKind::kGiven;

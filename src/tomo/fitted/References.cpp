@@ -1,6 +1,5 @@
 #include "tomo/fitted/References.h"
 
-#include "grid/GridBuilder.h"
 #include "model/GroundModel.h"
 #include "model/TomoDocument.h"
 #include "tomo/ForwardPass.h"
@@ -53,14 +52,6 @@ ReferenceModel givenModel(ReferenceKind kind, std::vector<double> slownesses,
   return model;
 }
 
-std::vector<double> defaultSlownesses(const Grid& grid) {
-  std::vector<double> slownesses;
-  for (std::uint32_t row = 0; row < grid.righe(); ++row) {
-    slownesses.insert(slownesses.end(), grid.col(), 1.0 / defaultVelocity(row * grid.aLato()));
-  }
-  return slownesses;
-}
-
 Status unsupported(const References& references, const std::string& key) {
   const std::optional<ReferenceKind> kind = referenceKindOf(key);
   if (!kind) return Status::failure(Message::tr("There is no reference model \"%1\".").arg(key));
@@ -78,6 +69,127 @@ Status unsupported(const References& references, const std::string& key) {
   return Status::failure(
       Message::tr("The picks do not support the reference model \"%1\".").arg(nameOf(*kind)));
 }
+
+constexpr int kTrialIterations = 15;  // of each of several fits
+
+/// What "best" stands for, in the order in which it is tried; else the model of the key.
+std::vector<const ReferenceModel*> candidatesOf(const References& references,
+                                                const std::string& key) {
+  const ReferenceModel* first = find(references, key);
+  if (first == nullptr) return {};
+  std::vector<const ReferenceModel*> candidates{first};
+  if (key != kBestReference) return candidates;
+  for (const ReferenceModel& model : references.models) {
+    const bool fits = ofPicks(model) || model.kind == ReferenceKind::kDefault;
+    if (fits && &model != first) candidates.push_back(&model);
+  }
+  return candidates;
+}
+
+/// Whether a fit leaves nothing to be hoped from another model.
+bool convincing(const FittedRunResult& fit) {
+  const bool fits = fit.end == FitEnd::kTarget || fit.end == FitEnd::kFitsBetter;
+  return fits && fewSuspects(fit.fit);
+}
+
+bool nearer(const FittedRunResult& a, const FittedRunResult& b) {
+  const bool reached = a.end == FitEnd::kTarget;
+  if (reached != (b.end == FitEnd::kTarget)) return reached;
+  if (reached) return a.fit.suspects.size() < b.fit.suspects.size();
+  return distanceOf(a.fit) < distanceOf(b.fit);
+}
+
+/// Names the fits that another one was better than.
+Message withOthers(const Message& outcome, const std::vector<ReferenceTrial>& trials,
+                   const std::string& kept) {
+  Message others;
+  Message taken;
+  for (const ReferenceTrial& trial : trials) {
+    if (trial.reference == kept) {
+      taken = trial.name;
+      continue;
+    }
+    const Message one = Message::tr("%1: chi-square %2, suspects %3")
+                            .arg(trial.name)
+                            .arg(Message::number(trial.fit.chi2, 3))
+                            .arg(trial.fit.suspects.size());
+    others = others.empty() ? one : Message::tr("%1; %2").arg(others).arg(one);
+  }
+  if (others.empty()) return outcome;
+  return Message::tr(
+             "%1 The fit from the model \"%2\" is kept, as those from others come less near "
+             "to the picks: %3.")
+      .arg(outcome)
+      .arg(taken)
+      .arg(others);
+}
+
+/// Fits from one model after the other until one convinces; the document gets the nearest.
+class Trials {
+ public:
+  Trials(TomoDocument& document, const FittedSettings& settings, Log& log,
+         const std::function<void(const FittedRunProgress&)>& progress,
+         const std::function<bool()>& cancelled)
+      : mDocument(document),
+        mKept(document),
+        mSettings(settings),
+        mLog(log),
+        mProgress(progress),
+        mCancelled(cancelled) {}
+
+  void make(const std::vector<const ReferenceModel*>& candidates, ReferencedRun& run) {
+    for (const ReferenceModel* model : candidates) {
+      if (!tryOne(*model, candidates.size() > 1, run)) break;
+    }
+    if (run.trials.empty()) return;
+    mDocument = std::move(mKept);
+    run.fit.outcome = withOthers(run.fit.outcome, run.trials, run.fit.reference);
+  }
+
+ private:
+  /// \return whether another one is to be tried
+  bool tryOne(const ReferenceModel& model, bool several, ReferencedRun& run) {
+    FittedSettings settings = mSettings;
+    settings.reference = keyOf(model.kind);
+    settings.fit.start = model.slownesses;
+    settings.fit.reference = model.slownesses;
+    if (several)
+      settings.fit.mostIterations = std::min(settings.fit.mostIterations, kTrialIterations);
+    TomoDocument copy = mDocument;
+    const bool first = run.trials.empty();
+    FittedRunResult fit = runFittedInversion(
+        copy, settings, mLog,
+        [&](FittedRunProgress state) {
+          if (!mProgress) return;
+          if (!first) state.from = model.name;
+          mProgress(state);
+        },
+        mCancelled);
+    const bool stopped = fit.run.stopped;
+    const bool goOn = found(fit) && !stopped && !convincing(fit);
+    if (found(fit)) {
+      run.trials.push_back(
+          {settings.reference, model.name, fit.end, fit.fit, fit.run.iterationsDone});
+      if (first || nearer(fit, run.fit)) {
+        run.fit = std::move(fit);
+        mKept = std::move(copy);
+      }
+    } else if (first) {
+      run.fit = std::move(fit);
+    } else {
+      if (!fit.run.status.ok()) mLog.write(fit.run.status.text());
+    }
+    run.fit.run.stopped = stopped;
+    return goOn;
+  }
+
+  TomoDocument& mDocument;
+  TomoDocument mKept;
+  const FittedSettings& mSettings;
+  Log& mLog;
+  const std::function<void(const FittedRunProgress&)>& mProgress;
+  const std::function<bool()>& mCancelled;
+};
 
 }  // namespace
 
@@ -119,7 +231,7 @@ std::optional<References> referencesOf(const TomoDocument& document, const Fitte
   ReferenceModels made = referenceModels(onTime, grid.geometry(), bounds);
   References references{std::move(made.models), std::move(made.refused)};
   std::vector<ReferenceModel>& models = references.models;
-  models.push_back(givenModel(ReferenceKind::kDefault, defaultSlownesses(grid), bounds));
+  models.push_back(givenModel(ReferenceKind::kDefault, defaultSlownesses(grid.geometry()), bounds));
   models.push_back(givenModel(ReferenceKind::kPresent, grid.slownesses(), bounds));
   for (const GivenModel& given : settings.given) {
     models.push_back(givenModel(given.kind, given.slownesses, bounds));
@@ -130,7 +242,7 @@ std::optional<References> referencesOf(const TomoDocument& document, const Fitte
   return references;
 }
 
-ReferencedRun fitFromReference(TomoDocument& document, FittedSettings settings, Log& log,
+ReferencedRun fitFromReference(TomoDocument& document, const FittedSettings& settings, Log& log,
                                const std::function<void(const FittedRunProgress&)>& progress,
                                const std::function<bool()>& cancelled) {
   ReferencedRun run;
@@ -153,15 +265,13 @@ ReferencedRun fitFromReference(TomoDocument& document, FittedSettings settings, 
     result.run.status = Status::failure(Message::tr("The inversion failed: %1").arg(error.what()));
     return run;
   }
-  const ReferenceModel* model = find(run.references, settings.reference);
-  if (model == nullptr) {
+  const std::vector<const ReferenceModel*> candidates =
+      candidatesOf(run.references, settings.reference);
+  if (candidates.empty()) {
     result.run.status = unsupported(run.references, settings.reference);
     return run;
   }
-  settings.reference = keyOf(model->kind);
-  settings.fit.start = model->slownesses;
-  settings.fit.reference = model->slownesses;
-  result = runFittedInversion(document, settings, log, progress, cancelled);
+  Trials(document, settings, log, progress, cancelled).make(candidates, run);
   return run;
 }
 

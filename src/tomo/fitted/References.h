@@ -36,15 +36,28 @@ const ReferenceModel* find(const References& references, const std::string& key)
 std::optional<References> referencesOf(const TomoDocument& document, const FittedSettings& settings,
                                        const std::function<bool()>& goOn);
 
+/// How one of several fits has ended.
+struct ReferenceTrial {
+  std::string reference;  ///< key of the model that it started from
+  Message name;
+  FitEnd end = FitEnd::kStopped;
+  ChiSquare fit;
+  int iterations = 0;
+};
+
 /// A fit with what it could have started from.
 struct ReferencedRun {
   FittedRunResult fit;  ///< its reference is the key of the model that was taken, never "best"
   References references;
+  std::vector<ReferenceTrial> trials;  ///< in the order in which they were made; one at least
 };
 
 /// Fits the section of a document as runFittedInversion() does, from the model that the settings
 /// call `reference` and held to it. Fails, naming the reason, where the picks do not support it.
-ReferencedRun fitFromReference(TomoDocument& document, FittedSettings settings, Log& log,
+/// With "best", a fit that does not reach its target, or only by leaving many picks out, is
+/// followed by fits from the other models of the picks and from the default model, of 15 iterations
+/// at most each: the nearest is kept, see distanceOf(). A stop keeps the nearest so far.
+ReferencedRun fitFromReference(TomoDocument& document, const FittedSettings& settings, Log& log,
                                const std::function<void(const FittedRunProgress&)>& progress = {},
                                const std::function<bool()>& cancelled = {});
 

@@ -13,8 +13,11 @@ namespace {
 constexpr int kMostRounds = 30;
 constexpr double kSettled = 1e-7;  // seconds
 constexpr std::size_t kLeastPartners = 2;
-constexpr double kStandsOut = 4.0;  // errors of what the times there and back tell of a shot
-constexpr double kShortest = 0.1;   // of its error: what is left of a time at least
+constexpr double kStandsOut = 4.0;       // errors of what the times there and back tell of a shot
+constexpr double kErrorOfMedian = 1.86;  // times the median size of normal errors, over the root
+                                         // of their number
+constexpr double kLeastPicks = 4.0;      // of a shot that is judged by what times leave of them
+constexpr double kShortest = 0.1;        // of its error: what is left of a time at least
 
 /// Calls visit(shot, pick, seconds that the pick is later than its computed time).
 template <typename Visit>
@@ -163,6 +166,26 @@ std::vector<double> reciprocalShifts(const FitData& data, double triggerError) {
     const bool told = delays[s].size() >= kLeastPartners;
     const double usually = std::max(triggerError, kStandsOut * error);
     if (!told || !(std::fabs(shifts[s]) > usually)) shifts[s] = 0.0;
+  }
+  return shifts;
+}
+
+std::vector<double> seemingShifts(const FitData& data, const std::vector<double>& times,
+                                  double triggerError) {
+  std::vector<double> shifts = reciprocalShifts(data, triggerError);
+  const std::vector<double> delays = medianDelays(data, times);
+  const double usual = medianOf(delays, 0.0);
+  for (std::size_t s = 0; s < shifts.size(); ++s) {
+    const FitShot& shot = data.shots[s];
+    std::vector<double> off;
+    for (std::size_t i = shot.firstPick; i < shot.firstPick + shot.receivers.size(); ++i) {
+      off.push_back(std::fabs(data.picks[i].time - times[i] - delays[s]));
+    }
+    const double count = static_cast<double>(off.size());
+    const double error = kErrorOfMedian * medianOf(std::move(off), 0.0) / std::sqrt(count);
+    const double late = delays[s] - usual;
+    const bool standsOut = std::fabs(late) > std::max(triggerError, kStandsOut * error);
+    if (shifts[s] == 0.0 && count >= kLeastPicks && standsOut) shifts[s] = late;
   }
   return shifts;
 }

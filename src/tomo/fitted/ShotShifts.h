@@ -30,6 +30,12 @@ std::vector<double> shotShifts(const FitData& data, const std::vector<double>& t
 /// \return seconds per shot of the data, late is positive
 std::vector<double> reciprocalShifts(const FitData& data, double triggerError);
 
+/// The same, also by what times leave of a shot's picks as a whole: of shots that others tell
+/// little of, and as much of a shift as a section that knows of none has not made up for. \param
+/// times computed, seconds per pick
+std::vector<double> seemingShifts(const FitData& data, const std::vector<double>& times,
+                                  double triggerError);
+
 /// The same picks as if no shot stood out so. Models that are read from the picks would else have a
 /// hollow under a shot that is late.
 FitData picksOnTime(FitData data, double triggerError);

@@ -94,5 +94,28 @@ TEST(ShotShifts, nothingIsSaidOfShotsThatNoOtherOneTellsOf) {
   EXPECT_TRUE(picksOnTime(line.data, kTriggerError).picks.empty());
 }
 
+/// Shots off the end of a spread have no times there and back.
+TEST(ShotShifts, seemToBeThereWhereOnlyTheResidualsTell) {
+  const auto ground = gradientTimes(400.0, 50.0);
+  FitLine line = fitLine({}, ground);
+  for (std::size_t s = 0; s < line.data.shots.size(); ++s) {
+    FitShot& shot = line.data.shots[s];
+    shot.source = -1.0 - static_cast<double>(s);
+    for (std::size_t k = 0; k < shot.receivers.size(); ++k) {
+      line.data.picks[shot.firstPick + k].time = ground(shot.source, shot.receivers[k]);
+    }
+  }
+  std::vector<double> times;
+  for (const FitPick& pick : line.data.picks) times.push_back(pick.time);
+  const std::vector<double> none(line.data.shots.size(), 0.0);
+  EXPECT_EQ(seemingShifts(line.data, times, kTriggerError), none);
+  delay(line, kLateShot, kLate);
+  EXPECT_EQ(reciprocalShifts(line.data, kTriggerError), none) << "or the test is lame";
+  std::vector<double> expected = none;
+  expected[kLateShot] = kLate;
+  const std::vector<double> seeming = seemingShifts(line.data, times, kTriggerError);
+  for (std::size_t s = 0; s < expected.size(); ++s) EXPECT_NEAR(seeming[s], expected[s], 1e-9);
+}
+
 }  // namespace
 }  // namespace talvesk
