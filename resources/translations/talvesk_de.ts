@@ -358,6 +358,109 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::CompareLayersDialog</name>
+    <message>
+        <source>Compare layers with the section</source>
+        <translation>Schichten mit dem Schnitt vergleichen</translation>
+    </message>
+    <message>
+        <source>&amp;Refractor:</source>
+        <translation>&amp;Refraktor:</translation>
+    </message>
+    <message>
+        <source>The layer that begins at the refractor</source>
+        <translation>Die Schicht, die am Refraktor beginnt</translation>
+    </message>
+    <message>
+        <source>In the &amp;section:</source>
+        <translation>Im &amp;Schnitt:</translation>
+    </message>
+    <message>
+        <source>What stands for the refractor in the section: the shallowest place where a velocity is reached, or where the logarithm of velocity grows most with depth. Of two refractors the steepest gradient is looked for on their own sides of the middle between both.</source>
+        <translation>Was im Schnitt für den Refraktor steht: die flachste Stelle, an der eine Geschwindigkeit erreicht wird, oder die, an der der Logarithmus der Geschwindigkeit mit der Tiefe am stärksten wächst. Bei zwei Refraktoren wird der steilste Gradient jeweils auf der eigenen Seite der Mitte zwischen beiden gesucht.</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Steepest gradient</source>
+        <translation>Steilster Gradient</translation>
+    </message>
+    <message>
+        <source>Velocity that stands for the refractor</source>
+        <translation>Geschwindigkeit, die für den Refraktor steht</translation>
+    </message>
+    <message>
+        <source>Begins with the middle between the velocities of the layers above and below</source>
+        <translation>Beginnt mit der Mitte zwischen den Geschwindigkeiten der Schichten darüber und darunter</translation>
+    </message>
+    <message>
+        <source> m/s</source>
+        <translation> m/s</translation>
+    </message>
+    <message>
+        <source>Depths of the refractor at the geophones</source>
+        <translation>Tiefen des Refraktors an den Geophonen</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; a difference is section less layers</source>
+        <translation>Tiefen unter der Oberfläche; eine Differenz ist Schnitt minus Schichten</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>Entfernung (m)</translation>
+    </message>
+    <message>
+        <source>Layers (m)</source>
+        <translation>Schichten (m)</translation>
+    </message>
+    <message>
+        <source>Section (m)</source>
+        <translation>Schnitt (m)</translation>
+    </message>
+    <message>
+        <source>Difference (m)</source>
+        <translation>Differenz (m)</translation>
+    </message>
+    <message>
+        <source>Save section and lines as PNG, SVG or PDF</source>
+        <translation>Schnitt und Linien als PNG, SVG oder PDF speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>&amp;Bild speichern ...</translation>
+    </message>
+    <message>
+        <source>Save the depths at the geophones as CSV</source>
+        <translation>Die Tiefen an den Geophonen als CSV speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>&amp;Tabelle speichern ...</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Schicht %1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>No geophone has both depths. Another velocity may be reached below the line.</source>
+        <translation>Kein Geophon hat beide Tiefen. Vielleicht wird unter der Messlinie eine andere Geschwindigkeit erreicht.</translation>
+    </message>
+    <message>
+        <source>Section less layers: %1 m on average, RMS %2 m, at %3 of %4 geophones.</source>
+        <translation>Schnitt minus Schichten: im Mittel %1 m, RMS %2 m, an %3 von %4 Geophonen.</translation>
+    </message>
+    <message>
+        <source>The others lack a depth.</source>
+        <translation>Den anderen fehlt eine Tiefe.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CompareRunsDialog</name>
     <message>
         <source>Compare inversion runs</source>
@@ -5884,10 +5987,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>mit %1 ms weniger läge der Pick von Empfänger %2 vor dem Schuss</translation>
     </message>
     <message>
-        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
-        <translation>Der Schnitt passt im Rahmen der Fehler zu den Picks: Chi-Quadrat %1. Das Modell, mit dem er begann, passt noch besser, Chi-Quadrat %2, und wurde so weit geglättet, wie die Fehler es zulassen. Geben Sie %3-mal so große Fehler an, damit es scharf bleibt.</translation>
-    </message>
-    <message>
         <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
         <translation>%1 Das Modell, mit dem er begann, war zu weit von den Picks entfernt, Chi-Quadrat %2, um den Schnitt an dessen scharfe Sprünge zu binden: Sie wurden zuerst geglättet.</translation>
     </message>
@@ -5946,6 +6045,106 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Mean residual over pick error</source>
         <translation>Mittleres Residuum in Pickfehlern</translation>
+    </message>
+    <message>
+        <source>Start from layers</source>
+        <translation>Mit Schichten beginnen</translation>
+    </message>
+    <message>
+        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
+        <translation>Eine Schicht hat eine Geschwindigkeit von %1 m/s; das ist keine Geschwindigkeit des Untergrunds.</translation>
+    </message>
+    <message>
+        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
+        <translation>Die Schicht, die bei %1 m beginnt, überlappt eine andere; ordnen Sie die Schichten nach der Tiefe, ohne Überlappung.</translation>
+    </message>
+    <message>
+        <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
+        <translation>Der Schnitt passt im Rahmen ihrer Fehler zu allen der %1 Picks bis auf einen: Chi-Quadrat %2.</translation>
+    </message>
+    <message>
+        <source>The section fits all but %1 of the %2 picks to their errors: chi-square %3.</source>
+        <translation>Der Schnitt passt im Rahmen ihrer Fehler zu allen bis auf %1 der %2 Picks: Chi-Quadrat %3.</translation>
+    </message>
+    <message>
+        <source>target not reached: %1 of the %2 picks are off by more than five of their errors, even if the others leave a chi-square of %3. Look at them first: shots may be shifted in time, or picks lie on another wave.</source>
+        <translation>Ziel nicht erreicht: %1 der %2 Picks liegen um mehr als fünf ihrer Fehler daneben, auch wenn die übrigen ein Chi-Quadrat von %3 ergeben. Sehen Sie sich diese zuerst an: Vielleicht sind Schüsse zeitlich verschoben, oder Picks liegen auf einer anderen Welle.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>%1 Das Modell, mit dem er begann, passt noch besser, Chi-Quadrat %2, und wurde so weit geglättet, wie die Fehler es zulassen. Geben Sie %3-mal so große Fehler an, damit es scharf bleibt.</translation>
+    </message>
+    <message>
+        <source>%1 Shot %2 seems late by %3 ms: run again with shifts.</source>
+        <translation>%1 Schuss %2 scheint um %3 ms zu spät: mit Verschiebungen neu rechnen.</translation>
+    </message>
+    <message>
+        <source>%1 Shot %2 seems early by %3 ms: run again with shifts.</source>
+        <translation>%1 Schuss %2 scheint um %3 ms zu früh: mit Verschiebungen neu rechnen.</translation>
+    </message>
+    <message>
+        <source>%1: chi-square %2, suspects %3</source>
+        <translation>%1: Chi-Quadrat %2, verdächtige Picks %3</translation>
+    </message>
+    <message>
+        <source>%1 The fit from the model &quot;%2&quot; is kept, as those from others come less near to the picks: %3.</source>
+        <translation>%1 Behalten wird die Anpassung, die mit dem Modell „%2“ begann, denn die mit anderen kommen den Picks weniger nahe: %3.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no depth at %2 of %3 receivers; it is taken from their neighbours.</source>
+        <translation>Schicht %1 hat an %2 von %3 Empfängern keine Tiefe; sie wird von deren Nachbarn übernommen.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no velocity at %2 of %3 receivers; it is taken from their neighbours.</source>
+        <translation>Schicht %1 hat an %2 von %3 Empfängern keine Geschwindigkeit; sie wird von deren Nachbarn übernommen.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has a negative depth at %2 of %3 receivers; it begins at the surface there.</source>
+        <translation>Schicht %1 hat an %2 von %3 Empfängern eine negative Tiefe; sie beginnt dort an der Oberfläche.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile; build the profiles of the refraction first.</source>
+        <translation>Es gibt kein Schichtprofil; erstellen Sie zuerst die Profile der Refraktion.</translation>
+    </message>
+    <message>
+        <source>The first layer of the layered profile has no velocity. Mark direct waves as layer 1 and build the profiles again.</source>
+        <translation>Die erste Schicht des Schichtprofils hat keine Geschwindigkeit. Ordnen Sie direkte Wellen der Schicht 1 zu und erstellen Sie die Profile neu.</translation>
+    </message>
+    <message>
+        <source>The first refractor of the layered profile has no depth or no velocity at any receiver.</source>
+        <translation>Der erste Refraktor des Schichtprofils hat an keinem Empfänger eine Tiefe oder an keinem eine Geschwindigkeit.</translation>
+    </message>
+    <message>
+        <source>Layer 3 has no depth or no velocity at any receiver; the ground ends with layer 2.</source>
+        <translation>Schicht 3 hat an keinem Empfänger eine Tiefe oder an keinem eine Geschwindigkeit; der Untergrund endet mit Schicht 2.</translation>
+    </message>
+    <message>
+        <source>Layer 3 begins above layer 2 at %1 of %2 receivers; layer 2 is left out there.</source>
+        <translation>Schicht 3 beginnt an %1 von %2 Empfängern über Schicht 2; Schicht 2 wird dort weggelassen.</translation>
+    </message>
+    <message>
+        <source>Layer %1 is known from %2 to %3 m; its depth and velocity stay as they are there to the ends of the grid.</source>
+        <translation>Schicht %1 ist von %2 bis %3 m bekannt; bis zu den Enden des Gitters bleiben Tiefe und Geschwindigkeit wie dort.</translation>
+    </message>
+    <message>
+        <source>The grid ends above layer %1 in %2 of %3 columns.</source>
+        <translation>Das Gitter endet in %2 von %3 Spalten über Schicht %1.</translation>
+    </message>
+    <message>
+        <source>The layered profile has no depths of layer %1.</source>
+        <translation>Das Schichtprofil hat keine Tiefen von Schicht %1.</translation>
+    </message>
+    <message>
+        <source>Layer %1, layered profile</source>
+        <translation>Schicht %1, Schichtprofil</translation>
+    </message>
+    <message>
+        <source>Section, steepest gradient</source>
+        <translation>Schnitt, steilster Gradient</translation>
+    </message>
+    <message>
+        <source>Section, %1 m/s</source>
+        <translation>Schnitt, %1 m/s</translation>
     </message>
 </context>
 <context>
@@ -8553,6 +8752,14 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
         <translation>%1 (%2 bis %3 m, Tiefe %4 bis %5 m)</translation>
     </message>
+    <message>
+        <source>seems so: run again with shifts of shots</source>
+        <translation>anscheinend: mit Verschiebungen der Schüsse neu rechnen</translation>
+    </message>
+    <message>
+        <source>Shots that seem to be shifted in time; a click shows the shot:</source>
+        <translation>Schüsse, die zeitlich verschoben scheinen; ein Klick zeigt den Schuss:</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SectionView</name>
@@ -8789,6 +8996,41 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>&amp;Remove rows</source>
         <translation>Zeilen ent&amp;fernen</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StartLayersDialog</name>
+    <message>
+        <source>Start from layers</source>
+        <translation>Mit Schichten beginnen</translation>
+    </message>
+    <message>
+        <source>Gives every cell of the grid the velocity of the layer of the profile that its middle lies in.</source>
+        <translation>Gibt jeder Zelle des Gitters die Geschwindigkeit der Schicht des Profils, in der ihre Mitte liegt.</translation>
+    </message>
+    <message>
+        <source>&amp;Sharp layers</source>
+        <translation>&amp;Scharfe Schichtgrenzen</translation>
+    </message>
+    <message>
+        <source>Spreads the jump from layer to layer evenly, half of it above the refractor and half below</source>
+        <translation>Verteilt den Sprung von Schicht zu Schicht gleichmäßig, zur Hälfte über dem Refraktor und zur Hälfte darunter</translation>
+    </message>
+    <message>
+        <source>&amp;Graded over a thickness of</source>
+        <translation>&amp;Gleichmäßiger Übergang über</translation>
+    </message>
+    <message>
+        <source>Thickness of a graded jump</source>
+        <translation>Mächtigkeit eines Übergangs</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Die Ergebnisse der letzten Inversion werden entfernt („Rückgängig“ bringt sie zurück).</translation>
     </message>
 </context>
 <context>
@@ -10872,6 +11114,38 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
         <translation>Geben Sie bis zu %1 Zahlen über 0 mit Semikolons dazwischen an: 800; 1500</translation>
     </message>
+    <message>
+        <source>Start from layers ...</source>
+        <translation>Mit Schichten beginnen ...</translation>
+    </message>
+    <message>
+        <source>Give the cells of the grid the velocities of the layered profile, for an inversion to start from</source>
+        <translation>Gibt den Zellen des Gitters die Geschwindigkeiten des Schichtprofils, mit denen eine Inversion beginnt</translation>
+    </message>
+    <message>
+        <source>Compare layers with the section ...</source>
+        <translation>Schichten mit dem Schnitt vergleichen ...</translation>
+    </message>
+    <message>
+        <source>Read the depth of a refractor from the section and see how far it is from that of the layered profile</source>
+        <translation>Liest die Tiefe eines Refraktors aus dem Schnitt und zeigt, wie weit sie von der des Schichtprofils abweicht</translation>
+    </message>
+    <message>
+        <source>The grid has the velocities of the layered profile.</source>
+        <translation>Das Gitter hat die Geschwindigkeiten des Schichtprofils.</translation>
+    </message>
+    <message>
+        <source>Save picture of layers and section</source>
+        <translation>Bild von Schichten und Schnitt speichern</translation>
+    </message>
+    <message>
+        <source>Save table of layers and section</source>
+        <translation>Tabelle von Schichten und Schnitt speichern</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>Tabelle (*.csv)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -11700,6 +11974,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <source>Stops, with the best section so far.</source>
         <translation>Hält an, mit dem bisher besten Schnitt.</translation>
     </message>
+    <message>
+        <source>Another fit, from: %1</source>
+        <translation>Weitere Anpassung, beginnend mit: %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::runTomography_Dialog</name>
@@ -11897,6 +12175,50 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>Die Ergebnisse der letzten Inversion werden entfernt („Rückgängig“ bringt sie zurück).</translation>
+    </message>
+    <message>
+        <source>In the &amp;grid:</source>
+        <translation>Im &amp;Gitter:</translation>
+    </message>
+    <message>
+        <source>How layers become velocities of cells. A spline rounds jumps off and swings beside great ones; sharp layers keep them; graded layers spread every jump evenly over a thickness.</source>
+        <translation>Wie aus Schichten Geschwindigkeiten der Zellen werden. Ein Spline rundet Sprünge ab und schwingt neben großen über; scharfe Schichtgrenzen behalten sie bei; gleichmäßige Übergänge verteilen jeden Sprung über eine Mächtigkeit.</translation>
+    </message>
+    <message>
+        <source>Spline through the layers</source>
+        <translation>Spline durch die Schichten</translation>
+    </message>
+    <message>
+        <source>Sharp layers</source>
+        <translation>Scharfe Schichtgrenzen</translation>
+    </message>
+    <message>
+        <source>Graded layers</source>
+        <translation>Gleichmäßige Übergänge</translation>
+    </message>
+    <message>
+        <source>Thickness of a graded jump</source>
+        <translation>Mächtigkeit eines Übergangs</translation>
+    </message>
+    <message>
+        <source>Thickness over which a jump between two layers is spread</source>
+        <translation>Mächtigkeit, über die ein Sprung zwischen zwei Schichten verteilt wird</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>Puts the layers into the grid as they are, without a spline</source>
+        <translation>Übernimmt die Schichten unverändert in das Gitter, ohne Spline</translation>
+    </message>
+    <message>
+        <source>Use &amp;sharp layers</source>
+        <translation>&amp;Scharfe Grenzen verwenden</translation>
+    </message>
+    <message>
+        <source>Do you want sharp layers instead? They need no spline.</source>
+        <translation>Möchten Sie stattdessen scharfe Schichtgrenzen? Sie brauchen keinen Spline.</translation>
     </message>
 </context>
 <context>
