@@ -358,6 +358,109 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
 </context>
 <context>
+    <name>talvesk::CompareLayersDialog</name>
+    <message>
+        <source>Compare layers with the section</source>
+        <translation>Comparar capas con la sección</translation>
+    </message>
+    <message>
+        <source>&amp;Refractor:</source>
+        <translation>&amp;Refractor:</translation>
+    </message>
+    <message>
+        <source>The layer that begins at the refractor</source>
+        <translation>La capa que empieza en el refractor</translation>
+    </message>
+    <message>
+        <source>In the &amp;section:</source>
+        <translation>En la &amp;sección:</translation>
+    </message>
+    <message>
+        <source>What stands for the refractor in the section: the shallowest place where a velocity is reached, or where the logarithm of velocity grows most with depth. Of two refractors the steepest gradient is looked for on their own sides of the middle between both.</source>
+        <translation>Qué representa al refractor en la sección: el punto más somero en que se alcanza una velocidad, o aquel en que el logaritmo de la velocidad crece más con la profundidad. Si hay dos refractores, el gradiente máximo de cada uno se busca a su lado del punto medio entre ambos.</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Steepest gradient</source>
+        <translation>Gradiente máximo</translation>
+    </message>
+    <message>
+        <source>Velocity that stands for the refractor</source>
+        <translation>Velocidad que representa al refractor</translation>
+    </message>
+    <message>
+        <source>Begins with the middle between the velocities of the layers above and below</source>
+        <translation>Empieza en el valor medio entre las velocidades de las capas superior e inferior</translation>
+    </message>
+    <message>
+        <source> m/s</source>
+        <translation> m/s</translation>
+    </message>
+    <message>
+        <source>Depths of the refractor at the geophones</source>
+        <translation>Profundidades del refractor en los geófonos</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; a difference is section less layers</source>
+        <translation>Profundidades bajo la superficie; la diferencia es sección menos capas</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>Distancia (m)</translation>
+    </message>
+    <message>
+        <source>Layers (m)</source>
+        <translation>Capas (m)</translation>
+    </message>
+    <message>
+        <source>Section (m)</source>
+        <translation>Sección (m)</translation>
+    </message>
+    <message>
+        <source>Difference (m)</source>
+        <translation>Diferencia (m)</translation>
+    </message>
+    <message>
+        <source>Save section and lines as PNG, SVG or PDF</source>
+        <translation>Guarda la sección y las líneas como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>Guardar &amp;imagen ...</translation>
+    </message>
+    <message>
+        <source>Save the depths at the geophones as CSV</source>
+        <translation>Guarda las profundidades en los geófonos como CSV</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Guardar &amp;tabla ...</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Capa %1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>desconocida</translation>
+    </message>
+    <message>
+        <source>No geophone has both depths. Another velocity may be reached below the line.</source>
+        <translation>Ningún geófono tiene ambas profundidades. Quizá otra velocidad sí se alcance bajo la línea.</translation>
+    </message>
+    <message>
+        <source>Section less layers: %1 m on average, RMS %2 m, at %3 of %4 geophones.</source>
+        <translation>Sección menos capas: %1 m de media, RMS %2 m, en %3 de %4 geófonos.</translation>
+    </message>
+    <message>
+        <source>The others lack a depth.</source>
+        <translation>A los demás les falta alguna profundidad.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CompareRunsDialog</name>
     <message>
         <source>Compare inversion runs</source>
@@ -5884,10 +5987,6 @@ Defina la posición de los geófonos
         <translation>con %1 ms menos, el picado del receptor %2 quedaría antes del disparo</translation>
     </message>
     <message>
-        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
-        <translation>La sección se ajusta a los picados dentro de sus errores: chi cuadrado %1. El modelo de partida se ajusta mejor, chi cuadrado %2, y se suavizó hasta donde permiten los errores. Indique errores %3 veces como estos para conservarlo nítido.</translation>
-    </message>
-    <message>
         <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
         <translation>%1 El modelo de partida estaba demasiado lejos de los picados, chi cuadrado %2, para mantener la sección en sus saltos bruscos: estos se suavizaron antes.</translation>
     </message>
@@ -5946,6 +6045,106 @@ Defina la posición de los geófonos
     <message>
         <source>Mean residual over pick error</source>
         <translation>Residuo medio entre error del picado</translation>
+    </message>
+    <message>
+        <source>Start from layers</source>
+        <translation>Partir de las capas</translation>
+    </message>
+    <message>
+        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
+        <translation>Una capa tiene una velocidad de %1 m/s, que no es propia de ningún terreno.</translation>
+    </message>
+    <message>
+        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
+        <translation>La capa que empieza a %1 m se solapa con otra; ordene las capas por profundidad, sin solapes.</translation>
+    </message>
+    <message>
+        <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
+        <translation>La sección se ajusta a todos los picados menos uno, de %1, dentro de sus errores: chi cuadrado %2.</translation>
+    </message>
+    <message>
+        <source>The section fits all but %1 of the %2 picks to their errors: chi-square %3.</source>
+        <translation>La sección se ajusta a todos los picados menos %1, de %2, dentro de sus errores: chi cuadrado %3.</translation>
+    </message>
+    <message>
+        <source>target not reached: %1 of the %2 picks are off by more than five of their errors, even if the others leave a chi-square of %3. Look at them first: shots may be shifted in time, or picks lie on another wave.</source>
+        <translation>objetivo no alcanzado: %1 de los %2 picados se desvían más de cinco veces su error, aunque los demás dejan un chi cuadrado de %3. Revíselos primero: quizá haya disparos desplazados en el tiempo, o picados en otra onda.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>%1 El modelo de partida se ajusta mejor, chi cuadrado %2, y se suavizó hasta donde permiten los errores. Indique errores %3 veces como estos para conservarlo nítido.</translation>
+    </message>
+    <message>
+        <source>%1 Shot %2 seems late by %3 ms: run again with shifts.</source>
+        <translation>%1 El disparo %2 parece tener un retraso de %3 ms: vuelva a invertir con desplazamientos.</translation>
+    </message>
+    <message>
+        <source>%1 Shot %2 seems early by %3 ms: run again with shifts.</source>
+        <translation>%1 El disparo %2 parece tener un adelanto de %3 ms: vuelva a invertir con desplazamientos.</translation>
+    </message>
+    <message>
+        <source>%1: chi-square %2, suspects %3</source>
+        <translation>%1: chi cuadrado %2, sospechosos %3</translation>
+    </message>
+    <message>
+        <source>%1 The fit from the model &quot;%2&quot; is kept, as those from others come less near to the picks: %3.</source>
+        <translation>%1 Se conserva el ajuste que parte del modelo «%2», pues los que parten de otros se acercan menos a los picados: %3.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no depth at %2 of %3 receivers; it is taken from their neighbours.</source>
+        <translation>La capa %1 no tiene profundidad en %2 de %3 receptores; se toma la de los vecinos.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no velocity at %2 of %3 receivers; it is taken from their neighbours.</source>
+        <translation>La capa %1 no tiene velocidad en %2 de %3 receptores; se toma la de los vecinos.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has a negative depth at %2 of %3 receivers; it begins at the surface there.</source>
+        <translation>La capa %1 tiene profundidad negativa en %2 de %3 receptores; ahí empieza en la superficie.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile; build the profiles of the refraction first.</source>
+        <translation>No hay perfil de capas; construya antes los perfiles de la refracción.</translation>
+    </message>
+    <message>
+        <source>The first layer of the layered profile has no velocity. Mark direct waves as layer 1 and build the profiles again.</source>
+        <translation>La primera capa del perfil de capas no tiene velocidad. Asigne las ondas directas a la capa 1 y vuelva a construir los perfiles.</translation>
+    </message>
+    <message>
+        <source>The first refractor of the layered profile has no depth or no velocity at any receiver.</source>
+        <translation>El primer refractor del perfil de capas carece de profundidad o de velocidad en todos los receptores.</translation>
+    </message>
+    <message>
+        <source>Layer 3 has no depth or no velocity at any receiver; the ground ends with layer 2.</source>
+        <translation>La capa 3 carece de profundidad o de velocidad en todos los receptores; el terreno termina con la capa 2.</translation>
+    </message>
+    <message>
+        <source>Layer 3 begins above layer 2 at %1 of %2 receivers; layer 2 is left out there.</source>
+        <translation>La capa 3 empieza por encima de la capa 2 en %1 de %2 receptores; ahí se omite la capa 2.</translation>
+    </message>
+    <message>
+        <source>Layer %1 is known from %2 to %3 m; its depth and velocity stay as they are there to the ends of the grid.</source>
+        <translation>La capa %1 se conoce de %2 a %3 m; desde ahí, su profundidad y su velocidad se mantienen hasta los extremos de la malla.</translation>
+    </message>
+    <message>
+        <source>The grid ends above layer %1 in %2 of %3 columns.</source>
+        <translation>La malla termina por encima de la capa %1 en %2 de %3 columnas.</translation>
+    </message>
+    <message>
+        <source>The layered profile has no depths of layer %1.</source>
+        <translation>El perfil de capas no tiene profundidades de la capa %1.</translation>
+    </message>
+    <message>
+        <source>Layer %1, layered profile</source>
+        <translation>Capa %1, perfil de capas</translation>
+    </message>
+    <message>
+        <source>Section, steepest gradient</source>
+        <translation>Sección, gradiente máximo</translation>
+    </message>
+    <message>
+        <source>Section, %1 m/s</source>
+        <translation>Sección, %1 m/s</translation>
     </message>
 </context>
 <context>
@@ -8553,6 +8752,14 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
         <translation>%1 (de %2 a %3 m, profundidad de %4 a %5 m)</translation>
     </message>
+    <message>
+        <source>seems so: run again with shifts of shots</source>
+        <translation>eso parece: vuelva a invertir con desplazamientos de los disparos</translation>
+    </message>
+    <message>
+        <source>Shots that seem to be shifted in time; a click shows the shot:</source>
+        <translation>Disparos que parecen desplazados en el tiempo; un clic muestra el disparo:</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SectionView</name>
@@ -8789,6 +8996,41 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>&amp;Remove rows</source>
         <translation>&amp;Quitar filas</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StartLayersDialog</name>
+    <message>
+        <source>Start from layers</source>
+        <translation>Partir de las capas</translation>
+    </message>
+    <message>
+        <source>Gives every cell of the grid the velocity of the layer of the profile that its middle lies in.</source>
+        <translation>Da a cada celda de la malla la velocidad de la capa del perfil en que queda su centro.</translation>
+    </message>
+    <message>
+        <source>&amp;Sharp layers</source>
+        <translation>Capas con contactos &amp;netos</translation>
+    </message>
+    <message>
+        <source>Spreads the jump from layer to layer evenly, half of it above the refractor and half below</source>
+        <translation>Reparte por igual el salto de una capa a otra, la mitad por encima del refractor y la mitad por debajo</translation>
+    </message>
+    <message>
+        <source>&amp;Graded over a thickness of</source>
+        <translation>Contactos &amp;graduales en un espesor de</translation>
+    </message>
+    <message>
+        <source>Thickness of a graded jump</source>
+        <translation>Espesor de un salto gradual</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Los resultados de la última inversión se quitarán (Deshacer los recupera).</translation>
     </message>
 </context>
 <context>
@@ -10872,6 +11114,38 @@ Do you want to run refraction processing anyway? </source>
         <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
         <translation>Escriba hasta %1 números mayores que 0 separados por punto y coma: 800; 1500</translation>
     </message>
+    <message>
+        <source>Start from layers ...</source>
+        <translation>Partir de las capas ...</translation>
+    </message>
+    <message>
+        <source>Give the cells of the grid the velocities of the layered profile, for an inversion to start from</source>
+        <translation>Da a las celdas de la malla las velocidades del perfil de capas, como modelo inicial de una inversión</translation>
+    </message>
+    <message>
+        <source>Compare layers with the section ...</source>
+        <translation>Comparar capas con la sección ...</translation>
+    </message>
+    <message>
+        <source>Read the depth of a refractor from the section and see how far it is from that of the layered profile</source>
+        <translation>Lee en la sección la profundidad de un refractor y muestra cuánto difiere de la del perfil de capas</translation>
+    </message>
+    <message>
+        <source>The grid has the velocities of the layered profile.</source>
+        <translation>La malla tiene las velocidades del perfil de capas.</translation>
+    </message>
+    <message>
+        <source>Save picture of layers and section</source>
+        <translation>Guardar imagen de las capas y la sección</translation>
+    </message>
+    <message>
+        <source>Save table of layers and section</source>
+        <translation>Guardar tabla de las capas y la sección</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>Tabla (*.csv)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -11700,6 +11974,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <source>Stops, with the best section so far.</source>
         <translation>Se detiene, con la mejor sección hasta ahora.</translation>
     </message>
+    <message>
+        <source>Another fit, from: %1</source>
+        <translation>Otro ajuste, a partir de: %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::runTomography_Dialog</name>
@@ -11897,6 +12175,50 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>Los resultados de la última inversión se quitarán (Deshacer los recupera).</translation>
+    </message>
+    <message>
+        <source>In the &amp;grid:</source>
+        <translation>En la &amp;malla:</translation>
+    </message>
+    <message>
+        <source>How layers become velocities of cells. A spline rounds jumps off and swings beside great ones; sharp layers keep them; graded layers spread every jump evenly over a thickness.</source>
+        <translation>Cómo pasan las capas a velocidades de las celdas. Un spline redondea los saltos y oscila junto a los grandes; los contactos netos los conservan; los graduales reparten cada salto por igual en un espesor.</translation>
+    </message>
+    <message>
+        <source>Spline through the layers</source>
+        <translation>Spline a través de las capas</translation>
+    </message>
+    <message>
+        <source>Sharp layers</source>
+        <translation>Capas con contactos netos</translation>
+    </message>
+    <message>
+        <source>Graded layers</source>
+        <translation>Capas con contactos graduales</translation>
+    </message>
+    <message>
+        <source>Thickness of a graded jump</source>
+        <translation>Espesor de un salto gradual</translation>
+    </message>
+    <message>
+        <source>Thickness over which a jump between two layers is spread</source>
+        <translation>Espesor en que se reparte el salto entre dos capas</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>Puts the layers into the grid as they are, without a spline</source>
+        <translation>Pone las capas en la malla tal como son, sin spline</translation>
+    </message>
+    <message>
+        <source>Use &amp;sharp layers</source>
+        <translation>&amp;Usar contactos netos</translation>
+    </message>
+    <message>
+        <source>Do you want sharp layers instead? They need no spline.</source>
+        <translation>¿Desea en su lugar capas con contactos netos? No necesitan spline.</translation>
     </message>
 </context>
 <context>
