@@ -358,6 +358,109 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::CompareLayersDialog</name>
+    <message>
+        <source>Compare layers with the section</source>
+        <translation>Comparer les couches à la coupe</translation>
+    </message>
+    <message>
+        <source>&amp;Refractor:</source>
+        <translation>&amp;Réfracteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The layer that begins at the refractor</source>
+        <translation>La couche qui commence au réfracteur</translation>
+    </message>
+    <message>
+        <source>In the &amp;section:</source>
+        <translation>Dans la &amp;coupe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What stands for the refractor in the section: the shallowest place where a velocity is reached, or where the logarithm of velocity grows most with depth. Of two refractors the steepest gradient is looked for on their own sides of the middle between both.</source>
+        <translation>Ce qui représente le réfracteur dans la coupe&#xa0;: l&apos;endroit le moins profond où une vitesse est atteinte, ou celui où le logarithme de la vitesse croît le plus avec la profondeur. Pour deux réfracteurs, le plus fort gradient de chacun est cherché de son côté du milieu entre les deux.</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Steepest gradient</source>
+        <translation>Plus fort gradient</translation>
+    </message>
+    <message>
+        <source>Velocity that stands for the refractor</source>
+        <translation>Vitesse qui représente le réfracteur</translation>
+    </message>
+    <message>
+        <source>Begins with the middle between the velocities of the layers above and below</source>
+        <translation>Au départ, le milieu entre les vitesses des couches au-dessus et au-dessous</translation>
+    </message>
+    <message>
+        <source> m/s</source>
+        <translation> m/s</translation>
+    </message>
+    <message>
+        <source>Depths of the refractor at the geophones</source>
+        <translation>Profondeurs du réfracteur aux géophones</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; a difference is section less layers</source>
+        <translation>Profondeurs sous la surface&#xa0;; une différence est coupe moins couches</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>Distance (m)</translation>
+    </message>
+    <message>
+        <source>Layers (m)</source>
+        <translation>Couches (m)</translation>
+    </message>
+    <message>
+        <source>Section (m)</source>
+        <translation>Coupe (m)</translation>
+    </message>
+    <message>
+        <source>Difference (m)</source>
+        <translation>Différence (m)</translation>
+    </message>
+    <message>
+        <source>Save section and lines as PNG, SVG or PDF</source>
+        <translation>Enregistrer la coupe et les lignes en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>Enregistrer l&apos;&amp;image ...</translation>
+    </message>
+    <message>
+        <source>Save the depths at the geophones as CSV</source>
+        <translation>Enregistrer les profondeurs aux géophones en CSV</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Enregistrer le &amp;tableau ...</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Couche %1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>inconnue</translation>
+    </message>
+    <message>
+        <source>No geophone has both depths. Another velocity may be reached below the line.</source>
+        <translation>Aucun géophone n&apos;a les deux profondeurs. Une autre vitesse est peut-être atteinte sous la ligne.</translation>
+    </message>
+    <message>
+        <source>Section less layers: %1 m on average, RMS %2 m, at %3 of %4 geophones.</source>
+        <translation>Coupe moins couches&#xa0;: %1 m en moyenne, RMS %2 m, à %3 géophones sur %4.</translation>
+    </message>
+    <message>
+        <source>The others lack a depth.</source>
+        <translation>Aux autres, il manque une profondeur.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CompareRunsDialog</name>
     <message>
         <source>Compare inversion runs</source>
@@ -5884,10 +5987,6 @@ Veuillez définir la position des géophones
         <translation>avec %1 ms de moins, le pointé du récepteur %2 précéderait le tir</translation>
     </message>
     <message>
-        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
-        <translation>La coupe explique les pointés à leurs erreurs près&#xa0;: khi-deux %1. Le modèle dont elle est partie les explique mieux, khi-deux %2, et a été lissé autant que les erreurs le permettent. Indiquez des erreurs %3 fois aussi grandes pour le garder net.</translation>
-    </message>
-    <message>
         <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
         <translation>%1 Le modèle dont elle est partie était trop loin des pointés, khi-deux %2, pour maintenir la coupe sur ses sauts nets&#xa0;: ils ont d&apos;abord été lissés.</translation>
     </message>
@@ -5946,6 +6045,106 @@ Veuillez définir la position des géophones
     <message>
         <source>Mean residual over pick error</source>
         <translation>Résidu moyen sur erreur de pointé</translation>
+    </message>
+    <message>
+        <source>Start from layers</source>
+        <translation>Partir des couches</translation>
+    </message>
+    <message>
+        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
+        <translation>Une couche a une vitesse de %1 m/s, ce qui n&apos;est pas une vitesse du sol.</translation>
+    </message>
+    <message>
+        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
+        <translation>La couche qui commence à %1 m en chevauche une autre&#xa0;; classez les couches par profondeur, sans chevauchement.</translation>
+    </message>
+    <message>
+        <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
+        <translation>La coupe explique à leurs erreurs près tous les %1 pointés sauf un&#xa0;: khi-deux %2.</translation>
+    </message>
+    <message>
+        <source>The section fits all but %1 of the %2 picks to their errors: chi-square %3.</source>
+        <translation>La coupe explique les pointés à leurs erreurs près, sauf %1 sur %2&#xa0;: khi-deux %3.</translation>
+    </message>
+    <message>
+        <source>target not reached: %1 of the %2 picks are off by more than five of their errors, even if the others leave a chi-square of %3. Look at them first: shots may be shifted in time, or picks lie on another wave.</source>
+        <translation>objectif non atteint&#xa0;: %1 des %2 pointés s&apos;écartent de plus de cinq fois leur erreur, même si les autres laissent un khi-deux de %3. Examinez-les d&apos;abord&#xa0;: des tirs sont peut-être décalés en temps, ou des pointés placés sur une autre onde.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>%1 Le modèle dont elle est partie les explique mieux, khi-deux %2, et a été lissé autant que les erreurs le permettent. Indiquez des erreurs %3 fois aussi grandes pour le garder net.</translation>
+    </message>
+    <message>
+        <source>%1 Shot %2 seems late by %3 ms: run again with shifts.</source>
+        <translation>%1 Le tir %2 semble en retard de %3 ms&#xa0;: refaites le calcul avec les décalages.</translation>
+    </message>
+    <message>
+        <source>%1 Shot %2 seems early by %3 ms: run again with shifts.</source>
+        <translation>%1 Le tir %2 semble en avance de %3 ms&#xa0;: refaites le calcul avec les décalages.</translation>
+    </message>
+    <message>
+        <source>%1: chi-square %2, suspects %3</source>
+        <translation>%1&#xa0;: khi-deux %2, suspects %3</translation>
+    </message>
+    <message>
+        <source>%1 The fit from the model &quot;%2&quot; is kept, as those from others come less near to the picks: %3.</source>
+        <translation>%1 L&apos;ajustement issu du modèle «&#xa0;%2&#xa0;» est conservé, car ceux issus d&apos;autres modèles reproduisent moins bien les pointés&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no depth at %2 of %3 receivers; it is taken from their neighbours.</source>
+        <translation>La couche %1 n&apos;a pas de profondeur à %2 récepteurs sur %3&#xa0;; elle est reprise de leurs voisins.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no velocity at %2 of %3 receivers; it is taken from their neighbours.</source>
+        <translation>La couche %1 n&apos;a pas de vitesse à %2 récepteurs sur %3&#xa0;; elle est reprise de leurs voisins.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has a negative depth at %2 of %3 receivers; it begins at the surface there.</source>
+        <translation>La couche %1 a une profondeur négative à %2 récepteurs sur %3&#xa0;; elle y commence à la surface.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile; build the profiles of the refraction first.</source>
+        <translation>Il n&apos;y a pas de profil en couches&#xa0;; construisez d&apos;abord les profils de la réfraction.</translation>
+    </message>
+    <message>
+        <source>The first layer of the layered profile has no velocity. Mark direct waves as layer 1 and build the profiles again.</source>
+        <translation>La première couche du profil en couches n&apos;a pas de vitesse. Attribuez les ondes directes à la couche 1 et reconstruisez les profils.</translation>
+    </message>
+    <message>
+        <source>The first refractor of the layered profile has no depth or no velocity at any receiver.</source>
+        <translation>Le premier réfracteur du profil en couches n&apos;a de profondeur, ou de vitesse, à aucun récepteur.</translation>
+    </message>
+    <message>
+        <source>Layer 3 has no depth or no velocity at any receiver; the ground ends with layer 2.</source>
+        <translation>La couche 3 n&apos;a de profondeur, ou de vitesse, à aucun récepteur&#xa0;; le terrain s&apos;arrête à la couche 2.</translation>
+    </message>
+    <message>
+        <source>Layer 3 begins above layer 2 at %1 of %2 receivers; layer 2 is left out there.</source>
+        <translation>La couche 3 commence au-dessus de la couche 2 à %1 récepteurs sur %2&#xa0;; la couche 2 y est omise.</translation>
+    </message>
+    <message>
+        <source>Layer %1 is known from %2 to %3 m; its depth and velocity stay as they are there to the ends of the grid.</source>
+        <translation>La couche %1 est connue de %2 à %3 m&#xa0;; au-delà, jusqu&apos;aux bouts de la grille, sa profondeur et sa vitesse restent celles de ces extrémités.</translation>
+    </message>
+    <message>
+        <source>The grid ends above layer %1 in %2 of %3 columns.</source>
+        <translation>La grille s&apos;arrête au-dessus de la couche %1 dans %2 colonnes sur %3.</translation>
+    </message>
+    <message>
+        <source>The layered profile has no depths of layer %1.</source>
+        <translation>Le profil en couches n&apos;a pas de profondeurs pour la couche %1.</translation>
+    </message>
+    <message>
+        <source>Layer %1, layered profile</source>
+        <translation>Couche %1, profil en couches</translation>
+    </message>
+    <message>
+        <source>Section, steepest gradient</source>
+        <translation>Coupe, plus fort gradient</translation>
+    </message>
+    <message>
+        <source>Section, %1 m/s</source>
+        <translation>Coupe, %1 m/s</translation>
     </message>
 </context>
 <context>
@@ -8553,6 +8752,14 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
         <translation>%1 (%2 à %3 m, profondeur %4 à %5 m)</translation>
     </message>
+    <message>
+        <source>seems so: run again with shifts of shots</source>
+        <translation>probable&#xa0;: refaire le calcul avec les décalages des tirs</translation>
+    </message>
+    <message>
+        <source>Shots that seem to be shifted in time; a click shows the shot:</source>
+        <translation>Tirs qui semblent décalés en temps&#xa0;; un clic montre le tir&#xa0;:</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SectionView</name>
@@ -8789,6 +8996,41 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>&amp;Remove rows</source>
         <translation>&amp;Supprimer les lignes</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StartLayersDialog</name>
+    <message>
+        <source>Start from layers</source>
+        <translation>Partir des couches</translation>
+    </message>
+    <message>
+        <source>Gives every cell of the grid the velocity of the layer of the profile that its middle lies in.</source>
+        <translation>Donne à chaque cellule de la grille la vitesse de la couche du profil dans laquelle se trouve son centre.</translation>
+    </message>
+    <message>
+        <source>&amp;Sharp layers</source>
+        <translation>Couches &amp;nettes</translation>
+    </message>
+    <message>
+        <source>Spreads the jump from layer to layer evenly, half of it above the refractor and half below</source>
+        <translation>Répartit régulièrement le saut d&apos;une couche à l&apos;autre, pour moitié au-dessus du réfracteur et pour moitié au-dessous</translation>
+    </message>
+    <message>
+        <source>&amp;Graded over a thickness of</source>
+        <translation>&amp;Graduelles sur une épaisseur de</translation>
+    </message>
+    <message>
+        <source>Thickness of a graded jump</source>
+        <translation>Épaisseur d&apos;un saut graduel</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>Les résultats de la dernière inversion seront supprimés («&#xa0;Défaire&#xa0;» les rétablit).</translation>
     </message>
 </context>
 <context>
@@ -10872,6 +11114,38 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
         <translation>Indiquez jusqu&apos;à %1 nombres supérieurs à 0, séparés par des points-virgules&#xa0;: 800; 1500</translation>
     </message>
+    <message>
+        <source>Start from layers ...</source>
+        <translation>Partir des couches ...</translation>
+    </message>
+    <message>
+        <source>Give the cells of the grid the velocities of the layered profile, for an inversion to start from</source>
+        <translation>Donner aux cellules de la grille les vitesses du profil en couches, comme départ d&apos;une inversion</translation>
+    </message>
+    <message>
+        <source>Compare layers with the section ...</source>
+        <translation>Comparer les couches à la coupe ...</translation>
+    </message>
+    <message>
+        <source>Read the depth of a refractor from the section and see how far it is from that of the layered profile</source>
+        <translation>Lire la profondeur d&apos;un réfracteur dans la coupe et voir de combien elle s&apos;écarte de celle du profil en couches</translation>
+    </message>
+    <message>
+        <source>The grid has the velocities of the layered profile.</source>
+        <translation>La grille a les vitesses du profil en couches.</translation>
+    </message>
+    <message>
+        <source>Save picture of layers and section</source>
+        <translation>Enregistrer l&apos;image des couches et de la coupe</translation>
+    </message>
+    <message>
+        <source>Save table of layers and section</source>
+        <translation>Enregistrer le tableau des couches et de la coupe</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>Tableau (*.csv)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -11700,6 +11974,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <source>Stops, with the best section so far.</source>
         <translation>S&apos;arrête, avec la meilleure coupe jusqu&apos;ici.</translation>
     </message>
+    <message>
+        <source>Another fit, from: %1</source>
+        <translation>Autre ajustement, à partir de&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::runTomography_Dialog</name>
@@ -11897,6 +12175,50 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>Les résultats de la dernière inversion seront supprimés («&#xa0;Défaire&#xa0;» les rétablit).</translation>
+    </message>
+    <message>
+        <source>In the &amp;grid:</source>
+        <translation>Dans la &amp;grille&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How layers become velocities of cells. A spline rounds jumps off and swings beside great ones; sharp layers keep them; graded layers spread every jump evenly over a thickness.</source>
+        <translation>Comment les couches deviennent les vitesses des cellules. Une spline arrondit les sauts et oscille à côté des grands&#xa0;; des couches nettes les conservent&#xa0;; des couches graduelles répartissent chaque saut régulièrement sur une épaisseur.</translation>
+    </message>
+    <message>
+        <source>Spline through the layers</source>
+        <translation>Spline passant par les couches</translation>
+    </message>
+    <message>
+        <source>Sharp layers</source>
+        <translation>Couches nettes</translation>
+    </message>
+    <message>
+        <source>Graded layers</source>
+        <translation>Couches graduelles</translation>
+    </message>
+    <message>
+        <source>Thickness of a graded jump</source>
+        <translation>Épaisseur d&apos;un saut graduel</translation>
+    </message>
+    <message>
+        <source>Thickness over which a jump between two layers is spread</source>
+        <translation>Épaisseur sur laquelle un saut entre deux couches est réparti</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>Puts the layers into the grid as they are, without a spline</source>
+        <translation>Met les couches dans la grille telles quelles, sans spline</translation>
+    </message>
+    <message>
+        <source>Use &amp;sharp layers</source>
+        <translation>Utiliser des couches &amp;nettes</translation>
+    </message>
+    <message>
+        <source>Do you want sharp layers instead? They need no spline.</source>
+        <translation>Voulez-vous plutôt des couches nettes&#xa0;? Elles n&apos;ont pas besoin de spline.</translation>
     </message>
 </context>
 <context>
