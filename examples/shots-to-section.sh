@@ -21,5 +21,5 @@ mkdir -p "$folder"
 "$batch" invert "$folder/picks.sgt" --method fitted \
   --json "$folder/section.json" --image "$folder/section.png" --contours 8 > "$folder/log.txt"
 
-tail -n 4 "$folder/log.txt"
+tail -n 6 "$folder/log.txt"
 echo "Check the picks on $folder/shots.pdf before you trust $folder/section.png"

@@ -106,7 +106,7 @@ TEST(EngineLines, areHeardOnRequestOnly) {
   std::vector<std::string> verbose = plain;
   verbose.emplace_back("--verbose");
   const Outcome silent = runBatch(plain);
-  EXPECT_EQ(std::count(silent.out.begin(), silent.out.end(), '\n'), 10) << silent.out;
+  EXPECT_EQ(std::count(silent.out.begin(), silent.out.end(), '\n'), 11) << silent.out;
   EXPECT_EQ(std::count(silent.err.begin(), silent.err.end(), '\n'), 2) << silent.err;
   EXPECT_THAT(silent.err, StartsWith("External iteration 1 of 2"));
   const Outcome talking = runBatch(verbose);

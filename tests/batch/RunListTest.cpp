@@ -41,7 +41,7 @@ class RunList : public testing::Test {
 TEST_F(RunList, isToldAsTextAndAsJson) {
   const Outcome text = run({"info", project, "--list"});
   EXPECT_THAT(text.out, AllOf(HasSubstr("  runs        2\n    1  smoothed, chi-square "),
-                              HasSubstr(" (0.5 ms or 3 % where picks state no error), RMS "),
+                              HasSubstr(" by errors of 0.5 ms or 3 %, RMS "),
                               HasSubstr("\n  * 2  fitted, chi-square ")));
   EXPECT_THAT(run({"info", project}).out, Not(HasSubstr("smoothed, chi-square")));
   const ordered_json list = runs(project);

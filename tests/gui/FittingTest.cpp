@@ -175,7 +175,9 @@ TEST_F(Fitting, tellsAtOnceWhatAnErrorMeans) {
 
 TEST_F(Fitting, takesTheErrorFromItsSliderHoweverThatIsMoved) {
   openShots();
-  answerFit([](QDialog& dialog) {
+  dialogs.expect([](QWidget& widget) {
+    auto& dialog = dynamic_cast<runTomography_Dialog&>(widget);
+    dialog.findChild<QComboBox*>("methodBox")->setCurrentIndex(1);
     auto& slider = *dialog.findChild<QSlider*>("floorSlider");
     auto& field = *dialog.findChild<QDoubleSpinBox*>("floorEdit");
     const auto moves = [&](const char* how, const std::function<void()>& move) {
