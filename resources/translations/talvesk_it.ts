@@ -358,6 +358,109 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::CompareLayersDialog</name>
+    <message>
+        <source>Compare layers with the section</source>
+        <translation>Confronta gli strati con la sezione</translation>
+    </message>
+    <message>
+        <source>&amp;Refractor:</source>
+        <translation>&amp;Rifrattore:</translation>
+    </message>
+    <message>
+        <source>The layer that begins at the refractor</source>
+        <translation>Lo strato che comincia al rifrattore</translation>
+    </message>
+    <message>
+        <source>In the &amp;section:</source>
+        <translation>Nella &amp;sezione:</translation>
+    </message>
+    <message>
+        <source>What stands for the refractor in the section: the shallowest place where a velocity is reached, or where the logarithm of velocity grows most with depth. Of two refractors the steepest gradient is looked for on their own sides of the middle between both.</source>
+        <translation>Che cosa rappresenta il rifrattore nella sezione: il punto meno profondo in cui si raggiunge una velocità, o quello in cui il logaritmo della velocità cresce di più con la profondità. Se i rifrattori sono due, il gradiente massimo di ciascuno si cerca dalla sua parte rispetto alla metà fra i due.</translation>
+    </message>
+    <message>
+        <source>Velocity</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Steepest gradient</source>
+        <translation>Gradiente massimo</translation>
+    </message>
+    <message>
+        <source>Velocity that stands for the refractor</source>
+        <translation>Velocità che rappresenta il rifrattore</translation>
+    </message>
+    <message>
+        <source>Begins with the middle between the velocities of the layers above and below</source>
+        <translation>All&apos;inizio è la media fra le velocità degli strati sopra e sotto</translation>
+    </message>
+    <message>
+        <source> m/s</source>
+        <translation> m/s</translation>
+    </message>
+    <message>
+        <source>Depths of the refractor at the geophones</source>
+        <translation>Profondità del rifrattore ai geofoni</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; a difference is section less layers</source>
+        <translation>Profondità dalla superficie; la differenza è sezione meno strati</translation>
+    </message>
+    <message>
+        <source>Distance (m)</source>
+        <translation>Distanza (m)</translation>
+    </message>
+    <message>
+        <source>Layers (m)</source>
+        <translation>Strati (m)</translation>
+    </message>
+    <message>
+        <source>Section (m)</source>
+        <translation>Sezione (m)</translation>
+    </message>
+    <message>
+        <source>Difference (m)</source>
+        <translation>Differenza (m)</translation>
+    </message>
+    <message>
+        <source>Save section and lines as PNG, SVG or PDF</source>
+        <translation>Salva sezione e linee come PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Save the depths at the geophones as CSV</source>
+        <translation>Salva le profondità ai geofoni come CSV</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Salva &amp;tabella ...</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Strato %1</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>non nota</translation>
+    </message>
+    <message>
+        <source>No geophone has both depths. Another velocity may be reached below the line.</source>
+        <translation>Nessun geofono ha entrambe le profondità. Sotto la linea potrebbe essere raggiunta un&apos;altra velocità.</translation>
+    </message>
+    <message>
+        <source>Section less layers: %1 m on average, RMS %2 m, at %3 of %4 geophones.</source>
+        <translation>Sezione meno strati: in media %1 m, RMS %2 m, a %3 geofoni su %4.</translation>
+    </message>
+    <message>
+        <source>The others lack a depth.</source>
+        <translation>Agli altri manca una profondità.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CompareRunsDialog</name>
     <message>
         <source>Compare inversion runs</source>
@@ -5884,10 +5987,6 @@ Impostare la posizione dei geofoni
         <translation>con %1 ms in meno, il primo arrivo del ricevitore %2 precederebbe il tiro</translation>
     </message>
     <message>
-        <source>The section fits the picks to their errors: chi-square %1. The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
-        <translation>La sezione si adatta ai primi arrivi entro i loro errori: chi quadrato %1. Il modello da cui è partita vi si adatta meglio, chi quadrato %2, ed è stato smussato fin dove gli errori consentono. Per mantenerlo netto, indicare errori %3 volte più grandi.</translation>
-    </message>
-    <message>
         <source>%1 The model that it started from was too far from the picks, chi-square %2, to hold the section to its sharp steps: they were smoothed first.</source>
         <translation>%1 Il modello da cui è partita era troppo lontano dai primi arrivi, chi quadrato %2, per vincolare la sezione ai suoi salti netti: prima sono stati smussati.</translation>
     </message>
@@ -5946,6 +6045,106 @@ Impostare la posizione dei geofoni
     <message>
         <source>Mean residual over pick error</source>
         <translation>Residuo medio rapportato all&apos;errore del primo arrivo</translation>
+    </message>
+    <message>
+        <source>Start from layers</source>
+        <translation>Parti dagli strati</translation>
+    </message>
+    <message>
+        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
+        <translation>Uno strato ha una velocità di %1 m/s, che nessun terreno ha.</translation>
+    </message>
+    <message>
+        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
+        <translation>Lo strato che comincia a %1 m si sovrappone a un altro; ordinare gli strati per profondità, senza sovrapposizioni.</translation>
+    </message>
+    <message>
+        <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
+        <translation>La sezione si adatta ai primi arrivi entro i loro errori, tranne uno su %1: chi quadrato %2.</translation>
+    </message>
+    <message>
+        <source>The section fits all but %1 of the %2 picks to their errors: chi-square %3.</source>
+        <translation>La sezione si adatta ai primi arrivi entro i loro errori, tranne %1 su %2: chi quadrato %3.</translation>
+    </message>
+    <message>
+        <source>target not reached: %1 of the %2 picks are off by more than five of their errors, even if the others leave a chi-square of %3. Look at them first: shots may be shifted in time, or picks lie on another wave.</source>
+        <translation>obiettivo non raggiunto: %1 primi arrivi su %2 si scostano di più di cinque volte il loro errore, anche se gli altri lasciano un chi quadrato di %3. Guardarli per primi: alcuni tiri potrebbero essere traslati nel tempo, o alcuni arrivi segnati su un&apos;altra onda.</translation>
+    </message>
+    <message>
+        <source>%1 The model that it started from fits them better than that, chi-square %2, and was smoothed as far as the errors allow. State errors %3 times as large to keep it sharp.</source>
+        <translation>%1 Il modello da cui è partita vi si adatta meglio, chi quadrato %2, ed è stato smussato fin dove gli errori consentono. Per mantenerlo netto, indicare errori %3 volte più grandi.</translation>
+    </message>
+    <message>
+        <source>%1 Shot %2 seems late by %3 ms: run again with shifts.</source>
+        <translation>%1 Il tiro %2 sembra in ritardo di %3 ms: ripetere l&apos;inversione con le traslazioni.</translation>
+    </message>
+    <message>
+        <source>%1 Shot %2 seems early by %3 ms: run again with shifts.</source>
+        <translation>%1 Il tiro %2 sembra in anticipo di %3 ms: ripetere l&apos;inversione con le traslazioni.</translation>
+    </message>
+    <message>
+        <source>%1: chi-square %2, suspects %3</source>
+        <translation>%1: chi quadrato %2, sospetti %3</translation>
+    </message>
+    <message>
+        <source>%1 The fit from the model &quot;%2&quot; is kept, as those from others come less near to the picks: %3.</source>
+        <translation>%1 Resta l&apos;adattamento partito dal modello &quot;%2&quot;, poiché quelli partiti da altri si avvicinano meno ai primi arrivi: %3.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no depth at %2 of %3 receivers; it is taken from their neighbours.</source>
+        <translation>Lo strato %1 non ha profondità a %2 ricevitori su %3; è presa dai ricevitori vicini.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has no velocity at %2 of %3 receivers; it is taken from their neighbours.</source>
+        <translation>Lo strato %1 non ha velocità a %2 ricevitori su %3; è presa dai ricevitori vicini.</translation>
+    </message>
+    <message>
+        <source>Layer %1 has a negative depth at %2 of %3 receivers; it begins at the surface there.</source>
+        <translation>Lo strato %1 ha profondità negativa a %2 ricevitori su %3; lì comincia in superficie.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile; build the profiles of the refraction first.</source>
+        <translation>Non c&apos;è alcun profilo a strati; costruire prima i profili della rifrazione.</translation>
+    </message>
+    <message>
+        <source>The first layer of the layered profile has no velocity. Mark direct waves as layer 1 and build the profiles again.</source>
+        <translation>Il primo strato del profilo a strati non ha velocità. Assegnare le onde dirette allo strato 1 e costruire di nuovo i profili.</translation>
+    </message>
+    <message>
+        <source>The first refractor of the layered profile has no depth or no velocity at any receiver.</source>
+        <translation>Il primo rifrattore del profilo a strati non ha profondità o velocità ad alcun ricevitore.</translation>
+    </message>
+    <message>
+        <source>Layer 3 has no depth or no velocity at any receiver; the ground ends with layer 2.</source>
+        <translation>Lo strato 3 non ha profondità o velocità ad alcun ricevitore; il terreno termina con lo strato 2.</translation>
+    </message>
+    <message>
+        <source>Layer 3 begins above layer 2 at %1 of %2 receivers; layer 2 is left out there.</source>
+        <translation>Lo strato 3 comincia sopra lo strato 2 a %1 ricevitori su %2; lì lo strato 2 è tralasciato.</translation>
+    </message>
+    <message>
+        <source>Layer %1 is known from %2 to %3 m; its depth and velocity stay as they are there to the ends of the grid.</source>
+        <translation>Lo strato %1 è noto da %2 a %3 m; oltre, fino ai bordi della griglia, profondità e velocità restano quelle dei due estremi.</translation>
+    </message>
+    <message>
+        <source>The grid ends above layer %1 in %2 of %3 columns.</source>
+        <translation>La griglia finisce sopra lo strato %1 in %2 colonne su %3.</translation>
+    </message>
+    <message>
+        <source>The layered profile has no depths of layer %1.</source>
+        <translation>Il profilo a strati non ha profondità dello strato %1.</translation>
+    </message>
+    <message>
+        <source>Layer %1, layered profile</source>
+        <translation>Strato %1, profilo a strati</translation>
+    </message>
+    <message>
+        <source>Section, steepest gradient</source>
+        <translation>Sezione, gradiente massimo</translation>
+    </message>
+    <message>
+        <source>Section, %1 m/s</source>
+        <translation>Sezione, %1 m/s</translation>
     </message>
 </context>
 <context>
@@ -8553,6 +8752,14 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
         <translation>%1 (da %2 a %3 m, profondità da %4 a %5 m)</translation>
     </message>
+    <message>
+        <source>seems so: run again with shifts of shots</source>
+        <translation>sembra di sì: ripetere l&apos;inversione con le traslazioni dei tiri</translation>
+    </message>
+    <message>
+        <source>Shots that seem to be shifted in time; a click shows the shot:</source>
+        <translation>Tiri che sembrano traslati nel tempo; un clic mostra il tiro:</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SectionView</name>
@@ -8789,6 +8996,41 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>&amp;Remove rows</source>
         <translation>&amp;Rimuovi righe</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StartLayersDialog</name>
+    <message>
+        <source>Start from layers</source>
+        <translation>Parti dagli strati</translation>
+    </message>
+    <message>
+        <source>Gives every cell of the grid the velocity of the layer of the profile that its middle lies in.</source>
+        <translation>Dà a ogni cella della griglia la velocità dello strato del profilo in cui cade il suo centro.</translation>
+    </message>
+    <message>
+        <source>&amp;Sharp layers</source>
+        <translation>Strati &amp;netti</translation>
+    </message>
+    <message>
+        <source>Spreads the jump from layer to layer evenly, half of it above the refractor and half below</source>
+        <translation>Distribuisce uniformemente il salto da uno strato all&apos;altro, metà sopra il rifrattore e metà sotto</translation>
+    </message>
+    <message>
+        <source>&amp;Graded over a thickness of</source>
+        <translation>&amp;Graduali su uno spessore di</translation>
+    </message>
+    <message>
+        <source>Thickness of a graded jump</source>
+        <translation>Spessore di un salto graduale</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>The results of the last inversion will be removed (Undo brings them back).</source>
+        <translation>I risultati dell&apos;ultima inversione verranno tolti (&quot;Annulla modifica&quot; li ripristina).</translation>
     </message>
 </context>
 <context>
@@ -10872,6 +11114,38 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Give up to %1 numbers above 0 with semicolons between them: 800; 1500</source>
         <translation>Indicare fino a %1 numeri maggiori di 0 separati da punto e virgola: 800; 1500</translation>
     </message>
+    <message>
+        <source>Start from layers ...</source>
+        <translation>Parti dagli strati ...</translation>
+    </message>
+    <message>
+        <source>Give the cells of the grid the velocities of the layered profile, for an inversion to start from</source>
+        <translation>Dà alle celle della griglia le velocità del profilo a strati, da cui parte un&apos;inversione</translation>
+    </message>
+    <message>
+        <source>Compare layers with the section ...</source>
+        <translation>Confronta gli strati con la sezione ...</translation>
+    </message>
+    <message>
+        <source>Read the depth of a refractor from the section and see how far it is from that of the layered profile</source>
+        <translation>Legge dalla sezione la profondità di un rifrattore e mostra quanto si scosta da quella del profilo a strati</translation>
+    </message>
+    <message>
+        <source>The grid has the velocities of the layered profile.</source>
+        <translation>La griglia ha le velocità del profilo a strati.</translation>
+    </message>
+    <message>
+        <source>Save picture of layers and section</source>
+        <translation>Salva immagine di strati e sezione</translation>
+    </message>
+    <message>
+        <source>Save table of layers and section</source>
+        <translation>Salva tabella di strati e sezione</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>Tabella (*.csv)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -11700,6 +11974,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <source>Stops, with the best section so far.</source>
         <translation>Si ferma, con la migliore sezione finora.</translation>
     </message>
+    <message>
+        <source>Another fit, from: %1</source>
+        <translation>Un altro adattamento, da: %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::runTomography_Dialog</name>
@@ -11897,6 +12175,50 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>I risultati dell&apos;ultima inversione verranno tolti (&quot;Annulla modifica&quot; li ripristina).</translation>
+    </message>
+    <message>
+        <source>In the &amp;grid:</source>
+        <translation>Nella &amp;griglia:</translation>
+    </message>
+    <message>
+        <source>How layers become velocities of cells. A spline rounds jumps off and swings beside great ones; sharp layers keep them; graded layers spread every jump evenly over a thickness.</source>
+        <translation>Come gli strati diventano velocità delle celle. Una spline arrotonda i salti e oscilla accanto a quelli grandi; gli strati netti li conservano; gli strati graduali distribuiscono ogni salto uniformemente su uno spessore.</translation>
+    </message>
+    <message>
+        <source>Spline through the layers</source>
+        <translation>Spline attraverso gli strati</translation>
+    </message>
+    <message>
+        <source>Sharp layers</source>
+        <translation>Strati netti</translation>
+    </message>
+    <message>
+        <source>Graded layers</source>
+        <translation>Strati graduali</translation>
+    </message>
+    <message>
+        <source>Thickness of a graded jump</source>
+        <translation>Spessore di un salto graduale</translation>
+    </message>
+    <message>
+        <source>Thickness over which a jump between two layers is spread</source>
+        <translation>Spessore su cui si distribuisce un salto fra due strati</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>Puts the layers into the grid as they are, without a spline</source>
+        <translation>Mette gli strati nella griglia così come sono, senza spline</translation>
+    </message>
+    <message>
+        <source>Use &amp;sharp layers</source>
+        <translation>Usa strati &amp;netti</translation>
+    </message>
+    <message>
+        <source>Do you want sharp layers instead? They need no spline.</source>
+        <translation>Vuoi invece strati netti? Non richiedono alcuna spline.</translation>
     </message>
 </context>
 <context>
