@@ -194,6 +194,60 @@ TEST_F(Refraction, asksBeforeAProposalReplacesMarks) {
   EXPECT_TRUE(dialogs.finished());
 }
 
+TEST_F(Refraction, proposesOverTheWholeSurveyWithItsFigures) {
+  std::vector<layerStruct> truth;
+  line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+  line.ttArray.edit()[5].ttMisurati.edit()[50] += 0.04;
+  show(Interpretation());
+  const auto& label = part<QLabel>("proposalLabel");
+  EXPECT_FALSE(label.isVisible());
+  press("proposeSurveyButton");
+  ASSERT_TRUE(label.isVisible());
+  const std::string proposed = label.text().toStdString();
+  EXPECT_THAT(proposed, HasSubstr("Proposal over the whole survey: 2 layers, misfit 0 ms; "));
+  EXPECT_THAT(proposed, HasSubstr("fit no layer and are given to none (shot/trace): 6/51"));
+  EXPECT_EQ(layer(5, 50), 0U);
+  for (const std::size_t trace : {5U, 20U, 55U}) {
+    EXPECT_EQ(layer(5, trace), truth[5].layer[trace]) << trace;
+  }
+  // It is one step, and the figures are not passed off as those of other marks.
+  dialog->undoStack()->undo();
+  EXPECT_EQ(layer(5, 20), 0U);
+  EXPECT_THAT(label.text().toStdString(),
+              HasSubstr("The marks are no longer those of this proposal."));
+  dialog->undoStack()->redo();
+  EXPECT_EQ(label.text().toStdString(), proposed);
+  dialogs.expectBox("Propose layers", "Replace the marks by a proposal?", "", QMessageBox::Yes);
+  press("proposeButton");
+  EXPECT_FALSE(label.isVisible());
+  EXPECT_TRUE(dialogs.finished());
+}
+
+TEST_F(Refraction, marksNothingOnAGradientUnlessTheUserWants) {
+  std::vector<layerStruct> truth;
+  line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+  for (TravelTime& record : line.ttArray.edit()) {
+    for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
+      const double offset = std::fabs(2.5 * static_cast<double>(i) - record.shotPos2d.x);
+      record.ttMisurati.edit()[i] = 2.0 / 30.0 * std::asinh(30.0 * offset / (2.0 * 500.0));
+    }
+  }
+  show(Interpretation());
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    dialogs.expect([answer](QWidget& box) {
+      const auto& message = dynamic_cast<QMessageBox&>(box);
+      EXPECT_THAT(message.text().toStdString(), HasSubstr("No layers are proposed. Mark "));
+      EXPECT_THAT(message.informativeText().toStdString(),
+                  HasSubstr("a velocity that grows steadily with depth, from 500 m/s by 30 m/s"));
+      message.button(answer)->click();
+    });
+    press("proposeSurveyButton");
+    EXPECT_EQ(layer(5, 50) != 0U, answer == QMessageBox::Yes);
+    EXPECT_EQ(part<QLabel>("proposalLabel").isVisible(), answer == QMessageBox::Yes);
+  }
+  EXPECT_TRUE(dialogs.finished());
+}
+
 TEST_F(Refraction, warnsOfAMissingShotPair) {
   show(testing::twoDippingLayers(), false);
   dialogs.expectBox("Warning", "Unable to find nearest shot for first refractor",

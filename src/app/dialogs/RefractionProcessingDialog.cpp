@@ -4,7 +4,6 @@
 #include "app/Messages.h"
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
-#include "refraction/LayerProposal.h"
 #include "refraction/PicksFingerprint.h"
 #include "refraction/PlausibleResults.h"
 #include "refraction/ReciprocalMethod.h"
@@ -159,6 +158,7 @@ bool RefractionProcessingDialog::hasChanges() const {
 }
 
 void RefractionProcessingDialog::reject() {
+  if (!isEnabled()) return;  // at work
   if (!hasChanges() || askYesNo(this, tr("Refraction processing"),
                                 tr("Close without keeping the changes?"), {}, false)) {
     QDialog::reject();
@@ -206,6 +206,7 @@ void RefractionProcessingDialog::marksChanged() {
     changed << tr("The marks have changed since the profiles were built.");
   }
   mUi->staleLabel->setText(changed.join(QLatin1Char(' ')));
+  showProposal();
   refreshShot();
 }
 
@@ -227,23 +228,6 @@ void RefractionProcessingDialog::showReading(const BranchReading* reading) {
                                   .arg(reading->layer)
                                   .arg(place, velocity)
                                   .arg(reading->picks));
-}
-
-void RefractionProcessingDialog::on_proposeButton_clicked() {
-  if (hasMarks(mWork.ttLayer) &&
-      !askYesNo(this, tr("Propose layers"), tr("Replace the marks by a proposal?"),
-                tr("All picks are assigned anew from the break points of the branches. Undo brings "
-                   "the marks back."),
-                false)) {
-    return;
-  }
-  const Marks proposed = proposeLayers(mShots, mWork.ttLayer);
-  if (!hasMarks(proposed)) {
-    showNote(this, tr("Propose layers"),
-             tr("No branch of the curves has picks enough to tell layers apart."));
-    return;
-  }
-  changeMarks(tr("propose layers"), proposed);
 }
 
 void RefractionProcessingDialog::on_clearButton_clicked() {

@@ -4,10 +4,12 @@
 #include "refraction/BuildProfiles.h"
 #include "refraction/MarkEdits.h"
 #include "refraction/ShotArrivals.h"
+#include "refraction/SurveyProposal.h"
 
 #include <QDialog>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QUndoStack;
@@ -45,6 +47,7 @@ class RefractionProcessingDialog : public QDialog {
 
  private slots:
   void on_proposeButton_clicked();
+  void on_proposeSurveyButton_clicked();
   void on_clearButton_clicked();
   void on_enabledCheck_clicked(bool checked);
   void on_pushAutoPhantButton_clicked();
@@ -65,6 +68,7 @@ class RefractionProcessingDialog : public QDialog {
   void mark(const std::vector<TraceRef>& picks, int layer);
   void changeMarks(const QString& text, const Marks& after);
   void marksChanged();
+  void showProposal();
   void showReading(const BranchReading* reading);
   void refreshShot();
 
@@ -83,6 +87,7 @@ class RefractionProcessingDialog : public QDialog {
   refractionDataStructure::Interpretation mWork;
   std::vector<ShotArrivals> mShots;
   std::vector<RefractionWarning> mWarnings;  ///< of the last build
+  std::optional<SurveyProposal> mProposal;   ///< that the marks were last replaced by
   QUndoStack* mUndo;
   bool mBuilt = false;
   bool mPhantomed = false;  ///< the curves are not those that it was opened with
