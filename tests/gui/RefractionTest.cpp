@@ -76,6 +76,10 @@ class Refraction : public WindowTest {
   void key(Qt::Key code, Qt::KeyboardModifiers keys = Qt::NoModifier) {
     QTest::keyClick(&curves(), code, keys);
   }
+  /// Whether the times through the profile have come.
+  bool fitted() {
+    return QTest::qWaitFor([this] { return part<QCheckBox>("computedCheck").isEnabled(); }, 60000);
+  }
   QString reading() { return part<QLabel>("velocityLabel").text(); }
 
   TomoDocument line;
@@ -221,6 +225,51 @@ TEST_F(Refraction, proposesOverTheWholeSurveyWithItsFigures) {
   press("proposeButton");
   EXPECT_FALSE(label.isVisible());
   EXPECT_TRUE(dialogs.finished());
+}
+
+TEST_F(Refraction, drawsComputedTimesOverThePicksAndTellsTheirMisfit) {
+  show(testing::twoDippingLayers(), true);
+  EXPECT_FALSE(part<QCheckBox>("computedCheck").isEnabled());
+  EXPECT_FALSE(curves().computedTime({5, 40}));
+  line.ttArray.edit()[7].ttMisurati.edit()[40] += 0.01;
+  show(dialog->interpretation());
+  press("buildButton");
+  ASSERT_TRUE(fitted());
+  const double pick = line.ttArray[5].ttMisurati[40];
+  EXPECT_NEAR(curves().computedTime({5, 40}).value_or(0.0), pick, 0.0015);
+
+  const auto& table = part<QTableWidget>("misfitTable");
+  ASSERT_EQ(table.columnCount(), 3);
+  ASSERT_EQ(table.rowCount(), 21) << "20 shots, then all";
+  const auto rms = [&](int row) { return table.item(row, 2)->text().toDouble(); };
+  EXPECT_EQ(table.item(7, 0)->text(), QStringLiteral("Shot 8"));
+  EXPECT_GT(rms(7), rms(6) + 0.5) << "the pick that is 10 ms late";
+  EXPECT_LT(rms(20), rms(7)) << "all shots";
+  EXPECT_THAT(table.item(7, 2)->toolTip().toStdString(), HasSubstr("chi2"));
+
+  part<QTabWidget>("tabs").setCurrentIndex(0);
+  part<QComboBox>("shotCombo").setCurrentIndex(1 + 5);
+  const auto picture = [this] {
+    QTest::qWait(20);
+    return curves().canvas()->grab().toImage();
+  };
+  const QImage with = picture();
+  part<QCheckBox>("computedCheck").setChecked(false);
+  EXPECT_NE(picture(), with);
+  part<QCheckBox>("computedCheck").setChecked(true);
+  // A computed time is that of the layer that the pick is marked as; the misfit is that of the
+  // build, and not said of other marks.
+  key(Qt::Key_Right);
+  const double refracted = curves().computedTime({5, 0}).value_or(1.0);
+  EXPECT_THAT(reading().toStdString(), HasSubstr("misfit of the shot 0."));
+  key(Qt::Key_1);
+  EXPECT_THAT(reading().toStdString(), ::testing::Not(HasSubstr("misfit")));
+  EXPECT_GT(curves().computedTime({5, 0}).value_or(0.0), refracted + 0.01) << "the direct wave";
+  key(Qt::Key_0);
+  EXPECT_FALSE(curves().computedTime({5, 0}));
+  // They come with a profile that was built earlier.
+  show(dialog->interpretation());
+  EXPECT_TRUE(fitted());
 }
 
 TEST_F(Refraction, marksNothingOnAGradientUnlessTheUserWants) {

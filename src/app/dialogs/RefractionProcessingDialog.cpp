@@ -1,7 +1,9 @@
 #include "app/dialogs/RefractionProcessingDialog.h"
 
+#include "app/BackgroundFit.h"
 #include "app/LineIcon.h"
 #include "app/Messages.h"
+#include "app/dialogs/MisfitTable.h"
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
 #include "refraction/PicksFingerprint.h"
@@ -66,6 +68,7 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
       mDocument(document),
       mWork(interpretation),
       mShots(shotArrivals(document)),
+      mFitting(new BackgroundFit(this)),
       mUndo(new QUndoStack(this)) {
   fitToSurvey(document, mWork);
   mUi->setupUi(this);
@@ -74,6 +77,8 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
   mUi->phantomSplitter->setSizes({620, 440});
   mUi->shiftTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   mUi->profileSplitter->setSizes({260, 340});
+  mUi->resultSplitter->setSizes({760, 280});
+  mUi->misfitTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   nameThings();
   fillChoosers();
   connectCurves();
@@ -81,6 +86,7 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
   marksChanged();
   mStale = false;
   showResults();
+  fitProfile();
   mUi->curvesPlot->setFocus();
 }
 
@@ -147,9 +153,14 @@ void RefractionProcessingDialog::connectCurves() {
   connect(mUi->showLayerCombo, chosen, curves,
           [curves](int index) { curves->setShownLayer(index - 1); });
   connect(mUi->editableCheck, &QCheckBox::toggled, curves, &LayerCurvesPlot::setEditable);
+  connect(mUi->computedCheck, &QCheckBox::toggled, curves, &LayerCurvesPlot::setComputedShown);
   connect(mUi->shotCombo, chosen, this, [this](int index) { chooseShot(index - 1); });
   connect(curves, &LayerCurvesPlot::shotChosen, this, [this](int shot) { chooseShot(shot); });
   connect(curves, &LayerCurvesPlot::marked, this, &RefractionProcessingDialog::mark);
+  connect(mFitting, &BackgroundFit::found, this, [this](const LayeredFit& fit) {
+    mFit = fit;
+    showFit();
+  });
   connect(curves, &LayerCurvesPlot::branchRead, this, &RefractionProcessingDialog::showReading);
 }
 
@@ -224,10 +235,14 @@ void RefractionProcessingDialog::showReading(const BranchReading* reading) {
   const QString velocity = reading->velocity && isPlausibleVelocity(*reading->velocity)
                                ? tr("%1 m/s").arg(QLocale().toString(*reading->velocity, 'f', 0))
                                : tr("no velocity");
-  mUi->velocityLabel->setText(tr("Layer %1, %2: %3 (%4 picks)")
-                                  .arg(reading->layer)
-                                  .arg(place, velocity)
-                                  .arg(reading->picks));
+  QString text = tr("Layer %1, %2: %3 (%4 picks)")
+                     .arg(reading->layer)
+                     .arg(place, velocity)
+                     .arg(reading->picks);
+  // The misfit is that of the marks that the profiles were built of.
+  const QString misfit = mStale ? QString() : misfitText(mFit, reading->shot, reading->layer);
+  if (!misfit.isEmpty()) text += tr("; misfit of the shot %1").arg(misfit);
+  mUi->velocityLabel->setText(text);
 }
 
 void RefractionProcessingDialog::on_clearButton_clicked() {

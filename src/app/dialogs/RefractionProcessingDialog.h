@@ -2,6 +2,7 @@
 
 #include "model/RefractionDataStructure.h"
 #include "refraction/BuildProfiles.h"
+#include "refraction/LayeredFit.h"
 #include "refraction/MarkEdits.h"
 #include "refraction/ShotArrivals.h"
 #include "refraction/SurveyProposal.h"
@@ -19,6 +20,7 @@ namespace talvesk {
 namespace Ui {
 class RefractionProcessingDialog;
 }
+class BackgroundFit;
 class TomoDocument;
 
 /// Turns picks into layers: marks on the travel-time curves, phantom arrivals, tV and tG,
@@ -74,6 +76,8 @@ class RefractionProcessingDialog : public QDialog {
 
   // Results
   bool build(std::vector<RefractionWarning> told);
+  void fitProfile();
+  void showFit();
   void tell(const std::vector<RefractionWarning>& warnings,
             const std::vector<RefractionWarning>& known);
   void showPhantoms();
@@ -88,6 +92,8 @@ class RefractionProcessingDialog : public QDialog {
   std::vector<ShotArrivals> mShots;
   std::vector<RefractionWarning> mWarnings;  ///< of the last build
   std::optional<SurveyProposal> mProposal;   ///< that the marks were last replaced by
+  LayeredFit mFit;  ///< of the profiles as they were built or opened; empty until it is found
+  BackgroundFit* mFitting;
   QUndoStack* mUndo;
   bool mBuilt = false;
   bool mPhantomed = false;  ///< the curves are not those that it was opened with

@@ -1,11 +1,14 @@
+#include "app/BackgroundFit.h"
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
+#include "app/dialogs/MisfitTable.h"
 #include "app/dialogs/RefractionProcessingDialog.h"
 #include "app/dialogs/RefractionTexts.h"
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
 #include "refraction/Profile.h"
 #include "refraction/ReciprocalMethod.h"
+#include "refraction/WeighedPicks.h"
 #include "ui_RefractionProcessingDialog.h"
 
 #include <QApplication>
@@ -142,6 +145,7 @@ bool RefractionProcessingDialog::build(std::vector<RefractionWarning> told) {
     mWarnings = outcome.warnings;
     mStale = false;
     mBuilt = true;
+    fitProfile();
   }
   marksChanged();
   showResults();
@@ -166,6 +170,24 @@ void RefractionProcessingDialog::tell(const std::vector<RefractionWarning>& warn
     showWarning(this, tr("Warning"), refractionText(warning),
                 noPair ? noShotPairText(shotPairReach(mShots, mWork.ttLayer, 2)) : QString());
   }
+}
+
+/// Has computed how the times through the profiles fit the picks and marks of now.
+void RefractionProcessingDialog::fitProfile() {
+  mFit = {};
+  showFit();
+  if (mWork.refractData.cData.empty()) return;
+  mUi->fitLabel->setText(tr("Computing times..."));
+  mFitting->start(mShots, pickErrors(mDocument, mShots), mWork);
+}
+
+void RefractionProcessingDialog::showFit() {
+  const bool any = !mFit.waves.empty();
+  mUi->fitLabel->clear();
+  mUi->computedCheck->setEnabled(any);
+  mUi->curvesPlot->setComputed(mFit.waves);
+  mUi->misfitTable->setVisible(any);
+  fillMisfitTable(mFit, mShots, *mUi->misfitTable);
 }
 
 void RefractionProcessingDialog::showResults() {
