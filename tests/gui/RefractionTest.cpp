@@ -182,6 +182,29 @@ TEST_F(Refraction, buildsAProfileFromAProposalAndShowsItAll) {
   EXPECT_EQ(family.series().front().name, QStringLiteral("other XY")) << "the first is chosen";
 }
 
+TEST_F(Refraction, showsAnXYThatIsNoneOfTheFamilyAndWhatThePicksTell) {
+  show(testing::twoDippingLayers(), true);
+  press("buildButton");
+  Interpretation interpretation = dialog->interpretation();
+  chooseXY(interpretation, 2, 7.5);
+  ASSERT_TRUE(buildProfiles(shotArrivals(line), interpretation).built);
+  show(interpretation);
+  const auto& curve = part<SeriesPlot>("tvPlot").series();
+  ASSERT_EQ(curve.size(), 10U) << "the family and its own";
+  EXPECT_EQ(curve.back().name, QStringLiteral("XY = 7.5 m"));
+  const auto& built = interpretation.refractData.cData[0];
+  ASSERT_EQ(curve.back().points.size(), built.tV.size());
+  EXPECT_DOUBLE_EQ(curve.back().points[20].z, 1e3 * built.tV[20]);
+  auto& chooser = part<QComboBox>("xyCombo");
+  EXPECT_EQ(chooser.currentText(), QStringLiteral("7.5"));
+  EXPECT_THAT(part<QLabel>("xyFoundLabel").text().toStdString(), HasSubstr("smoothest tV"));
+  EXPECT_THAT(part<QLabel>("xyFoundLabel").toolTip().toStdString(),
+              HasSubstr("7.5 m: tV rough by"));
+  emit chooser.activated(4);
+  EXPECT_EQ(dialog->interpretation().refractData.cData[0].chosenXY, 0.0);
+  EXPECT_LT(chooser.findText(QStringLiteral("7.5")), 0) << "it was none of those to choose from";
+}
+
 TEST_F(Refraction, asksBeforeAProposalReplacesMarks) {
   show(testing::twoDippingLayers(), true);
   const auto before = layer(5, 30);

@@ -8,7 +8,6 @@
 #include "model/TomoDocument.h"
 #include "refraction/PicksFingerprint.h"
 #include "refraction/PlausibleResults.h"
-#include "refraction/ReciprocalMethod.h"
 #include "ui_RefractionProcessingDialog.h"
 
 #include <QAction>
@@ -140,7 +139,6 @@ void RefractionProcessingDialog::fillChoosers() {
                                 .arg(i + 1)
                                 .arg(locale.toString(mShots[i].shot.x, 'f', 1)));
   }
-  for (const double xy : kXYFamily) mUi->xyCombo->addItem(locale.toString(xy, 'f', 0));
 }
 
 void RefractionProcessingDialog::connectCurves() {

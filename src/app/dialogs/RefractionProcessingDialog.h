@@ -83,6 +83,7 @@ class RefractionProcessingDialog : public QDialog {
   void showPhantoms();
   void showShifts();
   void showFunctions();
+  void fillXY(std::uint32_t refractor);
   void showProfile();
   void showResults();
 
