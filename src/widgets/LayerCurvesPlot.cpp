@@ -22,6 +22,7 @@ namespace {
 constexpr double kSymbol = 3.2;  ///< radius of a pick, pixels
 constexpr double kFaintSymbol = 2.2;
 constexpr double kRing = 6.0;
+constexpr double kTick = 3.0;  ///< half a computed time
 
 }  // namespace
 
@@ -40,7 +41,23 @@ void LayerCurvesPlot::setMarks(std::vector<refractionDataStructure::layerStruct>
 void LayerCurvesPlot::followSurvey() {
   mSelection.clear();
   mHovered.reset();
+  mComputed.clear();
   mOrder.assign(mShots.size(), {});
+  for (std::size_t shot = 0; shot < mShots.size(); ++shot) {
+    const ShotArrivals& arrivals = mShots[shot];
+    auto& order = mOrder[shot];
+    for (std::uint32_t i = 0; i < arrivals.times.size(); ++i) {
+      if (hasPick(arrivals.times[i])) order.push_back(i);
+    }
+    std::stable_sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+      return arrivals.receivers[a].x < arrivals.receivers[b].x;
+    });
+  }
+  showWhole();
+}
+
+/// Picks, computed times where they are shown, and shots.
+void LayerCurvesPlot::showWhole() {
   QRectF whole;
   bool empty = true;
   double latest = 0.0;
@@ -53,20 +70,37 @@ void LayerCurvesPlot::followSurvey() {
   };
   for (std::size_t shot = 0; shot < mShots.size(); ++shot) {
     const ShotArrivals& arrivals = mShots[shot];
-    auto& order = mOrder[shot];
-    for (std::uint32_t i = 0; i < arrivals.times.size(); ++i) {
-      if (!hasPick(arrivals.times[i])) continue;
-      order.push_back(i);
+    for (const std::uint32_t i : mOrder[shot]) {
       take(arrivals.receivers[i].x);
       latest = std::max(latest, 1e3 * arrivals.times[i]);
+      const auto computed = computedTime({static_cast<std::uint32_t>(shot), i});
+      if (computed && mComputedShown) latest = std::max(latest, 1e3 * *computed);
     }
-    if (!order.empty()) take(arrivals.shot.x);
-    std::stable_sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
-      return arrivals.receivers[a].x < arrivals.receivers[b].x;
-    });
+    if (!mOrder[shot].empty()) take(arrivals.shot.x);
   }
   whole.setBottom(latest);
   setWhole(whole, empty);
+}
+
+void LayerCurvesPlot::setComputed(std::vector<std::vector<std::vector<double>>> waves) {
+  mComputed = std::move(waves);
+  showWhole();
+}
+
+void LayerCurvesPlot::setComputedShown(bool shown) {
+  mComputedShown = shown;
+  showWhole();
+}
+
+std::optional<double> LayerCurvesPlot::computedTime(const TraceRef& pick) const {
+  if (pick.shot >= mMarks.size() || pick.shot >= mComputed.size()) return std::nullopt;
+  const auto& waves = mComputed[pick.shot];
+  const std::uint32_t layer = layerOf(mMarks[pick.shot], pick.trace);
+  if (layer < 1 || layer > waves.size() || pick.trace >= waves[layer - 1].size()) {
+    return std::nullopt;
+  }
+  const double time = waves[layer - 1][pick.trace];
+  return std::isfinite(time) ? std::make_optional(time) : std::nullopt;
 }
 
 void LayerCurvesPlot::setCurrentShot(int shot) {
@@ -148,6 +182,7 @@ void LayerCurvesPlot::paintCurves(QPainter& painter) const {
     if (!isShown(shot)) continue;
     paintShot(painter, shot, true);
     if (mCurrent != kAllShots) paintBranches(painter, shot);
+    if (mComputedShown) paintComputed(painter, shot);
   }
 }
 
@@ -192,6 +227,29 @@ void LayerCurvesPlot::paintBranches(QPainter& painter, std::uint32_t shot) const
   }
 }
 
+/// Lines through the computed times of neighbouring picks of one branch.
+void LayerCurvesPlot::paintComputed(QPainter& painter, std::uint32_t shot) const {
+  painter.setPen(QPen(palette().color(QPalette::Text), 1.3));
+  painter.setBrush(Qt::NoBrush);
+  QPolygonF line;
+  std::pair<std::uint32_t, bool> branch;  // its layer, and whether it is to the right of the shot
+  for (const std::uint32_t trace : mOrder[shot]) {
+    const auto time = computedTime({shot, trace});
+    const std::pair own(time ? layerOf(mMarks[shot], trace) : refractionDataStructure::kNoLayer,
+                        mShots[shot].onSide(trace, Side::kRight));
+    if (own != branch) {
+      painter.drawPolyline(line);
+      line.clear();
+      branch = own;
+    }
+    if (!time) continue;
+    const QPointF at = toCanvas({mShots[shot].receivers[trace].x, 1e3 * *time});
+    line.append(at);
+    painter.drawLine(at - QPointF(kTick, 0.0), at + QPointF(kTick, 0.0));
+  }
+  painter.drawPolyline(line);
+}
+
 void LayerCurvesPlot::paintOverlay(QPainter& painter) {
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(palette().color(QPalette::Highlight), 1.6));
@@ -215,12 +273,15 @@ bool LayerCurvesPlot::event(QEvent* event) {
   const ShotArrivals& shot = mShots[at->shot];
   const QLocale locale;
   const std::uint32_t layer = at->shot < mMarks.size() ? layerOf(mMarks[at->shot], at->trace) : 0;
-  const QString text = tr("Shot %1, trace %2: %3 m, %4 ms, %5")
-                           .arg(at->shot + 1)
-                           .arg(at->trace + 1)
-                           .arg(locale.toString(shot.receivers[at->trace].x, 'f', 1))
-                           .arg(locale.toString(1e3 * shot.times[at->trace], 'f', 2))
-                           .arg(layer == 0 ? tr("no layer") : tr("layer %1").arg(layer));
+  QString text = tr("Shot %1, trace %2: %3 m, %4 ms, %5")
+                     .arg(at->shot + 1)
+                     .arg(at->trace + 1)
+                     .arg(locale.toString(shot.receivers[at->trace].x, 'f', 1))
+                     .arg(locale.toString(1e3 * shot.times[at->trace], 'f', 2))
+                     .arg(layer == 0 ? tr("no layer") : tr("layer %1").arg(layer));
+  if (const auto computed = computedTime(*at)) {
+    text += QLatin1Char('\n') + tr("computed: %1 ms").arg(locale.toString(1e3 * *computed, 'f', 2));
+  }
   QToolTip::showText(help.globalPos(), text, this);
   return true;
 }

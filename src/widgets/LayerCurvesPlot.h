@@ -31,6 +31,12 @@ class LayerCurvesPlot : public PlotPage {
   void setSurvey(std::vector<ShotArrivals> shots);
   void setMarks(std::vector<refractionDataStructure::layerStruct> marks);
 
+  /// Computed times to draw over the picks, for every pick that of its layer. Per shot, layer from
+  /// the first on, and trace, seconds; not a number where there is none.
+  void setComputed(std::vector<std::vector<std::vector<double>>> waves);
+  /// Of a pick as it is marked, seconds; none where there is none.
+  std::optional<double> computedTime(const TraceRef& pick) const;
+
   int currentShot() const { return mCurrent; }
   std::uint32_t layer() const { return mLayer; }  ///< to mark with
   const std::vector<TraceRef>& selection() const { return mSelection; }
@@ -43,6 +49,7 @@ class LayerCurvesPlot : public PlotPage {
   void setLayer(int layer);       ///< 0 to 3
   void setShownLayer(int layer);  ///< the others are grey; kAllLayers shows each in colour
   void setEditable(bool editable);
+  void setComputedShown(bool shown);
 
  signals:
   /// The user wants these picks assigned to the layer; the marks are not changed yet.
@@ -69,6 +76,7 @@ class LayerCurvesPlot : public PlotPage {
   void paintCurves(QPainter& painter) const;
   void paintShot(QPainter& painter, std::uint32_t shot, bool strong) const;
   void paintBranches(QPainter& painter, std::uint32_t shot) const;
+  void paintComputed(QPainter& painter, std::uint32_t shot) const;
   QColor shown(std::uint32_t layer) const;  ///< the colour of a layer on this paper
   QColor colorOf(std::uint32_t shot, std::uint32_t trace, bool strong) const;
   void click(const QPointF& at);
@@ -79,10 +87,13 @@ class LayerCurvesPlot : public PlotPage {
   void walkShots(int steps);
   void chooseLayer(int layer);
   void followSurvey();
+  void showWhole();
 
   std::vector<ShotArrivals> mShots;
   std::vector<refractionDataStructure::layerStruct> mMarks;
   std::vector<std::vector<std::uint32_t>> mOrder;  ///< picked traces of each shot by ascending x
+  std::vector<std::vector<std::vector<double>>> mComputed;  ///< per shot, layer and trace
+  bool mComputedShown = true;
   int mCurrent = kAllShots;
   int mShownLayer = kAllLayers;
   std::uint32_t mLayer = 1;

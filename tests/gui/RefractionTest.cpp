@@ -76,6 +76,10 @@ class Refraction : public WindowTest {
   void key(Qt::Key code, Qt::KeyboardModifiers keys = Qt::NoModifier) {
     QTest::keyClick(&curves(), code, keys);
   }
+  /// Whether the times through the profile have come.
+  bool fitted() {
+    return QTest::qWaitFor([this] { return part<QCheckBox>("computedCheck").isEnabled(); }, 60000);
+  }
   QString reading() { return part<QLabel>("velocityLabel").text(); }
 
   TomoDocument line;
@@ -178,6 +182,29 @@ TEST_F(Refraction, buildsAProfileFromAProposalAndShowsItAll) {
   EXPECT_EQ(family.series().front().name, QStringLiteral("other XY")) << "the first is chosen";
 }
 
+TEST_F(Refraction, showsAnXYThatIsNoneOfTheFamilyAndWhatThePicksTell) {
+  show(testing::twoDippingLayers(), true);
+  press("buildButton");
+  Interpretation interpretation = dialog->interpretation();
+  chooseXY(interpretation, 2, 7.5);
+  ASSERT_TRUE(buildProfiles(shotArrivals(line), interpretation).built);
+  show(interpretation);
+  const auto& curve = part<SeriesPlot>("tvPlot").series();
+  ASSERT_EQ(curve.size(), 10U) << "the family and its own";
+  EXPECT_EQ(curve.back().name, QStringLiteral("XY = 7.5 m"));
+  const auto& built = interpretation.refractData.cData[0];
+  ASSERT_EQ(curve.back().points.size(), built.tV.size());
+  EXPECT_DOUBLE_EQ(curve.back().points[20].z, 1e3 * built.tV[20]);
+  auto& chooser = part<QComboBox>("xyCombo");
+  EXPECT_EQ(chooser.currentText(), QStringLiteral("7.5"));
+  EXPECT_THAT(part<QLabel>("xyFoundLabel").text().toStdString(), HasSubstr("smoothest tV"));
+  EXPECT_THAT(part<QLabel>("xyFoundLabel").toolTip().toStdString(),
+              HasSubstr("7.5 m: tV rough by"));
+  emit chooser.activated(4);
+  EXPECT_EQ(dialog->interpretation().refractData.cData[0].chosenXY, 0.0);
+  EXPECT_LT(chooser.findText(QStringLiteral("7.5")), 0) << "it was none of those to choose from";
+}
+
 TEST_F(Refraction, asksBeforeAProposalReplacesMarks) {
   show(testing::twoDippingLayers(), true);
   const auto before = layer(5, 30);
@@ -191,6 +218,105 @@ TEST_F(Refraction, asksBeforeAProposalReplacesMarks) {
   press("proposeButton");
   EXPECT_NE(layer(5, 0), 3U);
   EXPECT_EQ(layer(5, 30), before);
+  EXPECT_TRUE(dialogs.finished());
+}
+
+TEST_F(Refraction, proposesOverTheWholeSurveyWithItsFigures) {
+  std::vector<layerStruct> truth;
+  line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+  line.ttArray.edit()[5].ttMisurati.edit()[50] += 0.04;
+  show(Interpretation());
+  const auto& label = part<QLabel>("proposalLabel");
+  EXPECT_FALSE(label.isVisible());
+  press("proposeSurveyButton");
+  ASSERT_TRUE(label.isVisible());
+  const std::string proposed = label.text().toStdString();
+  EXPECT_THAT(proposed, HasSubstr("Proposal over the whole survey: 2 layers, misfit 0 ms; "));
+  EXPECT_THAT(proposed, HasSubstr("fit no layer and are given to none (shot/trace): 6/51"));
+  EXPECT_EQ(layer(5, 50), 0U);
+  for (const std::size_t trace : {5U, 20U, 55U}) {
+    EXPECT_EQ(layer(5, trace), truth[5].layer[trace]) << trace;
+  }
+  // It is one step, and the figures are not passed off as those of other marks.
+  dialog->undoStack()->undo();
+  EXPECT_EQ(layer(5, 20), 0U);
+  EXPECT_THAT(label.text().toStdString(),
+              HasSubstr("The marks are no longer those of this proposal."));
+  dialog->undoStack()->redo();
+  EXPECT_EQ(label.text().toStdString(), proposed);
+  dialogs.expectBox("Propose layers", "Replace the marks by a proposal?", "", QMessageBox::Yes);
+  press("proposeButton");
+  EXPECT_FALSE(label.isVisible());
+  EXPECT_TRUE(dialogs.finished());
+}
+
+TEST_F(Refraction, drawsComputedTimesOverThePicksAndTellsTheirMisfit) {
+  show(testing::twoDippingLayers(), true);
+  EXPECT_FALSE(part<QCheckBox>("computedCheck").isEnabled());
+  EXPECT_FALSE(curves().computedTime({5, 40}));
+  line.ttArray.edit()[7].ttMisurati.edit()[40] += 0.01;
+  show(dialog->interpretation());
+  press("buildButton");
+  ASSERT_TRUE(fitted());
+  const double pick = line.ttArray[5].ttMisurati[40];
+  EXPECT_NEAR(curves().computedTime({5, 40}).value_or(0.0), pick, 0.0015);
+
+  const auto& table = part<QTableWidget>("misfitTable");
+  ASSERT_EQ(table.columnCount(), 3);
+  ASSERT_EQ(table.rowCount(), 21) << "20 shots, then all";
+  const auto rms = [&](int row) { return table.item(row, 2)->text().toDouble(); };
+  EXPECT_EQ(table.item(7, 0)->text(), QStringLiteral("Shot 8"));
+  EXPECT_GT(rms(7), rms(6) + 0.5) << "the pick that is 10 ms late";
+  EXPECT_LT(rms(20), rms(7)) << "all shots";
+  EXPECT_THAT(table.item(7, 2)->toolTip().toStdString(), HasSubstr("chi2"));
+
+  part<QTabWidget>("tabs").setCurrentIndex(0);
+  part<QComboBox>("shotCombo").setCurrentIndex(1 + 5);
+  const auto picture = [this] {
+    QTest::qWait(20);
+    return curves().canvas()->grab().toImage();
+  };
+  const QImage with = picture();
+  part<QCheckBox>("computedCheck").setChecked(false);
+  EXPECT_NE(picture(), with);
+  part<QCheckBox>("computedCheck").setChecked(true);
+  // A computed time is that of the layer that the pick is marked as; the misfit is that of the
+  // build, and not said of other marks.
+  key(Qt::Key_Right);
+  const double refracted = curves().computedTime({5, 0}).value_or(1.0);
+  EXPECT_THAT(reading().toStdString(), HasSubstr("misfit of the shot 0."));
+  key(Qt::Key_1);
+  EXPECT_THAT(reading().toStdString(), ::testing::Not(HasSubstr("misfit")));
+  EXPECT_GT(curves().computedTime({5, 0}).value_or(0.0), refracted + 0.01) << "the direct wave";
+  key(Qt::Key_0);
+  EXPECT_FALSE(curves().computedTime({5, 0}));
+  // They come with a profile that was built earlier.
+  show(dialog->interpretation());
+  EXPECT_TRUE(fitted());
+}
+
+TEST_F(Refraction, marksNothingOnAGradientUnlessTheUserWants) {
+  std::vector<layerStruct> truth;
+  line = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+  for (TravelTime& record : line.ttArray.edit()) {
+    for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
+      const double offset = std::fabs(2.5 * static_cast<double>(i) - record.shotPos2d.x);
+      record.ttMisurati.edit()[i] = 2.0 / 30.0 * std::asinh(30.0 * offset / (2.0 * 500.0));
+    }
+  }
+  show(Interpretation());
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    dialogs.expect([answer](QWidget& box) {
+      const auto& message = dynamic_cast<QMessageBox&>(box);
+      EXPECT_THAT(message.text().toStdString(), HasSubstr("No layers are proposed. Mark "));
+      EXPECT_THAT(message.informativeText().toStdString(),
+                  HasSubstr("a velocity that grows steadily with depth, from 500 m/s by 30 m/s"));
+      message.button(answer)->click();
+    });
+    press("proposeSurveyButton");
+    EXPECT_EQ(layer(5, 50) != 0U, answer == QMessageBox::Yes);
+    EXPECT_EQ(part<QLabel>("proposalLabel").isVisible(), answer == QMessageBox::Yes);
+  }
   EXPECT_TRUE(dialogs.finished());
 }
 

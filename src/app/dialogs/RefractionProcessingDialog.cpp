@@ -1,13 +1,13 @@
 #include "app/dialogs/RefractionProcessingDialog.h"
 
+#include "app/BackgroundFit.h"
 #include "app/LineIcon.h"
 #include "app/Messages.h"
+#include "app/dialogs/MisfitTable.h"
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
-#include "refraction/LayerProposal.h"
 #include "refraction/PicksFingerprint.h"
 #include "refraction/PlausibleResults.h"
-#include "refraction/ReciprocalMethod.h"
 #include "ui_RefractionProcessingDialog.h"
 
 #include <QAction>
@@ -67,6 +67,7 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
       mDocument(document),
       mWork(interpretation),
       mShots(shotArrivals(document)),
+      mFitting(new BackgroundFit(this)),
       mUndo(new QUndoStack(this)) {
   fitToSurvey(document, mWork);
   mUi->setupUi(this);
@@ -75,6 +76,8 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
   mUi->phantomSplitter->setSizes({620, 440});
   mUi->shiftTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   mUi->profileSplitter->setSizes({260, 340});
+  mUi->resultSplitter->setSizes({760, 280});
+  mUi->misfitTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   nameThings();
   fillChoosers();
   connectCurves();
@@ -82,6 +85,7 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
   marksChanged();
   mStale = false;
   showResults();
+  fitProfile();
   mUi->curvesPlot->setFocus();
 }
 
@@ -135,7 +139,6 @@ void RefractionProcessingDialog::fillChoosers() {
                                 .arg(i + 1)
                                 .arg(locale.toString(mShots[i].shot.x, 'f', 1)));
   }
-  for (const double xy : kXYFamily) mUi->xyCombo->addItem(locale.toString(xy, 'f', 0));
 }
 
 void RefractionProcessingDialog::connectCurves() {
@@ -148,9 +151,14 @@ void RefractionProcessingDialog::connectCurves() {
   connect(mUi->showLayerCombo, chosen, curves,
           [curves](int index) { curves->setShownLayer(index - 1); });
   connect(mUi->editableCheck, &QCheckBox::toggled, curves, &LayerCurvesPlot::setEditable);
+  connect(mUi->computedCheck, &QCheckBox::toggled, curves, &LayerCurvesPlot::setComputedShown);
   connect(mUi->shotCombo, chosen, this, [this](int index) { chooseShot(index - 1); });
   connect(curves, &LayerCurvesPlot::shotChosen, this, [this](int shot) { chooseShot(shot); });
   connect(curves, &LayerCurvesPlot::marked, this, &RefractionProcessingDialog::mark);
+  connect(mFitting, &BackgroundFit::found, this, [this](const LayeredFit& fit) {
+    mFit = fit;
+    showFit();
+  });
   connect(curves, &LayerCurvesPlot::branchRead, this, &RefractionProcessingDialog::showReading);
 }
 
@@ -159,6 +167,7 @@ bool RefractionProcessingDialog::hasChanges() const {
 }
 
 void RefractionProcessingDialog::reject() {
+  if (!isEnabled()) return;  // at work
   if (!hasChanges() || askYesNo(this, tr("Refraction processing"),
                                 tr("Close without keeping the changes?"), {}, false)) {
     QDialog::reject();
@@ -206,6 +215,7 @@ void RefractionProcessingDialog::marksChanged() {
     changed << tr("The marks have changed since the profiles were built.");
   }
   mUi->staleLabel->setText(changed.join(QLatin1Char(' ')));
+  showProposal();
   refreshShot();
 }
 
@@ -223,27 +233,14 @@ void RefractionProcessingDialog::showReading(const BranchReading* reading) {
   const QString velocity = reading->velocity && isPlausibleVelocity(*reading->velocity)
                                ? tr("%1 m/s").arg(QLocale().toString(*reading->velocity, 'f', 0))
                                : tr("no velocity");
-  mUi->velocityLabel->setText(tr("Layer %1, %2: %3 (%4 picks)")
-                                  .arg(reading->layer)
-                                  .arg(place, velocity)
-                                  .arg(reading->picks));
-}
-
-void RefractionProcessingDialog::on_proposeButton_clicked() {
-  if (hasMarks(mWork.ttLayer) &&
-      !askYesNo(this, tr("Propose layers"), tr("Replace the marks by a proposal?"),
-                tr("All picks are assigned anew from the break points of the branches. Undo brings "
-                   "the marks back."),
-                false)) {
-    return;
-  }
-  const Marks proposed = proposeLayers(mShots, mWork.ttLayer);
-  if (!hasMarks(proposed)) {
-    showNote(this, tr("Propose layers"),
-             tr("No branch of the curves has picks enough to tell layers apart."));
-    return;
-  }
-  changeMarks(tr("propose layers"), proposed);
+  QString text = tr("Layer %1, %2: %3 (%4 picks)")
+                     .arg(reading->layer)
+                     .arg(place, velocity)
+                     .arg(reading->picks);
+  // The misfit is that of the marks that the profiles were built of.
+  const QString misfit = mStale ? QString() : misfitText(mFit, reading->shot, reading->layer);
+  if (!misfit.isEmpty()) text += tr("; misfit of the shot %1").arg(misfit);
+  mUi->velocityLabel->setText(text);
 }
 
 void RefractionProcessingDialog::on_clearButton_clicked() {

@@ -2,12 +2,15 @@
 
 #include "model/RefractionDataStructure.h"
 #include "refraction/BuildProfiles.h"
+#include "refraction/LayeredFit.h"
 #include "refraction/MarkEdits.h"
 #include "refraction/ShotArrivals.h"
+#include "refraction/SurveyProposal.h"
 
 #include <QDialog>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QUndoStack;
@@ -17,6 +20,7 @@ namespace talvesk {
 namespace Ui {
 class RefractionProcessingDialog;
 }
+class BackgroundFit;
 class TomoDocument;
 
 /// Turns picks into layers: marks on the travel-time curves, phantom arrivals, tV and tG,
@@ -45,6 +49,7 @@ class RefractionProcessingDialog : public QDialog {
 
  private slots:
   void on_proposeButton_clicked();
+  void on_proposeSurveyButton_clicked();
   void on_clearButton_clicked();
   void on_enabledCheck_clicked(bool checked);
   void on_pushAutoPhantButton_clicked();
@@ -65,16 +70,20 @@ class RefractionProcessingDialog : public QDialog {
   void mark(const std::vector<TraceRef>& picks, int layer);
   void changeMarks(const QString& text, const Marks& after);
   void marksChanged();
+  void showProposal();
   void showReading(const BranchReading* reading);
   void refreshShot();
 
   // Results
   bool build(std::vector<RefractionWarning> told);
+  void fitProfile();
+  void showFit();
   void tell(const std::vector<RefractionWarning>& warnings,
             const std::vector<RefractionWarning>& known);
   void showPhantoms();
   void showShifts();
   void showFunctions();
+  void fillXY(std::uint32_t refractor);
   void showProfile();
   void showResults();
 
@@ -83,6 +92,9 @@ class RefractionProcessingDialog : public QDialog {
   refractionDataStructure::Interpretation mWork;
   std::vector<ShotArrivals> mShots;
   std::vector<RefractionWarning> mWarnings;  ///< of the last build
+  std::optional<SurveyProposal> mProposal;   ///< that the marks were last replaced by
+  LayeredFit mFit;  ///< of the profiles as they were built or opened; empty until it is found
+  BackgroundFit* mFitting;
   QUndoStack* mUndo;
   bool mBuilt = false;
   bool mPhantomed = false;  ///< the curves are not those that it was opened with

@@ -1,11 +1,15 @@
+#include "app/BackgroundFit.h"
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
+#include "app/dialogs/MisfitTable.h"
 #include "app/dialogs/RefractionProcessingDialog.h"
 #include "app/dialogs/RefractionTexts.h"
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
 #include "refraction/Profile.h"
 #include "refraction/ReciprocalMethod.h"
+#include "refraction/WeighedPicks.h"
+#include "refraction/XYChoice.h"
 #include "ui_RefractionProcessingDialog.h"
 
 #include <QApplication>
@@ -142,6 +146,7 @@ bool RefractionProcessingDialog::build(std::vector<RefractionWarning> told) {
     mWarnings = outcome.warnings;
     mStale = false;
     mBuilt = true;
+    fitProfile();
   }
   marksChanged();
   showResults();
@@ -166,6 +171,24 @@ void RefractionProcessingDialog::tell(const std::vector<RefractionWarning>& warn
     showWarning(this, tr("Warning"), refractionText(warning),
                 noPair ? noShotPairText(shotPairReach(mShots, mWork.ttLayer, 2)) : QString());
   }
+}
+
+/// Has computed how the times through the profiles fit the picks and marks of now.
+void RefractionProcessingDialog::fitProfile() {
+  mFit = {};
+  showFit();
+  if (mWork.refractData.cData.empty()) return;
+  mUi->fitLabel->setText(tr("Computing times..."));
+  mFitting->start(mShots, pickErrors(mDocument, mShots), mWork);
+}
+
+void RefractionProcessingDialog::showFit() {
+  const bool any = !mFit.waves.empty();
+  mUi->fitLabel->clear();
+  mUi->computedCheck->setEnabled(any);
+  mUi->curvesPlot->setComputed(mFit.waves);
+  mUi->misfitTable->setVisible(any);
+  fillMisfitTable(mFit, mShots, *mUi->misfitTable);
 }
 
 void RefractionProcessingDialog::showResults() {
@@ -249,10 +272,13 @@ void RefractionProcessingDialog::showFunctions() {
   std::vector<PlotSeries> tG;
   if (refractor >= 0) {
     const computedData& found = mWork.refractData.cData[static_cast<std::size_t>(refractor)];
-    const std::size_t chosen = indexOfXY(found.chosenXY);
-    mUi->xyCombo->setCurrentIndex(static_cast<int>(chosen));
+    // A project may have an XY that is none of the family.
+    const std::size_t chosen =
+        isOfFamily(found.chosenXY) ? indexOfXY(found.chosenXY) : kXYFamily.size();
+    fillXY(static_cast<std::uint32_t>(refractor) + 2);
     const QColor strong = shown(static_cast<std::uint32_t>(refractor) + 2);
-    const auto addFamily = [&](const std::vector<double>& family, std::vector<PlotSeries>& plot) {
+    const auto addFamily = [&](const std::vector<double>& family, const std::vector<double>& own,
+                               std::vector<PlotSeries>& plot) {
       for (std::size_t i = 0; i < kXYFamily.size(); ++i) {
         if (i == chosen) continue;
         // One name stands for all of them in the legend.
@@ -261,17 +287,50 @@ void RefractionProcessingDialog::showFunctions() {
         plot.back().color = faint(shown(kNoLayer), 0.6);
         plot.back().width = 1.0;
       }
-      plot.push_back(
-          seriesOf(tr("XY = %1 m").arg(kXYFamily[chosen]), found.x, memberOf(family, chosen), kMs));
+      plot.push_back(seriesOf(tr("XY = %1 m").arg(found.chosenXY), found.x, own, kMs));
       plot.back().color = strong;
       plot.back().width = 2.2;
       plot.back().symbols = true;
     };
-    addFamily(found.tVs, tV);
-    addFamily(found.tGs, tG);
+    addFamily(found.tVs, found.tV, tV);
+    addFamily(found.tGs, found.tG, tG);
   }
   mUi->tvPlot->setSeries(std::move(tV));
   mUi->tgPlot->setSeries(std::move(tG));
+}
+
+/// The family, then the XY of a refractor that is none of it and those that the picks propose, with
+/// their criteria.
+void RefractionProcessingDialog::fillXY(std::uint32_t refractor) {
+  QComboBox& combo = *mUi->xyCombo;
+  const double chosen = mWork.refractData.cData[refractor - 2].chosenXY;
+  const XYChoice choice = findXY(mWork, refractor);
+  const QLocale locale;
+  combo.clear();
+  for (const double xy : kXYFamily) combo.addItem(locale.toString(xy, 'f', 0), xy);
+  const auto offer = [&](double xy) {
+    if (combo.findData(xy) < 0) combo.addItem(locale.toString(xy, 'g', 6), xy);
+  };
+  offer(chosen);
+  QStringList found;
+  const auto propose = [&](const XYProposal& proposal, const QString& name) {
+    if (proposal.told) offer(proposal.xy);
+    found << (proposal.told ? tr("%1 at %2 m").arg(name, locale.toString(proposal.xy, 'g', 6))
+                            : tr("%1: the picks do not tell").arg(name));
+  };
+  propose(choice.smoothest, tr("smoothest tV"));
+  propose(choice.mostEven, tr("most even velocity"));
+  mUi->xyFoundLabel->setText(found.join(QStringLiteral("; ")));
+  QStringList criteria;
+  for (const XYTried& tried : choice.tried) {
+    if (!std::isfinite(tried.roughness) || !std::isfinite(tried.unevenness)) continue;
+    criteria << tr("%1 m: tV rough by %2 ms, velocity uneven by %3 %")
+                    .arg(locale.toString(tried.xy, 'g', 6),
+                         locale.toString(kMs * tried.roughness, 'f', 3),
+                         locale.toString(100.0 * tried.unevenness, 'f', 1));
+  }
+  mUi->xyFoundLabel->setToolTip(criteria.join(QLatin1Char('\n')));
+  combo.setCurrentIndex(combo.findData(chosen));
 }
 
 void RefractionProcessingDialog::on_refractorCombo_activated(int) {
@@ -283,7 +342,7 @@ void RefractionProcessingDialog::on_xyCombo_activated(int index) {
   if (refractor < 0) return;
   const auto layer = static_cast<std::uint32_t>(refractor) + 2;
   const double before = mWork.refractData.cData[static_cast<std::size_t>(refractor)].chosenXY;
-  chooseXY(mWork, layer, kXYFamily[static_cast<std::size_t>(index)]);
+  chooseXY(mWork, layer, mUi->xyCombo->itemData(index).toDouble());
   if (build(mWarnings)) return;
   chooseXY(mWork, layer, before);
   showFunctions();
