@@ -199,6 +199,16 @@
     </message>
 </context>
 <context>
+    <name>talvesk::MisfitTable</name>
+    <message numerus="yes">
+        <source>%n pick(s); picks later than computed by %1 ms in the mean; chi2 %2</source>
+        <translation>
+            <numerusform>%n pick; it is later than computed by %1 ms; chi2 %2</numerusform>
+            <numerusform>%n picks; picks later than computed by %1 ms in the mean; chi2 %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RefractionProcessingDialog</name>
     <message numerus="yes">
         <source>take %n pick(s) out</source>
@@ -212,6 +222,13 @@
         <translation>
             <numerusform>mark %n pick</numerusform>
             <numerusform>mark %n picks</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>No layers are proposed. Mark %n layers all the same?</source>
+        <translation>
+            <numerusform>No layers are proposed. Mark %n layer all the same?</numerusform>
+            <numerusform>No layers are proposed. Mark %n layers all the same?</numerusform>
         </translation>
     </message>
 </context>
