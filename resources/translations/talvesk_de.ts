@@ -2264,6 +2264,10 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>layer %1</source>
         <translation>Schicht %1</translation>
     </message>
+    <message>
+        <source>computed: %1 ms</source>
+        <translation>berechnet: %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LeftOutText</name>
@@ -6205,6 +6209,40 @@ Bitte legen Sie die Positionen der Geophone fest
     </message>
 </context>
 <context>
+    <name>talvesk::MisfitTable</name>
+    <message numerus="yes">
+        <source>%n pick(s); picks later than computed by %1 ms in the mean; chi2 %2</source>
+        <translation>
+            <numerusform>%n Pick; %1 ms später als berechnet; chi2 %2</numerusform>
+            <numerusform>%n Picks; im Mittel %1 ms später als berechnet; chi2 %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Misfit (ms)</source>
+        <translation>Abweichung (ms)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Schicht %1</translation>
+    </message>
+    <message>
+        <source>RMS of picks less computed times, per shot and layer</source>
+        <translation>RMS von Picks minus berechneten Zeiten, je Schuss und Schicht</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Schuss %1</translation>
+    </message>
+    <message>
+        <source>All shots</source>
+        <translation>Alle Schüsse</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::PaletteDialog</name>
     <message>
         <source>Palette Settings</source>
@@ -7063,6 +7101,77 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
         <translation>Einige Geschwindigkeiten oder Tiefen sind nicht bekannt. Erstellen Sie die Profile neu, um den Grund zu erfahren.</translation>
+    </message>
+    <message>
+        <source>Propose over the whole survey</source>
+        <translation>Über die ganze Messung vorschlagen</translation>
+    </message>
+    <message>
+        <source>Fit ground of one, two and three layers, and ground whose velocity grows steadily, to all picks together, and propose what fits best</source>
+        <translation>Passt Untergrund aus einer, zwei und drei Schichten und solchen mit stetig zunehmender Geschwindigkeit an alle Picks gemeinsam an und schlägt vor, was am besten passt</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Berechnete Zeiten</translation>
+    </message>
+    <message>
+        <source>Draw the arrivals through the profiles as they were built, as black lines: for every pick the wave of its layer</source>
+        <translation>Zeichnet die Einsätze durch die Profile, wie sie erstellt wurden, als schwarze Linien: für jeden Pick die Welle seiner Schicht</translation>
+    </message>
+    <message>
+        <source>RMS misfit (ms)</source>
+        <translation>RMS-Abweichung (ms)</translation>
+    </message>
+    <message>
+        <source>; misfit of the shot %1</source>
+        <translation>; Abweichung des Schusses: %1</translation>
+    </message>
+    <message>
+        <source>No layers are proposed.</source>
+        <translation>Es werden keine Schichten vorgeschlagen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>No layers are proposed. Mark %n layers all the same?</source>
+        <translation>
+            <numerusform>Es werden keine Schichten vorgeschlagen. Trotzdem %n Schicht zuordnen?</numerusform>
+            <numerusform>Es werden keine Schichten vorgeschlagen. Trotzdem %n Schichten zuordnen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>propose layers over the whole survey</source>
+        <translation>Schichten über die ganze Messung vorschlagen</translation>
+    </message>
+    <message>
+        <source>Proposal over the whole survey: %1</source>
+        <translation>Vorschlag über die ganze Messung: %1</translation>
+    </message>
+    <message>
+        <source>The marks are no longer those of this proposal.</source>
+        <translation>Die Zuordnungen sind nicht mehr die dieses Vorschlags.</translation>
+    </message>
+    <message>
+        <source>Computing times...</source>
+        <translation>Zeiten werden berechnet...</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m</source>
+        <translation>%1 bei %2 m</translation>
+    </message>
+    <message>
+        <source>%1: the picks do not tell</source>
+        <translation>%1: aus den Picks nicht zu bestimmen</translation>
+    </message>
+    <message>
+        <source>smoothest tV</source>
+        <translation>glatteste tV</translation>
+    </message>
+    <message>
+        <source>most even velocity</source>
+        <translation>gleichmäßigste Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
+        <translation>%1 m: tV um %2 ms rau, Geschwindigkeit um %3 % ungleichmäßig</translation>
     </message>
 </context>
 <context>
