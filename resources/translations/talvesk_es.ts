@@ -2264,6 +2264,10 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>layer %1</source>
         <translation>capa %1</translation>
     </message>
+    <message>
+        <source>computed: %1 ms</source>
+        <translation>calculado: %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LeftOutText</name>
@@ -6205,6 +6209,40 @@ Defina la posición de los geófonos
     </message>
 </context>
 <context>
+    <name>talvesk::MisfitTable</name>
+    <message numerus="yes">
+        <source>%n pick(s); picks later than computed by %1 ms in the mean; chi2 %2</source>
+        <translation>
+            <numerusform>%n picado; posterior en %1 ms al tiempo calculado, de media; chi2 %2</numerusform>
+            <numerusform>%n picados; posteriores en %1 ms a los tiempos calculados, de media; chi2 %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Misfit (ms)</source>
+        <translation>Desajuste (ms)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Capa %1</translation>
+    </message>
+    <message>
+        <source>RMS of picks less computed times, per shot and layer</source>
+        <translation>RMS de los picados menos los tiempos calculados, por disparo y capa</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>All shots</source>
+        <translation>Todos los disparos</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::PaletteDialog</name>
     <message>
         <source>Palette Settings</source>
@@ -7063,6 +7101,77 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
         <translation>Algunas velocidades o profundidades no se conocen. Vuelva a construir los perfiles para saber por qué.</translation>
+    </message>
+    <message>
+        <source>Propose over the whole survey</source>
+        <translation>Proponer para todo el levantamiento</translation>
+    </message>
+    <message>
+        <source>Fit ground of one, two and three layers, and ground whose velocity grows steadily, to all picks together, and propose what fits best</source>
+        <translation>Ajusta a todos los picados a la vez terrenos de una, dos y tres capas, y otro cuya velocidad crece de forma uniforme, y propone lo que mejor se ajusta</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Tiempos calculados</translation>
+    </message>
+    <message>
+        <source>Draw the arrivals through the profiles as they were built, as black lines: for every pick the wave of its layer</source>
+        <translation>Dibuja como líneas negras las llegadas a través de los perfiles tal como se construyeron: para cada picado, la onda de su capa</translation>
+    </message>
+    <message>
+        <source>RMS misfit (ms)</source>
+        <translation>Desajuste RMS (ms)</translation>
+    </message>
+    <message>
+        <source>; misfit of the shot %1</source>
+        <translation>; desajuste del disparo: %1</translation>
+    </message>
+    <message>
+        <source>No layers are proposed.</source>
+        <translation>No se propone ninguna capa.</translation>
+    </message>
+    <message numerus="yes">
+        <source>No layers are proposed. Mark %n layers all the same?</source>
+        <translation>
+            <numerusform>No se propone ninguna capa. ¿Asignar los picados a %n capa de todos modos?</numerusform>
+            <numerusform>No se propone ninguna capa. ¿Asignar los picados a %n capas de todos modos?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>propose layers over the whole survey</source>
+        <translation>proponer capas para todo el levantamiento</translation>
+    </message>
+    <message>
+        <source>Proposal over the whole survey: %1</source>
+        <translation>Propuesta para todo el levantamiento: %1</translation>
+    </message>
+    <message>
+        <source>The marks are no longer those of this proposal.</source>
+        <translation>Las asignaciones ya no son las de esta propuesta.</translation>
+    </message>
+    <message>
+        <source>Computing times...</source>
+        <translation>Calculando tiempos...</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m</source>
+        <translation>%1 con %2 m</translation>
+    </message>
+    <message>
+        <source>%1: the picks do not tell</source>
+        <translation>%1: los picados no lo determinan</translation>
+    </message>
+    <message>
+        <source>smoothest tV</source>
+        <translation>tV más suave</translation>
+    </message>
+    <message>
+        <source>most even velocity</source>
+        <translation>velocidad más uniforme</translation>
+    </message>
+    <message>
+        <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
+        <translation>%1 m: rugosidad de tV %2 ms, irregularidad de la velocidad %3 %</translation>
     </message>
 </context>
 <context>
