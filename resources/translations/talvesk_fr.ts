@@ -2264,6 +2264,10 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>layer %1</source>
         <translation>couche %1</translation>
     </message>
+    <message>
+        <source>computed: %1 ms</source>
+        <translation>calculé&#xa0;: %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LeftOutText</name>
@@ -6205,6 +6209,40 @@ Veuillez définir la position des géophones
     </message>
 </context>
 <context>
+    <name>talvesk::MisfitTable</name>
+    <message numerus="yes">
+        <source>%n pick(s); picks later than computed by %1 ms in the mean; chi2 %2</source>
+        <translation>
+            <numerusform>%n pointé&#xa0;; en retard de %1 ms en moyenne sur le temps calculé&#xa0;; khi-deux %2</numerusform>
+            <numerusform>%n pointés&#xa0;; en retard de %1 ms en moyenne sur les temps calculés&#xa0;; khi-deux %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Misfit (ms)</source>
+        <translation>Écart (ms)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Couche %1</translation>
+    </message>
+    <message>
+        <source>RMS of picks less computed times, per shot and layer</source>
+        <translation>RMS des pointés moins temps calculés, par tir et par couche</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tir %1</translation>
+    </message>
+    <message>
+        <source>All shots</source>
+        <translation>Tous les tirs</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::PaletteDialog</name>
     <message>
         <source>Palette Settings</source>
@@ -7063,6 +7101,77 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
         <translation>Certaines vitesses ou profondeurs ne sont pas connues. Reconstruisez les profils pour en connaître la raison.</translation>
+    </message>
+    <message>
+        <source>Propose over the whole survey</source>
+        <translation>Proposer sur tout le levé</translation>
+    </message>
+    <message>
+        <source>Fit ground of one, two and three layers, and ground whose velocity grows steadily, to all picks together, and propose what fits best</source>
+        <translation>Ajuster à l&apos;ensemble des pointés un terrain à une, deux et trois couches, et un terrain dont la vitesse croît régulièrement, et proposer celui qui s&apos;ajuste le mieux</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Temps calculés</translation>
+    </message>
+    <message>
+        <source>Draw the arrivals through the profiles as they were built, as black lines: for every pick the wave of its layer</source>
+        <translation>Dessiner en traits noirs les arrivées à travers les profils tels qu&apos;ils ont été construits&#xa0;: pour chaque pointé, l&apos;onde de sa couche</translation>
+    </message>
+    <message>
+        <source>RMS misfit (ms)</source>
+        <translation>Écart quadratique moyen (ms)</translation>
+    </message>
+    <message>
+        <source>; misfit of the shot %1</source>
+        <translation>&#xa0;; écart du tir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>No layers are proposed.</source>
+        <translation>Aucune couche n&apos;est proposée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>No layers are proposed. Mark %n layers all the same?</source>
+        <translation>
+            <numerusform>Aucune couche n&apos;est proposée. Attribuer quand même les pointés à %n couche&#xa0;?</numerusform>
+            <numerusform>Aucune couche n&apos;est proposée. Attribuer quand même les pointés à %n couches&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>propose layers over the whole survey</source>
+        <translation>proposer les couches sur tout le levé</translation>
+    </message>
+    <message>
+        <source>Proposal over the whole survey: %1</source>
+        <translation>Proposition sur tout le levé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The marks are no longer those of this proposal.</source>
+        <translation>Les attributions ne sont plus celles de cette proposition.</translation>
+    </message>
+    <message>
+        <source>Computing times...</source>
+        <translation>Calcul des temps...</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m</source>
+        <translation>%1 à %2 m</translation>
+    </message>
+    <message>
+        <source>%1: the picks do not tell</source>
+        <translation>%1&#xa0;: les pointés n&apos;en disent rien</translation>
+    </message>
+    <message>
+        <source>smoothest tV</source>
+        <translation>tV la plus lisse</translation>
+    </message>
+    <message>
+        <source>most even velocity</source>
+        <translation>vitesse la plus régulière</translation>
+    </message>
+    <message>
+        <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
+        <translation>%1 m&#xa0;: rugosité de tV %2 ms, irrégularité de la vitesse %3&#xa0;%</translation>
     </message>
 </context>
 <context>
