@@ -2264,6 +2264,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>layer %1</source>
         <translation>strato %1</translation>
     </message>
+    <message>
+        <source>computed: %1 ms</source>
+        <translation>calcolato: %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LeftOutText</name>
@@ -6205,6 +6209,40 @@ Impostare la posizione dei geofoni
     </message>
 </context>
 <context>
+    <name>talvesk::MisfitTable</name>
+    <message numerus="yes">
+        <source>%n pick(s); picks later than computed by %1 ms in the mean; chi2 %2</source>
+        <translation>
+            <numerusform>%n arrivo; in media %1 ms dopo il tempo calcolato; chi2 %2</numerusform>
+            <numerusform>%n arrivi; in media %1 ms dopo i tempi calcolati; chi2 %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Misfit (ms)</source>
+        <translation>Scarto (ms)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Strato %1</translation>
+    </message>
+    <message>
+        <source>RMS of picks less computed times, per shot and layer</source>
+        <translation>RMS degli arrivi meno i tempi calcolati, per tiro e strato</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tiro %1</translation>
+    </message>
+    <message>
+        <source>All shots</source>
+        <translation>Tutti i tiri</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::PaletteDialog</name>
     <message>
         <source>Palette Settings</source>
@@ -7063,6 +7101,77 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Some velocities or depths are not known. Build the profiles again to be told why.</source>
         <translation>Alcune velocità o profondità non sono note. Costruire di nuovo i profili per saperne il motivo.</translation>
+    </message>
+    <message>
+        <source>Propose over the whole survey</source>
+        <translation>Proponi su tutto il rilievo</translation>
+    </message>
+    <message>
+        <source>Fit ground of one, two and three layers, and ground whose velocity grows steadily, to all picks together, and propose what fits best</source>
+        <translation>Adatta a tutti gli arrivi insieme terreni di uno, due e tre strati, e un terreno la cui velocità cresce costantemente, e propone ciò che si accorda meglio</translation>
+    </message>
+    <message>
+        <source>Computed times</source>
+        <translation>Tempi calcolati</translation>
+    </message>
+    <message>
+        <source>Draw the arrivals through the profiles as they were built, as black lines: for every pick the wave of its layer</source>
+        <translation>Disegna come linee nere gli arrivi attraverso i profili così come sono stati costruiti: per ogni arrivo letto, l&apos;onda del suo strato</translation>
+    </message>
+    <message>
+        <source>RMS misfit (ms)</source>
+        <translation>Scarto RMS (ms)</translation>
+    </message>
+    <message>
+        <source>; misfit of the shot %1</source>
+        <translation>; scarto del tiro: %1</translation>
+    </message>
+    <message>
+        <source>No layers are proposed.</source>
+        <translation>Nessuno strato proposto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>No layers are proposed. Mark %n layers all the same?</source>
+        <translation>
+            <numerusform>Nessuno strato proposto. Assegnare comunque gli arrivi a %n strato?</numerusform>
+            <numerusform>Nessuno strato proposto. Assegnare comunque gli arrivi a %n strati?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>propose layers over the whole survey</source>
+        <translation>proponi strati su tutto il rilievo</translation>
+    </message>
+    <message>
+        <source>Proposal over the whole survey: %1</source>
+        <translation>Proposta su tutto il rilievo: %1</translation>
+    </message>
+    <message>
+        <source>The marks are no longer those of this proposal.</source>
+        <translation>Le assegnazioni non sono più quelle di questa proposta.</translation>
+    </message>
+    <message>
+        <source>Computing times...</source>
+        <translation>Calcolo dei tempi...</translation>
+    </message>
+    <message>
+        <source>%1 at %2 m</source>
+        <translation>%1 a %2 m</translation>
+    </message>
+    <message>
+        <source>%1: the picks do not tell</source>
+        <translation>%1: gli arrivi non lo indicano</translation>
+    </message>
+    <message>
+        <source>smoothest tV</source>
+        <translation>tV più regolare</translation>
+    </message>
+    <message>
+        <source>most even velocity</source>
+        <translation>velocità più uniforme</translation>
+    </message>
+    <message>
+        <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
+        <translation>%1 m: irregolarità di tV %2 ms, disuniformità della velocità %3 %</translation>
     </message>
 </context>
 <context>
