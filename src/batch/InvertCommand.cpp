@@ -166,7 +166,7 @@ void summarizeSection(const TomoDocument& document, std::ostream& out) {
         << rmsText(trustedMisfitOf(document)) << "\n";
   }
   out << "Chi-square: " << formatDouble(fit.chi2) << "; of all picks " << formatDouble(fit.all)
-      << "; suspects " << fit.suspects.size() << "; errors [ms] "
+      << "; suspects " << fit.suspects.size() << "; picks without errors of their own [ms] "
       << formatDouble(rule.floor * 1000.0) << " or [%] " << formatDouble(rule.share * 100.0) << "\n"
       << "Largest difference: [ms] " << formatDouble(misfit.maxAbs * 1000.0) << "; shot "
       << misfit.maxShot + 1 << ", receiver " << misfit.maxReceiver + 1 << "\n";

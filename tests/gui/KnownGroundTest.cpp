@@ -128,7 +128,7 @@ TEST_F(KnownGroundCommand, saysWhatIsWrongWithABlockThatIsPasted) {
     EXPECT_THAT(message(dialog), HasSubstr("three corners"));
     paste(table, "wall\t10\t0\t3200\nwall\t11\t0\nwall\t11\t2\nwall\t10\t2\n");
     EXPECT_THAT(message(dialog), HasSubstr("bodies: 1"));
-    table.selectRow(3);
+    table.selectionModel()->select(table.model()->index(3, 0), QItemSelectionModel::ClearAndSelect);
     press(dialog, "removeButton");
     EXPECT_EQ(table.model()->rowCount(), 4);
     pressOk(dialog);

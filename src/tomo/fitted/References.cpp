@@ -142,11 +142,22 @@ class Trials {
       if (!tryOne(*model, candidates.size() > 1, run)) break;
     }
     if (run.trials.empty()) return;
+    goOnWithNearest(candidates, run);
     mDocument = std::move(mKept);
     run.fit.outcome = withOthers(run.fit.outcome, run.trials, run.fit.reference);
   }
 
  private:
+  /// Where no fit has come to its end, the nearest one may take all iterations that are allowed.
+  void goOnWithNearest(const std::vector<const ReferenceModel*>& candidates, ReferencedRun& run) {
+    const bool cut = run.fit.end == FitEnd::kIterations && candidates.size() > 1;
+    if (!cut || run.fit.run.stopped || mSettings.fit.mostIterations <= kTrialIterations) return;
+    const std::string nearest = run.fit.reference;
+    for (const ReferenceModel* model : candidates) {
+      if (keyOf(model->kind) == nearest) tryOne(*model, false, run);
+    }
+  }
+
   /// \return whether another one is to be tried
   bool tryOne(const ReferenceModel& model, bool several, ReferencedRun& run) {
     FittedSettings settings = mSettings;
@@ -168,6 +179,11 @@ class Trials {
     const bool stopped = fit.run.stopped;
     const bool goOn = found(fit) && !stopped && !convincing(fit);
     if (found(fit)) {
+      const auto same = [&](const ReferenceTrial& trial) {
+        return trial.reference == settings.reference;
+      };
+      run.trials.erase(std::remove_if(run.trials.begin(), run.trials.end(), same),
+                       run.trials.end());
       run.trials.push_back(
           {settings.reference, model.name, fit.end, fit.fit, fit.run.iterationsDone});
       if (first || nearer(fit, run.fit)) {
