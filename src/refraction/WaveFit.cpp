@@ -13,10 +13,10 @@
 namespace talvesk {
 namespace {
 
-constexpr double kTuning = 2.385;         // of the Cauchy weights: 95 % efficient on normal errors
-constexpr double kLeastScale = 0.02;      // of the errors of picks
-constexpr double kUsualDip = 0.15;        // standard deviation of a delay's slope over slowness
-constexpr double kUsualChange = 0.15;     // of a velocity from knot to knot
+constexpr double kTuning = 2.385;      // of the Cauchy weights: 95 % efficient on normal errors
+constexpr double kLeastScale = 0.02;   // of the errors of picks
+constexpr double kUsualDip = 0.15;     // standard deviation of a delay's slope over slowness
+constexpr double kUsualChange = 0.15;  // of a velocity from knot to knot
 constexpr int kMostRounds = 25;
 constexpr int kFirstRounds = 5;  // until gross picks of a first idea are known
 constexpr std::size_t kPlacesOfBreaks = 11;
