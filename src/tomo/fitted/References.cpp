@@ -95,7 +95,9 @@ bool convincing(const FittedRunResult& fit) {
 bool nearer(const FittedRunResult& a, const FittedRunResult& b) {
   const bool reached = a.end == FitEnd::kTarget;
   if (reached != (b.end == FitEnd::kTarget)) return reached;
-  if (reached) return a.fit.suspects.size() < b.fit.suspects.size();
+  // Gross errors are suspect with every model: only far fewer suspects speak for another one than
+  // that whose times come nearest.
+  if (reached) return 2 * a.fit.suspects.size() < b.fit.suspects.size();
   return distanceOf(a.fit) < distanceOf(b.fit);
 }
 
