@@ -221,9 +221,10 @@ FittedResult FittedInversion::Fit::run(const std::function<void(const FitProgres
     if (end == FitEnd::kTarget) best = section;
     weight.tell(std::max(section.fit.chi2, kLeastChi2) / (tooGood(start) ? kSmoothedTo : 1.0));
   }
-  // Where but few picks are suspect, it hardly matters that they came and went.
-  const bool missed = end == FitEnd::kNoGain || end == FitEnd::kIterations;
-  if (missed && onTarget(best.fit) && fewSuspects(best.fit)) end = FitEnd::kTarget;
+  // What the fit comes to is that of the section that is kept. Where but few picks are suspect, it
+  // hardly matters that they came and went; those that the last section has as well did not.
+  const bool borneOut = fewSuspects(best.fit) || best.fit.suspects == section.fit.suspects;
+  if (end != FitEnd::kStopped && onTarget(best.fit) && borneOut) end = FitEnd::kTarget;
   FittedResult result = resultOf(std::move(best));
   result.end = *end;
   return result;
