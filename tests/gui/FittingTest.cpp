@@ -149,6 +149,22 @@ TEST_F(Fitting, showsWhatItCanStartFromAndTakesWhatIsChosen) {
   EXPECT_THAT(results, HasSubstr("Started from and held to: Default model"));
 }
 
+TEST_F(Fitting, offersTheLayersThatTheSurveyHas) {
+  openShots();
+  const TomoDocument& document = window->document();
+  FitPanel panel;
+  panel.setDocument(document, {{ReferenceKind::kLayers, document.model->grid->slownesses()}});
+  panel.show();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return panel.modelsKnown(); }, 60000));
+  auto& table = *panel.findChild<QTableWidget*>("referencesTable");
+  const auto rows = table.findItems("Layered interpretation", Qt::MatchExactly);
+  ASSERT_EQ(rows.size(), 1);
+  EXPECT_FALSE(table.item(rows.front()->row(), 1)->text().isEmpty()) << "its chi-square";
+  table.setCurrentItem(rows.front());
+  EXPECT_EQ(panel.settings().reference, "layers");
+  EXPECT_EQ(panel.settings().given.size(), 1U);
+}
+
 TEST_F(Fitting, tellsAtOnceWhatAnErrorMeans) {
   openShots();
   writable().ttArray.edit()[1].setError(3, 0.004);

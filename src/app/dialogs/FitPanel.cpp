@@ -166,8 +166,9 @@ void FitPanel::connectAll() {
   connect(&mMaker, &BackgroundReferences::finished, this, [this] { takeModels(); });
 }
 
-void FitPanel::setDocument(const TomoDocument& document) {
+void FitPanel::setDocument(const TomoDocument& document, std::vector<GivenModel> given) {
   mDocument = document;
+  mGiven = std::move(given);
   const bool known = !document.known->empty();
   mUi->knownBox->setEnabled(known);
   mUi->knownBox->setChecked(known);
@@ -190,6 +191,7 @@ FittedSettings FitPanel::settings() const {
   settings.holdKnown = mUi->knownBox->isChecked();
   settings.singleThread = mUi->fitSingleThreadBox->isChecked();
   settings.reference = chosen();
+  settings.given = mGiven;
   return settings;
 }
 

@@ -3,6 +3,7 @@
 #include "app/BackgroundReferences.h"
 #include "model/TomoDocument.h"
 #include "tomo/fitted/FittedRun.h"
+#include "tomo/fitted/GivenModels.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -25,8 +26,9 @@ class FitPanel : public QWidget {
   explicit FitPanel(QWidget* parent = nullptr);
   ~FitPanel() override;
 
-  /// \param document holds a grid; it is copied
-  void setDocument(const TomoDocument& document);
+  /// \param document holds a grid; it is copied \param given models from outside to choose from,
+  /// too
+  void setDocument(const TomoDocument& document, std::vector<GivenModel> given = {});
   FittedSettings settings() const;  ///< the reference is a key of References.h
   bool limitsCross() const;         ///< the least velocity is not below the greatest
   bool modelsKnown() const;         ///< and traced, as what is chosen here has them
@@ -56,6 +58,7 @@ class FitPanel : public QWidget {
 
   std::unique_ptr<Ui::FitPanel> mUi;
   TomoDocument mDocument;
+  std::vector<GivenModel> mGiven;
   BackgroundReferences mMaker;
   References mReferences;  ///< those that are shown
   QTimer mWait;            ///< until a value has been typed

@@ -56,8 +56,8 @@ runTomography_Dialog::runTomography_Dialog(double minVelocity, double maxVelocit
 
 runTomography_Dialog::~runTomography_Dialog() = default;
 
-void runTomography_Dialog::setSurvey(const TomoDocument& document) {
-  mUi->fitPanel->setDocument(document);
+void runTomography_Dialog::setSurvey(const TomoDocument& document, std::vector<GivenModel> given) {
+  mUi->fitPanel->setDocument(document, std::move(given));
 }
 
 bool runTomography_Dialog::fits() const {

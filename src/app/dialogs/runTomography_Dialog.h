@@ -24,7 +24,8 @@ class runTomography_Dialog : public QDialog {
   ~runTomography_Dialog() override;
 
   /// Makes a fit to the errors of the picks possible. \param document holds a grid; it is copied
-  void setSurvey(const TomoDocument& document);
+  /// \param given models from outside that a fit may start from, too
+  void setSurvey(const TomoDocument& document, std::vector<GivenModel> given = {});
 
   bool fits() const;  ///< to the errors of the picks, instead of solver passes and smoothing
   TomographyParameters parameters() const;  ///< of solver passes and smoothing

@@ -48,7 +48,11 @@ void InversionPresenter::run() {
   dialog.setStartingModel(startingModelOf(mDesk.document()));
   const Grid& grid = *mDesk.document().model->grid;
   dialog.setProposal(proposeRun(mDesk.document()), grid.righe() * grid.aLato());
-  dialog.setSurvey(mDesk.document());
+  std::vector<GivenModel> given;
+  const std::optional<GivenModel> layers =
+      layersModel(mDesk.survey().interpretation->refractData, mDesk.document());
+  if (layers) given.push_back(*layers);
+  dialog.setSurvey(mDesk.document(), std::move(given));
   if (dialog.exec() != QDialog::Accepted) return;
   if (dialog.fits()) {
     FittedSettings settings = dialog.fitSettings();
