@@ -1,5 +1,6 @@
 #include "batch/ResultJson.h"
 
+#include "batch/CertaintyJson.h"
 #include "batch/JsonText.h"
 #include "batch/KnownJson.h"
 #include "batch/ReciprocityText.h"
@@ -24,7 +25,6 @@
 #include "tomo/SecondLook.h"
 #include "tomo/TomographyRun.h"
 #include "tomo/fitted/References.h"
-#include "view/SectionCertainty.h"
 
 namespace talvesk {
 namespace {
@@ -271,48 +271,6 @@ Json pickErrorsJson(const TomoDocument& document) {
   Json errors = Json::array();
   for (const TravelTime& record : document.ttArray) errors.push_back(errorsJson(record));
   return errors;
-}
-
-/// Not reached is null, as all that is no number.
-Json quantilesJson(const Quantiles& quantiles) {
-  Json json = Json::object();
-  json["median"] = quantiles.median;
-  json["low"] = quantiles.low;
-  json["high"] = quantiles.high;
-  return json;
-}
-
-/// Cells in the order of the velocities, columns along the line; low and high are 16 and 84 %.
-Json certaintyJson(const TomoDocument& document) {
-  const Certainty& certainty = *document.result->certainty;
-  const CertaintyNote note = certaintyNoteOf(document);
-  Json json = quantilesJson(certainty.velocities);
-  json["spread_percent"] = certaintySpreads(certainty);
-  json["percent_beyond"] = note.percentBeyond;
-  json["fits"] = note.fits();
-  json["picks_changed"] = note.picksChanged;
-  json["members"] = certainty.members;
-  json["left_out"] = certainty.leftOut;
-  json["seed"] = certainty.seed;
-  json["deviation"] = certainty.deviations;
-  json["members_with_rays"] = certainty.touched;
-  Json models = Json::array();
-  for (const CertaintyModel& model : certainty.models) {
-    Json each = Json::object();
-    each["name"] = model.name;
-    each["chi2"] = model.chi2;
-    each["members"] = model.members;
-    models.push_back(std::move(each));
-  }
-  json["models"] = std::move(models);
-  Json bands = Json::array();
-  for (const IsovalueBand& band : certainty.bands) {
-    Json each = quantilesJson(band.depths);
-    each["velocity"] = band.velocity;
-    bands.push_back(std::move(each));
-  }
-  json["depths"] = std::move(bands);
-  return json;
 }
 
 Json tracesJson(const ShotFileData& data, bool samples) {
