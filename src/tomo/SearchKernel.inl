@@ -1,6 +1,7 @@
 // The inner loops of the shortest-path search, compiled once per instruction set. Included by the
 // SearchKernel_*.cpp files, each of which defines TALVESK_SEARCH, the name of its entry point.
 #include <cmath>
+#include <cstring>
 
 #if !defined(TALVESK_SCALAR_SEARCH) && (defined(__AVX2__) || defined(__SSE2__))
 #include <immintrin.h>
@@ -17,6 +18,16 @@ namespace {
 // underflow.
 constexpr double kMargin = 1.0 + 1e-12;
 constexpr double kTiny = 1e-280;
+// A number between 2^52 and 2^53 ends in its whole part, rounded: adding 2^52 to a time in buckets
+// gives the bucket.
+constexpr double kWholeNumbers = 4503599627370496.0;
+constexpr std::uint32_t kBucketMask = 0x7FFFFFFFU;
+
+inline std::uint32_t bucketNumber(double v) {
+  std::uint64_t bits;
+  std::memcpy(&bits, &v, sizeof bits);
+  return static_cast<std::uint32_t>(bits) & kBucketMask;
+}
 
 #if !defined(TALVESK_SCALAR_SEARCH) && defined(__AVX2__)
 constexpr std::uint32_t kLanes = 4;
@@ -25,7 +36,7 @@ inline Vector load(const double* p) {
   return _mm256_loadu_pd(p);
 }
 inline void store(double* p, Vector v) {
-  _mm256_store_pd(p, v);
+  _mm256_storeu_pd(p, v);
 }
 inline Vector splat(double v) {
   return _mm256_set1_pd(v);
@@ -36,6 +47,21 @@ inline int lessMask(Vector a, Vector b) {
 inline Vector positivePart(Vector v) {
   return _mm256_max_pd(v, _mm256_setzero_pd());
 }
+inline Vector squareRoot(Vector v) {
+  return _mm256_sqrt_pd(v);
+}
+inline Vector least(Vector a, Vector b) {
+  return _mm256_min_pd(a, b);
+}
+inline int otherBuckets(Vector v, const std::uint32_t* queued) {
+  const __m256i low = _mm256_permutevar8x32_epi32(_mm256_castpd_si256(v),
+                                                  _mm256_setr_epi32(0, 2, 4, 6, 0, 2, 4, 6));
+  const __m128i buckets =
+      _mm_and_si128(_mm256_castsi256_si128(low), _mm_set1_epi32(static_cast<int>(kBucketMask)));
+  const __m128i same =
+      _mm_cmpeq_epi32(buckets, _mm_loadu_si128(reinterpret_cast<const __m128i*>(queued)));
+  return ~_mm_movemask_ps(_mm_castsi128_ps(same));
+}
 #elif !defined(TALVESK_SCALAR_SEARCH) && defined(__SSE2__)
 constexpr std::uint32_t kLanes = 2;
 using Vector = __m128d;
@@ -43,7 +69,7 @@ inline Vector load(const double* p) {
   return _mm_loadu_pd(p);
 }
 inline void store(double* p, Vector v) {
-  _mm_store_pd(p, v);
+  _mm_storeu_pd(p, v);
 }
 inline Vector splat(double v) {
   return _mm_set1_pd(v);
@@ -53,6 +79,19 @@ inline int lessMask(Vector a, Vector b) {
 }
 inline Vector positivePart(Vector v) {
   return _mm_max_pd(v, _mm_setzero_pd());
+}
+inline Vector squareRoot(Vector v) {
+  return _mm_sqrt_pd(v);
+}
+inline Vector least(Vector a, Vector b) {
+  return _mm_min_pd(a, b);
+}
+inline int otherBuckets(Vector v, const std::uint32_t* queued) {
+  const __m128i low = _mm_shuffle_epi32(_mm_castpd_si128(v), _MM_SHUFFLE(2, 0, 2, 0));
+  const __m128i buckets = _mm_and_si128(low, _mm_set1_epi32(static_cast<int>(kBucketMask)));
+  const __m128i same =
+      _mm_cmpeq_epi32(buckets, _mm_loadl_epi64(reinterpret_cast<const __m128i*>(queued)));
+  return ~_mm_movemask_ps(_mm_castsi128_ps(same));
 }
 #else
 constexpr std::uint32_t kLanes = 1;
@@ -71,6 +110,15 @@ inline int lessMask(Vector a, Vector b) {
 }
 inline Vector positivePart(Vector v) {
   return v > 0.0 ? v : 0.0;
+}
+inline Vector squareRoot(Vector v) {
+  return std::sqrt(v);
+}
+inline Vector least(Vector a, Vector b) {
+  return a < b ? a : b;
+}
+inline int otherBuckets(Vector v, const std::uint32_t* queued) {
+  return bucketNumber(v) != *queued ? 1 : 0;
 }
 #endif
 
@@ -140,8 +188,6 @@ class Search {
   }
 
  private:
-  static constexpr std::uint32_t kBucketMask = 0x7FFFFFFFU;
-
   TALVESK_INLINE Origin origin(std::uint32_t node, double x, double z) const {
     const double d = distance[node];
     return {splat(x), splat(z), splat(d), d};
@@ -234,28 +280,22 @@ class Search {
     const Vector q = dx * dx + dz * dz;
     const Vector later = positivePart(load(distance + id) - from.d);
     const int hits = lessMask(q * splat(s * s), later * later * splat(kMargin) + splat(kTiny));
-    if (hits != 0) improveLanes(from.time, s, id, q, hits);
+    if (hits != 0) improveLanes(from.d, splat(s), id, q);
   }
 
-  TALVESK_INLINE void improveLanes(double d, double s, std::uint32_t id, Vector q, int hits) {
-    alignas(32) double squares[kLanes];
-    store(squares, q);
-    do {
-      const auto lane = static_cast<std::uint32_t>(__builtin_ctz(hits));
-      hits &= hits - 1;
-      const double time = d + std::sqrt(squares[lane]) * s;
-      if (time < distance[id + lane]) improve(id + lane, time);
-    } while (hits != 0);
-  }
-
-  TALVESK_INLINE void improve(std::uint32_t id, double time) {
-    distance[id] = time;
-    const auto bucket =
-        static_cast<std::uint32_t>(static_cast<std::int64_t>(time * bucketsPerSecond)) &
-        kBucketMask;
-    if (queued[id] == bucket) return;
-    queued[id] = bucket;
-    ring->push(bucket, id);
+  TALVESK_INLINE void improveLanes(Vector d, Vector s, std::uint32_t id, Vector q) {
+    const Vector time = d + squareRoot(q) * s;
+    const Vector before = load(distance + id);
+    int better = lessMask(time, before);
+    if (better == 0) return;
+    store(distance + id, least(time, before));
+    better &= otherBuckets(time * splat(bucketsPerSecond) + splat(kWholeNumbers), queued + id);
+    for (; better != 0; better &= better - 1) {
+      const auto node = id + static_cast<std::uint32_t>(__builtin_ctz(better));
+      const std::uint32_t bucket = bucketNumber(distance[node] * bucketsPerSecond + kWholeNumbers);
+      queued[node] = bucket;
+      ring->push(bucket, node);
+    }
   }
 
   const std::uint32_t n, steps, levels;
