@@ -11,6 +11,9 @@
 namespace talvesk {
 namespace {
 
+// More than sums, squares and roots of times can differ by, relative to the time of a node.
+constexpr double kRounding = 1e-12;
+
 struct Link {
   std::uint32_t neighbour;
   GridEdge edge;  ///< from the neighbour into the node
@@ -41,6 +44,54 @@ void forEachEdgeInto(const Grid& grid, std::uint32_t node, Visit visit) {
     const auto fromSide = [&](std::uint32_t v) {
       for (std::uint32_t j = 0; j + 2 < g.nV(); ++j) {
         link(g.sideNode(row, v, j), g.sideX(v), g.sideZ(row, v, j));
+      }
+    };
+    if (side != CellSide::kTop) fromLine(row);
+    if (side != CellSide::kBottom) fromLine(row + 1);
+    if (side != CellSide::kLeft) fromSide(column);
+    if (side != CellSide::kRight) fromSide(column + 1);
+  });
+}
+
+/// The same for those neighbours alone from which an edge can arrive at the time of the node: all
+/// others are passed over before the root of their edge is drawn.
+template <typename Visit>
+void forEachEdgeInTime(const Grid& grid, const double* distance, std::uint32_t node, double time,
+                       Visit visit) {
+  const GridGeometry& g = grid.geometry();
+  const double x = g.nodeX(node);
+  const double z = g.nodeZ(node);
+  const std::uint32_t sideBase = (g.righe() + 1) * g.lineNodeCount();
+  const double rounding = time * kRounding;
+  forEachCellOf(g, node, [&](std::uint32_t cell, CellSide side) {
+    const std::uint32_t row = cell / g.col();
+    const std::uint32_t column = cell % g.col();
+    const double slowness = grid.slowness(cell);
+    const auto link = [&](double before, double fromX, double fromZ, auto nodeNumber) {
+      if (before > time) return;
+      const double dx = fromX - x;
+      const double dz = fromZ - z;
+      const double square = dx * dx + dz * dz;
+      const double most = time - before + rounding;
+      const double least = std::max(time - before - rounding, 0.0);
+      const double edge = square * slowness * slowness;
+      if (edge > most * most * (1.0 + kRounding) || edge < least * least * (1.0 - kRounding))
+        return;
+      const double length = std::sqrt(square);
+      visit(Link{nodeNumber(), {node, cell, length * slowness, length}}, before);
+    };
+    const auto fromLine = [&](std::uint32_t line) {
+      const std::uint32_t first = column * (g.nV() - 1);
+      const double* times = distance + std::size_t{line} * g.lineNodeCount();
+      for (std::uint32_t i = first; i < first + g.nV(); ++i) {
+        link(times[i], g.lineX(i), g.lineZ(line, i), [&] { return g.lineNode(line, i); });
+      }
+    };
+    const auto fromSide = [&](std::uint32_t v) {
+      const std::uint32_t levels = g.nV() - 2;
+      const double* times = distance + sideBase + (std::size_t{row} * (g.col() + 1) + v) * levels;
+      for (std::uint32_t j = 0; j < levels; ++j) {
+        link(times[j], g.sideX(v), g.sideZ(row, v, j), [&] { return g.sideNode(row, v, j); });
       }
     };
     if (side != CellSide::kTop) fromLine(row);
@@ -132,8 +183,7 @@ std::uint32_t ShortestPaths::predecessor(std::uint32_t node, GridEdge& edge) con
   // improvement. The edge is its first one in its own order, which is ascending by cell.
   SettlingOrder order(grid, *this);
   std::uint32_t best = kNoPredecessor;
-  forEachEdgeInto(grid, node, [&](const Link& link) {
-    const double from = distance(link.neighbour);
+  forEachEdgeInTime(grid, mState->distance.data(), node, d, [&](const Link& link, double from) {
     if (from + link.edge.time != d || link.neighbour == best) return;
     if (from == d && !order.before(link.neighbour, node)) return;
     if (best != kNoPredecessor && !order.before(link.neighbour, best)) return;
@@ -148,7 +198,16 @@ Ray ShortestPaths::ray(std::uint32_t receiver) const {
   GridEdge edge;
   for (std::uint32_t node = receiver; node != kNoPredecessor;) {
     ray.nodes.push_back(node);
-    node = predecessor(node, edge);
+    // The rays of a shot come together, and are one from there to the source.
+    const auto known = mState->predecessors.find(node);
+    if (known != mState->predecessors.end()) {
+      node = known->second.node;
+      edge = known->second.edge;
+    } else {
+      const std::uint32_t from = predecessor(node, edge);
+      mState->predecessors.emplace(node, State::Step{from, edge});
+      node = from;
+    }
     if (node != kNoPredecessor) ray.steps.push_back(edge);
   }
   std::reverse(ray.nodes.begin(), ray.nodes.end());

@@ -4,6 +4,7 @@
 #include "tomo/ShortestPaths.h"
 
 #include <limits>
+#include <unordered_map>
 #include <vector>
 
 namespace talvesk {
@@ -13,7 +14,13 @@ struct ShortestPaths::State {
   const Grid* grid = nullptr;
   std::uint32_t source = 0;
   std::vector<double> distance;
+  std::vector<double> latest;  ///< per cell, of a search for receivers
   std::vector<std::uint32_t> queued;
+  struct Step {
+    std::uint32_t node;
+    GridEdge edge;
+  };
+  std::unordered_map<std::uint32_t, Step> predecessors;  ///< that rays asked for, by node
   BucketRing ring;
   SearchField field{};
 
