@@ -48,6 +48,22 @@ double longestEdge(const GridGeometry& g) {
   return std::hypot(g.aLato(), drop) * 1.000001;
 }
 
+/// Sets the nodes, by search id, to the latest time of a cell that each belongs to.
+void setLatest(const GridGeometry& g, const std::vector<double>& latest, double* distance) {
+  const std::uint32_t steps = g.nV() - 1;
+  for (std::uint32_t line = 0; line <= g.righe(); ++line) {
+    const double* cells = latest.data() + std::size_t{std::min(line, g.righe() - 1)} * g.col();
+    for (std::uint32_t c = 0; c < g.col(); ++c) distance = std::fill_n(distance, steps, cells[c]);
+    *distance++ = cells[g.col() - 1];
+  }
+  for (std::uint32_t row = 0; row < g.righe(); ++row) {
+    const double* cells = latest.data() + std::size_t{row} * g.col();
+    for (std::uint32_t v = 0; v <= g.col(); ++v) {
+      distance = std::fill_n(distance, steps - 1, cells[std::min(v, g.col() - 1)]);
+    }
+  }
+}
+
 }  // namespace
 
 ShortestPaths::ShortestPaths() : mState(std::make_unique<State>()) {}
@@ -56,6 +72,19 @@ ShortestPaths::ShortestPaths(ShortestPaths&&) noexcept = default;
 ShortestPaths& ShortestPaths::operator=(ShortestPaths&&) noexcept = default;
 
 void ShortestPaths::search(const Grid& grid, std::uint32_t source) {
+  mState->distance.assign(grid.nodeCount(), std::numeric_limits<double>::infinity());
+  run(grid, source);
+}
+
+void ShortestPaths::search(const Grid& grid, std::uint32_t source,
+                           const std::vector<WantedRay>& receivers, const LatestTimes& latest) {
+  latest.find(receivers, mState->latest);
+  mState->distance.resize(grid.nodeCount());
+  setLatest(grid.geometry(), mState->latest, mState->distance.data());
+  run(grid, source);
+}
+
+void ShortestPaths::run(const Grid& grid, std::uint32_t source) {
   if (source >= grid.nodeCount()) {
     throw std::out_of_range("no source node " + std::to_string(source));
   }
@@ -63,7 +92,7 @@ void ShortestPaths::search(const Grid& grid, std::uint32_t source) {
   const GridGeometry& g = grid.geometry();
   s.grid = &grid;
   s.source = source;
-  s.distance.assign(grid.nodeCount(), std::numeric_limits<double>::infinity());
+  s.predecessors.clear();
   s.queued.assign(grid.nodeCount(), SearchField::kNotQueued);
 
   SearchField& f = s.field;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grid/Grid.h"
+#include "tomo/LatestTimes.h"
 
 #include <cstdint>
 #include <memory>
@@ -39,6 +40,12 @@ class ShortestPaths {
   /// that is no node, std::bad_alloc.
   void search(const Grid& grid, std::uint32_t source);
 
+  /// Settles only nodes that a ray to one of the receivers can pass: ray() and distance() of these
+  /// are those of the whole search, to the last bit, and ask about nothing else. \param latest of
+  /// the grid as it is
+  void search(const Grid& grid, std::uint32_t source, const std::vector<WantedRay>& receivers,
+              const LatestTimes& latest);
+
   std::uint32_t source() const;
   double distance(std::uint32_t node) const;  ///< seconds; infinite where no path leads
 
@@ -53,6 +60,7 @@ class ShortestPaths {
 
  private:
   struct State;
+  void run(const Grid& grid, std::uint32_t source);
   std::unique_ptr<State> mState;
 };
 
