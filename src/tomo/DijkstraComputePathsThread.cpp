@@ -31,6 +31,11 @@ void DijkstraComputePathsThread::use(ShortestPaths& search, std::vector<double>&
   mFailure = "the thread could not be started";  // until it has run to its end
 }
 
+void DijkstraComputePathsThread::expect(const RayBounds& bounds, std::size_t firstRay) {
+  mBounds = &bounds;
+  mFirstRay = firstRay;
+}
+
 void DijkstraComputePathsThread::run() {
   try {
     if (mRays.empty()) traceRays();
@@ -43,19 +48,40 @@ void DijkstraComputePathsThread::run() {
   }
 }
 
+std::size_t DijkstraComputePathsThread::receivers() const {
+  return std::min(mDocument.line->goephonesStringSet.at(mSpreadIndex).size(),
+                  mRecord.ttMisurati.size());
+}
+
 void DijkstraComputePathsThread::traceRays() {
-  const auto& spread = mDocument.line->goephonesStringSet.at(mSpreadIndex);
-  const std::size_t receivers = std::min(spread.size(), mRecord.ttMisurati.size());
+  const std::size_t receivers = this->receivers();
   if (receivers == 0) return;
-  mSearch->search(*mDocument.model->grid, mSourceNode);
+  const auto& spread = mDocument.line->goephonesStringSet[mSpreadIndex];
+  const Grid& grid = *mDocument.model->grid;
+  std::vector<std::uint32_t> nodes(receivers);
+  for (std::size_t i = 0; i < receivers; ++i) {
+    nodes[i] = grid.geometry().topNodeIndex(spread[i].x + mDocument.model->xOffset);
+  }
+  search(grid, nodes);
   std::vector<Ray> rays(receivers);
   for (std::size_t i = 0; i < receivers; ++i) {
-    const std::uint32_t node =
-        mDocument.model->grid->geometry().topNodeIndex(spread[i].x + mDocument.model->xOffset);
-    if (node != kNoNode) rays[i] = mSearch->ray(node);
+    if (nodes[i] != kNoNode) rays[i] = mSearch->ray(nodes[i]);
   }
   mRays = std::move(rays);
   collectCells();
+}
+
+void DijkstraComputePathsThread::search(const Grid& grid, const std::vector<std::uint32_t>& nodes) {
+  if (mBounds == nullptr) {
+    mSearch->search(grid, mSourceNode);
+    return;
+  }
+  std::vector<WantedRay> wanted;
+  for (std::size_t i = 0; i < nodes.size(); ++i) {
+    if (nodes[i] == kNoNode) continue;
+    wanted.push_back({nodes[i], mBounds->atMost(mSourceNode, nodes[i], mFirstRay + i)});
+  }
+  mSearch->search(grid, mSourceNode, wanted, mBounds->latest());
 }
 
 void DijkstraComputePathsThread::collectCells() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tomo/RayBounds.h"
 #include "tomo/ShortestPaths.h"
 
 #include <QThread>
@@ -33,6 +34,11 @@ class DijkstraComputePathsThread : public QThread {
   /// one entry per cell.
   void use(ShortestPaths& search, std::vector<double>& correction, std::vector<double>& rayLength);
 
+  /// How long its rays take at most, before the first start; without it the whole ground is
+  /// searched. \param firstRay number of its ray to the first receiver among those of all shots
+  void expect(const RayBounds& bounds, std::size_t firstRay);
+  std::size_t receivers() const;  ///< as many rays as it traces, those without nodes among them
+
   void evaluateRay(std::uint32_t receiver);      ///< time, computed time and corrections
   void refreshRayTimes(std::uint32_t receiver);  ///< edge times from the current slownesses
 
@@ -48,6 +54,7 @@ class DijkstraComputePathsThread : public QThread {
 
  private:
   void traceRays();
+  void search(const Grid& grid, const std::vector<std::uint32_t>& nodes);
   void collectCells();
 
   std::uint32_t mShotIndex;
@@ -58,6 +65,8 @@ class DijkstraComputePathsThread : public QThread {
   std::uint32_t mSourceNode;
   std::vector<Ray> mRays;  ///< per receiver; empty until the first run
   std::vector<std::uint32_t> mCells;
+  const RayBounds* mBounds = nullptr;
+  std::size_t mFirstRay = 0;
   ShortestPaths* mSearch = nullptr;
   std::vector<double>* mCorrection = nullptr;
   std::vector<double>* mRayLength = nullptr;

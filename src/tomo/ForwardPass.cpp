@@ -79,8 +79,10 @@ std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
   return excluded;
 }
 
-ForwardPass::ForwardPass(TomoDocument& document, unsigned threads, Log& log, ThreadLines lines)
-    : mLog(log), mLines(lines) {
+ForwardPass::ForwardPass(TomoDocument& document,
+                         const SharedVector<std::vector<std::uint32_t>>& earlier, unsigned threads,
+                         Log& log, ThreadLines lines)
+    : mLog(log), mDocument(document), mEarlier(earlier), mLines(lines) {
   std::vector<ExcludedPosition> excluded = findExcluded(document);
   if (!sameExclusions(excluded, document.result->excluded)) {
     for (const ExcludedPosition& position : excluded) log.write(describe(position), 1);
@@ -113,6 +115,7 @@ ForwardPass::ForwardPass(TomoDocument& document, unsigned threads, Log& log, Thr
 
 Status ForwardPass::run(const std::string& caption, std::vector<double>* coorslow,
                         std::vector<double>* coorcount) {
+  if (!mTraced) expectRays();
   for (std::size_t first = 0; first < mWorkers.size(); first += mSlots.size()) {
     const std::size_t last = std::min(first + mSlots.size(), mWorkers.size()) - 1;
     if (!caption.empty()) {
@@ -123,7 +126,18 @@ Status ForwardPass::run(const std::string& caption, std::vector<double>* coorslo
     }
   }
   mTraced = true;
+  mBounds.reset();
   return {};
+}
+
+void ForwardPass::expectRays() {
+  mBounds.emplace(*mDocument.model->grid, *mEarlier);
+  std::size_t firstRay = 0;
+  for (const auto& worker : mWorkers) {
+    if (worker == nullptr) continue;
+    worker->expect(*mBounds, firstRay);
+    firstRay += worker->receivers();
+  }
 }
 
 Status ForwardPass::runBatch(std::size_t first, std::size_t last, std::vector<double>* coorslow,

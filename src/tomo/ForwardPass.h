@@ -1,11 +1,13 @@
 #pragma once
 
 #include "base/Log.h"
+#include "base/Shared.h"
 #include "base/Status.h"
 #include "tomo/DijkstraComputePathsThread.h"
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,8 +43,9 @@ class ForwardPass {
   /// Makes the workers, leaves out what the grid cannot hold (document.excluded, named in the log
   /// when it is news) and marks all computed times as missing.
   /// \param threads width of a batch, at least 1
-  ForwardPass(TomoDocument& document, unsigned threads, Log& log,
-              ThreadLines lines = ThreadLines::kTold);
+  /// \param earlier node lists of rays through an earlier model or none, see RayBounds
+  ForwardPass(TomoDocument& document, const SharedVector<std::vector<std::uint32_t>>& earlier,
+              unsigned threads, Log& log, ThreadLines lines = ThreadLines::kTold);
 
   /// Traces rays (first time) and evaluates them, adding the workers' sums shot by shot. The result
   /// does not depend on the width of the batches.
@@ -67,7 +70,12 @@ class ForwardPass {
 
   void tellThread(std::size_t shot, bool log);
 
+  void expectRays();
+
   Log& mLog;
+  const TomoDocument& mDocument;
+  SharedVector<std::vector<std::uint32_t>> mEarlier;
+  std::optional<RayBounds> mBounds;  ///< while rays are traced
   ThreadLines mLines;
   bool mTraced = false;
   std::vector<Slot> mSlots;  ///< outlive the workers, which write into them

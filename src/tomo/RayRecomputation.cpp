@@ -15,8 +15,9 @@ namespace {
 
 Status trace(TomoDocument& document, unsigned threads, Log& log, ThreadLines lines) {
   try {
+    const SharedVector<std::vector<std::uint32_t>> earlier = std::move(document.result.edit().rays);
     document.result.edit().rays = {};
-    ForwardPass pass(document, threads, log, lines);
+    ForwardPass pass(document, earlier, threads, log, lines);
     const Status status = pass.run("", nullptr, nullptr);
     if (!status.ok()) return status;
     pass.appendRaysTo(document.result.edit().rays.edit());

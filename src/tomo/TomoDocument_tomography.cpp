@@ -36,6 +36,7 @@ Status TomoDocument::runTomography_fast(std::vector<double>& slownesses, unsigne
   log.write("TomoDocument::runTomography_fast");
   const auto start = std::chrono::steady_clock::now();
   TomographyOutcome& outcome = result.edit();
+  const SharedVector<std::vector<std::uint32_t>> earlier = std::move(outcome.rays);
   outcome.rays = {};
   log.write(" Forwarding ... ");
   const std::size_t cells = model->grid->cellCount();
@@ -49,7 +50,7 @@ Status TomoDocument::runTomography_fast(std::vector<double>& slownesses, unsigne
   console::out() << total << std::endl;
   log.write(total);
 
-  ForwardPass pass(*this, threads, log);
+  ForwardPass pass(*this, earlier, threads, log);
   Status status = pass.run("[RUNNIG DIJKSTRA]", &coorslow, &outcome.coorcount);
   if (!status.ok()) return status;
   pass.appendRaysTo(outcome.rays.edit());

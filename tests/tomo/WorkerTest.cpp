@@ -228,9 +228,9 @@ TEST(ForwardPass, leavesOutWhatTheGridCannotHold) {
     c.change(line);
     Log log;
     std::vector<double> coorslow(line.model->grid->cellCount(), 0.0), coorcount = coorslow;
-    ForwardPass reference(whole, 2, log);
+    ForwardPass reference(whole, {}, 2, log);
     ASSERT_TRUE(reference.run("all", &coorslow, &coorcount).ok());
-    ForwardPass pass(line, 2, log);
+    ForwardPass pass(line, {}, 2, log);
     ASSERT_TRUE(pass.run("rest", &coorslow, &coorcount).ok());
 
     std::vector<std::pair<int, int>> excluded;
@@ -258,8 +258,8 @@ TEST(ForwardPass, namesExclusionsOnceAndCountsFromOne) {
   line.ttArray.edit()[1].shotPos2d.x = 500.0;
   line.line.edit().goephonesStringSet[0][9].x = std::numeric_limits<double>::quiet_NaN();
   Log log;
-  const ForwardPass first(line, 1, log);
-  const ForwardPass second(line, 1, log);
+  const ForwardPass first(line, {}, 1, log);
+  const ForwardPass second(line, {}, 1, log);
   const auto lines = exclusionsIn(console.error());
   ASSERT_EQ(lines.size(), 3u);
   EXPECT_EQ(lines[0].find("Left out: shot 1, receiver 10 at x = "), 0u) << lines[0];
