@@ -21,6 +21,7 @@ namespace {
 constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
 constexpr int kMostRounds = 12;
 constexpr double kHardlyBetter = 1e-3;  // of the cost
+constexpr double kLeastStep = 0.1;
 
 /// The picks that are marked, and the wave of each.
 struct MarkedPicks {
@@ -123,45 +124,86 @@ processingData resultsOf(const std::vector<ShotArrivals>& shots, const MarkedPic
   return results;
 }
 
-/// A round of the fit: a profile, and how it does.
+/// A round of the fit: waves, the profile of them, and how it does.
 struct Attempt {
+  WaveModel model;
+  std::vector<double> corrections;  ///< seconds, per pick: what was taken off before the waves
   processingData results;
   LayeredFit fit;
   double cost = std::numeric_limits<double>::infinity();
 };
 
-Attempt attemptWith(const WaveModel& model, const std::vector<ShotArrivals>& shots,
-                    const std::vector<std::vector<double>>& errors, const MarkedPicks& marked,
-                    const Interpretation& marks) {
-  Attempt attempt;
-  Interpretation work;
-  work.ttLayer = marks.ttLayer;
-  work.refractData = attempt.results = resultsOf(shots, marked, model);
-  attempt.fit = fitOfProfile(shots, errors, work);
-  if (attempt.fit.total.picks == 0) return attempt;
-  attempt.cost = 0.0;
-  for (const WeighedPick& pick : marked.picks) {
-    const double time = attempt.fit.times[pick.shot][pick.trace];
-    if (std::isfinite(time)) attempt.cost += robustCost((pick.time - time) / pick.sigma);
-  }
-  return attempt;
-}
+class ProfileFitter {
+ public:
+  ProfileFitter(const std::vector<ShotArrivals>& shots,
+                const std::vector<std::vector<double>>& errors,
+                const std::vector<layerStruct>& marks)
+      : mShots(shots), mErrors(errors), mMarks(marks), mMarked(markedPicks(shots, errors, marks)) {}
 
-/// The waves again, from the picks less what the times through the profile are off from theirs.
-std::optional<WaveModel> next(const WaveModel& model, const MarkedPicks& marked,
-                              const LayeredFit& fit) {
-  MarkedPicks corrected = marked;
-  for (std::size_t i = 0; i < marked.picks.size(); ++i) {
-    WeighedPick& pick = corrected.picks[i];
-    const double through = fit.times[pick.shot][pick.trace];
-    if (std::isfinite(through)) {
-      pick.time -= through - model.time(marked.waves[i], pick.from, pick.to);
+  /// The best profile on the way from these waves on; without a finite cost there is none.
+  Attempt fitFrom(const WaveModel& model) const {
+    Attempt best = attempt(model, std::vector<double>(mMarked.picks.size(), 0.0));
+    double step = 1.0;
+    for (int round = 0; round < kMostRounds && step >= kLeastStep; ++round) {
+      if (!std::isfinite(best.cost)) break;
+      auto now = next(best, step);
+      if (!now) break;
+      const bool settled = std::fabs(now->cost - best.cost) < kHardlyBetter * best.cost;
+      if (now->cost < best.cost) {
+        best = std::move(*now);
+      } else {
+        step *= 0.5;
+      }
+      if (settled) break;
     }
+    return best;
   }
-  const WaveDetail detail{model.delays.knots(), model.slownesses.knots(), model.top.knots(),
-                          model.growth};
-  return WaveFitter(corrected.picks, detail, model.relief).fitAssigned(corrected.waves, model);
-}
+
+ private:
+  Attempt attempt(const WaveModel& model, std::vector<double> corrections) const {
+    Attempt attempt;
+    attempt.model = model;
+    attempt.corrections = std::move(corrections);
+    attempt.results = resultsOf(mShots, mMarked, model);
+    Interpretation work;
+    work.ttLayer = mMarks;
+    work.refractData = attempt.results;
+    attempt.fit = fitOfProfile(mShots, mErrors, work);
+    if (attempt.fit.total.picks == 0) return attempt;
+    attempt.cost = 0.0;
+    for (const WeighedPick& pick : mMarked.picks) {
+      const double time = attempt.fit.times[pick.shot][pick.trace];
+      if (std::isfinite(time)) attempt.cost += robustCost((pick.time - time) / pick.sigma);
+    }
+    return attempt;
+  }
+
+  /// The waves again, from the picks less what the times through the profile are off from those of
+  /// its waves. \param step share of the way from what was taken off last
+  std::optional<Attempt> next(const Attempt& last, double step) const {
+    const WaveModel& model = last.model;
+    std::vector<double> corrections = last.corrections;
+    std::vector<WeighedPick> picks = mMarked.picks;
+    for (std::size_t i = 0; i < picks.size(); ++i) {
+      const double through = last.fit.times[picks[i].shot][picks[i].trace];
+      if (std::isfinite(through)) {
+        const double off = through - model.time(mMarked.waves[i], picks[i].from, picks[i].to);
+        corrections[i] += step * (off - corrections[i]);
+      }
+      picks[i].time -= corrections[i];
+    }
+    const WaveDetail detail{model.delays.knots(), model.slownesses.knots(), model.top.knots(),
+                            model.growth};
+    const auto waves = WaveFitter(picks, detail, model.relief).fitAssigned(mMarked.waves, model);
+    if (!waves) return std::nullopt;
+    return attempt(*waves, std::move(corrections));
+  }
+
+  const std::vector<ShotArrivals>& mShots;
+  const std::vector<std::vector<double>>& mErrors;
+  const std::vector<layerStruct>& mMarks;
+  MarkedPicks mMarked;
+};
 
 }  // namespace
 
@@ -169,23 +211,11 @@ LayeredFit fitProfile(const std::vector<ShotArrivals>& shots,
                       const std::vector<std::vector<double>>& errors,
                       const SurveyProposal& proposal, Interpretation& interpretation) {
   if (!proposal.waves || proposal.waves->waves.size() < 2) return {};
-  Interpretation work;
-  work.ttLayer = proposal.marks;
-  const MarkedPicks marked = markedPicks(shots, errors, work.ttLayer);
-  WaveModel model = *proposal.waves;
-  Attempt best;
-  for (int round = 0; round < kMostRounds; ++round) {
-    Attempt now = attemptWith(model, shots, errors, marked, work);
-    if (!std::isfinite(now.cost)) break;
-    const auto better = next(model, marked, now.fit);
-    const bool done = !(now.cost < (1.0 - kHardlyBetter) * best.cost) && round > 1;
-    if (now.cost < best.cost) best = std::move(now);
-    if (done || !better) break;
-    model = *better;
-  }
-  if (best.fit.total.picks == 0) return {};
-  work.refractData = std::move(best.results);
-  interpretation = std::move(work);
+  Attempt best = ProfileFitter(shots, errors, proposal.marks).fitFrom(*proposal.waves);
+  if (!std::isfinite(best.cost)) return {};
+  interpretation = {};
+  interpretation.ttLayer = proposal.marks;
+  interpretation.refractData = std::move(best.results);
   return std::move(best.fit);
 }
 
@@ -270,8 +300,8 @@ Message whyProfileFitsLess(const std::vector<ShotArrivals>& shots, const Layered
              .arg(shots[shot].shot.x);
   Message why = interpretation.refractData.isFitted()
                     ? Message::tr(
-                          "waves that go down and up straight cannot follow boundaries as "
-                          "steep as the delays ask for")
+                          "the delays of the waves change so fast along the line that no "
+                          "boundary has them all")
                     : endsApart(interpretation);
   return why.empty() ? text : Message::tr("%1; %2").arg(std::move(text)).arg(std::move(why));
 }
