@@ -4,6 +4,7 @@
 
 #include "support/ConsoleCapture.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -26,6 +27,10 @@ struct Summary {
   std::vector<double> waveVelocity;
   std::vector<double> profileDepth;
   std::vector<double> profileVelocity;
+  int fitted = 0;
+  std::vector<double> fittedDepth;
+  std::vector<double> fittedVelocity;
+  std::vector<double> misfits;  ///< of the fitted profile over that of the waves
 };
 
 Summary summarize(const Kind& kind, std::uint32_t trials) {
@@ -40,6 +45,12 @@ Summary summarize(const Kind& kind, std::uint32_t trials) {
     if (outcome.layers != trial.layers() || trial.layers() == 0) continue;
     all.waveDepth.push_back(outcome.waveDepth);
     all.waveVelocity.push_back(outcome.waveVelocity);
+    if (outcome.fitted) {
+      ++all.fitted;
+      all.fittedDepth.push_back(outcome.fittedDepth);
+      all.fittedVelocity.push_back(outcome.fittedVelocity);
+      all.misfits.push_back(outcome.fittedMisfit / outcome.waveMisfit);
+    }
     if (!outcome.built) continue;
     ++all.built;
     all.profileDepth.push_back(outcome.profileDepth);
@@ -65,14 +76,20 @@ int main(int argc, char** argv) {
       {"two, dipping, 3 % gross", TrialGround::kTwoDipping, 0.03},
       {"three, dipping, 3 % gross", TrialGround::kThreeDipping, 0.03}};
   std::printf(
-      "| Ground | gradient | 1 layer | 2 | 3 | waves: depth | velocity | profile: built | "
-      "depth | velocity |\n|---|---|---|---|---|---|---|---|---|---|\n");
+      "| Ground | gradient | 1 layer | 2 | 3 | waves: depth | velocity | reciprocal: built | "
+      "depth | velocity | fitted | depth | velocity | misfit over that of the waves, largest |\n"
+      "|---|---|---|---|---|---|---|---|---|---|---|---|---|---|\n");
   for (const Kind& kind : kinds) {
     const Summary all = summarize(kind, trials);
-    std::printf("| %s | %d | %d | %d | %d | %.1f %% | %.1f %% | %d | %.1f %% | %.1f %% |\n",
-                kind.name, all.claimed[0], all.claimed[1], all.claimed[2], all.claimed[3],
-                percent(all.waveDepth), percent(all.waveVelocity), all.built,
-                percent(all.profileDepth), percent(all.profileVelocity));
+    const double worst =
+        all.misfits.empty() ? 0.0 : *std::max_element(all.misfits.begin(), all.misfits.end());
+    std::printf(
+        "| %s | %d | %d | %d | %d | %.1f %% | %.1f %% | %d | %.1f %% | %.1f %% | %d | "
+        "%.1f %% | %.1f %% | %.2f |\n",
+        kind.name, all.claimed[0], all.claimed[1], all.claimed[2], all.claimed[3],
+        percent(all.waveDepth), percent(all.waveVelocity), all.built, percent(all.profileDepth),
+        percent(all.profileVelocity), all.fitted, percent(all.fittedDepth),
+        percent(all.fittedVelocity), worst);
     std::fflush(stdout);
   }
   return 0;

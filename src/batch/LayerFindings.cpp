@@ -210,11 +210,14 @@ void summarizeFindings(const LayerFindings& findings, std::ostream& out) {
     const auto count = [&depth](Support support) {
       return std::count(depth.begin(), depth.end(), support);
     };
-    out << "Layer " << i + 2 << ": XY by smoothest tV " << textOf(findings.xy[i].smoothest)
-        << ", by most even velocities " << textOf(findings.xy[i].mostEven) << "; of "
-        << depth.size() << " depths " << count(Support::kPhantom) << " rest on phantom arrivals, "
-        << count(Support::kGap) << " on gaps, " << count(Support::kExtrapolated)
-        << " on continuations\n";
+    out << "Layer " << i + 2 << ": ";
+    if (!findings.xy[i].tried.empty()) {
+      out << "XY by smoothest tV " << textOf(findings.xy[i].smoothest)
+          << ", by most even velocities " << textOf(findings.xy[i].mostEven) << "; ";
+    }
+    out << "of " << depth.size() << " depths " << count(Support::kPhantom)
+        << " rest on phantom arrivals, " << count(Support::kGap) << " on gaps, "
+        << count(Support::kExtrapolated) << " on continuations\n";
   }
   if (!findings.comparison) return;
   for (const Message& line : comparisonSummary(*findings.comparison)) {

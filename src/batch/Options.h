@@ -154,6 +154,9 @@ enum class ProposalMethod {
   kSurvey   ///< all curves together, see refraction/SurveyProposal.h
 };
 
+/// How a layered profile is found: by the reciprocal method, or fitted to all picks of a survey.
+enum class ProfileMethod { kReciprocal, kFitted };
+
 /// Which XY the reciprocal method takes.
 enum class XYRule { kGiven, kSmoothest, kMostEven };
 
@@ -172,6 +175,7 @@ struct RefractOptions {
   std::string layers;                     ///< file of marks; none: as proposed
   std::optional<ProposalMethod> propose;  ///< none: by curves, if the project has no marks
   std::uint32_t layerCount = 0;           ///< of a proposal over the survey; 0: as fits best
+  std::optional<ProfileMethod> profile;   ///< none: as the proposal and the XY ask for
   std::optional<double> xy;               ///< metres; none: that of the project, else 0
   LayerMethodOptions layering;
   std::string json;
@@ -184,6 +188,12 @@ struct RefractOptions {
   ReportFields reportFields;
   bool quiet = false;
   bool verbose = false;
+
+  /// What a proposal over the survey is followed by, unless an XY is asked for.
+  bool isFitted() const {
+    if (profile) return *profile == ProfileMethod::kFitted;
+    return propose == ProposalMethod::kSurvey && !xy && layering.xyRule == XYRule::kGiven;
+  }
 };
 
 /// What is written of the section of a project.

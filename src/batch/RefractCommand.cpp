@@ -16,6 +16,7 @@
 #include "model/TomographyOutcome.h"
 #include "refraction/Branches.h"
 #include "refraction/BuildProfiles.h"
+#include "refraction/FittedProfile.h"
 #include "refraction/LayerProposal.h"
 #include "refraction/LayeredFit.h"
 #include "refraction/Profile.h"
@@ -44,6 +45,7 @@ struct Work {
   ProfileOutcome outcome;
   LayeredFit fit;
   LayerFindings findings;
+  std::vector<std::string> remarks;  ///< on the profile
 };
 
 void propose(const RefractOptions& options, Interpretation& interpretation, Work& work) {
@@ -73,6 +75,40 @@ Status markLayers(const RefractOptions& options, const TomoDocument& document,
   return {};
 }
 
+/// The profile asked for. The reciprocal method says what is missing where nothing can be fitted.
+void build(const RefractOptions& options, Interpretation& interpretation, Work& work,
+           Status& refused) {
+  if (options.isFitted() && work.proposal->hasLayers()) {
+    work.fit = fitProfile(work.shots, work.errors, *work.proposal, interpretation);
+    work.outcome.built = work.fit.total.picks > 0;
+    if (work.outcome.built) return;
+  }
+  work.outcome = buildWithXY(options, work.shots, interpretation, refused);
+  if (work.outcome.built) work.fit = fitOfProfile(work.shots, work.errors, interpretation);
+}
+
+/// What a user must know of the profile.
+std::vector<std::string> profileRemarks(const RefractOptions& options, const Work& work,
+                                        const Interpretation& interpretation) {
+  std::vector<std::string> remarks;
+  for (const RefractionWarning& warning : work.outcome.warnings) {
+    remarks.push_back(warning.text());
+  }
+  if (!work.outcome.built) {
+    if (!remarks.empty()) remarks.pop_back();  // told as the reason
+    return remarks;
+  }
+  if (options.isFitted() && !interpretation.refractData.isFitted()) {
+    remarks.emplace_back(
+        "no profile can be fitted to all picks; it is that of the reciprocal method");
+  }
+  if (work.proposal) {
+    const Message why = whyProfileFitsLess(work.shots, work.fit, *work.proposal, interpretation);
+    if (!why.empty()) remarks.push_back(why.english());
+  }
+  return remarks;
+}
+
 std::string reasonOf(const Work& work, const ShotPairReach& reach) {
   const ProfileOutcome& outcome = work.outcome;
   const auto& proposal = work.proposal;
@@ -95,6 +131,17 @@ std::string rangeOf(const std::vector<double>& values, const std::string& unit) 
   return formatDouble(*ends.first, 4) + " to " + formatDouble(*ends.second, 4) + ' ' + unit;
 }
 
+/// Of the first layer of a fitted profile, whose velocity is a mean.
+std::string atSurface(const refractionDataStructure::FirstLayer& first) {
+  if (first.x.empty()) return {};
+  std::string text = " in the mean, " + rangeOf(first.velocity, "m/s") + " at the surface";
+  if (first.growth > 0.0) {
+    text += ", growing by " + formatDouble(100.0 * first.growth, 2) +
+            " % of it per metre down to " + formatDouble(first.growsTo, 2) + " m";
+  }
+  return text;
+}
+
 std::string misfitOf(const LayeredFit& fit, std::uint32_t layer) {
   const auto found = std::find_if(fit.perLayer.begin(), fit.perLayer.end(),
                                   [layer](const LayerMisfit& one) { return one.layer == layer; });
@@ -108,13 +155,18 @@ void summarize(const Interpretation& interpretation, const Work& work, std::ostr
   if (work.proposal) out << "Proposal: " << work.proposal->statement() << '\n';
   if (!results.cData.empty()) {
     out << "Layer 1: " << (results.v1 > 0.0 ? formatDouble(results.v1, 4) + " m/s" : "no velocity")
-        << misfitOf(work.fit, 1) << '\n';
+        << atSurface(results.first) << misfitOf(work.fit, 1) << '\n';
   }
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
     const computedData& refractor = results.cData[i];
-    out << "Layer " << i + 2 << ": shots " << interpretation.phnt_A[i].shotID + 1 << " and "
-        << interpretation.phnt_R[i].shotID + 1 << ", " << refractor.x.size()
-        << " receivers, velocity " << rangeOf(refractor.velocity, "m/s") << ", depth "
+    out << "Layer " << i + 2 << ": ";
+    if (results.isFitted()) {
+      out << "fitted to all picks, " << refractor.x.size() << " places";
+    } else {
+      out << "shots " << interpretation.phnt_A[i].shotID + 1 << " and "
+          << interpretation.phnt_R[i].shotID + 1 << ", " << refractor.x.size() << " receivers";
+    }
+    out << ", velocity " << rangeOf(refractor.velocity, "m/s") << ", depth "
         << rangeOf(refractor.depth, "m") << misfitOf(work.fit, static_cast<std::uint32_t>(i) + 2)
         << '\n';
   }
@@ -128,8 +180,8 @@ int writeResults(const RefractOptions& options, const LoadedProject& project, co
   const Interpretation& interpretation = *project.interpretation;
   OutputAttempts attempt;
   attempt(options.json, [&](const auto& path) {
-    return writeOutput(path, refractionJson(interpretation, work.fit, work.proposal,
-                                            work.outcome.warnings, work.findings));
+    return writeOutput(
+        path, refractionJson(interpretation, work.fit, work.proposal, work.remarks, work.findings));
   });
   attempt(options.table, [&](const auto& path) {
     return writeOutput(path, work.findings.comparison ? comparisonTable(*work.findings.comparison)
@@ -203,15 +255,13 @@ int run(const RefractOptions& options) {
   status = editSurvey(Edit::kRefraction, project, [&](Survey& next) {
     Interpretation& edited = next.interpretation.edit();
     Status marked = markLayers(options, document, edited, work);
-    if (marked.ok()) work.outcome = buildWithXY(options, work.shots, edited, marked);
-    if (work.outcome.built) work.fit = fitOfProfile(work.shots, work.errors, edited);
+    if (marked.ok()) build(options, edited, work, marked);
     return marked;
   });
   if (!status.ok()) return failed(status.message());
   const Interpretation& interpretation = *project.interpretation;
   work.findings = findLayers(options.layering, document, interpretation);
-  ProfileOutcome& outcome = work.outcome;
-  if (!outcome.built) {
+  if (!work.outcome.built) {
     const std::string reason = reasonOf(work, shotPairReach(work.shots, interpretation.ttLayer, 2));
     const bool layered = work.proposal && work.proposal->hasLayers();
     if (!work.findings.foundLayers()) {
@@ -223,9 +273,8 @@ int run(const RefractOptions& options) {
   if (work.proposal) {
     for (const Message& remark : work.proposal->remarks()) warn(remark);
   }
-  // The last one has been told as the reason.
-  if (!outcome.built && !outcome.warnings.empty()) outcome.warnings.pop_back();
-  for (const RefractionWarning& warning : outcome.warnings) warn(warning.text());
+  work.remarks = profileRemarks(options, work, interpretation);
+  for (const std::string& remark : work.remarks) warn(remark);
   for (const std::string& remark : remarksOf(work.findings)) warn(remark);
   if (options.startModel) {
     status = putStartModel(*options.startModel, project);

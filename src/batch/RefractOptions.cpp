@@ -27,6 +27,23 @@ void addProposal(CLI::App& command, RefractOptions& options, CLI::Option* layers
                  "Number of layers that --propose survey gives (default: as many as fit best)",
                  [&options](int count) { options.layerCount = static_cast<std::uint32_t>(count); })
       ->group("Interpretation");
+  command
+      .add_option_function<std::string>(
+          "--profile",
+          [&options](const std::string& text) {
+            if (text != "reciprocal" && text != "fitted") {
+              throw CLI::ValidationError("--profile",
+                                         "'" + text + "' is none of reciprocal, fitted");
+            }
+            options.profile =
+                text == "fitted" ? ProfileMethod::kFitted : ProfileMethod::kReciprocal;
+          },
+          "How depths and velocities are found: reciprocal, by the generalised reciprocal method, "
+          "or fitted, so that the times computed through them are those of all picks, which needs "
+          "--propose survey (default: fitted with --propose survey where no --xy is given, else "
+          "reciprocal)")
+      ->type_name("HOW")
+      ->group("Interpretation");
 }
 
 }  // namespace
@@ -93,6 +110,14 @@ void addRefract(CLI::App& app, RefractOptions& options) {
     }
     if (options.layerCount > 0 && options.propose != ProposalMethod::kSurvey) {
       throw CLI::RequiredError("--layer-count: --propose survey");
+    }
+    if (options.profile == ProfileMethod::kFitted) {
+      if (options.propose != ProposalMethod::kSurvey) {
+        throw CLI::RequiredError("--profile fitted: --propose survey");
+      }
+      if (options.xy || options.layering.xyRule != XYRule::kGiven) {
+        throw CLI::ExcludesError("--profile fitted", "--xy");
+      }
     }
     sortInputs(*inputs, shots.anyGiven(), options.input, options.shots);
     shots.check(options.shots);

@@ -56,6 +56,15 @@ Json refractorJson(const Interpretation& all, std::size_t index) {
   return json;
 }
 
+Json firstLayerJson(const FirstLayer& first) {
+  Json json = Json::object();
+  json["x"] = first.x;
+  json["velocity"] = first.velocity;
+  json["growth"] = first.growth;
+  json["grows_to"] = first.growsTo;
+  return json;
+}
+
 Json misfitJson(const LayerMisfit& one) {
   Json json = Json::object();
   json["picks"] = one.picks;
@@ -134,7 +143,7 @@ Json proposalJson(const SurveyProposal& proposal) {
 
 std::string refractionJson(const Interpretation& interpretation, const LayeredFit& fit,
                            const std::optional<SurveyProposal>& proposal,
-                           const std::vector<RefractionWarning>& warnings,
+                           const std::vector<std::string>& warnings,
                            const LayerFindings& findings) {
   Json shots = Json::array();
   for (const layerStruct& marks : interpretation.ttLayer) {
@@ -151,18 +160,20 @@ std::string refractionJson(const Interpretation& interpretation, const LayeredFi
     refractors.push_back(refractorJson(interpretation, i));
     addFindings(findings, i, refractors.back());
   }
-  Json texts = Json::array();
-  for (const RefractionWarning& warning : warnings) texts.push_back(warning.text());
   Json json = Json::object();
   const double v1 = interpretation.refractData.v1;
   json["v1"] = v1 > 0.0 ? v1 : std::nan("");  // 0 before anything was built
+  json["profile"] = interpretation.refractData.isFitted() ? "fitted" : "reciprocal";
+  if (interpretation.refractData.isFitted()) {
+    json["first_layer"] = firstLayerJson(interpretation.refractData.first);
+  }
   json["xy_family"] = kXYFamily;
   json["refractors"] = std::move(refractors);
   json["shots"] = std::move(shots);
   if (proposal) json["proposal"] = proposalJson(*proposal);
   if (fit.total.picks > 0) json["misfit"] = fitJson(fit);
   if (findings.comparison) json["comparison"] = comparisonJson(*findings.comparison);
-  json["warnings"] = std::move(texts);
+  json["warnings"] = warnings;
   return linePerKey(json) + "\n";
 }
 

@@ -19,7 +19,6 @@ namespace talvesk {
 /// come from one. Positions, depths and XY in metres, times in seconds, velocities in m/s.
 std::string refractionJson(const refractionDataStructure::Interpretation& interpretation,
                            const LayeredFit& fit, const std::optional<SurveyProposal>& proposal,
-                           const std::vector<RefractionWarning>& warnings,
-                           const LayerFindings& findings);
+                           const std::vector<std::string>& warnings, const LayerFindings& findings);
 
 }  // namespace talvesk

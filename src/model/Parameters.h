@@ -130,6 +130,8 @@ inline constexpr Parameter<int> kXY = {
     {-4, 4},
     "whole metres",
     "Half the distance between the points at which forward and reverse arrivals are taken"};
+inline constexpr Parameter<int> kBounds = {
+    "bounds", 100, {2, 1000}, "", "Interpretations of moved picks that error bands come from"};
 
 // Velocities of a layer that are taken for real, m/s.
 inline constexpr FixedNumber kSlowestLayer = {"slowest-layer", 50.0};

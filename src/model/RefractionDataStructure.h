@@ -57,12 +57,25 @@ struct computedData {
   std::vector<double> depth;                  ///< of the refractor below the surface, metres
 };
 
+/// The first layer of a profile that was fitted to all picks of a survey.
+struct FirstLayer {
+  std::vector<double> x;         ///< metres, ascending; none: the profile is not of this kind
+  std::vector<double> velocity;  ///< at the surface, m/s, one per x; straight slownesses between
+  double growth = 0.0;           ///< of the velocity with depth over that at the surface, per metre
+  double growsTo = 0.0;          ///< depth, metres, below which the velocity grows no more
+};
+
 struct processingData {
   std::vector<computedData> cData;  ///< index 0 is refractor 2, index 1 refractor 3
   double v1 = 0.0;                  ///< of the first layer, m/s; 0 before anything was built
+  FirstLayer first;                 ///< that v1 is the mean of, down to the refractor
   std::vector<double> v2;           ///< of the first refractor, per receiver
   std::vector<double> v3;           ///< of the second refractor, per receiver
   std::uint64_t picks = 0;          ///< fingerprint of those it was built from; 0 is not known
+
+  /// Whether velocities and depths are those that fit all picks; else the reciprocal method found
+  /// them.
+  bool isFitted() const { return !first.x.empty(); }
 };
 
 /// All that the interpretation of a survey holds.

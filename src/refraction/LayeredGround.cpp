@@ -71,6 +71,21 @@ std::optional<LayeredGround::Boundary> boundaryOf(const computedData& refractor,
   return boundary;
 }
 
+void takeFirstLayer(const FirstLayer& first, const std::vector<double>& surface,
+                    LayeredGround& ground) {
+  Course slowness;
+  for (std::size_t i = 0; i < std::min(first.x.size(), first.velocity.size()); ++i) {
+    if (!isPlausibleVelocity(first.velocity[i])) continue;
+    slowness.x.push_back(first.x[i]);
+    slowness.y.push_back(1.0 / first.velocity[i]);
+  }
+  if (slowness.x.empty()) return;
+  for (const double x : ground.x) ground.firstSlowness.push_back(slowness.at(x));
+  ground.growth = std::isfinite(first.growth) ? std::max(0.0, first.growth) : 0.0;
+  ground.growsTo = std::isfinite(first.growsTo) ? std::max(0.0, first.growsTo) : 0.0;
+  ground.surface = surface;
+}
+
 }  // namespace
 
 std::optional<LayeredGround> layeredGround(const std::vector<ShotArrivals>& shots,
@@ -85,6 +100,7 @@ std::optional<LayeredGround> layeredGround(const std::vector<ShotArrivals>& shot
   if (ground.x.empty()) return std::nullopt;
   std::vector<double> above;
   for (const double x : ground.x) above.push_back(surface.at(x));
+  if (results.isFitted()) takeFirstLayer(results.first, above, ground);
   for (const computedData& refractor : results.cData) {
     auto boundary = boundaryOf(refractor, ground.x);
     if (!boundary) break;

@@ -22,7 +22,11 @@ struct LayeredGround {
     double last = 0.0;              ///< of the last
   };
 
-  double firstVelocity = 0.0;        ///< of the first layer, m/s
+  double firstVelocity = 0.0;         ///< of the first layer, m/s
+  std::vector<double> firstSlowness;  ///< at the surface, per node, s/m; empty: one velocity
+  double growth = 0.0;                ///< of the first velocity over that at the surface, per metre
+  double growsTo = 0.0;               ///< depth, metres, below which it grows no more
+  std::vector<double> surface;       ///< elevation per node, metres; empty where there is no growth
   std::vector<double> x;             ///< nodes, metres, ascending and evenly spread
   std::vector<Boundary> boundaries;  ///< top down, one or two
 

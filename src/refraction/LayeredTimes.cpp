@@ -1,5 +1,7 @@
 #include "refraction/LayeredTimes.h"
 
+#include "refraction/WaveFit.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -9,6 +11,7 @@ namespace talvesk {
 namespace {
 
 constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
+constexpr double kOnePlace = 1e-6;  // of the spacing of nodes
 
 /// The least of values over evenly spread nodes, between nodes by the parabola through the least
 /// one and its neighbours. \param value called with begin to end - 1
@@ -44,6 +47,7 @@ std::vector<double> runningSlowness(const std::vector<double>& x,
 }  // namespace
 
 LayeredTimes::LayeredTimes(LayeredGround ground) : mGround(std::move(ground)) {
+  if (!mGround.firstSlowness.empty()) mFirst = runningSlowness(mGround.x, mGround.firstSlowness);
   for (const auto& boundary : mGround.boundaries) mAlong.push_back(alongBoundary(boundary));
   if (mGround.boundaries.size() > 1) mBetween.push_back(betweenBoundaries());
 }
@@ -96,6 +100,43 @@ LayeredTimes::Table LayeredTimes::betweenBoundaries() const {
   return table;
 }
 
+/// The mean slowness of the first layer between two places, s/m.
+double LayeredTimes::slownessOver(double from, double to) const {
+  const std::size_t last = mGround.x.size() - 1;
+  const auto cellOf = [&](double x) {
+    const double place = (x - mGround.x.front()) / mGround.spacing();
+    return static_cast<std::size_t>(std::clamp(place, 0.0, static_cast<double>(last - 1)));
+  };
+  const auto slowness = [&](std::size_t i) {
+    return (mFirst[i + 1] - mFirst[i]) / mGround.spacing();
+  };
+  const auto sum = [&](double x) {
+    const std::size_t i = cellOf(x);
+    return mFirst[i] + (x - mGround.x[i]) * slowness(i);
+  };
+  const double way = to - from;
+  return std::fabs(way) > kOnePlace * mGround.spacing() ? (sum(to) - sum(from)) / way
+                                                        : slowness(cellOf(from));
+}
+
+/// A straight way takes the mean slowness between the surface and the depth that it goes down to.
+double LayeredTimes::throughFirst(const Point2D& from, const Point2D& to, double depth) const {
+  const double distance = std::hypot(to.x - from.x, to.z - from.z);
+  if (mFirst.empty()) return distance / mGround.firstVelocity;
+  const double time = distance * slownessOver(from.x, to.x);
+  const double growth = mGround.growth;
+  if (!(growth * depth > 0.0)) return time;
+  const double grown = std::min(depth, mGround.growsTo);
+  const double below = (depth - grown) / (1.0 + growth * grown);
+  return time * (std::log1p(growth * grown) / growth + below) / depth;
+}
+
+double LayeredTimes::direct(const Point2D& from, const Point2D& to) const {
+  const double distance = std::hypot(to.x - from.x, to.z - from.z);
+  if (mFirst.empty()) return distance / mGround.firstVelocity;
+  return divingOffset(distance, mGround.growth) * slownessOver(from.x, to.x);
+}
+
 const std::vector<double>& LayeredTimes::down(std::uint32_t layer, const Point2D& from) {
   std::vector<double>& known = mDown[{layer, from.x, from.z}];
   if (known.empty()) known = findDown(layer, from);
@@ -107,8 +148,9 @@ std::vector<double> LayeredTimes::findDown(std::uint32_t layer, const Point2D& f
   const std::size_t n = mGround.x.size();
   std::vector<double> first(n);
   for (std::size_t i = 0; i < n; ++i) {
-    first[i] = std::hypot(mGround.x[i] - from.x, mGround.boundaries[0].elevation[i] - from.z) /
-               mGround.firstVelocity;
+    const double z = mGround.boundaries[0].elevation[i];
+    const double depth = mGround.surface.empty() ? 0.0 : mGround.surface[i] - z;
+    first[i] = throughFirst(from, {mGround.x[i], z}, depth);
   }
   if (layer == 2) return first;
   std::vector<double> second(n);
@@ -138,8 +180,7 @@ std::vector<double> LayeredTimes::times(std::uint32_t layer, const Point2D& shot
   if (layer < 1 || layer > layers() || !isFinite(shot)) return times;
   if (layer == 1) {
     for (std::size_t i = 0; i < receivers.size(); ++i) {
-      times[i] =
-          std::hypot(receivers[i].x - shot.x, receivers[i].z - shot.z) / mGround.firstVelocity;
+      times[i] = direct(shot, receivers[i]);
     }
     return times;
   }

@@ -14,7 +14,9 @@ namespace talvesk {
 /// to a boundary, along it or, where it is hollow, straight through the refractor below it, and up
 /// again, all points free to move. For plane boundaries that is the head wave of the closed forms;
 /// boundaries may undulate and velocities change along them. Ways down and up are straight within a
-/// layer; what is slow along them is taken as it changes over x.
+/// layer; what is slow along them is taken as it changes over x. Where the velocity of the first
+/// layer grows with depth, they take the mean of what they go through, and the direct wave is a
+/// diving one.
 ///
 /// Time and memory go with the square of the number of nodes, once for a boundary, and the time for
 /// the second boundary so for every point that is met the first time.
@@ -44,6 +46,10 @@ class LayeredTimes {
     std::vector<double> mTimes;
   };
 
+  /// Through the first layer from a point of the surface. \param depth of `to` below the surface
+  double throughFirst(const Point2D& from, const Point2D& to, double depth) const;
+  double direct(const Point2D& from, const Point2D& to) const;
+  double slownessOver(double from, double to) const;
   const std::vector<double>& down(std::uint32_t layer, const Point2D& from);
   std::vector<double> findDown(std::uint32_t layer, const Point2D& from) const;
   std::vector<double> along(const Table& table, const std::vector<double>& down,
@@ -52,6 +58,7 @@ class LayeredTimes {
   Table betweenBoundaries() const;
 
   LayeredGround mGround;
+  std::vector<double> mFirst;   ///< per node: slowness of the first layer, summed up over x
   std::vector<Table> mAlong;    ///< per boundary
   std::vector<Table> mBetween;  ///< from the first boundary to the second; none without one
   /// By layer, x and z of a point of the surface: its ways down to the top of the layer.

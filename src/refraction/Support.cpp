@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <set>
 
 namespace talvesk {
 
@@ -77,6 +78,28 @@ Support above(const std::vector<double>& x, const std::vector<Support>& support,
   return right == 0 ? Support::kExtrapolated : std::max(support[right - 1], support[right]);
 }
 
+/// Of a fitted profile: places are told of by the shots and receivers of the refractor's picks.
+RefractorSupport fittedSupport(const std::vector<ShotArrivals>& shots,
+                               const std::vector<layerStruct>& marks, const computedData& data,
+                               std::uint32_t refractor) {
+  std::set<double> told;
+  for (const layerStruct& own : marks) {
+    if (!own.enabled || own.shotID >= shots.size()) continue;
+    const ShotArrivals& shot = shots[own.shotID];
+    for (std::size_t i = 0; i < shot.times.size(); ++i) {
+      if (layerOf(own, i) == refractor && hasPick(shot.times[i])) {
+        told.insert({shot.shot.x, shot.receivers[i].x});
+      }
+    }
+  }
+  RefractorSupport support;
+  for (const double x : data.x) {
+    support.depth.push_back(told.count(x) > 0 ? Support::kPicks : Support::kGap);
+    support.velocity.push_back(Support::kPicks);
+  }
+  return support;
+}
+
 }  // namespace
 
 const char* nameOf(Support support) {
@@ -89,6 +112,9 @@ RefractorSupport supportOf(const std::vector<ShotArrivals>& shots,
   RefractorSupport support;
   const std::size_t index = refractor - 2;
   const auto& built = interpretation.refractData.cData;
+  if (interpretation.refractData.isFitted() && index < built.size()) {
+    return fittedSupport(shots, interpretation.ttLayer, built[index], refractor);
+  }
   if (index >= built.size() || index >= interpretation.phnt_A.size() ||
       index >= interpretation.phnt_R.size()) {
     return support;

@@ -27,8 +27,9 @@ struct RefractorSupport {
 };
 
 /// The arrivals that are read for a receiver, XY to either side of it, and what lies beside it:
-/// velocities are slopes over 2 m to either side. A second refractor lies on the first.
-/// \param interpretation as buildProfiles() left it for these shots
+/// velocities are slopes over 2 m to either side. A second refractor lies on the first. Of a fitted
+/// profile whether a pick of the refractor comes from there or goes there.
+/// \param interpretation as buildProfiles() or fitProfile() left it for these shots
 /// \param refractor 2 or 3; one that is not built has nothing
 RefractorSupport supportOf(const std::vector<ShotArrivals>& shots,
                            const refractionDataStructure::Interpretation& interpretation,

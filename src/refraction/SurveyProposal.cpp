@@ -331,27 +331,8 @@ SurveyProposal proposeFromSurvey(const std::vector<ShotArrivals>& shots,
 }
 
 std::optional<double> SurveyProposal::depthAt(std::uint32_t layer, double x) const {
-  if (!waves || layer < 2 || layer > waves->waves.size()) return std::nullopt;
-  const double top = waves->slownessAt(0, x);
-  const double first = waves->slownessAt(1, x);
-  const double delay = waves->delayAt(1, x);
-  const auto through = [&](double depth) { return waves->delayThroughFirst(depth, top, first); };
-  // The depth whose delay is the one that was fitted.
-  double low = 0.0;
-  double high = 1.0;
-  while (through(high) < delay) {
-    high *= 2.0;
-    if (high > kLongestLine) return std::nullopt;
-  }
-  while (high - low > 1e-9 * high) {
-    const double middle = 0.5 * (low + high);
-    (through(middle) < delay ? low : high) = middle;
-  }
-  if (layer == 2) return high;
-  const double second = waves->slownessAt(2, x);
-  if (!(first > second)) return std::nullopt;
-  const double rest = waves->delayAt(2, x) - waves->delayThroughFirst(high, top, second);
-  return high + rest / std::sqrt(first * first - second * second);
+  if (!waves || layer < 2) return std::nullopt;
+  return waves->depthAt(layer - 1, x);
 }
 
 }  // namespace talvesk

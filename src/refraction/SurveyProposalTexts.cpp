@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -31,6 +32,34 @@ Message layersText(std::uint32_t layers, const GroundFit& fit) {
   const Message misfit = milliseconds(fit.misfit);
   if (layers == 1) return Message::tr("1 layer, misfit %1 ms").arg(misfit);
   return Message::tr("%1 layers, misfit %2 ms").arg(layers).arg(misfit);
+}
+
+/// All pieces of a layer that rest on few picks, in one line: "layer 1 rests on fewer than four
+/// picks to the right of shots 2 (2), 3 (3) and to the left of shot 3 (3)".
+std::optional<Message> shortPiecesText(const std::vector<ShortPiece>& pieces, std::uint32_t layer) {
+  const auto namedOn = [&](Side side) {
+    std::pair<std::size_t, std::string> named;
+    for (const ShortPiece& piece : pieces) {
+      if (piece.layer != layer || piece.side != side) continue;
+      named.second += (named.first++ > 0 ? ", " : "") + std::to_string(piece.shot + 1) + " (" +
+                      std::to_string(piece.picks) + ")";
+    }
+    return named;
+  };
+  const auto [rightCount, right] = namedOn(Side::kRight);
+  const auto [leftCount, left] = namedOn(Side::kLeft);
+  if (rightCount + leftCount == 0) return std::nullopt;
+  const Message toRight = rightCount == 1
+                              ? Message::tr("to the right of shot %1").arg(Message(right))
+                              : Message::tr("to the right of shots %1").arg(Message(right));
+  const Message toLeft = leftCount == 1 ? Message::tr("to the left of shot %1").arg(Message(left))
+                                        : Message::tr("to the left of shots %1").arg(Message(left));
+  const Message where = leftCount == 0    ? toRight
+                        : rightCount == 0 ? toLeft
+                                          : Message::tr("%1 and %2").arg(toRight).arg(toLeft);
+  return Message::tr("layer %1 rests on fewer than four picks (their number in brackets) %2")
+      .arg(layer)
+      .arg(where);
 }
 
 }  // namespace
@@ -70,12 +99,8 @@ std::vector<Message> SurveyProposal::remarks() const {
         Message::tr("three layers fit better, but no shot at each end of the line has picks of the "
                     "layer in between: two layers are proposed"));
   }
-  for (const ShortPiece& piece : shortPieces) {
-    Message text =
-        piece.side == Side::kRight
-            ? Message::tr("shot %1, to its right: layer %2 rests on fewer than four picks (%3)")
-            : Message::tr("shot %1, to its left: layer %2 rests on fewer than four picks (%3)");
-    remarks.push_back(std::move(text).arg(piece.shot + 1).arg(piece.layer).arg(piece.picks));
+  for (std::uint32_t layer = 1; layer <= refractionDataStructure::kLastLayer; ++layer) {
+    if (auto text = shortPiecesText(shortPieces, layer)) remarks.push_back(std::move(*text));
   }
   if (standOut.empty()) return remarks;
   std::string named;
@@ -84,6 +109,11 @@ std::vector<Message> SurveyProposal::remarks() const {
              std::to_string(standOut[i].trace + 1);
   }
   if (standOut.size() > kMostNamed) named += ", ...";
+  if (standOut.size() == 1) {
+    remarks.push_back(Message::tr("1 pick fits no layer and is given to none (shot/trace): %1")
+                          .arg(Message(named)));
+    return remarks;
+  }
   remarks.push_back(Message::tr("%1 picks fit no layer and are given to none (shot/trace): %2")
                         .arg(standOut.size())
                         .arg(Message(named)));

@@ -17,6 +17,7 @@ constexpr double kTuning = 2.385;      // of the Cauchy weights: 95 % efficient 
 constexpr double kLeastScale = 0.02;   // of the errors of picks
 constexpr double kUsualDip = 0.15;     // standard deviation of a delay's slope over slowness
 constexpr double kUsualChange = 0.15;  // of a velocity from knot to knot
+constexpr double kDeepest = 1e6;       // metres
 constexpr int kMostRounds = 25;
 constexpr int kFirstRounds = 5;  // until gross picks of a first idea are known
 constexpr std::size_t kPlacesOfBreaks = 11;
@@ -40,6 +41,10 @@ double robustCost(double scaled) {
 
 double divingOffset(double offset, double growth) {
   return growth > 0.0 ? 2.0 / growth * std::asinh(0.5 * growth * offset) : offset;
+}
+
+double divingDepth(double offset, double growth) {
+  return growth > 0.0 ? (std::hypot(1.0, 0.5 * growth * offset) - 1.0) / growth : 0.0;
 }
 
 double WaveModel::time(std::size_t wave, double from, double to) const {
@@ -86,8 +91,36 @@ double WaveModel::delayThroughFirst(double depth, double slowness, double horizo
     return std::sqrt(s * s - horizontal * horizontal * factor * factor) -
            slowness * std::acosh(s / (horizontal * factor));
   };
-  const double bottom = std::clamp(1.0 + growth * depth, 1.0, slowness / horizontal);
-  return (integral(bottom) - integral(1.0)) / growth;
+  const double bottom =
+      std::clamp(1.0 + growth * std::min(depth, growsTo), 1.0, slowness / horizontal);
+  const double steady = slowness / bottom;
+  return (integral(bottom) - integral(1.0)) / growth +
+         std::max(0.0, depth - growsTo) *
+             std::sqrt(std::max(0.0, steady * steady - horizontal * horizontal));
+}
+
+std::optional<double> WaveModel::depthAt(std::size_t wave, double x) const {
+  if (wave < 1 || wave >= waves.size()) return std::nullopt;
+  const double surface = slownessAt(0, x);
+  const double first = slownessAt(1, x);
+  const double delay = delayAt(1, x);
+  const auto through = [&](double depth) { return delayThroughFirst(depth, surface, first); };
+  // The depth whose delay is the one that was fitted.
+  double low = 0.0;
+  double high = 1.0;
+  while (through(high) < delay) {
+    high *= 2.0;
+    if (high > kDeepest) return std::nullopt;
+  }
+  while (high - low > 1e-9 * high) {
+    const double middle = 0.5 * (low + high);
+    (through(middle) < delay ? low : high) = middle;
+  }
+  if (wave == 1) return high;
+  const double second = slownessAt(2, x);
+  if (!(first > second)) return std::nullopt;
+  const double rest = delayAt(2, x) - delayThroughFirst(high, surface, second);
+  return high + rest / std::sqrt(first * first - second * second);
 }
 
 double WaveModel::velocity(std::size_t wave) const {
@@ -109,19 +142,22 @@ struct WaveFitter::Rows {
   Eigen::VectorXd time;
   Eigen::VectorXd sigma;
 
-  /// \param top of the direct wave, roughly, s/m
-  std::optional<Wave> solve(const Eigen::VectorXd& weights, bool first, double top) const;
+  /// \param top of the direct wave, roughly, s/m \param even what velocities keep to, s/m
+  std::optional<Wave> solve(const Eigen::VectorXd& weights, bool first, double top,
+                            double even) const;
   std::optional<Wave> fitOwn(const std::vector<std::size_t>& assigned, std::size_t wave,
-                             Eigen::VectorXd trust, int rounds, double& top) const;
+                             Eigen::VectorXd trust, int rounds, double& top,
+                             std::optional<double> even = {}) const;
   Eigen::VectorXd timesOf(const Wave& wave) const;
+  std::optional<double> directOffset(const std::vector<std::size_t>& waves) const;
   bool breaksAt(const std::vector<Wave>& waves, const std::vector<std::size_t>& earliest) const;
   bool predict(const std::vector<Wave>& waves, FittedWaves& fit) const;
 };
 
 /// Least squares with what is known of any ground: refractors are rather level, velocities rather
 /// the same from knot to knot.
-std::optional<Wave> WaveFitter::Rows::solve(const Eigen::VectorXd& weights, bool first,
-                                            double top) const {
+std::optional<Wave> WaveFitter::Rows::solve(const Eigen::VectorXd& weights, bool first, double top,
+                                            double even) const {
   const Eigen::MatrixXd& over = first ? direct : slowness;
   const Eigen::Index p = over.cols();
   const Eigen::Index m = first ? 0 : delay.cols() + 1;
@@ -141,7 +177,7 @@ std::optional<Wave> WaveFitter::Rows::solve(const Eigen::VectorXd& weights, bool
     normal(a, a + 1) -= weight;
     normal(a + 1, a) -= weight;
   };
-  for (Eigen::Index k = 0; k + 1 < p; ++k) tie(k, kUsualChange * top);
+  for (Eigen::Index k = 0; k + 1 < p; ++k) tie(k, kUsualChange * even);
   for (Eigen::Index k = 0; k + 2 < m; ++k) tie(p + k, kUsualDip * top * delays.spacing());
   // A refractor may follow the surface or be level below it.
   if (!first) normal(p + m - 1, p + m - 1) += 1.0 / (top * top);
@@ -172,9 +208,10 @@ Eigen::VectorXd WaveFitter::Rows::timesOf(const Wave& wave) const {
 /// One wave through the picks assigned to it; nothing for too few. The first, the direct wave, sets
 /// `top`.
 /// \param trust of each pick \param rounds in which this trust is found anew from how they fit
+/// \param even what velocities keep to, s/m; none: `top`
 std::optional<Wave> WaveFitter::Rows::fitOwn(const std::vector<std::size_t>& assigned,
                                              std::size_t wave, Eigen::VectorXd trust, int rounds,
-                                             double& top) const {
+                                             double& top, std::optional<double> even) const {
   std::vector<Eigen::Index> own;
   for (Eigen::Index i = 0; i < time.size(); ++i) {
     if (assigned[static_cast<std::size_t>(i)] == wave) own.push_back(i);
@@ -185,7 +222,7 @@ std::optional<Wave> WaveFitter::Rows::fitOwn(const std::vector<std::size_t>& ass
   for (int round = 0; round < rounds; ++round) {
     Eigen::VectorXd weights = Eigen::VectorXd::Zero(time.size());
     for (const Eigen::Index i : own) weights[i] = trust[i] / (sigma[i] * sigma[i]);
-    found = solve(weights, wave == 0, top);
+    found = solve(weights, wave == 0, top, even.value_or(top));
     if (!found || round + 1 == rounds) break;
     const Eigen::VectorXd off = (time - timesOf(*found)).cwiseQuotient(sigma);
     std::vector<double> scaled;
@@ -196,22 +233,29 @@ std::optional<Wave> WaveFitter::Rows::fitOwn(const std::vector<std::size_t>& ass
   return found;
 }
 
-/// Whether the first refractor is faster than the direct wave has become where it is overtaken: at
-/// the offsets of the last tenth of its picks.
+/// The offset that hardly any direct wave goes beyond: that of the last tenth of its picks; none
+/// without any.
+std::optional<double> WaveFitter::Rows::directOffset(const std::vector<std::size_t>& waves) const {
+  std::vector<double> offsets;
+  for (Eigen::Index i = 0; i < time.size(); ++i) {
+    if (waves[static_cast<std::size_t>(i)] == 0) offsets.push_back(slowness.row(i).sum());
+  }
+  if (offsets.empty()) return std::nullopt;
+  const auto last = offsets.begin() + static_cast<std::ptrdiff_t>(9 * offsets.size() / 10);
+  std::nth_element(offsets.begin(), last, offsets.end());
+  return *last;
+}
+
+/// Whether the first refractor is faster than the direct wave has become where it is overtaken.
 bool WaveFitter::Rows::breaksAt(const std::vector<Wave>& waves,
                                 const std::vector<std::size_t>& earliest) const {
   if (waves.size() < 2 || growth == 0.0) return true;
-  std::vector<double> offsets;
-  for (Eigen::Index i = 0; i < time.size(); ++i) {
-    if (earliest[static_cast<std::size_t>(i)] == 0) offsets.push_back(slowness.row(i).sum());
-  }
-  if (offsets.empty()) return false;
-  const auto last = offsets.begin() + static_cast<std::ptrdiff_t>(9 * offsets.size() / 10);
-  std::nth_element(offsets.begin(), last, offsets.end());
+  const auto offset = directOffset(earliest);
+  if (!offset) return false;
   const auto meanOf = [](const std::vector<double>& s) {
     return std::accumulate(s.begin(), s.end(), 0.0) / static_cast<double>(s.size());
   };
-  const double apparent = meanOf(waves[0].slowness) / std::hypot(1.0, 0.5 * growth * *last);
+  const double apparent = meanOf(waves[0].slowness) / std::hypot(1.0, 0.5 * growth * *offset);
   return meanOf(waves[1].slowness) * kLeastVelocityRise <= apparent;
 }
 
@@ -294,7 +338,7 @@ std::optional<FittedWaves> WaveFitter::fit(std::vector<std::size_t> start,
   std::vector<std::size_t> assigned = std::move(start);
   for (int round = 0; round < kMostRounds; ++round) {
     FittedWaves now{
-        {mRows->tops, mRows->slownesses, mRows->delays, mRows->surface, {}, mRows->growth},
+        {mRows->tops, mRows->slownesses, mRows->delays, mRows->surface, {}, mRows->growth, 0.0},
         {},
         {},
         0.0,
@@ -308,6 +352,7 @@ std::optional<FittedWaves> WaveFitter::fit(std::vector<std::size_t> start,
       now.model.waves.push_back(*wave);
     }
     if (!mRows->predict(now.model.waves, now)) return best;
+    now.model.growsTo = divingDepth(mRows->directOffset(now.wave).value_or(0.0), mRows->growth);
     std::vector<double> scaled(mPicks.size());
     for (std::size_t i = 0; i < scaled.size(); ++i) {
       scaled[i] = (mPicks[i].time - now.times[i]) / mPicks[i].sigma;
@@ -323,6 +368,20 @@ std::optional<FittedWaves> WaveFitter::fit(std::vector<std::size_t> start,
     if (settled) break;
   }
   return best;
+}
+
+std::optional<WaveModel> WaveFitter::fitAssigned(const std::vector<std::size_t>& wave,
+                                                 const WaveModel& about) const {
+  WaveModel model{mRows->tops, mRows->slownesses, mRows->delays, mRows->surface,
+                  {},          mRows->growth,     about.growsTo};
+  const Eigen::VectorXd trust = Eigen::VectorXd::Ones(static_cast<Eigen::Index>(mPicks.size()));
+  double top = 0.0;
+  for (std::size_t k = 0; k < about.waves.size(); ++k) {
+    auto own = mRows->fitOwn(wave, k, trust, kFirstRounds, top, 1.0 / about.velocity(k));
+    if (!own) return std::nullopt;
+    model.waves.push_back(std::move(*own));
+  }
+  return model;
 }
 
 namespace {

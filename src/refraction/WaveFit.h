@@ -38,6 +38,9 @@ struct WaveModel {
   Course relief;  ///< of the surface, metres above its mean
   std::vector<Wave> waves;
   double growth = 0.0;  ///< of the velocity in the first layer over that at the surface, per metre
+  /// Depth to which picks tell of growth, metres: the deepest point of the direct waves. Below it
+  /// the velocity stays as it is there.
+  double growsTo = 0.0;
 
   double time(std::size_t wave, double from, double to) const;  ///< seconds
   std::size_t earliest(double from, double to) const;           ///< index of the wave
@@ -46,6 +49,9 @@ struct WaveModel {
   /// Of the first layer from the surface down, along a way whose horizontal slowness is that given,
   /// the time less what the horizontal way takes, seconds. \param slowness at the surface, s/m
   double delayThroughFirst(double depth, double slowness, double horizontal) const;
+  /// Depth of the top of a head wave's refractor at x, metres. None of the direct wave, and where
+  /// the waves tell of none. Dips of a few degrees count as level.
+  std::optional<double> depthAt(std::size_t wave, double x) const;
   /// Over all of the line, m/s; of the first layer at the surface.
   double velocity(std::size_t wave) const;
 };
@@ -72,6 +78,8 @@ struct WaveDetail {
 /// Offset that a wave along the surface would have for the time of a diving one, metres: shorter
 /// the more the velocity grows with depth. \param growth of WaveModel, per metre; 0: the offset
 double divingOffset(double offset, double growth);
+/// Depth of the deepest point of such a wave, metres; 0 where nothing grows.
+double divingDepth(double offset, double growth);
 
 /// Fits waves to picks of one survey: all shots at once, each pick to the wave that is the earliest
 /// there. The picks must outlive it.
@@ -84,6 +92,12 @@ class WaveFitter {
   /// From a first idea of which wave each pick belongs to. Nothing when the waves do not become
   /// faster downward, or one is nowhere the earliest.
   std::optional<FittedWaves> fit(std::vector<std::size_t> start, std::size_t waves) const;
+
+  /// Each pick to the wave that it is said to be of, whatever is the earliest there. Velocities of
+  /// head waves change along the line as those of `about` lead to expect: by some of a refractor's
+  /// own slowness. Nothing when a wave has too few picks.
+  std::optional<WaveModel> fitAssigned(const std::vector<std::size_t>& wave,
+                                       const WaveModel& about) const;
 
  private:
   struct Rows;

@@ -85,6 +85,8 @@ bool sameProfile(const Interpretation& a, const Interpretation& b) {
   const std::size_t shots = std::min(a.ttLayer.size(), b.ttLayer.size());
   return sameCurves(a.phnt_A, b.phnt_A) && sameCurves(a.phnt_R, b.phnt_R) && p.v1 == q.v1 &&
          sameBytes(p.v2, q.v2) && sameBytes(p.v3, q.v3) && p.picks == q.picks &&
+         sameBytes(p.first.x, q.first.x) && sameBytes(p.first.velocity, q.first.velocity) &&
+         p.first.growth == q.first.growth && p.first.growsTo == q.first.growsTo &&
          std::equal(p.cData.begin(), p.cData.end(), q.cData.begin(), q.cData.end(), sameData) &&
          std::equal(a.ttLayer.begin(), a.ttLayer.begin() + static_cast<std::ptrdiff_t>(shots),
                     b.ttLayer.begin(), sameShifts);

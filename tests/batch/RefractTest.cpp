@@ -3,6 +3,8 @@
 #include "io/project/ProjectWriter.h"
 #include "io/project/projectReader.h"
 #include "refraction/BuildProfiles.h"
+#include "refraction/LayeredFit.h"
+#include "refraction/WeighedPicks.h"
 #include "support/ConsoleCapture.h"
 #include "support/RefractionLines.h"
 
@@ -209,12 +211,54 @@ TEST(Refract, proposesOverTheSurveyAndSaysHowTheProfileFits) {
   EXPECT_EQ(json["proposal"]["grounds"].size(), 4U);
   EXPECT_NEAR(json["proposal"]["grounds"][2]["velocities"][1].get<double>(), 1200.0, 12.0);
   EXPECT_THAT(outcome.err, HasSubstr("Proposal: 3 layers, misfit 0 ms; 2 layers, misfit "));
-  EXPECT_THAT(outcome.err, HasSubstr(" receivers, velocity "));
+  EXPECT_THAT(outcome.err, HasSubstr("Layer 2: fitted to all picks, "));
   EXPECT_THAT(outcome.err, HasSubstr(" m, misfit "));
   ASSERT_EQ(json["misfit"]["layers"].size(), 3U);
-  EXPECT_LT(json["misfit"]["layers"][0]["rms"].get<double>(), 0.001);
+  EXPECT_LT(json["misfit"]["all"]["rms"].get<double>(), 0.0002);
+  EXPECT_EQ(json["profile"], "fitted");
+  EXPECT_NEAR(json["first_layer"]["velocity"][0].get<double>(), 400.0, 4.0);
   EXPECT_EQ(json["shots"][2]["times"].size(), 60U);
   EXPECT_THAT(contentsOf(misfit), HasSubstr("shot layer picks rms_ms mean_ms chi2\n1 "));
+}
+
+/// The XY is one of the reciprocal method, which is still there for such a proposal.
+TEST(Refract, buildsAProposalOverTheSurveyByTheReciprocalMethodIfAskedTo) {
+  const Survey survey;
+  const std::vector<std::string> proposed = {"refract", survey.picks, "--propose",
+                                             "survey",  "--json",     "-"};
+  const auto with = [&](const std::vector<std::string>& more) {
+    std::vector<std::string> arguments = proposed;
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return runBatch(arguments);
+  };
+  for (const auto& more : {std::vector<std::string>{"--profile", "reciprocal"}, {"--xy", "0"}}) {
+    const Outcome outcome = with(more);
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    const ordered_json json = ordered_json::parse(outcome.out);
+    EXPECT_EQ(json["profile"], "reciprocal");
+    EXPECT_TRUE(json["refractors"][0].contains("t_ab"));
+  }
+  EXPECT_EQ(with({"--profile", "fitted", "--xy", "0"}).code, 2);
+  EXPECT_EQ(with({"--profile", "best"}).code, 2);
+  EXPECT_EQ(runBatch({"refract", survey.picks, "--profile", "fitted", "--json", "-"}).code, 2);
+}
+
+/// A profile of another program has no first layer of its own: the project keeps it beside.
+TEST(Refract, keepsAFittedProfileInProjects) {
+  const Survey survey;
+  const Environment home = {{"HOME", survey.folder / ""}};
+  const std::string project = survey.folder / "fitted.tvsk";
+  const Outcome first = runBatch(
+      {"refract", survey.picks, "--propose", "survey", "--misfit", "-", "-o", project}, home);
+  ASSERT_EQ(first.code, 0) << first.err;
+  LoadedProject back;
+  projectReader reader;
+  ASSERT_EQ(reader.load(project, survey.folder / "work/", back), 0) << reader.message();
+  EXPECT_TRUE(back.interpretation->refractData.isFitted());
+  const auto shots = shotArrivals(back.document);
+  const LayeredFit fit =
+      fitOfProfile(shots, pickErrors(back.document, shots), *back.interpretation);
+  EXPECT_EQ(misfitTable(fit), first.out);
 }
 
 TEST(Refract, claimsNoLayersOnGroundWithASteadyGradient) {

@@ -109,6 +109,40 @@ TEST(LayeredTimes, goWithTheVelocityAlongARefractor) {
   EXPECT_NEAR(times[3] - times[2], 30.0 / 3000.0, 1e-6);
 }
 
+/// Slower to the left than to the right, and faster downward as far as the layer grows.
+TEST(LayeredTimes, goThroughAFirstLayerThatChanges) {
+  LayeredGround ground;
+  ground.firstVelocity = 500.0;
+  LayeredGround::Boundary boundary;
+  for (double x = 0.0; x <= 200.0; x += 0.5) {
+    ground.x.push_back(x);
+    ground.firstSlowness.push_back((2.5 - 0.005 * x) / 1000.0);
+    ground.surface.push_back(0.0);
+    boundary.elevation.push_back(-10.0);
+    boundary.slowness.push_back(1.0 / 3000.0);
+  }
+  ground.boundaries = {boundary};
+  const auto slownessAt = [](double x) { return (2.5 - 0.005 * x) / 1000.0; };
+  EXPECT_NEAR(LayeredTimes(ground).times(1, {20.25, 0.0}, {{60.0, 0.0}})[0],
+              39.75 * slownessAt(40.125), 1e-6);
+  ground.growth = 0.2;
+  ground.growsTo = 4.0;
+  LayeredTimes through(ground);
+  EXPECT_NEAR(through.times(1, {20.0, 0.0}, {{60.0, 0.0}})[0],
+              slownessAt(40.0) * 2.0 / 0.2 * std::asinh(0.5 * 0.2 * 40.0), 1e-9);
+  const auto delayAt = [&](double x) {
+    double delay = 0.0;
+    for (double z = 0.005; z < 10.0; z += 0.01) {
+      const double slowness = slownessAt(x) / (1.0 + 0.2 * std::min(z, 4.0));
+      delay += 0.01 * std::sqrt(slowness * slowness - 1.0 / 9e6);
+    }
+    return delay;
+  };
+  // Waves leave and reach the surface some metres from where they touch the refractor.
+  const double expected = 100.0 / 3000.0 + delayAt(51.5) + delayAt(148.5);
+  EXPECT_NEAR(through.times(2, {50.0, 0.0}, {{150.0, 0.0}})[0], expected, 3e-4);
+}
+
 TEST(LayeredFit, measuresTheProfileAgainstItsPicks) {
   const testing::ConsoleCapture console;
   Interpretation interpretation;

@@ -94,7 +94,8 @@ TEST(SurveyProposal, leavesGrossPicksToNoLayerAndNamesThem) {
   EXPECT_EQ(proposal.standOut[0], (TraceRef{5, 50}));
   EXPECT_EQ(proposal.marks[5].layer[50], 0U);
   ASSERT_FALSE(proposal.remarks().empty());
-  EXPECT_THAT(proposal.remarks().back().english(), HasSubstr("6/51"));
+  EXPECT_THAT(proposal.remarks().back().english(),
+              HasSubstr("1 pick fits no layer and is given to none (shot/trace): 6/51"));
 }
 
 TEST(SurveyProposal, saysWhichPiecesRestOnFewPicks) {
@@ -112,7 +113,9 @@ TEST(SurveyProposal, saysWhichPiecesRestOnFewPicks) {
   EXPECT_EQ(found->picks, 3U);
   std::string all;
   for (const Message& remark : proposal.remarks()) all += remark.english() + '\n';
-  EXPECT_THAT(all, HasSubstr("shot 3, to its right: layer 1 rests on fewer than four picks (3)\n"));
+  EXPECT_THAT(all,
+              HasSubstr("layer 1 rests on fewer than four picks (their number in brackets) to the "
+                        "right of shot 3 (3)\n"));
 }
 
 TEST(SurveyProposal, fitsEnabledShotsAndMarksAll) {

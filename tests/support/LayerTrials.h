@@ -2,6 +2,7 @@
 
 #include "numerics/Medians.h"
 #include "refraction/BuildProfiles.h"
+#include "refraction/FittedProfile.h"
 #include "refraction/Profile.h"
 #include "refraction/SurveyProposal.h"
 #include "refraction/WeighedPicks.h"
@@ -28,6 +29,11 @@ struct TrialOutcome {
   bool built = false;
   double profileDepth = 0.0;
   double profileVelocity = 0.0;
+  bool fitted = false;  ///< the same of the profile that is fitted to all picks
+  double fittedDepth = 0.0;
+  double fittedVelocity = 0.0;
+  double waveMisfit = 0.0;  ///< RMS, seconds
+  double fittedMisfit = 0.0;
 };
 
 class LayerTrial {
@@ -53,7 +59,16 @@ class LayerTrial {
     if (proposal.chosen) outcome.layers = proposal.grounds[*proposal.chosen].layers;
     if (outcome.layers != layers() || layers() == 0) return outcome;
     compareWaves(proposal, outcome);
-    compareProfile(shots, proposal, outcome);
+    refractionDataStructure::Interpretation built;
+    built.ttLayer = proposal.marks;
+    outcome.built = buildProfiles(shots, built).built;
+    compareProfile(built, outcome.profileDepth, outcome.profileVelocity);
+    refractionDataStructure::Interpretation fitted;
+    const LayeredFit fit = fitProfile(shots, pickErrors(mLine, shots), proposal, fitted);
+    outcome.fitted = fit.total.picks > 0;
+    outcome.waveMisfit = proposal.grounds[*proposal.chosen].misfit;
+    outcome.fittedMisfit = fit.total.rms;
+    compareProfile(fitted, outcome.fittedDepth, outcome.fittedVelocity);
     return outcome;
   }
 
@@ -187,23 +202,22 @@ class LayerTrial {
     }
   }
 
-  void compareProfile(const std::vector<ShotArrivals>& shots, const SurveyProposal& proposal,
-                      TrialOutcome& outcome) const {
-    refractionDataStructure::Interpretation interpretation;
-    interpretation.ttLayer = proposal.marks;
-    outcome.built = buildProfiles(shots, interpretation).built;
+  /// Of a profile, over its receivers on the line.
+  void compareProfile(const refractionDataStructure::Interpretation& interpretation, double& depth,
+                      double& velocity) const {
     std::vector<double> depths;
     std::vector<double> velocities;
     const auto& refractors = interpretation.refractData.cData;
     for (std::size_t i = 0; i < refractors.size() && i < mGround.depths.size(); ++i) {
       for (std::size_t j = 0; j < refractors[i].x.size(); ++j) {
         const double x = refractors[i].x[j];
+        if (x < 0.0 || x > mLength) continue;
         depths.push_back(refractors[i].depth[j] / mGround.depth(i, x) - 1.0);
         velocities.push_back(refractors[i].velocity[j] / mGround.velocities[i + 1] - 1.0);
       }
     }
-    outcome.profileDepth = medianSize(std::move(depths));
-    outcome.profileVelocity = medianSize(std::move(velocities));
+    depth = medianSize(std::move(depths));
+    velocity = medianSize(std::move(velocities));
   }
 
   TrialGround mKind;

@@ -3,6 +3,7 @@
 #include "base/AtomicFile.h"
 #include "io/MemberFile.h"
 #include "io/project/ProjectCertainty.h"
+#include "io/project/ProjectFirstLayer.h"
 #include "io/project/ProjectKnownGround.h"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectMembers_records.inl"
@@ -239,6 +240,21 @@ const std::vector<OwnMember>& ownMembers() {
        reads([](const TomoDocument&) { return EnsembleState(); },
              [](EnsembleState state, TomoDocument& document, Interpretation&) {
                return installEnsembleState(std::move(state), document);
+             })},
+      {"first_layer.xml", 1, "First layer",
+       Message::tr("the first layer of its layered profile has one velocity"),
+       [](const TomoDocument&, const Interpretation& interpretation) {
+         return !interpretation.refractData.cData.empty();
+       },
+       [](const TomoDocument&, const Interpretation& interpretation) {
+         return interpretation.refractData.isFitted();
+       },
+       writes([](const TomoDocument&, const Interpretation& interpretation) {
+         return firstLayerOf(interpretation);
+       }),
+       reads([](const TomoDocument&) { return FirstLayerMember(); },
+             [](FirstLayerMember member, TomoDocument&, Interpretation& interpretation) {
+               return installFirstLayer(std::move(member), interpretation);
              })}};
   return kMembers;
 }

@@ -7,6 +7,7 @@
 #include "io/XmlRecords.inl"
 #include "io/project/MendsMember.h"
 #include "io/project/ProjectCertainty.h"
+#include "io/project/ProjectFirstLayer.h"
 #include "io/project/ProjectKnownGround.h"
 #include "io/project/ProjectMembers.h"
 #include "io/project/ProjectPicks.h"
@@ -473,6 +474,14 @@ void describe(V& fields, processingData& data) {
 }
 
 template <class V>
+void describe(V& fields, FirstLayer& first) {
+  fields("x", first.x);
+  fields("velocity", first.velocity);
+  fields("growth", first.growth);
+  fields("growsTo", first.growsTo);
+}
+
+template <class V>
 void describe(V& fields, layerStruct& layers) {
   fields("shotID", layers.shotID);
   fields("layer", layers.layer);
@@ -489,4 +498,12 @@ void describe(V& fields, Interpretation& interpretation) {
 }
 
 }  // namespace refractionDataStructure
+
+template <class V>
+void describe(V& fields, FirstLayerMember& member) {
+  fields("first", member.first);
+  fields("v1", member.v1);
+  fields("picks", member.picks);
+}
+
 }  // namespace talvesk

@@ -11,11 +11,6 @@
 
 namespace talvesk {
 
-namespace parameters {
-inline constexpr Parameter<int> kBounds = {
-    "bounds", 100, {2, 1000}, "", "Interpretations of moved picks that error bands come from"};
-}  // namespace parameters
-
 /// What the errors of the picks make of an interpretation.
 struct BoundsOptions {
   int members = 0;  ///< interpretations of moved picks; 0: no bands
