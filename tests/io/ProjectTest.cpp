@@ -59,7 +59,7 @@ void interpret(LoadedProject& project) {
   data.velocity = {1500, 1510};
   data.depth = {3, 3.1};
   data.elevation = {100, 100};
-  records.refractData = {{data}, 400, {1500, 1510}, {}};
+  records.refractData = {{data}, 400, {}, {1500, 1510}, {}};
 }
 
 TEST_F(ProjectTest, comesBackAsItWasSaved) {
