@@ -28,7 +28,9 @@ std::vector<Message> elasticSummary(const ElasticLine& line) {
   for (const ElasticLayer& layer : line.layers) {
     const auto value = [&layer](Quantity quantity, int digits, double factor = 1.0) {
       const double median = factor * layer.median(quantity);
-      return std::isfinite(median) ? Message::number(median, digits) : Message("-");
+      // Thousands without an exponent.
+      return std::isfinite(median) ? Message::number(median, std::fabs(median) < 1e3 ? digits : 6)
+                                   : Message("-");
     };
     lines.push_back(
         Message::tr("Layer %1, medians of %2 places: %3; %4")
