@@ -28,9 +28,10 @@ std::vector<Message> elasticSummary(const ElasticLine& line) {
   for (const ElasticLayer& layer : line.layers) {
     const auto value = [&layer](Quantity quantity, int digits, double factor = 1.0) {
       const double median = factor * layer.median(quantity);
-      // Thousands without an exponent.
-      return std::isfinite(median) ? Message::number(median, std::fabs(median) < 1e3 ? digits : 6)
-                                   : Message("-");
+      if (!std::isfinite(median)) return Message("-");
+      // Thousands are whole numbers, and have no exponent.
+      return std::fabs(median) < 1e3 ? Message::number(median, digits)
+                                     : Message::number(std::round(median), 15);
     };
     lines.push_back(
         Message::tr("Layer %1, medians of %2 places: %3; %4")
