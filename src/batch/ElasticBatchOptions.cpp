@@ -18,6 +18,48 @@ DensityRule readDensities(const std::string& option, const std::string& text) {
   return rule;
 }
 
+/// How the command line calls a quantity.
+struct QuantityName {
+  const char* name;
+  ElasticQuantity quantity;
+};
+constexpr QuantityName kQuantityNames[] = {
+    {"vp_vs", ElasticQuantity::kRatio}, {"poisson", ElasticQuantity::kPoisson},
+    {"g0", ElasticQuantity::kShear},    {"e0", ElasticQuantity::kYoung},
+    {"k", ElasticQuantity::kBulk},      {"m", ElasticQuantity::kConstrained}};
+
+ElasticQuantity readQuantity(const std::string& option, const std::string& text) {
+  std::string names;
+  for (const QuantityName& one : kQuantityNames) {
+    if (text == one.name) return one.quantity;
+    names += (names.empty() ? "" : ", ") + std::string(one.name);
+  }
+  throw CLI::ValidationError(option, "'" + text + "' is none of " + names);
+}
+
+void addSections(CLI::App& command, ElasticBatchOptions& options) {
+  CLI::Option* section = mustEndIn(
+      command
+          .add_option("--section", options.sections,
+                      "The sections of both in place of their layers, cell by cell where both "
+                      "show one: a table (.csv), or a picture of --quantity: .png, .svg or "
+                      ".pdf; once per file")
+          ->type_name("FILE")
+          ->allow_extra_args(false)
+          ->group(kOutputGroup),
+      {".csv", ".png", ".svg", ".pdf"}, true);
+  command
+      .add_option_function<std::string>(
+          "--quantity",
+          [&options](const std::string& text) {
+            options.sectionQuantity = readQuantity("--quantity", text);
+          },
+          "What pictures of --section show: vp_vs, poisson, g0, e0, k or m (default: vp_vs)")
+      ->type_name("NAME")
+      ->needs(section)
+      ->group(kOutputGroup);
+}
+
 void addMatching(CLI::App& command, ElasticBatchOptions& options) {
   using parameters::kBounds, parameters::kDensity, parameters::kSeed, parameters::kShiftOfS,
       parameters::kTopTolerance;
@@ -75,6 +117,7 @@ void addElastic(CLI::App& app, ElasticBatchOptions& options) {
                 ->allow_extra_args(false)
                 ->group(kOutputGroup),
             {".png", ".svg", ".pdf"}, true);
+  addSections(command, options);
   command.add_flag("--quiet", options.quiet, kQuietHelp);
 }
 

@@ -7,11 +7,16 @@
 #include "batch/ProjectFiles.h"
 #include "export/ElasticText.h"
 #include "figures/ElasticFigure.h"
+#include "figures/SectionFigure.h"
 #include "io/project/projectReader.h"
+#include "model/GroundModel.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "refraction/elastic/ElasticSurveys.h"
 #include "refraction/elastic/MatchWaves.h"
+#include "view/ElasticSection.h"
 
+#include <QString>
 #include <filesystem>
 #include <ostream>
 #include <sstream>
@@ -94,12 +99,51 @@ std::string tableOf(const ElasticLine& line) {
 std::vector<OutputFile> outputsOf(const ElasticBatchOptions& options) {
   std::vector<OutputFile> outputs = {{"--json", options.json}, {"--out", options.table}};
   for (const std::string& picture : options.pictures) outputs.push_back({"--picture", picture});
+  for (const std::string& section : options.sections) outputs.push_back({"--section", section});
   return outputs;
 }
 
-int writeResults(const ElasticBatchOptions& options, const std::string& title,
-                 const ElasticLine& line) {
-  OutputAttempts attempt;
+bool isTable(const std::string& path) {
+  return QString::fromStdString(path).endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
+}
+
+Status drawSection(const ElasticBatchOptions& options, const LoadedProject& project,
+                   const ElasticSection& section, const std::string& path) {
+  const ElasticQuantity quantity = options.sectionQuantity;
+  SectionFigureOptions look = sectionFigureOptions(project.section, project.palettes->current());
+  look.scene = SectionSceneOptions();
+  look.scene.coverageLimit = false;
+  look.scene.values =
+      cellValuesOf(section, quantity, elasticName(quantity).toStdString(),
+                   elasticUnit(quantity).toStdString(), project.document.model->grid->cellCount());
+  return writeSectionFigure(project.document, look, path);
+}
+
+/// The sections, which need no layers.
+Status writeSections(const ElasticBatchOptions& options, const Wave& p, const Wave& s,
+                     OutputAttempts& attempt) {
+  if (options.sections.empty()) return {};
+  ElasticSection section;
+  const Status status =
+      matchSections(p.project.document, s.project.document, options.matching, section);
+  if (!status.ok()) return status;
+  for (const Wave* wave : {&p, &s}) {
+    if (wave->project.document.result->has_tomographic_info) continue;
+    warn((wave == &p ? options.p : options.s) +
+         ": its section is a starting model, for no inversion was run");
+  }
+  for (const Message& remark : section.remarks) warn(remark);
+  for (const std::string& file : options.sections) {
+    attempt(file, [&](const auto& path) {
+      return isTable(path) ? writeElasticSection(path, section)
+                           : drawSection(options, p.project, section, path);
+    });
+  }
+  return {};
+}
+
+void writeLayers(const ElasticBatchOptions& options, const std::string& title,
+                 const ElasticLine& line, OutputAttempts& attempt) {
   attempt(options.json, [&](const auto& path) { return writeOutput(path, elasticJson(line)); });
   attempt(options.table, [&](const auto& path) { return writeOutput(path, tableOf(line)); });
   for (const std::string& picture : options.pictures) {
@@ -107,7 +151,6 @@ int writeResults(const ElasticBatchOptions& options, const std::string& title,
     figure.title = title;
     attempt(picture, [&](const auto& path) { return writeElasticFigure(line, figure, path); });
   }
-  return attempt.exitCode();
 }
 
 }  // namespace
@@ -122,7 +165,7 @@ int run(const ElasticBatchOptions& options) {
   if (std::filesystem::equivalent(options.p, options.s, unknown)) {
     return wrongUsage("elastic", "P and S are the same project, '" + options.p + "'");
   }
-  if (!options.pictures.empty()) prepareDrawing();
+  if (!options.pictures.empty() || !options.sections.empty()) prepareDrawing();
 
   Wave p;
   Wave s;
@@ -131,16 +174,21 @@ int run(const ElasticBatchOptions& options) {
   if (!status.ok()) return failed(status.message());
   ElasticLine line;
   status = matchWaves(p.layers, s.layers, options.matching, line);
-  if (!status.ok()) return failed(status.message());
+  const bool sectionsOnly = !options.sections.empty() && (options.json + options.table).empty() &&
+                            options.pictures.empty();
+  if (!status.ok() && !sectionsOnly) return failed(status.message());
   std::vector<Message> remarks =
       compareSurveys(p.project.document, s.project.document, options.matching);
   remarks.insert(remarks.end(), line.remarks.begin(), line.remarks.end());
   line.remarks = std::move(remarks);
   for (const Message& remark : line.remarks) warn(remark);
-  const int exitCode = writeResults(options, p.project.document.title, line);
+  OutputAttempts attempt;
+  if (status.ok()) writeLayers(options, p.project.document.title, line, attempt);
+  status = writeSections(options, p, s, attempt);
+  if (!status.ok()) return failed(status.message());
   for (const Message& told : elasticSummary(line)) *channels.summary << told.english() << '\n';
   channels.summary->flush();
-  return exitCode;
+  return attempt.exitCode();
 }
 
 }  // namespace talvesk

@@ -197,6 +197,8 @@ struct ElasticBatchOptions {
   std::string json;
   std::string table;
   std::vector<std::string> pictures;  ///< one per path
+  std::vector<std::string> sections;  ///< both sections cell by cell: tables and pictures
+  ElasticQuantity sectionQuantity = ElasticQuantity::kRatio;  ///< of their pictures
   bool quiet = false;
 };
 

@@ -50,4 +50,19 @@ Status writeElastic(const std::string& path, const ElasticLine& line) {
   return told(writeTextAtomically(path, [&](std::ostream& out) { tellElastic(out, line); }));
 }
 
+Status writeElasticSection(const std::string& path, const ElasticSection& section) {
+  return told(writeTextAtomically(path, [&](std::ostream& out) {
+    out << "position_m,elevation_m,depth_m";
+    for (const ElasticColumn& column : kElasticColumns) out << ',' << column.key;
+    out << ",remark\n";
+    for (const ElasticCell& cell : section.cells) {
+      out << known(cell.centre.x) << ',' << known(cell.centre.z) << ',' << known(cell.depth);
+      for (const ElasticColumn& column : kElasticColumns) {
+        out << ',' << known(column.factor * cell.state[column.quantity].value);
+      }
+      out << ',' << nameOf(cell.state.verdict) << '\n';
+    }
+  }));
+}
+
 }  // namespace talvesk

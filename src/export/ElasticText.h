@@ -2,6 +2,7 @@
 
 #include "base/Status.h"
 #include "refraction/elastic/ElasticLine.h"
+#include "view/ElasticSection.h"
 
 #include <iosfwd>
 #include <string>
@@ -16,5 +17,9 @@ void tellElastic(std::ostream& out, const ElasticLine& line);
 
 /// The same as a file.
 Status writeElastic(const std::string& path, const ElasticLine& line);
+
+/// A line per cell of two sections: distance, elevation and depth below the surface of its middle
+/// (metres), the quantities, and the remark without "tops_differ".
+Status writeElasticSection(const std::string& path, const ElasticSection& section);
 
 }  // namespace talvesk

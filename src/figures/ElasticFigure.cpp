@@ -42,30 +42,6 @@ double factorOf(Quantity quantity) {
   return kElasticColumns[static_cast<std::size_t>(quantity)].factor;
 }
 
-QString nameOf(Quantity quantity) {
-  switch (quantity) {
-    case Quantity::kVp:
-      return FigureWords::tr("Vp");
-    case Quantity::kVs:
-      return FigureWords::tr("Vs");
-    case Quantity::kRatio:
-      return FigureWords::tr("Vp/Vs");
-    case Quantity::kPoisson:
-      return FigureWords::tr("Poisson's ratio");
-    case Quantity::kDensity:
-      return FigureWords::tr("Density");
-    case Quantity::kShear:
-      return FigureWords::tr("G0");
-    case Quantity::kYoung:
-      return FigureWords::tr("E0");
-    case Quantity::kBulk:
-      return FigureWords::tr("K");
-    case Quantity::kConstrained:
-      return FigureWords::tr("M");
-  }
-  return {};
-}
-
 /// One plot: a quantity, or two of one unit, of which the second is dashed.
 struct Panel {
   std::vector<Quantity> quantities;
@@ -145,7 +121,7 @@ std::vector<PlotSeries> seriesOf(const std::vector<ElasticLayer>& layers, const 
       if (!bars.points.empty()) series.insert(series.begin(), std::move(bars));
       PlotSeries curve = curveOf(layer, quantity, i > 0);
       curve.name = FigureWords::tr("Layer %1").arg(layer.layer);
-      if (panel.quantities.size() > 1) curve.name += QStringLiteral(": ") + nameOf(quantity);
+      if (panel.quantities.size() > 1) curve.name += QStringLiteral(": ") + elasticName(quantity);
       series.push_back(std::move(curve));
     }
   }
@@ -266,19 +242,49 @@ void paintSheet(const std::vector<Placed>& plots, double widthMm, QPainter& pain
 
 }  // namespace
 
-QString elasticTitle(ElasticQuantity quantity) {
+QString elasticName(ElasticQuantity quantity) {
+  switch (quantity) {
+    case Quantity::kVp:
+      return FigureWords::tr("Vp");
+    case Quantity::kVs:
+      return FigureWords::tr("Vs");
+    case Quantity::kRatio:
+      return FigureWords::tr("Vp/Vs");
+    case Quantity::kPoisson:
+      return FigureWords::tr("Poisson's ratio");
+    case Quantity::kDensity:
+      return FigureWords::tr("Density");
+    case Quantity::kShear:
+      return FigureWords::tr("G0");
+    case Quantity::kYoung:
+      return FigureWords::tr("E0");
+    case Quantity::kBulk:
+      return FigureWords::tr("K");
+    case Quantity::kConstrained:
+      return FigureWords::tr("M");
+  }
+  return {};
+}
+
+QString elasticUnit(ElasticQuantity quantity) {
   switch (quantity) {
     case Quantity::kVp:
     case Quantity::kVs:
-      return FigureWords::tr("%1 [m/s]").arg(nameOf(quantity));
+      return FigureWords::tr("m/s");
     case Quantity::kRatio:
     case Quantity::kPoisson:
-      return nameOf(quantity);
+      return {};
     case Quantity::kDensity:
-      return FigureWords::tr("%1 [kg/m3]").arg(nameOf(quantity));
+      return FigureWords::tr("kg/m3");
     default:
-      return FigureWords::tr("%1 [MPa]").arg(nameOf(quantity));
+      return FigureWords::tr("MPa");
   }
+}
+
+QString elasticTitle(ElasticQuantity quantity) {
+  const QString unit = elasticUnit(quantity);
+  if (unit.isEmpty()) return elasticName(quantity);
+  return QStringLiteral("%1 [%2]").arg(elasticName(quantity), unit);
 }
 
 QString densityText(const DensityRule& rule) {

@@ -17,7 +17,9 @@ struct ElasticFigureOptions {
   std::uint32_t layer = 0;  ///< the only one to be shown, from 1; 0: all
 };
 
-/// What a quantity is called, with its unit: "G0 [MPa]".
+/// What a quantity is called, the unit of its values in kElasticColumns, and both: "G0 [MPa]".
+QString elasticName(ElasticQuantity quantity);
+QString elasticUnit(ElasticQuantity quantity);
 QString elasticTitle(ElasticQuantity quantity);
 /// Where the densities of a line come from.
 QString densityText(const DensityRule& rule);

@@ -36,8 +36,8 @@ class Elastic : public ::testing::Test {
     const std::string picks = *folder / (name + ".otte");
     EXPECT_TRUE(writeTravelTimes(picks, testing::standardDippingLine(ground, truth)).ok());
     const std::string path = *folder / (name + ".tvsk");
-    const Outcome outcome =
-        runBatch({"refract", picks, "--propose", "survey", "--project", path, "--quiet"});
+    const Outcome outcome = runBatch({"refract", picks, "--propose", "survey", "--project", path,
+                                      "--start-model", "sharp", "--quiet"});
     EXPECT_EQ(outcome.code, 0) << outcome.err;
     return path;
   }
@@ -111,6 +111,33 @@ TEST_F(Elastic, saysWhatDoesNotFitWhateverQuietSays) {
   EXPECT_THAT(contentsOf(*folder / "quiet.csv"), HasSubstr("0.4,,2000,500,,,80,s_not_slower\n"));
 }
 
+TEST_F(Elastic, comparesSectionsCellByCell) {
+  const std::string table = *folder / "cells.csv";
+  const std::string picture = *folder / "cells.svg";
+  const Outcome outcome = runBatch({"elastic", p, s, "--section", table, "--section", picture,
+                                    "--quantity", "poisson", "--density", "1900"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("s.tvsk: its section is a starting model"));
+  const std::string text = contentsOf(table);
+  EXPECT_THAT(text, StartsWith("position_m,elevation_m,depth_m,vp_m_s,vs_m_s,vp_vs,poisson,"));
+  EXPECT_THAT(text.substr(text.find('\n') + 1), HasSubstr(",500,200,2.5,0.404761905,1900,76,"));
+  EXPECT_THAT(contentsOf(picture), HasSubstr("Poisson's ratio"));
+}
+
+/// Sections are there without layers, too.
+TEST_F(Elastic, needsNoLayersForSections) {
+  const std::string shots = folder->write("small.otte", smallLine());
+  const std::string other = *folder / "small.tvsk";
+  ASSERT_EQ(runBatch({"invert", shots, "--iterations", "1", "--project", other, "--quiet"}).code,
+            0);
+  const std::string table = *folder / "small.csv";
+  const Outcome outcome = runBatch({"elastic", p, other, "--section", table});
+  EXPECT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("cells of P lie where the section of S shows none"));
+  EXPECT_THAT(contentsOf(table), HasSubstr("s_not_slower"));
+  EXPECT_EQ(runBatch({"elastic", p, other, "--section", table, "--json", "-"}).code, 1);
+}
+
 TEST_F(Elastic, refusesWhatItCannotPutTogether) {
   const std::string junk = folder->write("junk.tvsk", "PK\x03\x04 not a project");
   const std::string bare = *folder / "bare.tvsk";
@@ -133,6 +160,8 @@ TEST_F(Elastic, refusesWhatItCannotPutTogether) {
       {{p, s, "--density", "stone"}, 2, "--density"},
       {{p, s, "--picture", "curves.bmp"}, 2, "curves.bmp"},
       {{p, s, "--out", s}, 2, "overwrite"},
+      {{p, s, "--quantity", "g0"}, 2, "--section"},
+      {{p, s, "--section", "cells.txt"}, 2, "cells.txt"},
       {{p, junk}, 1, "is not a valid project"},
       {{p, *folder / "none.tvsk"}, 1, "none.tvsk"},
       {{p, bare}, 1, "The project of S has no layered profile"},
