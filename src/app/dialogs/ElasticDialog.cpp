@@ -13,6 +13,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLocale>
+#include <QProgressDialog>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QStringList>
@@ -97,22 +98,34 @@ void ElasticDialog::setOther(ElasticSurvey other) {
   match();
 }
 
+/// Errors come of hundreds of interpretations; who stops them has none.
 void ElasticDialog::readBoth() {
-  whileWaiting([this] {
-    read(mOwn);
-    read(mOther);
-    return true;
-  });
+  QProgressDialog progress(tr("Interpreting moved picks ..."), tr("Stop"), 0, 0, this);
+  progress.setWindowModality(Qt::WindowModal);
+  progress.setMinimumDuration(500);
+  progress.setWindowTitle(windowTitle());
+  const WaitCursor waiting;
+  const auto goOn = [&progress] {
+    progress.setValue(0);
+    return !progress.wasCanceled();
+  };
+  for (Side* side : {&mOwn, &mOther}) read(*side, goOn);
+  const bool stopped = progress.wasCanceled();
+  progress.reset();
+  if (!stopped) return;
+  const QSignalBlocker quiet(mUi->errorsCheck);
+  mUi->errorsCheck->setChecked(false);
+  for (Side* side : {&mOwn, &mOther}) read(*side, {});
 }
 
-void ElasticDialog::read(Side& side) const {
+void ElasticDialog::read(Side& side, const std::function<bool()>& goOn) const {
   const ElasticSurvey& survey = side.survey;
   const auto& results = survey.interpretation.refractData;
   side.picksChanged = picksChangedSince(survey.document, results);
   BoundsOptions bounds;
   bounds.members = parameters::kBounds.initial;
   side.layers = mUi->errorsCheck->isChecked()
-                    ? layeredWave(survey.document, survey.interpretation, bounds)
+                    ? layeredWave(survey.document, survey.interpretation, bounds, goOn)
                     : layeredWave(results);
 }
 

@@ -53,7 +53,7 @@ class ElasticDialog : public QDialog {
   };
 
   void connectAll();
-  void read(Side& side) const;
+  void read(Side& side, const std::function<bool()>& goOn) const;
   void readBoth();
   void guessRoles();
   void match();
