@@ -36,6 +36,7 @@ constexpr Page kPages[] = {
     {"RefractionProcessingDialog", "refraction.html"},
     {"StartLayersDialog", "refraction.html"},
     {"CompareLayersDialog", "refraction.html"},
+    {"ElasticDialog", "refraction.html"},
     {"PaletteDialog", "colours.html"},
     {"contourlines_dialog", "colours.html"},
     {"ExportTomoVelData", "export.html"},

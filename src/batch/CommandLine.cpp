@@ -154,6 +154,7 @@ struct AllOptions {
   CheckOptions check;
   InvertOptions invert;
   RefractOptions refract;
+  ElasticBatchOptions elastic;
   ExportOptions exports;
   ConvertOptions convert;
   RecordsOptions records;
@@ -170,6 +171,7 @@ void addCommands(CLI::App& app, AllOptions& all) {
   app.footer(kExitCodes);  // the commands inherit it
   addInvert(app, all.invert);
   addRefract(app, all.refract);
+  addElastic(app, all.elastic);
   addPick(app, all.pick);
   addCheck(app, all.check);
   addInfo(app, all.info);
@@ -207,10 +209,10 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
   }
 
   if (chosenCommand(app) == nullptr) {
-    result.exitCode = wrongUsage(
-        "",
-        "a command is required: info, pick, check, invert, refract, export, convert, records or "
-        "demo");
+    result.exitCode = wrongUsage("",
+                                 "a command is required: info, pick, check, invert, refract, "
+                                 "elastic, export, convert, records or "
+                                 "demo");
     return result;
   }
   const std::string name = chosenCommand(app)->get_name();
@@ -224,6 +226,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     result.command = std::move(all.invert);
   } else if (name == "refract") {
     result.command = std::move(all.refract);
+  } else if (name == "elastic") {
+    result.command = std::move(all.elastic);
   } else if (name == "export") {
     result.command = std::move(all.exports);
   } else if (name == "convert") {

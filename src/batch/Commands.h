@@ -12,6 +12,7 @@ int run(const PickOptions& options);
 int run(const CheckOptions& options);
 int run(const InvertOptions& options);
 int run(const RefractOptions& options);
+int run(const ElasticBatchOptions& options);
 int run(const ExportOptions& options);
 int run(const ConvertOptions& options);
 int run(const RecordsOptions& options);

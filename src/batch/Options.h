@@ -9,6 +9,7 @@
 #include "model/Parameters.h"
 #include "model/Recordings.h"
 #include "processing/ShotFilters.h"
+#include "refraction/elastic/ElasticLine.h"
 #include "refraction/methods/MethodResult.h"
 #include "tomo/TomographyRun.h"
 #include "tomo/fitted/References.h"
@@ -196,6 +197,21 @@ struct RefractOptions {
   }
 };
 
+/// Layers of P and S together.
+struct ElasticBatchOptions {
+  std::string p;  ///< projects
+  std::string s;
+  ElasticOptions matching;
+  int bounds = 0;  ///< interpretations of moved picks; 0: no errors
+  int seed = parameters::kSeed.initial;
+  std::string json;
+  std::string table;
+  std::vector<std::string> pictures;  ///< one per path
+  std::vector<std::string> sections;  ///< both sections cell by cell: tables and pictures
+  ElasticQuantity sectionQuantity = ElasticQuantity::kRatio;  ///< of their pictures
+  bool quiet = false;
+};
+
 /// What is written of the section of a project.
 struct ExportOptions {
   std::string project;
@@ -253,6 +269,6 @@ struct DemoOptions {
 
 using CommandOptions =
     std::variant<InfoOptions, PickOptions, CheckOptions, InvertOptions, RefractOptions,
-                 ExportOptions, ConvertOptions, RecordsOptions, DemoOptions>;
+                 ElasticBatchOptions, ExportOptions, ConvertOptions, RecordsOptions, DemoOptions>;
 
 }  // namespace talvesk

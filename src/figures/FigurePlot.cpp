@@ -155,8 +155,10 @@ void FigurePlot::addAxis(int axis, const QString& title) {
 
 void FigurePlot::setScale(int axis, const Scale& scale) {
   const int majors = std::clamp(static_cast<int>(scale.length / scale.spacing), 2, 20);
-  QwtLinearScaleEngine engine;
-  QwtScaleDiv division = engine.divideScale(scale.from, scale.to, majors, 5);
+  if (scale.logarithmic) mPlot->setAxisScaleEngine(axis, new QwtLogScaleEngine);
+  QwtScaleEngine& engine = *mPlot->axisScaleEngine(axis);
+  QwtScaleDiv division =
+      engine.divideScale(scale.from, scale.to, majors, scale.logarithmic ? 10 : 5);
   if (scale.wholeNumbers) {
     const QList<double> ticks = division.ticks(QwtScaleDiv::MajorTick);
     if (ticks.size() < 2 || std::abs(ticks[1] - ticks[0]) < 1.0) {

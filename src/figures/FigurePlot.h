@@ -56,6 +56,7 @@ class FigurePlot {
     double length = 0.0;
     double spacing = 80.0;
     bool wholeNumbers = false;
+    bool logarithmic = false;  ///< both ends are positive
   };
   void setScale(int axis, const Scale& scale);
   /// Title, cut to the width of the sheet, and caption; UTF-8.

@@ -369,7 +369,7 @@ const std::set<std::string> kBesideTheWay = {
     "actionConfirm_picks",        "actionRemove_picks",
     "actionRemove_unconfirmed",   "actionCount_from_shot",
     "actionTake_back_mends",      "actionStart_from_layers",
-    "actionCompare_layers"};
+    "actionCompare_layers",       "actionP_and_S"};
 
 class GrowingSurvey : public Commands {
  protected:

@@ -108,6 +108,7 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
       {"actionRefraction", &State::records, call(p.refraction, &RefractionPresenter::interpret)},
       {"actionCompare_layers", [](const State& state) { return state.cells && state.refractors; },
        call(p.layers, &LayersPresenter::compare)},
+      {"actionP_and_S", &State::refractors, call(p.layers, &LayersPresenter::putWavesTogether)},
   };
 }
 

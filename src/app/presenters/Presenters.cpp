@@ -29,7 +29,7 @@ Presenters::Presenters(Desk& desk)
       processing(desk),
       review(desk),
       refraction(desk),
-      layers(desk, models),
+      layers(desk, models, projects),
       exports(desk),
       records(desk),
       reports(desk),
