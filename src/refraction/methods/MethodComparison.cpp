@@ -6,6 +6,7 @@
 #include "refraction/methods/LayerMethods.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -97,9 +98,10 @@ void findDisagreements(const Members& members, MethodComparison& comparison) {
 }
 
 void findBands(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
-               const std::function<bool()>& goOn, MethodComparison& comparison) {
+               const std::function<bool(std::size_t)>& goOn, MethodComparison& comparison) {
   const BoundsOptions& bounds = comparison.bounds;
   Members members(static_cast<std::size_t>(bounds.members));
+  std::atomic<std::size_t> done{0};
   bool stopped = false;
   runForEach(
       members.size(),
@@ -108,9 +110,10 @@ void findBands(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
         for (const LayerMethod method : methods) {
           members[member].push_back(interpretBy(method, moved));
         }
+        ++done;
       },
       [&] {
-        stopped = stopped || (goOn && !goOn());
+        stopped = stopped || (goOn && !goOn(done));
         return !stopped;
       },
       bounds.threads);
@@ -145,8 +148,34 @@ const Disagreement* MethodComparison::disagreement(std::uint32_t layer) const {
   return found == disagreements.end() ? nullptr : &*found;
 }
 
+std::optional<GreatestDifference> greatestDifference(const MethodComparison& comparison,
+                                                     std::uint32_t layer, Values values) {
+  std::optional<GreatestDifference> greatest;
+  const std::size_t receivers =
+      comparison.results.empty() ? 0 : comparison.results.front().receivers.size();
+  for (std::size_t j = 0; j < receivers; ++j) {
+    GreatestDifference here{j, {}, {}, kUnknown, kUnknown};
+    for (const MethodResult& result : comparison.results) {
+      const double value = valueOf(result, layer, values, j);
+      if (std::isnan(value)) continue;
+      if (!(value >= here.least)) {
+        here.least = value;
+        here.low = result.method;
+      }
+      if (!(value <= here.greatest)) {
+        here.greatest = value;
+        here.high = result.method;
+      }
+    }
+    const double apart = here.greatest - here.least;  // not a number, or 0 by one method alone
+    if (apart > (greatest ? greatest->greatest - greatest->least : 0.0)) greatest = here;
+  }
+  return greatest;
+}
+
 MethodComparison compareMethods(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
-                                const BoundsOptions& bounds, const std::function<bool()>& goOn) {
+                                const BoundsOptions& bounds,
+                                const std::function<bool(std::size_t)>& goOn) {
   MethodComparison comparison;
   comparison.bounds = bounds;
   for (const LayerMethod method : methods) {
