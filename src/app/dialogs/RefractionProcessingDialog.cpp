@@ -75,6 +75,7 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   mUi->phantomSplitter->setSizes({620, 440});
   mUi->shiftTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  mUi->criteriaSplitter->setSizes({760, 300});
   mUi->profileSplitter->setSizes({260, 340});
   mUi->resultSplitter->setSizes({760, 280});
   mUi->misfitTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
@@ -159,6 +160,8 @@ void RefractionProcessingDialog::connectCurves() {
     mFit = fit;
     showFit();
   });
+  connect(mUi->xyCriteria, &XYCriteria::xyWanted, this, &RefractionProcessingDialog::takeXY,
+          Qt::QueuedConnection);  // the plot that asks is filled anew
   connect(curves, &LayerCurvesPlot::branchRead, this, &RefractionProcessingDialog::showReading);
 }
 
@@ -207,6 +210,7 @@ void RefractionProcessingDialog::changeMarks(const QString& text, const Marks& a
 void RefractionProcessingDialog::marksChanged() {
   mUi->curvesPlot->setMarks(mWork.ttLayer);
   mUi->clearButton->setEnabled(hasMarks(mWork.ttLayer));
+  mUi->methodsButton->setEnabled(hasMarks(mWork.ttLayer));
   QStringList changed;
   if (picksChangedSince(mShots, mWork.refractData)) {
     changed << tr("The picks have changed since the profiles were built.");

@@ -270,6 +270,7 @@ void RefractionProcessingDialog::showFunctions() {
   const int refractor = mUi->refractorCombo->currentIndex();
   std::vector<PlotSeries> tV;
   std::vector<PlotSeries> tG;
+  if (refractor < 0) mUi->xyCriteria->clear();
   if (refractor >= 0) {
     const computedData& found = mWork.refractData.cData[static_cast<std::size_t>(refractor)];
     // A project may have an XY that is none of the family.
@@ -322,29 +323,22 @@ void RefractionProcessingDialog::fillXY(std::uint32_t refractor) {
   propose(choice.mostEven, tr("most even velocity"));
   mUi->xyFoundLabel->setText(found.join(QStringLiteral("; ")));
   QStringList criteria;
+  QStringList texts;
   for (const XYTried& tried : choice.tried) {
+    texts << QString();
     if (!std::isfinite(tried.roughness) || !std::isfinite(tried.unevenness)) continue;
-    criteria << tr("%1 m: tV rough by %2 ms, velocity uneven by %3 %")
-                    .arg(locale.toString(tried.xy, 'g', 6),
-                         locale.toString(kMs * tried.roughness, 'f', 3),
-                         locale.toString(100.0 * tried.unevenness, 'f', 1));
+    texts.back() =
+        tr("%1 m: tV rough by %2 ms, velocity uneven by %3 %")
+            .arg(locale.toString(tried.xy, 'g', 6), locale.toString(kMs * tried.roughness, 'f', 3),
+                 locale.toString(100.0 * tried.unevenness, 'f', 1));
+    criteria << texts.back();
   }
+  mUi->xyCriteria->setChoice(choice, chosen, texts);
   mUi->xyFoundLabel->setToolTip(criteria.join(QLatin1Char('\n')));
   combo.setCurrentIndex(combo.findData(chosen));
 }
 
 void RefractionProcessingDialog::on_refractorCombo_activated(int) {
-  showFunctions();
-}
-
-void RefractionProcessingDialog::on_xyCombo_activated(int index) {
-  const int refractor = mUi->refractorCombo->currentIndex();
-  if (refractor < 0) return;
-  const auto layer = static_cast<std::uint32_t>(refractor) + 2;
-  const double before = mWork.refractData.cData[static_cast<std::size_t>(refractor)].chosenXY;
-  chooseXY(mWork, layer, mUi->xyCombo->itemData(index).toDouble());
-  if (build(mWarnings)) return;
-  chooseXY(mWork, layer, before);
   showFunctions();
 }
 

@@ -2,6 +2,9 @@
 
 #include "app/Messages.h"
 #include "app/dialogs/RefractionProcessingDialog.h"
+#include "app/presenters/FileExport.h"
+#include "export/LayerMethodsText.h"
+#include "figures/LayerMethodsFigure.h"
 #include "io/Survey.h"
 
 namespace talvesk {
@@ -16,6 +19,20 @@ void RefractionPresenter::interpret() {
     return;
   }
   RefractionProcessingDialog dialog(mDesk.document(), mDesk.interpretation(), &mDesk.window);
+  dialog.methodsPictureWanted = [this](const MethodComparison& shown) {
+    const QString file =
+        askForExport(mDesk, tr("Save picture of layers by method"),
+                     tr("PNG picture (*.png);;SVG picture (*.svg);;PDF document (*.pdf)"), "png");
+    if (file.isEmpty()) return;
+    exportTo(mDesk, file,
+             [&](const std::string& path) { return writeLayerMethodsFigure(shown, {}, path); });
+  };
+  dialog.methodsTableWanted = [this](const MethodComparison& shown) {
+    const QString file =
+        askForExport(mDesk, tr("Save table of layers by method"), tr("Table (*.csv)"), "csv");
+    if (file.isEmpty()) return;
+    exportTo(mDesk, file, [&](const std::string& path) { return writeLayerMethods(path, shown); });
+  };
   if (dialog.exec() != QDialog::Accepted || !dialog.hasChanges()) return;
   mDesk.edit(Edit::kRefraction, [&](Survey& survey) {
     survey.interpretation = dialog.interpretation();
