@@ -87,7 +87,8 @@ TEST(MethodComparison, hasNoBandsWithoutMembersAndWhenStopped) {
   const LayerPicks picks = dippingPicks();
   const std::vector<LayerMethod> methods(std::begin(kPlusMinusOnly), std::end(kPlusMinusOnly));
   EXPECT_TRUE(compareMethods(picks, methods, {}).results[0].layers[0].depthBand.empty());
-  const MethodComparison stopped = compareMethods(picks, methods, {50, 1, 0}, [] { return false; });
+  const MethodComparison stopped =
+      compareMethods(picks, methods, {50, 1, 0}, [](std::size_t) { return false; });
   EXPECT_TRUE(stopped.results[0].layers[0].depthBand.empty());
   EXPECT_TRUE(stopped.disagreements.empty());
 }

@@ -2,10 +2,12 @@
 
 #include "base/RunForEach.h"
 #include "model/TravelTime.h"
+#include "numerics/Medians.h"
 #include "numerics/NormalNumbers.h"
 #include "refraction/methods/LayerMethods.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -39,6 +41,21 @@ std::pair<double, double> middlePart(std::vector<double> values) {
         std::lround(share * static_cast<double>(values.size() - 1)))];
   };
   return {at(kBandShare), at(1.0 - kBandShare)};
+}
+
+/// Half the width of that, of a number of every member.
+template <typename Number>
+double errorOver(const Members& members, Number numberOf) {
+  std::vector<double> all;
+  for (const std::vector<MethodResult>& member : members) all.push_back(numberOf(member));
+  const auto [low, high] = middlePart(std::move(all));
+  return 0.5 * (high - low);
+}
+
+double medianVelocity(std::vector<double> values) {
+  values.erase(std::remove_if(values.begin(), values.end(), [](double v) { return std::isnan(v); }),
+               values.end());
+  return medianOf(std::move(values), kUnknown);
 }
 
 /// Of one method and refractor over all members.
@@ -97,9 +114,10 @@ void findDisagreements(const Members& members, MethodComparison& comparison) {
 }
 
 void findBands(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
-               const std::function<bool()>& goOn, MethodComparison& comparison) {
+               const std::function<bool(std::size_t)>& goOn, MethodComparison& comparison) {
   const BoundsOptions& bounds = comparison.bounds;
   Members members(static_cast<std::size_t>(bounds.members));
+  std::atomic<std::size_t> done{0};
   bool stopped = false;
   runForEach(
       members.size(),
@@ -108,17 +126,24 @@ void findBands(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
         for (const LayerMethod method : methods) {
           members[member].push_back(interpretBy(method, moved));
         }
+        ++done;
       },
       [&] {
-        stopped = stopped || (goOn && !goOn());
+        stopped = stopped || (goOn && !goOn(done));
         return !stopped;
       },
       bounds.threads);
   if (stopped) return;
   for (std::size_t m = 0; m < methods.size(); ++m) {
-    for (MethodLayer& layer : comparison.results[m].layers) {
+    MethodResult& result = comparison.results[m];
+    result.v1Error = errorOver(members, [m](const auto& member) { return member[m].v1; });
+    for (MethodLayer& layer : result.layers) {
       layer.depthBand = bandOf(members, m, layer, &MethodLayer::depth);
       layer.velocityBand = bandOf(members, m, layer, &MethodLayer::velocity);
+      layer.medianError = errorOver(members, [&](const auto& member) {
+        const MethodLayer* same = member[m].layer(layer.layer);
+        return same == nullptr ? kUnknown : medianVelocity(same->velocity);
+      });
     }
   }
   findDisagreements(members, comparison);
@@ -146,7 +171,8 @@ const Disagreement* MethodComparison::disagreement(std::uint32_t layer) const {
 }
 
 MethodComparison compareMethods(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
-                                const BoundsOptions& bounds, const std::function<bool()>& goOn) {
+                                const BoundsOptions& bounds,
+                                const std::function<bool(std::size_t)>& goOn) {
   MethodComparison comparison;
   comparison.bounds = bounds;
   for (const LayerMethod method : methods) {

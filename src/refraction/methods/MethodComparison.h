@@ -47,11 +47,11 @@ struct MethodComparison {
 
 /// Interprets by all the methods, and with members by all of them again and again. The same to the
 /// last bit whatever the number of threads.
-/// \param goOn asked now and then on the calling thread; after false nothing has bands; may be
-/// empty
+/// \param goOn asked now and then on the calling thread with how many of the members are done;
+/// after false nothing has bands; may be empty
 MethodComparison compareMethods(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
                                 const BoundsOptions& bounds,
-                                const std::function<bool()>& goOn = {});
+                                const std::function<bool(std::size_t done)>& goOn = {});
 
 /// A block per refractor: a line of heads, then a line per receiver with x, elevation and, for each
 /// method, depth, velocity, with bands their errors, and what carries the depth; with bands and

@@ -60,12 +60,14 @@ struct MethodLayer {
   std::vector<Support> velocitySupport;  ///< likewise
   Band depthBand;                        ///< empty: not asked for
   Band velocityBand;                     ///< likewise
+  double medianError = 0.0;              ///< of the median velocity, m/s; 0: not asked for
 };
 
 struct MethodResult {
   LayerMethod method = LayerMethod::kReciprocal;
   std::vector<Point2D> receivers;   ///< all geophones of the line, ascending x, each x once
   double v1 = 0.0;                  ///< of the first layer, m/s; the same for all methods
+  double v1Error = 0.0;             ///< one standard deviation, m/s; 0: not asked for
   std::vector<MethodLayer> layers;  ///< refractors, from above
   std::vector<Message> remarks;     ///< what is missing, left out or taken another way, and why
 
