@@ -1,4 +1,5 @@
 #include "refraction/BuildProfiles.h"
+#include "refraction/ProfileOrigin.h"
 #include "refraction/methods/ProfileErrors.h"
 #include "support/ConsoleCapture.h"
 #include "support/DelayTimeLine.h"
@@ -47,6 +48,18 @@ TEST(ProfileErrors, growWithThoseOfThePicks) {
   EXPECT_NEAR(rough->v1Error / fine->v1Error, 3.0, 0.6);
   EXPECT_NEAR(rough->refractors[0].depth.errorAt(30) / fine->refractors[0].depth.errorAt(30), 3.0,
               1.0);
+}
+
+/// Where moved picks make all velocities one mean velocity, that of the picks lies far from it.
+TEST(ProfileErrors, reachFromAValueOutsideItsBandToTheFartherEnd) {
+  Band band;
+  band.low = {10.0, 10.0, 10.0, std::nan("")};
+  band.high = {14.0, 14.0, 14.0, std::nan("")};
+  EXPECT_EQ(band.errorOf(0, 11.0), 2.0);
+  EXPECT_EQ(band.errorOf(1, 30.0), 20.0);
+  EXPECT_EQ(band.errorOf(2, 4.0), 10.0);
+  EXPECT_TRUE(std::isnan(band.errorOf(3, 4.0)));
+  EXPECT_TRUE(std::isnan(Band().errorOf(0, 4.0)));
 }
 
 TEST(ProfileErrors, areNoneOfAProfileOfOtherPicksOrMarks) {

@@ -43,19 +43,13 @@ std::pair<double, double> middlePart(std::vector<double> values) {
   return {at(kBandShare), at(1.0 - kBandShare)};
 }
 
-/// Half the width of that, of a number of every member.
+/// The error of a value, from the same number of every member.
 template <typename Number>
-double errorOver(const Members& members, Number numberOf) {
+double errorOver(const Members& members, double value, Number numberOf) {
   std::vector<double> all;
   for (const std::vector<MethodResult>& member : members) all.push_back(numberOf(member));
   const auto [low, high] = middlePart(std::move(all));
-  return 0.5 * (high - low);
-}
-
-double medianVelocity(std::vector<double> values) {
-  values.erase(std::remove_if(values.begin(), values.end(), [](double v) { return std::isnan(v); }),
-               values.end());
-  return medianOf(std::move(values), kUnknown);
+  return errorWithin(low, high, value);
 }
 
 /// Of one method and refractor over all members.
@@ -136,13 +130,15 @@ void findBands(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
   if (stopped) return;
   for (std::size_t m = 0; m < methods.size(); ++m) {
     MethodResult& result = comparison.results[m];
-    result.v1Error = errorOver(members, [m](const auto& member) { return member[m].v1; });
+    result.v1Error =
+        errorOver(members, result.v1, [m](const auto& member) { return member[m].v1; });
     for (MethodLayer& layer : result.layers) {
       layer.depthBand = bandOf(members, m, layer, &MethodLayer::depth);
       layer.velocityBand = bandOf(members, m, layer, &MethodLayer::velocity);
-      layer.medianError = errorOver(members, [&](const auto& member) {
+      const double median = medianOfFinite(layer.velocity, kUnknown);
+      layer.medianError = errorOver(members, median, [&](const auto& member) {
         const MethodLayer* same = member[m].layer(layer.layer);
-        return same == nullptr ? kUnknown : medianVelocity(same->velocity);
+        return same == nullptr ? kUnknown : medianOfFinite(same->velocity, kUnknown);
       });
     }
   }

@@ -49,7 +49,13 @@ struct Band {
   bool empty() const { return low.empty(); }
   /// Half of it, as one standard deviation; not a number where it is not known.
   double errorAt(std::size_t receiver) const;
+  /// The same of a value, which may lie outside: where moved picks make the method take another
+  /// way. Its error is how far the farther end is then.
+  double errorOf(std::size_t receiver, double value) const;
 };
+
+/// Of a value with a band from low to high, as Band::errorOf().
+double errorWithin(double low, double high, double value);
 
 /// What a method finds of a refractor, per receiver of MethodResult.
 struct MethodLayer {

@@ -34,9 +34,9 @@ std::string cellsOf(const MethodLayer* layer, std::size_t j, bool bands) {
   if (layer == nullptr) return bands ? " - - - - -" : " - - -";
   const bool known = std::isfinite(layer->depth[j]) || std::isfinite(layer->velocity[j]);
   std::string cells = ' ' + cell(layer->depth[j]);
-  if (bands) cells += ' ' + cell(layer->depthBand.errorAt(j));
+  if (bands) cells += ' ' + cell(layer->depthBand.errorOf(j, layer->depth[j]));
   cells += ' ' + cell(layer->velocity[j]);
-  if (bands) cells += ' ' + cell(layer->velocityBand.errorAt(j));
+  if (bands) cells += ' ' + cell(layer->velocityBand.errorOf(j, layer->velocity[j]));
   const Support support = std::max(layer->depthSupport[j], layer->velocitySupport[j]);
   return cells + ' ' + (known ? nameOf(support) : "-");
 }
@@ -57,21 +57,15 @@ std::string blockOf(const MethodComparison& comparison, std::uint32_t number) {
   return block;
 }
 
-double medianKnown(std::vector<double> values) {
-  values.erase(std::remove_if(values.begin(), values.end(), [](double v) { return std::isnan(v); }),
-               values.end());
-  return medianOf(std::move(values), std::nan(""));
-}
-
-std::vector<double> errorsOf(const Band& band) {
+std::vector<double> errorsOf(const Band& band, const std::vector<double>& values) {
   std::vector<double> errors;
-  for (std::size_t j = 0; j < band.low.size(); ++j) errors.push_back(band.errorAt(j));
+  for (std::size_t j = 0; j < band.low.size(); ++j) errors.push_back(band.errorOf(j, values[j]));
   return errors;
 }
 
 /// "5.2 ± 0.3", without the error where there is none.
-Message withError(double value, const Band& band, int digits) {
-  const double error = medianKnown(errorsOf(band));
+Message withError(double value, const Band& band, const std::vector<double>& values, int digits) {
+  const double error = medianOfFinite(errorsOf(band, values), std::nan(""));
   if (!std::isfinite(error)) return Message::number(value, digits);
   return Message::tr("%1 ± %2").arg(Message::number(value, digits)).arg(Message::number(error, 2));
 }
@@ -83,8 +77,8 @@ Message summaryOf(LayerMethod method, const MethodLayer& layer) {
   for (std::size_t j = 0; j < layer.depth.size(); ++j) {
     if (std::isfinite(layer.depth[j]) && layer.depthSupport[j] != Support::kPicks) ++carried;
   }
-  const double velocity = medianKnown(layer.velocity);
-  const double depth = medianKnown(layer.depth);
+  const double velocity = medianOfFinite(layer.velocity, std::nan(""));
+  const double depth = medianOfFinite(layer.depth, std::nan(""));
   if (!std::isfinite(velocity)) {
     return Message::tr("Layer %1, %2: nothing").arg(layer.layer).arg(nameOf(method));
   }
@@ -92,15 +86,15 @@ Message summaryOf(LayerMethod method, const MethodLayer& layer) {
     return Message::tr("Layer %1, %2: %3 m/s, no depth")
         .arg(layer.layer)
         .arg(nameOf(method))
-        .arg(withError(velocity, layer.velocityBand, 4));
+        .arg(withError(velocity, layer.velocityBand, layer.velocity, 4));
   }
   return Message::tr(
              "Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 "
              "geophones, %7 of them not carried by picks there")
       .arg(layer.layer)
       .arg(nameOf(method))
-      .arg(withError(velocity, layer.velocityBand, 4))
-      .arg(withError(depth, layer.depthBand, 3))
+      .arg(withError(velocity, layer.velocityBand, layer.velocity, 4))
+      .arg(withError(depth, layer.depthBand, layer.depth, 3))
       .arg(known)
       .arg(layer.depth.size())
       .arg(carried);

@@ -1,10 +1,9 @@
 #include "refraction/methods/ProfileErrors.h"
 
-#include "base/Console.h"
-#include "refraction/BuildProfiles.h"
+#include "refraction/ProfileOrigin.h"
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace talvesk {
 
@@ -12,21 +11,13 @@ using namespace refractionDataStructure;
 
 namespace {
 
-// A profile that comes from the text of a project may differ in the last digits.
-constexpr double kSame = 1e-6;
-
-bool sameValues(const std::vector<double>& a, const std::vector<double>& b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](double x, double y) {
-    return std::isfinite(x) ? std::fabs(x - y) <= kSame * std::max(1.0, std::fabs(x))
-                            : !std::isfinite(y);
-  });
-}
+constexpr double kRounding = 1e-6;  // metres
 
 /// That of a line at the receivers of a refractor, which are among those of the line.
 Band bandAt(const std::vector<double>& x, const std::vector<Point2D>& line, const Band& band) {
   Band own;
   for (std::size_t j = 0, k = 0; j < x.size(); ++j) {
-    while (k + 1 < line.size() && line[k].x < x[j] - kSame) ++k;
+    while (k + 1 < line.size() && line[k].x < x[j] - kRounding) ++k;
     own.low.push_back(band.low[k]);
     own.high.push_back(band.high[k]);
   }
@@ -34,20 +25,6 @@ Band bandAt(const std::vector<double>& x, const std::vector<Point2D>& line, cons
 }
 
 }  // namespace
-
-bool isProfileOf(const std::vector<ShotArrivals>& shots, const Interpretation& interpretation) {
-  const processingData& profile = interpretation.refractData;
-  if (profile.cData.empty()) return false;
-  const console::Silence silence;
-  Interpretation again = interpretation;
-  if (!buildProfiles(shots, again).built) return false;
-  const auto& built = again.refractData.cData;
-  return std::equal(profile.cData.begin(), profile.cData.end(), built.begin(), built.end(),
-                    [](const computedData& a, const computedData& b) {
-                      return sameValues(a.x, b.x) && sameValues(a.velocity, b.velocity) &&
-                             sameValues(a.depth, b.depth);
-                    });
-}
 
 std::optional<ProfileErrors> profileErrors(const MethodComparison& comparison,
                                            const processingData& profile) {

@@ -22,11 +22,6 @@ struct ProfileErrors {
   std::vector<Refractor> refractors;  ///< as those of the profile
 };
 
-/// Whether picks and marks lead to the profile as it is, so that neither has changed since it was
-/// built. False without a profile. Tells nothing on the console.
-bool isProfileOf(const std::vector<ShotArrivals>& shots,
-                 const refractionDataStructure::Interpretation& interpretation);
-
 /// Those of the reciprocal method in a comparison, for the receivers of a profile that was built
 /// from the same picks. Nothing without the method or without bands.
 std::optional<ProfileErrors> profileErrors(const MethodComparison& comparison,
