@@ -28,7 +28,7 @@ QString methodName(LayerMethod method) {
 QString valueText(double value, const Band& band, std::size_t j, Support support, int places) {
   QString text = number(value, places);
   if (!std::isfinite(value)) return text;
-  const double error = band.errorAt(j);
+  const double error = band.errorOf(j, value);
   if (std::isfinite(error)) text += QString::fromUtf8(" ± ") + number(error, places);
   return support == Support::kPicks ? text : '(' + text + ')';
 }
