@@ -76,8 +76,10 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
   mUi->phantomSplitter->setSizes({620, 440});
   mUi->shiftTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   mUi->profileSplitter->setSizes({260, 340});
-  mUi->resultSplitter->setSizes({760, 280});
-  mUi->misfitTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  mUi->resultSplitter->setSizes({720, 400});
+  for (QTableWidget* table : {mUi->misfitTable, mUi->profileTable}) {
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  }
   nameThings();
   fillChoosers();
   connectCurves();
@@ -155,6 +157,7 @@ void RefractionProcessingDialog::connectCurves() {
   connect(mUi->shotCombo, chosen, this, [this](int index) { chooseShot(index - 1); });
   connect(curves, &LayerCurvesPlot::shotChosen, this, [this](int shot) { chooseShot(shot); });
   connect(curves, &LayerCurvesPlot::marked, this, &RefractionProcessingDialog::mark);
+  connect(mUi->errorBands, &ErrorBands::changed, this, &RefractionProcessingDialog::showProfile);
   connect(mFitting, &BackgroundFit::found, this, [this](const LayeredFit& fit) {
     mFit = fit;
     showFit();
@@ -215,6 +218,7 @@ void RefractionProcessingDialog::marksChanged() {
     changed << tr("The marks have changed since the profiles were built.");
   }
   mUi->staleLabel->setText(changed.join(QLatin1Char(' ')));
+  followErrors();
   showProposal();
   refreshShot();
 }
