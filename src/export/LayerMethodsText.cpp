@@ -35,9 +35,11 @@ std::string fieldsOf(const MethodLayer* layer, std::size_t j, char separator) {
   if (layer == nullptr) return std::string(5, separator);
   const bool any = std::isfinite(layer->depth[j]) || std::isfinite(layer->velocity[j]);
   const Support support = std::max(layer->depthSupport[j], layer->velocitySupport[j]);
-  return separator + known(layer->depth[j]) + separator + known(layer->depthBand.errorAt(j)) +
-         separator + known(layer->velocity[j]) + separator + known(layer->velocityBand.errorAt(j)) +
-         separator + (any ? nameOf(support) : "");
+  return separator + known(layer->depth[j]) + separator +
+         known(layer->depthBand.errorOf(j, layer->depth[j])) + separator +
+         known(layer->velocity[j]) + separator +
+         known(layer->velocityBand.errorOf(j, layer->velocity[j])) + separator +
+         (any ? nameOf(support) : "");
 }
 
 }  // namespace

@@ -77,8 +77,10 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
   mUi->shiftTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   mUi->criteriaSplitter->setSizes({760, 300});
   mUi->profileSplitter->setSizes({260, 340});
-  mUi->resultSplitter->setSizes({760, 280});
-  mUi->misfitTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  mUi->resultSplitter->setSizes({720, 400});
+  for (QTableWidget* table : {mUi->misfitTable, mUi->profileTable}) {
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  }
   nameThings();
   fillChoosers();
   connectCurves();
@@ -156,6 +158,7 @@ void RefractionProcessingDialog::connectCurves() {
   connect(mUi->shotCombo, chosen, this, [this](int index) { chooseShot(index - 1); });
   connect(curves, &LayerCurvesPlot::shotChosen, this, [this](int shot) { chooseShot(shot); });
   connect(curves, &LayerCurvesPlot::marked, this, &RefractionProcessingDialog::mark);
+  connect(mUi->errorBands, &ErrorBands::changed, this, &RefractionProcessingDialog::showProfile);
   connect(mFitting, &BackgroundFit::found, this, [this](const LayeredFit& fit) {
     mFit = fit;
     showFit();
@@ -219,6 +222,7 @@ void RefractionProcessingDialog::marksChanged() {
     changed << tr("The marks have changed since the profiles were built.");
   }
   mUi->staleLabel->setText(changed.join(QLatin1Char(' ')));
+  followErrors();
   showProposal();
   refreshShot();
 }

@@ -24,6 +24,7 @@ class RefractionProcessingDialog;
 class BackgroundFit;
 class TomoDocument;
 struct MethodComparison;
+struct ProfileErrors;
 
 /// Turns picks into layers: marks on the travel-time curves, phantom arrivals, tV and tG,
 /// velocities and the section of layers. It works on a copy of the interpretation, which the caller
@@ -41,6 +42,8 @@ class RefractionProcessingDialog : public QDialog {
   const refractionDataStructure::Interpretation& interpretation() const { return mWork; }
   QUndoStack* undoStack() const { return mUndo; }
   bool profileBuilt() const { return mBuilt; }  ///< since the dialog was opened
+  /// Of the profile as it is shown; null where none were found.
+  std::shared_ptr<const ProfileErrors> profileErrors() const;
   /// Whether marks differ from those that it was opened with, or curves or a profile were built.
   bool hasChanges() const;
 
@@ -92,6 +95,7 @@ class RefractionProcessingDialog : public QDialog {
   void showFunctions();
   void fillXY(std::uint32_t refractor);
   void takeXY(double xy);
+  void followErrors();
   void showProfile();
   void showResults();
 

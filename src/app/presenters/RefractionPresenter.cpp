@@ -1,11 +1,14 @@
 #include "app/presenters/RefractionPresenter.h"
 
+#include "app/LayeredModel.h"
 #include "app/Messages.h"
 #include "app/dialogs/RefractionProcessingDialog.h"
 #include "app/presenters/FileExport.h"
 #include "export/LayerMethodsText.h"
 #include "figures/LayerMethodsFigure.h"
 #include "io/Survey.h"
+
+#include <utility>
 
 namespace talvesk {
 
@@ -33,12 +36,14 @@ void RefractionPresenter::interpret() {
     if (file.isEmpty()) return;
     exportTo(mDesk, file, [&](const std::string& path) { return writeLayerMethods(path, shown); });
   };
-  if (dialog.exec() != QDialog::Accepted || !dialog.hasChanges()) return;
-  mDesk.edit(Edit::kRefraction, [&](Survey& survey) {
+  if (dialog.exec() != QDialog::Accepted) return;
+  const bool kept = !dialog.hasChanges() || mDesk.edit(Edit::kRefraction, [&](Survey& survey) {
     survey.interpretation = dialog.interpretation();
     // A profile that was just built is worth seeing.
     if (dialog.profileBuilt()) survey.section.refraction = true;
   });
+  // The edit has made those of an earlier profile void.
+  if (auto errors = dialog.profileErrors(); kept && errors) mLayered.setErrors(std::move(errors));
 }
 
 }  // namespace talvesk

@@ -13,7 +13,7 @@ QString valueText(double value, const Band& band, std::size_t j, Support support
                   const QLocale& locale) {
   if (!std::isfinite(value)) return report::number(value, places);
   QString text = locale.toString(value, 'f', places);
-  const double error = band.errorAt(j);
+  const double error = band.errorOf(j, value);
   if (std::isfinite(error)) {
     text += QString::fromUtf8(" ± ") + locale.toString(error, 'f', places);
   }

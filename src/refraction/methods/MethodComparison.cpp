@@ -2,6 +2,7 @@
 
 #include "base/RunForEach.h"
 #include "model/TravelTime.h"
+#include "numerics/Medians.h"
 #include "numerics/NormalNumbers.h"
 #include "refraction/methods/LayerMethods.h"
 
@@ -40,6 +41,15 @@ std::pair<double, double> middlePart(std::vector<double> values) {
         std::lround(share * static_cast<double>(values.size() - 1)))];
   };
   return {at(kBandShare), at(1.0 - kBandShare)};
+}
+
+/// The error of a value, from the same number of every member.
+template <typename Number>
+double errorOver(const Members& members, double value, Number numberOf) {
+  std::vector<double> all;
+  for (const std::vector<MethodResult>& member : members) all.push_back(numberOf(member));
+  const auto [low, high] = middlePart(std::move(all));
+  return errorWithin(low, high, value);
 }
 
 /// Of one method and refractor over all members.
@@ -119,9 +129,17 @@ void findBands(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
       bounds.threads);
   if (stopped) return;
   for (std::size_t m = 0; m < methods.size(); ++m) {
-    for (MethodLayer& layer : comparison.results[m].layers) {
+    MethodResult& result = comparison.results[m];
+    result.v1Error =
+        errorOver(members, result.v1, [m](const auto& member) { return member[m].v1; });
+    for (MethodLayer& layer : result.layers) {
       layer.depthBand = bandOf(members, m, layer, &MethodLayer::depth);
       layer.velocityBand = bandOf(members, m, layer, &MethodLayer::velocity);
+      const double median = medianOfFinite(layer.velocity, kUnknown);
+      layer.medianError = errorOver(members, median, [&](const auto& member) {
+        const MethodLayer* same = member[m].layer(layer.layer);
+        return same == nullptr ? kUnknown : medianOfFinite(same->velocity, kUnknown);
+      });
     }
   }
   findDisagreements(members, comparison);

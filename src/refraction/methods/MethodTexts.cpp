@@ -8,6 +8,8 @@
 namespace talvesk {
 namespace {
 
+const double kUnknown = std::nan("");
+
 std::string cell(double value) {
   return std::isfinite(value) ? formatDouble(value) : "-";
 }
@@ -29,9 +31,9 @@ std::string cellsOf(const MethodLayer* layer, std::size_t j, bool bands) {
   if (layer == nullptr) return bands ? " - - - - -" : " - - -";
   const bool known = std::isfinite(layer->depth[j]) || std::isfinite(layer->velocity[j]);
   std::string cells = ' ' + cell(layer->depth[j]);
-  if (bands) cells += ' ' + cell(layer->depthBand.errorAt(j));
+  if (bands) cells += ' ' + cell(layer->depthBand.errorOf(j, layer->depth[j]));
   cells += ' ' + cell(layer->velocity[j]);
-  if (bands) cells += ' ' + cell(layer->velocityBand.errorAt(j));
+  if (bands) cells += ' ' + cell(layer->velocityBand.errorOf(j, layer->velocity[j]));
   const Support support = std::max(layer->depthSupport[j], layer->velocitySupport[j]);
   return cells + ' ' + (known ? nameOf(support) : "-");
 }
@@ -52,15 +54,9 @@ std::string blockOf(const MethodComparison& comparison, std::uint32_t number) {
   return block;
 }
 
-double medianKnown(std::vector<double> values) {
-  values.erase(std::remove_if(values.begin(), values.end(), [](double v) { return std::isnan(v); }),
-               values.end());
-  return medianOf(std::move(values), std::nan(""));
-}
-
-std::vector<double> errorsOf(const Band& band) {
+std::vector<double> errorsOf(const Band& band, const std::vector<double>& values) {
   std::vector<double> errors;
-  for (std::size_t j = 0; j < band.low.size(); ++j) errors.push_back(band.errorAt(j));
+  for (std::size_t j = 0; j < band.low.size(); ++j) errors.push_back(band.errorOf(j, values[j]));
   return errors;
 }
 
@@ -146,10 +142,10 @@ std::string comparisonTable(const MethodComparison& comparison) {
 
 MethodFigures figuresOf(const MethodLayer& layer) {
   MethodFigures figures;
-  figures.velocity = medianKnown(layer.velocity);
-  figures.velocityError = medianKnown(errorsOf(layer.velocityBand));
-  figures.depth = medianKnown(layer.depth);
-  figures.depthError = medianKnown(errorsOf(layer.depthBand));
+  figures.velocity = medianOfFinite(layer.velocity, kUnknown);
+  figures.velocityError = medianOfFinite(errorsOf(layer.velocityBand, layer.velocity), kUnknown);
+  figures.depth = medianOfFinite(layer.depth, kUnknown);
+  figures.depthError = medianOfFinite(errorsOf(layer.depthBand, layer.depth), kUnknown);
   figures.receivers = layer.depth.size();
   for (std::size_t j = 0; j < layer.depth.size(); ++j) {
     if (!std::isfinite(layer.depth[j])) continue;
