@@ -13,8 +13,9 @@ BackgroundFit::~BackgroundFit() {
 }
 
 void BackgroundFit::start(std::vector<ShotArrivals> shots, std::vector<std::vector<double>> errors,
-                          refractionDataStructure::Interpretation interpretation) {
-  mNext.reset(new Task{std::move(shots), std::move(errors), std::move(interpretation), {}});
+                          refractionDataStructure::Interpretation interpretation, FindFit findFit) {
+  mNext.reset(
+      new Task{std::move(shots), std::move(errors), std::move(interpretation), findFit, {}});
   if (mThread == nullptr) begin();
 }
 
@@ -22,7 +23,7 @@ void BackgroundFit::begin() {
   mTask = std::move(mNext);
   mThread.reset(QThread::create([task = mTask.get()] {
     try {
-      task->fit = fitOfProfile(task->shots, task->errors, task->interpretation);
+      task->fit = task->findFit(task->shots, task->errors, task->interpretation);
     } catch (const std::bad_alloc&) {
       task->fit = {};  // the profile is there all the same
     }

@@ -18,14 +18,18 @@ class BackgroundFit : public QObject {
   Q_OBJECT
 
  public:
+  using FindFit = decltype(&fitOfProfile);
+
   explicit BackgroundFit(QObject* parent = nullptr);
   /// Waits for what is under way.
   ~BackgroundFit() override;
 
   /// Begins; found() follows. Of what is under way nothing will be told; it is begun after it.
   /// \param errors pickErrors()
+  /// \param findFit fitOfProfile() or what has its shape
   void start(std::vector<ShotArrivals> shots, std::vector<std::vector<double>> errors,
-             refractionDataStructure::Interpretation interpretation);
+             refractionDataStructure::Interpretation interpretation,
+             FindFit findFit = fitOfProfile);
 
  signals:
   void found(const talvesk::LayeredFit& fit);
@@ -35,6 +39,7 @@ class BackgroundFit : public QObject {
     std::vector<ShotArrivals> shots;
     std::vector<std::vector<double>> errors;
     refractionDataStructure::Interpretation interpretation;
+    FindFit findFit;
     LayeredFit fit;
   };
   void begin();

@@ -34,6 +34,7 @@ constexpr Page kPages[] = {
     {"progressTomographyDialog", "inversion.html"},
     {"smoothingDialog", "inversion.html"},
     {"RefractionProcessingDialog", "refraction.html"},
+    {"LayerMethodsDialog", "refraction.html"},
     {"StartLayersDialog", "refraction.html"},
     {"CompareLayersDialog", "refraction.html"},
     {"ElasticDialog", "refraction.html"},

@@ -9,11 +9,6 @@
 namespace talvesk {
 namespace {
 
-std::string rangeText(const Parameter<double>& parameter) {
-  return "(" + plainNumber(parameter.limits.least) + " to " + plainNumber(parameter.limits.most) +
-         ")";
-}
-
 VelocityLayer readLayer(const std::string& text) {
   const auto fields = splitFields(text, ':');
   if (fields.size() != 4 || text.back() == ':') {
@@ -86,7 +81,8 @@ void addGridOptions(CLI::App& app, InvertOptions& options) {
            options.layerFill = {false, readGrading("--sharp-layers", text)};
          },
          "Put the layers of --layer into the grid as they are, not by the spline through them, "
-         "which swings where velocities jump: sharp, or graded:M, jumps spread over M metres")
+         "which swings where velocities jump: sharp, or graded:M, jumps spread over M metres " +
+             rangeText(parameters::kGrading))
       ->type_name("sharp|graded:M")
       ->needs(layer)
       ->group("Grid");

@@ -2,7 +2,6 @@
 
 #include "base/StreamPlace.h"
 #include "batch/OutputFiles.h"
-#include "grid/SharpLayers.h"
 
 #include <algorithm>
 #include <cctype>
@@ -76,8 +75,7 @@ double readGrading(const std::string& option, const std::string& text) {
   if (text.compare(0, graded.size(), graded) != 0) {
     throw CLI::ValidationError(option, "'" + text + "' is neither sharp nor graded:M");
   }
-  return numberWithin(option, text.substr(graded.size()),
-                      Range<double>{LayerFill::kLeastThickness, LayerFill::kMostThickness});
+  return numberWithin(option, text.substr(graded.size()), rangeOf(parameters::kGrading));
 }
 
 void wrapHelp(CLI::App& app) {

@@ -76,6 +76,13 @@ std::string meaningOf(const Parameter<T>& parameter) {
   return parameter.help + (unit.empty() ? unit : ", " + unit);
 }
 
+/// "(0.01 to 1000)"
+template <typename T>
+std::string rangeText(const Parameter<T>& parameter) {
+  return "(" + plainNumber(parameter.limits.least) + " to " + plainNumber(parameter.limits.most) +
+         ")";
+}
+
 /// " (default: 250)". \param unless what comes first: "that of the project, else "
 template <typename T>
 std::string defaultOf(const Parameter<T>& parameter, const std::string& unless = {}) {

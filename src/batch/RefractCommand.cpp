@@ -22,6 +22,7 @@
 #include "refraction/Profile.h"
 #include "refraction/SurveyProposal.h"
 #include "refraction/WeighedPicks.h"
+#include "refraction/methods/ProfileErrors.h"
 #include "session/TableRules.h"
 #include "tomo/RayRecomputation.h"
 #include "view/RefractorLines.h"
@@ -190,17 +191,24 @@ int writeResults(const RefractOptions& options, const LoadedProject& project, co
   attempt(options.misfit,
           [&](const auto& path) { return writeOutput(path, misfitTable(work.fit)); });
   attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
+  const std::optional<ProfileErrors> errors =
+      work.findings.comparison
+          ? profileErrors(*work.findings.comparison, interpretation.refractData)
+          : std::nullopt;
+  RefractionFigureOptions figure;
+  figure.errors = errors ? &*errors : nullptr;
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) {
-      return writeRefractionFigure(document, interpretation.refractData, {}, path);
+      return writeRefractionFigure(document, interpretation, figure, path);
     });
   }
   attempt(options.report, [&](const auto& path) {
-    return writeReportFile({document, &interpretation, work.findings.methods()},
-                           options.reportFields,
-                           sectionFigureOptions(project.section, project.palettes->current(),
-                                                refractorLines(interpretation)),
-                           path);
+    return writeReportFile(
+        {document, &interpretation, work.findings.methods(), &work.fit, figure.errors},
+        options.reportFields,
+        sectionFigureOptions(project.section, project.palettes->current(),
+                             refractorLines(interpretation)),
+        path);
   });
   return attempt.exitCode();
 }

@@ -93,7 +93,9 @@ void addRefract(CLI::App& app, RefractOptions& options) {
               },
               "Put the layered profile into the grid of --project, so that an inversion starts "
               "from it: sharp, each cell in the layer of its middle, or graded:M, jumps spread "
-              "over M metres. A survey without a grid gets the one that 'invert' proposes")
+              "over M metres " +
+                  rangeText(parameters::kGrading) +
+                  ". A survey without a grid gets the one that 'invert' proposes")
           ->type_name("sharp|graded:M")
           ->needs(project);
   for (CLI::Option* option : {json, table, misfit, image, project, start}) option->group("Output");

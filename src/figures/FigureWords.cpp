@@ -152,6 +152,24 @@ QString FigureWords::picksChanged() {
   return tr("picks have changed since the inversion");
 }
 
+QString FigureWords::layer(std::uint32_t layer, double velocity, double error,
+                           const QLocale& locale) {
+  if (!std::isfinite(velocity) || !(velocity > 0.0)) return tr("Layer %1").arg(layer);
+  const QString text = locale.toString(velocity, 'f', 0);
+  if (!std::isfinite(error) || !(error > 0.0)) return tr("Layer %1, %2 m/s").arg(layer).arg(text);
+  return tr("Layer %1, %2 \u00B1 %3 m/s")
+      .arg(layer)
+      .arg(text, locale.toString(error, 'f', error < 1.0 ? 1 : 0));
+}
+
+QString FigureWords::uncarried() {
+  return tr("Dashed: not carried by picks there");
+}
+
+QString FigureWords::profileBand() {
+  return tr("Error of the picks (68 of 100)");
+}
+
 QString FigureWords::velocity(double velocity, const QLocale& locale) {
   return QStringLiteral("%1 m/s").arg(number(formatDouble(velocity, 6), locale));
 }

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 #include <cstddef>
+#include <cstdint>
 
 namespace talvesk {
 
@@ -53,6 +54,11 @@ struct FigureWords {
   static QString refractor(std::size_t index);     ///< "Refractor 1" for 0, the shallowest
   static QString oldRefractor(std::size_t index);  ///< the same of a profile of other picks
 
+  /// Of a legend: "Layer 2, 1850 ± 60 m/s", without what is not known.
+  static QString layer(std::uint32_t layer, double velocity, double error,
+                       const QLocale& locale = QLocale::c());
+  static QString uncarried();    ///< what dashed lines of a profile are
+  static QString profileBand();  ///< what the band round a line of a profile is
   static QString velocity(double velocity, const QLocale& locale = QLocale::c());  ///< "800 m/s"
   /// What the legend calls a DepthBand, and ground that fades.
   static QString depthBand(double velocity, const QLocale& locale = QLocale::c());

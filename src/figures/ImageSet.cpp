@@ -111,13 +111,14 @@ class Planner {
     if (!rayOwners(mDocument).empty()) add("residuals_section", write(ResidualView::kSection));
   }
 
-  void addRefraction(const refractionDataStructure::processingData& results) {
+  void addRefraction(const refractionDataStructure::Interpretation& profile) {
     RefractionFigureOptions figure;
     setSize(figure);
+    figure.errors = mOptions.profileErrors;
     FigureDrawing drawing;
-    if (!prepareRefractionFigure(mDocument, results, figure, drawing).ok()) return;
-    add("refraction", [&document = mDocument, &results, figure](const std::string& path) {
-      return writeRefractionFigure(document, results, figure, path);
+    if (!prepareRefractionFigure(mDocument, profile, figure, drawing).ok()) return;
+    add("refraction", [&document = mDocument, &profile, figure](const std::string& path) {
+      return writeRefractionFigure(document, profile, figure, path);
     });
   }
 
@@ -161,7 +162,7 @@ std::vector<PlannedImage> planImages(const TomoDocument& document,
   }
   if (options.residuals) planner.addResiduals();
   if (options.refraction && interpretation != nullptr) {
-    planner.addRefraction(interpretation->refractData);
+    planner.addRefraction(*interpretation);
   }
   return planner.take();
 }

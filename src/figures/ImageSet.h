@@ -14,6 +14,7 @@
 namespace talvesk {
 
 class TomoDocument;
+struct ProfileErrors;
 
 /// Which pictures of a survey to make. Those that the survey has nothing for are left out.
 struct ImageSetOptions {
@@ -27,6 +28,8 @@ struct ImageSetOptions {
   bool cells = true;                        ///< as cells, or in bands where contours are filled
   bool smooth = false;                      ///< blended, in pictures of their own
   bool refraction = false;
+  const ProfileErrors* profileErrors =
+      nullptr;             ///< of the profile, outlives the pictures; null: none
   bool residuals = false;  ///< of the section: shot by geophone, and along the rays
 
   FigureFormat format = FigureFormat::kPng;

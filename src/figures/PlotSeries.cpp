@@ -21,30 +21,76 @@ constexpr double kSymbol = 2.6;    ///< radius, pixels
 constexpr double kPadding = 12.0;  ///< inside the axes of a figure, points of 1/96 inch
 constexpr double kItems = 10.0;    ///< above the axes
 
-QPen penOf(const PlotSeries& series) {
-  return {series.color, series.width, series.dashed ? Qt::DashLine : Qt::SolidLine};
+constexpr double kBandAlpha = 0.25;
+
+QPen penOf(const PlotSeries& series, bool dashed) {
+  return {series.color, series.width, dashed ? Qt::DashLine : Qt::SolidLine};
+}
+
+/// There along the upper edge and back along the lower one.
+void paintBand(QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+               const PlotSeries& series) {
+  QColor color = series.color;
+  color.setAlphaF(kBandAlpha);
+  painter.setPen(QPen(color, 1.0));
+  painter.setBrush(color);
+  QPolygonF upper;
+  QPolygonF lower;
+  const auto close = [&] {
+    std::reverse(lower.begin(), lower.end());
+    if (!upper.isEmpty()) painter.drawPolygon(upper + lower);
+    upper.clear();
+    lower.clear();
+  };
+  for (std::size_t j = 0; j < std::min(series.low.size(), series.points.size()); ++j) {
+    if (!std::isfinite(series.low[j]) || !std::isfinite(series.high[j])) {
+      close();
+      continue;
+    }
+    const double x = xMap.transform(series.points[j].x);
+    upper.append({x, yMap.transform(series.high[j])});
+    lower.append({x, yMap.transform(series.low[j])});
+  }
+  close();
+}
+
+/// Pieces of a line, each solid or dashed as a whole.
+void paintLine(QPainter& painter, const PlotSeries& series, const QPolygonF& points,
+               const std::vector<bool>& loose) {
+  painter.setBrush(Qt::NoBrush);
+  for (int from = 0; from + 1 < points.size();) {
+    const auto isLoose = [&loose](int i) {
+      return loose[static_cast<std::size_t>(i)] || loose[static_cast<std::size_t>(i) + 1];
+    };
+    int to = from + 1;
+    while (to + 1 < points.size() && isLoose(to) == isLoose(from)) ++to;
+    painter.setPen(penOf(series, series.dashed || isLoose(from)));
+    painter.drawPolyline(points.constData() + from, to - from + 1);
+    from = to;
+  }
 }
 
 void paintSeries(QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
                  const PlotSeries& series) {
   painter.setRenderHint(QPainter::Antialiasing);
+  paintBand(painter, xMap, yMap, series);
   QPolygonF line;
+  std::vector<bool> loose;
   const auto end = [&] {
-    if (series.width > 0.0 && line.size() > 1) {
-      painter.setPen(penOf(series));
-      painter.setBrush(Qt::NoBrush);
-      painter.drawPolyline(line);
-    }
+    if (series.width > 0.0) paintLine(painter, series, line, loose);
     if (series.symbols || line.size() == 1) {
       painter.setPen(Qt::NoPen);
       painter.setBrush(series.color);
       for (const QPointF& point : line) painter.drawEllipse(point, kSymbol, kSymbol);
     }
     line.clear();
+    loose.clear();
   };
-  for (const Point2D& p : series.points) {
+  for (std::size_t j = 0; j < series.points.size(); ++j) {
+    const Point2D& p = series.points[j];
     if (isFinite(p)) {
       line.append({xMap.transform(p.x), yMap.transform(p.z)});
+      loose.push_back(j < series.loose.size() && series.loose[j]);
     } else {
       end();
     }
@@ -96,7 +142,7 @@ QwtPlotItem* seriesItem(const PlotSeries& series, double z) {
   const auto icon = [series](QPainter& painter, const QSizeF& size) {
     const double y = size.height() / 2.0;
     if (series.width > 0.0) {
-      painter.setPen(penOf(series));
+      painter.setPen(penOf(series, series.dashed));
       painter.drawLine(QPointF(0.0, y), QPointF(size.width(), y));
     }
     if (!series.symbols) return;

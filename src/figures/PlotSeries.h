@@ -13,6 +13,8 @@ class QwtPlotItem;
 namespace talvesk {
 
 /// A curve of a plot. Points that are not finite are left out and break the line.
+///
+/// `loose` and `low` and `high` follow the points, or are empty.
 struct PlotSeries {
   QString name;                 ///< in the legend; empty: not in it
   std::vector<Point2D> points;  ///< x and value
@@ -20,6 +22,9 @@ struct PlotSeries {
   double width = 1.5;  ///< of the line, pixels; 0: symbols only
   bool dashed = false;
   bool symbols = false;
+  std::vector<bool> loose = {};   ///< lines to and from these points are dashed
+  std::vector<double> low = {};   ///< lower edge of a translucent band; gaps where it is not finite
+  std::vector<double> high = {};  ///< its upper edge
 };
 
 /// \param z who paints over whom, the highest last

@@ -30,7 +30,7 @@ constexpr double kGroundBelow = 0.25;  ///< of the height: what is shown of the 
 class RefractionSheet {
  public:
   RefractionSheet(const TomoDocument& document,
-                  const refractionDataStructure::processingData& results,
+                  const refractionDataStructure::Interpretation& profile,
                   const RefractionFigureOptions& options);
 
   Status layOut();
@@ -54,12 +54,12 @@ class RefractionSheet {
 };
 
 RefractionSheet::RefractionSheet(const TomoDocument& document,
-                                 const refractionDataStructure::processingData& results,
+                                 const refractionDataStructure::Interpretation& profile,
                                  const RefractionFigureOptions& options)
     : mOptions(options),
-      mScene(refractionScene(document, results)),
+      mScene(refractionScene(document, profile, options.errors)),
       mTitle(options.title.empty() ? document.title : options.title),
-      mPicksChanged(picksChangedSince(document, results)) {
+      mPicksChanged(picksChangedSince(document, profile.refractData)) {
   if (mTitle.empty()) mTitle = FigureWords::tr("Refraction Profile").toStdString();
   mPlot.addAxis(QwtPlot::xBottom, FigureWords::tr("X (m)"));
   mPlot.addAxis(QwtPlot::yLeft, FigureWords::tr("Z (m)"));
@@ -67,16 +67,7 @@ RefractionSheet::RefractionSheet(const TomoDocument& document,
 }
 
 void RefractionSheet::addLayers() {
-  const auto name = [](std::uint32_t layer, double velocity) {
-    const QString text = FigureWords::tr("Layer %1").arg(layer);
-    if (!std::isfinite(velocity) || !(velocity > 0.0)) return text;
-    return QStringLiteral("%1, %2 m/s").arg(text, figureNumber(std::round(velocity)));
-  };
-  mPlot.add(refraction_items::layer(mScene, 1, name(1, mScene.v1)));
-  for (const ProfileBoundary& boundary : mScene.boundaries) {
-    const std::uint32_t below = boundary.refractor;
-    mPlot.add(refraction_items::layer(mScene, below, name(below, mScene.velocities[below - 2])));
-  }
+  for (QwtPlotItem* item : refraction_items::layers(mScene, QLocale::c())) mPlot.add(item);
   mPlot.add(refraction_items::surface(mScene));
   using namespace section_items;
   mPlot.add(markers(mScene.geophones, FigureWords::tr("Geophones"), Marker::kGeophone));
@@ -129,13 +120,13 @@ Status RefractionSheet::layOut() {
   return fitWith(caption());
 }
 
-Status layOut(const TomoDocument& document, const refractionDataStructure::processingData& results,
+Status layOut(const TomoDocument& document, const refractionDataStructure::Interpretation& profile,
               const RefractionFigureOptions& options, FigureFormat format, FigureSheet& sheet,
               std::unique_ptr<RefractionSheet>& plot) {
   if (Status status = checkApplication("A profile"); !status.ok()) return status;
   sheet = {options.widthMm, options.heightMm, options.dpi, {}};
   if (Status status = sheet.check(format); !status.ok()) return status;
-  plot = std::make_unique<RefractionSheet>(document, results, options);
+  plot = std::make_unique<RefractionSheet>(document, profile, options);
   if (Status status = plot->layOut(); !status.ok()) return status;
   sheet.title = plot->title();
   return {};
@@ -144,10 +135,10 @@ Status layOut(const TomoDocument& document, const refractionDataStructure::proce
 }  // namespace
 
 Status prepareRefractionFigure(const TomoDocument& document,
-                               const refractionDataStructure::processingData& results,
+                               const refractionDataStructure::Interpretation& profile,
                                const RefractionFigureOptions& options, FigureDrawing& drawing) {
   std::unique_ptr<RefractionSheet> plot;
-  Status status = layOut(document, results, options, FigureFormat::kPdf, drawing.sheet, plot);
+  Status status = layOut(document, profile, options, FigureFormat::kPdf, drawing.sheet, plot);
   if (!status.ok()) return status;
   drawing.paint = [shared = std::shared_ptr<RefractionSheet>(std::move(plot))](
                       QPainter& painter, const QRectF& rect) { shared->paint(painter, rect); };
@@ -155,12 +146,12 @@ Status prepareRefractionFigure(const TomoDocument& document,
 }
 
 Status renderRefractionFigure(const TomoDocument& document,
-                              const refractionDataStructure::processingData& results,
+                              const refractionDataStructure::Interpretation& profile,
                               const RefractionFigureOptions& options, FigureFormat format,
                               QByteArray& bytes, PlotPlace* place) {
   FigureSheet sheet;
   std::unique_ptr<RefractionSheet> plot;
-  Status status = layOut(document, results, options, format, sheet, plot);
+  Status status = layOut(document, profile, options, format, sheet, plot);
   if (!status.ok()) return status;
   const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot->paint(painter, rect); };
   status = paintFigure(format, sheet, paint, bytes);
@@ -169,10 +160,10 @@ Status renderRefractionFigure(const TomoDocument& document,
 }
 
 Status writeRefractionFigure(const TomoDocument& document,
-                             const refractionDataStructure::processingData& results,
+                             const refractionDataStructure::Interpretation& profile,
                              const RefractionFigureOptions& options, const std::string& path) {
   return writeFigure(path, [&](FigureFormat format, QByteArray& bytes) {
-    return renderRefractionFigure(document, results, options, format, bytes);
+    return renderRefractionFigure(document, profile, options, format, bytes);
   });
 }
 

@@ -12,6 +12,7 @@ class QByteArray;
 namespace talvesk {
 
 class TomoDocument;
+struct ProfileErrors;
 
 struct RefractionFigureOptions {
   double widthMm = 280.0;
@@ -19,27 +20,28 @@ struct RefractionFigureOptions {
   double dpi = 150.0;  ///< pixels per inch of a PNG
   std::string title;   ///< UTF-8; empty: the document's title, and without one "Refraction Profile"
   bool showTitle = true;  ///< false: the title is for the properties of the file only
+  const ProfileErrors* errors = nullptr;  ///< of the profile, for bands; null for none
 };
 
 /// Draws the section of layers with the surface and replaces the file at `path` by it, whole or not
 /// at all; the suffix decides between PNG, SVG and PDF. The caption states the vertical
-/// exaggeration.
+/// exaggeration. Tops of refractors are dashed where picks do not carry them.
 ///
 /// Needs the QApplication and must run on its thread. Fails without a depth to draw, for a size
 /// that makes no picture, and when the file cannot be written; then a file that was there before is
 /// untouched.
 Status writeRefractionFigure(const TomoDocument& document,
-                             const refractionDataStructure::processingData& results,
+                             const refractionDataStructure::Interpretation& profile,
                              const RefractionFigureOptions& options, const std::string& path);
 
 /// The same for who paints it himself.
 Status prepareRefractionFigure(const TomoDocument& document,
-                               const refractionDataStructure::processingData& results,
+                               const refractionDataStructure::Interpretation& profile,
                                const RefractionFigureOptions& options, FigureDrawing& drawing);
 
 /// The same into memory. \param place where the section lies; null when nobody asks
 Status renderRefractionFigure(const TomoDocument& document,
-                              const refractionDataStructure::processingData& results,
+                              const refractionDataStructure::Interpretation& profile,
                               const RefractionFigureOptions& options, FigureFormat format,
                               QByteArray& bytes, PlotPlace* place = nullptr);
 

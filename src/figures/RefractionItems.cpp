@@ -2,10 +2,12 @@
 
 #include "figures/DrawableValues.h"
 #include "figures/FigureItem.h"
+#include "figures/FigureWords.h"
 #include "figures/SectionItems.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "numerics/Medians.h"
+#include "refraction/methods/ProfileErrors.h"
 
 #include <QPainter>
 #include <QPolygonF>
@@ -21,7 +23,12 @@ namespace talvesk {
 namespace {
 
 using refractionDataStructure::computedData;
-using refractionDataStructure::processingData;
+using refractionDataStructure::Interpretation;
+using section_items::kCellsLayer;
+
+constexpr double kBandsLayer = kCellsLayer + 4.0;  ///< over the grounds of all three layers
+constexpr double kLinesLayer = kCellsLayer + 5.0;
+constexpr double kLineWidth = 2.0;
 
 void putInOrder(std::vector<Point2D>& points) {
   points.erase(
@@ -29,13 +36,6 @@ void putInOrder(std::vector<Point2D>& points) {
                      [](const Point2D& p) { return !isPosition(p.x) || !isPosition(p.z); }),
       points.end());
   keepFirstOfEachX(points);
-}
-
-double knownMedian(std::vector<double> values) {
-  values.erase(
-      std::remove_if(values.begin(), values.end(), [](double v) { return !std::isfinite(v); }),
-      values.end());
-  return medianOf(std::move(values), 0.0);
 }
 
 template <typename Take>
@@ -46,6 +46,11 @@ void forEachPoint(const RefractionScene& scene, Take take) {
   for (const ProfileBoundary& boundary : scene.boundaries) {
     for (const auto& line : boundary.lines) {
       for (const Point2D& p : line) take(p);
+    }
+  }
+  for (const BoundaryLook& look : scene.looks) {
+    for (const auto& band : look.bands) {
+      for (const Point2D& p : band) take(p);
     }
   }
 }
@@ -107,7 +112,19 @@ Point2D RefractionScene::upperRight() const {
   return corner;
 }
 
-RefractionScene refractionScene(const TomoDocument& document, const processingData& results) {
+bool RefractionScene::hasUncarried() const {
+  return std::any_of(looks.begin(), looks.end(),
+                     [](const BoundaryLook& look) { return !look.uncarried.empty(); });
+}
+
+bool RefractionScene::hasBands() const {
+  return std::any_of(looks.begin(), looks.end(),
+                     [](const BoundaryLook& look) { return !look.bands.empty(); });
+}
+
+RefractionScene refractionScene(const TomoDocument& document, const Interpretation& interpretation,
+                                const ProfileErrors* errors) {
+  const auto& results = interpretation.refractData;
   RefractionScene scene;
   for (const auto& string : document.line->goephonesStringSet) {
     scene.geophones.insert(scene.geophones.end(), string.begin(), string.end());
@@ -118,9 +135,23 @@ RefractionScene refractionScene(const TomoDocument& document, const processingDa
   scene.surface = profileSurface(results);
   putInOrder(scene.surface);
   scene.boundaries = profileBoundaries(results);
+  const auto errorsOf = [errors](std::size_t refractor) {
+    const bool known = errors != nullptr && refractor < errors->refractors.size();
+    return known ? &errors->refractors[refractor] : nullptr;
+  };
+  const std::vector<ShotArrivals> shots = shotArrivals(document);
+  for (const ProfileBoundary& boundary : scene.boundaries) {
+    const std::size_t i = boundary.refractor - 2;
+    const ProfileErrors::Refractor* own = errorsOf(i);
+    scene.looks.push_back(boundaryLook(results.cData[i],
+                                       supportOf(shots, interpretation, boundary.refractor).depth,
+                                       own == nullptr ? nullptr : &own->depth));
+  }
   scene.v1 = results.v1;
-  for (const computedData& refractor : results.cData) {
-    scene.velocities.push_back(knownMedian(refractor.velocity));
+  if (errors != nullptr) scene.v1Error = errors->v1Error;
+  for (std::size_t i = 0; i < results.cData.size(); ++i) {
+    scene.velocities.push_back(medianOfFinite(results.cData[i].velocity, 0.0));
+    scene.velocityErrors.push_back(errorsOf(i) == nullptr ? 0.0 : errorsOf(i)->medianError);
   }
   return scene;
 }
@@ -145,29 +176,105 @@ QColor layerColor(std::uint32_t layer, const QColor& paper) {
 
 namespace refraction_items {
 
-QwtPlotItem* layer(const RefractionScene& scene, std::uint32_t layer, const QString& name) {
+namespace {
+
+QPen lineOf(std::uint32_t layer) {
+  return {layerColor(layer).darker(115), kLineWidth};
+}
+
+QPen dashed(QPen pen) {
+  // Long enough to be seen between receivers that lie close together.
+  pen.setDashPattern({3.0, 2.5});
+  pen.setCapStyle(Qt::FlatCap);
+  return pen;
+}
+
+/// The ground from the surface, or the top of a refractor, down. \param name in the legend
+QwtPlotItem* ground(const RefractionScene& scene, std::uint32_t layer, const QString& name) {
   const auto paint = [&scene, layer](QPainter& painter, const QwtScaleMap& xMap,
                                      const QwtScaleMap& yMap, const QRectF& canvas) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(groundColor(layer));
-    const auto tops = topOf(scene, layer);
-    for (const auto& line : tops) fillBelow(painter, line, xMap, yMap, canvas);
-    if (layer == 1) return;
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(layerColor(layer).darker(115), 2.0));
-    for (const auto& line : tops) {
-      painter.drawPolyline(section_items::thinned(line, xMap, yMap));
-    }
+    for (const auto& line : topOf(scene, layer)) fillBelow(painter, line, xMap, yMap, canvas);
   };
   const auto icon = [layer](QPainter& painter, const QSizeF& size) {
     painter.fillRect(QRectF(QPointF(0, 0), size), groundColor(layer));
     if (layer == 1) return;
-    painter.setPen(QPen(layerColor(layer).darker(115), 2.0));
+    painter.setPen(lineOf(layer));
     painter.drawLine(QPointF(0, 1), QPointF(size.width(), 1));
   };
   // From the top down: each lies over the one above it.
-  return figureItem(name, section_items::kCellsLayer + layer, paint, icon);
+  return figureItem(name, kCellsLayer + layer, paint, icon);
+}
+
+void setBand(QPainter& painter, QColor color) {
+  color.setAlphaF(0.6);
+  painter.setPen(QPen(color, 0.6));
+  color.setAlphaF(0.3);
+  painter.setBrush(color);
+}
+
+QwtPlotItem* errorBands(const RefractionScene& scene) {
+  const auto paint = [&scene](QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+                              const QRectF&) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (std::size_t i = 0; i < scene.looks.size(); ++i) {
+      setBand(painter, layerColor(scene.boundaries[i].refractor).darker(130));
+      for (const auto& band : scene.looks[i].bands) {
+        QPolygonF outline;
+        for (const Point2D& p : band) outline.append({xMap.transform(p.x), yMap.transform(p.z)});
+        painter.drawPolygon(outline);
+      }
+    }
+  };
+  const auto icon = [](QPainter& painter, const QSizeF& size) {
+    setBand(painter, layerColor(2).darker(130));
+    painter.drawRect(QRectF(QPointF(0, 2), size - QSizeF(0, 4)));
+  };
+  return figureItem(scene.hasBands() ? FigureWords::profileBand() : QString(), kBandsLayer, paint,
+                    icon);
+}
+
+QwtPlotItem* tops(const RefractionScene& scene) {
+  const auto paint = [&scene](QPainter& painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+                              const QRectF&) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    const auto draw = [&](const QPen& pen, const std::vector<std::vector<Point2D>>& lines) {
+      painter.setPen(pen);
+      for (const auto& line : lines) {
+        painter.drawPolyline(section_items::thinned(line, xMap, yMap));
+      }
+    };
+    for (std::size_t i = 0; i < scene.looks.size(); ++i) {
+      const QPen pen = lineOf(scene.boundaries[i].refractor);
+      draw(pen, scene.looks[i].carried);
+      draw(dashed(pen), scene.looks[i].uncarried);
+    }
+  };
+  const auto icon = [](QPainter& painter, const QSizeF& size) {
+    painter.setPen(dashed(lineOf(2)));
+    painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
+  };
+  return figureItem(scene.hasUncarried() ? FigureWords::uncarried() : QString(), kLinesLayer, paint,
+                    icon);
+}
+
+}  // namespace
+
+std::vector<QwtPlotItem*> layers(const RefractionScene& scene, const QLocale& locale) {
+  std::vector<QwtPlotItem*> items{
+      ground(scene, 1, FigureWords::layer(1, scene.v1, scene.v1Error, locale))};
+  for (const ProfileBoundary& boundary : scene.boundaries) {
+    const std::size_t i = boundary.refractor - 2;
+    items.push_back(ground(scene, boundary.refractor,
+                           FigureWords::layer(boundary.refractor, scene.velocities[i],
+                                              scene.velocityErrors[i], locale)));
+  }
+  items.push_back(errorBands(scene));
+  items.push_back(tops(scene));
+  return items;
 }
 
 QwtPlotItem* surface(const RefractionScene& scene, const QColor& color) {

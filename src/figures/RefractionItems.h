@@ -1,19 +1,21 @@
 #pragma once
 
 #include "base/Point2D.h"
+#include "figures/BoundaryLook.h"
 #include "model/RefractionDataStructure.h"
 #include "refraction/Profile.h"
 
 #include <QColor>
+#include <QLocale>
 #include <cstdint>
 #include <vector>
 
-class QString;
 class QwtPlotItem;
 
 namespace talvesk {
 
 class TomoDocument;
+struct ProfileErrors;
 
 /// The section of layers as it is drawn, positions in metres, elevations upward.
 struct RefractionScene {
@@ -21,17 +23,25 @@ struct RefractionScene {
   std::vector<Point2D> geophones;  ///< ascending x, each place once
   std::vector<Point2D> shots;      ///< ascending x
   std::vector<ProfileBoundary> boundaries;
-  double v1 = 0.0;                 ///< m/s; not a number, or 0, when not known
-  std::vector<double> velocities;  ///< median of each refractor, m/s, top down; 0 without one
+  std::vector<BoundaryLook> looks;     ///< of the boundaries
+  double v1 = 0.0;                     ///< m/s; not a number, or 0, when not known
+  double v1Error = 0.0;                ///< likewise
+  std::vector<double> velocities;      ///< median of each refractor, m/s, top down; 0 without one
+  std::vector<double> velocityErrors;  ///< of these; 0, or not a number, when not known
 
   bool isEmpty() const { return boundaries.empty(); }
+  bool hasUncarried() const;  ///< a line is dashed
+  bool hasBands() const;
   /// Of everything drawn, boundaries included; equal points without anything.
   Point2D lowerLeft() const;
   Point2D upperRight() const;
 };
 
+/// \param interpretation as it was built for the document
+/// \param errors of its profile; null for none
 RefractionScene refractionScene(const TomoDocument& document,
-                                const refractionDataStructure::processingData& results);
+                                const refractionDataStructure::Interpretation& interpretation,
+                                const ProfileErrors* errors = nullptr);
 
 /// The colour that stands for a layer (1 to 3) everywhere; grey for none. Told apart by those, too,
 /// who see red and green alike.
@@ -43,8 +53,9 @@ QColor layerColor(std::uint32_t layer, const QColor& paper);
 /// outlive the plot; changes show when the plot is painted next.
 namespace refraction_items {
 
-/// The ground from the surface, or the top of a refractor, down. \param name in the legend
-QwtPlotItem* layer(const RefractionScene& scene, std::uint32_t layer, const QString& name);
+/// All of it: grounds, error bands and tops of refractors, with what a legend needs, from the scene
+/// as it is now.
+std::vector<QwtPlotItem*> layers(const RefractionScene& scene, const QLocale& locale);
 QwtPlotItem* surface(const RefractionScene& scene, const QColor& color = Qt::black);
 
 }  // namespace refraction_items

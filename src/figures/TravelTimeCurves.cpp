@@ -38,7 +38,8 @@ std::vector<std::vector<Point2D>> linesThrough(const std::vector<double>& times,
   return lines;
 }
 
-TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool withComputed) {
+TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool withComputed,
+                        const std::vector<std::vector<double>>& layered) {
   const TravelTime& record = document.ttArray[index];
   const std::vector<Point2D> positions = document.receiversOf(record);
   const std::vector<std::size_t> order = alongTheLine(positions);
@@ -55,6 +56,7 @@ TravelTimeCurve curveOf(const TomoDocument& document, std::size_t index, bool wi
   }
   curve.measuredLines = linesThrough(record.ttMisurati, order, positions);
   if (withComputed) curve.computedLines = linesThrough(record.ttCalcolati, order, positions);
+  if (index < layered.size()) curve.layeredLines = linesThrough(layered[index], order, positions);
   curve.hasShot = isPosition(record.shotPos2d.x);
   if (curve.hasShot) curve.shot = {record.shotPos2d.x, 0.0};
   return curve;
@@ -75,12 +77,16 @@ void takeInTimes(TravelTimeCurves& result, const TravelTimeCurve& curve) {
     ++result.picks;
     if (pick.errorMs > 0.0) ++result.errors;
   }
-  for (const auto& line : curve.computedLines) {
-    for (const Point2D& p : line) {
-      takeIn(result, p, result.picks + result.computedTimes == 0);
-      ++result.computedTimes;
+  const auto takeInLines = [&](const std::vector<std::vector<Point2D>>& lines, std::size_t& count) {
+    for (const auto& line : lines) {
+      for (const Point2D& p : line) {
+        takeIn(result, p, result.picks + result.computedTimes + result.layeredTimes == 0);
+        ++count;
+      }
     }
-  }
+  };
+  takeInLines(curve.computedLines, result.computedTimes);
+  takeInLines(curve.layeredLines, result.layeredTimes);
   // While the first picks are set the figure keeps the width of the line.
   takeIn(result, {curve.firstReceiver, 0.0}, false);
   takeIn(result, {curve.lastReceiver, 0.0}, false);
@@ -99,11 +105,12 @@ void takeInShots(TravelTimeCurves& result) {
 
 }  // namespace
 
-TravelTimeCurves travelTimeCurves(const TomoDocument& document, bool computed) {
+TravelTimeCurves travelTimeCurves(const TomoDocument& document, bool computed,
+                                  const std::vector<std::vector<double>>& layered) {
   TravelTimeCurves result;
   for (std::size_t i = 0; i < document.ttArray.size(); ++i) {
-    TravelTimeCurve curve = curveOf(document, i, computed);
-    if (curve.picks.empty() && curve.computedLines.empty()) continue;
+    TravelTimeCurve curve = curveOf(document, i, computed, layered);
+    if (curve.picks.empty() && curve.computedLines.empty() && curve.layeredLines.empty()) continue;
     takeInTimes(result, curve);
     result.curves.push_back(std::move(curve));
   }

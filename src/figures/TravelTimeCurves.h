@@ -22,7 +22,8 @@ struct TravelTimeCurve {
   /// Lines through picks, or computed times, of neighbouring geophones.
   std::vector<std::vector<Point2D>> measuredLines;
   std::vector<std::vector<Point2D>> computedLines;
-  double firstReceiver = 0.0;  ///< metres; ends of the spread, picked or not
+  std::vector<std::vector<Point2D>> layeredLines;  ///< likewise, through layers
+  double firstReceiver = 0.0;                      ///< metres; ends of the spread, picked or not
   double lastReceiver = 0.0;
   bool hasShot = false;
   Point2D shot;  ///< at time 0
@@ -34,6 +35,7 @@ struct TravelTimeCurves {
   std::size_t picks = 0;
   std::size_t errors = 0;  ///< picks whose error is known
   std::size_t computedTimes = 0;
+  std::size_t layeredTimes = 0;
   double low = 0.0;  ///< metres, all receivers of the curves and shots; 0 without a time
   double high = 0.0;
   double latestMs = 0.0;  ///< milliseconds, with some room for error bars
@@ -43,6 +45,9 @@ struct TravelTimeCurves {
 /// string, else of the headers of its traces. A shot that lies off the receivers by more than their
 /// line is long counts as unknown.
 /// \param computed whether to take the computed times
-TravelTimeCurves travelTimeCurves(const TomoDocument& document, bool computed);
+/// \param layered times computed through layers, per record and geophone, seconds; not a number
+/// where there is none; empty for none at all
+TravelTimeCurves travelTimeCurves(const TomoDocument& document, bool computed,
+                                  const std::vector<std::vector<double>>& layered = {});
 
 }  // namespace talvesk

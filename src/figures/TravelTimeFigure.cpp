@@ -51,7 +51,7 @@ class TravelTimeSheet {
 TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
                                  const TravelTimeFigureOptions& options)
     : mOptions(options),
-      mCurves(travelTimeCurves(document, options.computed)),
+      mCurves(travelTimeCurves(document, options.computed, options.layered)),
       mTitle(options.title.empty() ? document.title : options.title) {
   if (mTitle.empty()) mTitle = FigureWords::tr("Travel times").toStdString();
   for (const TravelTimeCurve& curve : mCurves.curves) {
@@ -60,7 +60,8 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
     }
   }
   mLayout.computedTimes = mCurves.computedTimes;
-  mLook.joined = mCurves.computedTimes == 0;
+  mLayout.layeredTimes = mCurves.layeredTimes;
+  mLook.joined = mCurves.computedTimes + mCurves.layeredTimes == 0;
   mLook.errorBars = options.errorBars;
   mCaption = caption(document);
   mPlot.addAxis(QwtPlot::xBottom, FigureWords::distanceAxis());
@@ -68,6 +69,7 @@ TravelTimeSheet::TravelTimeSheet(const TomoDocument& document,
   using namespace travel_time_items;
   mPlot.add(measured(mCurves.curves, mLook));
   if (mLayout.computedTimes > 0) mPlot.add(computed(mCurves.curves, mLook));
+  if (mLayout.layeredTimes > 0) mPlot.add(layered(mCurves.curves, mLook));
   mPlot.add(shots(mCurves.curves, mLook));
 }
 
@@ -83,6 +85,7 @@ std::string TravelTimeSheet::caption(const TomoDocument& document) const {
     if (fit.count > 0) parts += FigureWords::chiSquare(fit);
     if (picksChangedSince(document)) parts += FigureWords::picksChanged();
   }
+  if (mLayout.layeredTimes > 0) parts += FigureWords::tr("dashed: times through the layers");
   return FigureWords::joined(parts).toStdString();
 }
 
@@ -109,7 +112,7 @@ void TravelTimeSheet::setScales(double width, double height) {
 }
 
 Status TravelTimeSheet::layOut() {
-  if (mLayout.picks.empty() && mLayout.computedTimes == 0) {
+  if (mLayout.picks.empty() && mLayout.computedTimes + mLayout.layeredTimes == 0) {
     return Status::failure(Message::tr(
         "There are no travel times to draw: pick first breaks, or load travel times, first."));
   }

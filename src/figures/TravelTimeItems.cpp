@@ -95,8 +95,8 @@ void drawSymbol(QPainter& painter, const QColor& color, const QColor& ground, co
   painter.drawEllipse(middle, 0.5 * size, 0.5 * size);
 }
 
-void drawIconLine(QPainter& painter, const QColor& color, const QSizeF& size, double width) {
-  painter.setPen(QPen(color, width));
+void drawIconLine(QPainter& painter, const QPen& pen, const QSizeF& size) {
+  painter.setPen(pen);
   painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
 }
 
@@ -131,7 +131,7 @@ QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, const TravelTi
     // A dot alone would be blown up to fill the icon.
     painter.setPen(Qt::NoPen);
     painter.drawRect(QRectF(QPointF(), size));
-    if (look.joined) drawIconLine(painter, look.icons, size, 0.9);
+    if (look.joined) drawIconLine(painter, QPen(look.icons, 0.9), size);
     drawSymbol(painter, look.icons, look.ground, {size.width() / 2, size.height() / 2}, kSymbol);
   };
   return figureItem(FigureWords::tr("Measured"), section_items::kContoursLayer, paint, icon);
@@ -147,9 +147,29 @@ QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves, const TravelTi
     });
   };
   const auto icon = [&look](QPainter& painter, const QSizeF& size) {
-    drawIconLine(painter, look.icons, size, 0.6);
+    drawIconLine(painter, QPen(look.icons, 0.6), size);
   };
   return figureItem(FigureWords::tr("Computed"), section_items::kRaysLayer, paint, icon);
+}
+
+QwtPlotItem* layered(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look) {
+  const auto dashed = [](const QColor& color, double width) {
+    QPen pen(color, width);
+    pen.setDashPattern({5.0, 3.0});
+    return pen;
+  };
+  const auto paint = [&curves, &look, dashed](QPainter& painter, const QwtScaleMap& xMap,
+                                              const QwtScaleMap& timeMap, const QRectF&) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    forEachCurve(curves, look, [&](const TravelTimeCurve& curve, const QColor& color, Strength by) {
+      painter.setPen(dashed(color, by.lines));
+      drawLines(painter, curve.layeredLines, xMap, timeMap);
+    });
+  };
+  const auto icon = [&look, dashed](QPainter& painter, const QSizeF& size) {
+    drawIconLine(painter, dashed(look.icons, 1.0), size);
+  };
+  return figureItem(FigureWords::tr("Layers"), section_items::kRaysLayer, paint, icon);
 }
 
 QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look) {

@@ -30,6 +30,8 @@ namespace travel_time_items {
 /// Picks; doubtful ones are rings where error bars are shown, and their bars are dashed.
 QwtPlotItem* measured(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);
 QwtPlotItem* computed(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);
+/// Times through layers: dashed.
+QwtPlotItem* layered(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);
 QwtPlotItem* shots(const std::vector<TravelTimeCurve>& curves, const TravelTimeLook& look);
 
 /// The colour of a record's curve.

@@ -12,11 +12,6 @@ namespace talvesk {
 struct LayerFill {
   bool spline = true;      ///< by layerSpline(), which rounds jumps off
   double thickness = 0.0;  ///< metres, of a jump that is graded; 0: sharp; a spline has none
-
-  // What users choose a thickness from, and where that starts, metres.
-  static constexpr double kLeastThickness = 0.01;
-  static constexpr double kMostThickness = 1000.0;
-  static constexpr double kUsualThickness = 2.0;
 };
 
 /// The velocity of layers as they are, m/s: within a layer it runs evenly from its top to its

@@ -82,10 +82,11 @@ Status checkLayers(const GridSize& size, const std::vector<VelocityLayer>& layer
   try {
     const Message problem = invalidVelocity(size, layerSpline(accepted));
     return problem.empty() ? Status() : Status::failure(problem);
-  } catch (const std::exception& error) {
-    return Status::failure(Message::tr("The layers make no velocity model. Order them by depth, "
-                                       "without overlap, each more than 0.02 m thick. %1")
-                               .arg(error.what()));
+  } catch (const std::exception&) {
+    // What the spline tells of it are its nodes, which nobody has typed.
+    return Status::failure(
+        Message::tr("The layers make no velocity model. Order them by depth, without overlap, each "
+                    "more than 0.02 m thick."));
   }
 }
 

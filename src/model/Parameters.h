@@ -53,6 +53,14 @@ inline constexpr Parameter<double> kLayerDepth = {
 inline constexpr Parameter<double> kLayerVelocity = {
     "layer-velocity", 0.0, {1.0, 999999.0}, "m/s", "Velocity at a layer's top or bottom"};
 
+/// Of layers that are graded into the grid, by the layer dialog or from a layered profile.
+inline constexpr Parameter<double> kGrading = {
+    "grading",
+    2.0,
+    {0.01, 1000.0, 2},
+    "metres",
+    "Thickness over which the jump from layer to layer is spread"};
+
 // An inversion.
 inline constexpr Parameter<int> kIterations = {
     "iterations", 10, {1, 999999999}, "", "External iterations, each with new rays"};

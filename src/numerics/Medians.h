@@ -17,6 +17,14 @@ inline double medianOf(std::vector<double> values, double none) {
   return *middle;
 }
 
+/// The same of those that are finite.
+inline double medianOfFinite(std::vector<double> values, double none) {
+  values.erase(
+      std::remove_if(values.begin(), values.end(), [](double v) { return !std::isfinite(v); }),
+      values.end());
+  return medianOf(std::move(values), none);
+}
+
 /// The median distance between neighbours that differ, above 0; 1 when there are none.
 /// \param ascending sorted
 inline double medianGap(const std::vector<double>& ascending) {

@@ -4,7 +4,6 @@
 
 #include <QLocale>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include <qwt_legend.h>
@@ -34,18 +33,8 @@ void RefractionProfilePlot::setScene(RefractionScene scene) {
     item->detach();
     delete item;
   }
-  const auto name = [](int layer, double velocity) {
-    return std::isfinite(velocity) && velocity > 0.0
-               ? tr("Layer %1, %2 m/s").arg(layer).arg(QLocale().toString(velocity, 'f', 0))
-               : tr("Layer %1").arg(layer);
-  };
   if (!mScene.isEmpty()) {
-    add(refraction_items::layer(mScene, 1, name(1, mScene.v1)));
-    for (const ProfileBoundary& boundary : mScene.boundaries) {
-      const std::uint32_t layer = boundary.refractor;
-      add(refraction_items::layer(mScene, layer,
-                                  name(static_cast<int>(layer), mScene.velocities[layer - 2])));
-    }
+    for (QwtPlotItem* item : refraction_items::layers(mScene, QLocale())) add(item);
     add(refraction_items::surface(mScene, palette().color(QPalette::Text)));
     using namespace section_items;
     add(markers(mScene.geophones, tr("Geophones"), Marker::kGeophone));

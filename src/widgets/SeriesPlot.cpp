@@ -34,17 +34,22 @@ void SeriesPlot::setSeries(std::vector<PlotSeries> series) {
   QRectF whole = mFrame;
   bool empty = true;
   double z = kLayer;
+  const auto take = [&](double x, double value) {
+    if (!isFinite({x, value})) return;
+    if (empty && mFrame.isNull()) whole = QRectF(x, value, 0.0, 0.0);
+    whole.setLeft(std::min(whole.left(), x));
+    whole.setRight(std::max(whole.right(), x));
+    whole.setTop(std::min(whole.top(), value));
+    whole.setBottom(std::max(whole.bottom(), value));
+    empty = false;
+  };
   for (const PlotSeries& curve : mSeries) {
     add(seriesItem(curve, z));
     z += 1e-3;
-    for (const Point2D& p : curve.points) {
-      if (!isFinite(p)) continue;
-      if (empty && mFrame.isNull()) whole = QRectF(p.x, p.z, 0.0, 0.0);
-      whole.setLeft(std::min(whole.left(), p.x));
-      whole.setRight(std::max(whole.right(), p.x));
-      whole.setTop(std::min(whole.top(), p.z));
-      whole.setBottom(std::max(whole.bottom(), p.z));
-      empty = false;
+    for (std::size_t j = 0; j < curve.points.size(); ++j) {
+      take(curve.points[j].x, curve.points[j].z);
+      if (j < curve.low.size()) take(curve.points[j].x, curve.low[j]);
+      if (j < curve.high.size()) take(curve.points[j].x, curve.high[j]);
     }
   }
   setWhole(whole, empty);

@@ -32,8 +32,9 @@ void TravelTimePlot::State::build() {
   widget.canvas()->setObjectName(QStringLiteral("travelTimeCanvas"));
   measured = travel_time_items::measured(curves.curves, look);
   computed = travel_time_items::computed(curves.curves, look);
+  layered = travel_time_items::layered(curves.curves, look);
   shots = travel_time_items::shots(curves.curves, look);
-  for (QwtPlotItem* item : {measured, computed, shots}) widget.add(item);
+  for (QwtPlotItem* item : {measured, computed, layered, shots}) widget.add(item);
   buildLegend();
   widget.addBelow(bar);
 }
@@ -44,13 +45,16 @@ void TravelTimePlot::State::buildLegend() {
   row->setContentsMargins(8, 2, 8, 6);
   measuredBox = new QCheckBox(bar);
   computedBox = new QCheckBox(bar);
-  for (QCheckBox* box : {measuredBox, computedBox}) {
-    box->setChecked(true);
+  layeredBox = new QCheckBox(bar);
+  for (QCheckBox* box : {measuredBox, computedBox, layeredBox}) {
+    box->setChecked(box != layeredBox);
     box->setIconSize(kIcon);
     row->addWidget(box);
   }
   measuredBox->setObjectName(QStringLiteral("measuredBox"));
   computedBox->setObjectName(QStringLiteral("computedBox"));
+  layeredBox->setObjectName(QStringLiteral("layeredBox"));
+  layeredBox->setEnabled(layeredPossible);
   shotIcon = new QLabel(bar);
   shotLabel = new QLabel(bar);
   row->addWidget(shotIcon);
@@ -69,6 +73,7 @@ void TravelTimePlot::State::buildLegend() {
   }
   connect(measuredBox, &QCheckBox::toggled, &widget, &TravelTimePlot::setShowMeasured);
   connect(computedBox, &QCheckBox::toggled, &widget, &TravelTimePlot::setShowComputed);
+  connect(layeredBox, &QCheckBox::toggled, &widget, &TravelTimePlot::setShowLayered);
   connect(fitButton, &QToolButton::clicked, &widget, &TravelTimePlot::fit);
   connect(exportButton, &QToolButton::clicked, &widget, &TravelTimePlot::exportRequested);
 }
@@ -81,6 +86,7 @@ void TravelTimePlot::dress() {
   s.look.icons = colors.text;
   s.measuredBox->setIcon(iconOf(*s.measured));
   s.computedBox->setIcon(iconOf(*s.computed));
+  s.layeredBox->setIcon(iconOf(*s.layered));
   s.shotIcon->setPixmap(iconOf(*s.shots).pixmap(kIcon));
   repaintPlot();
 }
@@ -94,6 +100,8 @@ void TravelTimePlot::retranslate() {
   setTexts({}, tr("Distance [m]"), tr("Time [ms]"));
   s.measuredBox->setText(tr("&Measured"));
   s.computedBox->setText(tr("&Computed"));
+  s.layeredBox->setText(tr("&Layers"));
+  s.describeLayered();
   s.shotLabel->setText(tr("Shots"));
   s.fitButton->setText(tr("&Fit"));
   s.fitButton->setToolTip(tr("Show all curves"));
@@ -103,7 +111,8 @@ void TravelTimePlot::retranslate() {
 }
 
 void TravelTimePlot::State::readDocument() {
-  curves = document == nullptr ? TravelTimeCurves() : travelTimeCurves(*document, true);
+  curves =
+      document == nullptr ? TravelTimeCurves() : travelTimeCurves(*document, true, layeredTimes);
   const auto count = document == nullptr ? 0 : static_cast<int>(document->ttArray.size());
   if (current >= count) current = -1;
   look.current = current < 0 ? TravelTimeLook::kNone : static_cast<std::size_t>(current);
@@ -115,15 +124,27 @@ void TravelTimePlot::State::readDocument() {
 
 /// Lines through the picks would hide computed ones close to them.
 void TravelTimePlot::State::followVisibility() {
-  const bool lines = computedShown && curves.computedTimes > 0;
+  const bool computedLines = computedShown && curves.computedTimes > 0;
+  const bool layeredLines = layeredShown && curves.layeredTimes > 0;
+  const bool lines = computedLines || layeredLines;
   if (look.joined == lines) {
     look.joined = !lines;
     measuredBox->setIcon(iconOf(*measured));
   }
   measured->setVisible(measuredShown);
-  computed->setVisible(lines);
+  computed->setVisible(computedLines);
+  layered->setVisible(layeredLines);
   const double latest = curves.latestMs > 0.0 ? curves.latestMs : 1e3;
   widget.setWhole({curves.low, 0.0, curves.high - curves.low, latest}, curves.curves.empty());
+}
+
+void TravelTimePlot::State::describeLayered() {
+  layeredBox->setEnabled(layeredPossible);
+  layeredBox->setToolTip(
+      layeredPossible
+          ? TravelTimePlot::tr("Times computed through the layers of the refraction interpretation")
+          : TravelTimePlot::tr("There are no layers of these picks: build the profiles of the "
+                               "refraction interpretation (anew)."));
 }
 
 void TravelTimePlot::State::describeCurrent() {
@@ -193,6 +214,7 @@ void TravelTimePlot::setDocument(const TomoDocument* document) {
   s.document = document;
   s.current = -1;
   s.highlighted = -1;
+  s.layeredTimes.clear();
   s.readDocument();
 }
 
@@ -212,6 +234,25 @@ void TravelTimePlot::setHighlightedTrace(int trace) {
 
 bool TravelTimePlot::showsComputed() const {
   return mState->computedShown;
+}
+
+bool TravelTimePlot::showsLayered() const {
+  return mState->layeredShown;
+}
+
+const std::vector<std::vector<double>>& TravelTimePlot::layered() const {
+  return mState->layeredTimes;
+}
+
+void TravelTimePlot::setLayered(std::vector<std::vector<double>> times) {
+  if (times.empty() && mState->layeredTimes.empty()) return;
+  mState->layeredTimes = std::move(times);
+  mState->readDocument();
+}
+
+void TravelTimePlot::setLayeredPossible(bool possible) {
+  mState->layeredPossible = possible;
+  mState->describeLayered();
 }
 
 bool TravelTimePlot::isEmpty() const {
@@ -252,6 +293,14 @@ void TravelTimePlot::setShowComputed(bool show) {
   mState->computedShown = show;
   mState->computedBox->setChecked(show);
   mState->followVisibility();
+}
+
+void TravelTimePlot::setShowLayered(bool show) {
+  if (mState->layeredShown == show) return;
+  mState->layeredShown = show;
+  mState->layeredBox->setChecked(show);
+  mState->followVisibility();
+  emit layeredToggled(show);
 }
 
 QSize TravelTimePlot::sizeHint() const {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace talvesk {
 
@@ -42,10 +43,18 @@ class TravelTimePlot : public PlotPage {
   /// Without one the picks cannot be dragged.
   void setEditor(EditPick edit);
 
+  /// Times computed through layers, per record and trace, seconds; not a number where there is
+  /// none, empty for none at all. Forgotten with the document.
+  void setLayered(std::vector<std::vector<double>> times);
+  /// Whether there are such times, or could be once they are shown; else the box says why not.
+  void setLayeredPossible(bool possible);
+
   /// A ring around the pick of a trace of the current shot; -1 none.
   void setHighlightedTrace(int trace);
 
   bool showsComputed() const;
+  bool showsLayered() const;
+  const std::vector<std::vector<double>>& layered() const;  ///< as they were set
   bool showsErrorBars() const;
   bool isEmpty() const;  ///< there is no time to draw; a text says what to do
 
@@ -60,11 +69,13 @@ class TravelTimePlot : public PlotPage {
   void refresh();  ///< times, positions or shots of the document changed
   void setShowMeasured(bool show);
   void setShowComputed(bool show);
+  void setShowLayered(bool show);
   void setErrorBars(bool show);  ///< of picks whose error is known
 
  signals:
   void shotChosen(int shot);             ///< by mouse or keys, from 0
   void pickEdited(int shot, int trace);  ///< by mouse; the document has the new time
+  void layeredToggled(bool shown);       ///< times through layers are to be shown, or no longer
   void exportRequested();                ///< the user wants the curves as a picture
 
  protected:

@@ -110,6 +110,7 @@ int TravelTimePlot::State::curveAt(const QPointF& at) const {
     const auto shot = static_cast<int>(curve.record);
     if (measuredShown && look.joined) lookAt(curve.measuredLines, shot);
     if (computedShown) lookAt(curve.computedLines, shot);
+    if (layeredShown) lookAt(curve.layeredLines, shot);
     if (!curve.hasShot) continue;
     const double away = distance(at, point(curve.shot));
     if (away < nearest) {
@@ -247,6 +248,12 @@ void TravelTimePlot::State::tell(const QHelpEvent& event) {
       curves.computedTimes > 0) {
     text += QLatin1Char('\n') +
             TravelTimePlot::tr("Computed: %1 ms").arg(milliseconds(record.ttCalcolati[trace]));
+  }
+  const auto shot = static_cast<std::size_t>(pick->shot);
+  if (layeredShown && shot < layeredTimes.size() && trace < layeredTimes[shot].size() &&
+      std::isfinite(layeredTimes[shot][trace])) {
+    text += QLatin1Char('\n') +
+            TravelTimePlot::tr("Layers: %1 ms").arg(milliseconds(layeredTimes[shot][trace]));
   }
   QToolTip::showText(event.globalPos(), text, widget.canvas());
 }

@@ -34,6 +34,7 @@ struct TravelTimePlot::State {
   void buildLegend();
   void readDocument();
   void followVisibility();  ///< of measured and computed times
+  void describeLayered();
   void describeCurrent();
   void chooseShot(int shot);
   void walk(int curves);
@@ -63,6 +64,9 @@ struct TravelTimePlot::State {
   TravelTimeLook look;
   bool measuredShown = true;
   bool computedShown = true;
+  bool layeredShown = false;
+  bool layeredPossible = false;
+  std::vector<std::vector<double>> layeredTimes;
 
   std::unique_ptr<PlotTool> pickTool;
   std::unique_ptr<PlotTool> chooseTool;  ///< the shot, by a click; else a rectangle to zoom to
@@ -71,6 +75,7 @@ struct TravelTimePlot::State {
   QWidget* bar = nullptr;
   QCheckBox* measuredBox = nullptr;
   QCheckBox* computedBox = nullptr;
+  QCheckBox* layeredBox = nullptr;
   QLabel* shotIcon = nullptr;
   QLabel* shotLabel = nullptr;
   QLabel* currentLabel = nullptr;
@@ -78,6 +83,7 @@ struct TravelTimePlot::State {
   QToolButton* exportButton = nullptr;
   QwtPlotItem* measured = nullptr;
   QwtPlotItem* computed = nullptr;
+  QwtPlotItem* layered = nullptr;
   QwtPlotItem* shots = nullptr;
 };
 

@@ -325,7 +325,7 @@ TEST(Refract, comparesMethodsInJsonTableAndReport) {
   EXPECT_EQ(json["refractors"][0]["depth_support"].size(), json["refractors"][0]["depth"].size());
   EXPECT_EQ(json["refractors"][0]["xy_choice"]["tried"].size(), 13U);
   EXPECT_THAT(contentsOf(table), HasSubstr("Layer 3\nx elevation reciprocal-depth "));
-  EXPECT_THAT(outcome.err, HasSubstr("Layer 2, delay-times: 1200"));
+  EXPECT_THAT(outcome.err, HasSubstr("Layer 2, delay times: 1200"));
   EXPECT_TRUE(survey.folder.holds("methods.odt"));
 }
 

@@ -21,9 +21,7 @@ TEST(RefractionFigure, paintsTheLayersWhereTheyLie) {
   QByteArray bytes;
   PlotPlace place;
   RefractionFigureOptions options;
-  ASSERT_TRUE(
-      renderRefractionFigure(line, all.refractData, options, FigureFormat::kPng, bytes, &place)
-          .ok());
+  ASSERT_TRUE(renderRefractionFigure(line, all, options, FigureFormat::kPng, bytes, &place).ok());
   const QImage image = QImage::fromData(bytes);
   const auto colorAt = [&](double x, double elevation) {
     const double perMm = options.dpi / 25.4;
@@ -53,7 +51,7 @@ TEST(RefractionFigure, saysThatPicksHaveChangedSince) {
   ASSERT_TRUE(buildProfiles(shotArrivals(line), all).built);
   const auto says = [&] {
     QByteArray svg;
-    EXPECT_TRUE(renderRefractionFigure(line, all.refractData, {}, FigureFormat::kSvg, svg).ok());
+    EXPECT_TRUE(renderRefractionFigure(line, all, {}, FigureFormat::kSvg, svg).ok());
     return svg.contains("Picks have changed since this was built");
   };
   EXPECT_FALSE(says());

@@ -87,9 +87,55 @@ TEST(MethodComparison, hasNoBandsWithoutMembersAndWhenStopped) {
   const LayerPicks picks = dippingPicks();
   const std::vector<LayerMethod> methods(std::begin(kPlusMinusOnly), std::end(kPlusMinusOnly));
   EXPECT_TRUE(compareMethods(picks, methods, {}).results[0].layers[0].depthBand.empty());
-  const MethodComparison stopped = compareMethods(picks, methods, {50, 1, 0}, [] { return false; });
+  const MethodComparison stopped =
+      compareMethods(picks, methods, {50, 1, 0}, [](std::size_t) { return false; });
   EXPECT_TRUE(stopped.results[0].layers[0].depthBand.empty());
   EXPECT_TRUE(stopped.disagreements.empty());
+}
+
+TEST(MethodComparison, tellsHowManyMembersAreDone) {
+  std::vector<std::size_t> told;
+  compareMethods(dippingPicks(), {LayerMethod::kPlusMinus}, {4, 1, 1}, [&](std::size_t done) {
+    told.push_back(done);
+    return true;
+  });
+  EXPECT_EQ(told, (std::vector<std::size_t>{0, 1, 2, 3, 4}));
+}
+
+/// A result of one refractor by its depths alone.
+MethodResult resultOf(LayerMethod method, std::vector<double> depths) {
+  MethodResult result;
+  result.method = method;
+  MethodLayer layer;
+  layer.velocity.assign(depths.size(), std::nan(""));
+  layer.depthSupport.assign(depths.size(), Support::kPicks);
+  for (std::size_t j = 0; j < depths.size(); ++j) {
+    result.receivers.push_back({5.0 * static_cast<double>(j), 0.0});
+  }
+  layer.depth = std::move(depths);
+  result.layers.push_back(std::move(layer));
+  return result;
+}
+
+TEST(MethodComparison, tellsWhereMethodsAreFarthestApart) {
+  const double none = std::nan("");
+  MethodComparison comparison;
+  comparison.results = {resultOf(LayerMethod::kReciprocal, {9.0, 5.0, 6.0, 1.0}),
+                        resultOf(LayerMethod::kDelayTimes, {none, 5.0, 6.5, 1.0}),
+                        resultOf(LayerMethod::kIntercept, {none, 6.0, 4.5, 1.0})};
+  const auto found = greatestDifference(comparison, 2, &MethodLayer::depth);
+  ASSERT_TRUE(found) << "one method alone, at 0 m, is apart from none";
+  EXPECT_EQ(found->receiver, 2U);
+  EXPECT_EQ(found->low, LayerMethod::kIntercept);
+  EXPECT_EQ(found->high, LayerMethod::kDelayTimes);
+  EXPECT_EQ(found->greatest - found->least, 2.0);
+  EXPECT_FALSE(greatestDifference(comparison, 2, &MethodLayer::velocity));
+  EXPECT_FALSE(greatestDifference(comparison, 3, &MethodLayer::depth));
+  const std::vector<Message> lines = comparisonDifferences(comparison, 2);
+  ASSERT_EQ(lines.size(), 1U);
+  EXPECT_EQ(lines[0].english(),
+            "Layer 2: depths are farthest apart at 10 m, from 4.5 m (intercept times) to 6.5 m "
+            "(delay times)");
 }
 
 TEST(MethodComparison, movesPicksByTheirErrorsAndKeepsThemPicks) {
@@ -117,7 +163,7 @@ TEST(MethodComparison, standsInATableSideBySide) {
   EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 62);
   std::string summary;
   for (const Message& line : comparisonSummary(comparison)) summary += line.english() + '\n';
-  EXPECT_THAT(summary, HasSubstr("Layer 2, delay-times: 1799 ± "));
+  EXPECT_THAT(summary, HasSubstr("Layer 2, delay times: 1799 ± "));
   EXPECT_THAT(summary, HasSubstr(" of 60 geophones, in velocity at "));
 }
 

@@ -9,6 +9,7 @@
 #include "ui_CompareLayersDialog.h"
 #include "view/ComparisonLines.h"
 
+#include <QHeaderView>
 #include <QLocale>
 #include <QScreen>
 #include <QSignalBlocker>
@@ -41,6 +42,7 @@ CompareLayersDialog::CompareLayersDialog(const TomoDocument& document,
   mUi->setupUi(this);
   wrapToolTips(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
+  mUi->table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   mSheet->setObjectName(QStringLiteral("sheet"));
   mUi->sheetArea->setWidget(mSheet);
   mUi->velocityEdit->setRange(static_cast<int>(parameters::kLayerVelocity.limits.least),

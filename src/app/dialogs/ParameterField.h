@@ -21,4 +21,11 @@ inline void setUpField(QDoubleSpinBox& field, const Parameter<double>& parameter
   field.setValue(parameter.initial);
 }
 
+/// How far a field goes: "0.01 m – 1000.00 m".
+template <typename Field>
+QString limitsOf(const Field& field) {
+  const auto bound = [&field](auto value) { return field.textFromValue(value) + field.suffix(); };
+  return QStringLiteral("%1 \u2013 %2").arg(bound(field.minimum()), bound(field.maximum()));
+}
+
 }  // namespace talvesk

@@ -75,9 +75,12 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   mUi->phantomSplitter->setSizes({620, 440});
   mUi->shiftTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  mUi->criteriaSplitter->setSizes({760, 300});
   mUi->profileSplitter->setSizes({260, 340});
-  mUi->resultSplitter->setSizes({760, 280});
-  mUi->misfitTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  mUi->resultSplitter->setSizes({720, 400});
+  for (QTableWidget* table : {mUi->misfitTable, mUi->profileTable}) {
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  }
   nameThings();
   fillChoosers();
   connectCurves();
@@ -155,10 +158,13 @@ void RefractionProcessingDialog::connectCurves() {
   connect(mUi->shotCombo, chosen, this, [this](int index) { chooseShot(index - 1); });
   connect(curves, &LayerCurvesPlot::shotChosen, this, [this](int shot) { chooseShot(shot); });
   connect(curves, &LayerCurvesPlot::marked, this, &RefractionProcessingDialog::mark);
+  connect(mUi->errorBands, &ErrorBands::changed, this, &RefractionProcessingDialog::showProfile);
   connect(mFitting, &BackgroundFit::found, this, [this](const LayeredFit& fit) {
     mFit = fit;
     showFit();
   });
+  connect(mUi->xyCriteria, &XYCriteria::xyWanted, this, &RefractionProcessingDialog::takeXY,
+          Qt::QueuedConnection);  // the plot that asks is filled anew
   connect(curves, &LayerCurvesPlot::branchRead, this, &RefractionProcessingDialog::showReading);
 }
 
@@ -207,6 +213,7 @@ void RefractionProcessingDialog::changeMarks(const QString& text, const Marks& a
 void RefractionProcessingDialog::marksChanged() {
   mUi->curvesPlot->setMarks(mWork.ttLayer);
   mUi->clearButton->setEnabled(hasMarks(mWork.ttLayer));
+  mUi->methodsButton->setEnabled(hasMarks(mWork.ttLayer));
   QStringList changed;
   if (picksChangedSince(mShots, mWork.refractData)) {
     changed << tr("The picks have changed since the profiles were built.");
@@ -215,6 +222,7 @@ void RefractionProcessingDialog::marksChanged() {
     changed << tr("The marks have changed since the profiles were built.");
   }
   mUi->staleLabel->setText(changed.join(QLatin1Char(' ')));
+  followErrors();
   showProposal();
   refreshShot();
 }

@@ -9,6 +9,7 @@
 
 #include <QDialog>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -22,6 +23,8 @@ class RefractionProcessingDialog;
 }
 class BackgroundFit;
 class TomoDocument;
+struct MethodComparison;
+struct ProfileErrors;
 
 /// Turns picks into layers: marks on the travel-time curves, phantom arrivals, tV and tG,
 /// velocities and the section of layers. It works on a copy of the interpretation, which the caller
@@ -39,8 +42,14 @@ class RefractionProcessingDialog : public QDialog {
   const refractionDataStructure::Interpretation& interpretation() const { return mWork; }
   QUndoStack* undoStack() const { return mUndo; }
   bool profileBuilt() const { return mBuilt; }  ///< since the dialog was opened
+  /// Of the profile as it is shown; null where none were found.
+  std::shared_ptr<const ProfileErrors> profileErrors() const;
   /// Whether marks differ from those that it was opened with, or curves or a profile were built.
   bool hasChanges() const;
+
+  /// Asked to write the layers by several methods that are shown.
+  std::function<void(const MethodComparison&)> methodsPictureWanted;
+  std::function<void(const MethodComparison&)> methodsTableWanted;
 
  public slots:
   /// Escape and closing the window: asks when marks, curves or a profile would be lost. The button
@@ -54,6 +63,7 @@ class RefractionProcessingDialog : public QDialog {
   void on_enabledCheck_clicked(bool checked);
   void on_pushAutoPhantButton_clicked();
   void on_buildButton_clicked();
+  void on_methodsButton_clicked();
   void on_refractorCombo_activated(int index);
   void on_xyCombo_activated(int index);
 
@@ -84,6 +94,8 @@ class RefractionProcessingDialog : public QDialog {
   void showShifts();
   void showFunctions();
   void fillXY(std::uint32_t refractor);
+  void takeXY(double xy);
+  void followErrors();
   void showProfile();
   void showResults();
 

@@ -2,14 +2,19 @@
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/MisfitTable.h"
+#include "app/dialogs/ProfileTable.h"
 #include "app/dialogs/RefractionProcessingDialog.h"
 #include "app/dialogs/RefractionTexts.h"
 #include "figures/RefractionItems.h"
+#include "model/ChiSquare.h"
 #include "model/TomoDocument.h"
+#include "refraction/PicksFingerprint.h"
 #include "refraction/Profile.h"
 #include "refraction/ReciprocalMethod.h"
+#include "refraction/Support.h"
 #include "refraction/WeighedPicks.h"
 #include "refraction/XYChoice.h"
+#include "refraction/methods/ProfileErrors.h"
 #include "ui_RefractionProcessingDialog.h"
 
 #include <QApplication>
@@ -270,6 +275,7 @@ void RefractionProcessingDialog::showFunctions() {
   const int refractor = mUi->refractorCombo->currentIndex();
   std::vector<PlotSeries> tV;
   std::vector<PlotSeries> tG;
+  if (refractor < 0) mUi->xyCriteria->clear();
   if (refractor >= 0) {
     const computedData& found = mWork.refractData.cData[static_cast<std::size_t>(refractor)];
     // A project may have an XY that is none of the family.
@@ -322,13 +328,17 @@ void RefractionProcessingDialog::fillXY(std::uint32_t refractor) {
   propose(choice.mostEven, tr("most even velocity"));
   mUi->xyFoundLabel->setText(found.join(QStringLiteral("; ")));
   QStringList criteria;
+  QStringList texts;
   for (const XYTried& tried : choice.tried) {
+    texts << QString();
     if (!std::isfinite(tried.roughness) || !std::isfinite(tried.unevenness)) continue;
-    criteria << tr("%1 m: tV rough by %2 ms, velocity uneven by %3 %")
-                    .arg(locale.toString(tried.xy, 'g', 6),
-                         locale.toString(kMs * tried.roughness, 'f', 3),
-                         locale.toString(100.0 * tried.unevenness, 'f', 1));
+    texts.back() =
+        tr("%1 m: tV rough by %2 ms, velocity uneven by %3 %")
+            .arg(locale.toString(tried.xy, 'g', 6), locale.toString(kMs * tried.roughness, 'f', 3),
+                 locale.toString(100.0 * tried.unevenness, 'f', 1));
+    criteria << texts.back();
   }
+  mUi->xyCriteria->setChoice(choice, chosen, texts);
   mUi->xyFoundLabel->setToolTip(criteria.join(QLatin1Char('\n')));
   combo.setCurrentIndex(combo.findData(chosen));
 }
@@ -337,19 +347,24 @@ void RefractionProcessingDialog::on_refractorCombo_activated(int) {
   showFunctions();
 }
 
-void RefractionProcessingDialog::on_xyCombo_activated(int index) {
-  const int refractor = mUi->refractorCombo->currentIndex();
-  if (refractor < 0) return;
-  const auto layer = static_cast<std::uint32_t>(refractor) + 2;
-  const double before = mWork.refractData.cData[static_cast<std::size_t>(refractor)].chosenXY;
-  chooseXY(mWork, layer, mUi->xyCombo->itemData(index).toDouble());
-  if (build(mWarnings)) return;
-  chooseXY(mWork, layer, before);
-  showFunctions();
+std::shared_ptr<const ProfileErrors> RefractionProcessingDialog::profileErrors() const {
+  return mUi->errorBands->errors();
+}
+
+/// Errors are those of the profile, the marks and the picks that they were found of.
+void RefractionProcessingDialog::followErrors() {
+  if (mWork.refractData.cData.empty()) {
+    mUi->errorBands->setNone(tr("There is no profile yet."));
+  } else if (mStale || picksChangedSince(mShots, mWork.refractData)) {
+    mUi->errorBands->setNone(tr("Picks or marks have changed: build the profiles again."));
+  } else {
+    mUi->errorBands->setPicks(layerPicksOf(mDocument, mWork, errorRuleOf(mDocument)));
+  }
 }
 
 void RefractionProcessingDialog::showProfile() {
   const processingData& results = mWork.refractData;
+  const auto errors = profileErrors();
   std::vector<PlotSeries> velocities;
   const QColor first = shown(1);
   const std::vector<Point2D> surface = profileSurface(results);
@@ -357,8 +372,11 @@ void RefractionProcessingDialog::showProfile() {
     PlotSeries series;
     series.name = tr("Layer %1").arg(1);
     series.color = first;
-    series.dashed = true;
     series.points = {{surface.front().x, results.v1}, {surface.back().x, results.v1}};
+    if (errors != nullptr) {
+      series.low.assign(2, results.v1 - errors->v1Error);
+      series.high.assign(2, results.v1 + errors->v1Error);
+    }
     velocities.push_back(std::move(series));
   }
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
@@ -366,8 +384,17 @@ void RefractionProcessingDialog::showProfile() {
         seriesOf(tr("Layer %1").arg(i + 2), results.cData[i].x, results.cData[i].velocity, 1.0));
     velocities.back().color = shown(static_cast<std::uint32_t>(i) + 2);
     velocities.back().symbols = true;
+    for (const Support one : supportOf(mShots, mWork, static_cast<std::uint32_t>(i) + 2).velocity) {
+      velocities.back().loose.push_back(one != Support::kPicks);
+    }
+    if (errors != nullptr && i < errors->refractors.size()) {
+      velocities.back().low = errors->refractors[i].velocity.low;
+      velocities.back().high = errors->refractors[i].velocity.high;
+    }
   }
-  RefractionScene scene = refractionScene(mDocument, results);
+  RefractionScene scene = refractionScene(mDocument, mWork, errors.get());
+  fillProfileTable(mShots, mWork, errors.get(), *mUi->profileTable);
+  mUi->profileTable->setVisible(mUi->profileTable->rowCount() > 0);
   // Velocities begin at 0 and lie above the places that they belong to.
   const double left = scene.lowerLeft().x;
   mUi->velocityPlot->setFrame(QRectF(left, 0.0, scene.upperRight().x - left, 0.0));

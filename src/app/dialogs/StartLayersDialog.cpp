@@ -4,8 +4,8 @@
 #include "app/ToolTips.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/FigureSheetWidget.h"
+#include "app/dialogs/ParameterField.h"
 #include "figures/SectionFigure.h"
-#include "grid/SharpLayers.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/LayeredProfile.h"
 #include "ui_StartLayersDialog.h"
@@ -27,8 +27,8 @@ StartLayersDialog::StartLayersDialog(const TomoDocument& document,
   mUi->setupUi(this);
   wrapToolTips(*this);
   mUi->sheetArea->setWidget(mSheet);
-  mUi->thicknessEdit->setRange(LayerFill::kLeastThickness, LayerFill::kMostThickness);
-  mUi->thicknessEdit->setValue(LayerFill::kUsualThickness);
+  setUpField(*mUi->thicknessEdit, parameters::kGrading);
+  mUi->limitsLabel->setText(limitsOf(*mUi->thicknessEdit));
   connect(mUi->sharpRadio, &QRadioButton::toggled, this, &StartLayersDialog::fill);
   connect(mUi->thicknessEdit, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
           &StartLayersDialog::fill);

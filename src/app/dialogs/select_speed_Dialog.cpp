@@ -4,6 +4,7 @@
 #include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "app/WaitCursor.h"
+#include "app/dialogs/ParameterField.h"
 #include "app/dialogs/setVelocityWidget.h"
 #include "base/Console.h"
 #include "model/GroundModel.h"
@@ -31,6 +32,9 @@ constexpr int kProblemLines = 2;  // that the place for the problem holds withou
 select_speed_Dialog::select_speed_Dialog(TomoDocument& document, QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::select_speed_Dialog>()), mDocument(document) {
   mUi->setupUi(this);
+  setUpField(*mUi->thicknessEdit, parameters::kGrading);
+  mUi->thicknessEdit->setToolTip(mUi->thicknessEdit->toolTip() + QStringLiteral(": ") +
+                                 limitsOf(*mUi->thicknessEdit));
   wrapToolTips(*this);
   mUi->problemLabel->setStyleSheet(warningStyle(*this));
   mUi->problemLabel->setMinimumHeight(kProblemLines * fontMetrics().lineSpacing());
@@ -44,8 +48,6 @@ select_speed_Dialog::select_speed_Dialog(TomoDocument& document, QWidget* parent
 select_speed_Dialog::~select_speed_Dialog() = default;
 
 void select_speed_Dialog::connectFill() {
-  mUi->thicknessEdit->setRange(LayerFill::kLeastThickness, LayerFill::kMostThickness);
-  mUi->thicknessEdit->setValue(LayerFill::kUsualThickness);
   mUi->thicknessEdit->setEnabled(false);
   connect(mUi->fillCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
           [this](int entry) {

@@ -3,12 +3,13 @@
 namespace talvesk {
 
 Presenters::Presenters(Desk& desk)
-    : settings(desk),
+    : layered(desk.session),
+      settings(desk),
       traces(desk),
       checks(desk),
       reciprocity(desk),
       traceOptions(desk),
-      curves(desk),
+      curves(desk, layered),
       section(desk),
       palettes(desk),
       contours(desk),
@@ -28,11 +29,11 @@ Presenters::Presenters(Desk& desk)
       resolution(desk),
       processing(desk),
       review(desk),
-      refraction(desk),
+      refraction(desk, layered),
       layers(desk, models, projects),
       exports(desk),
       records(desk),
-      reports(desk),
+      reports(desk, layered),
       help(desk) {
   settings.changed = [this] { traceOptions.refresh(); };
   projects.fileChanged = [this] { survey.refresh(); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/LayeredModel.h"
 #include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
 #include "app/presenters/ContoursPresenter.h"
@@ -41,6 +42,7 @@ struct Command;
 struct Presenters {
   explicit Presenters(Desk& desk);
 
+  LayeredModel layered;  ///< forgets before the others show
   // They hear of a change in this order.
   SettingsPresenter settings;
   TracesPresenter traces;

@@ -1,5 +1,6 @@
 #include "app/presenters/ReportPresenter.h"
 
+#include "app/LayeredModel.h"
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/ImagesDialog.h"
@@ -55,6 +56,7 @@ void ReportPresenter::writePictures() {
   look.refractors = refractors();
   look.horizontalColorBar = mDesk.settings.savePngHColorbar;
   look.errorBars = mDesk.settings.errorBars;
+  look.profileErrors = mLayered.errors();
   ImagesDialog dialog(mDesk.document(), mDesk.interpretation(), look, mDesk.shot.index(),
                       &mDesk.window);
   QSettings remembered(mDesk.windowStateFile(), QSettings::IniFormat);
@@ -139,8 +141,10 @@ void ReportPresenter::writeReportAs(const QString& title, const QString& filter,
   options.title = mDesk.document().title;
   options.date = QLocale().toString(QDate::currentDate(), QLocale::LongFormat).toStdString();
   options.section = sectionFigureOptions(mDesk.section(), mDesk.palettes().current(), refractors());
-  const auto build = [this](const ReportOptions& chosen, ReportContent& content) {
-    return buildReport({mDesk.document(), &mDesk.interpretation()}, chosen, content);
+  const LayeredFit* fit = mLayered.hasProfile() ? &mLayered.findNow(mDesk.window) : nullptr;
+  const auto build = [this, fit](const ReportOptions& chosen, ReportContent& content) {
+    return buildReport({mDesk.document(), &mDesk.interpretation(), nullptr, fit, mLayered.errors()},
+                       chosen, content);
   };
   ReportDialog dialog(options, build, &mDesk.window);
   QSettings remembered(mDesk.windowStateFile(), QSettings::IniFormat);

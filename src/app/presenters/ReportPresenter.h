@@ -7,6 +7,7 @@
 
 namespace talvesk {
 
+class LayeredModel;
 struct PlannedImage;
 
 /// Pictures and reports.
@@ -14,7 +15,7 @@ class ReportPresenter : public QObject {
   Q_DECLARE_TR_FUNCTIONS(talvesk::Talvesk_MainWindows)
 
  public:
-  explicit ReportPresenter(Desk& desk) : mDesk(desk) {}
+  ReportPresenter(Desk& desk, LayeredModel& layered) : mDesk(desk), mLayered(layered) {}
 
   // Each asks what and where to, and tells what became of it.
 
@@ -31,6 +32,7 @@ class ReportPresenter : public QObject {
   std::vector<SectionLine> refractors() const;
 
   Desk& mDesk;
+  LayeredModel& mLayered;
 };
 
 }  // namespace talvesk

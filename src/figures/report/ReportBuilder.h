@@ -52,6 +52,7 @@ void addInversion(ReportBuilder& builder);
 Status addSections(ReportBuilder& builder);
 Status addMisfit(ReportBuilder& builder);
 Status addRefraction(ReportBuilder& builder);
+void addLayerFit(ReportBuilder& builder);      ///< nothing where no misfit is known
 void addLayerMethods(ReportBuilder& builder);  ///< nothing where only the profile was built
 void addMethod(ReportBuilder& builder);
 

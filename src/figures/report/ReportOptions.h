@@ -9,7 +9,9 @@
 namespace talvesk {
 
 class TomoDocument;
+struct LayeredFit;
 struct MethodComparison;
+struct ProfileErrors;
 
 /// Which parts of a survey a report tells of. A part that the survey has nothing of is left out;
 /// the inversion and the travel times then say so in a line.
@@ -47,6 +49,8 @@ struct ReportSource {
   const TomoDocument& document;
   const refractionDataStructure::Interpretation* interpretation = nullptr;
   const MethodComparison* methods = nullptr;  ///< of the layers; null: only the profile
+  const LayeredFit* fit = nullptr;            ///< of the profile; null: its misfit is not told
+  const ProfileErrors* errors = nullptr;      ///< of the profile; null: none are known
 };
 
 }  // namespace talvesk

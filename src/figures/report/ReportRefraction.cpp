@@ -2,8 +2,11 @@
 #include "figures/report/ReportBuilder.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
+#include "numerics/Medians.h"
 #include "refraction/PicksFingerprint.h"
 #include "refraction/Profile.h"
+#include "refraction/Support.h"
+#include "refraction/methods/ProfileErrors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,25 +36,100 @@ QString velocities(double low, double high) {
              : number(low, 0);
 }
 
+QString supportText(Support support) {
+  switch (support) {
+    case Support::kPicks:
+      return ReportWords::tr("picks");
+    case Support::kPhantom:
+      return ReportWords::tr("phantom");
+    case Support::kGap:
+      return ReportWords::tr("gap");
+    case Support::kExtrapolated:
+      return ReportWords::tr("continuation");
+  }
+  return {};
+}
+
+/// "5.20 ± 0.31", in parentheses where it is not picks that carry it.
+QString valueText(double value, double error, bool carried, int places) {
+  QString text = number(value, places);
+  if (!std::isfinite(value)) return text;
+  if (std::isfinite(error)) text += QString::fromUtf8(" ± ") + number(error, places);
+  return carried ? text : '(' + text + ')';
+}
+
+bool isCarried(const std::vector<Support>& support, std::size_t j) {
+  return j >= support.size() || support[j] == Support::kPicks;
+}
+
+const ProfileErrors::Refractor* errorsOf(const ReportBuilder& builder, std::size_t refractor) {
+  const ProfileErrors* errors = builder.source.errors;
+  return errors != nullptr && refractor < errors->refractors.size() ? &errors->refractors[refractor]
+                                                                    : nullptr;
+}
+
+/// "1850 ± 60 m/s"
+QString velocityText(double velocity, double error) {
+  return std::isfinite(velocity)
+             ? ReportWords::tr("%1 m/s").arg(valueText(velocity, error, true, 0))
+             : number(velocity, 0);
+}
+
 /// A row per receiver of any refractor; those of each are found by their place.
-ReportTable profileTable(const refractionDataStructure::processingData& data) {
+ReportTable profileTable(const ReportBuilder& builder) {
+  const refractionDataStructure::processingData& data = builder.source.interpretation->refractData;
+  const std::vector<ShotArrivals> shots = shotArrivals(builder.source.document);
+  std::vector<RefractorSupport> supports;
   ReportTable table{
       {{ReportWords::tr("Position [m]"), true}, {ReportWords::tr("Elevation [m]"), true}}, {}};
   for (std::size_t r = 0; r < data.cData.size(); ++r) {
     const QString number = QString::number(r + 1);
     table.columns.push_back({ReportWords::tr("Depth %1 [m]").arg(number), true});
     table.columns.push_back({ReportWords::tr("Velocity %1 [m/s]").arg(number), true});
+    supports.push_back(
+        supportOf(shots, *builder.source.interpretation, static_cast<std::uint32_t>(r) + 2));
+    if (!supports.back().depth.empty()) {
+      table.columns.push_back({ReportWords::tr("Depth %1 by").arg(number), false});
+    }
   }
   for (const Point2D& receiver : profileSurface(data)) {
     QStringList row{number(receiver.x, 2), number(receiver.z, 2)};
-    for (const computedData& refractor : data.cData) {
+    for (std::size_t r = 0; r < data.cData.size(); ++r) {
+      const computedData& refractor = data.cData[r];
       const auto same = std::find(refractor.x.begin(), refractor.x.end(), receiver.x);
       const auto j = static_cast<std::size_t>(same - refractor.x.begin());
-      row << number(at(refractor.depth, j), 2) << number(at(refractor.velocity, j), 0);
+      const RefractorSupport& support = supports[r];
+      const ProfileErrors::Refractor* errors = errorsOf(builder, r);
+      const double depth = at(refractor.depth, j);
+      const double velocity = at(refractor.velocity, j);
+      row << valueText(depth, errors == nullptr ? std::nan("") : errors->depth.errorOf(j, depth),
+                       isCarried(support.depth, j), 2)
+          << valueText(velocity,
+                       errors == nullptr ? std::nan("") : errors->velocity.errorOf(j, velocity),
+                       isCarried(support.velocity, j), 0);
+      if (support.depth.empty()) continue;
+      row << (j < support.depth.size() && std::isfinite(depth) ? supportText(support.depth[j])
+                                                               : QString());
     }
     table.rows.push_back(row);
   }
   return table;
+}
+
+/// What parentheses, and values with an error, are.
+void addSupportLegend(ReportBuilder& builder) {
+  if (builder.source.interpretation->phnt_A.empty()) return;  // what carries it is not known
+  builder.paragraph(ReportWords::tr(
+      "A value in parentheses, and a dashed line, is not carried by picks of the shots at both "
+      "ends "
+      "there: but by shifted arrivals of other shots (phantom), across more than two spacings "
+      "without arrivals (gap), or by a continuation beyond the last ones."));
+  if (builder.source.errors == nullptr) return;
+  builder.paragraph(
+      ReportWords::tr("Errors, and the bands round the lines, are half the width within which 68 "
+                      "of 100 results lie when picks are moved by their errors, by %1 such "
+                      "interpretations.")
+          .arg(builder.source.errors->members));
 }
 
 }  // namespace
@@ -66,28 +144,39 @@ Status addRefraction(ReportBuilder& builder) {
                         "earlier picks."));
   }
   ReportTable facts = ReportTable::ofFacts();
-  facts.rows.push_back(
-      {ReportWords::tr("Velocity of the first layer"), velocities(data.v1, data.v1)});
+  const ProfileErrors* errors = builder.source.errors;
+  facts.rows.push_back({ReportWords::tr("Velocity of the first layer"),
+                        velocityText(data.v1, errors == nullptr ? std::nan("") : errors->v1Error)});
   for (std::size_t r = 0; r < data.cData.size(); ++r) {
     Range velocity;
     for (const double value : data.cData[r].velocity) velocity.take(value);
     facts.rows.push_back({ReportWords::tr("Velocity of refractor %1").arg(r + 1),
                           velocities(velocity.low, velocity.high)});
+    if (const ProfileErrors::Refractor* own = errorsOf(builder, r)) {
+      facts.rows.push_back(
+          {ReportWords::tr("Median velocity of refractor %1").arg(r + 1),
+           velocityText(medianOfFinite(data.cData[r].velocity, std::nan("")), own->medianError)});
+    }
     facts.rows.push_back({ReportWords::tr("Distance XY of refractor %1").arg(r + 1),
                           ReportWords::tr("%1 m").arg(number(data.cData[r].chosenXY, 1))});
   }
   builder.table(ReportWords::tr("Layers and refractors"), facts);
+  addLayerFit(builder);
   RefractionFigureOptions options;
+  options.errors = errors;
   options.widthMm = builder.widthMm();
   options.heightMm = kProfileHeightMm;
   options.showTitle = false;
   FigureDrawing drawing;
   // Refractors without any depth have a table all the same.
-  if (prepareRefractionFigure(builder.source.document, data, options, drawing).ok()) {
+  if (prepareRefractionFigure(builder.source.document, *builder.source.interpretation, options,
+                              drawing)
+          .ok()) {
     builder.figure(ReportWords::tr("Section of the layers"), std::move(drawing));
   }
   builder.table(ReportWords::tr("Depths below the surface and velocities of the refractors"),
-                profileTable(data));
+                profileTable(builder));
+  addSupportLegend(builder);
   if (hasGaps(data)) {
     builder.paragraph(ReportWords::tr(
         "No velocity is given where the times lead to one outside 50 to 12 000 m/s. "

@@ -2,10 +2,12 @@
 
 #include "base/RunForEach.h"
 #include "model/TravelTime.h"
+#include "numerics/Medians.h"
 #include "numerics/NormalNumbers.h"
 #include "refraction/methods/LayerMethods.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -39,6 +41,15 @@ std::pair<double, double> middlePart(std::vector<double> values) {
         std::lround(share * static_cast<double>(values.size() - 1)))];
   };
   return {at(kBandShare), at(1.0 - kBandShare)};
+}
+
+/// The error of a value, from the same number of every member.
+template <typename Number>
+double errorOver(const Members& members, double value, Number numberOf) {
+  std::vector<double> all;
+  for (const std::vector<MethodResult>& member : members) all.push_back(numberOf(member));
+  const auto [low, high] = middlePart(std::move(all));
+  return errorWithin(low, high, value);
 }
 
 /// Of one method and refractor over all members.
@@ -97,9 +108,10 @@ void findDisagreements(const Members& members, MethodComparison& comparison) {
 }
 
 void findBands(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
-               const std::function<bool()>& goOn, MethodComparison& comparison) {
+               const std::function<bool(std::size_t)>& goOn, MethodComparison& comparison) {
   const BoundsOptions& bounds = comparison.bounds;
   Members members(static_cast<std::size_t>(bounds.members));
+  std::atomic<std::size_t> done{0};
   bool stopped = false;
   runForEach(
       members.size(),
@@ -108,17 +120,26 @@ void findBands(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
         for (const LayerMethod method : methods) {
           members[member].push_back(interpretBy(method, moved));
         }
+        ++done;
       },
       [&] {
-        stopped = stopped || (goOn && !goOn());
+        stopped = stopped || (goOn && !goOn(done));
         return !stopped;
       },
       bounds.threads);
   if (stopped) return;
   for (std::size_t m = 0; m < methods.size(); ++m) {
-    for (MethodLayer& layer : comparison.results[m].layers) {
+    MethodResult& result = comparison.results[m];
+    result.v1Error =
+        errorOver(members, result.v1, [m](const auto& member) { return member[m].v1; });
+    for (MethodLayer& layer : result.layers) {
       layer.depthBand = bandOf(members, m, layer, &MethodLayer::depth);
       layer.velocityBand = bandOf(members, m, layer, &MethodLayer::velocity);
+      const double median = medianOfFinite(layer.velocity, kUnknown);
+      layer.medianError = errorOver(members, median, [&](const auto& member) {
+        const MethodLayer* same = member[m].layer(layer.layer);
+        return same == nullptr ? kUnknown : medianOfFinite(same->velocity, kUnknown);
+      });
     }
   }
   findDisagreements(members, comparison);
@@ -145,8 +166,34 @@ const Disagreement* MethodComparison::disagreement(std::uint32_t layer) const {
   return found == disagreements.end() ? nullptr : &*found;
 }
 
+std::optional<GreatestDifference> greatestDifference(const MethodComparison& comparison,
+                                                     std::uint32_t layer, Values values) {
+  std::optional<GreatestDifference> greatest;
+  const std::size_t receivers =
+      comparison.results.empty() ? 0 : comparison.results.front().receivers.size();
+  for (std::size_t j = 0; j < receivers; ++j) {
+    GreatestDifference here{j, {}, {}, kUnknown, kUnknown};
+    for (const MethodResult& result : comparison.results) {
+      const double value = valueOf(result, layer, values, j);
+      if (std::isnan(value)) continue;
+      if (!(value >= here.least)) {
+        here.least = value;
+        here.low = result.method;
+      }
+      if (!(value <= here.greatest)) {
+        here.greatest = value;
+        here.high = result.method;
+      }
+    }
+    const double apart = here.greatest - here.least;  // not a number, or 0 by one method alone
+    if (apart > (greatest ? greatest->greatest - greatest->least : 0.0)) greatest = here;
+  }
+  return greatest;
+}
+
 MethodComparison compareMethods(const LayerPicks& picks, const std::vector<LayerMethod>& methods,
-                                const BoundsOptions& bounds, const std::function<bool()>& goOn) {
+                                const BoundsOptions& bounds,
+                                const std::function<bool(std::size_t)>& goOn) {
   MethodComparison comparison;
   comparison.bounds = bounds;
   for (const LayerMethod method : methods) {

@@ -37,6 +37,17 @@ double Band::errorAt(std::size_t receiver) const {
                                : std::numeric_limits<double>::quiet_NaN();
 }
 
+double Band::errorOf(std::size_t receiver, double value) const {
+  return receiver < low.size() ? errorWithin(low[receiver], high[receiver], value)
+                               : std::numeric_limits<double>::quiet_NaN();
+}
+
+double errorWithin(double low, double high, double value) {
+  if (value < low) return high - value;
+  if (value > high) return value - low;
+  return 0.5 * (high - low);
+}
+
 const MethodLayer* MethodResult::layer(std::uint32_t number) const {
   const auto found = std::find_if(layers.begin(), layers.end(),
                                   [number](const MethodLayer& l) { return l.layer == number; });

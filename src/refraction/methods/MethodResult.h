@@ -49,7 +49,13 @@ struct Band {
   bool empty() const { return low.empty(); }
   /// Half of it, as one standard deviation; not a number where it is not known.
   double errorAt(std::size_t receiver) const;
+  /// The same of a value, which may lie outside: where moved picks make the method take another
+  /// way. Its error is how far the farther end is then.
+  double errorOf(std::size_t receiver, double value) const;
 };
+
+/// Of a value with a band from low to high, as Band::errorOf().
+double errorWithin(double low, double high, double value);
 
 /// What a method finds of a refractor, per receiver of MethodResult.
 struct MethodLayer {
@@ -60,12 +66,14 @@ struct MethodLayer {
   std::vector<Support> velocitySupport;  ///< likewise
   Band depthBand;                        ///< empty: not asked for
   Band velocityBand;                     ///< likewise
+  double medianError = 0.0;              ///< of the median velocity, m/s; 0: not asked for
 };
 
 struct MethodResult {
   LayerMethod method = LayerMethod::kReciprocal;
   std::vector<Point2D> receivers;   ///< all geophones of the line, ascending x, each x once
   double v1 = 0.0;                  ///< of the first layer, m/s; the same for all methods
+  double v1Error = 0.0;             ///< one standard deviation, m/s; 0: not asked for
   std::vector<MethodLayer> layers;  ///< refractors, from above
   std::vector<Message> remarks;     ///< what is missing, left out or taken another way, and why
 

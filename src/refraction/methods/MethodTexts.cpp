@@ -8,13 +8,10 @@
 namespace talvesk {
 namespace {
 
+const double kUnknown = std::nan("");
+
 std::string cell(double value) {
   return std::isfinite(value) ? formatDouble(value) : "-";
-}
-
-const char* disagreementText(const Disagreement& disagreement, std::size_t j) {
-  if (disagreement.depth[j]) return disagreement.velocity[j] ? "both" : "depth";
-  return disagreement.velocity[j] ? "velocity" : "none";
 }
 
 std::string headsOf(const MethodComparison& comparison, std::uint32_t layer, bool bands) {
@@ -34,9 +31,9 @@ std::string cellsOf(const MethodLayer* layer, std::size_t j, bool bands) {
   if (layer == nullptr) return bands ? " - - - - -" : " - - -";
   const bool known = std::isfinite(layer->depth[j]) || std::isfinite(layer->velocity[j]);
   std::string cells = ' ' + cell(layer->depth[j]);
-  if (bands) cells += ' ' + cell(layer->depthBand.errorAt(j));
+  if (bands) cells += ' ' + cell(layer->depthBand.errorOf(j, layer->depth[j]));
   cells += ' ' + cell(layer->velocity[j]);
-  if (bands) cells += ' ' + cell(layer->velocityBand.errorAt(j));
+  if (bands) cells += ' ' + cell(layer->velocityBand.errorOf(j, layer->velocity[j]));
   const Support support = std::max(layer->depthSupport[j], layer->velocitySupport[j]);
   return cells + ' ' + (known ? nameOf(support) : "-");
 }
@@ -51,62 +48,86 @@ std::string blockOf(const MethodComparison& comparison, std::uint32_t number) {
     for (const MethodResult& result : comparison.results) {
       block += cellsOf(result.layer(number), j, bands);
     }
-    if (disagreement != nullptr) block += std::string(" ") + disagreementText(*disagreement, j);
+    if (disagreement != nullptr) block += std::string(" ") + disagreement->nameAt(j);
     block += '\n';
   }
   return block;
 }
 
-double medianKnown(std::vector<double> values) {
-  values.erase(std::remove_if(values.begin(), values.end(), [](double v) { return std::isnan(v); }),
-               values.end());
-  return medianOf(std::move(values), std::nan(""));
-}
-
-std::vector<double> errorsOf(const Band& band) {
+std::vector<double> errorsOf(const Band& band, const std::vector<double>& values) {
   std::vector<double> errors;
-  for (std::size_t j = 0; j < band.low.size(); ++j) errors.push_back(band.errorAt(j));
+  for (std::size_t j = 0; j < band.low.size(); ++j) errors.push_back(band.errorOf(j, values[j]));
   return errors;
 }
 
+/// A method as it stands within a sentence.
+Message wordOf(LayerMethod method) {
+  switch (method) {
+    case LayerMethod::kReciprocal:
+      return Message::tr("reciprocal");
+    case LayerMethod::kDelayTimes:
+      return Message::tr("delay times");
+    case LayerMethod::kIntercept:
+      return Message::tr("intercept times");
+    case LayerMethod::kPlusMinus:
+      return Message::tr("plus-minus");
+  }
+  return {};
+}
+
+/// With two digits, and all those before the point.
+Message errorText(double error) {
+  return error < 99.5 ? Message::number(error, 2) : Message::number(std::round(error));
+}
+
 /// "5.2 ± 0.3", without the error where there is none.
-Message withError(double value, const Band& band, int digits) {
-  const double error = medianKnown(errorsOf(band));
+Message withError(double value, double error, int digits) {
   if (!std::isfinite(error)) return Message::number(value, digits);
-  return Message::tr("%1 ± %2").arg(Message::number(value, digits)).arg(Message::number(error, 2));
+  return Message::tr("%1 ± %2").arg(Message::number(value, digits)).arg(errorText(error));
 }
 
 Message summaryOf(LayerMethod method, const MethodLayer& layer) {
-  const auto known = std::count_if(layer.depth.begin(), layer.depth.end(),
-                                   [](double d) { return std::isfinite(d); });
-  std::size_t carried = 0;
-  for (std::size_t j = 0; j < layer.depth.size(); ++j) {
-    if (std::isfinite(layer.depth[j]) && layer.depthSupport[j] != Support::kPicks) ++carried;
+  const MethodFigures figures = figuresOf(layer);
+  if (!std::isfinite(figures.velocity)) {
+    return Message::tr("Layer %1, %2: nothing").arg(layer.layer).arg(wordOf(method));
   }
-  const double velocity = medianKnown(layer.velocity);
-  const double depth = medianKnown(layer.depth);
-  if (!std::isfinite(velocity)) {
-    return Message::tr("Layer %1, %2: nothing").arg(layer.layer).arg(nameOf(method));
-  }
-  if (!std::isfinite(depth)) {
+  const Message velocity = withError(figures.velocity, figures.velocityError, 4);
+  if (!std::isfinite(figures.depth)) {
     return Message::tr("Layer %1, %2: %3 m/s, no depth")
         .arg(layer.layer)
-        .arg(nameOf(method))
-        .arg(withError(velocity, layer.velocityBand, 4));
+        .arg(wordOf(method))
+        .arg(velocity);
   }
   return Message::tr(
              "Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 "
              "geophones, %7 of them not carried by picks there")
       .arg(layer.layer)
-      .arg(nameOf(method))
-      .arg(withError(velocity, layer.velocityBand, 4))
-      .arg(withError(depth, layer.depthBand, 3))
-      .arg(known)
-      .arg(layer.depth.size())
-      .arg(carried);
+      .arg(wordOf(method))
+      .arg(velocity)
+      .arg(withError(figures.depth, figures.depthError, 3))
+      .arg(figures.known)
+      .arg(figures.receivers)
+      .arg(figures.carried);
+}
+
+/// \param text with places for layer, x, least value, its method, greatest value and its method
+Message farthestApart(Message text, const MethodComparison& comparison, std::uint32_t layer,
+                      const GreatestDifference& found, int digits) {
+  return std::move(text)
+      .arg(layer)
+      .arg(comparison.results.front().receivers[found.receiver].x)
+      .arg(Message::number(found.least, digits))
+      .arg(wordOf(found.low))
+      .arg(Message::number(found.greatest, digits))
+      .arg(wordOf(found.high));
 }
 
 }  // namespace
+
+const char* Disagreement::nameAt(std::size_t receiver) const {
+  if (depth[receiver]) return velocity[receiver] ? "both" : "depth";
+  return velocity[receiver] ? "velocity" : "none";
+}
 
 std::string comparisonTable(const MethodComparison& comparison) {
   std::string table;
@@ -119,6 +140,49 @@ std::string comparisonTable(const MethodComparison& comparison) {
   return table;
 }
 
+MethodFigures figuresOf(const MethodLayer& layer) {
+  MethodFigures figures;
+  figures.velocity = medianOfFinite(layer.velocity, kUnknown);
+  figures.velocityError = medianOfFinite(errorsOf(layer.velocityBand, layer.velocity), kUnknown);
+  figures.depth = medianOfFinite(layer.depth, kUnknown);
+  figures.depthError = medianOfFinite(errorsOf(layer.depthBand, layer.depth), kUnknown);
+  figures.receivers = layer.depth.size();
+  for (std::size_t j = 0; j < layer.depth.size(); ++j) {
+    if (!std::isfinite(layer.depth[j])) continue;
+    ++figures.known;
+    if (layer.depthSupport[j] != Support::kPicks) ++figures.carried;
+  }
+  return figures;
+}
+
+std::vector<Message> comparisonDifferences(const MethodComparison& comparison,
+                                           std::uint32_t layer) {
+  std::vector<Message> lines;
+  if (const auto depth = greatestDifference(comparison, layer, &MethodLayer::depth)) {
+    lines.push_back(farthestApart(
+        Message::tr("Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)"),
+        comparison, layer, *depth, 3));
+  }
+  if (const auto velocity = greatestDifference(comparison, layer, &MethodLayer::velocity)) {
+    lines.push_back(farthestApart(
+        Message::tr(
+            "Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)"),
+        comparison, layer, *velocity, 4));
+  }
+  if (const Disagreement* disagreement = comparison.disagreement(layer)) {
+    const auto count = [](const std::vector<bool>& flags) {
+      return std::count(flags.begin(), flags.end(), true);
+    };
+    lines.push_back(Message::tr("Layer %1: methods disagree beyond the errors of the picks in "
+                                "depth at %2 of %3 geophones, in velocity at %4")
+                        .arg(layer)
+                        .arg(count(disagreement->depth))
+                        .arg(disagreement->depth.size())
+                        .arg(count(disagreement->velocity)));
+  }
+  return lines;
+}
+
 std::vector<Message> comparisonSummary(const MethodComparison& comparison) {
   std::vector<Message> lines;
   for (std::uint32_t number = 2; number <= refractionDataStructure::kLastLayer; ++number) {
@@ -126,17 +190,8 @@ std::vector<Message> comparisonSummary(const MethodComparison& comparison) {
       const MethodLayer* layer = result.layer(number);
       if (layer != nullptr) lines.push_back(summaryOf(result.method, *layer));
     }
-    const Disagreement* disagreement = comparison.disagreement(number);
-    if (disagreement == nullptr) continue;
-    const auto count = [](const std::vector<bool>& flags) {
-      return std::count(flags.begin(), flags.end(), true);
-    };
-    lines.push_back(Message::tr("Layer %1: methods disagree beyond the errors of the picks in "
-                                "depth at %2 of %3 geophones, in velocity at %4")
-                        .arg(number)
-                        .arg(count(disagreement->depth))
-                        .arg(disagreement->depth.size())
-                        .arg(count(disagreement->velocity)));
+    const std::vector<Message> differences = comparisonDifferences(comparison, number);
+    lines.insert(lines.end(), differences.begin(), differences.end());
   }
   return lines;
 }

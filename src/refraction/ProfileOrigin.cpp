@@ -1,0 +1,48 @@
+#include "refraction/ProfileOrigin.h"
+
+#include "base/Console.h"
+#include "refraction/BuildProfiles.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+
+using namespace refractionDataStructure;
+
+namespace {
+
+// A profile that comes from the text of a project may differ in the last digits.
+constexpr double kSame = 1e-6;
+
+bool sameValues(const std::vector<double>& a, const std::vector<double>& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](double x, double y) {
+    return std::isfinite(x) ? std::fabs(x - y) <= kSame * std::max(1.0, std::fabs(x))
+                            : !std::isfinite(y);
+  });
+}
+
+}  // namespace
+
+bool isProfileOf(const std::vector<ShotArrivals>& shots, const Interpretation& interpretation) {
+  const processingData& profile = interpretation.refractData;
+  if (profile.cData.empty()) return false;
+  const console::Silence silence;
+  Interpretation again = interpretation;
+  if (!buildProfiles(shots, again).built) return false;
+  const auto& built = again.refractData.cData;
+  return std::equal(profile.cData.begin(), profile.cData.end(), built.begin(), built.end(),
+                    [](const computedData& a, const computedData& b) {
+                      return sameValues(a.x, b.x) && sameValues(a.velocity, b.velocity) &&
+                             sameValues(a.depth, b.depth);
+                    });
+}
+
+LayeredFit fitOfOwnProfile(const std::vector<ShotArrivals>& shots,
+                           const std::vector<std::vector<double>>& errors,
+                           const Interpretation& interpretation) {
+  return isProfileOf(shots, interpretation) ? fitOfProfile(shots, errors, interpretation)
+                                            : LayeredFit();
+}
+
+}  // namespace talvesk

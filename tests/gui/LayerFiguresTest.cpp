@@ -1,0 +1,196 @@
+// What a layered profile is shown with: dashes, error bands, and its times in the curves.
+#include "app/dialogs/RefractionProcessingDialog.h"
+#include "gui/WindowTest.h"
+#include "io/Survey.h"
+#include "support/RefractionLines.h"
+#include "widgets/RefractionProfilePlot.h"
+#include "widgets/SeriesPlot.h"
+#include "widgets/TravelTimePlot.h"
+#include "widgets/traces/editTravelTimesWidget.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+#include <QUndoStack>
+#include <functional>
+#include <stdexcept>
+
+namespace talvesk {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::MatchesRegex;
+using testing::WindowTest;
+
+template <typename Widget>
+Widget& in(QWidget& dialog, const char* name) {
+  auto* found = dialog.findChild<Widget*>(QLatin1String(name));
+  if (found == nullptr) throw std::runtime_error(std::string("no widget ") + name);
+  return *found;
+}
+
+const RefractionScene& sceneOf(QWidget& dialog) {
+  return in<RefractionProfilePlot>(dialog, "profilePlot").scene();
+}
+
+bool findsBands(QWidget& dialog) {
+  in<QCheckBox>(dialog, "errorBandsCheck").setChecked(true);
+  return QTest::qWaitFor([&] { return sceneOf(dialog).hasBands(); }, 60000);
+}
+
+/// The window on a line whose true layers are known.
+class LayerFigures : public WindowTest {
+ protected:
+  LayerFigures() {
+    open();
+    writable() = testing::standardDippingLine(testing::twoDippingLayers(), truth);
+    window->session().markSaved();
+    window->showFile(0);
+  }
+  ~LayerFigures() override { window->session().markSaved(); }
+
+  /// The dialog with a profile; what is done in it before OK.
+  void interpret(const std::function<void(QWidget&)>& work = {}) {
+    dialogs.expect([work](QWidget& dialog) {
+      if (!hasMarks(dynamic_cast<RefractionProcessingDialog&>(dialog).interpretation().ttLayer)) {
+        in<QPushButton>(dialog, "proposeButton").click();
+      }
+      in<QPushButton>(dialog, "buildButton").click();
+      if (work) work(dialog);
+      in<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Ok)->click();
+    });
+    action("actionRefraction").trigger();
+    EXPECT_TRUE(dialogs.finished());
+  }
+  TravelTimePlot& plot() { return child<TravelTimePlot>("travelTimeCurves"); }
+  QCheckBox& layersBox() { return child<QCheckBox>("layeredBox"); }
+  bool hasTimes() {
+    return QTest::qWaitFor([this] { return !plot().layered().empty(); }, 60000);
+  }
+  std::vector<refractionDataStructure::layerStruct> truth;
+};
+
+TEST_F(LayerFigures, dashesWhatPicksDoNotCarryAndSaysSoInTheTable) {
+  interpret([](QWidget& dialog) {
+    const RefractionScene& scene = sceneOf(dialog);
+    ASSERT_EQ(scene.looks.size(), 1U);
+    EXPECT_TRUE(scene.hasUncarried());
+    EXPECT_FALSE(scene.looks[0].carried.empty()) << "in the middle";
+    EXPECT_FALSE(scene.hasBands()) << "nobody has asked for them";
+    const auto& table = in<QTableWidget>(dialog, "profileTable");
+    ASSERT_EQ(table.columnCount(), 4);
+    const auto text = [&](int row, int column) {
+      return table.item(row, column)->text().toStdString();
+    };
+    EXPECT_EQ(text(2, 3), "phantom") << "the direct wave comes first near the shot";
+    EXPECT_THAT(text(2, 1), MatchesRegex("\\([0-9.]+\\)"));
+    EXPECT_EQ(text(30, 3), "picks");
+    EXPECT_THAT(text(30, 1), MatchesRegex("[0-9.]+"));
+  });
+}
+
+TEST_F(LayerFigures, showsErrorBandsOnDemandUntilWhatTheyRestOnChanges) {
+  interpret([](QWidget& dialog) {
+    ASSERT_TRUE(findsBands(dialog));
+    const RefractionScene& scene = sceneOf(dialog);
+    EXPECT_GT(scene.v1Error, 0.0);
+    EXPECT_GT(scene.velocityErrors.at(0), 0.0);
+    EXPECT_FALSE(in<SeriesPlot>(dialog, "velocityPlot").series().back().low.empty());
+    EXPECT_THAT(in<QTableWidget>(dialog, "profileTable").item(30, 2)->text().toStdString(),
+                MatchesRegex("[0-9]+ ± [0-9]+"));
+    EXPECT_FALSE(in<QPushButton>(dialog, "errorBandsStop").isVisible());
+
+    // With another XY they are found anew, of other marks they are none.
+    const double before = scene.looks[0].bands.at(0).at(0).z;
+    auto& xy = in<QComboBox>(dialog, "xyCombo");
+    xy.setCurrentIndex(xy.findText(QStringLiteral("4")));
+    emit xy.activated(xy.currentIndex());
+    EXPECT_FALSE(sceneOf(dialog).hasBands());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return sceneOf(dialog).hasBands(); }, 60000));
+    EXPECT_NE(sceneOf(dialog).looks[0].bands.at(0).at(0).z, before);
+    in<QPushButton>(dialog, "clearButton").click();
+    EXPECT_FALSE(sceneOf(dialog).hasBands());
+    EXPECT_FALSE(in<QCheckBox>(dialog, "errorBandsCheck").isEnabled());
+    dynamic_cast<RefractionProcessingDialog&>(dialog).undoStack()->undo();
+    in<QPushButton>(dialog, "buildButton").click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sceneOf(dialog).hasBands(); }, 60000));
+    in<QCheckBox>(dialog, "errorBandsCheck").setChecked(false);
+    EXPECT_FALSE(sceneOf(dialog).hasBands());
+  });
+}
+
+TEST_F(LayerFigures, givesUpBandsOnStop) {
+  interpret([](QWidget& dialog) {
+    auto& box = in<QCheckBox>(dialog, "errorBandsCheck");
+    box.setChecked(true);
+    ASSERT_TRUE(in<QPushButton>(dialog, "errorBandsStop").isVisibleTo(&dialog));
+    in<QPushButton>(dialog, "errorBandsStop").click();
+    EXPECT_FALSE(box.isChecked());
+    QTest::qWait(300);
+    EXPECT_FALSE(sceneOf(dialog).hasBands());
+  });
+}
+
+TEST_F(LayerFigures, putsTheBandsIntoPicturesAndForgetsThemWithThePicks) {
+  const auto picture = [this](const char* name) {
+    dialogs.expect([this, name](QWidget& dialog) {
+      in<QLineEdit>(dialog, "folderEdit").setText(QString::fromStdString(home.path()));
+      in<QLineEdit>(dialog, "nameEdit").setText(QLatin1String(name));
+      in<QComboBox>(dialog, "formatCBox").setCurrentIndex(1);
+      in<QCheckBox>(dialog, "travelTimesBox").setChecked(false);
+      in<QCheckBox>(dialog, "refractionBox").setChecked(true);
+      in<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Save)->click();
+    });
+    action("actionImages").trigger();
+    EXPECT_TRUE(dialogs.finished());
+    return testing::TestFolder::get(home.file(std::string(name) + "_refraction.svg"));
+  };
+  interpret([](QWidget& dialog) { ASSERT_TRUE(findsBands(dialog)); });
+  const std::string with = picture("with");
+  EXPECT_THAT(with, HasSubstr("Error of the picks (68 of 100)"));
+  EXPECT_THAT(with, HasSubstr("Dashed: not carried by picks there"));
+  child<editTravelTimesWidget>("showTracesWidget").editPick(5, 20, 0.05);
+  const std::string without = picture("without");
+  EXPECT_THAT(without, ::testing::Not(HasSubstr("Error of the picks")));
+  EXPECT_THAT(without, HasSubstr("Layer 2"));
+}
+
+TEST_F(LayerFigures, drawsTimesThroughTheLayersInTheCurvesUntilPicksChange) {
+  EXPECT_FALSE(layersBox().isEnabled()) << "there is no profile";
+  interpret();
+  ASSERT_TRUE(layersBox().isEnabled());
+  EXPECT_TRUE(plot().layered().empty()) << "not asked for";
+  layersBox().setChecked(true);
+  ASSERT_TRUE(hasTimes());
+  EXPECT_NEAR(plot().layered()[5][40], window->document().ttArray[5].ttMisurati[40], 0.0015);
+
+  const double pick = window->document().ttArray[5].ttMisurati[40];
+  const auto edit = [&](double time) {
+    child<editTravelTimesWidget>("showTracesWidget").editPick(5, 40, time);
+  };
+  edit(pick + 0.001);
+  EXPECT_TRUE(plot().layered().empty());
+  EXPECT_FALSE(layersBox().isEnabled());
+  EXPECT_THAT(layersBox().toolTip().toStdString(), HasSubstr("build the profiles"));
+  edit(pick);
+  EXPECT_TRUE(hasTimes()) << "they are those of the picks again";
+  edit(pick + 0.001);
+  interpret();
+  EXPECT_TRUE(hasTimes()) << "of the profile of the new picks";
+}
+
+TEST_F(LayerFigures, tellsNoTimesOfAProfileOfOtherMarks) {
+  interpret([](QWidget& dialog) { in<QPushButton>(dialog, "clearButton").click(); });
+  ASSERT_TRUE(layersBox().isEnabled());
+  layersBox().setChecked(true);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !layersBox().isChecked(); }, 60000));
+  EXPECT_TRUE(plot().layered().empty());
+}
+
+}  // namespace
+}  // namespace talvesk
