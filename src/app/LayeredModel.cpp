@@ -60,6 +60,7 @@ const LayeredFit& LayeredModel::findNow(QWidget& parent) {
   const std::vector<std::vector<double>> errors = pickErrors(mSession.document(), shots);
   const Shared<refractionDataStructure::Interpretation> records = mSession.survey().interpretation;
   mFit = whileBusy(parent, [&] { return fitOfOwnProfile(shots, errors, *records); });
+  emit found();
   return *mFit;
 }
 

@@ -229,6 +229,7 @@ QwtPlotItem* errorBands(const RefractionScene& scene) {
     }
   };
   const auto icon = [](QPainter& painter, const QSizeF& size) {
+    painter.fillRect(QRectF(QPointF(0, 0), size), groundColor(2));  // told apart on dark paper, too
     setBand(painter, layerColor(2).darker(130));
     painter.drawRect(QRectF(QPointF(0, 2), size - QSizeF(0, 4)));
   };
@@ -254,6 +255,7 @@ QwtPlotItem* tops(const RefractionScene& scene) {
     }
   };
   const auto icon = [](QPainter& painter, const QSizeF& size) {
+    painter.fillRect(QRectF(QPointF(0, 0), size), groundColor(2));
     painter.setPen(dashed(lineOf(2)));
     painter.drawLine(QPointF(0, size.height() / 2), QPointF(size.width(), size.height() / 2));
   };

@@ -134,7 +134,8 @@ TEST(LayerFigures, curvesTellTimesThroughLayersApart) {
     TravelTimeFigureOptions options;
     if (layered) {
       options.layered.assign(built.line.ttArray.size(), std::vector<double>(60, NAN));
-      for (std::size_t i = 10; i < 20; ++i) options.layered[3][i] = 0.01 + 0.001 * i;
+      for (int i = 10; i < 20; ++i)
+        options.layered[3][static_cast<std::size_t>(i)] = 0.01 + 0.001 * i;
     }
     QByteArray svg;
     EXPECT_TRUE(renderTravelTimeFigure(built.line, options, FigureFormat::kSvg, svg, &layout).ok());
