@@ -132,8 +132,11 @@ LayeredWave layeredWave(const TomoDocument& document, const Interpretation& inte
                         const BoundsOptions& bounds, const std::function<bool()>& goOn) {
   LayeredWave wave = layeredWave(interpretation.refractData);
   if (wave.layers.empty() || picksChangedSince(document, interpretation.refractData)) return wave;
+  // The errors below are those of a profile that the reciprocal method finds.
+  if (interpretation.refractData.isFitted()) return wave;
   const LayerPicks picks = layerPicksOf(document, interpretation, errorRuleOf(document));
-  const MethodComparison moved = compareMethods(picks, {LayerMethod::kReciprocal}, bounds, goOn);
+  const MethodComparison moved = compareMethods(picks, {LayerMethod::kReciprocal}, bounds,
+                                                [&](std::size_t) { return !goOn || goOn(); });
   const MethodResult& result = moved.results.front();
   bool known = false;
   for (std::size_t i = 1; i < wave.layers.size(); ++i) {
