@@ -83,6 +83,9 @@ void addRefract(CLI::App& app, RefractOptions& options);
 /// Those of `refract` that say by which methods and how surely: --method, --xy, --bounds, --seed.
 void addLayerMethods(CLI::App& command, RefractOptions& options);
 
+/// The command `ensemble`.
+void addEnsemble(CLI::App& app, EnsembleRunOptions& options);
+
 /// The command `records`.
 void addRecords(CLI::App& app, RecordsOptions& options);
 

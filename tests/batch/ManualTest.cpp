@@ -11,7 +11,7 @@
 namespace talvesk::batchtest {
 namespace {
 
-const char* const kCommands[] = {"info",   "pick",    "invert",  "refract",
+const char* const kCommands[] = {"info",   "pick",    "invert",  "ensemble", "refract",
                                  "export", "convert", "records", "demo"};
 
 std::set<std::string> longOptions(const std::string& help) {
