@@ -12,6 +12,7 @@ import json
 import math
 import os
 import pathlib
+import resource
 import signal
 import subprocess
 import tempfile
@@ -77,14 +78,17 @@ def cost(program, project):
 
 def cores(program, project):
     """100 members on two threads, between runs of ten on one."""
-    alone = [batch(program, project, "--members", 10, "--threads", 1)["members_s"] / 10]
+    alone = [batch(program, project, "--members", 10, "--threads", 1)]
     said = batch(program, project, "--members", 100, "--threads", 2)
-    alone.append(batch(program, project, "--members", 10, "--threads", 1)["members_s"] / 10)
-    one = sum(alone) / 2
+    alone.append(batch(program, project, "--members", 10, "--threads", 1))
+    one = sum(run["members_s"] for run in alone) / 20
+    one_cpu = sum(run["members_cpu_s"] for run in alone) / 20
     told(
         "cores",
-        f"one member {alone[0]:.3f} and {alone[1]:.3f} s on one core, 100 on two "
-        f"{said['members_s']:.1f} s: {said['members_s'] / one:.1f} times; models {said['models_s']:.1f} s",
+        f"one member {one:.3f} s on one core, 100 on two {said['members_s']:.1f} s: "
+        f"{said['members_s'] / one:.1f} times; of processor time {one_cpu:.3f} s and "
+        f"{said['members_cpu_s']:.1f} s: {said['members_cpu_s'] / 2 / one_cpu:.1f} times on each; "
+        f"models {said['models_s']:.1f} s",
     )
 
 
@@ -104,8 +108,9 @@ def deaths(program, project):
     """64 members on four worker processes, with and without three that are killed."""
     members = 64
     work = prepared(project, members)
-    times, found, lost = [], [], 0.0
+    times, work_done, found, lost = [], [], [], 0.0
     for kills in (0, 3):
+        before = processor()
         with tempfile.NamedTemporaryFile() as notes, LocalCluster(
             n_workers=4, threads_per_worker=1, dashboard_address=None, host="127.0.0.1"
         ) as cluster, Client(cluster) as client:
@@ -121,6 +126,7 @@ def deaths(program, project):
                     lost += time.time() - begun[-1] if begun else 0.0
             times.append(time.perf_counter() - begin)
             found.append(got)
+        work_done.append(processor() - before)
     same = all(
         found[0][number][1] == found[1][number][1]
         and numpy.array_equal(found[0][number][2], found[1][number][2])
@@ -130,8 +136,15 @@ def deaths(program, project):
         "deaths",
         f"{len(found[1])} of {members} members, same bits: {same}; {times[0]:.1f} s without, "
         f"{times[1]:.1f} s with three deaths, which cost {lost:.1f} s of work at hand; "
-        f"ratio {times[1] / times[0]:.3f}, without that work {(times[1] - lost / 2) / times[0]:.3f}",
+        f"ratio {times[1] / times[0]:.3f}; of processor time, starting of workers included, "
+        f"{work_done[0]:.1f} s and {work_done[1]:.1f} s",
     )
+
+
+def processor():
+    """Processor seconds of this process and of the workers that have ended."""
+    here, there = resource.getrusage(resource.RUSAGE_SELF), resource.getrusage(resource.RUSAGE_CHILDREN)
+    return here.ru_utime + here.ru_stime + there.ru_utime + there.ru_stime
 
 
 def _import():
@@ -175,7 +188,11 @@ def scale(program, project):
     """10 000 members that take a second of sleep each, on 64 threads as workers."""
     workers, tasks = 64, 10_000
     with LocalCluster(
-        n_workers=workers, threads_per_worker=1, processes=False, dashboard_address=None
+        n_workers=workers,
+        threads_per_worker=1,
+        processes=False,
+        memory_limit=0,  # all of them measure the memory of the one process
+        dashboard_address=None,
     ) as cluster, Client(cluster) as client:
         begin = time.perf_counter()
         done = {number for number in _ensemble.fitted(client, Sleeper(), range(tasks))}

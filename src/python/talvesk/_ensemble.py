@@ -1,6 +1,7 @@
 """An ensemble: how sure a section is, by many members that may be fitted on many machines."""
 
 import os
+import uuid
 
 from . import _talvesk
 
@@ -66,15 +67,23 @@ def fitted(client, fits, numbers):
     """What fits.fit() returns for every number, in the order in which the workers get done."""
     from ._cluster import each
 
-    # As the result of a task it is sent to a worker once, and made again where it was lost.
-    there = client.submit(_same, fits, pure=False)
-    for _, member in each(client, _fit, {number: (there, number) for number in numbers}):
-        yield member
+    # As a plugin it is sent to each worker once, also to those that come later. A task that depends
+    # on it would be sent where it is instead, and all of them to one worker at first.
+    name = f"talvesk-{uuid.uuid4().hex}"
+    client.register_worker_plugin(_OnWorker(fits), name=name)
+    try:
+        for _, member in each(client, _fit, {number: (name, number) for number in numbers}):
+            yield member
+    finally:
+        client.unregister_worker_plugin(name)
 
 
-def _same(fits):
-    return fits
+class _OnWorker:
+    def __init__(self, fits):
+        self.fits = fits
 
 
-def _fit(fits, number):
-    return fits.fit(number)
+def _fit(name, number):
+    from distributed import get_worker
+
+    return get_worker().plugins[name].fits.fit(number)
