@@ -1,18 +1,22 @@
 #!/bin/sh
-# A campaign on some machines that one can log in to by ssh, without a batch system: a worker of Dask
-# per core of each.
+# A campaign or an ensemble on some machines that one can log in to by ssh, without a batch system: a
+# worker of Dask per core of each.
 #
 #   sh machines.sh FOLDER RECIPE.toml OUT HOST [HOST...]
+#   sh machines.sh PROJECT.tvsk MEMBERS OUT.tvsk HOST [HOST...]
 #
 # The first machine is this one, where the scheduler runs. talvesk and Dask must be installed on all,
-# and the folders be the same on all; OUT/cluster.log is what Dask says. HOST "localhost" stands for workers of this machine alone.
+# and the folders of a campaign be the same on all; OUT/cluster.log or OUT.tvsk.log is what Dask says.
+# HOST "localhost" stands for workers of this machine alone.
 set -eu
 
 here=$(dirname "$(readlink -f "$0")")
-folder=$1 recipe=$2 out=$3
+what=$1 how=$2 out=$3
 shift 3
-mkdir -p "$out"
-log=$out/cluster.log
+case $what in
+  *.tvsk) job=ensemble.py log=$out.log ;;
+  *) job=campaign.py log=$out/cluster.log && mkdir -p "$out" ;;
+esac
 meet=$(mktemp -u "${TMPDIR:-/tmp}/scheduler-XXXXXX.json")
 alone=
 [ "$*" != localhost ] || alone="--host 127.0.0.1"
@@ -35,4 +39,4 @@ for host in "$@"; do
   fi
   started="$started $!"
 done
-${PYTHON:-python3} "$here/campaign.py" "$address" "$folder" "$recipe" "$out"
+${PYTHON:-python3} "$here/$job" "$address" "$what" "$how" "$out"

@@ -153,6 +153,7 @@ struct AllOptions {
   PickOptions pick;
   CheckOptions check;
   InvertOptions invert;
+  EnsembleRunOptions ensemble;
   RefractOptions refract;
   ElasticBatchOptions elastic;
   ExportOptions exports;
@@ -170,6 +171,7 @@ void addCommands(CLI::App& app, AllOptions& all) {
   app.require_subcommand(0, 1);
   app.footer(kExitCodes);  // the commands inherit it
   addInvert(app, all.invert);
+  addEnsemble(app, all.ensemble);
   addRefract(app, all.refract);
   addElastic(app, all.elastic);
   addPick(app, all.pick);
@@ -209,10 +211,10 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
   }
 
   if (chosenCommand(app) == nullptr) {
-    result.exitCode = wrongUsage("",
-                                 "a command is required: info, pick, check, invert, refract, "
-                                 "elastic, export, convert, records or "
-                                 "demo");
+    result.exitCode = wrongUsage(
+        "",
+        "a command is required: info, pick, check, invert, ensemble, refract, elastic, export, "
+        "convert, records or demo");
     return result;
   }
   const std::string name = chosenCommand(app)->get_name();
@@ -224,6 +226,8 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
     result.command = std::move(all.check);
   } else if (name == "invert") {
     result.command = std::move(all.invert);
+  } else if (name == "ensemble") {
+    result.command = std::move(all.ensemble);
   } else if (name == "refract") {
     result.command = std::move(all.refract);
   } else if (name == "elastic") {

@@ -11,6 +11,7 @@ int run(const InfoOptions& options);
 int run(const PickOptions& options);
 int run(const CheckOptions& options);
 int run(const InvertOptions& options);
+int run(const EnsembleRunOptions& options);
 int run(const RefractOptions& options);
 int run(const ElasticBatchOptions& options);
 int run(const ExportOptions& options);

@@ -148,7 +148,7 @@ Status findCertainty(const InvertOptions& options, const Channels& channels, Sur
   settings.errors = fitted.errors;
   settings.holdKnown = fitted.holdKnown;
   settings.singleThread = fitted.singleThread;
-  settings.ensemble = {fitted.fit, static_cast<std::uint64_t>(options.seed), options.isovalues};
+  settings.ensemble = {fitted.fit, static_cast<std::uint64_t>(options.seed), options.isovalues, {}};
   Progress progress(channels.progress, std::cerr);
   int done = 0;
   Status status = editSurvey(Edit::kCertainty, survey, [&](Survey& next) {

@@ -86,6 +86,9 @@ void addLayerMethods(CLI::App& command, RefractOptions& options);
 /// The command `elastic`.
 void addElastic(CLI::App& app, ElasticBatchOptions& options);
 
+/// The command `ensemble`.
+void addEnsemble(CLI::App& app, EnsembleRunOptions& options);
+
 /// The command `records`.
 void addRecords(CLI::App& app, RecordsOptions& options);
 

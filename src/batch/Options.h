@@ -12,6 +12,7 @@
 #include "refraction/elastic/ElasticLine.h"
 #include "refraction/methods/MethodResult.h"
 #include "tomo/TomographyRun.h"
+#include "tomo/fitted/EnsembleVariation.h"
 #include "tomo/fitted/References.h"
 #include "tomo/fitted/ResolutionRun.h"
 #include "view/ColorPalette.h"
@@ -149,6 +150,24 @@ struct InvertOptions {
   bool verbose = false;
 };
 
+/// How sure the section of a project is, by many members.
+struct EnsembleRunOptions {
+  std::string project;
+  int members = 100;  ///< number of the last one
+  int from = 1;       ///< number of the first one
+  int seed = parameters::kSeed.initial;
+  std::vector<double> isovalues;  ///< m/s, whose depths are asked for
+  EnsembleVariation vary;
+  unsigned threads = 0;          ///< 0: as many as there are cores
+  std::string keep;              ///< file of finished members; empty: beside `out`
+  std::vector<std::string> add;  ///< such files of other runs
+  std::string out;               ///< project
+  std::string json;
+  std::string table;   ///< per cell
+  std::string depths;  ///< table per isovalue and column
+  bool quiet = false;
+};
+
 /// How layers are proposed.
 enum class ProposalMethod {
   kCurves,  ///< every curve by itself, see refraction/LayerProposal.h
@@ -268,7 +287,8 @@ struct DemoOptions {
 };
 
 using CommandOptions =
-    std::variant<InfoOptions, PickOptions, CheckOptions, InvertOptions, RefractOptions,
-                 ElasticBatchOptions, ExportOptions, ConvertOptions, RecordsOptions, DemoOptions>;
+    std::variant<InfoOptions, PickOptions, CheckOptions, InvertOptions, EnsembleRunOptions,
+                 RefractOptions, ElasticBatchOptions, ExportOptions, ConvertOptions, RecordsOptions,
+                 DemoOptions>;
 
 }  // namespace talvesk

@@ -91,7 +91,7 @@ std::string progressLine(const EnsembleProgress& progress) {
   const auto of = [](int part, int whole) {
     return std::to_string(part) + " of " + std::to_string(whole);
   };
-  if (progress.members == 0) {
+  if (progress.members == 0 || progress.models < progress.ofModels) {
     return "Certainty: " + of(progress.models, progress.ofModels) + " models";
   }
   return "Certainty: " + of(progress.members, progress.ofMembers) + " members" +

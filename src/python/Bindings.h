@@ -10,6 +10,7 @@ void bindMends(pybind11::module_& module);
 void bindGrid(pybind11::module_& module);
 void bindInversion(pybind11::module_& module);
 void bindCertainty(pybind11::module_& module);
+void bindEnsemble(pybind11::module_& module);
 void bindRays(pybind11::module_& module);
 void bindLayers(pybind11::module_& module);
 

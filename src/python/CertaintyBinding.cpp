@@ -1,9 +1,7 @@
-#include "model/GroundModel.h"
-#include "model/TomographyOutcome.h"
 #include "python/Bindings.h"
 #include "python/LongWork.h"
 #include "python/Result.h"
-#include "python/Values.h"
+#include "python/SureSection.h"
 #include "session/TableRules.h"
 #include "tomo/fitted/CertaintyRun.h"
 
@@ -16,17 +14,6 @@ namespace py = pybind11;
 
 namespace talvesk::python {
 namespace {
-
-/// How sure a section is, in the survey that it belongs to.
-struct SureSection {
-  Survey survey;
-
-  const Certainty& certainty() const { return *survey.document.result->certainty; }
-  const Grid& grid() const { return *survey.document.model->grid; }
-  Array perCell(const std::vector<double>& values) const {
-    return tableOf(values, grid().righe(), grid().col());
-  }
-};
 
 CertaintySettings settingsOf(const Result& result, int members, std::uint64_t seed,
                              std::vector<double> isovalues, bool singleThread) {
@@ -55,14 +42,7 @@ SureSection findCertainty(const Result& result, int members, std::uint64_t seed,
       Certainty certainty;
       const auto tell = [&](const EnsembleProgress& state) {
         if (progress.is_none()) return;
-        teller([&progress, state] {
-          py::dict values;
-          values["completed"] = state.members;
-          values["total"] = state.ofMembers;
-          values["models"] = state.models;
-          values["left_out"] = state.leftOut;
-          progress(values);
-        });
+        teller([&progress, state] { progress(valuesOf(state)); });
       };
       Status run = runCertainty(*ensemble, next.document, settings, certainty, tell, stopped);
       if (run.ok()) next.document.result.edit().certainty = std::move(certainty);
@@ -94,6 +74,15 @@ py::dict isovaluesOf(const SureSection& sure) {
 }
 
 }  // namespace
+
+py::dict valuesOf(const EnsembleProgress& state) {
+  py::dict values;
+  values["completed"] = state.members;
+  values["total"] = state.ofMembers;
+  values["models"] = state.models;
+  values["left_out"] = state.leftOut;
+  return values;
+}
 
 void bindCertainty(py::module_& module) {
   py::class_<SureSection> sure(module, "Certainty",

@@ -22,6 +22,7 @@ PYBIND11_MODULE(_talvesk, module) {
   python::bindGrid(module);
   python::bindInversion(module);
   python::bindCertainty(module);
+  python::bindEnsemble(module);
   python::bindRays(module);
   python::bindLayers(module);
 }

@@ -61,7 +61,8 @@ Outcome runExample(const std::string& script, const std::vector<std::string>& ar
   return outcome;
 }
 
-Outcome interruptBatch(const std::vector<std::string>& arguments, const std::string& trigger) {
+Outcome interruptBatch(const std::vector<std::string>& arguments, const std::string& trigger,
+                       int signal) {
   QProcess process;
   Outcome outcome;
   start(process, TALVESK_BATCH, arguments, {});
@@ -69,7 +70,7 @@ Outcome interruptBatch(const std::vector<std::string>& arguments, const std::str
   while (outcome.err.find(trigger) == std::string::npos && process.waitForReadyRead(kPatience)) {
     outcome.err += process.readAllStandardError().toStdString();
   }
-  if (process.processId() > 0) kill(static_cast<pid_t>(process.processId()), SIGINT);
+  if (process.processId() > 0) kill(static_cast<pid_t>(process.processId()), signal);
   finish(process, outcome);
   return outcome;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTemporaryDir>
+#include <csignal>
 #include <string>
 #include <utility>
 #include <vector>
@@ -22,8 +23,9 @@ Outcome runBatch(const std::vector<std::string>& arguments, const Environment& e
 /// Runs a shell script of the examples with the program that was built.
 Outcome runExample(const std::string& script, const std::vector<std::string>& arguments);
 
-/// Runs it and sends it SIGINT as soon as it writes `trigger` to standard error.
-Outcome interruptBatch(const std::vector<std::string>& arguments, const std::string& trigger);
+/// Runs it and sends it a signal as soon as it writes `trigger` to standard error.
+Outcome interruptBatch(const std::vector<std::string>& arguments, const std::string& trigger,
+                       int signal = SIGINT);
 
 /// A folder that goes away with the test.
 class Folder {

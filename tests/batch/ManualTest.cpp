@@ -11,8 +11,8 @@
 namespace talvesk::batchtest {
 namespace {
 
-const char* const kCommands[] = {"info",   "pick",    "invert",  "refract", "elastic",
-                                 "export", "convert", "records", "demo"};
+const char* const kCommands[] = {"info",    "pick",   "invert",  "ensemble", "refract",
+                                 "elastic", "export", "convert", "records",  "demo"};
 
 std::set<std::string> longOptions(const std::string& help) {
   std::set<std::string> options;

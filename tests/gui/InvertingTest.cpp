@@ -8,6 +8,7 @@
 #include "model/TomographyOutcome.h"
 #include "support/TestSurveys.h"
 #include "tomo/Misfit.h"
+#include "tomo/fitted/CertaintyRun.h"
 #include "view/SectionScene.h"
 #include "widgets/section/SectionView.h"
 #include "widgets/traces/editTravelTimesWidget.h"
@@ -251,6 +252,27 @@ TEST_F(Inverting, keepsTheMembersOfACertaintyThatIsStopped) {
   EXPECT_EQ(found.percentBeyond(tooFast), 100.0);
   const std::string told = child<QStatusBar>("statusBar").currentMessage().toStdString();
   EXPECT_NE(told.find(" % of the cells with rays."), std::string::npos) << told;
+
+  // It goes on from there, and ends with what one run without a stop finds out.
+  CertaintySettings settings = certaintySettings(window->document());
+  settings.members = found.members + found.leftOut + 3;
+  Certainty whole;
+  const auto alone = ensembleOf(window->document(), settings);
+  ASSERT_TRUE(runCertainty(*alone, window->document(), settings, whole).ok());
+  dialogs.expect([&](QWidget& dialog) {
+    const QString said = dialog.findChild<QLabel*>(QStringLiteral("progressLabel"))->text();
+    EXPECT_TRUE(said.contains("are done")) << said.toStdString();
+    dialog.findChild<QSpinBox*>(QStringLiteral("membersField"))->setValue(settings.members);
+    auto* start = dialog.findChild<QPushButton*>(QStringLiteral("startButton"));
+    EXPECT_EQ(start->text().remove('&'), "Continue");
+    start->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.isVisible(); }, 60000));
+  });
+  action("actionCertainty").trigger();
+  const Certainty& more = *window->document().result->certainty;
+  EXPECT_EQ(more.members + more.leftOut, settings.members);
+  EXPECT_EQ(more.velocities.median, whole.velocities.median);
+  EXPECT_EQ(more.deviations, whole.deviations);
 }
 
 TEST_F(Inverting, testsWhatTheSurveyResolves) {

@@ -1,9 +1,12 @@
+#include "base/AtomicFile.h"
+#include "io/EnsembleFile.h"
 #include "model/TomographyOutcome.h"
 #include "support/TestProjects.h"
 #include "tomo/TestInversion.h"
 #include "tomo/fitted/CertaintyRun.h"
 #include "tomo/fitted/FittedRun.h"
 
+#include <QTemporaryDir>
 #include <algorithm>
 
 #include <gmock/gmock.h>
@@ -105,6 +108,43 @@ TEST_F(StoppedCertainty, isRefusedWithAWordWhereItsCountsCannotBe) {
     ASSERT_TRUE(loaded.document.result->certainty) << "which is as it was";
     EXPECT_FALSE(loaded.document.result->certainty->state);
     EXPECT_EQ(resumedEnsemble(loaded.document, settings)->done(), 0);
+  }
+}
+
+TEST(EnsembleFile, comesBackToTheLastBitAndNeverInPart) {
+  EnsembleState state;
+  state.key = 0xfedcba9876543210;
+  state.start = {0.002, 1.0 / 3.0, -0.0};
+  state.members = {0, 1, 2};
+  state.bins = {1, -1200, 3, 0, 2147483647, INT64_MIN, INT64_MAX};
+  state.sums = {-1, 63, 64, -65};
+  state.touched = {0, 4294967295U};
+  const QTemporaryDir folder;
+  const std::string path = folder.filePath("a.members").toStdString();
+  ASSERT_TRUE(writeEnsemble(path, state).ok());
+  EnsembleState back;
+  ASSERT_TRUE(readEnsemble(path, back).ok());
+  EXPECT_EQ(back.key, state.key);
+  EXPECT_EQ(back.start, state.start);
+  EXPECT_EQ(back.members, state.members);
+  EXPECT_EQ(back.bins, state.bins);
+  EXPECT_EQ(back.sums, state.sums);
+  EXPECT_TRUE(back.squares.empty());
+  EXPECT_EQ(back.touched, state.touched);
+
+  std::string bytes;
+  ASSERT_TRUE(readWholeFile(path, bytes).ok());
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    std::string flipped = bytes;
+    flipped[i] = static_cast<char>(flipped[i] ^ 0x10);
+    for (const std::string& broken : {bytes.substr(0, i), flipped}) {
+      ASSERT_TRUE(writeFileAtomically(path, broken).ok());
+      EnsembleState read;
+      const Status status = readEnsemble(path, read);
+      EXPECT_FALSE(status.ok()) << i;
+      EXPECT_THAT(status.message(), HasSubstr("a.members"));
+      EXPECT_TRUE(read.start.empty());
+    }
   }
 }
 

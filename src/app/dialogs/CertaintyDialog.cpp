@@ -5,6 +5,7 @@
 #include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "app/dialogs/ParameterField.h"
+#include "model/TomographyOutcome.h"
 #include "ui_CertaintyDialog.h"
 
 namespace talvesk {
@@ -19,7 +20,12 @@ CertaintyDialog::CertaintyDialog(const TomoDocument& document, BackgroundCertain
   wrapToolTips(*this);
   setUpField(*mUi->membersField, parameters::kMembers);
   setUpField(*mUi->seedField, parameters::kSeed);
-  mUi->progressLabel->clear();
+  if (const auto& known = document.result->certainty; known && known->state) {
+    mUi->seedField->setValue(static_cast<int>(known->seed));
+  }
+  tellWhatIsDone();
+  connect(mUi->seedField, qOverload<int>(&QSpinBox::valueChanged), this,
+          &CertaintyDialog::tellWhatIsDone);
   connect(mUi->startButton, &QPushButton::clicked, this, &CertaintyDialog::start);
   connect(mUi->stopButton, &QPushButton::clicked, &mRun, &BackgroundCertainty::requestStop);
   connect(&mRun, &BackgroundCertainty::advanced, this, &CertaintyDialog::showProgress,
@@ -30,19 +36,40 @@ CertaintyDialog::CertaintyDialog(const TomoDocument& document, BackgroundCertain
 
 CertaintyDialog::~CertaintyDialog() = default;
 
-void CertaintyDialog::start() {
+/// With the velocities whose depths the certainty of the section tells, so that it can go on.
+CertaintySettings CertaintyDialog::settings() const {
   CertaintySettings settings = certaintySettings(mDocument);
   settings.members = mUi->membersField->value();
   settings.ensemble.seed = static_cast<std::uint64_t>(mUi->seedField->value());
+  if (const auto& known = mDocument.result->certainty) {
+    for (const IsovalueBand& band : known->bands) {
+      settings.ensemble.isovalues.push_back(band.velocity);
+    }
+  }
+  return settings;
+}
+
+void CertaintyDialog::tellWhatIsDone() {
+  const auto& known = mDocument.result->certainty;
+  const bool goesOn =
+      known && known->state && known->state->key == ensembleKey(mDocument, settings());
+  mUi->startButton->setText(goesOn ? tr("&Continue") : tr("&Start"));
+  mUi->progressLabel->setText(
+      goesOn ? tr("%n member(s) of this seed are done; Continue goes on with more.", nullptr,
+                  known->members + known->leftOut)
+             : QString());
+}
+
+void CertaintyDialog::start() {
   enable(true);
   mUi->progressBar->setRange(0, 0);
   mUi->progressLabel->setText(tr("Models are being tried."));
-  mRun.start(mDocument, settings);
+  mRun.start(mDocument, settings());
 }
 
 void CertaintyDialog::showProgress() {
   const EnsembleProgress state = mRun.progress();
-  if (state.members == 0) {
+  if (state.members == 0 || state.models < state.ofModels) {
     mUi->progressLabel->setText(
         tr("Models are being tried: %1 of %2.").arg(state.models).arg(state.ofModels));
     return;
@@ -74,10 +101,11 @@ void CertaintyDialog::end() {
     return;
   }
   mUi->progressBar->setRange(0, 1);
-  mUi->progressLabel->setText(mCertainty
-                                  ? tr("Stopped with %n member(s); Start goes on from there.",
-                                       nullptr, mCertainty->members + mCertainty->leftOut)
-                                  : tr("Stopped before the first member was done; Start goes on."));
+  mUi->startButton->setText(tr("&Continue"));
+  mUi->progressLabel->setText(
+      mCertainty ? tr("Stopped with %n member(s); Continue goes on from there.", nullptr,
+                      mCertainty->members + mCertainty->leftOut)
+                 : tr("Stopped before the first member was done; Continue goes on."));
 }
 
 void CertaintyDialog::enable(bool running) {

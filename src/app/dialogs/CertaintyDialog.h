@@ -13,6 +13,7 @@ namespace Ui {
 class CertaintyDialog;
 }
 class BackgroundCertainty;
+struct CertaintySettings;
 
 /// Asks by how many members the certainty of a section is to be found out, and does it beside the
 /// window. When it is stopped it stays open, and can go on.
@@ -33,6 +34,8 @@ class CertaintyDialog : public QDialog {
   void reject() override;  ///< stops what is under way first, and waits for it
 
  private:
+  CertaintySettings settings() const;
+  void tellWhatIsDone();
   void start();
   void showProgress();
   void end();

@@ -14,6 +14,7 @@ raises talvesk.Error; what had to be repaired or left out is a UserWarning.
 """
 
 from ._campaign import campaign
+from ._ensemble import ensemble
 from ._talvesk import (
     Certainty,
     Error,
@@ -41,6 +42,7 @@ __all__ = [
     "__version__",
     "campaign",
     "certainty",
+    "ensemble",
     "invert",
     "lay_out",
     "read",

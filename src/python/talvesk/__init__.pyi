@@ -203,6 +203,18 @@ def certainty(
     single_thread: bool = False,
     progress: Optional[_Progress] = None,
 ) -> Certainty: ...
+def ensemble(
+    project: Union[_Path, Survey, Result, Certainty],
+    members: int = 100,
+    *,
+    seed: int = 1,
+    isovalues: Sequence[float] = ...,
+    vary: Optional[Dict[str, Sequence[Any]]] = None,
+    client: Any = None,
+    threads: int = 0,
+    keep: Optional[_Path] = None,
+    progress: Optional[_Progress] = None,
+) -> Certainty: ...
 def read(
     paths: Union[_Path, Sequence[_Path]],
     *,

@@ -15,31 +15,29 @@
 namespace talvesk {
 namespace {
 
-Certainty gathered(const Ensemble& ensemble, const TomoDocument& document,
-                   const CertaintySettings& settings) {
-  Certainty certainty;
-  const EnsembleCounts& counts = ensemble.counts();
-  certainty.members = counts.members();
-  certainty.leftOut = ensemble.leftOut();
-  certainty.seed = settings.ensemble.seed;
-  certainty.velocities = counts.velocities();
-  certainty.deviations = counts.deviations();
-  certainty.touched = counts.touched();
-  certainty.bands = counts.bands();
-  for (const EnsembleModel& model : ensemble.models()) {
-    certainty.models.push_back({model.name.english(), model.chi2, model.members});
-  }
-  certainty.picks = fingerprintOfPicks(document.ttArray);
-  EnsembleState state = ensemble.state();
-  state.key = ensembleKey(document, settings);
-  if (state.numbers() <= EnsembleState::kMostNumbers) {
-    certainty.state = std::make_shared<const EnsembleState>(std::move(state));
-  }
-  return certainty;
-}
-
 std::uint64_t rounded(double slowness) {
   return static_cast<std::uint64_t>(std::llround(1000.0 / slowness));
+}
+
+/// The section of a document as it was before a project rounded it, where that is known.
+const std::vector<double>& sectionOf(const TomoDocument& document) {
+  const std::optional<Certainty>& known = document.result->certainty;
+  if (known && known->state && isStateOf(*known->state, document)) return known->state->start;
+  return document.model->grid->slownesses();
+}
+
+void takeVariation(const EnsembleVariation& vary, Fingerprint& key) {
+  key.take(std::uint64_t{vary.smoothing.size()});
+  for (const double factor : vary.smoothing) key.take(factor);
+  for (const auto* list : {&vary.robust, &vary.blocky, &vary.statics}) {
+    key.take(std::uint64_t{list->size()});
+    for (const bool value : *list) key.take(std::uint64_t{value});
+  }
+}
+
+unsigned threadsOf(const CertaintySettings& settings) {
+  if (settings.singleThread) return 1;
+  return settings.threads > 0 ? settings.threads : searchThreads();
 }
 
 }  // namespace
@@ -48,7 +46,7 @@ std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
                                      const CertaintySettings& settings) {
   const Grid& grid = *document.model->grid;
   EnsembleOptions options = settings.ensemble;
-  if (options.fit.start.empty()) options.fit.start = grid.slownesses();
+  if (options.fit.start.empty()) options.fit.start = sectionOf(document);
   if (settings.holdKnown) options.fit.known = knownCellsOf(document);
   return std::make_unique<Ensemble>(grid.sharedGeometry(), picksToFit(document, settings.errors),
                                     std::move(options));
@@ -59,10 +57,8 @@ std::unique_ptr<Ensemble> resumedEnsemble(const TomoDocument& document,
   const std::optional<Certainty>& known = document.result->certainty;
   if (known && known->state && known->state->key == ensembleKey(document, settings) &&
       isStateOf(*known->state, document)) {
-    CertaintySettings kept = settings;
-    kept.ensemble.fit.start = known->state->start;
-    auto ensemble = ensembleOf(document, kept);
-    if (ensemble->restore(*known->state)) return ensemble;
+    auto ensemble = ensembleOf(document, settings);
+    if (ensemble->add(*known->state)) return ensemble;
   }
   return ensembleOf(document, settings);
 }
@@ -71,7 +67,7 @@ bool isStateOf(const EnsembleState& state, const TomoDocument& document) {
   if (document.model->grid == nullptr) return false;
   const std::vector<double>& section = document.model->grid->slownesses();
   return state.numbers() <= EnsembleState::kMostNumbers &&
-         state.members.size() <= static_cast<std::size_t>(parameters::kMembers.limits.most) &&
+         state.members.size() <= static_cast<std::size_t>(Ensemble::kMostMembers) &&
          std::equal(state.start.begin(), state.start.end(), section.begin(), section.end(),
                     [](double a, double b) {
                       return std::isfinite(a) && a > 0.0 && rounded(a) == rounded(b);
@@ -122,7 +118,31 @@ std::uint64_t ensembleKey(const TomoDocument& document, const CertaintySettings&
   key.take(static_cast<std::uint64_t>(fit.mostIterations));
   key.take(options.seed);
   key.take(settings.holdKnown ? fingerprintOf(*document.known) : std::uint64_t{0});
+  if (options.vary.any()) takeVariation(options.vary, key);
   return key.value();
+}
+
+Certainty gathered(const Ensemble& ensemble, const TomoDocument& document,
+                   const CertaintySettings& settings) {
+  Certainty certainty;
+  const EnsembleCounts& counts = ensemble.counts();
+  certainty.members = counts.members();
+  certainty.leftOut = ensemble.leftOut();
+  certainty.seed = settings.ensemble.seed;
+  certainty.velocities = counts.velocities();
+  certainty.deviations = counts.deviations();
+  certainty.touched = counts.touched();
+  certainty.bands = counts.bands();
+  for (const EnsembleModel& model : ensemble.models()) {
+    certainty.models.push_back({model.name.english(), model.chi2, model.members});
+  }
+  certainty.picks = fingerprintOfPicks(document.ttArray);
+  EnsembleState state = ensemble.state();
+  state.key = ensembleKey(document, settings);
+  if (state.numbers() <= EnsembleState::kMostNumbers) {
+    certainty.state = std::make_shared<const EnsembleState>(std::move(state));
+  }
+  return certainty;
 }
 
 Status runCertainty(Ensemble& ensemble, const TomoDocument& document,
@@ -130,17 +150,17 @@ Status runCertainty(Ensemble& ensemble, const TomoDocument& document,
                     const std::function<void(const EnsembleProgress&)>& progress,
                     const std::function<bool()>& cancelled) {
   try {
-    const unsigned threads = settings.singleThread ? 1U : searchThreads();
-    const Status status = ensemble.run(settings.members, threads, progress,
+    const Status status = ensemble.run(settings.range(), threadsOf(settings), progress,
                                        [&] { return !cancelled || !cancelled(); });
     if (ensemble.counts().members() > 0) certainty = gathered(ensemble, document, settings);
-    if (!status.ok() || ensemble.counts().members() > 0 || ensemble.done() < settings.members) {
+    if (!status.ok() || ensemble.counts().members() > 0 ||
+        !ensemble.openOf(settings.range()).empty()) {
       return status;
     }
     return Status::failure(
         Message::tr("None of the %1 members explains the picks to within their errors; how sure "
                     "the section is stays unknown.")
-            .arg(settings.members));
+            .arg(settings.members - settings.first));
   } catch (const std::exception& error) {
     return Status::failure(
         Message::tr("How sure the section is could not be found out: %1").arg(error.what()));

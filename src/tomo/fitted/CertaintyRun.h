@@ -16,14 +16,19 @@ class TomoDocument;
 /// What the user chooses before it is asked how sure a section is.
 struct CertaintySettings {
   int members = parameters::kMembers.initial;
+  int first = 0;             ///< member that this run begins with, below `members`
   EnsembleOptions ensemble;  ///< without a start: the section of the document is
   PickErrorRule errors;
   bool holdKnown = false;  ///< members are held to the document's known ground, too
   bool singleThread = false;
+  unsigned threads = 0;  ///< members that are fitted at once; 0: as many as there are cores
+
+  MemberRange range() const { return {first, members}; }
 };
 
-/// The ensemble of a document's section, with no member yet. The document holds a grid whose rays
-/// can be traced (checkTraceable()). May throw.
+/// The ensemble of a document's section, with no member yet; to the last bit the one that a project
+/// of it has kept members of. The document holds a grid whose rays can be traced
+/// (checkTraceable()). May throw.
 std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
                                      const CertaintySettings& settings);
 
@@ -41,6 +46,11 @@ bool isStateOf(const EnsembleState& state, const TomoDocument& document);
 /// Tells ensembles apart: members of ensembles with one key are the same. The section counts to a
 /// millimetre per second, as it comes back from a project.
 std::uint64_t ensembleKey(const TomoDocument& document, const CertaintySettings& settings);
+
+/// What the members tell that are done; one at least counts. Its state is left out where it is too
+/// large for a project.
+Certainty gathered(const Ensemble& ensemble, const TomoDocument& document,
+                   const CertaintySettings& settings);
 
 /// How sure a document's section is. Whatever stops the run, what is found of members until then is
 /// kept in `ensemble`, with which it can go on.

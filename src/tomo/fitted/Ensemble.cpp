@@ -1,6 +1,5 @@
 #include "tomo/fitted/Ensemble.h"
 
-#include "tomo/fitted/MemberNoise.h"
 #include "tomo/fitted/ReferenceModels.h"
 #include "tomo/fitted/ShotRays.h"
 #include "tomo/fitted/ShotShifts.h"
@@ -11,31 +10,12 @@
 #include <utility>
 
 namespace talvesk {
-namespace {
-
-constexpr int kMemberIterations = 4;  // most need two: they start where an earlier fit has ended
-
-std::vector<bool> touchedCells(const RayMatrix& rays, std::size_t cells) {
-  std::vector<bool> touched(cells, false);
-  for (const std::uint32_t cell : rays.cells) touched[cell] = true;
-  return touched;
-}
-
-}  // namespace
-
-/// A model, and where the fit to the picks as measured has ended with it.
-struct Ensemble::Start {
-  bool layered = false;
-  std::vector<double> reference;  ///< s/m
-  std::vector<double> section;    ///< s/m; empty: not fitted yet
-  double lambda = 0.0;
-};
 
 struct Ensemble::Run {
-  int members;
+  MemberRange range;
   unsigned threads;
-  const std::function<void(const EnsembleProgress&)>& progress;
-  const std::function<bool()>& goOn;
+  const Progress& progress;
+  const GoOn& goOn;
 };
 
 Ensemble::Ensemble(std::shared_ptr<const GridGeometry> geometry, FitData data,
@@ -47,10 +27,17 @@ Ensemble::Ensemble(std::shared_ptr<const GridGeometry> geometry, FitData data,
 
 Ensemble::~Ensemble() = default;
 
-int Ensemble::done() const {
-  return static_cast<int>(
-      mMembers.size() -
-      static_cast<std::size_t>(std::count(mMembers.begin(), mMembers.end(), EnsembleState::kOpen)));
+std::vector<std::size_t> Ensemble::openOf(MemberRange range) const {
+  std::vector<std::size_t> open;
+  for (auto k = static_cast<std::size_t>(range.first); k < static_cast<std::size_t>(range.end);
+       ++k) {
+    if (k >= mMembers.size() || mMembers[k] == EnsembleState::kOpen) open.push_back(k);
+  }
+  return open;
+}
+
+int Ensemble::doneOf(MemberRange range) const {
+  return range.end - range.first - static_cast<int>(openOf(range).size());
 }
 
 int Ensemble::leftOut() const {
@@ -65,33 +52,43 @@ EnsembleState Ensemble::state() const {
   return state;
 }
 
-bool Ensemble::restore(const EnsembleState& state) {
+bool Ensemble::add(const EnsembleState& state) {
   const auto& members = state.members;
-  const bool known = std::all_of(members.begin(), members.end(),
+  const bool known = members.size() <= kMostMembers &&
+                     std::all_of(members.begin(), members.end(),
                                  [](std::uint8_t m) { return m <= EnsembleState::kLeftOut; });
-  const auto counting = std::count(members.begin(), members.end(), EnsembleState::kCounts);
-  if (!known || state.start != mOptions.fit.start ||
-      !mCounts.restore(state, static_cast<int>(counting))) {
-    return false;
+  if (!known || state.start != mOptions.fit.start) return false;
+  std::vector<std::uint8_t> all = mMembers;
+  all.resize(std::max(all.size(), members.size()), EnsembleState::kOpen);
+  for (std::size_t k = 0; k < members.size(); ++k) {
+    if (members[k] == EnsembleState::kOpen) continue;
+    if (all[k] != EnsembleState::kOpen) return false;
+    all[k] = members[k];
   }
-  mMembers = members;
+  const auto counting = std::count(members.begin(), members.end(), EnsembleState::kCounts);
+  EnsembleCounts counts(*mGeometry, mOptions.isovalues);
+  if (!counts.restore(state, static_cast<int>(counting))) return false;
+  mCounts.add(counts);
+  mMembers = std::move(all);
+  countMembers();
   return true;
 }
 
 /// How many of its members each model has, of those that were done by an earlier run, too.
 void Ensemble::countMembers() {
+  if (mFits == nullptr) return;
   for (EnsembleModel& model : mModels) model.members = 0;
   for (std::size_t k = 0; k < mMembers.size(); ++k) {
-    if (mMembers[k] == EnsembleState::kCounts) ++mModels[modelOf(k)].members;
+    if (mMembers[k] == EnsembleState::kCounts) ++mModels[mFits->startOf(k).model].members;
   }
 }
 
-void Ensemble::addModel(Message name, bool layered, std::vector<double> slownesses) {
-  for (const Start& other : mStarts) {
+void Ensemble::addModel(const Message& name, bool layered, const std::vector<double>& slownesses) {
+  for (const MemberStart& other : mStarts) {
     if (other.reference == slownesses) return;
   }
-  mModels.push_back({std::move(name)});
-  mStarts.push_back({layered, std::move(slownesses), {}, 0.0});
+  mModels.push_back({name});
+  mStarts.push_back({mStarts.size(), layered, {}, slownesses, {}, 0.0});
 }
 
 void Ensemble::findModels() {
@@ -99,30 +96,40 @@ void Ensemble::findModels() {
   ReferenceModels read =
       referenceModels(picksOnTime(mData, mOptions.fit.triggerError), *mGeometry, bounds);
   mRefused = std::move(read.refused);
-  for (ReferenceModel& model : read.models) {
-    const bool layered = !model.refractors.empty();
-    addModel(std::move(model.name), layered, std::move(model.slownesses));
+  for (const ReferenceModel& model : read.models) {
+    addModel(model.name, !model.refractors.empty(), model.slownesses);
   }
   std::vector<double> usual = defaultSlownesses(*mGeometry);
   for (double& slowness : usual) {
     slowness = std::clamp(slowness, 1.0 / bounds.greatest, 1.0 / bounds.least);
   }
-  addModel(Message::tr("Default model"), false, std::move(usual));
+  addModel(Message::tr("Default model"), false, usual);
   addModel(Message::tr("Present section"), false, mOptions.fit.start);
-}
 
-FittedOptions Ensemble::optionsFrom(std::vector<double> start,
-                                    const std::vector<double>& reference) const {
-  FittedOptions options = mOptions.fit;
-  options.start = std::move(start);
-  options.reference = reference;
-  return options;
+  // The same models once more for every manner of fitting.
+  const std::vector<EnsembleModel> models = std::move(mModels);
+  const std::vector<MemberStart> starts = std::move(mStarts);
+  mModels.clear();
+  mStarts.clear();
+  for (const FitManner& manner : mannersOf(mOptions.vary, mOptions.fit)) {
+    for (std::size_t i = 0; i < models.size(); ++i) {
+      mStarts.push_back(starts[i]);
+      mStarts.back().model = mModels.size();
+      mStarts.back().manner = manner;
+      mModels.push_back({namedWith(models[i].name, manner, mOptions.vary)});
+    }
+  }
 }
 
 Status Ensemble::fitModel(std::size_t number, RayTracer& tracer, const Run& run) {
-  Start& start = mStarts[number];
-  FittedInversion inversion(mGeometry->size(), mData, tracer,
-                            optionsFrom(start.reference, start.reference));
+  MemberStart& start = mStarts[number];
+  FittedOptions options = mOptions.fit;
+  options.start = start.reference;
+  options.reference = start.reference;
+  options.robust = start.manner.robust;
+  options.blocky = start.manner.blocky;
+  options.statics = start.manner.statics;
+  FittedInversion inversion(mGeometry->size(), mData, tracer, std::move(options));
   FittedResult fit = inversion.run({}, run.goOn);
   if (!fit.status.ok() || fit.end == FitEnd::kStopped) return fit.status;
   const std::lock_guard<std::mutex> lock(mMutex);
@@ -130,69 +137,40 @@ Status Ensemble::fitModel(std::size_t number, RayTracer& tracer, const Run& run)
   if (fit.loosened) start.reference = std::move(fit.reference);
   start.lambda = fit.lambda;
   mModels[number].chi2 = fit.fit.chi2;
-  mModels[number].plausible = fit.fit.chi2 <= kPlausible;
+  mModels[number].plausible = fit.fit.chi2 <= MemberFits::kPlausible;
   tell(run);
   return {};
 }
 
-/// Members are fitted to picks that are moved once more, so their own chi-square says little.
-double Ensemble::chi2AsMeasured(const FittedResult& fit) const {
-  std::vector<double> scaled(mData.picks.size());
-  for (std::size_t s = 0; s < mData.shots.size(); ++s) {
-    const FitShot& shot = mData.shots[s];
-    const double shift = fit.statics.empty() ? 0.0 : fit.statics[s];
-    for (std::size_t i = shot.firstPick; i < shot.firstPick + shot.receivers.size(); ++i) {
-      const FitPick& pick = mData.picks[i];
-      scaled[i] = (fit.traced.times[i] + shift - pick.time) / pick.sigma;
-    }
-  }
-  return chiSquareOf(scaled).chi2;
-}
-
-/// Half of the members are held to sharp ground and half to smooth ground, for the picks do not
-/// tell which it is.
-std::size_t Ensemble::modelOf(std::size_t member) const {
-  std::vector<std::size_t> kinds[2];
-  for (std::size_t i = 0; i < mModels.size(); ++i) {
-    if (mModels[i].plausible) kinds[mStarts[i].layered ? 1 : 0].push_back(i);
-  }
-  for (const int kind : {0, 1}) {
-    const auto& other = kinds[1 - kind];
-    if (kinds[kind].empty()) return other[member % other.size()];
-  }
-  const auto& kind = kinds[member % 2];
-  return kind[member / 2 % kind.size()];
+void Ensemble::take(const EnsembleMember& member) {
+  if (mMembers.size() <= member.number) mMembers.resize(member.number + 1, EnsembleState::kOpen);
+  if (mMembers[member.number] != EnsembleState::kOpen) return;
+  mMembers[member.number] = member.counts ? EnsembleState::kCounts : EnsembleState::kLeftOut;
+  if (!member.counts) return;
+  mCounts.add(member.slownesses, member.touched);
+  ++mModels[mFits->startOf(member.number).model].members;
 }
 
 Status Ensemble::fitMember(std::size_t number, RayTracer& tracer, const Run& run) {
-  const std::size_t model = modelOf(number);
-  const Start& start = mStarts[model];
-  const FitData picks = perturbedPicks(mData, mOptions.seed, number);
-  FittedOptions options = optionsFrom(start.section, start.reference);
-  options.mostIterations = kMemberIterations;
-  FittedInversion inversion(mGeometry->size(), picks, tracer, std::move(options));
-  const FittedResult fit = inversion.settle(start.lambda, run.goOn);
-  if (!fit.status.ok() || fit.end == FitEnd::kStopped) return fit.status;
-  const bool counts = chi2AsMeasured(fit) <= kPlausible;
-  const std::vector<bool> touched = touchedCells(fit.traced.rays, fit.slownesses.size());
+  std::optional<EnsembleMember> member;
+  Status status = mFits->fit(number, tracer, run.goOn, member);
+  if (!member) return status;
   const std::lock_guard<std::mutex> lock(mMutex);
-  mMembers[number] = counts ? EnsembleState::kCounts : EnsembleState::kLeftOut;
-  if (counts) {
-    mCounts.add(fit.slownesses, touched);
-    ++mModels[model].members;
-  }
+  take(*member);
   tell(run);
-  return {};
+  return status;
 }
 
 void Ensemble::tell(const Run& run) const {
   if (!run.progress) return;
   EnsembleProgress state;
   state.ofModels = static_cast<int>(mStarts.size());
-  state.models = static_cast<int>(std::count_if(
-      mStarts.begin(), mStarts.end(), [](const Start& each) { return !each.section.empty(); }));
-  state.members = done();
-  state.ofMembers = run.members;
+  state.models =
+      static_cast<int>(std::count_if(mStarts.begin(), mStarts.end(), [](const MemberStart& each) {
+        return !each.section.empty();
+      }));
+  state.members = doneOf(run.range);
+  state.ofMembers = run.range.end - run.range.first;
   state.leftOut = leftOut();
   run.progress(state);
 }
@@ -215,37 +193,48 @@ Status Ensemble::forEach(const std::vector<std::size_t>& numbers, const Run& run
   return failure;
 }
 
-Status Ensemble::run(int members, unsigned threads,
-                     const std::function<void(const EnsembleProgress&)>& progress,
-                     const std::function<bool()>& goOn) {
-  const Run run{members, threads, progress, goOn};
-  std::vector<std::size_t> open;
-  if (mModels.empty()) findModels();
-  for (std::size_t i = 0; i < mStarts.size(); ++i) {
-    if (mStarts[i].section.empty()) open.push_back(i);
+/// Members are made of the models that explain the picks.
+Status Ensemble::takePlausible() {
+  std::vector<MemberStart> plausible;
+  for (const MemberStart& start : mStarts) {
+    if (mModels[start.model].plausible) plausible.push_back(start);
   }
-  if (Status status = forEach(open, run, &Ensemble::fitModel); !status.ok()) return status;
-  bool explained = false;
-  for (std::size_t i = 0; i < mModels.size(); ++i) {
-    if (mStarts[i].section.empty()) return {};  // stopped
-    explained = explained || mModels[i].plausible;
-  }
-  if (!explained) {
+  if (plausible.empty()) {
     return Status::failure(
         Message::tr("No model explains the picks to within their errors (chi-square up to %1), so "
                     "that nothing can be said of how sure the section is. Their errors may be "
                     "stated too small, or shots may be shifted in time.")
-            .arg(kPlausible));
+            .arg(MemberFits::kPlausible));
   }
+  mFits = std::make_shared<const MemberFits>(mGeometry, mData, mOptions, std::move(plausible));
   countMembers();
-  if (mMembers.size() < static_cast<std::size_t>(members)) {
-    mMembers.resize(static_cast<std::size_t>(members), EnsembleState::kOpen);
+  return {};
+}
+
+Status Ensemble::prepare(MemberRange range, unsigned threads, const Progress& progress,
+                         const GoOn& goOn) {
+  if (mFits != nullptr) return {};
+  const Run run{range, threads, progress, goOn};
+  if (mModels.empty()) findModels();
+  std::vector<std::size_t> open;
+  for (std::size_t i = 0; i < mStarts.size(); ++i) {
+    if (mStarts[i].section.empty()) open.push_back(i);
   }
-  open.clear();
-  for (std::size_t k = 0; k < static_cast<std::size_t>(members); ++k) {
-    if (mMembers[k] == EnsembleState::kOpen) open.push_back(k);
+  if (Status status = forEach(open, run, &Ensemble::fitModel); !status.ok()) return status;
+  for (const MemberStart& start : mStarts) {
+    if (start.section.empty()) return {};  // stopped
   }
-  return forEach(open, run, &Ensemble::fitMember);
+  return takePlausible();
+}
+
+Status Ensemble::run(MemberRange range, unsigned threads, const Progress& progress,
+                     const GoOn& goOn) {
+  Status status = prepare(range, threads, progress, goOn);
+  if (!status.ok() || mFits == nullptr) return status;
+  if (mMembers.size() < static_cast<std::size_t>(range.end)) {
+    mMembers.resize(static_cast<std::size_t>(range.end), EnsembleState::kOpen);
+  }
+  return forEach(openOf(range), Run{range, threads, progress, goOn}, &Ensemble::fitMember);
 }
 
 }  // namespace talvesk

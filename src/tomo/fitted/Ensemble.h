@@ -5,9 +5,9 @@
 #include "grid/GridGeometry.h"
 #include "model/EnsembleState.h"
 #include "tomo/fitted/EnsembleCounts.h"
-#include "tomo/fitted/FitData.h"
-#include "tomo/fitted/FittedInversion.h"
+#include "tomo/fitted/MemberFits.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -15,13 +15,6 @@
 #include <vector>
 
 namespace talvesk {
-
-/// What the members of an ensemble have in common.
-struct EnsembleOptions {
-  FittedOptions fit;              ///< the start is the present section; the reference is not used
-  std::uint64_t seed = 1;         ///< of the errors that picks are given
-  std::vector<double> isovalues;  ///< m/s, whose depths are asked for
-};
 
 /// A model that members start from and are held to.
 struct EnsembleModel {
@@ -39,6 +32,12 @@ struct EnsembleProgress {
   int leftOut = 0;
 };
 
+/// Some of the members of an ensemble, by their numbers.
+struct MemberRange {
+  int first = 0;
+  int end = 0;  ///< behind the last one
+};
+
 /// Many sections that explain the picks of a survey as well as one another, to see in what they
 /// agree. Members are fitted to picks that are moved by their errors, and held in turn to all
 /// models with which the picks can be explained: those that they are read as, the default model and
@@ -47,47 +46,61 @@ struct EnsembleProgress {
 /// Knows nothing of a document. What is done is kept: run() may be stopped, and called again.
 class Ensemble {
  public:
-  /// Chi-square up to which a model or a member explains the picks.
-  static constexpr double kPlausible = 1.6;
+  /// How many members there can be: sums of squares of more do not fit.
+  static constexpr int kMostMembers = 65536;
 
   /// \param data, geometry of the survey; the options have a start
   Ensemble(std::shared_ptr<const GridGeometry> geometry, FitData data, EnsembleOptions options);
   ~Ensemble();
 
-  /// Goes on until there are `members` members. Fails when the picks are explained by none of the
-  /// models, and when a fit fails.
+  using Progress = std::function<void(const EnsembleProgress&)>;
+  using GoOn = std::function<bool()>;
+
+  /// Goes on until all members of the range are done. Fails when the picks are explained by none of
+  /// the models, and when a fit fails.
   /// \param threads members that are fitted at once, at least 1
   /// \param progress told of every model and member, from any of the threads, one at a time; may be
-  /// empty
+  /// empty. It may ask for state()
   /// \param goOn asked between the rays of shots from all threads; false stops; may be empty
-  Status run(int members, unsigned threads,
-             const std::function<void(const EnsembleProgress&)>& progress = {},
-             const std::function<bool()>& goOn = {});
+  Status run(MemberRange range, unsigned threads, const Progress& progress = {},
+             const GoOn& goOn = {});
+  /// The same of the first members.
+  Status run(int members, unsigned threads, const Progress& progress = {}, const GoOn& goOn = {}) {
+    return run(MemberRange{0, members}, threads, progress, goOn);
+  }
+
+  /// Fits the models, which run() does by itself. \param range for the progress
+  Status prepare(MemberRange range, unsigned threads, const Progress& progress = {},
+                 const GoOn& goOn = {});
+  /// What fits members, here or elsewhere; null before prepare() is through.
+  std::shared_ptr<const MemberFits> fits() const { return mFits; }
+  /// Counts a member that fits() has fitted. One that is done already changes nothing.
+  void take(const EnsembleMember& member);
 
   // Not to be called while run() runs.
   /// What is done, for an ensemble of the same survey and options; without a key.
   EnsembleState state() const;
-  /// Goes on from there. False, with nothing changed, where the state is none of this ensemble.
-  bool restore(const EnsembleState& state);
-  int done() const;     ///< members, those left out included
-  int leftOut() const;  ///< members that do not explain the picks as measured
-  const EnsembleCounts& counts() const { return mCounts; }  ///< of the other ones
+  /// Adds the members of a state to those that are done. False, with nothing changed, where it is
+  /// none of this ensemble, or has members that are done here as well.
+  bool add(const EnsembleState& state);
+  int done() const { return doneOf({0, static_cast<int>(mMembers.size())}); }
+  int doneOf(MemberRange range) const;  ///< members, those left out included
+  int leftOut() const;                  ///< members that do not explain the picks as measured
+  std::vector<std::size_t> openOf(MemberRange range) const;  ///< that are not done
+  const EnsembleCounts& counts() const { return mCounts; }   ///< of the other ones
   const std::vector<EnsembleModel>& models() const { return mModels; }
   const std::vector<Message>& refused() const { return mRefused; }  ///< models, with the reason
 
  private:
-  struct Start;
   struct Run;
   using Part = Status (Ensemble::*)(std::size_t number, RayTracer& tracer, const Run& run);
 
   void findModels();
-  void addModel(Message name, bool layered, std::vector<double> slownesses);
-  std::size_t modelOf(std::size_t member) const;
+  void addModel(const Message& name, bool layered, const std::vector<double>& slownesses);
   Status forEach(const std::vector<std::size_t>& numbers, const Run& run, Part part);
   Status fitModel(std::size_t number, RayTracer& tracer, const Run& run);
   Status fitMember(std::size_t number, RayTracer& tracer, const Run& run);
-  FittedOptions optionsFrom(std::vector<double> start, const std::vector<double>& reference) const;
-  double chi2AsMeasured(const FittedResult& fit) const;
+  Status takePlausible();
   void countMembers();
   void tell(const Run& run) const;
 
@@ -95,7 +108,8 @@ class Ensemble {
   const FitData mData;
   const EnsembleOptions mOptions;
   std::vector<EnsembleModel> mModels;
-  std::vector<Start> mStarts;          ///< of the models, as many
+  std::vector<MemberStart> mStarts;  ///< of the models, as many, manner by manner
+  std::shared_ptr<const MemberFits> mFits;
   std::vector<std::uint8_t> mMembers;  ///< EnsembleState::Member of each
   std::vector<Message> mRefused;
   EnsembleCounts mCounts;

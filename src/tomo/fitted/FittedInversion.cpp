@@ -64,7 +64,7 @@ class FittedInversion::Fit {
   Message invalid() const { return mProblem.invalid(); }
   FittedResult run(const std::function<void(const FitProgress&)>& progress,
                    const std::function<bool()>& goOn);
-  FittedResult settle(double lambda, const std::function<bool()>& goOn);
+  FittedResult settle(double lambda, const std::function<bool()>& goOn, double factor);
 
  private:
   bool tooGood(const FitSection& start) const;
@@ -84,9 +84,10 @@ class FittedInversion::Fit {
   bool mLoosened = false;              ///< see FittedResult
 };
 
-FittedResult FittedInversion::Fit::settle(double lambda, const std::function<bool()>& goOn) {
+FittedResult FittedInversion::Fit::settle(double lambda, const std::function<bool()>& goOn,
+                                          double factor) {
   FitSection section = mProblem.start();
-  section.lambda = lambda > 0.0 ? lambda : mProblem.firstLambda();
+  section.lambda = factor * (lambda > 0.0 ? lambda : mProblem.firstLambda());
   if (!mProblem.evaluate(section, goOn)) return {};
   mHistory = {section.fit.chi2};
   for (int iteration = 1; iteration <= mProblem.options().mostIterations; ++iteration) {
@@ -319,8 +320,9 @@ FittedResult FittedInversion::run(const std::function<void(const FitProgress&)>&
   return attempt([&] { return mFit->run(progress, goOn); });
 }
 
-FittedResult FittedInversion::settle(double lambda, const std::function<bool()>& goOn) {
-  return attempt([&] { return mFit->settle(lambda, goOn); });
+FittedResult FittedInversion::settle(double lambda, const std::function<bool()>& goOn,
+                                     double factor) {
+  return attempt([&] { return mFit->settle(lambda, goOn, factor); });
 }
 
 FittedResult FittedInversion::attempt(const std::function<FittedResult()>& fit) {

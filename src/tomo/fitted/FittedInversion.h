@@ -80,7 +80,8 @@ class FittedInversion {
   /// Instead of run(), for picks that are those of an earlier fit but for other errors: the section
   /// that a given weight of the roughness leads to, whatever its chi-square. `end` is kStopped or
   /// kIterations. \param lambda as of the earlier result; 0: the weight that run() begins with
-  FittedResult settle(double lambda, const std::function<bool()>& goOn = {});
+  /// \param factor of that weight, positive
+  FittedResult settle(double lambda, const std::function<bool()>& goOn = {}, double factor = 1.0);
 
  private:
   FittedResult attempt(const std::function<FittedResult()>& fit);

@@ -122,6 +122,86 @@ TEST(Ensemble, isTheSameWithAnyThreadsAndInAnySteps) {
   expectSame(stepwise, alone);
 }
 
+TEST(Ensemble, isTheSameInAnyPartsPutTogetherInAnyOrder) {
+  const FitLine line = fitLine(kSmall, twoLayerTimes(500.0, 1800.0, 3.0));
+  constexpr int kMembers = 7;
+  Ensemble alone = ensembleOf(line, {900.0});
+  ASSERT_TRUE(alone.run(kMembers, 2).ok());
+  // Ranges of other runs, and single members that were fitted elsewhere, the last one first.
+  std::vector<EnsembleState> parts;
+  for (const MemberRange range : {MemberRange{4, 5}, MemberRange{0, 2}, MemberRange{5, 7}}) {
+    Ensemble part = ensembleOf(line, {900.0});
+    ASSERT_TRUE(part.run(range, 2).ok());
+    EXPECT_EQ(part.done(), range.end - range.first);
+    EXPECT_EQ(part.openOf(range).size(), 0U);
+    parts.push_back(part.state());
+  }
+  for (const std::vector<std::size_t>& order : {std::vector<std::size_t>{0, 1, 2}, {2, 0, 1}}) {
+    Ensemble whole = ensembleOf(line, {900.0});
+    for (const std::size_t part : order) ASSERT_TRUE(whole.add(parts[part]));
+    EXPECT_FALSE(whole.add(parts[0])) << "its members are done";
+    ASSERT_TRUE(whole.prepare({0, kMembers}, 2).ok());
+    const auto tracer = whole.fits()->newTracer();
+    EXPECT_EQ(whole.openOf({0, kMembers}), (std::vector<std::size_t>{2, 3}));
+    for (const std::size_t k : {std::size_t{3}, std::size_t{2}}) {
+      std::optional<EnsembleMember> member;
+      ASSERT_TRUE(whole.fits()->fit(k, *tracer, {}, member).ok());
+      ASSERT_TRUE(member);
+      whole.take(*member);
+      whole.take(*member);  // changes nothing
+    }
+    expectSame(whole, alone);
+    for (std::size_t i = 0; i < alone.models().size(); ++i) {
+      EXPECT_EQ(whole.models()[i].members, alone.models()[i].members);
+    }
+  }
+}
+
+TEST(Ensemble, variesTheSettingsThatItIsTold) {
+  const FitLine line = fitLine(kSmall, twoLayerTimes(500.0, 1800.0, 3.0));
+  constexpr int kMembers = 8;
+  EnsembleOptions options = optionsOf(line);
+  Ensemble usual(line.geometry, line.data, options);
+  ASSERT_TRUE(usual.run(kMembers, 2).ok());
+
+  // Settings that are those of the fit change nothing.
+  options.vary.smoothing = {1.0};
+  options.vary.blocky = {false, false};
+  Ensemble same(line.geometry, line.data, options);
+  ASSERT_TRUE(same.run(kMembers, 2).ok());
+  expectSame(same, usual);
+
+  options.vary.smoothing = {0.1, 10.0};
+  options.vary.blocky = {false, true};
+  Ensemble varied(line.geometry, line.data, options);
+  ASSERT_TRUE(varied.run(kMembers, 2).ok());
+  EXPECT_EQ(varied.models().size(), 2 * usual.models().size());
+  EXPECT_NE(varied.counts().deviations(), usual.counts().deviations());
+  bool blocky[2] = {false, false};
+  for (std::size_t k = 0; k < 100; ++k) {
+    const MemberStart& start = varied.fits()->startOf(k);
+    blocky[start.manner.blocky ? 1 : 0] = true;
+    EXPECT_EQ(start.layered, usual.fits()->startOf(k).layered) << "half and half in either manner";
+    const std::string name = varied.models()[start.model].name.english();
+    EXPECT_THAT(name, ::testing::EndsWith(start.manner.blocky ? ", blocky" : ", smooth"));
+  }
+  EXPECT_TRUE(blocky[0] && blocky[1]);
+
+  Ensemble parts(line.geometry, line.data, options);
+  ASSERT_TRUE(parts.run(MemberRange{5, kMembers}, 1).ok());
+  ASSERT_TRUE(parts.run(kMembers, 2).ok());
+  expectSame(parts, varied);
+}
+
+TEST(MemberDraw, isEvenAndOfItsSeedAndNumberAlone) {
+  int counts[3] = {0, 0, 0};
+  for (std::uint64_t k = 0; k < 3000; ++k) ++counts[memberDraw(1, k, 0) % 3];
+  for (const int count : counts) EXPECT_NEAR(count, 1000, 100);
+  EXPECT_EQ(memberDraw(1, 5, 0), memberDraw(1, 5, 0));
+  EXPECT_NE(memberDraw(1, 5, 0), memberDraw(1, 5, 1));
+  EXPECT_NE(memberDraw(1, 5, 0), memberDraw(2, 5, 0));
+}
+
 TEST(Ensemble, dependsOnItsSeed) {
   const FitLine line = fitLine(kSmall, gradientTimes(400.0, 50.0));
   Ensemble one = ensembleOf(line);
