@@ -39,7 +39,7 @@ class SampleStore {
   /// memory that the process may have.
   std::size_t memoryLimit() const { return mMemoryLimit; }
   void setMemoryLimit(std::size_t bytes) { mMemoryLimit = bytes; }
-  /// Bytes of samples on the disk that may be in memory besides; at first 128 MiB.
+  /// Bytes of samples on the disk that may be in memory besides; at first 64 MiB.
   std::size_t readBudget() const { return mReadBudget; }
   void setReadBudget(std::size_t bytes) { mReadBudget = bytes; }
   /// Where scratch files go, the first that takes one; at first scratchFolders().
@@ -84,7 +84,7 @@ class SampleStore {
 
   std::atomic<SamplesOnDisk> mWhen{SamplesOnDisk::kWhenLarge};
   std::atomic<std::size_t> mMemoryLimit;
-  std::atomic<std::size_t> mReadBudget{std::size_t{128} << 20};
+  std::atomic<std::size_t> mReadBudget{std::size_t{64} << 20};
   std::atomic<std::size_t> mMemory{0};
   std::atomic<std::size_t> mDisk{0};
   std::atomic<std::size_t> mRead{0};

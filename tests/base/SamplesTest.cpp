@@ -1,6 +1,6 @@
-#include "base/Console.h"
 #include "base/SampleStore.h"
 #include "base/ScratchFile.h"
+#include "support/ConsoleCapture.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -8,7 +8,6 @@
 #include <atomic>
 #include <fstream>
 #include <numeric>
-#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -177,14 +176,12 @@ TEST_F(SampleStoreTest, theDiskIsFreeAgainWhenItsSamplesAreGone) {
 TEST_F(SampleStoreTest, withoutAFolderSamplesStayInMemoryWithAWord) {
   store.setWhen(SamplesOnDisk::kAlways);
   store.setFolders({"/nowhere/at/all"});
-  std::ostringstream said;
-  console::setError(said);
+  const testing::ConsoleCapture console;
   const Samples first = ramp(100);
   const Samples second = ramp(100);
-  console::setError(console::nowhere());
   EXPECT_FALSE(first.onDisk());
   EXPECT_EQ(first, ramp(100));
-  const std::string text = said.str();
+  const std::string text = console.error();
   EXPECT_NE(text.find("/nowhere/at/all"), std::string::npos) << text;
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1) << "once, not for every trace: " << text;
   EXPECT_FALSE(store.failure().empty());
