@@ -27,6 +27,7 @@ from ._talvesk import (
     lay_out,
     read,
     refract,
+    samples_in_use,
     trace_rays,
     travel_times,
 )
@@ -45,6 +46,7 @@ __all__ = [
     "lay_out",
     "read",
     "refract",
+    "samples_in_use",
     "trace_rays",
     "travel_times",
 ]
