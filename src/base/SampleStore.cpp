@@ -19,6 +19,14 @@ thread_local const SampleStore::Choice* theChoice = nullptr;
 
 }  // namespace
 
+// What of samples asks the store or tells it.
+
+Samples::Samples(std::vector<double> values)
+    : mBlock(SampleStore::instance().keep(std::move(values), false)) {}
+
+Samples::Samples(std::vector<double> values, const Samples& madeOf)
+    : mBlock(SampleStore::instance().keep(std::move(values), madeOf.onDisk())) {}
+
 SampleBlock::SampleBlock(std::vector<double> values)
     : mValues(std::move(values)), mSize(mValues.size()) {
   SampleStore::instance().mMemory += mSize * sizeof(double);
@@ -154,6 +162,15 @@ void SampleStore::countRead(std::size_t bytes) {
   if ((mRead += bytes) <= mReadBudget) return;
   const std::lock_guard<std::mutex> lock(mMutex);
   if (mRead <= mReadBudget) return;  // another thread was here meanwhile
+  beginRound(bytes);
+}
+
+void SampleStore::giveBack() {
+  const std::lock_guard<std::mutex> lock(mMutex);
+  if (mRead > 0) beginRound(0);
+}
+
+void SampleStore::beginRound(std::size_t bytes) {
   ++mRound;
   mRead = bytes;
   for (const std::weak_ptr<ScratchFile>& each : mFiles) {

@@ -39,7 +39,7 @@ class SampleStore {
   /// memory that the process may have.
   std::size_t memoryLimit() const { return mMemoryLimit; }
   void setMemoryLimit(std::size_t bytes) { mMemoryLimit = bytes; }
-  /// Bytes of samples on the disk that may be in memory besides; at first 64 MiB.
+  /// Bytes of samples on the disk that may be in memory besides; at first 32 MiB.
   std::size_t readBudget() const { return mReadBudget; }
   void setReadBudget(std::size_t bytes) { mReadBudget = bytes; }
   /// Where scratch files go, the first that takes one; at first scratchFolders().
@@ -53,6 +53,8 @@ class SampleStore {
   Usage usage() const;
   /// Why samples that were meant for the disk are in memory; empty when none are.
   Message failure() const;
+  /// Gives back what reading has taken, at the end of work on samples.
+  void giveBack();
   /// Bytes that work on samples may keep for itself without being asked.
   std::size_t spare() const;
 
@@ -81,10 +83,11 @@ class SampleStore {
   bool openFile(std::size_t bytes);
   void tell(Message why);
   void countRead(std::size_t bytes);
+  void beginRound(std::size_t bytes);  ///< with these already read
 
   std::atomic<SamplesOnDisk> mWhen{SamplesOnDisk::kWhenLarge};
   std::atomic<std::size_t> mMemoryLimit;
-  std::atomic<std::size_t> mReadBudget{std::size_t{64} << 20};
+  std::atomic<std::size_t> mReadBudget{std::size_t{32} << 20};
   std::atomic<std::size_t> mMemory{0};
   std::atomic<std::size_t> mDisk{0};
   std::atomic<std::size_t> mRead{0};

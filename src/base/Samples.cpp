@@ -1,18 +1,9 @@
 #include "base/Samples.h"
 
-#include "base/SampleStore.h"
-
 #include <algorithm>
 #include <stdexcept>
-#include <utility>
 
 namespace talvesk {
-
-Samples::Samples(std::vector<double> values)
-    : mBlock(SampleStore::instance().keep(std::move(values), false)) {}
-
-Samples::Samples(std::vector<double> values, const Samples& madeOf)
-    : mBlock(SampleStore::instance().keep(std::move(values), madeOf.onDisk())) {}
 
 const double& Samples::at(std::size_t i) const {
   if (i >= size()) throw std::out_of_range("no such sample");

@@ -141,6 +141,9 @@ TEST_F(SampleStoreTest, readingManySamplesTakesNoMoreThanTheBudget) {
   EXPECT_GT(most, before + kBudget / 2) << "it is read as memory";
   EXPECT_LT(most, before + 2 * kBudget);
   EXPECT_LE(store.usage().read, kBudget);
+  store.giveBack();
+  EXPECT_LT(mappedBytes(), before + (std::size_t{1} << 20)) << "all of it";
+  EXPECT_EQ(traces[3][5], 8.0);
 }
 
 TEST_F(SampleStoreTest, whatIsHeldStaysReadableWhileOthersAreGivenBack) {

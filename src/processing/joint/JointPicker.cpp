@@ -164,6 +164,7 @@ Status pickJointly(TomoDocument& document, const std::vector<std::int32_t>& shot
   if (gathers.empty()) return noPlaces();
   Crew crew(options.threads, goOn);
   const bool done = pick(gathers, crew);
+  SampleStore::instance().giveBack();
   if (crew.failed()) return noMemory();
   outcome.stopped = !done;
   if (!done) return {};
