@@ -72,12 +72,12 @@ class Filtering : public ::testing::Test {
     }
     return true;
   }
-  static std::vector<double> lowOf(const std::vector<double>& in, double hertz, int order) {
+  static std::vector<double> lowOf(Span<double> in, double hertz, int order) {
     std::vector<double> out;
     EXPECT_TRUE(lowPass(in, order, hertz / (2.0 * kHighest), out).ok());
     return out;
   }
-  static std::vector<double> highOf(const std::vector<double>& in, double hertz, int order) {
+  static std::vector<double> highOf(Span<double> in, double hertz, int order) {
     std::vector<double> out;
     EXPECT_TRUE(highPass(in, order, hertz / (2.0 * kHighest), out).ok());
     return out;

@@ -404,8 +404,8 @@ TEST_F(ProjectTest, bringsPairsOfPolaritiesBackAsTheirDifference) {
     for (std::size_t i = 0; i < 6; ++i) {
       Trace& trace = pairs.document.recordings.edit().traceSets[set][i];
       trace.waveKind = Trace::kSWavePair;
-      trace.samplesDX.edit() = trace.samples;
-      trace.samplesSX.edit() = sx.recordings->traceSets[set][i].samples;
+      trace.samplesDX = trace.samples;
+      trace.samplesSX = sx.recordings->traceSets[set][i].samples;
       for (std::size_t s = 0; s < 40; ++s) trace.samples.edit()[s] -= trace.samplesSX[s];
     }
   }
