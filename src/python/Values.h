@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Point2D.h"
-#include "base/Shared.h"
+#include "base/Samples.h"
 #include "python/Error.h"
 
 #include <cstddef>
