@@ -69,7 +69,7 @@ struct Line {
     ShotLoader().load(paths, project.document);
     if (!filtered) return;
     for (Trace& trace : project.document.recordings.edit().traceSets[0]) {
-      trace.filtered.edit() = trace.samples;
+      trace.filtered = trace.samples;
       for (double& sample : trace.filtered.edit()) sample *= 0.123456789;
     }
   }

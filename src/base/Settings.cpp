@@ -2,6 +2,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/Console.h"
+#include "base/SampleStore.h"
 
 #include <algorithm>
 #include <charconv>
@@ -82,6 +83,8 @@ void readStages(cereal::XMLInputArchive& archive, Settings& settings) {
   readLater(archive, "twoColors", settings.twoColors, "2020.2");
   readOwn(archive, "undoMegabytes", Settings::kLeastUndo, Settings::kMostUndo,
           settings.undoMegabytes);
+  readOwn(archive, "samplesOnDisk", static_cast<int>(SamplesOnDisk::kWhenLarge),
+          static_cast<int>(SamplesOnDisk::kNever), settings.samplesOnDisk);
   read(archive, "errorBars", settings.errorBars);  // an own one as well
   read(archive, "showComputedTimes", settings.showComputedTimes);
   read(archive, "showNeighbour", settings.showNeighbour);
@@ -115,7 +118,7 @@ Status Settings::save() const {
             CEREAL_NVP(fillWiggle), CEREAL_NVP(showFiltered), CEREAL_NVP(showAllTraces),
             CEREAL_NVP(savePngHColorbar), CEREAL_NVP(twoColors), CEREAL_NVP(undoMegabytes),
             CEREAL_NVP(errorBars), CEREAL_NVP(showComputedTimes), CEREAL_NVP(showNeighbour),
-            CEREAL_NVP(showReciprocalTimes));
+            CEREAL_NVP(showReciprocalTimes), CEREAL_NVP(samplesOnDisk));
   } catch (const std::exception& error) {  // the archive writes its text as it goes out of scope
     return Status::failure(Message::tr("Cannot write %1: %2").arg(mPath).arg(error.what()));
   }

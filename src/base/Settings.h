@@ -35,6 +35,7 @@ class Settings {
   int undoMegabytes = 512;
   static constexpr int kLeastUndo = 16;
   static constexpr int kMostUndo = 65536;
+  int samplesOnDisk = 0;  ///< when samples are kept on the disk, a SamplesOnDisk
 
  private:
   std::string mPath;

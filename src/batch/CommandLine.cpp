@@ -160,6 +160,7 @@ struct AllOptions {
   ConvertOptions convert;
   RecordsOptions records;
   DemoOptions demo;
+  SamplesOnDisk samplesOnDisk = SamplesOnDisk::kWhenLarge;  ///< of all that read recordings
 };
 
 constexpr const char* kDescription =
@@ -181,6 +182,9 @@ void addCommands(CLI::App& app, AllOptions& all) {
   addConvert(app, all.convert);
   addRecords(app, all.records);
   addDemo(app, all.demo);
+  for (const char* name : {"invert", "refract", "pick", "check", "info", "export", "records"}) {
+    addSamplesOnDisk(*app.get_subcommand(name), all.samplesOnDisk);
+  }
 }
 
 CLI::App* chosenCommand(const CLI::App& app) {
@@ -217,6 +221,7 @@ CommandLine parseCommandLine(int argc, const char* const* argv) {
         "convert, records or demo");
     return result;
   }
+  result.samplesOnDisk = all.samplesOnDisk;
   const std::string name = chosenCommand(app)->get_name();
   if (name == "info") {
     result.command = std::move(all.info);

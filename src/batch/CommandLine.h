@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/SampleStore.h"
 #include "batch/Options.h"
 
 #include <optional>
@@ -12,6 +13,7 @@ namespace talvesk {
 struct CommandLine {
   std::optional<CommandOptions> command;
   int exitCode = kDone;
+  SamplesOnDisk samplesOnDisk = SamplesOnDisk::kWhenLarge;
 };
 
 /// Understands the command line. Numbers are decimal with a point in every locale, and must be

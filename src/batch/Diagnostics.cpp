@@ -1,6 +1,7 @@
 #include "batch/Diagnostics.h"
 
 #include "base/Console.h"
+#include "base/SampleStore.h"
 #include "batch/Failure.h"
 #include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
@@ -34,6 +35,18 @@ void warnOfLosses(const std::string& path, const std::vector<Message>& losses) {
   std::string clauses;
   for (const std::string& loss : losses) clauses += (clauses.empty() ? "" : "; ") + loss;
   warn(path + ": " + clauses + ". Add --reader standard to read it by the standard of its format");
+}
+
+void tellSamplesOnDisk(std::ostream& summary) {
+  const SampleStore& store = SampleStore::instance();
+  constexpr std::size_t kMega = 1000000;
+  const SampleStore::Usage usage = store.usage();
+  if (usage.disk > 0) {
+    summary << "Samples: " << (usage.disk + kMega - 1) / kMega << " MB on the disk, "
+            << (usage.memory + kMega - 1) / kMega << " MB in memory\n";
+  }
+  const Message failure = store.failure();
+  if (!failure.empty()) warn("samples are kept in memory: " + failure.english());
 }
 
 Status readPicks(const std::string& path, const TravelTimeReading& reading, TravelTimeData& data) {

@@ -32,6 +32,10 @@ Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool v
 /// that helps.
 void warnOfLosses(const std::string& path, const std::vector<Message>& losses);
 
+/// Says how many samples are on the disk where some are, and warns on standard error where they
+/// were meant to be and are not.
+void tellSamplesOnDisk(std::ostream& summary);
+
 /// Reads picks, and warns on standard error of what the reader repaired or left out.
 Status readPicks(const std::string& path, const TravelTimeReading& reading, TravelTimeData& data);
 

@@ -135,6 +135,7 @@ class Inventory {
     const Status status = readProject(file, project);
     take(file, status, project, [&] { return projectJson(project); });
     if (status.ok() && mOptions.listRuns && mOptions.json.empty()) listRuns(project.document, mOut);
+    if (status.ok() && mOptions.json.empty()) tellSamplesOnDisk(mOut);
   }
 
   ReadShotFile readByRules(const std::string& file) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/SampleStore.h"
 #include "batch/Options.h"
 
 #include <string>
@@ -33,6 +34,9 @@ struct ShotOptionGroup {
 
 /// --reader: by what files of measurements are read. `reader` must outlive the parsing.
 CLI::Option* addReader(CLI::App& command, ShotReader& reader);
+
+/// --samples-on-disk. `when` must outlive the parsing.
+CLI::Option* addSamplesOnDisk(CLI::App& command, SamplesOnDisk& when);
 
 /// Whether a file counts as a shot file: by its suffix, or by the standard whatever is no
 /// travel-time file and no project.

@@ -31,6 +31,14 @@ ShotReader readReader(const std::string& text) {
   throw CLI::ValidationError("--reader", "'" + text + "' is none of rules, standard");
 }
 
+SamplesOnDisk readSamplesOnDisk(const std::string& text) {
+  if (text == "automatic") return SamplesOnDisk::kWhenLarge;
+  if (text == "always") return SamplesOnDisk::kAlways;
+  if (text == "never") return SamplesOnDisk::kNever;
+  throw CLI::ValidationError("--samples-on-disk",
+                             "'" + text + "' is none of automatic, always, never");
+}
+
 std::string readSeparator(const std::string& text) {
   if (text == ";" || text == "," || text == " ") return text;
   if (text == kBlankSeparator || text == "blank") return " ";
@@ -91,6 +99,17 @@ CLI::Option* addReader(CLI::App& command, ShotReader& reader) {
           "How shot files are read: rules, as this program always has; standard, by the published "
           "standard of their format, which their content decides (default: rules)")
       ->type_name("READER")
+      ->group(kGroup);
+}
+
+CLI::Option* addSamplesOnDisk(CLI::App& command, SamplesOnDisk& when) {
+  return command
+      .add_option_function<std::string>(
+          "--samples-on-disk", [&when](const std::string& text) { when = readSamplesOnDisk(text); },
+          "Where the samples of recordings are kept: automatic, in memory, and on the disk as "
+          "soon as they fill a quarter of the memory that the program may have; always, on the "
+          "disk; never, in memory (default: automatic). Results are the same")
+      ->type_name("WHEN")
       ->group(kGroup);
 }
 

@@ -279,6 +279,7 @@ Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Su
     if (!document.recordings->traceSets[i].empty()) shots.push_back(static_cast<std::int32_t>(i));
   }
   if (shots.empty()) return Status::failure("the shot files hold no traces");
+  tellSamplesOnDisk(*manner.summary);
   if (!manner.quiet) warnOfHeap(document);
   status = countFromShot(options, *manner.summary, survey);
   if (status.ok()) status = filter(options, shots, survey);

@@ -1,4 +1,5 @@
 #include "base/FileReplacement.h"
+#include "base/SampleStore.h"
 #include "base/StandardStreams.h"
 #include "batch/CommandLine.h"
 #include "batch/Commands.h"
@@ -30,6 +31,7 @@ int main(int argc, char** argv) {
   try {
     const talvesk::CommandLine line = talvesk::parseCommandLine(argc, argv);
     if (!line.command) return afterPrinting(line.exitCode);
+    talvesk::SampleStore::instance().setWhen(line.samplesOnDisk);
     return afterPrinting(
         std::visit([](const auto& options) { return talvesk::run(options); }, *line.command));
   } catch (const std::bad_alloc&) {

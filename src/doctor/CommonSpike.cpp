@@ -15,22 +15,22 @@ constexpr std::size_t kFewest = 6;  // channels
 
 /// A trace and its usual step from sample to sample.
 struct Steps {
-  const std::vector<double>* samples = nullptr;
+  Span<double> samples;
   double usual = 0.0;
 
-  double at(std::size_t i) const { return std::fabs((*samples)[i + 1] - (*samples)[i]) / usual; }
+  double at(std::size_t i) const { return std::fabs(samples[i + 1] - samples[i]) / usual; }
 };
 
 std::vector<Steps> stepsOf(const TraceSet& traces) {
   std::vector<Steps> all;
   for (const Trace& trace : traces) {
-    const std::vector<double>& samples = *trace.samples;
+    const Span<double> samples = trace.samples;
     std::vector<double> steps;
     for (std::size_t i = 1; i < samples.size(); ++i) {
       steps.push_back(std::fabs(samples[i] - samples[i - 1]));
     }
     const double usual = medianOf(std::move(steps), 0.0);
-    if (usual > 0.0) all.push_back({&samples, usual});
+    if (usual > 0.0) all.push_back({samples, usual});
   }
   return all;
 }
@@ -40,8 +40,8 @@ std::vector<Steps> stepsOf(const TraceSet& traces) {
 std::optional<std::size_t> commonSpike(const TraceSet& traces) {
   const std::vector<Steps> steps = stepsOf(traces);
   if (steps.size() < kFewest) return std::nullopt;
-  std::size_t count = steps.front().samples->size();
-  for (const Steps& trace : steps) count = std::min(count, trace.samples->size());
+  std::size_t count = steps.front().samples.size();
+  for (const Steps& trace : steps) count = std::min(count, trace.samples.size());
   std::vector<double> together;
   std::vector<double> here(steps.size());
   for (std::size_t i = 0; i + 1 < count; ++i) {

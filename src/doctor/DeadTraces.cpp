@@ -19,7 +19,7 @@ constexpr std::size_t kFlatTops = 2;
 
 /// Root mean square about the mean; 0 for a constant trace.
 double strengthOf(const Trace& trace) {
-  const TraceSums sums(*trace.samples);
+  const TraceSums sums(trace.samples);
   return trace.samples.empty() ? 0.0 : std::sqrt(sums.variance(0, sums.size()));
 }
 
@@ -27,7 +27,7 @@ double strengthOf(const Trace& trace) {
 bool isNoise(const Trace& trace) {
   constexpr std::size_t kParts = 4;
   constexpr double kSteady = 4.0;  // greatest variance of a part over the least
-  const TraceSums sums(*trace.samples);
+  const TraceSums sums(trace.samples);
   std::vector<double> parts;
   for (std::size_t i = 0; i < kParts; ++i) {
     parts.push_back(sums.variance(i * sums.size() / kParts, (i + 1) * sums.size() / kParts));
@@ -48,7 +48,7 @@ double ofNeighbours(std::size_t trace, std::size_t count, Value value, Counts co
 }
 
 /// How often a trace stays at its greatest or least value.
-std::size_t flatTops(const std::vector<double>& samples) {
+std::size_t flatTops(Span<double> samples) {
   const auto [least, most] = std::minmax_element(samples.begin(), samples.end());
   const double slack = kFlat * (*most - *least);
   std::size_t tops = 0;
@@ -115,7 +115,7 @@ std::vector<Finding> checkClippedTraces(const ShotView& shot) {
   std::vector<std::size_t> clipped;
   std::size_t most = 0;
   for (std::size_t t = 0; t < shot.traces->size(); ++t) {
-    const std::vector<double>& samples = *(*shot.traces)[t].samples;
+    const Span<double> samples = (*shot.traces)[t].samples;
     if (shot.killed[t] || !shot.onsets[t].found) continue;
     const std::size_t tops = flatTops(samples);
     if (tops < kFlatTops) continue;

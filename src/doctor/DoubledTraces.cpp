@@ -18,7 +18,7 @@ constexpr double kSame = 0.9999;
 constexpr std::size_t kFarthest = 256;  // channels
 
 /// The strength of a trace over time, in few numbers.
-std::vector<double> sketchOf(const std::vector<double>& samples) {
+std::vector<double> sketchOf(Span<double> samples) {
   std::vector<double> sketch(kBlocks, 0.0);
   if (samples.size() < kBlocks) return {};
   for (std::size_t i = 1; i < samples.size(); ++i) {
@@ -29,7 +29,7 @@ std::vector<double> sketchOf(const std::vector<double>& samples) {
   return sketch;
 }
 
-std::vector<double> slopesOf(const std::vector<double>& samples) {
+std::vector<double> slopesOf(Span<double> samples) {
   std::vector<double> slopes;
   for (std::size_t i = 1; i < samples.size(); ++i) slopes.push_back(samples[i] - samples[i - 1]);
   return slopes;
@@ -56,7 +56,7 @@ double misfitOf(const ShotView& shot, std::size_t trace) {
 std::vector<Finding> checkDoubledTraces(const ShotView& shot) {
   const TraceSet& traces = *shot.traces;
   std::vector<std::vector<double>> sketches;
-  for (const Trace& trace : traces) sketches.push_back(sketchOf(*trace.samples));
+  for (const Trace& trace : traces) sketches.push_back(sketchOf(trace.samples));
   std::vector<Finding> findings;
   for (std::size_t a = 0; a < traces.size(); ++a) {
     if (shot.killed[a]) continue;
@@ -66,7 +66,7 @@ std::vector<Finding> checkDoubledTraces(const ShotView& shot) {
         continue;
       }
       const double alike =
-          std::fabs(correlationOf(slopesOf(*traces[a].samples), slopesOf(*traces[b].samples)));
+          std::fabs(correlationOf(slopesOf(traces[a].samples), slopesOf(traces[b].samples)));
       if (alike < kSame) continue;
       const bool firstIsOff = misfitOf(shot, a) > misfitOf(shot, b);
       const std::size_t copy = firstIsOff ? a : b;

@@ -28,7 +28,7 @@ bool hasInterval(const Trace& trace) {
   return trace.sampleInterval > 0.0 && trace.sampleInterval < 1e3;
 }
 
-std::size_t leadingConstants(const std::vector<double>& samples) {
+std::size_t leadingConstants(Span<double> samples) {
   const auto differs = std::find_if(samples.begin(), samples.end(),
                                     [&](double value) { return value != samples.front(); });
   return static_cast<std::size_t>(differs - samples.begin());
@@ -39,7 +39,7 @@ std::size_t padding(const TraceSet& traces) {
   std::map<std::size_t, std::size_t> counts;
   std::size_t live = 0;
   for (const Trace& trace : traces) {
-    const std::size_t count = leadingConstants(*trace.samples);
+    const std::size_t count = leadingConstants(trace.samples);
     if (count == trace.samples.size()) continue;
     ++counts[count];
     ++live;
@@ -132,8 +132,8 @@ bool isUsable(const Trace& trace) {
 double periodOf(const TraceSet& traces, std::size_t from) {
   std::vector<StrongestWave> waves;
   for (const Trace& trace : traces) {
-    if (!isUsable(trace) || leadingConstants(*trace.samples) == trace.samples.size()) continue;
-    waves.push_back(strongestWave(*trace.samples, from, trace.sampleInterval));
+    if (!isUsable(trace) || leadingConstants(trace.samples) == trace.samples.size()) continue;
+    waves.push_back(strongestWave(trace.samples, from, trace.sampleInterval));
   }
   std::stable_sort(waves.begin(), waves.end(),
                    [](const StrongestWave& a, const StrongestWave& b) { return a.size > b.size; });
@@ -161,8 +161,10 @@ ShotOnsets findOnsets(const TraceSet& traces) {
   for (std::size_t t = 0; t < traces.size(); ++t) {
     if (!isUsable(traces[t])) continue;
     const double samplesPerPeriod = period / traces[t].sampleInterval;
-    ready[t] = spike ? makeReady(withoutSpike(traces[t].samples, *spike), from, samplesPerPeriod)
-                     : makeReady(traces[t].samples, from, samplesPerPeriod);
+    const Span<double> samples = traces[t].samples;
+    ready[t] = spike ? makeReady(withoutSpike({samples.begin(), samples.end()}, *spike), from,
+                                 samplesPerPeriod)
+                     : makeReady(samples, from, samplesPerPeriod);
     Choice choice{t, onsetCandidates(ready[t]), {}, {}};
     if (choice.candidates.empty()) continue;
     weigh(choice, traces[t]);

@@ -23,8 +23,7 @@ constexpr double kNoisePeriods = 20.0;  // before the arrival, that tell how str
 
 /// Takes out what is slower than a corner, cycles per sample: two first-order high-passes one after
 /// the other, forward only, so that nothing shows before it begins.
-std::vector<double> withoutDrift(const std::vector<double>& samples, std::size_t from,
-                                 double corner) {
+std::vector<double> withoutDrift(Span<double> samples, std::size_t from, double corner) {
   std::vector<double> out(samples.size(), 0.0);
   const double keep = 1.0 / (1.0 + 2.0 * kPi * corner);
   double first = 0.0;
@@ -86,7 +85,7 @@ void addSplits(const TraceSums& sums, std::size_t from, std::size_t end, int dep
 
 }  // namespace
 
-TraceSums::TraceSums(const std::vector<double>& samples)
+TraceSums::TraceSums(Span<double> samples)
     : mSum(samples.size() + 1), mSquares(samples.size() + 1), mSlopes(samples.size() + 1) {
   double mean = 0.0;
   for (const double sample : samples) mean += sample / static_cast<double>(samples.size());
@@ -133,8 +132,7 @@ std::size_t TraceSums::strongest(std::size_t from) const {
   return best;
 }
 
-StrongestWave strongestWave(const std::vector<double>& samples, std::size_t from,
-                            double sampleInterval) {
+StrongestWave strongestWave(Span<double> samples, std::size_t from, double sampleInterval) {
   const TraceSums sums(withoutDrift(samples, from, kDeafBelow * sampleInterval));
   const std::size_t end = sums.strongest(from);
   const auto around = static_cast<std::size_t>(4.0 * sums.correlation(from, samples.size()));
@@ -143,7 +141,7 @@ StrongestWave strongestWave(const std::vector<double>& samples, std::size_t from
   return {2.0 * half * sampleInterval, sums.peak()};
 }
 
-ReadyTrace makeReady(const std::vector<double>& samples, std::size_t from, double period) {
+ReadyTrace makeReady(Span<double> samples, std::size_t from, double period) {
   ReadyTrace ready;
   ready.block = std::max<std::size_t>(1, static_cast<std::size_t>(period / kPerPeriod));
   ready.from = (from + ready.block - 1) / ready.block * ready.block;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Span.h"
+
 #include <cstddef>
 #include <vector>
 
@@ -34,7 +36,7 @@ inline bool isClear(const Onset& onset) {
 /// Running sums, for variances and periods of any part of a trace at no cost.
 class TraceSums {
  public:
-  explicit TraceSums(const std::vector<double>& samples);
+  explicit TraceSums(Span<double> samples);
 
   std::size_t size() const { return mSum.size() - 1; }
   double variance(std::size_t from, std::size_t to) const;  ///< about the mean of [from, to)
@@ -62,8 +64,7 @@ struct StrongestWave {
 };
 
 /// \param from samples before are padding \param sampleInterval seconds
-StrongestWave strongestWave(const std::vector<double>& samples, std::size_t from,
-                            double sampleInterval);
+StrongestWave strongestWave(Span<double> samples, std::size_t from, double sampleInterval);
 
 /// A trace made ready to look for its first arrival: without drift, and no finer than needed.
 struct ReadyTrace {
@@ -74,7 +75,7 @@ struct ReadyTrace {
 };
 
 /// \param period of the strongest waves of the shot, samples
-ReadyTrace makeReady(const std::vector<double>& samples, std::size_t from, double period);
+ReadyTrace makeReady(Span<double> samples, std::size_t from, double period);
 
 /// Where the trace may begin, in samples of the trace, ascending: the split of what lies before the
 /// strongest part into noise and signal that is likeliest (N. Maeda, 1985, A method for reading and

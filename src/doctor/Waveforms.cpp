@@ -9,7 +9,7 @@ namespace talvesk::doctor {
 std::vector<double> waveAt(const Trace& trace, double seconds, double duration) {
   const double first = std::round(seconds / trace.sampleInterval);
   const double count = std::round(duration / trace.sampleInterval);
-  const std::vector<double>& samples = *trace.samples;
+  const Span<double> samples = trace.samples;
   if (!(first >= 0.0) || !(count >= 1.0) || first + count > static_cast<double>(samples.size())) {
     return {};
   }

@@ -78,7 +78,7 @@ std::vector<double> positionsOf(const TomoDocument& document, const TravelTime* 
 
 /// The level that the trace swings about. Not the mean, which a strong late phase pulls away from
 /// the quiet before the first break.
-double levelOf(const std::vector<double>& samples) {
+double levelOf(Span<double> samples) {
   std::vector<double> known;
   known.reserve(samples.size());
   for (const double v : samples) {
@@ -89,7 +89,7 @@ double levelOf(const std::vector<double>& samples) {
 
 /// What of the samples lies in the window, and how far they swing there.
 void measure(GatherTrace& trace, const TimeWindow& window) {
-  const std::vector<double>& samples = *trace.samples;
+  const Span<double> samples = trace.samples;
   const auto index = [&](double ms) {
     return static_cast<std::size_t>(
         std::clamp(ms / trace.intervalMs, 0.0, static_cast<double>(samples.size())));
@@ -268,8 +268,8 @@ void addTrace(const TraceSet& set, std::size_t channel, double x, const TravelTi
     ++(inside ? counts.picks : counts.hiddenPicks);
   }
   const bool filtered = options.filtered && !source.filtered.empty();
-  trace.samples = filtered ? &*source.filtered : &*source.samples;
-  if (!trace.samples->empty() && hasInterval(source)) {
+  trace.samples = filtered ? source.filtered : source.samples;
+  if (!trace.samples.empty() && hasInterval(source)) {
     trace.intervalMs = 1e3 * source.sampleInterval;
     measure(trace, scene.window);
     ++counts.drawn;
@@ -292,7 +292,7 @@ void scaleAlike(std::vector<GatherTrace>& traces) {
 }  // namespace
 
 double GatherTrace::swing(std::size_t sample) const {
-  const double value = (*samples)[sample];
+  const double value = samples[sample];
   if (!std::isfinite(value)) return std::numeric_limits<double>::quiet_NaN();
   if (scale <= kFlat) return 0.0;
   return std::clamp(value - level, -std::numeric_limits<double>::max(),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Span.h"
 #include "base/Status.h"
 #include "figures/GatherFigureOptions.h"
 
@@ -17,9 +18,9 @@ class TomoDocument;
 struct GatherTrace {
   static constexpr double kFlat = 0.0;  ///< scale of a trace that does not swing
 
-  std::size_t channel = 0;                       ///< index in the trace set
-  double x = 0.0;                                ///< on the lower axis
-  const std::vector<double>* samples = nullptr;  ///< of the document
+  std::size_t channel = 0;  ///< index in the trace set
+  double x = 0.0;           ///< on the lower axis
+  Span<double> samples;     ///< of the document
   double intervalMs = 0.0;
   std::size_t first = 0;  ///< samples [first, end) lie within the window
   std::size_t end = 0;

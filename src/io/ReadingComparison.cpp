@@ -64,7 +64,7 @@ bool near(double a, double b) {
 
 /// Zeros that the standard put in front of a record that began after the shot.
 std::size_t leadOf(const ShotRecord& rules, const ShotRecord& standard) {
-  const std::vector<double>& samples = standard.samples;
+  const talvesk::Span<double> samples = standard.samples;
   if (samples.size() <= rules.samples.size()) return 0;
   const auto lead = static_cast<std::ptrdiff_t>(samples.size() - rules.samples.size());
   const bool zeros =
@@ -76,12 +76,14 @@ bool sameShape(const ShotRecord& rules, const ShotRecord& standard) {
   const std::size_t lead = leadOf(rules, standard);
   const std::size_t room = standard.samples.size() - std::min(lead, standard.samples.size());
   const std::size_t count = std::min(rules.samples.size(), room);
+  const talvesk::Span<double> x = rules.samples;
+  const talvesk::Span<double> y = standard.samples;
   double product = 0.0;
   double first = 0.0;
   double second = 0.0;
   for (std::size_t i = 0; i + 1 < count; ++i) {  // the rules never read the last one
-    const double a = rules.samples[i];
-    const double b = standard.samples[lead + i];
+    const double a = x[i];
+    const double b = y[lead + i];
     product += a * b;
     first += a * a;
     second += b * b;

@@ -68,8 +68,8 @@ Point2D receiverOf(const TomoDocument& document, const TravelTime& record, const
   return placed ? strings[string][index] : trace.receiverPosition;
 }
 
-bool takeSamples(const std::vector<double>& samples, std::size_t length,
-                 std::vector<float>& written, std::size_t& rounded) {
+bool takeSamples(Span<double> samples, std::size_t length, std::vector<float>& written,
+                 std::size_t& rounded) {
   written.reserve(length);
   for (const double sample : samples) {
     if (!(std::fabs(sample) <= std::numeric_limits<float>::max())) return false;

@@ -111,8 +111,9 @@ class Seg2Reader {
     trace.receiver = strings.receiver;
     trace.delay = strings.delay;
     trace.sampleInterval = strings.sampleInterval;
-    trace.samples.assign(samples, 0.0);
-    if (samples > 1) readSamples(block + blockSize, format, trace.samples);
+    std::vector<double> values(samples, 0.0);
+    if (samples > 1) readSamples(block + blockSize, format, values);
+    trace.samples = std::move(values);
   }
 
   void readSamples(std::uint64_t at, std::uint8_t format, std::vector<double>& samples) {

@@ -158,13 +158,13 @@ class SegyReader {
     const float factor = coordinateFactor(mReader.i16(at + kScalarAt, order()));
     trace.source.x = coordinate(at + kSourceAt, factor);
     trace.receiver.x = coordinate(at + kReceiverAt, factor);
-    trace.samples.assign(static_cast<std::size_t>(samples()), 0.0);
-    if (trace.samples.size() < 2) return;
-    if (mState.nativeOrder) {
-      readSamples<kNative>(at + kTraceHeaderBytes, trace.samples);
-    } else {
-      readSamples<ByteOrder::kBig>(at + kTraceHeaderBytes, trace.samples);
+    std::vector<double> values(static_cast<std::size_t>(samples()), 0.0);
+    if (values.size() > 1 && mState.nativeOrder) {
+      readSamples<kNative>(at + kTraceHeaderBytes, values);
+    } else if (values.size() > 1) {
+      readSamples<ByteOrder::kBig>(at + kTraceHeaderBytes, values);
     }
+    trace.samples = std::move(values);
   }
 
   double coordinate(std::uint64_t at, float factor) {

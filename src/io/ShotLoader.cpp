@@ -81,7 +81,7 @@ TraceSet traceSetOf(ShotFileData data) {
   for (ShotRecord& record : data.traces) {
     Trace& trace = set.emplace_back();
     trace.waveKind = Trace::kFromFile;
-    trace.samples.edit() = std::move(record.samples);
+    trace.samples = std::move(record.samples);
     trace.sourcePosition = record.source;
     trace.receiverPosition = record.receiver;
     trace.delay = record.delay;

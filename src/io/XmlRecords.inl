@@ -6,6 +6,7 @@
 // that must be there, fields.optional("x", record.x) for one that older files lack. Elements are
 // found by name, whatever their order; unknown ones are passed over.
 
+#include "base/Samples.h"
 #include "base/Shared.h"
 #include "io/XmlReader.h"
 #include "io/XmlWriter.h"
@@ -45,7 +46,11 @@ class Output {
 
   template <typename T>
   void put(const char* name, const T& value) {
-    if constexpr (std::is_same_v<T, OneOrMany>) {
+    if constexpr (std::is_same_v<T, Samples>) {
+      mWriter.beginSequence(name);
+      for (const double sample : value) put(nullptr, sample);
+      mWriter.end();
+    } else if constexpr (std::is_same_v<T, OneOrMany>) {
       put(name, value.values);
     } else if constexpr (IsShared<T>::value) {
       put(name, *value);
@@ -98,7 +103,11 @@ std::vector<std::string> readRecord(XmlReader& reader, Record& record);
 template <typename T>
 void read(XmlReader& reader, T& value) {
   const std::string element(reader.name());
-  if constexpr (std::is_same_v<T, std::string>) {
+  if constexpr (std::is_same_v<T, Samples>) {
+    std::vector<double> values;
+    read(reader, values);
+    value = std::move(values);
+  } else if constexpr (std::is_same_v<T, std::string>) {
     value = reader.text();
   } else if constexpr (std::is_same_v<T, bool>) {
     value = truthOf(reader.text(), element);

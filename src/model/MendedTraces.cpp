@@ -11,7 +11,6 @@
 namespace talvesk {
 namespace {
 
-using Samples = SharedVector<double>;
 constexpr Samples Trace::*kRecorded[] = {&Trace::samples, &Trace::samplesDX, &Trace::samplesSX};
 
 bool knowsInterval(const Trace& trace) {
@@ -28,15 +27,15 @@ Samples shifted(const Samples& recorded, double late) {
   const auto most = static_cast<double>(recorded.size());
   const auto count = static_cast<std::ptrdiff_t>(std::min(std::fabs(late), most));
   if (count == 0) return recorded;
-  if (late > 0.0) return std::vector<double>(recorded.begin() + count, recorded.end());
+  if (late > 0.0) return {{recorded.begin() + count, recorded.end()}, recorded};
   std::vector<double> samples(static_cast<std::size_t>(count), 0.0);
   samples.insert(samples.end(), recorded.begin(), recorded.end());
-  return samples;
+  return {std::move(samples), recorded};
 }
 
 void mendSamples(const TraceMend& mend, double interval, Samples& samples) {
   if (!mend.any() || samples.empty()) return;
-  std::vector<double>& values = samples.edit();
+  std::vector<double> values(samples.begin(), samples.end());
   if (mend.reversed) {
     for (double& value : values) value = -value;
   }
@@ -44,6 +43,7 @@ void mendSamples(const TraceMend& mend, double interval, Samples& samples) {
     const bool early = static_cast<double>(k) * interval < mend.mutedBefore;
     if (mend.killed || early) values[k] = 0.0;
   }
+  samples = {std::move(values), samples};
 }
 
 /// A trace with its own mends, before others are stacked with it.
@@ -70,10 +70,11 @@ Samples mean(const std::vector<Trace>& traces, Samples Trace::*member) {
   for (const Trace& trace : traces) common = std::min(common, (trace.*member).size());
   std::vector<double> sum(common, 0.0);
   for (const Trace& trace : traces) {
-    for (std::size_t k = 0; k < common; ++k) sum[k] += (trace.*member)[k];
+    const Span<double> samples = trace.*member;
+    for (std::size_t k = 0; k < common; ++k) sum[k] += samples[k];
   }
   for (double& value : sum) value /= static_cast<double>(traces.size());
-  return sum;
+  return {std::move(sum), traces.front().*member};
 }
 
 Trace mendedTrace(const Recordings& recordings, std::size_t set, std::size_t geophone) {

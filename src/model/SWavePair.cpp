@@ -7,10 +7,11 @@ namespace talvesk {
 
 void subtractRecordings(Trace& trace) {
   if (trace.waveKind != Trace::kSWavePair) return;
-  std::vector<double> samples = trace.samplesDX;
-  const std::size_t both = std::min(trace.samplesDX.size(), trace.samplesSX.size());
-  for (std::size_t k = 0; k < both; ++k) samples[k] -= trace.samplesSX[k];
-  trace.samples = std::move(samples);
+  std::vector<double> samples(trace.samplesDX.begin(), trace.samplesDX.end());
+  const Span<double> sx = trace.samplesSX;
+  const std::size_t both = std::min(samples.size(), sx.size());
+  for (std::size_t k = 0; k < both; ++k) samples[k] -= sx[k];
+  trace.samples = {std::move(samples), trace.samplesDX};
 }
 
 void joinRecordings(TraceSet& dx, TraceSet& sx) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Point2D.h"
-#include "base/Shared.h"
+#include "base/Samples.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -18,10 +18,10 @@ struct Trace {
   static constexpr std::uint32_t kUnknown = 4;
 
   std::uint32_t waveKind = kUnknown;
-  SharedVector<double> samples;    ///< as displayed and picked
-  SharedVector<double> samplesDX;  ///< source struck in one direction (pairs only)
-  SharedVector<double> samplesSX;  ///< source struck in the opposite direction (pairs only)
-  SharedVector<double> filtered;   ///< after the current filter chain; empty without one
+  Samples samples;    ///< as displayed and picked
+  Samples samplesDX;  ///< source struck in one direction (pairs only)
+  Samples samplesSX;  ///< source struck in the opposite direction (pairs only)
+  Samples filtered;   ///< after the current filter chain; empty without one
   Point2D sourcePosition;
   double sampleInterval = std::numeric_limits<double>::max();  ///< seconds
   Point2D receiverPosition;

@@ -97,7 +97,7 @@ template <typename Vector>
 
 }  // namespace
 
-std::int32_t characteristicPick(const std::vector<double>& samples, double mean, int window) {
+std::int32_t characteristicPick(Span<double> samples, double mean, int window) {
   const std::size_t n = samples.size();
   if (window < 1 || n <= 2 * static_cast<std::size_t>(window)) return -1;
   Signal signal{std::vector<double>(n + kLanes), std::vector<double>(n + kLanes), n,

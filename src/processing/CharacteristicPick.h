@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Span.h"
+
 #include <cstdint>
 #include <vector>
 
@@ -15,6 +17,6 @@ inline constexpr int kPickWindow = 20;  ///< half-window of the detector, sample
 /// A relative of the modified energy ratio of Han, Wong and Bancroft, "Time picking and random
 /// noise reduction on microseismic data", CREWES Research Report 21 (2009).
 /// \return -1 when the trace is too short (n <= 2 * window) or no value is positive
-std::int32_t characteristicPick(const std::vector<double>& samples, double mean, int window);
+std::int32_t characteristicPick(Span<double> samples, double mean, int window);
 
 }  // namespace talvesk

@@ -31,7 +31,7 @@ Message shotName(std::int32_t shot) {
   return Message::tr("shot %1").arg(shot + std::int64_t{1});
 }
 
-double meanOf(const std::vector<double>& samples) {
+double meanOf(Span<double> samples) {
   if (samples.empty()) return 0.0;
   double sum = 0.0;
   for (const double sample : samples) sum += sample;
@@ -39,7 +39,7 @@ double meanOf(const std::vector<double>& samples) {
 }
 
 std::int32_t detect(const Trace& trace, bool useFiltered) {
-  const std::vector<double>& signal = useFiltered ? trace.filtered : trace.samples;
+  const Span<double> signal = useFiltered ? trace.filtered : trace.samples;
   return characteristicPick(signal, meanOf(signal), kPickWindow);
 }
 

@@ -21,7 +21,9 @@ Status reduceNoiseOf(Trace& trace) {
   // Only the last bin of the spectrum matters, and no transform is needed to know it.
   console::out() << "fft\n";
   const double highest = highestBinFrequency(trace.samples.size(), trace.sampleInterval);
-  return bandFilterTrace(trace.samples, kHushel, highest, trace.filtered.edit());
+  return refilter(trace, [&](std::vector<double>& out) {
+    return bandFilterTrace(trace.samples, kHushel, highest, out);
+  });
 }
 
 }  // namespace

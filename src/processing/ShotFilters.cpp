@@ -99,11 +99,11 @@ Status checkBandFilter(const BandFilter& filter, double highestFrequency) {
   return status;
 }
 
-Status bandFilterTrace(const std::vector<double>& in, const BandFilter& filter,
-                       double highestFrequency, std::vector<double>& out) {
+Status bandFilterTrace(Span<double> in, const BandFilter& filter, double highestFrequency,
+                       std::vector<double>& out) {
   Status status = checkBandFilter(filter, highestFrequency);
   if (!status.ok()) return status;
-  std::vector<double> result = in;
+  std::vector<double> result(in.begin(), in.end());
   if (filter.low) {
     status =
         lowPass(result, filter.low->order, normalised(filter.low->hertz, highestFrequency), result);
@@ -116,6 +116,13 @@ Status bandFilterTrace(const std::vector<double>& in, const BandFilter& filter,
   return status;
 }
 
+Status refilter(Trace& trace, const std::function<Status(std::vector<double>&)>& filter) {
+  std::vector<double> filtered;
+  Status status = filter(filtered);
+  if (status.ok()) trace.filtered = {std::move(filtered), trace.samples};
+  return status;
+}
+
 FilterOutcome bandFilterTraces(TraceSet& traces, const BandFilter& filter,
                                double highestFrequency) {
   if (!filter.low && !filter.high) return {};
@@ -124,7 +131,10 @@ FilterOutcome bandFilterTraces(TraceSet& traces, const BandFilter& filter,
   FilterOutcome outcome;
   for (std::size_t t = 0; t < traces.size(); ++t) {
     count(outcome,
-          bandFilterTrace(traces[t].samples, filter, highestFrequency, traces[t].filtered.edit()),
+          refilter(traces[t],
+                   [&](std::vector<double>& out) {
+                     return bandFilterTrace(traces[t].samples, filter, highestFrequency, out);
+                   }),
           nameOf(t));
   }
   return outcome;
@@ -141,8 +151,9 @@ FilterOutcome bandFilterShots(TomoDocument& document, const std::vector<std::int
 }
 
 FilterOutcome agcShots(TomoDocument& document, const std::vector<std::int32_t>& shots) {
-  return filterEachTrace(
-      document, shots, [](Trace& trace) { return agcTrace(trace.samples, trace.filtered.edit()); });
+  return filterEachTrace(document, shots, [](Trace& trace) {
+    return refilter(trace, [&](std::vector<double>& out) { return agcTrace(trace.samples, out); });
+  });
 }
 
 FilterOutcome filterEachTrace(TomoDocument& document, const std::vector<std::int32_t>& shots,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Span.h"
 #include "base/Status.h"
 #include "model/Parameters.h"
 #include "model/Trace.h"
@@ -40,8 +41,11 @@ struct BandFilter {
 Status checkBandFilter(const BandFilter& filter, double highestFrequency);
 
 /// Applies a filter to samples; `out` is left as it was on failure. checkBandFilter comes first.
-Status bandFilterTrace(const std::vector<double>& in, const BandFilter& filter,
-                       double highestFrequency, std::vector<double>& out);
+Status bandFilterTrace(Span<double> in, const BandFilter& filter, double highestFrequency,
+                       std::vector<double>& out);
+
+/// Gives a trace the filtered copy that `filter` makes, where it succeeds.
+Status refilter(Trace& trace, const std::function<Status(std::vector<double>&)>& filter);
 
 /// The raw samples of all traces of one shot into their filtered copies. A filter that
 /// checkBandFilter refuses changes nothing and counts every trace as failed.

@@ -44,7 +44,7 @@ void countFromShot(Trace& trace, ShotTimeOutcome& outcome) {
   // A filtered copy as long as the samples now are was kept from an earlier shortening.
   if (trace.filtered.size() != trace.samples.size()) {
     const auto dropped = static_cast<std::ptrdiff_t>(std::min(now, trace.filtered.size()));
-    trace.filtered = std::vector<double>(trace.filtered.begin() + dropped, trace.filtered.end());
+    trace.filtered = {{trace.filtered.begin() + dropped, trace.filtered.end()}, trace.filtered};
   }
   trace.droppedSamples = total;
   ++outcome.shortened;

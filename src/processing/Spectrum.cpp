@@ -11,32 +11,32 @@
 namespace talvesk {
 namespace {
 
-bool fitsSinglePrecision(const std::vector<double>& samples) {
+bool fitsSinglePrecision(Span<double> samples) {
   return std::all_of(samples.begin(), samples.end(), [](double sample) {
     return std::fabs(sample) <= static_cast<double>(std::numeric_limits<float>::max());
   });
 }
 
 /// The samples of the traces that have any, in order.
-std::vector<const std::vector<double>*> signalsOf(const TraceSet& traces, bool useRaw) {
-  std::vector<const std::vector<double>*> signals;
+std::vector<Span<double>> signalsOf(const TraceSet& traces, bool useRaw) {
+  std::vector<Span<double>> signals;
   for (const Trace& trace : traces) {
-    const std::vector<double>& samples = useRaw ? trace.samples : trace.filtered;
-    if (!samples.empty()) signals.push_back(&samples);
+    const Span<double> samples = useRaw ? trace.samples : trace.filtered;
+    if (!samples.empty()) signals.push_back(samples);
   }
   return signals;
 }
 
 /// Sample by sample sum, as long as the first. The transform is linear, so the transform of the sum
 /// is the sum of the transforms, for the price of one.
-std::vector<double> stackOf(const std::vector<const std::vector<double>*>& signals) {
+std::vector<double> stackOf(const std::vector<Span<double>>& signals) {
   std::vector<double> stack;
   if (signals.empty()) return stack;
-  stack.assign(signals.front()->size(), 0.0);
-  for (const std::vector<double>* signal : signals) {
-    if (!fitsSinglePrecision(*signal)) continue;
-    const std::size_t n = std::min(stack.size(), signal->size());
-    for (std::size_t j = 0; j < n; ++j) stack[j] += (*signal)[j];
+  stack.assign(signals.front().size(), 0.0);
+  for (const Span<double>& signal : signals) {
+    if (!fitsSinglePrecision(signal)) continue;
+    const std::size_t n = std::min(stack.size(), signal.size());
+    for (std::size_t j = 0; j < n; ++j) stack[j] += signal[j];
   }
   return stack;
 }

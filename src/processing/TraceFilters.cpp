@@ -23,7 +23,7 @@ namespace {
 constexpr float kPassBandRipple = 1.0F;  // dB; a Butterworth design uses neither
 constexpr float kStopBandLoss = 30.0F;   // dB
 
-Status toSinglePrecision(const std::vector<double>& in, std::vector<float>& out) {
+Status toSinglePrecision(Span<double> in, std::vector<float>& out) {
   constexpr double kLargest = std::numeric_limits<float>::max();
   out.clear();
   out.reserve(in.size());
@@ -136,7 +136,7 @@ using Filter =
     std::unique_ptr<std::remove_pointer_t<iirfilt_rrrf>, decltype(&iirfilt_rrrf_destroy)>;
 using Agc = std::unique_ptr<std::remove_pointer_t<agc_rrrf>, decltype(&agc_rrrf_destroy)>;
 
-Status butterworth(const std::vector<double>& in, liquid_iirdes_bandtype band, int order, double fc,
+Status butterworth(Span<double> in, liquid_iirdes_bandtype band, int order, double fc,
                    std::vector<double>& out) {
   Status status = checkDesign(order, fc);
   if (!status.ok()) return status;
@@ -175,7 +175,7 @@ bool energyFits(const std::vector<float>& samples) {
 
 }  // namespace
 
-Status agcTrace(const std::vector<double>& in, std::vector<double>& out) {
+Status agcTrace(Span<double> in, std::vector<double>& out) {
   std::vector<float> samples;
   const Status status = toSinglePrecision(in, samples);
   if (!status.ok()) return status;
@@ -196,11 +196,11 @@ Status agcTrace(const std::vector<double>& in, std::vector<double>& out) {
   return handOut(result, out);
 }
 
-Status highPass(const std::vector<double>& in, int order, double fc, std::vector<double>& out) {
+Status highPass(Span<double> in, int order, double fc, std::vector<double>& out) {
   return butterworth(in, LIQUID_IIRDES_HIGHPASS, order, fc, out);
 }
 
-Status lowPass(const std::vector<double>& in, int order, double fc, std::vector<double>& out) {
+Status lowPass(Span<double> in, int order, double fc, std::vector<double>& out) {
   return butterworth(in, LIQUID_IIRDES_LOWPASS, order, fc, out);
 }
 

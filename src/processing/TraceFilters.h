@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Span.h"
 #include "base/Status.h"
 #include "model/Parameters.h"
 
@@ -18,7 +19,7 @@ inline constexpr int kMaxFilterOrder = parameters::kFilterOrder.limits.most;
 
 /// Automatic gain control: the gain starts from the energy of the whole trace and then follows the
 /// signal with the library's own loop bandwidth, squelch enabled.
-Status agcTrace(const std::vector<double>& in, std::vector<double>& out);
+Status agcTrace(Span<double> in, std::vector<double>& out);
 
 /// Causal Butterworth filters, one forward pass from rest: the output has the filter's phase delay.
 /// Each tells the console its coefficients, section by section.
@@ -27,7 +28,7 @@ Status agcTrace(const std::vector<double>& in, std::vector<double>& out);
 /// Fails also when the coefficients, rounded to single precision, make no such filter any more: an
 /// unstable section, or a pass band that is not at 0 dB within 6 dB. High orders with a cut-off
 /// close to an end of the range are like this.
-Status highPass(const std::vector<double>& in, int order, double fc, std::vector<double>& out);
-Status lowPass(const std::vector<double>& in, int order, double fc, std::vector<double>& out);
+Status highPass(Span<double> in, int order, double fc, std::vector<double>& out);
+Status lowPass(Span<double> in, int order, double fc, std::vector<double>& out);
 
 }  // namespace talvesk

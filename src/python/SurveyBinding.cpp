@@ -1,3 +1,4 @@
+#include "base/SampleStore.h"
 #include "io/Survey.h"
 #include "io/TravelTimeData.h"
 #include "model/Recordings.h"
@@ -63,7 +64,8 @@ std::optional<TimeUnit> unitOf(const std::optional<std::string>& word) {
 }
 
 std::shared_ptr<Survey> read(const std::variant<fs::path, Paths>& files, const std::string& reader,
-                             const std::optional<std::string>& timeUnit, bool asRecorded) {
+                             const std::optional<std::string>& timeUnit, bool asRecorded,
+                             bool onDisk) {
   std::vector<std::string> paths;
   if (const auto* one = std::get_if<fs::path>(&files)) paths.push_back(one->string());
   if (const auto* many = std::get_if<Paths>(&files)) {
@@ -78,10 +80,20 @@ std::shared_ptr<Survey> read(const std::variant<fs::path, Paths>& files, const s
   auto survey = std::make_shared<Survey>();
   {
     const py::gil_scoped_release free;
+    const SampleStore::Choice choice(onDisk ? SamplesOnDisk::kAlways
+                                            : SampleStore::instance().when());
     *survey = readSurvey(paths, reading, warnings);
   }
   warnOf(warnings);
   return survey;
+}
+
+py::dict samplesInUse() {
+  const SampleStore::Usage usage = SampleStore::instance().usage();
+  py::dict bytes;
+  bytes["memory"] = usage.memory;
+  bytes["disk"] = usage.disk;
+  return bytes;
 }
 
 void save(const Survey& survey, const fs::path& path) {
@@ -109,14 +121,15 @@ Array trace(const Survey& survey, std::size_t shot, std::size_t channel, bool fi
 Array traces(const Survey& survey, std::size_t shot, bool filtered) {
   const TraceSet& all = tracesOf(survey, shot);
   std::size_t samples = 0;
-  const auto of = [&](const Trace& one) -> const SharedVector<double>& {
+  const auto of = [&](const Trace& one) -> const Samples& {
     return filtered ? one.filtered : one.samples;
   };
   for (const Trace& one : all) samples = std::max(samples, of(one).size());
   Array array({all.size(), samples});
   double* out = array.mutable_data();
   for (const Trace& one : all) {
-    double* end = std::copy(of(one).begin(), of(one).end(), out);
+    const Span<double> values = of(one);
+    double* end = std::copy(values.begin(), values.end(), out);
     out += samples;
     std::fill(end, out, std::numeric_limits<double>::quiet_NaN());
   }
@@ -383,12 +396,17 @@ void bindSurvey(py::module_& module) {
       "lay_out", layOut, py::arg("geophones"), py::arg("shots"),
       "A survey without traces or picks: arrays (places, 2) of x and elevation. All geophones "
       "record all shots; set_picks() gives them times.");
-  module.def("read", read, py::arg("paths"), py::kw_only(), py::arg("reader") = "rules",
-             py::arg("time_unit") = py::none(), py::arg("as_recorded") = false,
-             "Reads shot files, one travel-time file, or one project.\n\n"
-             "reader: 'rules' or 'standard', as talvesk-batch --reader. time_unit: 'ms' or 's', of "
-             "tables whose heading names none. as_recorded: times count from the first sample also "
-             "where recording began before the shot.");
+  module.def(
+      "read", read, py::arg("paths"), py::kw_only(), py::arg("reader") = "rules",
+      py::arg("time_unit") = py::none(), py::arg("as_recorded") = false, py::arg("on_disk") = false,
+      "Reads shot files, one travel-time file, or one project.\n\n"
+      "reader: 'rules' or 'standard', as talvesk-batch --reader. time_unit: 'ms' or 's', of "
+      "tables whose heading names none. as_recorded: times count from the first sample also "
+      "where recording began before the shot. on_disk: the samples, and what is made of them, "
+      "are kept on the disk however few they are; by itself that is so for what comes after "
+      "a quarter of the memory is full of samples.");
+  module.def("samples_in_use", samplesInUse,
+             "Bytes that the samples of all surveys take: a dict of 'memory' and 'disk'.");
 }
 
 }  // namespace talvesk::python

@@ -58,13 +58,13 @@ Array pointsOf(const std::vector<Point2D>& points) {
   return array;
 }
 
-Array viewOf(const SharedVector<double>& values) {
+Array viewOf(const Samples& values) {
   // A copy shares the list, and whoever edits it later writes to a list of its own.
-  auto owner = std::make_unique<SharedVector<double>>(values);
+  auto owner = std::make_unique<Samples>(values);
   const double* data = owner->data();
   const auto size = static_cast<py::ssize_t>(owner->size());
-  const py::capsule alive(
-      owner.release(), [](void* pointer) { delete static_cast<SharedVector<double>*>(pointer); });
+  const py::capsule alive(owner.release(),
+                          [](void* pointer) { delete static_cast<Samples*>(pointer); });
   Array array(size, data, alive);
   array.attr("flags").attr("writeable") = false;
   return array;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Point2D.h"
-#include "base/Shared.h"
+#include "base/Samples.h"
 #include "python/Error.h"
 
 #include <cstddef>
@@ -36,7 +36,7 @@ Array tableOf(const std::vector<double>& values, std::size_t rows, std::size_t c
 /// Rows of x and z.
 Array pointsOf(const std::vector<Point2D>& points);
 /// The values themselves, which live as long as the array does and cannot be written through it.
-Array viewOf(const SharedVector<double>& values);
+Array viewOf(const Samples& values);
 
 /// One-dimensional and finite, else an Error that begins with `name`.
 std::vector<double> finiteList(const GivenArray& values, const char* name);

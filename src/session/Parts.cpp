@@ -121,6 +121,7 @@ class Sum {
   void add(const SharedVector<T>& values, const SharedVector<T>* other) {
     if (other == nullptr || !values.isSharedWith(*other)) add(*values);
   }
+  void addDoubles(std::size_t count) { mBytes += count * sizeof(double); }
   std::size_t bytes() const { return mBytes; }
 
  private:
@@ -137,14 +138,14 @@ constexpr auto kSamplesOfTrace = {&Trace::samples, &Trace::samplesDX, &Trace::sa
 
 /// Samples that somebody has, by their place in memory: what one survey shows may be what another
 /// keeps as the original of a mended trace.
-using SamplesSeen = std::unordered_set<const double*>;
+using SamplesSeen = std::unordered_set<const void*>;
 
 SamplesSeen samplesOf(const Recordings& recordings) {
   SamplesSeen seen;
   for (const auto* sets : {&recordings.traceSets, &recordings.originals}) {
     for (const TraceSet& traces : *sets) {
       for (const Trace& trace : traces) {
-        for (auto samples : kSamplesOfTrace) seen.insert((trace.*samples).data());
+        for (auto samples : kSamplesOfTrace) seen.insert((trace.*samples).block());
       }
     }
   }
@@ -158,7 +159,8 @@ void addRecordings(const Recordings& survey, const Recordings& other, Sum& sum) 
       sum.add(traces);
       for (const Trace& trace : traces) {
         for (auto samples : kSamplesOfTrace) {
-          if (seen.insert((trace.*samples).data()).second) sum.add(*(trace.*samples));
+          const Samples& each = trace.*samples;
+          if (seen.insert(each.block()).second && !each.onDisk()) sum.addDoubles(each.size());
         }
       }
     }

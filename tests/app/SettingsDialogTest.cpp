@@ -1,6 +1,9 @@
 #include "app/Languages.h"
 #include "app/dialogs/SettingsDialog.h"
+#include "base/SampleStore.h"
 #include "base/Settings.h"
+
+#include <QComboBox>
 
 #include <gtest/gtest.h>
 
@@ -15,6 +18,17 @@ TEST(SettingsDialog, offersEnglishToASystemWhoseLanguageTheProgramDoesNotSpeak) 
   EXPECT_EQ(fresh.languageIndex(), 1);
   const SettingsDialog chosen(languages, 2, Settings(std::string()));
   EXPECT_EQ(chosen.languageIndex(), 2);
+}
+
+TEST(SettingsDialog, asksWhereSamplesAreKept) {
+  Settings settings{std::string()};
+  settings.samplesOnDisk = static_cast<int>(SamplesOnDisk::kNever);
+  const SettingsDialog dialog({}, 0, settings);
+  auto& box = *dialog.findChild<QComboBox*>(QStringLiteral("samplesOnDisk"));
+  EXPECT_EQ(box.currentText(), QStringLiteral("Never"));
+  box.setCurrentText(QStringLiteral("Always"));
+  dialog.apply(settings);
+  EXPECT_EQ(settings.samplesOnDisk, static_cast<int>(SamplesOnDisk::kAlways));
 }
 
 }  // namespace

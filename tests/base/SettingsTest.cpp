@@ -24,7 +24,8 @@ const std::string kOf2020_2 =
 auto values(const Settings& s) {
   return std::make_tuple(s.language, s.fillWiggle, s.zoomIn, s.cutHorizontal, s.showFiltered,
                          s.showAllTraces, s.twoColors, s.savePngHColorbar, s.undoMegabytes,
-                         s.errorBars, s.showComputedTimes, s.showNeighbour, s.showReciprocalTimes);
+                         s.errorBars, s.showComputedTimes, s.showNeighbour, s.showReciprocalTimes,
+                         s.samplesOnDisk);
 }
 
 std::string xml(const std::string& content) {
@@ -43,6 +44,7 @@ TEST(Settings, comeBackAsTheyWereSaved) {
   saved.fillWiggle = saved.cutHorizontal = saved.showFiltered = false;
   saved.zoomIn = saved.showAllTraces = saved.twoColors = saved.savePngHColorbar = true;
   saved.undoMegabytes = 128;
+  saved.samplesOnDisk = 2;
   saved.errorBars = false;
   saved.showComputedTimes = saved.showNeighbour = saved.showReciprocalTimes = true;
   ASSERT_TRUE(saved.save().ok());
@@ -70,6 +72,17 @@ TEST(Settings, takeMemoryForUndoThatCanBe) {
   }
 }
 
+TEST(Settings, knowThreeAnswersToWhereSamplesAre) {
+  const TestFolder folder;
+  for (const auto& [text, when] :
+       std::vector<std::pair<const char*, int>>{{"1", 1}, {"3", 0}, {"-1", 0}, {"disk", 0}}) {
+    Settings settings(folder.put("settings.xml",
+                                 xml(std::string("<samplesOnDisk>") + text + "</samplesOnDisk>")));
+    EXPECT_TRUE(settings.load()) << text;
+    EXPECT_EQ(settings.samplesOnDisk, when) << text;
+  }
+}
+
 TEST(Settings, areWrittenInTheOrderOfTheFile) {
   const TestFolder folder;
   const Settings settings(folder.file("settings.xml"));
@@ -81,7 +94,7 @@ TEST(Settings, areWrittenInTheOrderOfTheFile) {
        {"<language>en<", "<zoomIn>false<", "<cutHorizontal>true<", "<fillWiggle>true<",
         "<showFiltered>true<", "<showAllTraces>false<", "<savePngHColorbar>false<",
         "<twoColors>false<", "<undoMegabytes>512<", "<errorBars>true<", "<showComputedTimes>false<",
-        "<showNeighbour>false<", "<showReciprocalTimes>false<"}) {
+        "<showNeighbour>false<", "<showReciprocalTimes>false<", "<samplesOnDisk>0<"}) {
     const std::size_t at = text.find(element);
     ASSERT_NE(at, std::string::npos) << element << " in\n" << text;
     EXPECT_GT(at, last) << element;
@@ -119,7 +132,7 @@ TEST_P(SettingsOfOlderVersions, keepWhatTheyHold) {
   EXPECT_TRUE(settings.load());
   EXPECT_EQ(values(settings),
             std::make_tuple(std::string("fr"), false, true, false, false, GetParam().showAllTraces,
-                            false, false, 512, true, false, false, false));
+                            false, false, 512, true, false, false, false, 0));
   EXPECT_EQ(console.error(), GetParam().error);
   EXPECT_EQ(console.out(), GetParam().out);
 }
@@ -143,7 +156,7 @@ TEST(Settings, areReadByNameInAnyOrder) {
                           kGroupOf2019 + "<language>de</language>")));
   EXPECT_TRUE(settings.load());
   EXPECT_EQ(values(settings), std::make_tuple(std::string("de"), false, true, false, false, true,
-                                              true, true, 512, true, false, false, false));
+                                              true, true, 512, true, false, false, false, 0));
   EXPECT_EQ(console.out() + console.error(), "");
 }
 

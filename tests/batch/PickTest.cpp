@@ -81,6 +81,31 @@ TEST_F(Picking, goesAlongTheLineWhenAskedTo) {
   EXPECT_THAT(unknown.err, HasSubstr("'best' is none of single, joint"));
 }
 
+TEST_F(Picking, isTheSameWhereverSamplesAre) {
+  for (const std::vector<std::string>& how :
+       {std::vector<std::string>{"--method", "joint"}, {"--filter", "agc"}}) {
+    std::vector<std::string> memory = how;
+    memory.insert(memory.end(), {"--samples-on-disk", "never"});
+    std::vector<std::string> disk = how;
+    disk.insert(disk.end(), {"--samples-on-disk", "always"});
+    EXPECT_EQ(pickJson(disk), pickJson(memory)) << how.back();
+  }
+  const Outcome unknown = pick({"-o", mFolder / "out.otte", "--samples-on-disk", "sometimes"});
+  EXPECT_NE(unknown.code, 0);
+  EXPECT_THAT(unknown.err, HasSubstr("'sometimes' is none of automatic, always, never"));
+}
+
+TEST_F(Picking, tellsThatSamplesAreOnTheDisk) {
+  const std::string words = "on the disk";
+  const std::vector<std::string> output = {"-o", mFolder / "out.otte", "--samples-on-disk"};
+  std::vector<std::string> always = output;
+  always.emplace_back("always");
+  std::vector<std::string> never = output;
+  never.emplace_back("never");
+  EXPECT_THAT(pick(always).out, HasSubstr(words));
+  EXPECT_THAT(pick(never).out, Not(HasSubstr(words)));
+}
+
 TEST_F(Picking, namesTheShotWhoseRecordIsLateBesideTheOthers) {
   std::vector<std::string> files;
   for (const double x : {0.0, 6.0, 12.0, 18.0, 24.0}) {

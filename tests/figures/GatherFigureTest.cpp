@@ -261,7 +261,7 @@ TEST(GatherFigure, drawsTheFilteredCopyWhereThereIsOneAndItIsWanted) {
   const std::string before = gatherOf(document, raw, FigureFormat::kSvg).bytes;
   EXPECT_EQ(gatherOf(document, kDefaults, FigureFormat::kSvg).bytes, before);
   for (Trace& trace : document.recordings.edit().traceSets[0]) {
-    trace.filtered.edit() = trace.samples;
+    trace.filtered = trace.samples;
     for (double& sample : trace.filtered.edit()) sample = -sample;
   }
   EXPECT_EQ(gatherOf(document, raw, FigureFormat::kSvg).bytes, before);

@@ -134,8 +134,7 @@ TEST_F(Checking, carriesOutWhatIsTakenAsItWasAltered) {
   action("actionUndo").trigger();
   EXPECT_FALSE(action("actionUndo").isEnabled());
   EXPECT_EQ(after.ttArray[3].shotPos2d.x, before.ttArray[3].shotPos2d.x);
-  EXPECT_EQ(*after.recordings->traceSets[2][4].samples,
-            *before.recordings->traceSets[2][4].samples);
+  EXPECT_EQ(after.recordings->traceSets[2][4].samples, before.recordings->traceSets[2][4].samples);
 }
 
 TEST_F(Checking, asksBeforeTheGridGoesAndTellsOfPicksThatAreSetAside) {

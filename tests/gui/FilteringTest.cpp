@@ -59,7 +59,7 @@ class Filtering : public ::testing::Test {
     dialogs.expectBox("Caution", text, details, QMessageBox::Ok);
   }
 
-  const std::vector<double>& filtered(std::size_t shot, std::size_t trace) const {
+  const Samples& filtered(std::size_t shot, std::size_t trace) const {
     return document.recordings->traceSets[shot][trace].filtered;
   }
   bool untouched() const {
@@ -72,12 +72,12 @@ class Filtering : public ::testing::Test {
     }
     return true;
   }
-  static std::vector<double> lowOf(const std::vector<double>& in, double hertz, int order) {
+  static std::vector<double> lowOf(Span<double> in, double hertz, int order) {
     std::vector<double> out;
     EXPECT_TRUE(lowPass(in, order, hertz / (2.0 * kHighest), out).ok());
     return out;
   }
-  static std::vector<double> highOf(const std::vector<double>& in, double hertz, int order) {
+  static std::vector<double> highOf(Span<double> in, double hertz, int order) {
     std::vector<double> out;
     EXPECT_TRUE(highPass(in, order, hertz / (2.0 * kHighest), out).ok());
     return out;
@@ -114,7 +114,7 @@ TEST_F(Filtering, appliesLowPassHighPassOrTheCascadeOfBoth) {
     if (chosen.high) high(30.0, 2);
     apply();
     for (std::size_t t = 0; t < 4; ++t) {
-      std::vector<double> expected = raw[1][t].samples;
+      std::vector<double> expected(raw[1][t].samples.begin(), raw[1][t].samples.end());
       if (chosen.low) expected = lowOf(expected, 120.0, 3);
       if (chosen.high) expected = highOf(expected, 30.0, 2);
       EXPECT_EQ(filtered(1, t), expected) << chosen.low << chosen.high << t;
@@ -181,7 +181,7 @@ TEST_F(Filtering, worksOnWhatWasFilteredBeforeWhenAsked) {
   open();
   low(120.0, 2);
   apply();
-  const std::vector<double> once = filtered(1, 0);
+  const Samples once = filtered(1, 0);
   child<QRadioButton>("applyToFiltered").setChecked(true);
   apply();
   EXPECT_EQ(filtered(1, 0), lowOf(once, 120.0, 2));

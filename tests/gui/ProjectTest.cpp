@@ -64,7 +64,7 @@ TEST_F(Projects, proposeNamesForTheirFiles) {
 }
 
 TEST_F(Projects, comeBackWithWhatTheScreenShows) {
-  document().recordings.edit().traceSets[1][0].filtered.edit() =
+  document().recordings.edit().traceSets[1][0].filtered =
       document().recordings->traceSets[1][0].samples;
   putGrid(document(), 6, 2);
   Log quiet;

@@ -1,5 +1,6 @@
 #include "app/dialogs/ReadingsDialog.h"
 #include "app/dialogs/ShotFileDialog.h"
+#include "base/SampleStore.h"
 #include "gui/WindowTest.h"
 #include "model/Recordings.h"
 #include "model/TomoDocument.h"
@@ -8,9 +9,11 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QTest>
@@ -152,9 +155,26 @@ TEST_F(Reading, byTheStandardComesBackWithTheProject) {
     dialog.findChild<QComboBox*>("fileCBox")->setCurrentIndex(1);
     EXPECT_THAT(dialog.findChild<QLabel*>("readerValue")->text().toStdString(),
                 HasSubstr("the standard of its format; record 2 of the file"));
+    EXPECT_EQ(dialog.findChild<QLabel*>("placeValue")->text(), "in memory");
     dialog.close();
   });
   action("actionRecording_details").trigger();
+}
+
+TEST_F(Reading, keepsSamplesWhereTheSettingsSay) {
+  dialogs.expect([](QWidget& dialog) {
+    dialog.findChild<QComboBox*>("samplesOnDisk")->setCurrentText("Always");
+    dialog.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Ok)->click();
+  });
+  action("actionSettings").trigger();
+  window->openFiles({shotFile("line.dat")});
+  ASSERT_EQ(sets(), 1U);
+  dialogs.expect([](QWidget& dialog) {
+    EXPECT_EQ(dialog.findChild<QLabel*>("placeValue")->text(), "on the disk");
+    dialog.close();
+  });
+  action("actionRecording_details").trigger();
+  SampleStore::instance().setWhen(SamplesOnDisk::kWhenLarge);
 }
 
 }  // namespace

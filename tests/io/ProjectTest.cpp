@@ -1,3 +1,4 @@
+#include "base/SampleStore.h"
 #include "model/ChiSquare.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
@@ -5,6 +6,7 @@
 #include "model/Recordings.h"
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
+#include "processing/ShotFilters.h"
 #include "processing/ShotTime.h"
 #include "support/TestProjects.h"
 #include "tomo/RayRecomputation.h"
@@ -118,6 +120,28 @@ TEST_F(ProjectTest, comesBackAsItWasSaved) {
   EXPECT_EQ(back.palettes->currentIndex(), 3U);
   EXPECT_EQ(back.section.quantity, SectionQuantity::kLaplacian);
   EXPECT_EQ(back.section.contours, project.section.contours);
+}
+
+TEST_F(ProjectTest, isTheSameByteForByteWithSamplesOnTheDisk) {
+  countTimeFromShot(project.document);
+  agcShots(project.document, {1});
+  Trace& changed = project.document.recordings.edit().traceSets[2][0];
+  changed.samples.edit()[5] += 1.0;  // no shot file has that
+  ASSERT_EQ(save(), 0);
+  const SampleStore::Choice disk(SamplesOnDisk::kAlways);
+  LoadedProject back;
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  for (const TraceSet& traces : back.document.recordings->traceSets) {
+    for (const Trace& trace : traces) {
+      EXPECT_TRUE(trace.samples.onDisk());
+      EXPECT_TRUE(trace.filtered.empty() || trace.filtered.onDisk());
+    }
+  }
+  EXPECT_EQ(back.document.recordings->traceSets[2][0].samples, changed.samples);
+  EXPECT_EQ(back.document.recordings->traceSets[1][3].filtered,
+            project.document.recordings->traceSets[1][3].filtered);
+  ASSERT_EQ(save(folder.file("again.tvsk"), back), 0);
+  EXPECT_EQ(entriesOf(folder.file("again.tvsk")), entriesOf(archive()));
 }
 
 TEST_F(ProjectTest, isTheSameByteForByteAfterLoadingAndSavingAgain) {
@@ -380,8 +404,8 @@ TEST_F(ProjectTest, bringsPairsOfPolaritiesBackAsTheirDifference) {
     for (std::size_t i = 0; i < 6; ++i) {
       Trace& trace = pairs.document.recordings.edit().traceSets[set][i];
       trace.waveKind = Trace::kSWavePair;
-      trace.samplesDX.edit() = trace.samples;
-      trace.samplesSX.edit() = sx.recordings->traceSets[set][i].samples;
+      trace.samplesDX = trace.samples;
+      trace.samplesSX = sx.recordings->traceSets[set][i].samples;
       for (std::size_t s = 0; s < 40; ++s) trace.samples.edit()[s] -= trace.samplesSX[s];
     }
   }

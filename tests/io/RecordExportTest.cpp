@@ -62,7 +62,8 @@ TomoDocument loaded(const std::vector<std::string>& files) {
 }
 
 std::vector<double> samplesOf(const TomoDocument& document, std::size_t set, std::size_t trace) {
-  return document.recordings->traceSets[set][trace].samples;
+  const Samples& samples = document.recordings->traceSets[set][trace].samples;
+  return {samples.begin(), samples.end()};
 }
 
 class RecordExporting : public ::testing::Test {

@@ -74,11 +74,11 @@ TEST(SWavePairFile, isPickedOnItsDifferenceAndNotOnOneRecording) {
   ASSERT_TRUE(applyGeometry(geometry, document));
   // Samples that something else left behind are not what is picked.
   Trace& kept = document.recordings.edit().traceSets[0][1];
-  kept.samples.edit() = kept.samplesDX;
+  kept.samples = kept.samplesDX;
   const std::int32_t picked = pickTrace(document, 0, 1, false);
   EXPECT_NEAR(picked * kept.sampleInterval, firstBreak(1), 0.0015);
   kept.waveKind = Trace::kFromFile;
-  kept.samples.edit() = kept.samplesDX;
+  kept.samples = kept.samplesDX;
   EXPECT_LT(pickTrace(document, 0, 1, false) * kept.sampleInterval, 0.009) << "the common arrival";
 }
 

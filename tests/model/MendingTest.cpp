@@ -77,7 +77,7 @@ ShotMends stack(std::vector<std::int32_t> others) {
   return mends;
 }
 
-void expectSameBytes(const Values& a, const Values& b, const std::string& what) {
+void expectSameBytes(Span<double> a, Span<double> b, const std::string& what) {
   ASSERT_EQ(a.size(), b.size()) << what;
   if (!a.empty()) {
     EXPECT_EQ(std::memcmp(a.data(), b.data(), a.size() * sizeof(double)), 0) << what;
@@ -180,11 +180,11 @@ TEST(Mending, isInTheTracesAndPicksAndGoesWhenItIsTakenBack) {
     ASSERT_TRUE(setMends(0, c.mends, document).ok()) << c.name;
     const TraceSet& traces = document.recordings->traceSets[0];
     for (std::size_t t = 0; t < 3; ++t) {
-      EXPECT_EQ(*traces[t].samples, c.samples[t]) << c.name << ", trace " << t;
+      EXPECT_EQ(traces[t].samples, c.samples[t]) << c.name << ", trace " << t;
       EXPECT_EQ(traces[t].receiverPosition.x, 1.0 + static_cast<double>(t)) << c.name;
       EXPECT_EQ(document.ttArray[0].waits(t), c.waits[t]) << c.name;
-      EXPECT_EQ(*document.recordings->originals[0][t].samples,
-                *before.recordings->traceSets[0][t].samples)
+      EXPECT_EQ(document.recordings->originals[0][t].samples,
+                before.recordings->traceSets[0][t].samples)
           << c.name;
     }
     EXPECT_EQ(*document.ttArray[0].ttMisurati, c.picks) << c.name;
@@ -254,9 +254,9 @@ TEST(Mending, mendsTheTwoRecordingsOfAPairAlike) {
   ASSERT_TRUE(setMends(0, mends, document).ok());
   const Trace& mended = document.recordings->traceSets[0][0];
   // Over five samples of DX and three of SX: (-(101 + k) with two muted, and 201 + k) / 2.
-  EXPECT_EQ(*mended.samplesDX, (Values{100.5, 101, 49.5, 49.5, 49.5}));
-  EXPECT_EQ(*mended.samplesSX, (Values{0.5, 0.5, 0}));
-  EXPECT_EQ(*mended.samples, (Values{100, 100.5, 49.5, 49.5, 49.5}));
+  EXPECT_EQ(mended.samplesDX, (Values{100.5, 101, 49.5, 49.5, 49.5}));
+  EXPECT_EQ(mended.samplesSX, (Values{0.5, 0.5, 0}));
+  EXPECT_EQ(mended.samples, (Values{100, 100.5, 49.5, 49.5, 49.5}));
   ASSERT_TRUE(setMends(0, {}, document).ok());
   expectSame(document, before, "a pair");
 }
@@ -268,7 +268,7 @@ TEST(Mending, makesAStackAnewWithItsParts) {
   EXPECT_EQ(document.recordings->traceSets[0][0].samples[0], 101.0) << "killed in the other";
   EXPECT_EQ(document.recordings->traceSets[0][1].samples[0], 161.0);
   ASSERT_TRUE(setMends(1, shift(0.004), document).ok());
-  EXPECT_EQ(*document.recordings->traceSets[0][0].samples, (Values{153, 154}));
+  EXPECT_EQ(document.recordings->traceSets[0][0].samples, (Values{153, 154}));
   EXPECT_EQ(*document.ttArray[0].ttMisurati, (Values{kNoTime, kNoTime, kNoTime}))
       << "beyond what is left";
   ASSERT_TRUE(setMends(1, disabled(), document).ok());

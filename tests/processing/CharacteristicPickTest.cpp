@@ -52,7 +52,7 @@ TEST(CharacteristicPick, isTheFormulaAtEveryLengthAndStrength) {
 TEST(CharacteristicPick, needsMoreThanTwoWindows) {
   const std::vector<double> ones(60, 1.0);
   const auto pick = [&](std::ptrdiff_t n) {
-    return characteristicPick({ones.begin(), ones.begin() + n}, 0.0, kPickWindow);
+    return characteristicPick({ones.data(), static_cast<std::size_t>(n)}, 0.0, kPickWindow);
   };
   for (const int n : {0, 1, 39, 40}) EXPECT_EQ(pick(n), -1) << n;
   for (const int n : {41, 42, 60}) EXPECT_EQ(pick(n), 20) << n;  // the first of equals

@@ -27,7 +27,7 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// Gain of a filter for a sine once it has settled, dB.
-double gain(const Samples& in, const Samples& out) {
+double gain(Span<double> in, Span<double> out) {
   double before = 0.0;
   double after = 0.0;
   for (std::size_t i = in.size() / 2; i < in.size(); ++i) {

@@ -1,4 +1,5 @@
 #include "SyntheticLine.h"
+#include "base/SampleStore.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
@@ -130,6 +131,28 @@ INSTANTIATE_TEST_SUITE_P(
       std::replace(name.begin(), name.end(), ' ', '_');
       return name;
     });
+
+TEST(JointPicker, givesTheSameWhereMemoryIsTooShortToKeepPreparedTraces) {
+  const Ground ground;
+  const TomoDocument line = lineOver(ground, {-2.5, 30.0, 57.5, 90.0, 117.5});
+  SampleStore& store = SampleStore::instance();
+  const std::size_t limit = store.memoryLimit();
+  TomoDocument kept = line;
+  TomoDocument twice = line;
+  JointPickOutcome ofKept;
+  JointPickOutcome ofTwice;
+  ASSERT_TRUE(pickJointly(kept, allShots(kept), {}, ofKept).ok());
+  store.setMemoryLimit(store.usage().memory);
+  ASSERT_EQ(store.spare(), 0U);
+  const Status picked = pickJointly(twice, allShots(twice), {}, ofTwice);
+  store.setMemoryLimit(limit);
+  ASSERT_TRUE(picked.ok());
+  EXPECT_GT(ofKept.good, 100U);
+  for (std::size_t s = 0; s < line.ttArray.size(); ++s) {
+    EXPECT_EQ(twice.ttArray[s].ttMisurati, kept.ttArray[s].ttMisurati) << s;
+    EXPECT_EQ(twice.ttArray[s].pickErrors, kept.ttArray[s].pickErrors) << s;
+  }
+}
 
 TEST(JointPicker, GivesTheSameWithAnyNumberOfThreads) {
   const Ground ground;

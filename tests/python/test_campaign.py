@@ -55,6 +55,17 @@ def test_every_line_has_a_row_and_the_bad_ones_their_reason(lines, tmp_path):
     )
 
 
+@pytest.mark.parametrize("filter", ["agc", "none of them"])
+def test_a_line_is_gone_as_soon_as_its_row_is_there(lines, tmp_path, filter):
+    before = talvesk.samples_in_use()
+    files = sorted((lines / "north").iterdir())
+    recipe = {**RECIPE, "read": {"on_disk": True}, "filter": {"kind": filter}}
+    for _ in range(2):
+        row = _campaign.run_line("north", files, tmp_path, recipe)
+        assert row["status"] == ("done" if filter == "agc" else "failed")
+        assert talvesk.samples_in_use() == before
+
+
 def test_a_recipe_is_read_from_a_file_and_its_slips_are_told(lines, tmp_path):
     path = tmp_path / "recipe.toml"
     path.write_text('[pick]\nmethod = "single"\n[invert]\nsigma = [0.5, 3.0]\n')

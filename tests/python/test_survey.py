@@ -93,3 +93,29 @@ def test_what_is_no_survey_is_told(tmp_path, line):
         talvesk.read([line / "demo.otte", line / "demo.otte"])
     with pytest.raises(talvesk.Error, match="no file"):
         talvesk.read([])
+
+
+def test_samples_on_disk_give_the_same_bits_and_leave_memory(shots, tmp_path):
+    before = talvesk.samples_in_use()
+    memory = talvesk.read(shots)
+    used = talvesk.samples_in_use()
+    disk = talvesk.read(shots, on_disk=True)
+    now = talvesk.samples_in_use()
+    assert now["memory"] == used["memory"]
+    assert now["disk"] - before["disk"] == used["memory"] - before["memory"] > 0
+    for survey in (memory, disk):
+        survey.filter("agc")
+        survey.pick("joint", filtered=True)
+    assert talvesk.samples_in_use()["disk"] - before["disk"] == 2 * (now["disk"] - before["disk"])
+    for shot in range(len(shots)):
+        numpy.testing.assert_array_equal(disk.traces(shot), memory.traces(shot))
+        numpy.testing.assert_array_equal(disk.times(shot), memory.times(shot))
+        numpy.testing.assert_array_equal(
+            disk.traces(shot, filtered=True), memory.traces(shot, filtered=True)
+        )
+    view = disk.trace(1, 2)
+    samples = memory.trace(1, 2).copy()
+    del disk, survey
+    numpy.testing.assert_array_equal(view, samples)
+    del view, memory
+    assert talvesk.samples_in_use() == before

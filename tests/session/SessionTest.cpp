@@ -1,3 +1,4 @@
+#include "base/SampleStore.h"
 #include "session/FullSurvey.h"
 #include "session/PickEdits.h"
 #include "session/Session.h"
@@ -343,6 +344,23 @@ TEST_F(Sessions, payForWhatDiffersOnly) {
   EXPECT_LT(session.undoMemory() - before, 400U << 10) << "what was there before is shared";
   session.undo();
   EXPECT_GT(session.undoMemory() - before, 48U * 2000U * 8U) << "what could be done again is not";
+}
+
+TEST_F(Sessions, payNoMemoryForSamplesOnTheDisk) {
+  session.open(fullSurvey(4, 12, 400), true);
+  const auto filter = [](Survey& survey) {
+    for (Trace& trace : survey.document.recordings.edit().traceSets[1]) {
+      trace.filtered = std::vector<double>(40000, 1.0);
+    }
+    return Status();
+  };
+  const SampleStore::Choice disk(SamplesOnDisk::kAlways);
+  ASSERT_TRUE(session.apply(Edit::kFilter, filter).ok());
+  session.undo();
+  EXPECT_LT(session.undoMemory(), 12U * 40000U * 8U / 2U);
+  session.redo();
+  EXPECT_EQ(session.document().recordings->traceSets[1][3].filtered,
+            std::vector<double>(40000, 1.0));
 }
 
 TEST_F(Sessions, dropTheOldestStepsWhenTheyCostTooMuch) {

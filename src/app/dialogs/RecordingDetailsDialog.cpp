@@ -1,6 +1,7 @@
 #include "app/dialogs/RecordingDetailsDialog.h"
 
 #include "app/MessageText.h"
+#include "base/SampleStore.h"
 #include "figures/FigureWords.h"
 #include "io/ReadShotFile.h"
 #include "model/Mending.h"
@@ -86,6 +87,22 @@ QString RecordingDetailsDialog::readerOf(std::size_t set) const {
       .arg(QString::fromStdString(note.nameInFile));
 }
 
+/// Where the samples of a set are, and why not where they were meant to be.
+QString RecordingDetailsDialog::placeOf(std::size_t set) const {
+  bool memory = false;
+  bool disk = false;
+  for (const Trace& trace : mDocument.recordings->traceSets[set]) {
+    for (const Samples* samples :
+         {&trace.samples, &trace.samplesDX, &trace.samplesSX, &trace.filtered}) {
+      if (!samples->empty()) (samples->onDisk() ? disk : memory) = true;
+    }
+  }
+  if (disk) return memory ? tr("in memory and on the disk") : tr("on the disk");
+  const Message failure = SampleStore::instance().failure();
+  if (!memory || failure.empty()) return memory ? tr("in memory") : QString();
+  return tr("in memory, for %1").arg(textOf(failure));
+}
+
 RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
                                                std::vector<RecordingInfo> files, int current,
                                                QWidget* parent)
@@ -129,6 +146,7 @@ void RecordingDetailsDialog::showSet(int index) {
   mUi->tracesValue->setText(QLocale().toString(static_cast<qulonglong>(traces.size())));
   mUi->samplesValue->setText(rangeOf(
       traces, [](const Trace& t) { return static_cast<double>(t.samples.size()); }, QString()));
+  mUi->placeValue->setText(placeOf(set));
   mUi->intervalValue->setText(rangeOf(
       traces, [](const Trace& t) { return 1000.0 * t.sampleInterval; }, tr("ms")));
   mUi->lengthValue->setText(rangeOf(

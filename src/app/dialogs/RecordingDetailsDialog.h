@@ -35,6 +35,7 @@ class RecordingDetailsDialog : public QDialog {
   void showSet(int index);
   void fillTable(int index);
   QString readerOf(std::size_t set) const;
+  QString placeOf(std::size_t set) const;
 
   std::unique_ptr<Ui::RecordingDetailsDialog> mUi;
   const TomoDocument& mDocument;

@@ -45,6 +45,7 @@ SettingsDialog::SettingsDialog(const std::vector<Language>& languages, int curre
   forEachOption(*mUi, settings, [](QCheckBox& box, bool value) { box.setChecked(value); });
   mUi->undoMegabytes->setRange(Settings::kLeastUndo, Settings::kMostUndo);
   mUi->undoMegabytes->setValue(settings.undoMegabytes);
+  mUi->samplesOnDisk->setCurrentIndex(settings.samplesOnDisk);
   fitToScreen();
 }
 
@@ -70,6 +71,7 @@ int SettingsDialog::languageIndex() const {
 void SettingsDialog::apply(Settings& settings) const {
   forEachOption(*mUi, settings, [](const QCheckBox& box, bool& value) { value = box.isChecked(); });
   settings.undoMegabytes = mUi->undoMegabytes->value();
+  settings.samplesOnDisk = mUi->samplesOnDisk->currentIndex();
 }
 
 }  // namespace talvesk

@@ -25,7 +25,7 @@ constexpr double kMostOfScreen = 0.92;
 TraceSet workingCopyOf(const TraceSet& traces, bool ofFiltered) {
   TraceSet copy = traces;
   if (ofFiltered) {
-    for (Trace& trace : copy) trace.samples.edit() = trace.filtered;
+    for (Trace& trace : copy) trace.samples = trace.filtered;
   }
   return copy;
 }

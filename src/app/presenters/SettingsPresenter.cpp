@@ -1,6 +1,7 @@
 #include "app/presenters/SettingsPresenter.h"
 
 #include "app/dialogs/SettingsDialog.h"
+#include "base/SampleStore.h"
 
 namespace talvesk {
 
@@ -10,7 +11,7 @@ SettingsPresenter::SettingsPresenter(Desk& desk) : mDesk(desk) {
   } else {
     mFirstRun = true;
   }
-  boundUndo();
+  boundMemory();
   // English without its file has no plurals: "1 shot file(s)".
   if (mLanguages.current() < 0) {
     desk.settings.language = "en";
@@ -34,14 +35,15 @@ bool SettingsPresenter::askFor(int language) {
   SettingsDialog dialog(mLanguages.list(), language, mDesk.settings, &mDesk.window);
   if (dialog.exec() != QDialog::Accepted) return false;
   dialog.apply(mDesk.settings);
-  boundUndo();
+  boundMemory();
   changed();
   if (dialog.languageIndex() != mLanguages.current()) changeLanguage(dialog.languageIndex());
   return true;
 }
 
-void SettingsPresenter::boundUndo() {
+void SettingsPresenter::boundMemory() {
   mDesk.session.setUndoMemory(static_cast<std::size_t>(mDesk.settings.undoMegabytes) << 20);
+  SampleStore::instance().setWhen(static_cast<SamplesOnDisk>(mDesk.settings.samplesOnDisk));
 }
 
 void SettingsPresenter::changeLanguage(int index) {

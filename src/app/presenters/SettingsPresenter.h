@@ -24,7 +24,7 @@ class SettingsPresenter : public QObject {
 
  private:
   bool askFor(int language);
-  void boundUndo();
+  void boundMemory();
   void changeLanguage(int index);
 
   Desk& mDesk;

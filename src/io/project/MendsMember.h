@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Shared.h"
+#include "base/Samples.h"
 #include "model/Mends.h"
 
 #include <cstdint>
@@ -10,9 +10,9 @@ namespace talvesk {
 
 /// Samples of a channel as they were recorded.
 struct StoredOriginal {
-  SharedVector<double> TAB;
-  SharedVector<double> TAB_DX;  ///< of pairs
-  SharedVector<double> TAB_SX;
+  Samples TAB;
+  Samples TAB_DX;  ///< of pairs
+  Samples TAB_SX;
 };
 
 struct StoredMends {

@@ -52,14 +52,14 @@ struct GridMember {
 struct StoredTrace {
   double pos = 0.0;                  ///< receiver, metres
   double time = 0.0;                 ///< sample interval, seconds
-  std::vector<double> TAB;           ///< the samples, when there is no file
+  Samples TAB;                       ///< the samples, when there is no file
   std::uint64_t droppedSamples = 0;  ///< before the shot, off the front of the samples
   std::uint32_t waveKind = Trace::kFromFile;
   double delay = 0.0;  ///< seconds
   Point2D source;
   Point2D receiver;
-  std::vector<double> TAB_DX;  ///< of pairs without files
-  std::vector<double> TAB_SX;
+  Samples TAB_DX;  ///< of pairs without files
+  Samples TAB_SX;
   bool hasPlace = false;  ///< kind, delay, source and receiver were there: older files lack them
 };
 
@@ -70,7 +70,7 @@ struct TracesMember {
   WaveType waveType = WaveType::P;
   std::vector<double> shotPositions;  ///< metres
   std::vector<std::vector<StoredTrace>> traceSets;
-  std::vector<std::vector<std::vector<double>>> filtered;  ///< per set and trace, may be empty
+  std::vector<std::vector<Samples>> filtered;  ///< per set and trace, may be empty
 };
 
 int writeSurvey(const std::string& path, const TomoDocument& document,

@@ -57,9 +57,9 @@ TraceSet storedSet(std::vector<StoredTrace>& stored) {
     trace.waveKind = Trace::kFromFile;
     trace.receiverPosition.x = stored[i].pos;
     place(stored[i], trace);
-    trace.samples.edit() = std::move(stored[i].TAB);
-    trace.samplesDX.edit() = std::move(stored[i].TAB_DX);
-    trace.samplesSX.edit() = std::move(stored[i].TAB_SX);
+    trace.samples = std::move(stored[i].TAB);
+    trace.samplesDX = std::move(stored[i].TAB_DX);
+    trace.samplesSX = std::move(stored[i].TAB_SX);
     checkKind(trace);
   }
   return traces;
@@ -79,7 +79,7 @@ bool finitePlaces(const std::vector<StoredTrace>& stored) {
 
 /// Samples beyond every number would spoil pictures and filters.
 bool finiteSamples(const TraceSet& traces) {
-  const auto finite = [](const std::vector<double>& samples) {
+  const auto finite = [](Span<double> samples) {
     return std::all_of(samples.begin(), samples.end(), [](double v) { return std::isfinite(v); });
   };
   return std::all_of(traces.begin(), traces.end(), [&](const Trace& trace) {
@@ -90,7 +90,7 @@ bool finiteSamples(const TraceSet& traces) {
 
 Status installFiltered(TracesMember& member, std::size_t set, TraceSet& traces) {
   if (set >= member.filtered.size()) return {};
-  std::vector<std::vector<double>>& copies = member.filtered[set];
+  std::vector<Samples>& copies = member.filtered[set];
   if (copies.empty()) return {};
   if (copies.size() != traces.size()) {
     return Status::failure(Message::tr("trace set %1 has %2 traces, but %3 filtered copies")
@@ -98,7 +98,7 @@ Status installFiltered(TracesMember& member, std::size_t set, TraceSet& traces) 
                                .arg(traces.size())
                                .arg(copies.size()));
   }
-  for (std::size_t i = 0; i < traces.size(); ++i) traces[i].filtered.edit() = std::move(copies[i]);
+  for (std::size_t i = 0; i < traces.size(); ++i) traces[i].filtered = std::move(copies[i]);
   return {};
 }
 

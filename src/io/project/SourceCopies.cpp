@@ -1,6 +1,7 @@
 #include "io/project/SourceCopies.h"
 
 #include "base/Console.h"
+#include "base/SampleStore.h"
 #include "io/EntryName.h"
 #include "io/project/OwnMembers.h"
 #include "io/project/ProjectAssembly.h"
@@ -110,6 +111,8 @@ SourceCopies copySources(const std::vector<const std::vector<std::string>*>& lis
 }
 
 std::vector<bool> setsWithoutFile(const TomoDocument& document, const std::string& folder) {
+  // What is read only to be compared is gone before the next.
+  const SampleStore::Choice inMemory(SamplesOnDisk::kNever);
   std::vector<bool> without(document.recordings->traceSets.size(), true);
   SegyState state;
   SetReader reader(folder);

@@ -1,6 +1,7 @@
 #include "io/project/projectReader.h"
 
 #include "base/Console.h"
+#include "base/SampleStore.h"
 #include "io/EntryName.h"
 #include "io/project/ProjectAssembly.h"
 #include "io/project/ProjectZip.h"
@@ -156,6 +157,7 @@ int projectReader::load(const std::string& archive, const std::string& workingFo
   try {
     LoadedProject fresh;
     if (loadInto(archive, workingFolder, fresh) != 0) return 1;
+    SampleStore::instance().giveBack();
     project = std::move(fresh);
     return 0;
   } catch (const std::exception& error) {

@@ -187,13 +187,14 @@ class MiniSeedReader {
   ShotRecord traceOf(const Channel& channel) {
     ShotRecord trace;
     trace.sampleInterval = 1.0 / channel.rate;
-    trace.samples.assign(channel.length, 0.0);
+    std::vector<double> values(channel.length, 0.0);
     for (const Piece& piece : channel.pieces) {
-      if (!decodeSeed(piece.record, dataOf(piece), piece.samples, &trace.samples[piece.place])) {
+      if (!decodeSeed(piece.record, dataOf(piece), piece.samples, &values[piece.place])) {
         ++mDamaged;
       }
     }
-    mNonFinite += zeroNonFinite(trace.samples);
+    mNonFinite += zeroNonFinite(values);
+    trace.samples = std::move(values);
     return trace;
   }
 

@@ -148,10 +148,11 @@ class Seg2StandardReader {
 
   void readTrace(const Block& block, Seg2Trace& trace) {
     ShotRecord& record = trace.record;
-    record.samples.assign(block.samples, 0.0);
+    std::vector<double> values(block.samples, 0.0);
     decodeSeg2(mReader, block.at + block.bytes, block.code, mLayout.order, factorOf(trace),
-               block.samples, record.samples.data());
-    mNonFinite += zeroNonFinite(record.samples);
+               block.samples, values.data());
+    mNonFinite += zeroNonFinite(values);
+    record.samples = std::move(values);
     const Seg2Number& delay = trace.header.delay;
     if (delay.bad()) mBadDelay.count(trace.index);
     mStart.set(delay.value.value_or(0.0) + wholeSkew(trace), trace.index, record);

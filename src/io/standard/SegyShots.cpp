@@ -127,13 +127,14 @@ class ShotsReader {
     record.source = mPositions[number].source;
     record.receiver = mPositions[number].receiver;
     record.sampleInterval = trace.interval;
-    record.samples.assign(static_cast<std::size_t>(trace.samples), 0.0);
+    std::vector<double> values(static_cast<std::size_t>(trace.samples), 0.0);
     std::uint64_t nonFinite = 0;
     if (!mKindsBelieved || !isDead(trace.header.kind)) {
       const auto decode = mFound.code->decode(mFound.order);
-      decode(mReader, trace.dataAt, record.samples.size(), record.samples.data());
-      if (mFound.code->floats) nonFinite = zeroNonFinite(record.samples);
+      decode(mReader, trace.dataAt, values.size(), values.data());
+      if (mFound.code->floats) nonFinite = zeroNonFinite(values);
     }
+    record.samples = std::move(values);
     mStart.set(delayOf(trace.header, number), number, record);
     return nonFinite;
   }

@@ -89,10 +89,10 @@ bool JointGather::usable() const {
                      [](const Trace* trace) { return trace != nullptr; });
 }
 
-const std::vector<double>& JointGather::samplesOf(std::size_t trace) const {
+Span<double> JointGather::samplesOf(std::size_t trace) const {
   const Trace& one = *mTraces[trace];
   const bool filtered = mOptions.useFiltered && !one.filtered.empty();
-  return filtered ? *one.filtered : *one.samples;
+  return filtered ? one.filtered : one.samples;
 }
 
 void JointGather::ready(const OnsetView& view) {
@@ -117,6 +117,17 @@ void JointGather::prepare(double stretch) {
   OnsetView view;
   view.stretch = stretch;
   ready(view);
+}
+
+std::size_t JointGather::preparedBytes() const {
+  constexpr std::size_t kPerSample = sizeof(double) + 3 * sizeof(float);
+  std::size_t samples = 0;
+  for (const Trace* trace : mTraces) samples += trace != nullptr ? trace->samples.size() : 0;
+  return samples * kPerSample;
+}
+
+void JointGather::forgetPrepared() {
+  for (OnsetTrace& onset : mOnsets) onset = {};
 }
 
 void JointGather::follow() {

@@ -38,6 +38,9 @@ class JointGather {
 
   /// Readies the traces, with times stretched as for arrivals of that period, see OnsetView.
   void prepare(double stretch);
+  /// What prepare() takes, which is several times the samples, and giving it back.
+  std::size_t preparedBytes() const;
+  void forgetPrepared();
   /// Finds the arrivals: the way of all, not yet where exactly each begins.
   void follow();
   /// Where each begins, in agreement with its neighbours, and how far it may be off.
@@ -58,7 +61,7 @@ class JointGather {
   void ready(const OnsetView& view);
   void smooth(bool right);
   double errorOf(std::size_t trace, const SmoothArrival& arrival) const;
-  const std::vector<double>& samplesOf(std::size_t trace) const;
+  Span<double> samplesOf(std::size_t trace) const;
 
   std::int32_t mShot;
   JointPickOptions mOptions;

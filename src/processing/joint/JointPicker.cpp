@@ -1,5 +1,6 @@
 #include "processing/joint/JointPicker.h"
 
+#include "base/SampleStore.h"
 #include "model/TomoDocument.h"
 #include "processing/joint/ArrivalPeriod.h"
 #include "processing/joint/JointGather.h"
@@ -71,6 +72,7 @@ std::optional<double> frequencyOf(const std::vector<JointGather>& gathers, doubl
   std::vector<std::optional<double>> found(count);
   crew.run(some, [&](JointGather& gather) {
     found[static_cast<std::size_t>(&gather - some.data())] = gather.look(stretch);
+    gather.forgetPrepared();
   });
   std::vector<double> frequencies;
   for (const std::optional<double>& one : found) {
@@ -99,20 +101,32 @@ void takeReciprocals(std::vector<JointGather>& gathers) {
   for (JointGather& gather : gathers) gather.heed(reciprocity);
 }
 
+/// Whether there is memory for the traces of all gathers as they are prepared; where not, each
+/// prepares its own once more for the second pass.
+bool canKeepPrepared(const std::vector<JointGather>& gathers) {
+  std::size_t bytes = 0;
+  for (const JointGather& gather : gathers) bytes += gather.preparedBytes();
+  return bytes <= SampleStore::instance().spare();
+}
+
 /// All but storing. False when it was stopped.
 bool pick(std::vector<JointGather>& gathers, Crew& crew) {
   const double stretch = stretchOf(gathers, crew);
+  const bool keep = canKeepPrepared(gathers);
   const bool first = crew.run(gathers, [&](JointGather& gather) {
     gather.prepare(stretch);
     gather.follow();
     gather.refine();
+    if (!keep) gather.forgetPrepared();
   });
   if (!first) return false;
   takeReciprocals(gathers);
-  return crew.run(gathers, [](JointGather& gather) {
+  return crew.run(gathers, [&](JointGather& gather) {
+    if (!keep) gather.prepare(stretch);
     gather.follow();
     gather.refine();
     gather.leaveOutDoubtful();
+    if (!keep) gather.forgetPrepared();
   });
 }
 
@@ -150,6 +164,7 @@ Status pickJointly(TomoDocument& document, const std::vector<std::int32_t>& shot
   if (gathers.empty()) return noPlaces();
   Crew crew(options.threads, goOn);
   const bool done = pick(gathers, crew);
+  SampleStore::instance().giveBack();
   if (crew.failed()) return noMemory();
   outcome.stopped = !done;
   if (!done) return {};

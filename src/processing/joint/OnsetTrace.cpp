@@ -99,7 +99,7 @@ double energyRatio(const Sides& s) {
 
 }  // namespace
 
-OnsetTrace prepareOnset(const std::vector<double>& samples, double interval, double from, double to,
+OnsetTrace prepareOnset(Span<double> samples, double interval, double from, double to,
                         const OnsetView& view) {
   OnsetTrace trace;
   trace.interval = interval;
@@ -107,8 +107,8 @@ OnsetTrace prepareOnset(const std::vector<double>& samples, double interval, dou
   const double step = interval / view.stretch;  // as the lengths above see it
   const std::size_t least = samplesIn(kShortestBefore, step, 2);
   if (samples.size() < 2 * least + 2) return trace;
-  trace.signal = samples;
-  const double middle = medianOf(samples, 0.0);
+  trace.signal.assign(samples.begin(), samples.end());
+  const double middle = medianOf(trace.signal, 0.0);
   for (double& sample : trace.signal) sample -= middle;
   highPassForward(trace.signal, step, kLowCut);
   lowPassZeroPhase(trace.signal, step, view.highCut);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Span.h"
+
 #include <cstddef>
 #include <vector>
 
@@ -37,7 +39,7 @@ struct OnsetTrace {
 /// 57 (1970), and Coppens, "First arrival picking on common-offset trace collections", Geophysical
 /// Prospecting 33 (1985).
 /// \param interval seconds, above 0 \param from, to bounds of the onset in seconds
-OnsetTrace prepareOnset(const std::vector<double>& samples, double interval, double from, double to,
+OnsetTrace prepareOnset(Span<double> samples, double interval, double from, double to,
                         const OnsetView& view);
 
 }  // namespace talvesk

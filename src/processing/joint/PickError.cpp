@@ -50,7 +50,7 @@ std::size_t largestIn(const std::vector<Value>& values, Range range) {
 }
 
 /// The sample that parts a stretch best into two of different variance (Maeda 1985).
-std::size_t byInformation(const std::vector<double>& y, Range stretch, Range within) {
+std::size_t byInformation(Span<double> y, Range stretch, Range within) {
   std::vector<double> sums(stretch.to - stretch.from + 1, 0.0);
   std::vector<double> squares = sums;
   for (std::size_t i = stretch.from; i < stretch.to; ++i) {
@@ -148,8 +148,8 @@ double riseTime(const OnsetTrace& trace, double pick, Range swing) {
 
 }  // namespace
 
-std::array<double, 6> singlePicks(const OnsetTrace& trace, const std::vector<double>& samples,
-                                  double pick, double stretch) {
+std::array<double, 6> singlePicks(const OnsetTrace& trace, Span<double> samples, double pick,
+                                  double stretch) {
   const auto about = [&](double from, double to) {
     return rangeOf(pick + stretch * from, pick + stretch * to, trace);
   };
@@ -179,8 +179,7 @@ double noiseShare(const OnsetTrace& trace, double pick, double stretch) {
   return peak > 0.0 ? rmsOf(trace.signal, about(-30e-3, -5e-3)) / peak : 1.0;
 }
 
-double pickScatter(const OnsetTrace& trace, const std::vector<double>& samples, double pick,
-                   double stretch) {
+double pickScatter(const OnsetTrace& trace, Span<double> samples, double pick, double stretch) {
   const double reach = stretch * kReach;
   const Range within = rangeOf(pick - reach, pick + reach, trace);
   const Range swing = rangeOf(pick, pick + stretch * kSwing, trace);

@@ -47,8 +47,7 @@ double likeliestNear(const OnsetTrace& trace, double time, double stretch) {
 
 /// A person picks where the motion leaves the line, and what finds rises is rather late than early:
 /// of the six the second and the third.
-double polished(const OnsetTrace& trace, const std::vector<double>& samples, double time,
-                double stretch) {
+double polished(const OnsetTrace& trace, Span<double> samples, double time, double stretch) {
   std::array<double, 6> single = singlePicks(trace, samples, time, stretch);
   std::sort(single.begin(), single.end());
   const double early = 0.5e-3 * (single[1] + single[2]);
@@ -58,8 +57,7 @@ double polished(const OnsetTrace& trace, const std::vector<double>& samples, dou
 
 }  // namespace
 
-RefinedPick refinePick(const std::vector<double>& samples, const OnsetTrace& trace, double time,
-                       double stretch) {
+RefinedPick refinePick(Span<double> samples, const OnsetTrace& trace, double time, double stretch) {
   const double interval = trace.interval;
   const auto sample = [&](double seconds) {
     return static_cast<std::ptrdiff_t>(

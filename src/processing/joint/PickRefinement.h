@@ -20,7 +20,6 @@ struct RefinedPick {
 /// that shows it.
 /// \param samples as recorded \param trace of these, as the path saw it \param time seconds from
 /// the first sample
-RefinedPick refinePick(const std::vector<double>& samples, const OnsetTrace& trace, double time,
-                       double stretch);
+RefinedPick refinePick(Span<double> samples, const OnsetTrace& trace, double time, double stretch);
 
 }  // namespace talvesk

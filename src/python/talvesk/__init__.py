@@ -28,6 +28,7 @@ from ._talvesk import (
     lay_out,
     read,
     refract,
+    samples_in_use,
     trace_rays,
     travel_times,
 )
@@ -47,6 +48,7 @@ __all__ = [
     "lay_out",
     "read",
     "refract",
+    "samples_in_use",
     "trace_rays",
     "travel_times",
 ]

@@ -221,7 +221,9 @@ def read(
     reader: str = "rules",
     time_unit: Optional[str] = None,
     as_recorded: bool = False,
+    on_disk: bool = False,
 ) -> Survey: ...
+def samples_in_use() -> Dict[str, int]: ...
 def invert(
     survey: Survey,
     grid: Optional[Grid] = None,

@@ -26,7 +26,7 @@ _SHOTS = (".sg2", ".seg2", ".dat", ".sgy", ".segy", ".su")
 _OUTPUTS = {"project": ".tvsk", "sgt": ".sgt", "vtk": ".vtu", "picture": ".png"}
 _SECTIONS = {
     "lines": {"pattern", "files"},
-    "read": {"reader", "time_unit", "as_recorded"},
+    "read": {"reader", "time_unit", "as_recorded", "on_disk"},
     "mend": {"sure"},
     "filter": {"kind", "low", "high", "low_order", "high_order"},
     "pick": {"method", "filtered", "slowest", "fastest", "worst"},

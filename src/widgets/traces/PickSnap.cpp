@@ -15,14 +15,14 @@ struct Range {
   std::size_t size() const { return last < first ? 0 : static_cast<std::size_t>(last - first + 1); }
 };
 
-Range around(const std::vector<double>& samples, double place, double reach) {
+Range around(Span<double> samples, double place, double reach) {
   const double end = static_cast<double>(samples.size()) - 1.0;
   if (!(place >= 0.0 && place <= end)) return {};
   return {static_cast<std::ptrdiff_t>(std::ceil(std::max(place - reach, 0.0))),
           static_cast<std::ptrdiff_t>(std::floor(std::min(place + reach, end)))};
 }
 
-bool allFinite(const std::vector<double>& samples, const Range& range) {
+bool allFinite(Span<double> samples, const Range& range) {
   return std::all_of(samples.begin() + range.first, samples.begin() + range.last + 1,
                      [](double v) { return std::isfinite(v); });
 }
@@ -33,7 +33,7 @@ double logVariance(double sum, double squares, double n, double floor) {
   return std::log(std::max(squares / n - mean * mean, floor));
 }
 
-double onset(const std::vector<double>& samples, const Range& range, double fallback) {
+double onset(Span<double> samples, const Range& range, double fallback) {
   constexpr std::size_t kLeastPart = 3;
   const std::size_t n = range.size();
   if (n < 2 * kLeastPart + 1) return fallback;
@@ -71,8 +71,7 @@ double onset(const std::vector<double>& samples, const Range& range, double fall
   return static_cast<double>(range.first) + static_cast<double>(bestSplit) - 1.0;
 }
 
-double zeroCrossing(const std::vector<double>& samples, const Range& range, double level,
-                    double place) {
+double zeroCrossing(Span<double> samples, const Range& range, double level, double place) {
   double best = place;
   double nearest = HUGE_VAL;
   for (std::ptrdiff_t k = range.first; k < range.last; ++k) {
@@ -94,8 +93,7 @@ double vertex(double a, double b, double c) {
   return bend == 0.0 ? 0.0 : std::clamp(0.5 * (a - c) / bend, -0.5, 0.5);
 }
 
-double peak(const std::vector<double>& samples, const Range& range, double level, double place,
-            double reach) {
+double peak(Span<double> samples, const Range& range, double level, double place, double reach) {
   double best = place;
   double strongest = 0.0;
   for (std::ptrdiff_t k = std::max<std::ptrdiff_t>(range.first, 1);
@@ -117,8 +115,8 @@ double peak(const std::vector<double>& samples, const Range& range, double level
 
 }  // namespace
 
-double snapPick(const std::vector<double>& samples, double interval, double mean, double time,
-                PickSnap snap, double radius) {
+double snapPick(Span<double> samples, double interval, double mean, double time, PickSnap snap,
+                double radius) {
   if (snap == PickSnap::None || !(interval > 0.0) || samples.empty()) return time;
   const double place = time / interval;
   const auto most = static_cast<double>(samples.size());

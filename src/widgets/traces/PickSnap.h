@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Span.h"
 #include "widgets/traces/TraceViewOptions.h"
 
 #include <vector>
@@ -15,8 +16,8 @@ namespace talvesk {
 /// Onset: the minimum of the Akaike information criterion of the samples around the time, split in
 /// two parts of constant variance (Maeda 1985, "A method for reading and checking phase times in
 /// autoprocessing system of seismic wave data", Zisin 38).
-double snapPick(const std::vector<double>& samples, double interval, double mean, double time,
-                PickSnap snap, double radius);
+double snapPick(Span<double> samples, double interval, double mean, double time, PickSnap snap,
+                double radius);
 
 inline constexpr int kLeastSnapSamples = 8;
 

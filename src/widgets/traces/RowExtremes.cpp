@@ -22,7 +22,7 @@ void take(RowExtremes& row, double value) {
 
 }  // namespace
 
-double sampleBetween(const std::vector<double>& samples, double place) {
+double sampleBetween(Span<double> samples, double place) {
   if (samples.empty() || !(place >= 0.0) || place > static_cast<double>(samples.size() - 1)) {
     return kUnknown;
   }
@@ -34,8 +34,8 @@ double sampleBetween(const std::vector<double>& samples, double place) {
   return std::isfinite(value) ? value : kUnknown;
 }
 
-void rowExtremes(const std::vector<double>& samples, double firstSample, double samplesPerRow,
-                 int rows, std::vector<RowExtremes>& out) {
+void rowExtremes(Span<double> samples, double firstSample, double samplesPerRow, int rows,
+                 std::vector<RowExtremes>& out) {
   out.assign(static_cast<std::size_t>(std::max(rows, 0)), RowExtremes());
   const double last = static_cast<double>(samples.size()) - 1.0;
   double border = sampleBetween(samples, firstSample);

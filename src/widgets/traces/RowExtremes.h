@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Span.h"
+
 #include <vector>
 
 namespace talvesk {
@@ -17,10 +19,10 @@ struct RowExtremes {
 /// however many fall into a row. Samples that are not finite make a gap.
 /// \param firstSample place of the upper side of the first row, in samples (may lie outside)
 /// \param samplesPerRow above 0 \param out resized to `rows`
-void rowExtremes(const std::vector<double>& samples, double firstSample, double samplesPerRow,
-                 int rows, std::vector<RowExtremes>& out);
+void rowExtremes(Span<double> samples, double firstSample, double samplesPerRow, int rows,
+                 std::vector<RowExtremes>& out);
 
 /// The trace between its samples; NaN outside of it and beside samples that are not finite.
-double sampleBetween(const std::vector<double>& samples, double place);
+double sampleBetween(Span<double> samples, double place);
 
 }  // namespace talvesk

@@ -15,12 +15,7 @@ constexpr double kDefaultInterval = 0.001;  // seconds
 constexpr double kLeastEnd = 0.02;          // seconds, of a time axis without samples
 constexpr double kLongestEnd = 1e6;         // seconds; headers may hold any interval
 
-const std::vector<double>& nothing() {
-  static const std::vector<double> empty;
-  return empty;
-}
-
-double meanOf(const std::vector<double>& samples) {
+double meanOf(Span<double> samples) {
   double sum = 0.0;
   std::size_t count = 0;
   for (const double v : samples) {
@@ -32,7 +27,7 @@ double meanOf(const std::vector<double>& samples) {
   return std::isfinite(mean) ? mean : 0.0;
 }
 
-double peakOf(const std::vector<double>& samples, double mean) {
+double peakOf(Span<double> samples, double mean) {
   double peak = 0.0;
   for (const double v : samples) {
     const double deflection = std::fabs(v - mean);
@@ -81,9 +76,9 @@ bool ShotTraces::hasSamples() const {
   return false;
 }
 
-const std::vector<double>& ShotTraces::samples(int trace) const {
+Span<double> ShotTraces::samples(int trace) const {
   const Trace* found = find(trace);
-  if (found == nullptr) return nothing();
+  if (found == nullptr) return {};
   return mShowFiltered && !found->filtered.empty() ? found->filtered : found->samples;
 }
 

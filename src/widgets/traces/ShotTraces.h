@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Span.h"
 #include "model/Trace.h"
 
 #include <cstddef>
@@ -26,9 +27,9 @@ class ShotTraces {
   int count() const { return static_cast<int>(mMean.size()); }
   bool hasSamples() const;
 
-  const std::vector<double>& samples(int trace) const;  ///< as displayed; empty: none
-  double interval(int trace) const;   ///< seconds, above 0; 0.001 where the file gave none
-  double recordEnd(int trace) const;  ///< time of the last sample, seconds
+  Span<double> samples(int trace) const;  ///< as displayed; empty: none
+  double interval(int trace) const;       ///< seconds, above 0; 0.001 where the file gave none
+  double recordEnd(int trace) const;      ///< time of the last sample, seconds
   double mean(int trace) const { return mMean[index(trace)]; }
   double peak(int trace) const { return mPeak[index(trace)]; }  ///< largest |sample - mean|
   double shotPeak() const { return mShotPeak; }                 ///< largest of all traces

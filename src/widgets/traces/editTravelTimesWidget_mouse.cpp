@@ -54,7 +54,7 @@ TraceCursor editTravelTimesWidget::State::cursorFor(int trace, std::optional<dou
   if (std::isfinite(traces.offset(trace))) cursor.offset = traces.offset(trace);
   if (std::isfinite(traces.receiverX(trace))) cursor.distance = traces.receiverX(trace);
   if (time) {
-    const std::vector<double>& samples = traces.samples(trace);
+    const Span<double> samples = traces.samples(trace);
     const double nearest = std::round(*time / traces.interval(trace));
     if (nearest >= 0.0 && nearest < static_cast<double>(samples.size())) {
       cursor.amplitude = samples[static_cast<std::size_t>(nearest)];
