@@ -36,8 +36,9 @@ class Elastic : public ::testing::Test {
     const std::string picks = *folder / (name + ".otte");
     EXPECT_TRUE(writeTravelTimes(picks, testing::standardDippingLine(ground, truth)).ok());
     const std::string path = *folder / (name + ".tvsk");
-    const Outcome outcome = runBatch({"refract", picks, "--propose", "survey", "--project", path,
-                                      "--start-model", "sharp", "--quiet"});
+    const Outcome outcome =
+        runBatch({"refract", picks, "--propose", "survey", "--profile", "reciprocal", "--project",
+                  path, "--start-model", "sharp", "--quiet"});
     EXPECT_EQ(outcome.code, 0) << outcome.err;
     return path;
   }

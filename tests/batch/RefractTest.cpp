@@ -8,6 +8,7 @@
 #include "support/ConsoleCapture.h"
 #include "support/RefractionLines.h"
 
+#include <QDir>
 #include <algorithm>
 #include <cmath>
 
@@ -253,6 +254,7 @@ TEST(Refract, keepsAFittedProfileInProjects) {
   ASSERT_EQ(first.code, 0) << first.err;
   LoadedProject back;
   projectReader reader;
+  ASSERT_TRUE(QDir().mkpath(QString::fromStdString(survey.folder / "work")));
   ASSERT_EQ(reader.load(project, survey.folder / "work/", back), 0) << reader.message();
   EXPECT_TRUE(back.interpretation->refractData.isFitted());
   const auto shots = shotArrivals(back.document);
