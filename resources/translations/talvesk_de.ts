@@ -102,16 +102,27 @@
         <source>How sure the section is stays unknown.</source>
         <translation>Wie zuverlässig der Schnitt ist, bleibt unbekannt.</translation>
     </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Fortsetzen</translation>
+    </message>
     <message numerus="yes">
-        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <source>%n member(s) of this seed are done; Continue goes on with more.</source>
         <translation>
-            <numerusform>Mit %n Mitglied angehalten; „Starten“ setzt dort fort.</numerusform>
-            <numerusform>Mit %n Mitgliedern angehalten; „Starten“ setzt dort fort.</numerusform>
+            <numerusform>%n Mitglied mit diesem Startwert ist fertig; „Fortsetzen“ rechnet weitere.</numerusform>
+            <numerusform>%n Mitglieder mit diesem Startwert sind fertig; „Fortsetzen“ rechnet weitere.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Continue goes on from there.</source>
+        <translation>
+            <numerusform>Mit %n Mitglied angehalten; „Fortsetzen“ macht dort weiter.</numerusform>
+            <numerusform>Mit %n Mitgliedern angehalten; „Fortsetzen“ macht dort weiter.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Stopped before the first member was done; Start goes on.</source>
-        <translation>Angehalten, bevor das erste Mitglied fertig war; „Starten“ setzt fort.</translation>
+        <source>Stopped before the first member was done; Continue goes on.</source>
+        <translation>Angehalten, bevor das erste Mitglied fertig war; „Fortsetzen“ macht weiter.</translation>
     </message>
 </context>
 <context>
@@ -918,6 +929,224 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::ElasticDialog</name>
+    <message>
+        <source>P and S together</source>
+        <translation>P und S gemeinsam</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Wellen:</translation>
+    </message>
+    <message>
+        <source>Which of the two projects is of P waves and which of S waves. The program guesses it from the recordings, else from the velocities.</source>
+        <translation>Welches der beiden Projekte P-Wellen enthält und welches S-Wellen. Das Programm schließt es aus den Aufzeichnungen, sonst aus den Geschwindigkeiten.</translation>
+    </message>
+    <message>
+        <source>Take another project for the other wave</source>
+        <translation>Nimmt ein anderes Projekt für die andere Welle</translation>
+    </message>
+    <message>
+        <source>&amp;Other project ...</source>
+        <translation>&amp;Anderes Projekt ...</translation>
+    </message>
+    <message>
+        <source>Shi&amp;ft S by:</source>
+        <translation>S &amp;verschieben um:</translation>
+    </message>
+    <message>
+        <source>Metres added to distances of S</source>
+        <translation>Meter, die zu Entfernungen von S addiert werden</translation>
+    </message>
+    <message>
+        <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
+        <translation>Was zu den Entfernungen von S, deren Messlinie anderswo beginnt, addiert wird, um die von P zu erhalten</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>&amp;Depths may differ by:</source>
+        <translation>Tiefenunte&amp;rschied bis:</translation>
+    </message>
+    <message>
+        <source>Percent that depths may differ by</source>
+        <translation>Prozent, um die sich Tiefen unterscheiden dürfen</translation>
+    </message>
+    <message>
+        <source>Difference between the depths of a layer by P and by S, as a share of their mean, beyond which both may be different ground: that is marked and said, and nothing is left out</source>
+        <translation>Unterschied der Tiefen einer Schicht aus P und aus S, als Anteil ihres Mittels, über den hinaus beide verschiedener Untergrund sein können: Das wird markiert und gesagt, und nichts wird weggelassen</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>D&amp;ensity:</source>
+        <translation>&amp;Dichte:</translation>
+    </message>
+    <message>
+        <source>A number for each layer, or 310 Vp^0.25 in kg/m3, which Gardner and others (1974) found for rocks faster than 1500 m/s</source>
+        <translation>Eine Zahl für jede Schicht, oder 310 Vp^0,25 in kg/m³, was Gardner und andere (1974) für Gesteine fanden, die schneller als 1500 m/s sind</translation>
+    </message>
+    <message>
+        <source>Of each layer</source>
+        <translation>Für jede Schicht</translation>
+    </message>
+    <message>
+        <source>From Vp, by Gardner&apos;s rule</source>
+        <translation>Aus Vp, nach Gardner</translation>
+    </message>
+    <message>
+        <source>1:</source>
+        <translation>1:</translation>
+    </message>
+    <message>
+        <source>Density of layer 1</source>
+        <translation>Dichte von Schicht 1</translation>
+    </message>
+    <message>
+        <source> kg/m3</source>
+        <translation> kg/m³</translation>
+    </message>
+    <message>
+        <source>2:</source>
+        <translation>2:</translation>
+    </message>
+    <message>
+        <source>Density of layer 2</source>
+        <translation>Dichte von Schicht 2</translation>
+    </message>
+    <message>
+        <source>3:</source>
+        <translation>3:</translation>
+    </message>
+    <message>
+        <source>Density of layer 3</source>
+        <translation>Dichte von Schicht 3</translation>
+    </message>
+    <message>
+        <source>Standard deviations of all that follows from the velocities, by 100 interpretations of picks that are moved by their errors</source>
+        <translation>Standardabweichungen von allem, was aus den Geschwindigkeiten folgt, aus 100 Auswertungen von Picks, die um ihre Fehler verschoben sind</translation>
+    </message>
+    <message>
+        <source>Errors from the pic&amp;ks</source>
+        <translation>&amp;Fehler aus den Picks</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Schicht:</translation>
+    </message>
+    <message>
+        <source>Which layers picture and table show</source>
+        <translation>Welche Schichten Bild und Tabelle zeigen</translation>
+    </message>
+    <message>
+        <source>P and S along the line</source>
+        <translation>P und S entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; moduli of small strains: shear G0, Young&apos;s E0, bulk K, constrained M</source>
+        <translation>Tiefen unter der Oberfläche; Moduln bei kleinen Dehnungen: Schubmodul G0, Elastizitätsmodul E0, Kompressionsmodul K, Steifemodul M</translation>
+    </message>
+    <message>
+        <source>Copy the table as it stands here, for a spreadsheet</source>
+        <translation>Kopiert die Tabelle, wie sie hier steht, für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Tabelle &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Save the table as CSV, in metres, m/s, kg/m3 and MPa</source>
+        <translation>Speichert die Tabelle als CSV, in Metern, m/s, kg/m³ und MPa</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>&amp;Tabelle speichern ...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Speichert die Kurven als PNG, SVG oder PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>&amp;Bild speichern ...</translation>
+    </message>
+    <message>
+        <source>Interpreting moved picks ...</source>
+        <translation>Verschobene Picks werden ausgewertet ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>P: %1, S: %2</source>
+        <translation>P: %1, S: %2</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Schicht %1</translation>
+    </message>
+    <message>
+        <source>Picks of %1 have changed since its layers were built.</source>
+        <translation>Picks von %1 haben sich geändert, seit die Schichten erstellt wurden.</translation>
+    </message>
+    <message>
+        <source>It has no errors.</source>
+        <translation>Dafür gibt es keine Fehler.</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Schicht</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Entfernung [m]</translation>
+    </message>
+    <message>
+        <source>Depth by P [m]</source>
+        <translation>Tiefe aus P [m]</translation>
+    </message>
+    <message>
+        <source>Depth by S [m]</source>
+        <translation>Tiefe aus S [m]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ: it may be different ground.</source>
+        <translation>Die Tiefen aus P und S unterscheiden sich: Es kann verschiedener Untergrund sein.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ErrorBands</name>
+    <message>
+        <source>&amp;Error bands</source>
+        <translation>&amp;Fehlerbänder</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>How far depths and velocities scatter as picks are moved by their errors, over %1 interpretations</source>
+        <translation>Wie weit Tiefen und Geschwindigkeiten streuen, wenn Picks um ihre Fehler verschoben werden, aus %1 Auswertungen</translation>
+    </message>
+    <message>
+        <source>No errors could be found: the profile is not that of the picks and marks. Build it again.</source>
+        <translation>Es ließen sich keine Fehler bestimmen: Das Profil ist nicht das der Picks und Zuordnungen. Erstellen Sie es neu.</translation>
+    </message>
+    <message>
+        <source>Bands: 68 of %1 interpretations of picks that were moved by their errors</source>
+        <translation>Bänder: 68 von %1 Auswertungen von Picks, die um ihre Fehler verschoben wurden</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ExportTomoVelData</name>
     <message>
         <source>Set optional shift parameter before export</source>
@@ -1389,6 +1618,130 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Fixed bodies</source>
         <translation>Feste Körper</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Vp/Vs</source>
+        <translation>Vp/Vs</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>Poissonzahl</translation>
+    </message>
+    <message>
+        <source>G0, E0 [MPa]</source>
+        <translation>G0, E0 [MPa]</translation>
+    </message>
+    <message>
+        <source>K, M [MPa]</source>
+        <translation>K, M [MPa]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ</source>
+        <translation>Tiefen aus P und S unterscheiden sich</translation>
+    </message>
+    <message>
+        <source>No ground: Vp/Vs below 1.41</source>
+        <translation>Kein Untergrund: Vp/Vs unter 1,41</translation>
+    </message>
+    <message>
+        <source>Bars: one standard deviation, of the picks</source>
+        <translation>Balken: eine Standardabweichung, aus den Picks</translation>
+    </message>
+    <message>
+        <source>Vp</source>
+        <translation>Vp</translation>
+    </message>
+    <message>
+        <source>Vs</source>
+        <translation>Vs</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Dichte</translation>
+    </message>
+    <message>
+        <source>G0</source>
+        <translation>G0</translation>
+    </message>
+    <message>
+        <source>E0</source>
+        <translation>E0</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>kg/m3</source>
+        <translation>kg/m³</translation>
+    </message>
+    <message>
+        <source>MPa</source>
+        <translation>MPa</translation>
+    </message>
+    <message>
+        <source>Density from Vp by Gardner&apos;s rule</source>
+        <translation>Dichte aus Vp nach Gardner</translation>
+    </message>
+    <message>
+        <source>Density %1 kg/m3</source>
+        <translation>Dichte %1 kg/m³</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Schicht %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 ± %3 m/s</source>
+        <translation>Schicht %1, %2 ± %3 m/s</translation>
+    </message>
+    <message>
+        <source>Dashed: not carried by picks there</source>
+        <translation>Gestrichelt: dort nicht durch Picks belegt</translation>
+    </message>
+    <message>
+        <source>Error of the picks (68 of 100)</source>
+        <translation>Fehler aus den Picks (68 von 100)</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Tiefe [m]</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface</source>
+        <translation>Tiefen unter der Oberfläche</translation>
+    </message>
+    <message>
+        <source>dashed: not carried by picks there</source>
+        <translation>gestrichelt: dort nicht durch Picks belegt</translation>
+    </message>
+    <message>
+        <source>hollow marks: layer 3</source>
+        <translation>hohle Symbole: Schicht 3</translation>
+    </message>
+    <message>
+        <source>shaded: 68 of 100 results of moved picks</source>
+        <translation>schattiert: 68 von 100 Ergebnissen verschobener Picks</translation>
+    </message>
+    <message>
+        <source>dashed: times through the layers</source>
+        <translation>gestrichelt: Zeiten durch die Schichten</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Schichten</translation>
     </message>
 </context>
 <context>
@@ -2267,6 +2620,129 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>computed: %1 ms</source>
         <translation>berechnet: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LayerMethodsDialog</name>
+    <message>
+        <source>Compare methods</source>
+        <translation>Methoden vergleichen</translation>
+    </message>
+    <message>
+        <source>I&amp;nterpretations for error bands:</source>
+        <translation>Auswertungen für &amp;Fehlerbänder:</translation>
+    </message>
+    <message>
+        <source>The layers are interpreted as often again, by picks that are moved by their errors. How far the results scatter is the error of depth and velocity, and tells whether methods disagree by more than that.</source>
+        <translation>So oft werden die Schichten noch einmal ausgewertet, mit Picks, die um ihre Fehler verschoben sind. Wie weit die Ergebnisse streuen, ist der Fehler von Tiefe und Geschwindigkeit und sagt, ob Methoden um mehr als das voneinander abweichen.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Starten</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>&amp;Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Medians by method</source>
+        <translation>Mediane nach Methode</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Schicht</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Median velocity
+[m/s]</source>
+        <translation>Median der
+Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Median depth
+[m]</source>
+        <translation>Median der
+Tiefe [m]</translation>
+    </message>
+    <message>
+        <source>Geophones
+with a depth</source>
+        <translation>Geophone
+mit Tiefe</translation>
+    </message>
+    <message>
+        <source>Of these not
+carried by picks</source>
+        <translation>Davon nicht
+durch Picks belegt</translation>
+    </message>
+    <message>
+        <source>How far methods agree, and their remarks</source>
+        <translation>Wie weit die Methoden übereinstimmen, und ihre Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Layer &amp;2</source>
+        <translation>Schicht &amp;2</translation>
+    </message>
+    <message>
+        <source>Layer 2 by method</source>
+        <translation>Schicht 2 nach Methode</translation>
+    </message>
+    <message>
+        <source>Layer &amp;3</source>
+        <translation>Schicht &amp;3</translation>
+    </message>
+    <message>
+        <source>Layer 3 by method</source>
+        <translation>Schicht 3 nach Methode</translation>
+    </message>
+    <message>
+        <source>Save the picture as PNG, SVG or PDF</source>
+        <translation>Speichert das Bild als PNG, SVG oder PDF</translation>
+    </message>
+    <message>
+        <source>Save p&amp;icture ...</source>
+        <translation>B&amp;ild speichern ...</translation>
+    </message>
+    <message>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
+        <translation>Speichert Tiefen und Geschwindigkeiten aller Schichten und Methoden an den Geophonen als CSV</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>&amp;Tabelle speichern ...</translation>
+    </message>
+    <message>
+        <source>Copy the same table for a spreadsheet</source>
+        <translation>Kopiert dieselbe Tabelle für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Tabelle &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Layers are being interpreted...</source>
+        <translation>Schichten werden ausgewertet...</translation>
+    </message>
+    <message>
+        <source>Stopped: no error bands.</source>
+        <translation>Angehalten: keine Fehlerbänder.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>no pick is assigned to a refractor.</source>
+        <translation>kein Pick ist einem Refraktor zugeordnet.</translation>
     </message>
 </context>
 <context>
@@ -7172,6 +7648,25 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
         <translation>%1 m: tV um %2 ms rau, Geschwindigkeit um %3 % ungleichmäßig</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::RefractionProfilePlot</name>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Schicht %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Schicht %1</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
     </message>
 </context>
 <context>
