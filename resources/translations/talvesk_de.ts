@@ -3303,10 +3303,6 @@ durch Picks belegt</translation>
         <translation>Es bleibt keine Schicht übrig: Die Endtiefe einer Schicht muss größer sein als ihre Anfangstiefe, und diese darf nicht negativ sein.</translation>
     </message>
     <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation>Die Schichten ergeben kein Geschwindigkeitsmodell. Ordnen Sie sie nach der Tiefe, ohne Überlappung, jede mehr als 0,02 m mächtig. %1</translation>
-    </message>
-    <message>
         <source>The grid of the layered model could not be built.</source>
         <translation>Das Gitter des Schichtmodells konnte nicht erstellt werden.</translation>
     </message>
@@ -6447,14 +6443,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>drei Schichten passen besser, aber es gibt nicht an jedem Ende der Messlinie einen Schuss mit Picks der mittleren Schicht: vorgeschlagen werden zwei Schichten</translation>
     </message>
     <message>
-        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>Schuss %1, rechts davon: Schicht %2 beruht auf weniger als vier Picks (%3)</translation>
-    </message>
-    <message>
-        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>Schuss %1, links davon: Schicht %2 beruht auf weniger als vier Picks (%3)</translation>
-    </message>
-    <message>
         <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
         <translation>%1 Picks passen zu keiner Schicht und bleiben ohne (Schuss/Spur): %2</translation>
     </message>
@@ -6625,6 +6613,250 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Section, %1 m/s</source>
         <translation>Schnitt, %1 m/s</translation>
+    </message>
+    <message>
+        <source>The methods could not be compared: %1</source>
+        <translation>Die Methoden konnten nicht verglichen werden: %1</translation>
+    </message>
+    <message>
+        <source>P and S have no velocity in common to draw.</source>
+        <translation>P und S haben keine gemeinsame Stelle mit Geschwindigkeiten, die gezeichnet werden könnten.</translation>
+    </message>
+    <message>
+        <source>No method gives a depth.</source>
+        <translation>Keine Methode ergibt eine Tiefe.</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
+        <translation>Die Schichten ergeben kein Geschwindigkeitsmodell. Ordnen Sie sie nach der Tiefe, ohne Überlappung, jede mehr als 0,02 m mächtig.</translation>
+    </message>
+    <message>
+        <source>this is no file with the members of an ensemble</source>
+        <translation>dies ist keine Datei mit den Mitgliedern eines Ensembles</translation>
+    </message>
+    <message>
+        <source>its members cannot be read: the file is damaged</source>
+        <translation>die Mitglieder darin sind nicht lesbar: die Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>its members are those of another ensemble: another survey or section, other settings or another seed</source>
+        <translation>die Mitglieder darin sind die eines anderen Ensembles: eine andere Messung, ein anderer Schnitt, andere Einstellungen oder ein anderer Startwert</translation>
+    </message>
+    <message>
+        <source>its member %1 is done already, others are not; only sets of members that share none can be put together</source>
+        <translation>das Mitglied %1 darin ist schon fertig, andere sind es nicht; zusammenfügen lassen sich nur Sätze ohne gemeinsame Mitglieder</translation>
+    </message>
+    <message>
+        <source>its members cannot be those of this ensemble</source>
+        <translation>die Mitglieder darin können nicht die dieses Ensembles sein</translation>
+    </message>
+    <message>
+        <source>the first layer of its layered profile has one velocity</source>
+        <translation>die erste Schicht des Schichtprofils hat nur eine Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>such a first layer cannot be</source>
+        <translation>eine solche erste Schicht ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>it belongs to another layered profile</source>
+        <translation>sie gehört zu einem anderen Schichtprofil</translation>
+    </message>
+    <message>
+        <source>Layer %1, medians of %2 places: %3; %4</source>
+        <translation>Schicht %1, Mediane von %2 Stellen: %3; %4</translation>
+    </message>
+    <message>
+        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poissonzahl %4</translation>
+    </message>
+    <message>
+        <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
+        <translation>Dichte %1 kg/m³, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Schicht %1: an %2 von %3 Stellen unterscheiden sich die Tiefen ihrer Oberkante aus P und aus S um mehr als %4 % (Median dort %5 m aus P, %6 m aus S). P-Wellen sehen oft den Grundwasserspiegel, S-Wellen nicht: Dieselbe Nummer kann verschiedener Untergrund sein.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
+        <translation>Schicht %1: an %2 von %3 Stellen ist eine Geschwindigkeit nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there. Are P and S exchanged, or is S a P wave?</source>
+        <translation>Schicht %1: an %2 von %3 Stellen ist S nicht langsamer als P, was es in keinem Untergrund gibt: dort keine Poissonzahl, kein E0 und kein K. Sind P und S vertauscht, oder ist S eine P-Welle?</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
+        <translation>Schicht %1: an %2 von %3 Stellen liegt Vp/Vs unter 1,41 und ist die Poissonzahl negativ, was es bei Boden und Fels nicht gibt: Die Geschwindigkeiten stammen aus verschiedenem Untergrund oder sind falsch.</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
+        <translation>Die Gardner-Beziehung wurde für Gesteine gefunden, die schneller als 1500 m/s sind; an %1 von %2 Stellen ist Vp kleiner und die Dichte eine Vermutung.</translation>
+    </message>
+    <message>
+        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
+        <translation>Die Geländeoberflächen von P und S liegen bis zu %1 m auseinander, bei %2 m: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
+    </message>
+    <message>
+        <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
+        <translation>Nach den Aufzeichnungen enthält das P-Projekt S-Wellen und das S-Projekt nicht: Sie sind vielleicht vertauscht.</translation>
+    </message>
+    <message>
+        <source>The recordings of both projects are of S waves.</source>
+        <translation>Die Aufzeichnungen beider Projekte sind solche von S-Wellen.</translation>
+    </message>
+    <message>
+        <source>The places of P and S on the map are given in different systems (EPSG:%1 and EPSG:%2) and were not compared.</source>
+        <translation>Die Lage von P und S auf der Karte ist in verschiedenen Systemen angegeben (EPSG:%1 und EPSG:%2) und wurde nicht verglichen.</translation>
+    </message>
+    <message>
+        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Dieselben Entfernungen von P und S liegen auf der Karte bis zu %1 m auseinander: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
+    </message>
+    <message>
+        <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Das P-Projekt hat kein Schichtprofil: Erstellen Sie zuerst seine Profile im Refraktionsdialog.</translation>
+    </message>
+    <message>
+        <source>The project of S has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Das S-Projekt hat kein Schichtprofil: Erstellen Sie zuerst seine Profile im Refraktionsdialog.</translation>
+    </message>
+    <message>
+        <source>P and S have no place in common: P was interpreted from %1, S from %2 along the line.</source>
+        <translation>P und S haben keine Stelle gemeinsam: P wurde entlang der Messlinie von %1 ausgewertet, S von %2.</translation>
+    </message>
+    <message>
+        <source>Layer %1: P and S have no place in common.</source>
+        <translation>Schicht %1: P und S haben keine Stelle gemeinsam.</translation>
+    </message>
+    <message>
+        <source>P has %1 layers and S has %2; what lies below layer %3 is known of one wave only and left out.</source>
+        <translation>P hat %1 Schichten und S hat %2; was unter Schicht %3 liegt, ist nur von einer Welle bekannt und wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>the curves of layer %1 follow the lines of shots %2 and %3, which give %4 and %5 ms for the way between these shots</source>
+        <translation>die Kurven von Schicht %1 folgen den Linien der Schüsse %2 und %3, die für den Weg zwischen diesen Schüssen %4 und %5 ms ergeben</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
+        <translation>das Profil passt nur auf %1 ms zu seinen Picks, die Wellen des Vorschlags auf %2 ms: es weicht ab Schuss %3 bei %4 m ab</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
+        <translation>das Profil passt nur auf %1 ms zu seinen Picks, die Wellen des Vorschlags auf %2 ms: am stärksten weicht es bei Schuss %3 bei %4 m ab</translation>
+    </message>
+    <message>
+        <source>the delays of the waves change so fast along the line that no boundary has them all</source>
+        <translation>die Verzögerungen der Wellen ändern sich entlang der Messlinie so schnell, dass keine Schichtgrenze sie alle ergibt</translation>
+    </message>
+    <message>
+        <source>reciprocal</source>
+        <translation>Reziprokmethode</translation>
+    </message>
+    <message>
+        <source>delay times</source>
+        <translation>Verzögerungszeiten</translation>
+    </message>
+    <message>
+        <source>intercept times</source>
+        <translation>Interceptzeiten</translation>
+    </message>
+    <message>
+        <source>plus-minus</source>
+        <translation>Plus-Minus</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
+        <translation>Schicht %1: die Tiefen liegen bei %2 m am weitesten auseinander, von %3 m (%4) bis %5 m (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
+        <translation>Schicht %1: die Geschwindigkeiten liegen bei %2 m am weitesten auseinander, von %3 m/s (%4) bis %5 m/s (%6)</translation>
+    </message>
+    <message>
+        <source>to the right of shot %1</source>
+        <translation>rechts von Schuss %1</translation>
+    </message>
+    <message>
+        <source>to the right of shots %1</source>
+        <translation>rechts der Schüsse %1</translation>
+    </message>
+    <message>
+        <source>to the left of shot %1</source>
+        <translation>links von Schuss %1</translation>
+    </message>
+    <message>
+        <source>to the left of shots %1</source>
+        <translation>links der Schüsse %1</translation>
+    </message>
+    <message>
+        <source>layer %1 rests on fewer than four picks (their number in brackets) %2</source>
+        <translation>Schicht %1 beruht auf weniger als vier Picks (Anzahl in Klammern) %2</translation>
+    </message>
+    <message>
+        <source>1 pick fits no layer and is given to none (shot/trace): %1</source>
+        <translation>1 Pick passt zu keiner Schicht und bleibt ohne (Schuss/Spur): %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robust</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>nicht robust</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>blockig</translation>
+    </message>
+    <message>
+        <source>smooth</source>
+        <translation>glatt</translation>
+    </message>
+    <message>
+        <source>shots shifted</source>
+        <translation>Schüsse verschoben</translation>
+    </message>
+    <message>
+        <source>no shot shifted</source>
+        <translation>kein Schuss verschoben</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 cells of P lie where the section of S shows none.</source>
+        <translation>%1 der %2 Zellen von P liegen, wo der Schnitt von S keine zeigt.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there.</source>
+        <translation>In %1 von %2 Zellen ist S nicht langsamer als P, was es in keinem Untergrund gibt: dort keine Poissonzahl, kein E0 und kein K.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not.</source>
+        <translation>In %1 von %2 Zellen liegt Vp/Vs unter 1,41 und ist die Poissonzahl negativ, was es bei Boden und Fels nicht gibt.</translation>
+    </message>
+    <message>
+        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
+        <translation>Die Geländeoberflächen der Schnitte von P und S liegen bis zu %1 m auseinander, bei %2 m; Zellen werden nach ihrer Tiefe darunter einander zugeordnet.</translation>
+    </message>
+    <message>
+        <source>A section has no layers: all of it has the first density.</source>
+        <translation>Ein Schnitt hat keine Schichten: Er hat überall die erste Dichte.</translation>
+    </message>
+    <message>
+        <source>The project of P has no section.</source>
+        <translation>Das P-Projekt hat keinen Schnitt.</translation>
+    </message>
+    <message>
+        <source>The project of S has no section.</source>
+        <translation>Das S-Projekt hat keinen Schnitt.</translation>
+    </message>
+    <message>
+        <source>The sections of P and S have no cell in common.</source>
+        <translation>Die Schnitte von P und S haben keine Zelle gemeinsam.</translation>
     </message>
 </context>
 <context>
