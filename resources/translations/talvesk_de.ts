@@ -7078,6 +7078,57 @@ Bitte legen Sie die Positionen der Geophone fest
     </message>
 </context>
 <context>
+    <name>talvesk::ProfileTable</name>
+    <message>
+        <source>picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>Phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>Lücke</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>Fortsetzung</translation>
+    </message>
+    <message>
+        <source>Picks of the shots at both ends of the line carry it.</source>
+        <translation>Picks der Schüsse an beiden Enden der Messlinie belegen den Wert.</translation>
+    </message>
+    <message>
+        <source>Shifted arrivals of other shots carry it.</source>
+        <translation>Verschobene Einsätze anderer Schüsse belegen den Wert.</translation>
+    </message>
+    <message>
+        <source>It lies across more than two spacings without arrivals.</source>
+        <translation>Der Wert liegt in einer Lücke von mehr als zwei Geophonabständen ohne Einsätze.</translation>
+    </message>
+    <message>
+        <source>It continues what lies beside it, beyond the last arrivals.</source>
+        <translation>Der Wert setzt jenseits der letzten Einsätze fort, was daneben liegt.</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Depth %1 (m)</source>
+        <translation>Tiefe %1 (m)</translation>
+    </message>
+    <message>
+        <source>V %1 (m/s)</source>
+        <translation>V %1 (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Tiefe %1 aus</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ReadingPanel</name>
     <message>
         <source>Format:</source>
@@ -7881,36 +7932,29 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
         <translation>%1 m: tV um %2 ms rau, Geschwindigkeit um %3 % ungleichmäßig</translation>
     </message>
+    <message>
+        <source>Depths and velocities</source>
+        <translation>Tiefen und Geschwindigkeiten</translation>
+    </message>
+    <message>
+        <source>Compare &amp;methods ...</source>
+        <translation>&amp;Methoden vergleichen ...</translation>
+    </message>
+    <message>
+        <source>Layers from the marks by other methods beside the reciprocal one: delay times, intercept times and plus-minus</source>
+        <translation>Schichten aus den Zuordnungen nach anderen Methoden neben der Reziprokmethode: Verzögerungszeiten, Interceptzeiten und Plus-Minus</translation>
+    </message>
+    <message>
+        <source>There is no profile yet.</source>
+        <translation>Es gibt noch kein Profil.</translation>
+    </message>
+    <message>
+        <source>Picks or marks have changed: build the profiles again.</source>
+        <translation>Picks oder Zuordnungen haben sich geändert: Erstellen Sie die Profile neu.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
-    <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Schicht %1, %2 m/s</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Schicht %1</translation>
-    </message>
-    <message>
-        <source>Geophones</source>
-        <translation>Geophone</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Schüsse</translation>
-    </message>
-</context>
-<context>
-    <name>talvesk::RefractionProfilePlot</name>
-    <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Schicht %1, %2 m/s</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Schicht %1</translation>
-    </message>
     <message>
         <source>Geophones</source>
         <translation>Geophone</translation>
@@ -8820,6 +8864,58 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Residuals of the picks, shot by geophone</source>
         <translation>Residuen der Picks, Schüsse gegen Geophone</translation>
+    </message>
+    <message>
+        <source>Layer %1 [ms]</source>
+        <translation>Schicht %1 [ms]</translation>
+    </message>
+    <message>
+        <source>No misfit of the layers is told: they have no depth, or were built from other picks or marks than those of now.</source>
+        <translation>Für die Schichten ist keine Abweichung angegeben: Sie haben keine Tiefe oder wurden aus anderen Picks oder Zuordnungen als den jetzigen erstellt.</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers differ from the picks by %1 ms (RMS of %2 picks; mean of picks less computed times %3 ms; chi-square %4).</source>
+        <translation>Durch die Schichten berechnete Zeiten weichen von den Picks um %1 ms ab (RMS von %2 Picks; Mittel der Picks minus berechnete Zeiten %3 ms; Chi-Quadrat %4).</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the layers, by shot (number of picks)</source>
+        <translation>RMS-Abweichung der Schichten, je Schuss (Anzahl der Picks)</translation>
+    </message>
+    <message>
+        <source>Depth of refractors by method</source>
+        <translation>Tiefe der Refraktoren nach Methode</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>Phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>Lücke</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>Fortsetzung</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Tiefe %1 aus</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, is not carried by picks of the shots at both ends there: but by shifted arrivals of other shots (phantom), across more than two spacings without arrivals (gap), or by a continuation beyond the last ones.</source>
+        <translation>Ein Wert in Klammern und eine gestrichelte Linie sind dort nicht durch Picks der Schüsse an beiden Enden belegt, sondern durch verschobene Einsätze anderer Schüsse (Phantom), über mehr als zwei Geophonabstände ohne Einsätze hinweg (Lücke) oder durch eine Fortsetzung jenseits der letzten Einsätze.</translation>
+    </message>
+    <message>
+        <source>Errors, and the bands round the lines, are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations.</source>
+        <translation>Fehler und die Bänder um die Linien sind die halbe Breite, in der 68 von 100 Ergebnissen liegen, wenn Picks um ihre Fehler verschoben werden, aus %1 solchen Auswertungen.</translation>
+    </message>
+    <message>
+        <source>Median velocity of refractor %1</source>
+        <translation>Median der Geschwindigkeit von Refraktor %1</translation>
     </message>
 </context>
 <context>
@@ -11982,6 +12078,58 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Table (*.csv)</source>
         <translation>Tabelle (*.csv)</translation>
     </message>
+    <message>
+        <source>P and S together ...</source>
+        <translation>P und S gemeinsam ...</translation>
+    </message>
+    <message>
+        <source>Put the layers of this survey and those of a project of the other wave together: Vp/Vs, Poisson&apos;s ratio and moduli along the line</source>
+        <translation>Führt die Schichten dieser Messung und die eines Projekts der anderen Welle zusammen: Vp/Vs, Poissonzahl und Moduln entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>There are no times through the layers: build the profiles anew.</source>
+        <translation>Es gibt keine Zeiten durch die Schichten: Erstellen Sie die Profile neu.</translation>
+    </message>
+    <message>
+        <source>Project of the other wave</source>
+        <translation>Projekt der anderen Welle</translation>
+    </message>
+    <message>
+        <source>This is the project that is open.</source>
+        <translation>Dies ist das geöffnete Projekt.</translation>
+    </message>
+    <message>
+        <source>Choose the project of the other wave, P or S, along the same line.</source>
+        <translation>Wählen Sie das Projekt der anderen Welle, P oder S, entlang derselben Messlinie.</translation>
+    </message>
+    <message>
+        <source>%1 has no layered profile.</source>
+        <translation>%1 hat kein Schichtprofil.</translation>
+    </message>
+    <message>
+        <source>Open it, build its profiles in the refraction dialog, and save it.</source>
+        <translation>Öffnen Sie das Projekt, erstellen Sie seine Profile im Refraktionsdialog, und speichern Sie es.</translation>
+    </message>
+    <message>
+        <source>this survey</source>
+        <translation>diese Messung</translation>
+    </message>
+    <message>
+        <source>Save picture of P and S</source>
+        <translation>Bild von P und S speichern</translation>
+    </message>
+    <message>
+        <source>Save table of P and S</source>
+        <translation>Tabelle von P und S speichern</translation>
+    </message>
+    <message>
+        <source>Save picture of layers by method</source>
+        <translation>Bild der Schichten nach Methode speichern</translation>
+    </message>
+    <message>
+        <source>Save table of layers by method</source>
+        <translation>Tabelle der Schichten nach Methode speichern</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -12135,6 +12283,73 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Error: %1 ms</source>
         <translation>Fehler: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>&amp;Schichten</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers of the refraction interpretation</source>
+        <translation>Zeiten, durch die Schichten der Refraktionsauswertung berechnet</translation>
+    </message>
+    <message>
+        <source>There are no layers of these picks: build the profiles of the refraction interpretation (anew).</source>
+        <translation>Es gibt keine Schichten aus diesen Picks: Erstellen Sie die Profile der Refraktionsauswertung (neu).</translation>
+    </message>
+    <message>
+        <source>Layers: %1 ms</source>
+        <translation>Schichten: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::XYCriteria</name>
+    <message>
+        <source>XY (m)</source>
+        <translation>XY (m)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV</source>
+        <translation>Rauheit von tV</translation>
+    </message>
+    <message>
+        <source>RMS (ms)</source>
+        <translation>RMS (ms)</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity</source>
+        <translation>Ungleichmäßigkeit der Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>RMS (%)</source>
+        <translation>RMS (%)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV against XY</source>
+        <translation>Rauheit von tV über XY</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity against XY</source>
+        <translation>Ungleichmäßigkeit der Geschwindigkeit über XY</translation>
+    </message>
+    <message>
+        <source>Click to choose it</source>
+        <translation>Klicken, um es zu wählen</translation>
+    </message>
+    <message>
+        <source>No XY can be judged: forward and reverse curve have too few geophones in common.</source>
+        <translation>Kein XY lässt sich beurteilen: Hin- und Gegenkurve haben zu wenige Geophone gemeinsam.</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet.</source>
+        <translation>Noch nichts erstellt.</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
+    </message>
+    <message>
+        <source>proposed</source>
+        <translation>vorgeschlagen</translation>
     </message>
 </context>
 <context>
