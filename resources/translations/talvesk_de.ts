@@ -102,16 +102,27 @@
         <source>How sure the section is stays unknown.</source>
         <translation>Wie zuverlässig der Schnitt ist, bleibt unbekannt.</translation>
     </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Fortsetzen</translation>
+    </message>
     <message numerus="yes">
-        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <source>%n member(s) of this seed are done; Continue goes on with more.</source>
         <translation>
-            <numerusform>Mit %n Mitglied angehalten; „Starten“ setzt dort fort.</numerusform>
-            <numerusform>Mit %n Mitgliedern angehalten; „Starten“ setzt dort fort.</numerusform>
+            <numerusform>%n Mitglied mit diesem Startwert ist fertig; „Fortsetzen“ rechnet weitere.</numerusform>
+            <numerusform>%n Mitglieder mit diesem Startwert sind fertig; „Fortsetzen“ rechnet weitere.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Continue goes on from there.</source>
+        <translation>
+            <numerusform>Mit %n Mitglied angehalten; „Fortsetzen“ macht dort weiter.</numerusform>
+            <numerusform>Mit %n Mitgliedern angehalten; „Fortsetzen“ macht dort weiter.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Stopped before the first member was done; Start goes on.</source>
-        <translation>Angehalten, bevor das erste Mitglied fertig war; „Starten“ setzt fort.</translation>
+        <source>Stopped before the first member was done; Continue goes on.</source>
+        <translation>Angehalten, bevor das erste Mitglied fertig war; „Fortsetzen“ macht weiter.</translation>
     </message>
 </context>
 <context>
@@ -918,6 +929,224 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::ElasticDialog</name>
+    <message>
+        <source>P and S together</source>
+        <translation>P und S gemeinsam</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Wellen:</translation>
+    </message>
+    <message>
+        <source>Which of the two projects is of P waves and which of S waves. The program guesses it from the recordings, else from the velocities.</source>
+        <translation>Welches der beiden Projekte P-Wellen enthält und welches S-Wellen. Das Programm schließt es aus den Aufzeichnungen, sonst aus den Geschwindigkeiten.</translation>
+    </message>
+    <message>
+        <source>Take another project for the other wave</source>
+        <translation>Nimmt ein anderes Projekt für die andere Welle</translation>
+    </message>
+    <message>
+        <source>&amp;Other project ...</source>
+        <translation>&amp;Anderes Projekt ...</translation>
+    </message>
+    <message>
+        <source>Shi&amp;ft S by:</source>
+        <translation>S &amp;verschieben um:</translation>
+    </message>
+    <message>
+        <source>Metres added to distances of S</source>
+        <translation>Meter, die zu Entfernungen von S addiert werden</translation>
+    </message>
+    <message>
+        <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
+        <translation>Was zu den Entfernungen von S, deren Messlinie anderswo beginnt, addiert wird, um die von P zu erhalten</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>&amp;Depths may differ by:</source>
+        <translation>Tiefenunte&amp;rschied bis:</translation>
+    </message>
+    <message>
+        <source>Percent that depths may differ by</source>
+        <translation>Prozent, um die sich Tiefen unterscheiden dürfen</translation>
+    </message>
+    <message>
+        <source>Difference between the depths of a layer by P and by S, as a share of their mean, beyond which both may be different ground: that is marked and said, and nothing is left out</source>
+        <translation>Unterschied der Tiefen einer Schicht aus P und aus S, als Anteil ihres Mittels, über den hinaus beide verschiedener Untergrund sein können: Das wird markiert und gesagt, und nichts wird weggelassen</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>D&amp;ensity:</source>
+        <translation>&amp;Dichte:</translation>
+    </message>
+    <message>
+        <source>A number for each layer, or 310 Vp^0.25 in kg/m3, which Gardner and others (1974) found for rocks faster than 1500 m/s</source>
+        <translation>Eine Zahl für jede Schicht, oder 310 Vp^0,25 in kg/m³, was Gardner und andere (1974) für Gesteine fanden, die schneller als 1500 m/s sind</translation>
+    </message>
+    <message>
+        <source>Of each layer</source>
+        <translation>Für jede Schicht</translation>
+    </message>
+    <message>
+        <source>From Vp, by Gardner&apos;s rule</source>
+        <translation>Aus Vp, nach Gardner</translation>
+    </message>
+    <message>
+        <source>1:</source>
+        <translation>1:</translation>
+    </message>
+    <message>
+        <source>Density of layer 1</source>
+        <translation>Dichte von Schicht 1</translation>
+    </message>
+    <message>
+        <source> kg/m3</source>
+        <translation> kg/m³</translation>
+    </message>
+    <message>
+        <source>2:</source>
+        <translation>2:</translation>
+    </message>
+    <message>
+        <source>Density of layer 2</source>
+        <translation>Dichte von Schicht 2</translation>
+    </message>
+    <message>
+        <source>3:</source>
+        <translation>3:</translation>
+    </message>
+    <message>
+        <source>Density of layer 3</source>
+        <translation>Dichte von Schicht 3</translation>
+    </message>
+    <message>
+        <source>Standard deviations of all that follows from the velocities, by 100 interpretations of picks that are moved by their errors</source>
+        <translation>Standardabweichungen von allem, was aus den Geschwindigkeiten folgt, aus 100 Auswertungen von Picks, die um ihre Fehler verschoben sind</translation>
+    </message>
+    <message>
+        <source>Errors from the pic&amp;ks</source>
+        <translation>&amp;Fehler aus den Picks</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Schicht:</translation>
+    </message>
+    <message>
+        <source>Which layers picture and table show</source>
+        <translation>Welche Schichten Bild und Tabelle zeigen</translation>
+    </message>
+    <message>
+        <source>P and S along the line</source>
+        <translation>P und S entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; moduli of small strains: shear G0, Young&apos;s E0, bulk K, constrained M</source>
+        <translation>Tiefen unter der Oberfläche; Moduln bei kleinen Dehnungen: Schubmodul G0, Elastizitätsmodul E0, Kompressionsmodul K, Steifemodul M</translation>
+    </message>
+    <message>
+        <source>Copy the table as it stands here, for a spreadsheet</source>
+        <translation>Kopiert die Tabelle, wie sie hier steht, für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Tabelle &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Save the table as CSV, in metres, m/s, kg/m3 and MPa</source>
+        <translation>Speichert die Tabelle als CSV, in Metern, m/s, kg/m³ und MPa</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>&amp;Tabelle speichern ...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Speichert die Kurven als PNG, SVG oder PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>&amp;Bild speichern ...</translation>
+    </message>
+    <message>
+        <source>Interpreting moved picks ...</source>
+        <translation>Verschobene Picks werden ausgewertet ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>P: %1, S: %2</source>
+        <translation>P: %1, S: %2</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Schicht %1</translation>
+    </message>
+    <message>
+        <source>Picks of %1 have changed since its layers were built.</source>
+        <translation>Picks von %1 haben sich geändert, seit die Schichten erstellt wurden.</translation>
+    </message>
+    <message>
+        <source>It has no errors.</source>
+        <translation>Dafür gibt es keine Fehler.</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Schicht</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Entfernung [m]</translation>
+    </message>
+    <message>
+        <source>Depth by P [m]</source>
+        <translation>Tiefe aus P [m]</translation>
+    </message>
+    <message>
+        <source>Depth by S [m]</source>
+        <translation>Tiefe aus S [m]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ: it may be different ground.</source>
+        <translation>Die Tiefen aus P und S unterscheiden sich: Es kann verschiedener Untergrund sein.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ErrorBands</name>
+    <message>
+        <source>&amp;Error bands</source>
+        <translation>&amp;Fehlerbänder</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>How far depths and velocities scatter as picks are moved by their errors, over %1 interpretations</source>
+        <translation>Wie weit Tiefen und Geschwindigkeiten streuen, wenn Picks um ihre Fehler verschoben werden, aus %1 Auswertungen</translation>
+    </message>
+    <message>
+        <source>No errors could be found: the profile is not that of the picks and marks. Build it again.</source>
+        <translation>Es ließen sich keine Fehler bestimmen: Das Profil ist nicht das der Picks und Zuordnungen. Erstellen Sie es neu.</translation>
+    </message>
+    <message>
+        <source>Bands: 68 of %1 interpretations of picks that were moved by their errors</source>
+        <translation>Bänder: 68 von %1 Auswertungen von Picks, die um ihre Fehler verschoben wurden</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ExportTomoVelData</name>
     <message>
         <source>Set optional shift parameter before export</source>
@@ -1389,6 +1618,130 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Fixed bodies</source>
         <translation>Feste Körper</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Vp/Vs</source>
+        <translation>Vp/Vs</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>Poissonzahl</translation>
+    </message>
+    <message>
+        <source>G0, E0 [MPa]</source>
+        <translation>G0, E0 [MPa]</translation>
+    </message>
+    <message>
+        <source>K, M [MPa]</source>
+        <translation>K, M [MPa]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ</source>
+        <translation>Tiefen aus P und S unterscheiden sich</translation>
+    </message>
+    <message>
+        <source>No ground: Vp/Vs below 1.41</source>
+        <translation>Kein Untergrund: Vp/Vs unter 1,41</translation>
+    </message>
+    <message>
+        <source>Bars: one standard deviation, of the picks</source>
+        <translation>Balken: eine Standardabweichung, aus den Picks</translation>
+    </message>
+    <message>
+        <source>Vp</source>
+        <translation>Vp</translation>
+    </message>
+    <message>
+        <source>Vs</source>
+        <translation>Vs</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Dichte</translation>
+    </message>
+    <message>
+        <source>G0</source>
+        <translation>G0</translation>
+    </message>
+    <message>
+        <source>E0</source>
+        <translation>E0</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>kg/m3</source>
+        <translation>kg/m³</translation>
+    </message>
+    <message>
+        <source>MPa</source>
+        <translation>MPa</translation>
+    </message>
+    <message>
+        <source>Density from Vp by Gardner&apos;s rule</source>
+        <translation>Dichte aus Vp nach Gardner</translation>
+    </message>
+    <message>
+        <source>Density %1 kg/m3</source>
+        <translation>Dichte %1 kg/m³</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Schicht %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 ± %3 m/s</source>
+        <translation>Schicht %1, %2 ± %3 m/s</translation>
+    </message>
+    <message>
+        <source>Dashed: not carried by picks there</source>
+        <translation>Gestrichelt: dort nicht durch Picks belegt</translation>
+    </message>
+    <message>
+        <source>Error of the picks (68 of 100)</source>
+        <translation>Fehler aus den Picks (68 von 100)</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Tiefe [m]</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface</source>
+        <translation>Tiefen unter der Oberfläche</translation>
+    </message>
+    <message>
+        <source>dashed: not carried by picks there</source>
+        <translation>gestrichelt: dort nicht durch Picks belegt</translation>
+    </message>
+    <message>
+        <source>hollow marks: layer 3</source>
+        <translation>hohle Symbole: Schicht 3</translation>
+    </message>
+    <message>
+        <source>shaded: 68 of 100 results of moved picks</source>
+        <translation>schattiert: 68 von 100 Ergebnissen verschobener Picks</translation>
+    </message>
+    <message>
+        <source>dashed: times through the layers</source>
+        <translation>gestrichelt: Zeiten durch die Schichten</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Schichten</translation>
     </message>
 </context>
 <context>
@@ -2270,6 +2623,129 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::LayerMethodsDialog</name>
+    <message>
+        <source>Compare methods</source>
+        <translation>Methoden vergleichen</translation>
+    </message>
+    <message>
+        <source>I&amp;nterpretations for error bands:</source>
+        <translation>Auswertungen für &amp;Fehlerbänder:</translation>
+    </message>
+    <message>
+        <source>The layers are interpreted as often again, by picks that are moved by their errors. How far the results scatter is the error of depth and velocity, and tells whether methods disagree by more than that.</source>
+        <translation>So oft werden die Schichten noch einmal ausgewertet, mit Picks, die um ihre Fehler verschoben sind. Wie weit die Ergebnisse streuen, ist der Fehler von Tiefe und Geschwindigkeit und sagt, ob Methoden um mehr als das voneinander abweichen.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Starten</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>&amp;Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Medians by method</source>
+        <translation>Mediane nach Methode</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Schicht</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Median velocity
+[m/s]</source>
+        <translation>Median der
+Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Median depth
+[m]</source>
+        <translation>Median der
+Tiefe [m]</translation>
+    </message>
+    <message>
+        <source>Geophones
+with a depth</source>
+        <translation>Geophone
+mit Tiefe</translation>
+    </message>
+    <message>
+        <source>Of these not
+carried by picks</source>
+        <translation>Davon nicht
+durch Picks belegt</translation>
+    </message>
+    <message>
+        <source>How far methods agree, and their remarks</source>
+        <translation>Wie weit die Methoden übereinstimmen, und ihre Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Layer &amp;2</source>
+        <translation>Schicht &amp;2</translation>
+    </message>
+    <message>
+        <source>Layer 2 by method</source>
+        <translation>Schicht 2 nach Methode</translation>
+    </message>
+    <message>
+        <source>Layer &amp;3</source>
+        <translation>Schicht &amp;3</translation>
+    </message>
+    <message>
+        <source>Layer 3 by method</source>
+        <translation>Schicht 3 nach Methode</translation>
+    </message>
+    <message>
+        <source>Save the picture as PNG, SVG or PDF</source>
+        <translation>Speichert das Bild als PNG, SVG oder PDF</translation>
+    </message>
+    <message>
+        <source>Save p&amp;icture ...</source>
+        <translation>B&amp;ild speichern ...</translation>
+    </message>
+    <message>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
+        <translation>Speichert Tiefen und Geschwindigkeiten aller Schichten und Methoden an den Geophonen als CSV</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>&amp;Tabelle speichern ...</translation>
+    </message>
+    <message>
+        <source>Copy the same table for a spreadsheet</source>
+        <translation>Kopiert dieselbe Tabelle für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Tabelle &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Layers are being interpreted...</source>
+        <translation>Schichten werden ausgewertet...</translation>
+    </message>
+    <message>
+        <source>Stopped: no error bands.</source>
+        <translation>Angehalten: keine Fehlerbänder.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>no pick is assigned to a refractor.</source>
+        <translation>kein Pick ist einem Refraktor zugeordnet.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
@@ -2825,10 +3301,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
         <translation>Es bleibt keine Schicht übrig: Die Endtiefe einer Schicht muss größer sein als ihre Anfangstiefe, und diese darf nicht negativ sein.</translation>
-    </message>
-    <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation>Die Schichten ergeben kein Geschwindigkeitsmodell. Ordnen Sie sie nach der Tiefe, ohne Überlappung, jede mehr als 0,02 m mächtig. %1</translation>
     </message>
     <message>
         <source>The grid of the layered model could not be built.</source>
@@ -5971,14 +6443,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>drei Schichten passen besser, aber es gibt nicht an jedem Ende der Messlinie einen Schuss mit Picks der mittleren Schicht: vorgeschlagen werden zwei Schichten</translation>
     </message>
     <message>
-        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>Schuss %1, rechts davon: Schicht %2 beruht auf weniger als vier Picks (%3)</translation>
-    </message>
-    <message>
-        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>Schuss %1, links davon: Schicht %2 beruht auf weniger als vier Picks (%3)</translation>
-    </message>
-    <message>
         <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
         <translation>%1 Picks passen zu keiner Schicht und bleiben ohne (Schuss/Spur): %2</translation>
     </message>
@@ -6149,6 +6613,250 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Section, %1 m/s</source>
         <translation>Schnitt, %1 m/s</translation>
+    </message>
+    <message>
+        <source>The methods could not be compared: %1</source>
+        <translation>Die Methoden konnten nicht verglichen werden: %1</translation>
+    </message>
+    <message>
+        <source>P and S have no velocity in common to draw.</source>
+        <translation>P und S haben keine gemeinsame Stelle mit Geschwindigkeiten, die gezeichnet werden könnten.</translation>
+    </message>
+    <message>
+        <source>No method gives a depth.</source>
+        <translation>Keine Methode ergibt eine Tiefe.</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
+        <translation>Die Schichten ergeben kein Geschwindigkeitsmodell. Ordnen Sie sie nach der Tiefe, ohne Überlappung, jede mehr als 0,02 m mächtig.</translation>
+    </message>
+    <message>
+        <source>this is no file with the members of an ensemble</source>
+        <translation>dies ist keine Datei mit den Mitgliedern eines Ensembles</translation>
+    </message>
+    <message>
+        <source>its members cannot be read: the file is damaged</source>
+        <translation>die Mitglieder darin sind nicht lesbar: die Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>its members are those of another ensemble: another survey or section, other settings or another seed</source>
+        <translation>die Mitglieder darin sind die eines anderen Ensembles: eine andere Messung, ein anderer Schnitt, andere Einstellungen oder ein anderer Startwert</translation>
+    </message>
+    <message>
+        <source>its member %1 is done already, others are not; only sets of members that share none can be put together</source>
+        <translation>das Mitglied %1 darin ist schon fertig, andere sind es nicht; zusammenfügen lassen sich nur Sätze ohne gemeinsame Mitglieder</translation>
+    </message>
+    <message>
+        <source>its members cannot be those of this ensemble</source>
+        <translation>die Mitglieder darin können nicht die dieses Ensembles sein</translation>
+    </message>
+    <message>
+        <source>the first layer of its layered profile has one velocity</source>
+        <translation>die erste Schicht des Schichtprofils hat nur eine Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>such a first layer cannot be</source>
+        <translation>eine solche erste Schicht ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>it belongs to another layered profile</source>
+        <translation>sie gehört zu einem anderen Schichtprofil</translation>
+    </message>
+    <message>
+        <source>Layer %1, medians of %2 places: %3; %4</source>
+        <translation>Schicht %1, Mediane von %2 Stellen: %3; %4</translation>
+    </message>
+    <message>
+        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poissonzahl %4</translation>
+    </message>
+    <message>
+        <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
+        <translation>Dichte %1 kg/m³, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Schicht %1: an %2 von %3 Stellen unterscheiden sich die Tiefen ihrer Oberkante aus P und aus S um mehr als %4 % (Median dort %5 m aus P, %6 m aus S). P-Wellen sehen oft den Grundwasserspiegel, S-Wellen nicht: Dieselbe Nummer kann verschiedener Untergrund sein.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
+        <translation>Schicht %1: an %2 von %3 Stellen ist eine Geschwindigkeit nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there. Are P and S exchanged, or is S a P wave?</source>
+        <translation>Schicht %1: an %2 von %3 Stellen ist S nicht langsamer als P, was es in keinem Untergrund gibt: dort keine Poissonzahl, kein E0 und kein K. Sind P und S vertauscht, oder ist S eine P-Welle?</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
+        <translation>Schicht %1: an %2 von %3 Stellen liegt Vp/Vs unter 1,41 und ist die Poissonzahl negativ, was es bei Boden und Fels nicht gibt: Die Geschwindigkeiten stammen aus verschiedenem Untergrund oder sind falsch.</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
+        <translation>Die Gardner-Beziehung wurde für Gesteine gefunden, die schneller als 1500 m/s sind; an %1 von %2 Stellen ist Vp kleiner und die Dichte eine Vermutung.</translation>
+    </message>
+    <message>
+        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
+        <translation>Die Geländeoberflächen von P und S liegen bis zu %1 m auseinander, bei %2 m: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
+    </message>
+    <message>
+        <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
+        <translation>Nach den Aufzeichnungen enthält das P-Projekt S-Wellen und das S-Projekt nicht: Sie sind vielleicht vertauscht.</translation>
+    </message>
+    <message>
+        <source>The recordings of both projects are of S waves.</source>
+        <translation>Die Aufzeichnungen beider Projekte sind solche von S-Wellen.</translation>
+    </message>
+    <message>
+        <source>The places of P and S on the map are given in different systems (EPSG:%1 and EPSG:%2) and were not compared.</source>
+        <translation>Die Lage von P und S auf der Karte ist in verschiedenen Systemen angegeben (EPSG:%1 und EPSG:%2) und wurde nicht verglichen.</translation>
+    </message>
+    <message>
+        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Dieselben Entfernungen von P und S liegen auf der Karte bis zu %1 m auseinander: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
+    </message>
+    <message>
+        <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Das P-Projekt hat kein Schichtprofil: Erstellen Sie zuerst seine Profile im Refraktionsdialog.</translation>
+    </message>
+    <message>
+        <source>The project of S has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Das S-Projekt hat kein Schichtprofil: Erstellen Sie zuerst seine Profile im Refraktionsdialog.</translation>
+    </message>
+    <message>
+        <source>P and S have no place in common: P was interpreted from %1, S from %2 along the line.</source>
+        <translation>P und S haben keine Stelle gemeinsam: P wurde entlang der Messlinie von %1 ausgewertet, S von %2.</translation>
+    </message>
+    <message>
+        <source>Layer %1: P and S have no place in common.</source>
+        <translation>Schicht %1: P und S haben keine Stelle gemeinsam.</translation>
+    </message>
+    <message>
+        <source>P has %1 layers and S has %2; what lies below layer %3 is known of one wave only and left out.</source>
+        <translation>P hat %1 Schichten und S hat %2; was unter Schicht %3 liegt, ist nur von einer Welle bekannt und wird weggelassen.</translation>
+    </message>
+    <message>
+        <source>the curves of layer %1 follow the lines of shots %2 and %3, which give %4 and %5 ms for the way between these shots</source>
+        <translation>die Kurven von Schicht %1 folgen den Linien der Schüsse %2 und %3, die für den Weg zwischen diesen Schüssen %4 und %5 ms ergeben</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
+        <translation>das Profil passt nur auf %1 ms zu seinen Picks, die Wellen des Vorschlags auf %2 ms: es weicht ab Schuss %3 bei %4 m ab</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
+        <translation>das Profil passt nur auf %1 ms zu seinen Picks, die Wellen des Vorschlags auf %2 ms: am stärksten weicht es bei Schuss %3 bei %4 m ab</translation>
+    </message>
+    <message>
+        <source>the delays of the waves change so fast along the line that no boundary has them all</source>
+        <translation>die Verzögerungen der Wellen ändern sich entlang der Messlinie so schnell, dass keine Schichtgrenze sie alle ergibt</translation>
+    </message>
+    <message>
+        <source>reciprocal</source>
+        <translation>Reziprokmethode</translation>
+    </message>
+    <message>
+        <source>delay times</source>
+        <translation>Verzögerungszeiten</translation>
+    </message>
+    <message>
+        <source>intercept times</source>
+        <translation>Interceptzeiten</translation>
+    </message>
+    <message>
+        <source>plus-minus</source>
+        <translation>Plus-Minus</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
+        <translation>Schicht %1: die Tiefen liegen bei %2 m am weitesten auseinander, von %3 m (%4) bis %5 m (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
+        <translation>Schicht %1: die Geschwindigkeiten liegen bei %2 m am weitesten auseinander, von %3 m/s (%4) bis %5 m/s (%6)</translation>
+    </message>
+    <message>
+        <source>to the right of shot %1</source>
+        <translation>rechts von Schuss %1</translation>
+    </message>
+    <message>
+        <source>to the right of shots %1</source>
+        <translation>rechts der Schüsse %1</translation>
+    </message>
+    <message>
+        <source>to the left of shot %1</source>
+        <translation>links von Schuss %1</translation>
+    </message>
+    <message>
+        <source>to the left of shots %1</source>
+        <translation>links der Schüsse %1</translation>
+    </message>
+    <message>
+        <source>layer %1 rests on fewer than four picks (their number in brackets) %2</source>
+        <translation>Schicht %1 beruht auf weniger als vier Picks (Anzahl in Klammern) %2</translation>
+    </message>
+    <message>
+        <source>1 pick fits no layer and is given to none (shot/trace): %1</source>
+        <translation>1 Pick passt zu keiner Schicht und bleibt ohne (Schuss/Spur): %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robust</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>nicht robust</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>blockig</translation>
+    </message>
+    <message>
+        <source>smooth</source>
+        <translation>glatt</translation>
+    </message>
+    <message>
+        <source>shots shifted</source>
+        <translation>Schüsse verschoben</translation>
+    </message>
+    <message>
+        <source>no shot shifted</source>
+        <translation>kein Schuss verschoben</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 cells of P lie where the section of S shows none.</source>
+        <translation>%1 der %2 Zellen von P liegen, wo der Schnitt von S keine zeigt.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there.</source>
+        <translation>In %1 von %2 Zellen ist S nicht langsamer als P, was es in keinem Untergrund gibt: dort keine Poissonzahl, kein E0 und kein K.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not.</source>
+        <translation>In %1 von %2 Zellen liegt Vp/Vs unter 1,41 und ist die Poissonzahl negativ, was es bei Boden und Fels nicht gibt.</translation>
+    </message>
+    <message>
+        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
+        <translation>Die Geländeoberflächen der Schnitte von P und S liegen bis zu %1 m auseinander, bei %2 m; Zellen werden nach ihrer Tiefe darunter einander zugeordnet.</translation>
+    </message>
+    <message>
+        <source>A section has no layers: all of it has the first density.</source>
+        <translation>Ein Schnitt hat keine Schichten: Er hat überall die erste Dichte.</translation>
+    </message>
+    <message>
+        <source>The project of P has no section.</source>
+        <translation>Das P-Projekt hat keinen Schnitt.</translation>
+    </message>
+    <message>
+        <source>The project of S has no section.</source>
+        <translation>Das S-Projekt hat keinen Schnitt.</translation>
+    </message>
+    <message>
+        <source>The sections of P and S have no cell in common.</source>
+        <translation>Die Schnitte von P und S haben keine Zelle gemeinsam.</translation>
     </message>
 </context>
 <context>
@@ -6367,6 +7075,57 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Take minimum and maximum from the velocities of the section</source>
         <translation>Übernimmt Minimum und Maximum von den Geschwindigkeiten des Schnitts</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ProfileTable</name>
+    <message>
+        <source>picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>Phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>Lücke</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>Fortsetzung</translation>
+    </message>
+    <message>
+        <source>Picks of the shots at both ends of the line carry it.</source>
+        <translation>Picks der Schüsse an beiden Enden der Messlinie belegen den Wert.</translation>
+    </message>
+    <message>
+        <source>Shifted arrivals of other shots carry it.</source>
+        <translation>Verschobene Einsätze anderer Schüsse belegen den Wert.</translation>
+    </message>
+    <message>
+        <source>It lies across more than two spacings without arrivals.</source>
+        <translation>Der Wert liegt in einer Lücke von mehr als zwei Geophonabständen ohne Einsätze.</translation>
+    </message>
+    <message>
+        <source>It continues what lies beside it, beyond the last arrivals.</source>
+        <translation>Der Wert setzt jenseits der letzten Einsätze fort, was daneben liegt.</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Depth %1 (m)</source>
+        <translation>Tiefe %1 (m)</translation>
+    </message>
+    <message>
+        <source>V %1 (m/s)</source>
+        <translation>V %1 (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Tiefe %1 aus</translation>
     </message>
 </context>
 <context>
@@ -7173,17 +7932,29 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
         <translation>%1 m: tV um %2 ms rau, Geschwindigkeit um %3 % ungleichmäßig</translation>
     </message>
+    <message>
+        <source>Depths and velocities</source>
+        <translation>Tiefen und Geschwindigkeiten</translation>
+    </message>
+    <message>
+        <source>Compare &amp;methods ...</source>
+        <translation>&amp;Methoden vergleichen ...</translation>
+    </message>
+    <message>
+        <source>Layers from the marks by other methods beside the reciprocal one: delay times, intercept times and plus-minus</source>
+        <translation>Schichten aus den Zuordnungen nach anderen Methoden neben der Reziprokmethode: Verzögerungszeiten, Interceptzeiten und Plus-Minus</translation>
+    </message>
+    <message>
+        <source>There is no profile yet.</source>
+        <translation>Es gibt noch kein Profil.</translation>
+    </message>
+    <message>
+        <source>Picks or marks have changed: build the profiles again.</source>
+        <translation>Picks oder Zuordnungen haben sich geändert: Erstellen Sie die Profile neu.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
-    <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Schicht %1, %2 m/s</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Schicht %1</translation>
-    </message>
     <message>
         <source>Geophones</source>
         <translation>Geophone</translation>
@@ -8093,6 +8864,58 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Residuals of the picks, shot by geophone</source>
         <translation>Residuen der Picks, Schüsse gegen Geophone</translation>
+    </message>
+    <message>
+        <source>Layer %1 [ms]</source>
+        <translation>Schicht %1 [ms]</translation>
+    </message>
+    <message>
+        <source>No misfit of the layers is told: they have no depth, or were built from other picks or marks than those of now.</source>
+        <translation>Für die Schichten ist keine Abweichung angegeben: Sie haben keine Tiefe oder wurden aus anderen Picks oder Zuordnungen als den jetzigen erstellt.</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers differ from the picks by %1 ms (RMS of %2 picks; mean of picks less computed times %3 ms; chi-square %4).</source>
+        <translation>Durch die Schichten berechnete Zeiten weichen von den Picks um %1 ms ab (RMS von %2 Picks; Mittel der Picks minus berechnete Zeiten %3 ms; Chi-Quadrat %4).</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the layers, by shot (number of picks)</source>
+        <translation>RMS-Abweichung der Schichten, je Schuss (Anzahl der Picks)</translation>
+    </message>
+    <message>
+        <source>Depth of refractors by method</source>
+        <translation>Tiefe der Refraktoren nach Methode</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>Phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>Lücke</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>Fortsetzung</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Tiefe %1 aus</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, is not carried by picks of the shots at both ends there: but by shifted arrivals of other shots (phantom), across more than two spacings without arrivals (gap), or by a continuation beyond the last ones.</source>
+        <translation>Ein Wert in Klammern und eine gestrichelte Linie sind dort nicht durch Picks der Schüsse an beiden Enden belegt, sondern durch verschobene Einsätze anderer Schüsse (Phantom), über mehr als zwei Geophonabstände ohne Einsätze hinweg (Lücke) oder durch eine Fortsetzung jenseits der letzten Einsätze.</translation>
+    </message>
+    <message>
+        <source>Errors, and the bands round the lines, are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations.</source>
+        <translation>Fehler und die Bänder um die Linien sind die halbe Breite, in der 68 von 100 Ergebnissen liegen, wenn Picks um ihre Fehler verschoben werden, aus %1 solchen Auswertungen.</translation>
+    </message>
+    <message>
+        <source>Median velocity of refractor %1</source>
+        <translation>Median der Geschwindigkeit von Refraktor %1</translation>
     </message>
 </context>
 <context>
@@ -11255,6 +12078,58 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Table (*.csv)</source>
         <translation>Tabelle (*.csv)</translation>
     </message>
+    <message>
+        <source>P and S together ...</source>
+        <translation>P und S gemeinsam ...</translation>
+    </message>
+    <message>
+        <source>Put the layers of this survey and those of a project of the other wave together: Vp/Vs, Poisson&apos;s ratio and moduli along the line</source>
+        <translation>Führt die Schichten dieser Messung und die eines Projekts der anderen Welle zusammen: Vp/Vs, Poissonzahl und Moduln entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>There are no times through the layers: build the profiles anew.</source>
+        <translation>Es gibt keine Zeiten durch die Schichten: Erstellen Sie die Profile neu.</translation>
+    </message>
+    <message>
+        <source>Project of the other wave</source>
+        <translation>Projekt der anderen Welle</translation>
+    </message>
+    <message>
+        <source>This is the project that is open.</source>
+        <translation>Dies ist das geöffnete Projekt.</translation>
+    </message>
+    <message>
+        <source>Choose the project of the other wave, P or S, along the same line.</source>
+        <translation>Wählen Sie das Projekt der anderen Welle, P oder S, entlang derselben Messlinie.</translation>
+    </message>
+    <message>
+        <source>%1 has no layered profile.</source>
+        <translation>%1 hat kein Schichtprofil.</translation>
+    </message>
+    <message>
+        <source>Open it, build its profiles in the refraction dialog, and save it.</source>
+        <translation>Öffnen Sie das Projekt, erstellen Sie seine Profile im Refraktionsdialog, und speichern Sie es.</translation>
+    </message>
+    <message>
+        <source>this survey</source>
+        <translation>diese Messung</translation>
+    </message>
+    <message>
+        <source>Save picture of P and S</source>
+        <translation>Bild von P und S speichern</translation>
+    </message>
+    <message>
+        <source>Save table of P and S</source>
+        <translation>Tabelle von P und S speichern</translation>
+    </message>
+    <message>
+        <source>Save picture of layers by method</source>
+        <translation>Bild der Schichten nach Methode speichern</translation>
+    </message>
+    <message>
+        <source>Save table of layers by method</source>
+        <translation>Tabelle der Schichten nach Methode speichern</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -11408,6 +12283,73 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Error: %1 ms</source>
         <translation>Fehler: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>&amp;Schichten</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers of the refraction interpretation</source>
+        <translation>Zeiten, durch die Schichten der Refraktionsauswertung berechnet</translation>
+    </message>
+    <message>
+        <source>There are no layers of these picks: build the profiles of the refraction interpretation (anew).</source>
+        <translation>Es gibt keine Schichten aus diesen Picks: Erstellen Sie die Profile der Refraktionsauswertung (neu).</translation>
+    </message>
+    <message>
+        <source>Layers: %1 ms</source>
+        <translation>Schichten: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::XYCriteria</name>
+    <message>
+        <source>XY (m)</source>
+        <translation>XY (m)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV</source>
+        <translation>Rauheit von tV</translation>
+    </message>
+    <message>
+        <source>RMS (ms)</source>
+        <translation>RMS (ms)</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity</source>
+        <translation>Ungleichmäßigkeit der Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>RMS (%)</source>
+        <translation>RMS (%)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV against XY</source>
+        <translation>Rauheit von tV über XY</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity against XY</source>
+        <translation>Ungleichmäßigkeit der Geschwindigkeit über XY</translation>
+    </message>
+    <message>
+        <source>Click to choose it</source>
+        <translation>Klicken, um es zu wählen</translation>
+    </message>
+    <message>
+        <source>No XY can be judged: forward and reverse curve have too few geophones in common.</source>
+        <translation>Kein XY lässt sich beurteilen: Hin- und Gegenkurve haben zu wenige Geophone gemeinsam.</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet.</source>
+        <translation>Noch nichts erstellt.</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
+    </message>
+    <message>
+        <source>proposed</source>
+        <translation>vorgeschlagen</translation>
     </message>
 </context>
 <context>
