@@ -102,16 +102,27 @@
         <source>How sure the section is stays unknown.</source>
         <translation>La certitude de la coupe reste inconnue.</translation>
     </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continuer</translation>
+    </message>
     <message numerus="yes">
-        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <source>%n member(s) of this seed are done; Continue goes on with more.</source>
         <translation>
-            <numerusform>Arrêté avec %n membre&#xa0;; «&#xa0;Démarrer&#xa0;» reprend à partir de là.</numerusform>
-            <numerusform>Arrêté avec %n membres&#xa0;; «&#xa0;Démarrer&#xa0;» reprend à partir de là.</numerusform>
+            <numerusform>%n membre de cette graine est calculé&#xa0;; «&#xa0;Continuer&#xa0;» en ajoute d&apos;autres.</numerusform>
+            <numerusform>%n membres de cette graine sont calculés&#xa0;; «&#xa0;Continuer&#xa0;» en ajoute d&apos;autres.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Continue goes on from there.</source>
+        <translation>
+            <numerusform>Arrêté avec %n membre&#xa0;; «&#xa0;Continuer&#xa0;» reprend à partir de là.</numerusform>
+            <numerusform>Arrêté avec %n membres&#xa0;; «&#xa0;Continuer&#xa0;» reprend à partir de là.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Stopped before the first member was done; Start goes on.</source>
-        <translation>Arrêté avant la fin du premier membre&#xa0;; «&#xa0;Démarrer&#xa0;» reprend.</translation>
+        <source>Stopped before the first member was done; Continue goes on.</source>
+        <translation>Arrêté avant la fin du premier membre&#xa0;; «&#xa0;Continuer&#xa0;» reprend.</translation>
     </message>
 </context>
 <context>
@@ -918,6 +929,29 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::ErrorBands</name>
+    <message>
+        <source>&amp;Error bands</source>
+        <translation>Bandes d&apos;&amp;erreur</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>How far depths and velocities scatter as picks are moved by their errors, over %1 interpretations</source>
+        <translation>Dispersion des profondeurs et des vitesses lorsque les pointés sont déplacés selon leurs erreurs, sur %1 interprétations</translation>
+    </message>
+    <message>
+        <source>No errors could be found: the profile is not that of the picks and marks. Build it again.</source>
+        <translation>Aucune erreur n&apos;a pu être calculée&#xa0;: le profil n&apos;est pas celui des pointés et des attributions. Reconstruisez-le.</translation>
+    </message>
+    <message>
+        <source>Bands: 68 of %1 interpretations of picks that were moved by their errors</source>
+        <translation>Bandes&#xa0;: 68 interprétations sur %1, de pointés déplacés selon leurs erreurs</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ExportTomoVelData</name>
     <message>
         <source>Set optional shift parameter before export</source>
@@ -1389,6 +1423,130 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Fixed bodies</source>
         <translation>Corps fixes</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Vp/Vs</source>
+        <translation>Vp/Vs</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>Coefficient de Poisson</translation>
+    </message>
+    <message>
+        <source>G0, E0 [MPa]</source>
+        <translation>G0, E0 [MPa]</translation>
+    </message>
+    <message>
+        <source>K, M [MPa]</source>
+        <translation>K, M [MPa]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ</source>
+        <translation>Profondeurs selon P et S différentes</translation>
+    </message>
+    <message>
+        <source>No ground: Vp/Vs below 1.41</source>
+        <translation>Sol impossible&#xa0;: Vp/Vs inférieur à 1,41</translation>
+    </message>
+    <message>
+        <source>Bars: one standard deviation, of the picks</source>
+        <translation>Barres&#xa0;: un écart type, celui des pointés</translation>
+    </message>
+    <message>
+        <source>Vp</source>
+        <translation>Vp</translation>
+    </message>
+    <message>
+        <source>Vs</source>
+        <translation>Vs</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Masse volumique</translation>
+    </message>
+    <message>
+        <source>G0</source>
+        <translation>G0</translation>
+    </message>
+    <message>
+        <source>E0</source>
+        <translation>E0</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>kg/m3</source>
+        <translation>kg/m3</translation>
+    </message>
+    <message>
+        <source>MPa</source>
+        <translation>MPa</translation>
+    </message>
+    <message>
+        <source>Density from Vp by Gardner&apos;s rule</source>
+        <translation>Masse volumique d&apos;après Vp, par la relation de Gardner</translation>
+    </message>
+    <message>
+        <source>Density %1 kg/m3</source>
+        <translation>Masse volumique %1 kg/m3</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Couche %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 ± %3 m/s</source>
+        <translation>Couche %1, %2 ± %3 m/s</translation>
+    </message>
+    <message>
+        <source>Dashed: not carried by picks there</source>
+        <translation>Tirets&#xa0;: sans appui de pointés à cet endroit</translation>
+    </message>
+    <message>
+        <source>Error of the picks (68 of 100)</source>
+        <translation>Erreur due aux pointés (68 sur 100)</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profondeur [m]</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface</source>
+        <translation>Les profondeurs sont comptées sous la surface</translation>
+    </message>
+    <message>
+        <source>dashed: not carried by picks there</source>
+        <translation>tirets&#xa0;: sans appui de pointés à cet endroit</translation>
+    </message>
+    <message>
+        <source>hollow marks: layer 3</source>
+        <translation>symboles vides&#xa0;: couche 3</translation>
+    </message>
+    <message>
+        <source>shaded: 68 of 100 results of moved picks</source>
+        <translation>zones teintées&#xa0;: 68 résultats sur 100 de pointés déplacés</translation>
+    </message>
+    <message>
+        <source>dashed: times through the layers</source>
+        <translation>tirets&#xa0;: temps à travers les couches</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Couches</translation>
     </message>
 </context>
 <context>
@@ -2270,6 +2428,129 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::LayerMethodsDialog</name>
+    <message>
+        <source>Compare methods</source>
+        <translation>Comparer les méthodes</translation>
+    </message>
+    <message>
+        <source>I&amp;nterpretations for error bands:</source>
+        <translation>Interprétations pour les &amp;bandes d&apos;erreur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The layers are interpreted as often again, by picks that are moved by their errors. How far the results scatter is the error of depth and velocity, and tells whether methods disagree by more than that.</source>
+        <translation>Les couches sont réinterprétées autant de fois, avec des pointés déplacés selon leurs erreurs. La dispersion des résultats est l&apos;erreur de la profondeur et de la vitesse, et dit si les méthodes divergent davantage que cela.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>&amp;Résumé</translation>
+    </message>
+    <message>
+        <source>Medians by method</source>
+        <translation>Médianes selon la méthode</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Méthode</translation>
+    </message>
+    <message>
+        <source>Median velocity
+[m/s]</source>
+        <translation>Vitesse médiane
+[m/s]</translation>
+    </message>
+    <message>
+        <source>Median depth
+[m]</source>
+        <translation>Profondeur médiane
+[m]</translation>
+    </message>
+    <message>
+        <source>Geophones
+with a depth</source>
+        <translation>Géophones avec
+une profondeur</translation>
+    </message>
+    <message>
+        <source>Of these not
+carried by picks</source>
+        <translation>Dont sans appui
+de pointés</translation>
+    </message>
+    <message>
+        <source>How far methods agree, and their remarks</source>
+        <translation>Accord des méthodes et leurs remarques</translation>
+    </message>
+    <message>
+        <source>Layer &amp;2</source>
+        <translation>Couche &amp;2</translation>
+    </message>
+    <message>
+        <source>Layer 2 by method</source>
+        <translation>Couche 2 selon la méthode</translation>
+    </message>
+    <message>
+        <source>Layer &amp;3</source>
+        <translation>Couche &amp;3</translation>
+    </message>
+    <message>
+        <source>Layer 3 by method</source>
+        <translation>Couche 3 selon la méthode</translation>
+    </message>
+    <message>
+        <source>Save the picture as PNG, SVG or PDF</source>
+        <translation>Enregistrer l&apos;image en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>Save p&amp;icture ...</source>
+        <translation>Enregistrer l&apos;&amp;image ...</translation>
+    </message>
+    <message>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
+        <translation>Enregistrer en CSV les profondeurs et vitesses de toutes les couches et méthodes aux géophones</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Enregistrer le &amp;tableau ...</translation>
+    </message>
+    <message>
+        <source>Copy the same table for a spreadsheet</source>
+        <translation>Copier le même tableau pour un tableur</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>&amp;Copier le tableau</translation>
+    </message>
+    <message>
+        <source>Layers are being interpreted...</source>
+        <translation>Interprétation des couches en cours...</translation>
+    </message>
+    <message>
+        <source>Stopped: no error bands.</source>
+        <translation>Arrêté&#xa0;: pas de bandes d&apos;erreur.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>no pick is assigned to a refractor.</source>
+        <translation>aucun pointé n&apos;est attribué à un réfracteur.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
@@ -2825,10 +3106,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
         <translation>Il ne reste aucune couche&#xa0;: la profondeur finale d&apos;une couche doit être supérieure à sa profondeur initiale, et celle-ci ne doit pas être négative.</translation>
-    </message>
-    <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation>Les couches ne forment pas un modèle de vitesse. Classez-les par profondeur, sans chevauchement, chacune de plus de 0,02 m d&apos;épaisseur. %1</translation>
     </message>
     <message>
         <source>The grid of the layered model could not be built.</source>
@@ -5971,14 +6248,6 @@ Veuillez définir la position des géophones
         <translation>trois couches s&apos;ajustent mieux, mais les deux bouts de la ligne n&apos;ont pas chacun un tir avec des pointés de la couche intermédiaire&#xa0;: deux couches sont proposées</translation>
     </message>
     <message>
-        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>tir %1, à sa droite&#xa0;: la couche %2 repose sur moins de quatre pointés (%3)</translation>
-    </message>
-    <message>
-        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>tir %1, à sa gauche&#xa0;: la couche %2 repose sur moins de quatre pointés (%3)</translation>
-    </message>
-    <message>
         <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
         <translation>%1 pointés ne s&apos;accordent avec aucune couche et ne sont attribués à aucune (tir/trace)&#xa0;: %2</translation>
     </message>
@@ -6367,6 +6636,57 @@ Veuillez définir la position des géophones
     <message>
         <source>Take minimum and maximum from the velocities of the section</source>
         <translation>Prendre le minimum et le maximum des vitesses de la coupe</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ProfileTable</name>
+    <message>
+        <source>picks</source>
+        <translation>pointés</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>fantôme</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacune</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolongement</translation>
+    </message>
+    <message>
+        <source>Picks of the shots at both ends of the line carry it.</source>
+        <translation>S&apos;appuie sur des pointés des tirs aux deux extrémités de la ligne.</translation>
+    </message>
+    <message>
+        <source>Shifted arrivals of other shots carry it.</source>
+        <translation>S&apos;appuie sur des arrivées décalées d&apos;autres tirs.</translation>
+    </message>
+    <message>
+        <source>It lies across more than two spacings without arrivals.</source>
+        <translation>Se trouve dans une lacune sans arrivées de plus de deux espacements.</translation>
+    </message>
+    <message>
+        <source>It continues what lies beside it, beyond the last arrivals.</source>
+        <translation>Prolonge ce qui est à côté, au-delà des dernières arrivées.</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Depth %1 (m)</source>
+        <translation>Profondeur %1 (m)</translation>
+    </message>
+    <message>
+        <source>V %1 (m/s)</source>
+        <translation>V %1 (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Appui profondeur %1</translation>
     </message>
 </context>
 <context>
@@ -7173,17 +7493,29 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
         <translation>%1 m&#xa0;: rugosité de tV %2 ms, irrégularité de la vitesse %3&#xa0;%</translation>
     </message>
+    <message>
+        <source>Depths and velocities</source>
+        <translation>Profondeurs et vitesses</translation>
+    </message>
+    <message>
+        <source>Compare &amp;methods ...</source>
+        <translation>Comparer les &amp;méthodes ...</translation>
+    </message>
+    <message>
+        <source>Layers from the marks by other methods beside the reciprocal one: delay times, intercept times and plus-minus</source>
+        <translation>Couches tirées des attributions par d&apos;autres méthodes que la réciproque&#xa0;: temps de retard, temps d&apos;intercept et plus-minus</translation>
+    </message>
+    <message>
+        <source>There is no profile yet.</source>
+        <translation>Il n&apos;y a pas encore de profil.</translation>
+    </message>
+    <message>
+        <source>Picks or marks have changed: build the profiles again.</source>
+        <translation>Les pointés ou les attributions ont changé&#xa0;: reconstruisez les profils.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
-    <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Couche %1, %2 m/s</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Couche %1</translation>
-    </message>
     <message>
         <source>Geophones</source>
         <translation>Géophones</translation>
@@ -8093,6 +8425,58 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Residuals of the picks, shot by geophone</source>
         <translation>Résidus des pointés, par tir et géophone</translation>
+    </message>
+    <message>
+        <source>Layer %1 [ms]</source>
+        <translation>Couche %1 [ms]</translation>
+    </message>
+    <message>
+        <source>No misfit of the layers is told: they have no depth, or were built from other picks or marks than those of now.</source>
+        <translation>L&apos;écart des couches n&apos;est pas indiqué&#xa0;: elles n&apos;ont pas de profondeur, ou ont été construites avec d&apos;autres pointés ou attributions que ceux d&apos;à présent.</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers differ from the picks by %1 ms (RMS of %2 picks; mean of picks less computed times %3 ms; chi-square %4).</source>
+        <translation>Les temps calculés à travers les couches diffèrent des pointés de %1 ms (RMS de %2 pointés&#xa0;; moyenne des pointés moins temps calculés %3 ms&#xa0;; khi-deux %4).</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the layers, by shot (number of picks)</source>
+        <translation>Écart quadratique moyen des couches, par tir (nombre de pointés)</translation>
+    </message>
+    <message>
+        <source>Depth of refractors by method</source>
+        <translation>Profondeur des réfracteurs selon la méthode</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>pointés</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>fantôme</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacune</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolongement</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Appui profondeur %1</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, is not carried by picks of the shots at both ends there: but by shifted arrivals of other shots (phantom), across more than two spacings without arrivals (gap), or by a continuation beyond the last ones.</source>
+        <translation>Une valeur entre parenthèses, et une ligne en tirets, ne s&apos;appuie pas à cet endroit sur des pointés des tirs aux deux extrémités, mais sur des arrivées décalées d&apos;autres tirs (fantôme), à travers plus de deux espacements sans arrivées (lacune), ou par prolongement au-delà des dernières (prolongement).</translation>
+    </message>
+    <message>
+        <source>Errors, and the bands round the lines, are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations.</source>
+        <translation>Les erreurs, et les bandes autour des lignes, sont la moitié de la largeur où se trouvent 68 résultats sur 100 lorsque les pointés sont déplacés selon leurs erreurs, d&apos;après %1 interprétations de ce genre.</translation>
+    </message>
+    <message>
+        <source>Median velocity of refractor %1</source>
+        <translation>Vitesse médiane du réfracteur %1</translation>
     </message>
 </context>
 <context>
@@ -11408,6 +11792,73 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Error: %1 ms</source>
         <translation>Erreur&#xa0;: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>Co&amp;uches</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers of the refraction interpretation</source>
+        <translation>Temps calculés à travers les couches de l&apos;interprétation en réfraction</translation>
+    </message>
+    <message>
+        <source>There are no layers of these picks: build the profiles of the refraction interpretation (anew).</source>
+        <translation>Il n&apos;y a pas de couches pour ces pointés&#xa0;: construisez (ou reconstruisez) les profils de l&apos;interprétation en réfraction.</translation>
+    </message>
+    <message>
+        <source>Layers: %1 ms</source>
+        <translation>Couches&#xa0;: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::XYCriteria</name>
+    <message>
+        <source>XY (m)</source>
+        <translation>XY (m)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV</source>
+        <translation>Rugosité de tV</translation>
+    </message>
+    <message>
+        <source>RMS (ms)</source>
+        <translation>RMS (ms)</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity</source>
+        <translation>Irrégularité de la vitesse</translation>
+    </message>
+    <message>
+        <source>RMS (%)</source>
+        <translation>RMS (%)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV against XY</source>
+        <translation>Rugosité de tV en fonction de XY</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity against XY</source>
+        <translation>Irrégularité de la vitesse en fonction de XY</translation>
+    </message>
+    <message>
+        <source>Click to choose it</source>
+        <translation>Cliquer pour le choisir</translation>
+    </message>
+    <message>
+        <source>No XY can be judged: forward and reverse curve have too few geophones in common.</source>
+        <translation>Aucun XY ne peut être jugé&#xa0;: les courbes directe et inverse ont trop peu de géophones en commun.</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet.</source>
+        <translation>Rien n&apos;est encore construit.</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>choisi</translation>
+    </message>
+    <message>
+        <source>proposed</source>
+        <translation>proposé</translation>
     </message>
 </context>
 <context>
