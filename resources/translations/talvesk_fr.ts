@@ -929,6 +929,201 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::ElasticDialog</name>
+    <message>
+        <source>P and S together</source>
+        <translation>P et S ensemble</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Ondes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Which of the two projects is of P waves and which of S waves. The program guesses it from the recordings, else from the velocities.</source>
+        <translation>Lequel des deux projets est d&apos;ondes P et lequel d&apos;ondes S. Le programme le devine d&apos;après les enregistrements, sinon d&apos;après les vitesses.</translation>
+    </message>
+    <message>
+        <source>Take another project for the other wave</source>
+        <translation>Prendre un autre projet pour l&apos;autre onde</translation>
+    </message>
+    <message>
+        <source>&amp;Other project ...</source>
+        <translation>&amp;Autre projet ...</translation>
+    </message>
+    <message>
+        <source>Shi&amp;ft S by:</source>
+        <translation>&amp;Décaler S de&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Metres added to distances of S</source>
+        <translation>Mètres ajoutés aux distances de S</translation>
+    </message>
+    <message>
+        <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
+        <translation>Ce qui s&apos;ajoute aux distances de S, dont la ligne commence ailleurs, pour obtenir celles de P</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>&amp;Depths may differ by:</source>
+        <translation>Écart de &amp;profondeur admis&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Percent that depths may differ by</source>
+        <translation>Pour cent dont les profondeurs peuvent différer</translation>
+    </message>
+    <message>
+        <source>Difference between the depths of a layer by P and by S, as a share of their mean, beyond which both may be different ground: that is marked and said, and nothing is left out</source>
+        <translation>Différence entre les profondeurs d&apos;une couche selon P et selon S, en part de leur moyenne, au-delà de laquelle il peut s&apos;agir de terrains différents&#xa0;: c&apos;est marqué et signalé, et rien n&apos;est écarté</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>&#xa0;%</translation>
+    </message>
+    <message>
+        <source>D&amp;ensity:</source>
+        <translation>Masse &amp;volumique&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A number for each layer, or 310 Vp^0.25 in kg/m3, which Gardner and others (1974) found for rocks faster than 1500 m/s</source>
+        <translation>Un nombre par couche, ou 310 Vp^0.25 en kg/m3, relation que Gardner et al. (1974) ont établie pour des roches plus rapides que 1500 m/s</translation>
+    </message>
+    <message>
+        <source>Of each layer</source>
+        <translation>De chaque couche</translation>
+    </message>
+    <message>
+        <source>From Vp, by Gardner&apos;s rule</source>
+        <translation>D&apos;après Vp, par la relation de Gardner</translation>
+    </message>
+    <message>
+        <source>1:</source>
+        <translation>1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Density of layer 1</source>
+        <translation>Masse volumique de la couche 1</translation>
+    </message>
+    <message>
+        <source> kg/m3</source>
+        <translation> kg/m3</translation>
+    </message>
+    <message>
+        <source>2:</source>
+        <translation>2&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Density of layer 2</source>
+        <translation>Masse volumique de la couche 2</translation>
+    </message>
+    <message>
+        <source>3:</source>
+        <translation>3&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Density of layer 3</source>
+        <translation>Masse volumique de la couche 3</translation>
+    </message>
+    <message>
+        <source>Standard deviations of all that follows from the velocities, by 100 interpretations of picks that are moved by their errors</source>
+        <translation>Écarts types de tout ce qui découle des vitesses, d&apos;après 100 interprétations de pointés déplacés selon leurs erreurs</translation>
+    </message>
+    <message>
+        <source>Errors from the pic&amp;ks</source>
+        <translation>&amp;Erreurs d&apos;après les pointés</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Couche&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Which layers picture and table show</source>
+        <translation>Les couches que montrent l&apos;image et le tableau</translation>
+    </message>
+    <message>
+        <source>P and S along the line</source>
+        <translation>P et S le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; moduli of small strains: shear G0, Young&apos;s E0, bulk K, constrained M</source>
+        <translation>Profondeurs sous la surface&#xa0;; modules aux petites déformations&#xa0;: cisaillement G0, Young E0, incompressibilité K, œdométrique M</translation>
+    </message>
+    <message>
+        <source>Copy the table as it stands here, for a spreadsheet</source>
+        <translation>Copier le tableau tel qu&apos;il est affiché, pour un tableur</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Copie&amp;r le tableau</translation>
+    </message>
+    <message>
+        <source>Save the table as CSV, in metres, m/s, kg/m3 and MPa</source>
+        <translation>Enregistrer le tableau en CSV, en mètres, m/s, kg/m3 et MPa</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Enregistrer le &amp;tableau ...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Enregistrer les courbes en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>Enregistrer l&apos;&amp;image ...</translation>
+    </message>
+    <message>
+        <source>Interpreting moved picks ...</source>
+        <translation>Interprétation des pointés déplacés ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>P: %1, S: %2</source>
+        <translation>P&#xa0;: %1, S&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Couche %1</translation>
+    </message>
+    <message>
+        <source>Picks of %1 have changed since its layers were built.</source>
+        <translation>Les pointés de %1 ont changé depuis la construction de ses couches.</translation>
+    </message>
+    <message>
+        <source>It has no errors.</source>
+        <translation>Ce projet est donc sans erreurs.</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distance [m]</translation>
+    </message>
+    <message>
+        <source>Depth by P [m]</source>
+        <translation>Profondeur selon P [m]</translation>
+    </message>
+    <message>
+        <source>Depth by S [m]</source>
+        <translation>Profondeur selon S [m]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ: it may be different ground.</source>
+        <translation>Les profondeurs selon P et S diffèrent&#xa0;: ce sont peut-être des terrains différents.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ErrorBands</name>
     <message>
         <source>&amp;Error bands</source>
@@ -6419,6 +6614,250 @@ Veuillez définir la position des géophones
         <source>Section, %1 m/s</source>
         <translation>Coupe, %1 m/s</translation>
     </message>
+    <message>
+        <source>The methods could not be compared: %1</source>
+        <translation>Les méthodes n&apos;ont pas pu être comparées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>P and S have no velocity in common to draw.</source>
+        <translation>P et S n&apos;ont aucune vitesse commune à dessiner.</translation>
+    </message>
+    <message>
+        <source>No method gives a depth.</source>
+        <translation>Aucune méthode ne donne de profondeur.</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
+        <translation>Les couches ne forment pas un modèle de vitesse. Classez-les par profondeur, sans chevauchement, chacune de plus de 0,02 m d&apos;épaisseur.</translation>
+    </message>
+    <message>
+        <source>this is no file with the members of an ensemble</source>
+        <translation>ce n&apos;est pas un fichier de membres d&apos;un ensemble</translation>
+    </message>
+    <message>
+        <source>its members cannot be read: the file is damaged</source>
+        <translation>ses membres sont illisibles&#xa0;: le fichier est endommagé</translation>
+    </message>
+    <message>
+        <source>its members are those of another ensemble: another survey or section, other settings or another seed</source>
+        <translation>ses membres sont ceux d&apos;un autre ensemble&#xa0;: un autre levé ou une autre coupe, d&apos;autres réglages ou une autre graine</translation>
+    </message>
+    <message>
+        <source>its member %1 is done already, others are not; only sets of members that share none can be put together</source>
+        <translation>son membre %1 est déjà calculé, d&apos;autres ne le sont pas&#xa0;; seuls des jeux de membres qui n&apos;en partagent aucun peuvent être réunis</translation>
+    </message>
+    <message>
+        <source>its members cannot be those of this ensemble</source>
+        <translation>ses membres ne peuvent pas être ceux de cet ensemble</translation>
+    </message>
+    <message>
+        <source>the first layer of its layered profile has one velocity</source>
+        <translation>la première couche de son profil en couches a une seule vitesse</translation>
+    </message>
+    <message>
+        <source>such a first layer cannot be</source>
+        <translation>une telle première couche est impossible</translation>
+    </message>
+    <message>
+        <source>it belongs to another layered profile</source>
+        <translation>elle appartient à un autre profil en couches</translation>
+    </message>
+    <message>
+        <source>Layer %1, medians of %2 places: %3; %4</source>
+        <translation>Couche %1, médianes de %2 points&#xa0;: %3&#xa0;; %4</translation>
+    </message>
+    <message>
+        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, coefficient de Poisson %4</translation>
+    </message>
+    <message>
+        <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
+        <translation>masse volumique %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, les profondeurs de son toit selon P et selon S diffèrent de plus de %4&#xa0;% (leur médiane y est de %5 m selon P, %6 m selon S). Les ondes P voient souvent la nappe, les ondes S non&#xa0;: le même numéro peut désigner des terrains différents.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, une vitesse n&apos;est pas connue.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there. Are P and S exchanged, or is S a P wave?</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, S n&apos;est pas plus lente que P, ce qu&apos;aucun terrain ne présente&#xa0;: ni coefficient de Poisson, ni E0, ni K à ces endroits. P et S sont-elles échangées, ou S est-elle une onde P&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, Vp/Vs est inférieur à 1,41 et le coefficient de Poisson négatif, ce qui n&apos;est le cas ni des sols ni des roches&#xa0;: les vitesses sont de terrains différents, ou fausses.</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
+        <translation>La relation de Gardner a été établie pour des roches plus rapides que 1500 m/s&#xa0;; en %1 points sur %2, Vp est inférieure et la masse volumique approximative.</translation>
+    </message>
+    <message>
+        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
+        <translation>Les surfaces de P et de S sont distantes de %1 m au plus, à %2 m&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
+    </message>
+    <message>
+        <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
+        <translation>D&apos;après leurs enregistrements, le projet de P est d&apos;ondes S, et celui de S ne l&apos;est pas&#xa0;: ils sont peut-être échangés.</translation>
+    </message>
+    <message>
+        <source>The recordings of both projects are of S waves.</source>
+        <translation>Les enregistrements des deux projets sont d&apos;ondes S.</translation>
+    </message>
+    <message>
+        <source>The places of P and S on the map are given in different systems (EPSG:%1 and EPSG:%2) and were not compared.</source>
+        <translation>Les positions de P et de S sur la carte sont données dans des systèmes différents (EPSG:%1 et EPSG:%2) et n&apos;ont pas été comparées.</translation>
+    </message>
+    <message>
+        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Les mêmes distances de P et de S sont éloignées de %1 m au plus sur la carte&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
+    </message>
+    <message>
+        <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Le projet de P n&apos;a pas de profil en couches&#xa0;: construisez d&apos;abord ses profils dans la boîte de dialogue de réfraction.</translation>
+    </message>
+    <message>
+        <source>The project of S has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Le projet de S n&apos;a pas de profil en couches&#xa0;: construisez d&apos;abord ses profils dans la boîte de dialogue de réfraction.</translation>
+    </message>
+    <message>
+        <source>P and S have no place in common: P was interpreted from %1, S from %2 along the line.</source>
+        <translation>P et S n&apos;ont aucun point commun&#xa0;: le long de la ligne, P est interprétée de %1, S de %2.</translation>
+    </message>
+    <message>
+        <source>Layer %1: P and S have no place in common.</source>
+        <translation>Couche %1&#xa0;: P et S n&apos;ont aucun point commun.</translation>
+    </message>
+    <message>
+        <source>P has %1 layers and S has %2; what lies below layer %3 is known of one wave only and left out.</source>
+        <translation>P a %1 couches et S en a %2&#xa0;; ce qui est sous la couche %3 n&apos;est connu que d&apos;une onde et est écarté.</translation>
+    </message>
+    <message>
+        <source>the curves of layer %1 follow the lines of shots %2 and %3, which give %4 and %5 ms for the way between these shots</source>
+        <translation>les courbes de la couche %1 suivent les lignes des tirs %2 et %3, qui donnent %4 et %5 ms pour le trajet entre ces tirs</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
+        <translation>le profil ne s&apos;ajuste à ses pointés qu&apos;à %1 ms près, les ondes de la proposition à %2 ms près&#xa0;: il s&apos;en écarte à partir du tir %3, à %4 m</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
+        <translation>le profil ne s&apos;ajuste à ses pointés qu&apos;à %1 ms près, les ondes de la proposition à %2 ms près&#xa0;: il s&apos;en écarte le plus au tir %3, à %4 m</translation>
+    </message>
+    <message>
+        <source>the delays of the waves change so fast along the line that no boundary has them all</source>
+        <translation>les retards des ondes changent si vite le long de la ligne qu&apos;aucune interface ne les explique tous</translation>
+    </message>
+    <message>
+        <source>reciprocal</source>
+        <translation>méthode réciproque</translation>
+    </message>
+    <message>
+        <source>delay times</source>
+        <translation>temps de retard</translation>
+    </message>
+    <message>
+        <source>intercept times</source>
+        <translation>temps d&apos;intercept</translation>
+    </message>
+    <message>
+        <source>plus-minus</source>
+        <translation>plus-minus</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
+        <translation>Couche %1&#xa0;: les profondeurs diffèrent le plus à %2 m, de %3 m (%4) à %5 m (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
+        <translation>Couche %1&#xa0;: les vitesses diffèrent le plus à %2 m, de %3 m/s (%4) à %5 m/s (%6)</translation>
+    </message>
+    <message>
+        <source>to the right of shot %1</source>
+        <translation>à droite du tir %1</translation>
+    </message>
+    <message>
+        <source>to the right of shots %1</source>
+        <translation>à droite des tirs %1</translation>
+    </message>
+    <message>
+        <source>to the left of shot %1</source>
+        <translation>à gauche du tir %1</translation>
+    </message>
+    <message>
+        <source>to the left of shots %1</source>
+        <translation>à gauche des tirs %1</translation>
+    </message>
+    <message>
+        <source>layer %1 rests on fewer than four picks (their number in brackets) %2</source>
+        <translation>la couche %1 repose sur moins de quatre pointés (leur nombre entre parenthèses) %2</translation>
+    </message>
+    <message>
+        <source>1 pick fits no layer and is given to none (shot/trace): %1</source>
+        <translation>1 pointé ne s&apos;accorde avec aucune couche et n&apos;est attribué à aucune (tir/trace)&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robuste</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>non robuste</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>par blocs</translation>
+    </message>
+    <message>
+        <source>smooth</source>
+        <translation>lisse</translation>
+    </message>
+    <message>
+        <source>shots shifted</source>
+        <translation>tirs décalés</translation>
+    </message>
+    <message>
+        <source>no shot shifted</source>
+        <translation>aucun tir décalé</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 cells of P lie where the section of S shows none.</source>
+        <translation>%1 des %2 cellules de P se trouvent là où la coupe de S n&apos;en montre aucune.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there.</source>
+        <translation>Dans %1 cellules sur %2, S n&apos;est pas plus lente que P, ce qu&apos;aucun terrain ne présente&#xa0;: ni coefficient de Poisson, ni E0, ni K à ces endroits.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not.</source>
+        <translation>Dans %1 cellules sur %2, Vp/Vs est inférieur à 1,41 et le coefficient de Poisson négatif, ce qui n&apos;est le cas ni des sols ni des roches.</translation>
+    </message>
+    <message>
+        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
+        <translation>Les surfaces des coupes de P et de S sont distantes de %1 m au plus, à %2 m&#xa0;; les cellules sont appariées selon leur profondeur sous elles.</translation>
+    </message>
+    <message>
+        <source>A section has no layers: all of it has the first density.</source>
+        <translation>Une coupe n&apos;a pas de couches&#xa0;: elle a partout la première masse volumique.</translation>
+    </message>
+    <message>
+        <source>The project of P has no section.</source>
+        <translation>Le projet de P n&apos;a pas de coupe.</translation>
+    </message>
+    <message>
+        <source>The project of S has no section.</source>
+        <translation>Le projet de S n&apos;a pas de coupe.</translation>
+    </message>
+    <message>
+        <source>The sections of P and S have no cell in common.</source>
+        <translation>Les coupes de P et de S n&apos;ont aucune cellule commune.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -11638,6 +12077,58 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Table (*.csv)</source>
         <translation>Tableau (*.csv)</translation>
+    </message>
+    <message>
+        <source>P and S together ...</source>
+        <translation>P et S ensemble ...</translation>
+    </message>
+    <message>
+        <source>Put the layers of this survey and those of a project of the other wave together: Vp/Vs, Poisson&apos;s ratio and moduli along the line</source>
+        <translation>Réunir les couches de ce levé et celles d&apos;un projet de l&apos;autre onde&#xa0;: Vp/Vs, coefficient de Poisson et modules le long de la ligne</translation>
+    </message>
+    <message>
+        <source>There are no times through the layers: build the profiles anew.</source>
+        <translation>Il n&apos;y a pas de temps à travers les couches&#xa0;: reconstruisez les profils.</translation>
+    </message>
+    <message>
+        <source>Project of the other wave</source>
+        <translation>Projet de l&apos;autre onde</translation>
+    </message>
+    <message>
+        <source>This is the project that is open.</source>
+        <translation>C&apos;est le projet qui est ouvert.</translation>
+    </message>
+    <message>
+        <source>Choose the project of the other wave, P or S, along the same line.</source>
+        <translation>Choisissez le projet de l&apos;autre onde, P ou S, le long de la même ligne.</translation>
+    </message>
+    <message>
+        <source>%1 has no layered profile.</source>
+        <translation>%1 n&apos;a pas de profil en couches.</translation>
+    </message>
+    <message>
+        <source>Open it, build its profiles in the refraction dialog, and save it.</source>
+        <translation>Ouvrez-le, construisez ses profils dans la boîte de dialogue de réfraction et enregistrez-le.</translation>
+    </message>
+    <message>
+        <source>this survey</source>
+        <translation>ce levé</translation>
+    </message>
+    <message>
+        <source>Save picture of P and S</source>
+        <translation>Enregistrer l&apos;image de P et S</translation>
+    </message>
+    <message>
+        <source>Save table of P and S</source>
+        <translation>Enregistrer le tableau de P et S</translation>
+    </message>
+    <message>
+        <source>Save picture of layers by method</source>
+        <translation>Enregistrer l&apos;image des couches selon la méthode</translation>
+    </message>
+    <message>
+        <source>Save table of layers by method</source>
+        <translation>Enregistrer le tableau des couches selon la méthode</translation>
     </message>
 </context>
 <context>
