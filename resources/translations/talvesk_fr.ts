@@ -102,16 +102,27 @@
         <source>How sure the section is stays unknown.</source>
         <translation>La certitude de la coupe reste inconnue.</translation>
     </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continuer</translation>
+    </message>
     <message numerus="yes">
-        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <source>%n member(s) of this seed are done; Continue goes on with more.</source>
         <translation>
-            <numerusform>Arrêté avec %n membre&#xa0;; «&#xa0;Démarrer&#xa0;» reprend à partir de là.</numerusform>
-            <numerusform>Arrêté avec %n membres&#xa0;; «&#xa0;Démarrer&#xa0;» reprend à partir de là.</numerusform>
+            <numerusform>%n membre de cette graine est calculé&#xa0;; «&#xa0;Continuer&#xa0;» en ajoute d&apos;autres.</numerusform>
+            <numerusform>%n membres de cette graine sont calculés&#xa0;; «&#xa0;Continuer&#xa0;» en ajoute d&apos;autres.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Continue goes on from there.</source>
+        <translation>
+            <numerusform>Arrêté avec %n membre&#xa0;; «&#xa0;Continuer&#xa0;» reprend à partir de là.</numerusform>
+            <numerusform>Arrêté avec %n membres&#xa0;; «&#xa0;Continuer&#xa0;» reprend à partir de là.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Stopped before the first member was done; Start goes on.</source>
-        <translation>Arrêté avant la fin du premier membre&#xa0;; «&#xa0;Démarrer&#xa0;» reprend.</translation>
+        <source>Stopped before the first member was done; Continue goes on.</source>
+        <translation>Arrêté avant la fin du premier membre&#xa0;; «&#xa0;Continuer&#xa0;» reprend.</translation>
     </message>
 </context>
 <context>
@@ -918,6 +929,224 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::ElasticDialog</name>
+    <message>
+        <source>P and S together</source>
+        <translation>P et S ensemble</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Ondes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Which of the two projects is of P waves and which of S waves. The program guesses it from the recordings, else from the velocities.</source>
+        <translation>Lequel des deux projets est d&apos;ondes P et lequel d&apos;ondes S. Le programme le devine d&apos;après les enregistrements, sinon d&apos;après les vitesses.</translation>
+    </message>
+    <message>
+        <source>Take another project for the other wave</source>
+        <translation>Prendre un autre projet pour l&apos;autre onde</translation>
+    </message>
+    <message>
+        <source>&amp;Other project ...</source>
+        <translation>&amp;Autre projet ...</translation>
+    </message>
+    <message>
+        <source>Shi&amp;ft S by:</source>
+        <translation>&amp;Décaler S de&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Metres added to distances of S</source>
+        <translation>Mètres ajoutés aux distances de S</translation>
+    </message>
+    <message>
+        <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
+        <translation>Ce qui s&apos;ajoute aux distances de S, dont la ligne commence ailleurs, pour obtenir celles de P</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>&amp;Depths may differ by:</source>
+        <translation>Écart de &amp;profondeur admis&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Percent that depths may differ by</source>
+        <translation>Pour cent dont les profondeurs peuvent différer</translation>
+    </message>
+    <message>
+        <source>Difference between the depths of a layer by P and by S, as a share of their mean, beyond which both may be different ground: that is marked and said, and nothing is left out</source>
+        <translation>Différence entre les profondeurs d&apos;une couche selon P et selon S, en part de leur moyenne, au-delà de laquelle il peut s&apos;agir de terrains différents&#xa0;: c&apos;est marqué et signalé, et rien n&apos;est écarté</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>&#xa0;%</translation>
+    </message>
+    <message>
+        <source>D&amp;ensity:</source>
+        <translation>Masse &amp;volumique&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A number for each layer, or 310 Vp^0.25 in kg/m3, which Gardner and others (1974) found for rocks faster than 1500 m/s</source>
+        <translation>Un nombre par couche, ou 310 Vp^0.25 en kg/m3, relation que Gardner et al. (1974) ont établie pour des roches plus rapides que 1500 m/s</translation>
+    </message>
+    <message>
+        <source>Of each layer</source>
+        <translation>De chaque couche</translation>
+    </message>
+    <message>
+        <source>From Vp, by Gardner&apos;s rule</source>
+        <translation>D&apos;après Vp, par la relation de Gardner</translation>
+    </message>
+    <message>
+        <source>1:</source>
+        <translation>1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Density of layer 1</source>
+        <translation>Masse volumique de la couche 1</translation>
+    </message>
+    <message>
+        <source> kg/m3</source>
+        <translation> kg/m3</translation>
+    </message>
+    <message>
+        <source>2:</source>
+        <translation>2&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Density of layer 2</source>
+        <translation>Masse volumique de la couche 2</translation>
+    </message>
+    <message>
+        <source>3:</source>
+        <translation>3&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Density of layer 3</source>
+        <translation>Masse volumique de la couche 3</translation>
+    </message>
+    <message>
+        <source>Standard deviations of all that follows from the velocities, by 100 interpretations of picks that are moved by their errors</source>
+        <translation>Écarts types de tout ce qui découle des vitesses, d&apos;après 100 interprétations de pointés déplacés selon leurs erreurs</translation>
+    </message>
+    <message>
+        <source>Errors from the pic&amp;ks</source>
+        <translation>&amp;Erreurs d&apos;après les pointés</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Couche&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Which layers picture and table show</source>
+        <translation>Les couches que montrent l&apos;image et le tableau</translation>
+    </message>
+    <message>
+        <source>P and S along the line</source>
+        <translation>P et S le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; moduli of small strains: shear G0, Young&apos;s E0, bulk K, constrained M</source>
+        <translation>Profondeurs sous la surface&#xa0;; modules aux petites déformations&#xa0;: cisaillement G0, Young E0, incompressibilité K, œdométrique M</translation>
+    </message>
+    <message>
+        <source>Copy the table as it stands here, for a spreadsheet</source>
+        <translation>Copier le tableau tel qu&apos;il est affiché, pour un tableur</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Copie&amp;r le tableau</translation>
+    </message>
+    <message>
+        <source>Save the table as CSV, in metres, m/s, kg/m3 and MPa</source>
+        <translation>Enregistrer le tableau en CSV, en mètres, m/s, kg/m3 et MPa</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Enregistrer le &amp;tableau ...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Enregistrer les courbes en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>Enregistrer l&apos;&amp;image ...</translation>
+    </message>
+    <message>
+        <source>Interpreting moved picks ...</source>
+        <translation>Interprétation des pointés déplacés ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>P: %1, S: %2</source>
+        <translation>P&#xa0;: %1, S&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Couche %1</translation>
+    </message>
+    <message>
+        <source>Picks of %1 have changed since its layers were built.</source>
+        <translation>Les pointés de %1 ont changé depuis la construction de ses couches.</translation>
+    </message>
+    <message>
+        <source>It has no errors.</source>
+        <translation>Ce projet est donc sans erreurs.</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distance [m]</translation>
+    </message>
+    <message>
+        <source>Depth by P [m]</source>
+        <translation>Profondeur selon P [m]</translation>
+    </message>
+    <message>
+        <source>Depth by S [m]</source>
+        <translation>Profondeur selon S [m]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ: it may be different ground.</source>
+        <translation>Les profondeurs selon P et S diffèrent&#xa0;: ce sont peut-être des terrains différents.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ErrorBands</name>
+    <message>
+        <source>&amp;Error bands</source>
+        <translation>Bandes d&apos;&amp;erreur</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>How far depths and velocities scatter as picks are moved by their errors, over %1 interpretations</source>
+        <translation>Dispersion des profondeurs et des vitesses lorsque les pointés sont déplacés selon leurs erreurs, sur %1 interprétations</translation>
+    </message>
+    <message>
+        <source>No errors could be found: the profile is not that of the picks and marks. Build it again.</source>
+        <translation>Aucune erreur n&apos;a pu être calculée&#xa0;: le profil n&apos;est pas celui des pointés et des attributions. Reconstruisez-le.</translation>
+    </message>
+    <message>
+        <source>Bands: 68 of %1 interpretations of picks that were moved by their errors</source>
+        <translation>Bandes&#xa0;: 68 interprétations sur %1, de pointés déplacés selon leurs erreurs</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ExportTomoVelData</name>
     <message>
         <source>Set optional shift parameter before export</source>
@@ -1389,6 +1618,130 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Fixed bodies</source>
         <translation>Corps fixes</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Vp/Vs</source>
+        <translation>Vp/Vs</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>Coefficient de Poisson</translation>
+    </message>
+    <message>
+        <source>G0, E0 [MPa]</source>
+        <translation>G0, E0 [MPa]</translation>
+    </message>
+    <message>
+        <source>K, M [MPa]</source>
+        <translation>K, M [MPa]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ</source>
+        <translation>Profondeurs selon P et S différentes</translation>
+    </message>
+    <message>
+        <source>No ground: Vp/Vs below 1.41</source>
+        <translation>Sol impossible&#xa0;: Vp/Vs inférieur à 1,41</translation>
+    </message>
+    <message>
+        <source>Bars: one standard deviation, of the picks</source>
+        <translation>Barres&#xa0;: un écart type, celui des pointés</translation>
+    </message>
+    <message>
+        <source>Vp</source>
+        <translation>Vp</translation>
+    </message>
+    <message>
+        <source>Vs</source>
+        <translation>Vs</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Masse volumique</translation>
+    </message>
+    <message>
+        <source>G0</source>
+        <translation>G0</translation>
+    </message>
+    <message>
+        <source>E0</source>
+        <translation>E0</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>kg/m3</source>
+        <translation>kg/m3</translation>
+    </message>
+    <message>
+        <source>MPa</source>
+        <translation>MPa</translation>
+    </message>
+    <message>
+        <source>Density from Vp by Gardner&apos;s rule</source>
+        <translation>Masse volumique d&apos;après Vp, par la relation de Gardner</translation>
+    </message>
+    <message>
+        <source>Density %1 kg/m3</source>
+        <translation>Masse volumique %1 kg/m3</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Couche %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 ± %3 m/s</source>
+        <translation>Couche %1, %2 ± %3 m/s</translation>
+    </message>
+    <message>
+        <source>Dashed: not carried by picks there</source>
+        <translation>Tirets&#xa0;: sans appui de pointés à cet endroit</translation>
+    </message>
+    <message>
+        <source>Error of the picks (68 of 100)</source>
+        <translation>Erreur due aux pointés (68 sur 100)</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profondeur [m]</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface</source>
+        <translation>Les profondeurs sont comptées sous la surface</translation>
+    </message>
+    <message>
+        <source>dashed: not carried by picks there</source>
+        <translation>tirets&#xa0;: sans appui de pointés à cet endroit</translation>
+    </message>
+    <message>
+        <source>hollow marks: layer 3</source>
+        <translation>symboles vides&#xa0;: couche 3</translation>
+    </message>
+    <message>
+        <source>shaded: 68 of 100 results of moved picks</source>
+        <translation>zones teintées&#xa0;: 68 résultats sur 100 de pointés déplacés</translation>
+    </message>
+    <message>
+        <source>dashed: times through the layers</source>
+        <translation>tirets&#xa0;: temps à travers les couches</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Couches</translation>
     </message>
 </context>
 <context>
@@ -2270,6 +2623,129 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::LayerMethodsDialog</name>
+    <message>
+        <source>Compare methods</source>
+        <translation>Comparer les méthodes</translation>
+    </message>
+    <message>
+        <source>I&amp;nterpretations for error bands:</source>
+        <translation>Interprétations pour les &amp;bandes d&apos;erreur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The layers are interpreted as often again, by picks that are moved by their errors. How far the results scatter is the error of depth and velocity, and tells whether methods disagree by more than that.</source>
+        <translation>Les couches sont réinterprétées autant de fois, avec des pointés déplacés selon leurs erreurs. La dispersion des résultats est l&apos;erreur de la profondeur et de la vitesse, et dit si les méthodes divergent davantage que cela.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>&amp;Résumé</translation>
+    </message>
+    <message>
+        <source>Medians by method</source>
+        <translation>Médianes selon la méthode</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Méthode</translation>
+    </message>
+    <message>
+        <source>Median velocity
+[m/s]</source>
+        <translation>Vitesse médiane
+[m/s]</translation>
+    </message>
+    <message>
+        <source>Median depth
+[m]</source>
+        <translation>Profondeur médiane
+[m]</translation>
+    </message>
+    <message>
+        <source>Geophones
+with a depth</source>
+        <translation>Géophones avec
+une profondeur</translation>
+    </message>
+    <message>
+        <source>Of these not
+carried by picks</source>
+        <translation>Dont sans appui
+de pointés</translation>
+    </message>
+    <message>
+        <source>How far methods agree, and their remarks</source>
+        <translation>Accord des méthodes et leurs remarques</translation>
+    </message>
+    <message>
+        <source>Layer &amp;2</source>
+        <translation>Couche &amp;2</translation>
+    </message>
+    <message>
+        <source>Layer 2 by method</source>
+        <translation>Couche 2 selon la méthode</translation>
+    </message>
+    <message>
+        <source>Layer &amp;3</source>
+        <translation>Couche &amp;3</translation>
+    </message>
+    <message>
+        <source>Layer 3 by method</source>
+        <translation>Couche 3 selon la méthode</translation>
+    </message>
+    <message>
+        <source>Save the picture as PNG, SVG or PDF</source>
+        <translation>Enregistrer l&apos;image en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>Save p&amp;icture ...</source>
+        <translation>Enregistrer l&apos;&amp;image ...</translation>
+    </message>
+    <message>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
+        <translation>Enregistrer en CSV les profondeurs et vitesses de toutes les couches et méthodes aux géophones</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Enregistrer le &amp;tableau ...</translation>
+    </message>
+    <message>
+        <source>Copy the same table for a spreadsheet</source>
+        <translation>Copier le même tableau pour un tableur</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>&amp;Copier le tableau</translation>
+    </message>
+    <message>
+        <source>Layers are being interpreted...</source>
+        <translation>Interprétation des couches en cours...</translation>
+    </message>
+    <message>
+        <source>Stopped: no error bands.</source>
+        <translation>Arrêté&#xa0;: pas de bandes d&apos;erreur.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>no pick is assigned to a refractor.</source>
+        <translation>aucun pointé n&apos;est attribué à un réfracteur.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
@@ -2825,10 +3301,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
         <translation>Il ne reste aucune couche&#xa0;: la profondeur finale d&apos;une couche doit être supérieure à sa profondeur initiale, et celle-ci ne doit pas être négative.</translation>
-    </message>
-    <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation>Les couches ne forment pas un modèle de vitesse. Classez-les par profondeur, sans chevauchement, chacune de plus de 0,02 m d&apos;épaisseur. %1</translation>
     </message>
     <message>
         <source>The grid of the layered model could not be built.</source>
@@ -5971,14 +6443,6 @@ Veuillez définir la position des géophones
         <translation>trois couches s&apos;ajustent mieux, mais les deux bouts de la ligne n&apos;ont pas chacun un tir avec des pointés de la couche intermédiaire&#xa0;: deux couches sont proposées</translation>
     </message>
     <message>
-        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>tir %1, à sa droite&#xa0;: la couche %2 repose sur moins de quatre pointés (%3)</translation>
-    </message>
-    <message>
-        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>tir %1, à sa gauche&#xa0;: la couche %2 repose sur moins de quatre pointés (%3)</translation>
-    </message>
-    <message>
         <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
         <translation>%1 pointés ne s&apos;accordent avec aucune couche et ne sont attribués à aucune (tir/trace)&#xa0;: %2</translation>
     </message>
@@ -6149,6 +6613,250 @@ Veuillez définir la position des géophones
     <message>
         <source>Section, %1 m/s</source>
         <translation>Coupe, %1 m/s</translation>
+    </message>
+    <message>
+        <source>The methods could not be compared: %1</source>
+        <translation>Les méthodes n&apos;ont pas pu être comparées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>P and S have no velocity in common to draw.</source>
+        <translation>P et S n&apos;ont aucune vitesse commune à dessiner.</translation>
+    </message>
+    <message>
+        <source>No method gives a depth.</source>
+        <translation>Aucune méthode ne donne de profondeur.</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
+        <translation>Les couches ne forment pas un modèle de vitesse. Classez-les par profondeur, sans chevauchement, chacune de plus de 0,02 m d&apos;épaisseur.</translation>
+    </message>
+    <message>
+        <source>this is no file with the members of an ensemble</source>
+        <translation>ce n&apos;est pas un fichier de membres d&apos;un ensemble</translation>
+    </message>
+    <message>
+        <source>its members cannot be read: the file is damaged</source>
+        <translation>ses membres sont illisibles&#xa0;: le fichier est endommagé</translation>
+    </message>
+    <message>
+        <source>its members are those of another ensemble: another survey or section, other settings or another seed</source>
+        <translation>ses membres sont ceux d&apos;un autre ensemble&#xa0;: un autre levé ou une autre coupe, d&apos;autres réglages ou une autre graine</translation>
+    </message>
+    <message>
+        <source>its member %1 is done already, others are not; only sets of members that share none can be put together</source>
+        <translation>son membre %1 est déjà calculé, d&apos;autres ne le sont pas&#xa0;; seuls des jeux de membres qui n&apos;en partagent aucun peuvent être réunis</translation>
+    </message>
+    <message>
+        <source>its members cannot be those of this ensemble</source>
+        <translation>ses membres ne peuvent pas être ceux de cet ensemble</translation>
+    </message>
+    <message>
+        <source>the first layer of its layered profile has one velocity</source>
+        <translation>la première couche de son profil en couches a une seule vitesse</translation>
+    </message>
+    <message>
+        <source>such a first layer cannot be</source>
+        <translation>une telle première couche est impossible</translation>
+    </message>
+    <message>
+        <source>it belongs to another layered profile</source>
+        <translation>elle appartient à un autre profil en couches</translation>
+    </message>
+    <message>
+        <source>Layer %1, medians of %2 places: %3; %4</source>
+        <translation>Couche %1, médianes de %2 points&#xa0;: %3&#xa0;; %4</translation>
+    </message>
+    <message>
+        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, coefficient de Poisson %4</translation>
+    </message>
+    <message>
+        <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
+        <translation>masse volumique %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, les profondeurs de son toit selon P et selon S diffèrent de plus de %4&#xa0;% (leur médiane y est de %5 m selon P, %6 m selon S). Les ondes P voient souvent la nappe, les ondes S non&#xa0;: le même numéro peut désigner des terrains différents.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, une vitesse n&apos;est pas connue.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there. Are P and S exchanged, or is S a P wave?</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, S n&apos;est pas plus lente que P, ce qu&apos;aucun terrain ne présente&#xa0;: ni coefficient de Poisson, ni E0, ni K à ces endroits. P et S sont-elles échangées, ou S est-elle une onde P&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, Vp/Vs est inférieur à 1,41 et le coefficient de Poisson négatif, ce qui n&apos;est le cas ni des sols ni des roches&#xa0;: les vitesses sont de terrains différents, ou fausses.</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
+        <translation>La relation de Gardner a été établie pour des roches plus rapides que 1500 m/s&#xa0;; en %1 points sur %2, Vp est inférieure et la masse volumique approximative.</translation>
+    </message>
+    <message>
+        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
+        <translation>Les surfaces de P et de S sont distantes de %1 m au plus, à %2 m&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
+    </message>
+    <message>
+        <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
+        <translation>D&apos;après leurs enregistrements, le projet de P est d&apos;ondes S, et celui de S ne l&apos;est pas&#xa0;: ils sont peut-être échangés.</translation>
+    </message>
+    <message>
+        <source>The recordings of both projects are of S waves.</source>
+        <translation>Les enregistrements des deux projets sont d&apos;ondes S.</translation>
+    </message>
+    <message>
+        <source>The places of P and S on the map are given in different systems (EPSG:%1 and EPSG:%2) and were not compared.</source>
+        <translation>Les positions de P et de S sur la carte sont données dans des systèmes différents (EPSG:%1 et EPSG:%2) et n&apos;ont pas été comparées.</translation>
+    </message>
+    <message>
+        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Les mêmes distances de P et de S sont éloignées de %1 m au plus sur la carte&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
+    </message>
+    <message>
+        <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Le projet de P n&apos;a pas de profil en couches&#xa0;: construisez d&apos;abord ses profils dans la boîte de dialogue de réfraction.</translation>
+    </message>
+    <message>
+        <source>The project of S has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Le projet de S n&apos;a pas de profil en couches&#xa0;: construisez d&apos;abord ses profils dans la boîte de dialogue de réfraction.</translation>
+    </message>
+    <message>
+        <source>P and S have no place in common: P was interpreted from %1, S from %2 along the line.</source>
+        <translation>P et S n&apos;ont aucun point commun&#xa0;: le long de la ligne, P est interprétée de %1, S de %2.</translation>
+    </message>
+    <message>
+        <source>Layer %1: P and S have no place in common.</source>
+        <translation>Couche %1&#xa0;: P et S n&apos;ont aucun point commun.</translation>
+    </message>
+    <message>
+        <source>P has %1 layers and S has %2; what lies below layer %3 is known of one wave only and left out.</source>
+        <translation>P a %1 couches et S en a %2&#xa0;; ce qui est sous la couche %3 n&apos;est connu que d&apos;une onde et est écarté.</translation>
+    </message>
+    <message>
+        <source>the curves of layer %1 follow the lines of shots %2 and %3, which give %4 and %5 ms for the way between these shots</source>
+        <translation>les courbes de la couche %1 suivent les lignes des tirs %2 et %3, qui donnent %4 et %5 ms pour le trajet entre ces tirs</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
+        <translation>le profil ne s&apos;ajuste à ses pointés qu&apos;à %1 ms près, les ondes de la proposition à %2 ms près&#xa0;: il s&apos;en écarte à partir du tir %3, à %4 m</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
+        <translation>le profil ne s&apos;ajuste à ses pointés qu&apos;à %1 ms près, les ondes de la proposition à %2 ms près&#xa0;: il s&apos;en écarte le plus au tir %3, à %4 m</translation>
+    </message>
+    <message>
+        <source>the delays of the waves change so fast along the line that no boundary has them all</source>
+        <translation>les retards des ondes changent si vite le long de la ligne qu&apos;aucune interface ne les explique tous</translation>
+    </message>
+    <message>
+        <source>reciprocal</source>
+        <translation>méthode réciproque</translation>
+    </message>
+    <message>
+        <source>delay times</source>
+        <translation>temps de retard</translation>
+    </message>
+    <message>
+        <source>intercept times</source>
+        <translation>temps d&apos;intercept</translation>
+    </message>
+    <message>
+        <source>plus-minus</source>
+        <translation>plus-minus</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
+        <translation>Couche %1&#xa0;: les profondeurs diffèrent le plus à %2 m, de %3 m (%4) à %5 m (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
+        <translation>Couche %1&#xa0;: les vitesses diffèrent le plus à %2 m, de %3 m/s (%4) à %5 m/s (%6)</translation>
+    </message>
+    <message>
+        <source>to the right of shot %1</source>
+        <translation>à droite du tir %1</translation>
+    </message>
+    <message>
+        <source>to the right of shots %1</source>
+        <translation>à droite des tirs %1</translation>
+    </message>
+    <message>
+        <source>to the left of shot %1</source>
+        <translation>à gauche du tir %1</translation>
+    </message>
+    <message>
+        <source>to the left of shots %1</source>
+        <translation>à gauche des tirs %1</translation>
+    </message>
+    <message>
+        <source>layer %1 rests on fewer than four picks (their number in brackets) %2</source>
+        <translation>la couche %1 repose sur moins de quatre pointés (leur nombre entre parenthèses) %2</translation>
+    </message>
+    <message>
+        <source>1 pick fits no layer and is given to none (shot/trace): %1</source>
+        <translation>1 pointé ne s&apos;accorde avec aucune couche et n&apos;est attribué à aucune (tir/trace)&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robuste</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>non robuste</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>par blocs</translation>
+    </message>
+    <message>
+        <source>smooth</source>
+        <translation>lisse</translation>
+    </message>
+    <message>
+        <source>shots shifted</source>
+        <translation>tirs décalés</translation>
+    </message>
+    <message>
+        <source>no shot shifted</source>
+        <translation>aucun tir décalé</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 cells of P lie where the section of S shows none.</source>
+        <translation>%1 des %2 cellules de P se trouvent là où la coupe de S n&apos;en montre aucune.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there.</source>
+        <translation>Dans %1 cellules sur %2, S n&apos;est pas plus lente que P, ce qu&apos;aucun terrain ne présente&#xa0;: ni coefficient de Poisson, ni E0, ni K à ces endroits.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not.</source>
+        <translation>Dans %1 cellules sur %2, Vp/Vs est inférieur à 1,41 et le coefficient de Poisson négatif, ce qui n&apos;est le cas ni des sols ni des roches.</translation>
+    </message>
+    <message>
+        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
+        <translation>Les surfaces des coupes de P et de S sont distantes de %1 m au plus, à %2 m&#xa0;; les cellules sont appariées selon leur profondeur sous elles.</translation>
+    </message>
+    <message>
+        <source>A section has no layers: all of it has the first density.</source>
+        <translation>Une coupe n&apos;a pas de couches&#xa0;: elle a partout la première masse volumique.</translation>
+    </message>
+    <message>
+        <source>The project of P has no section.</source>
+        <translation>Le projet de P n&apos;a pas de coupe.</translation>
+    </message>
+    <message>
+        <source>The project of S has no section.</source>
+        <translation>Le projet de S n&apos;a pas de coupe.</translation>
+    </message>
+    <message>
+        <source>The sections of P and S have no cell in common.</source>
+        <translation>Les coupes de P et de S n&apos;ont aucune cellule commune.</translation>
     </message>
 </context>
 <context>
@@ -6367,6 +7075,57 @@ Veuillez définir la position des géophones
     <message>
         <source>Take minimum and maximum from the velocities of the section</source>
         <translation>Prendre le minimum et le maximum des vitesses de la coupe</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ProfileTable</name>
+    <message>
+        <source>picks</source>
+        <translation>pointés</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>fantôme</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacune</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolongement</translation>
+    </message>
+    <message>
+        <source>Picks of the shots at both ends of the line carry it.</source>
+        <translation>S&apos;appuie sur des pointés des tirs aux deux extrémités de la ligne.</translation>
+    </message>
+    <message>
+        <source>Shifted arrivals of other shots carry it.</source>
+        <translation>S&apos;appuie sur des arrivées décalées d&apos;autres tirs.</translation>
+    </message>
+    <message>
+        <source>It lies across more than two spacings without arrivals.</source>
+        <translation>Se trouve dans une lacune sans arrivées de plus de deux espacements.</translation>
+    </message>
+    <message>
+        <source>It continues what lies beside it, beyond the last arrivals.</source>
+        <translation>Prolonge ce qui est à côté, au-delà des dernières arrivées.</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Depth %1 (m)</source>
+        <translation>Profondeur %1 (m)</translation>
+    </message>
+    <message>
+        <source>V %1 (m/s)</source>
+        <translation>V %1 (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Appui profondeur %1</translation>
     </message>
 </context>
 <context>
@@ -7173,17 +7932,29 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
         <translation>%1 m&#xa0;: rugosité de tV %2 ms, irrégularité de la vitesse %3&#xa0;%</translation>
     </message>
+    <message>
+        <source>Depths and velocities</source>
+        <translation>Profondeurs et vitesses</translation>
+    </message>
+    <message>
+        <source>Compare &amp;methods ...</source>
+        <translation>Comparer les &amp;méthodes ...</translation>
+    </message>
+    <message>
+        <source>Layers from the marks by other methods beside the reciprocal one: delay times, intercept times and plus-minus</source>
+        <translation>Couches tirées des attributions par d&apos;autres méthodes que la réciproque&#xa0;: temps de retard, temps d&apos;intercept et plus-minus</translation>
+    </message>
+    <message>
+        <source>There is no profile yet.</source>
+        <translation>Il n&apos;y a pas encore de profil.</translation>
+    </message>
+    <message>
+        <source>Picks or marks have changed: build the profiles again.</source>
+        <translation>Les pointés ou les attributions ont changé&#xa0;: reconstruisez les profils.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
-    <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Couche %1, %2 m/s</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Couche %1</translation>
-    </message>
     <message>
         <source>Geophones</source>
         <translation>Géophones</translation>
@@ -8093,6 +8864,58 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Residuals of the picks, shot by geophone</source>
         <translation>Résidus des pointés, par tir et géophone</translation>
+    </message>
+    <message>
+        <source>Layer %1 [ms]</source>
+        <translation>Couche %1 [ms]</translation>
+    </message>
+    <message>
+        <source>No misfit of the layers is told: they have no depth, or were built from other picks or marks than those of now.</source>
+        <translation>L&apos;écart des couches n&apos;est pas indiqué&#xa0;: elles n&apos;ont pas de profondeur, ou ont été construites avec d&apos;autres pointés ou attributions que ceux d&apos;à présent.</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers differ from the picks by %1 ms (RMS of %2 picks; mean of picks less computed times %3 ms; chi-square %4).</source>
+        <translation>Les temps calculés à travers les couches diffèrent des pointés de %1 ms (RMS de %2 pointés&#xa0;; moyenne des pointés moins temps calculés %3 ms&#xa0;; khi-deux %4).</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the layers, by shot (number of picks)</source>
+        <translation>Écart quadratique moyen des couches, par tir (nombre de pointés)</translation>
+    </message>
+    <message>
+        <source>Depth of refractors by method</source>
+        <translation>Profondeur des réfracteurs selon la méthode</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>pointés</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>fantôme</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacune</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolongement</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Appui profondeur %1</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, is not carried by picks of the shots at both ends there: but by shifted arrivals of other shots (phantom), across more than two spacings without arrivals (gap), or by a continuation beyond the last ones.</source>
+        <translation>Une valeur entre parenthèses, et une ligne en tirets, ne s&apos;appuie pas à cet endroit sur des pointés des tirs aux deux extrémités, mais sur des arrivées décalées d&apos;autres tirs (fantôme), à travers plus de deux espacements sans arrivées (lacune), ou par prolongement au-delà des dernières (prolongement).</translation>
+    </message>
+    <message>
+        <source>Errors, and the bands round the lines, are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations.</source>
+        <translation>Les erreurs, et les bandes autour des lignes, sont la moitié de la largeur où se trouvent 68 résultats sur 100 lorsque les pointés sont déplacés selon leurs erreurs, d&apos;après %1 interprétations de ce genre.</translation>
+    </message>
+    <message>
+        <source>Median velocity of refractor %1</source>
+        <translation>Vitesse médiane du réfracteur %1</translation>
     </message>
 </context>
 <context>
@@ -11255,6 +12078,58 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Table (*.csv)</source>
         <translation>Tableau (*.csv)</translation>
     </message>
+    <message>
+        <source>P and S together ...</source>
+        <translation>P et S ensemble ...</translation>
+    </message>
+    <message>
+        <source>Put the layers of this survey and those of a project of the other wave together: Vp/Vs, Poisson&apos;s ratio and moduli along the line</source>
+        <translation>Réunir les couches de ce levé et celles d&apos;un projet de l&apos;autre onde&#xa0;: Vp/Vs, coefficient de Poisson et modules le long de la ligne</translation>
+    </message>
+    <message>
+        <source>There are no times through the layers: build the profiles anew.</source>
+        <translation>Il n&apos;y a pas de temps à travers les couches&#xa0;: reconstruisez les profils.</translation>
+    </message>
+    <message>
+        <source>Project of the other wave</source>
+        <translation>Projet de l&apos;autre onde</translation>
+    </message>
+    <message>
+        <source>This is the project that is open.</source>
+        <translation>C&apos;est le projet qui est ouvert.</translation>
+    </message>
+    <message>
+        <source>Choose the project of the other wave, P or S, along the same line.</source>
+        <translation>Choisissez le projet de l&apos;autre onde, P ou S, le long de la même ligne.</translation>
+    </message>
+    <message>
+        <source>%1 has no layered profile.</source>
+        <translation>%1 n&apos;a pas de profil en couches.</translation>
+    </message>
+    <message>
+        <source>Open it, build its profiles in the refraction dialog, and save it.</source>
+        <translation>Ouvrez-le, construisez ses profils dans la boîte de dialogue de réfraction et enregistrez-le.</translation>
+    </message>
+    <message>
+        <source>this survey</source>
+        <translation>ce levé</translation>
+    </message>
+    <message>
+        <source>Save picture of P and S</source>
+        <translation>Enregistrer l&apos;image de P et S</translation>
+    </message>
+    <message>
+        <source>Save table of P and S</source>
+        <translation>Enregistrer le tableau de P et S</translation>
+    </message>
+    <message>
+        <source>Save picture of layers by method</source>
+        <translation>Enregistrer l&apos;image des couches selon la méthode</translation>
+    </message>
+    <message>
+        <source>Save table of layers by method</source>
+        <translation>Enregistrer le tableau des couches selon la méthode</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -11408,6 +12283,73 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Error: %1 ms</source>
         <translation>Erreur&#xa0;: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>Co&amp;uches</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers of the refraction interpretation</source>
+        <translation>Temps calculés à travers les couches de l&apos;interprétation en réfraction</translation>
+    </message>
+    <message>
+        <source>There are no layers of these picks: build the profiles of the refraction interpretation (anew).</source>
+        <translation>Il n&apos;y a pas de couches pour ces pointés&#xa0;: construisez (ou reconstruisez) les profils de l&apos;interprétation en réfraction.</translation>
+    </message>
+    <message>
+        <source>Layers: %1 ms</source>
+        <translation>Couches&#xa0;: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::XYCriteria</name>
+    <message>
+        <source>XY (m)</source>
+        <translation>XY (m)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV</source>
+        <translation>Rugosité de tV</translation>
+    </message>
+    <message>
+        <source>RMS (ms)</source>
+        <translation>RMS (ms)</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity</source>
+        <translation>Irrégularité de la vitesse</translation>
+    </message>
+    <message>
+        <source>RMS (%)</source>
+        <translation>RMS (%)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV against XY</source>
+        <translation>Rugosité de tV en fonction de XY</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity against XY</source>
+        <translation>Irrégularité de la vitesse en fonction de XY</translation>
+    </message>
+    <message>
+        <source>Click to choose it</source>
+        <translation>Cliquer pour le choisir</translation>
+    </message>
+    <message>
+        <source>No XY can be judged: forward and reverse curve have too few geophones in common.</source>
+        <translation>Aucun XY ne peut être jugé&#xa0;: les courbes directe et inverse ont trop peu de géophones en commun.</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet.</source>
+        <translation>Rien n&apos;est encore construit.</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>choisi</translation>
+    </message>
+    <message>
+        <source>proposed</source>
+        <translation>proposé</translation>
     </message>
 </context>
 <context>
