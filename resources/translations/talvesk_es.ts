@@ -918,6 +918,201 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
 </context>
 <context>
+    <name>talvesk::ElasticDialog</name>
+    <message>
+        <source>P and S together</source>
+        <translation>P y S juntas</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Ondas:</translation>
+    </message>
+    <message>
+        <source>Which of the two projects is of P waves and which of S waves. The program guesses it from the recordings, else from the velocities.</source>
+        <translation>Cuál de los dos proyectos es de ondas P y cuál de ondas S. El programa lo deduce de los registros o, si no, de las velocidades.</translation>
+    </message>
+    <message>
+        <source>Take another project for the other wave</source>
+        <translation>Toma otro proyecto para la otra onda</translation>
+    </message>
+    <message>
+        <source>&amp;Other project ...</source>
+        <translation>Otro pro&amp;yecto ...</translation>
+    </message>
+    <message>
+        <source>Shi&amp;ft S by:</source>
+        <translation>Despla&amp;zar S:</translation>
+    </message>
+    <message>
+        <source>Metres added to distances of S</source>
+        <translation>Metros que se suman a las distancias de S</translation>
+    </message>
+    <message>
+        <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
+        <translation>Lo que se suma a las distancias de S, cuya línea empieza en otro punto, para obtener las de P</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>&amp;Depths may differ by:</source>
+        <translation>Diferencia de &amp;profundidad admitida:</translation>
+    </message>
+    <message>
+        <source>Percent that depths may differ by</source>
+        <translation>Porcentaje en que pueden diferir las profundidades</translation>
+    </message>
+    <message>
+        <source>Difference between the depths of a layer by P and by S, as a share of their mean, beyond which both may be different ground: that is marked and said, and nothing is left out</source>
+        <translation>Diferencia entre las profundidades de una capa según P y según S, en proporción a su media, a partir de la cual ambas pueden ser terrenos distintos: se marca y se indica, y no se excluye nada</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>D&amp;ensity:</source>
+        <translation>D&amp;ensidad:</translation>
+    </message>
+    <message>
+        <source>A number for each layer, or 310 Vp^0.25 in kg/m3, which Gardner and others (1974) found for rocks faster than 1500 m/s</source>
+        <translation>Un valor para cada capa, o 310 Vp^0,25 en kg/m3, que Gardner y otros (1974) hallaron para rocas de más de 1500 m/s</translation>
+    </message>
+    <message>
+        <source>Of each layer</source>
+        <translation>De cada capa</translation>
+    </message>
+    <message>
+        <source>From Vp, by Gardner&apos;s rule</source>
+        <translation>A partir de Vp, por la relación de Gardner</translation>
+    </message>
+    <message>
+        <source>1:</source>
+        <translation>1:</translation>
+    </message>
+    <message>
+        <source>Density of layer 1</source>
+        <translation>Densidad de la capa 1</translation>
+    </message>
+    <message>
+        <source> kg/m3</source>
+        <translation> kg/m3</translation>
+    </message>
+    <message>
+        <source>2:</source>
+        <translation>2:</translation>
+    </message>
+    <message>
+        <source>Density of layer 2</source>
+        <translation>Densidad de la capa 2</translation>
+    </message>
+    <message>
+        <source>3:</source>
+        <translation>3:</translation>
+    </message>
+    <message>
+        <source>Density of layer 3</source>
+        <translation>Densidad de la capa 3</translation>
+    </message>
+    <message>
+        <source>Standard deviations of all that follows from the velocities, by 100 interpretations of picks that are moved by their errors</source>
+        <translation>Desviaciones estándar de todo lo que se deriva de las velocidades, con 100 interpretaciones de picados desplazados según sus errores</translation>
+    </message>
+    <message>
+        <source>Errors from the pic&amp;ks</source>
+        <translation>Erro&amp;res a partir de los picados</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Capa:</translation>
+    </message>
+    <message>
+        <source>Which layers picture and table show</source>
+        <translation>Qué capas muestran la imagen y la tabla</translation>
+    </message>
+    <message>
+        <source>P and S along the line</source>
+        <translation>P y S a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; moduli of small strains: shear G0, Young&apos;s E0, bulk K, constrained M</source>
+        <translation>Profundidades bajo la superficie; módulos a pequeñas deformaciones: de corte G0, de Young E0, volumétrico K, edométrico M</translation>
+    </message>
+    <message>
+        <source>Copy the table as it stands here, for a spreadsheet</source>
+        <translation>Copia la tabla tal como está aquí, para una hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Copi&amp;ar tabla</translation>
+    </message>
+    <message>
+        <source>Save the table as CSV, in metres, m/s, kg/m3 and MPa</source>
+        <translation>Guarda la tabla como CSV, en metros, m/s, kg/m3 y MPa</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Guardar &amp;tabla ...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Guarda las curvas como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>Guardar &amp;imagen ...</translation>
+    </message>
+    <message>
+        <source>Interpreting moved picks ...</source>
+        <translation>Interpretando picados desplazados ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>P: %1, S: %2</source>
+        <translation>P: %1, S: %2</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Capa %1</translation>
+    </message>
+    <message>
+        <source>Picks of %1 have changed since its layers were built.</source>
+        <translation>Los picados de %1 han cambiado desde que se construyeron sus capas.</translation>
+    </message>
+    <message>
+        <source>It has no errors.</source>
+        <translation>No tiene errores calculados.</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Capa</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distancia [m]</translation>
+    </message>
+    <message>
+        <source>Depth by P [m]</source>
+        <translation>Profundidad según P [m]</translation>
+    </message>
+    <message>
+        <source>Depth by S [m]</source>
+        <translation>Profundidad según S [m]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ: it may be different ground.</source>
+        <translation>Las profundidades según P y S difieren: puede ser un terreno distinto.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ExportTomoVelData</name>
     <message>
         <source>Set optional shift parameter before export</source>
@@ -1389,6 +1584,130 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Fixed bodies</source>
         <translation>Cuerpos fijos</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Vp/Vs</source>
+        <translation>Vp/Vs</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>Coeficiente de Poisson</translation>
+    </message>
+    <message>
+        <source>G0, E0 [MPa]</source>
+        <translation>G0, E0 [MPa]</translation>
+    </message>
+    <message>
+        <source>K, M [MPa]</source>
+        <translation>K, M [MPa]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ</source>
+        <translation>Las profundidades según P y S difieren</translation>
+    </message>
+    <message>
+        <source>No ground: Vp/Vs below 1.41</source>
+        <translation>Terreno imposible: Vp/Vs menor que 1,41</translation>
+    </message>
+    <message>
+        <source>Bars: one standard deviation, of the picks</source>
+        <translation>Barras: una desviación estándar, por los errores de los picados</translation>
+    </message>
+    <message>
+        <source>Vp</source>
+        <translation>Vp</translation>
+    </message>
+    <message>
+        <source>Vs</source>
+        <translation>Vs</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Densidad</translation>
+    </message>
+    <message>
+        <source>G0</source>
+        <translation>G0</translation>
+    </message>
+    <message>
+        <source>E0</source>
+        <translation>E0</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>kg/m3</source>
+        <translation>kg/m3</translation>
+    </message>
+    <message>
+        <source>MPa</source>
+        <translation>MPa</translation>
+    </message>
+    <message>
+        <source>Density from Vp by Gardner&apos;s rule</source>
+        <translation>Densidad a partir de Vp por la relación de Gardner</translation>
+    </message>
+    <message>
+        <source>Density %1 kg/m3</source>
+        <translation>Densidad %1 kg/m3</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Capa %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 ± %3 m/s</source>
+        <translation>Capa %1, %2 ± %3 m/s</translation>
+    </message>
+    <message>
+        <source>Dashed: not carried by picks there</source>
+        <translation>Línea discontinua: sin picados que la respalden</translation>
+    </message>
+    <message>
+        <source>Error of the picks (68 of 100)</source>
+        <translation>Error por los picados (68 de 100)</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profundidad [m]</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface</source>
+        <translation>Profundidades bajo la superficie</translation>
+    </message>
+    <message>
+        <source>dashed: not carried by picks there</source>
+        <translation>línea discontinua: sin picados que la respalden</translation>
+    </message>
+    <message>
+        <source>hollow marks: layer 3</source>
+        <translation>símbolos huecos: capa 3</translation>
+    </message>
+    <message>
+        <source>shaded: 68 of 100 results of moved picks</source>
+        <translation>sombreado: 68 de cada 100 resultados con picados desplazados</translation>
+    </message>
+    <message>
+        <source>dashed: times through the layers</source>
+        <translation>línea discontinua: tiempos a través de las capas</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Capas</translation>
     </message>
 </context>
 <context>
@@ -11254,6 +11573,58 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Table (*.csv)</source>
         <translation>Tabla (*.csv)</translation>
+    </message>
+    <message>
+        <source>P and S together ...</source>
+        <translation>P y S juntas ...</translation>
+    </message>
+    <message>
+        <source>Put the layers of this survey and those of a project of the other wave together: Vp/Vs, Poisson&apos;s ratio and moduli along the line</source>
+        <translation>Reúne las capas de este levantamiento y las de un proyecto de la otra onda: Vp/Vs, coeficiente de Poisson y módulos a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>There are no times through the layers: build the profiles anew.</source>
+        <translation>No hay tiempos a través de las capas: vuelva a construir los perfiles.</translation>
+    </message>
+    <message>
+        <source>Project of the other wave</source>
+        <translation>Proyecto de la otra onda</translation>
+    </message>
+    <message>
+        <source>This is the project that is open.</source>
+        <translation>Es el proyecto que está abierto.</translation>
+    </message>
+    <message>
+        <source>Choose the project of the other wave, P or S, along the same line.</source>
+        <translation>Elija el proyecto de la otra onda, P o S, a lo largo de la misma línea.</translation>
+    </message>
+    <message>
+        <source>%1 has no layered profile.</source>
+        <translation>%1 no tiene perfil de capas.</translation>
+    </message>
+    <message>
+        <source>Open it, build its profiles in the refraction dialog, and save it.</source>
+        <translation>Ábralo, construya sus perfiles en el cuadro de diálogo de refracción y guárdelo.</translation>
+    </message>
+    <message>
+        <source>this survey</source>
+        <translation>este levantamiento</translation>
+    </message>
+    <message>
+        <source>Save picture of P and S</source>
+        <translation>Guardar imagen de P y S</translation>
+    </message>
+    <message>
+        <source>Save table of P and S</source>
+        <translation>Guardar tabla de P y S</translation>
+    </message>
+    <message>
+        <source>Save picture of layers by method</source>
+        <translation>Guardar imagen de las capas por método</translation>
+    </message>
+    <message>
+        <source>Save table of layers by method</source>
+        <translation>Guardar tabla de las capas por método</translation>
     </message>
 </context>
 <context>
