@@ -3146,10 +3146,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>No queda ninguna capa: la profundidad final de una capa debe ser mayor que la inicial, y esta no puede ser negativa.</translation>
     </message>
     <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation>Las capas no forman un modelo de velocidad. Ordénelas por profundidad, sin solapes y con más de 0,02 m de espesor cada una. %1</translation>
-    </message>
-    <message>
         <source>The grid of the layered model could not be built.</source>
         <translation>No se ha podido construir la malla del modelo de capas.</translation>
     </message>
@@ -6290,14 +6286,6 @@ Defina la posición de los geófonos
         <translation>tres capas se ajustan mejor, pero no hay en cada extremo de la línea un disparo con picados de la capa intermedia: se proponen dos capas</translation>
     </message>
     <message>
-        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>disparo %1, a su derecha: la capa %2 se apoya en menos de cuatro picados (%3)</translation>
-    </message>
-    <message>
-        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>disparo %1, a su izquierda: la capa %2 se apoya en menos de cuatro picados (%3)</translation>
-    </message>
-    <message>
         <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
         <translation>%1 picados no encajan en ninguna capa y no se asignan (disparo/traza): %2</translation>
     </message>
@@ -6468,6 +6456,250 @@ Defina la posición de los geófonos
     <message>
         <source>Section, %1 m/s</source>
         <translation>Sección, %1 m/s</translation>
+    </message>
+    <message>
+        <source>The methods could not be compared: %1</source>
+        <translation>No se han podido comparar los métodos: %1</translation>
+    </message>
+    <message>
+        <source>P and S have no velocity in common to draw.</source>
+        <translation>P y S no tienen ninguna velocidad en común que dibujar.</translation>
+    </message>
+    <message>
+        <source>No method gives a depth.</source>
+        <translation>Ningún método da una profundidad.</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
+        <translation>Las capas no forman un modelo de velocidad. Ordénelas por profundidad, sin solapes y con más de 0,02 m de espesor cada una.</translation>
+    </message>
+    <message>
+        <source>this is no file with the members of an ensemble</source>
+        <translation>no es un archivo con los miembros de un conjunto de secciones</translation>
+    </message>
+    <message>
+        <source>its members cannot be read: the file is damaged</source>
+        <translation>no se pueden leer sus miembros: el archivo está dañado</translation>
+    </message>
+    <message>
+        <source>its members are those of another ensemble: another survey or section, other settings or another seed</source>
+        <translation>sus miembros son los de otro conjunto: otro levantamiento u otra sección, otros ajustes u otra semilla</translation>
+    </message>
+    <message>
+        <source>its member %1 is done already, others are not; only sets of members that share none can be put together</source>
+        <translation>su miembro %1 ya está terminado y otros no; solo se pueden reunir grupos que no compartan ningún miembro</translation>
+    </message>
+    <message>
+        <source>its members cannot be those of this ensemble</source>
+        <translation>sus miembros no pueden ser los de este conjunto</translation>
+    </message>
+    <message>
+        <source>the first layer of its layered profile has one velocity</source>
+        <translation>la primera capa de su perfil de capas tiene una sola velocidad</translation>
+    </message>
+    <message>
+        <source>such a first layer cannot be</source>
+        <translation>una primera capa así es imposible</translation>
+    </message>
+    <message>
+        <source>it belongs to another layered profile</source>
+        <translation>corresponde a otro perfil de capas</translation>
+    </message>
+    <message>
+        <source>Layer %1, medians of %2 places: %3; %4</source>
+        <translation>Capa %1, medianas de %2 puntos: %3; %4</translation>
+    </message>
+    <message>
+        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, coeficiente de Poisson %4</translation>
+    </message>
+    <message>
+        <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
+        <translation>densidad %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Capa %1: en %2 de %3 puntos las profundidades de su techo según P y según S difieren en más de un %4 % (mediana ahí: %5 m según P, %6 m según S). Las ondas P suelen ver el nivel freático y las ondas S no: el mismo número puede ser un terreno distinto.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
+        <translation>Capa %1: en %2 de %3 puntos no se conoce una velocidad.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there. Are P and S exchanged, or is S a P wave?</source>
+        <translation>Capa %1: en %2 de %3 puntos S no es más lenta que P, lo que no ocurre en ningún terreno: ahí no hay coeficiente de Poisson, E0 ni K. ¿Están intercambiadas P y S, o es S una onda P?</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
+        <translation>Capa %1: en %2 de %3 puntos Vp/Vs es menor que 1,41 y el coeficiente de Poisson negativo, lo que no ocurre en suelos ni rocas: las velocidades son de terrenos distintos o erróneas.</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
+        <translation>La relación de Gardner se halló para rocas de más de 1500 m/s; en %1 de %2 puntos Vp es menor, y la densidad, una conjetura.</translation>
+    </message>
+    <message>
+        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
+        <translation>Las superficies de P y S distan hasta %1 m, en %2 m: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
+    </message>
+    <message>
+        <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
+        <translation>Según sus registros, el proyecto de P es de ondas S y el de S no: quizá estén intercambiados.</translation>
+    </message>
+    <message>
+        <source>The recordings of both projects are of S waves.</source>
+        <translation>Los registros de ambos proyectos son de ondas S.</translation>
+    </message>
+    <message>
+        <source>The places of P and S on the map are given in different systems (EPSG:%1 and EPSG:%2) and were not compared.</source>
+        <translation>Las posiciones de P y S en el mapa están en sistemas distintos (EPSG:%1 y EPSG:%2) y no se han comparado.</translation>
+    </message>
+    <message>
+        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Las mismas distancias de P y S distan hasta %1 m en el mapa: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
+    </message>
+    <message>
+        <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>El proyecto de P no tiene perfil de capas: construya antes sus perfiles en el cuadro de diálogo de refracción.</translation>
+    </message>
+    <message>
+        <source>The project of S has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>El proyecto de S no tiene perfil de capas: construya antes sus perfiles en el cuadro de diálogo de refracción.</translation>
+    </message>
+    <message>
+        <source>P and S have no place in common: P was interpreted from %1, S from %2 along the line.</source>
+        <translation>P y S no tienen ningún punto en común: a lo largo de la línea, P se ha interpretado de %1 y S de %2.</translation>
+    </message>
+    <message>
+        <source>Layer %1: P and S have no place in common.</source>
+        <translation>Capa %1: P y S no tienen ningún punto en común.</translation>
+    </message>
+    <message>
+        <source>P has %1 layers and S has %2; what lies below layer %3 is known of one wave only and left out.</source>
+        <translation>P tiene %1 capas y S tiene %2; lo que hay bajo la capa %3 se conoce de una sola onda y se excluye.</translation>
+    </message>
+    <message>
+        <source>the curves of layer %1 follow the lines of shots %2 and %3, which give %4 and %5 ms for the way between these shots</source>
+        <translation>las dromocronas de la capa %1 siguen las líneas de los disparos %2 y %3, que dan %4 y %5 ms para el trayecto entre estos disparos</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
+        <translation>el perfil solo se ajusta a sus picados en %1 ms, y las ondas de la propuesta en %2 ms: se desvía a partir del disparo %3, en %4 m</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
+        <translation>el perfil solo se ajusta a sus picados en %1 ms, y las ondas de la propuesta en %2 ms: donde más se desvía es en el disparo %3, en %4 m</translation>
+    </message>
+    <message>
+        <source>the delays of the waves change so fast along the line that no boundary has them all</source>
+        <translation>los retardos de las ondas cambian tan deprisa a lo largo de la línea que ningún contacto los reproduce todos</translation>
+    </message>
+    <message>
+        <source>reciprocal</source>
+        <translation>recíproco</translation>
+    </message>
+    <message>
+        <source>delay times</source>
+        <translation>tiempos de retardo</translation>
+    </message>
+    <message>
+        <source>intercept times</source>
+        <translation>tiempos de intercepción</translation>
+    </message>
+    <message>
+        <source>plus-minus</source>
+        <translation>más-menos</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
+        <translation>Capa %1: las profundidades difieren más en %2 m, de %3 m (%4) a %5 m (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
+        <translation>Capa %1: las velocidades difieren más en %2 m, de %3 m/s (%4) a %5 m/s (%6)</translation>
+    </message>
+    <message>
+        <source>to the right of shot %1</source>
+        <translation>a la derecha del disparo %1</translation>
+    </message>
+    <message>
+        <source>to the right of shots %1</source>
+        <translation>a la derecha de los disparos %1</translation>
+    </message>
+    <message>
+        <source>to the left of shot %1</source>
+        <translation>a la izquierda del disparo %1</translation>
+    </message>
+    <message>
+        <source>to the left of shots %1</source>
+        <translation>a la izquierda de los disparos %1</translation>
+    </message>
+    <message>
+        <source>layer %1 rests on fewer than four picks (their number in brackets) %2</source>
+        <translation>la capa %1 se apoya en menos de cuatro picados (su número, entre paréntesis) %2</translation>
+    </message>
+    <message>
+        <source>1 pick fits no layer and is given to none (shot/trace): %1</source>
+        <translation>1 picado no encaja en ninguna capa y no se asigna (disparo/traza): %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robusto</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>no robusto</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>por bloques</translation>
+    </message>
+    <message>
+        <source>smooth</source>
+        <translation>suave</translation>
+    </message>
+    <message>
+        <source>shots shifted</source>
+        <translation>disparos desplazados en el tiempo</translation>
+    </message>
+    <message>
+        <source>no shot shifted</source>
+        <translation>ningún disparo desplazado en el tiempo</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 cells of P lie where the section of S shows none.</source>
+        <translation>%1 de las %2 celdas de P están donde la sección de S no muestra ninguna.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there.</source>
+        <translation>En %1 de %2 celdas S no es más lenta que P, lo que no ocurre en ningún terreno: ahí no hay coeficiente de Poisson, E0 ni K.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not.</source>
+        <translation>En %1 de %2 celdas Vp/Vs es menor que 1,41 y el coeficiente de Poisson negativo, lo que no ocurre en suelos ni rocas.</translation>
+    </message>
+    <message>
+        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
+        <translation>Las superficies de las secciones de P y S distan hasta %1 m, en %2 m; las celdas se emparejan por su profundidad bajo ellas.</translation>
+    </message>
+    <message>
+        <source>A section has no layers: all of it has the first density.</source>
+        <translation>Una sección no tiene capas: toda ella recibe la primera densidad.</translation>
+    </message>
+    <message>
+        <source>The project of P has no section.</source>
+        <translation>El proyecto de P no tiene sección.</translation>
+    </message>
+    <message>
+        <source>The project of S has no section.</source>
+        <translation>El proyecto de S no tiene sección.</translation>
+    </message>
+    <message>
+        <source>The sections of P and S have no cell in common.</source>
+        <translation>Las secciones de P y S no tienen ninguna celda en común.</translation>
     </message>
 </context>
 <context>
