@@ -102,16 +102,27 @@
         <source>How sure the section is stays unknown.</source>
         <translation>La certeza de la sección sigue sin conocerse.</translation>
     </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>C&amp;ontinuar</translation>
+    </message>
     <message numerus="yes">
-        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <source>%n member(s) of this seed are done; Continue goes on with more.</source>
         <translation>
-            <numerusform>Detenido con %n miembro; Iniciar continúa desde ahí.</numerusform>
-            <numerusform>Detenido con %n miembros; Iniciar continúa desde ahí.</numerusform>
+            <numerusform>%n miembro de esta semilla terminado; Continuar añade más.</numerusform>
+            <numerusform>%n miembros de esta semilla terminados; Continuar añade más.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Continue goes on from there.</source>
+        <translation>
+            <numerusform>Detenido con %n miembro; Continuar sigue desde ahí.</numerusform>
+            <numerusform>Detenido con %n miembros; Continuar sigue desde ahí.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Stopped before the first member was done; Start goes on.</source>
-        <translation>Detenido antes de terminar el primer miembro; Iniciar continúa.</translation>
+        <source>Stopped before the first member was done; Continue goes on.</source>
+        <translation>Detenido antes de terminar el primer miembro; Continuar sigue desde ahí.</translation>
     </message>
 </context>
 <context>
@@ -1110,6 +1121,29 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Depths by P and S differ: it may be different ground.</source>
         <translation>Las profundidades según P y S difieren: puede ser un terreno distinto.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ErrorBands</name>
+    <message>
+        <source>&amp;Error bands</source>
+        <translation>Bandas de &amp;error</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>How far depths and velocities scatter as picks are moved by their errors, over %1 interpretations</source>
+        <translation>Cuánto se dispersan las profundidades y velocidades al desplazar los picados según sus errores, en %1 interpretaciones</translation>
+    </message>
+    <message>
+        <source>No errors could be found: the profile is not that of the picks and marks. Build it again.</source>
+        <translation>No se han podido hallar los errores: el perfil no corresponde a los picados y las asignaciones. Vuelva a construirlo.</translation>
+    </message>
+    <message>
+        <source>Bands: 68 of %1 interpretations of picks that were moved by their errors</source>
+        <translation>Bandas: 68 de cada %1 interpretaciones con los picados desplazados según sus errores</translation>
     </message>
 </context>
 <context>
@@ -2586,6 +2620,129 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>computed: %1 ms</source>
         <translation>calculado: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::LayerMethodsDialog</name>
+    <message>
+        <source>Compare methods</source>
+        <translation>Comparar métodos</translation>
+    </message>
+    <message>
+        <source>I&amp;nterpretations for error bands:</source>
+        <translation>I&amp;nterpretaciones para las bandas de error:</translation>
+    </message>
+    <message>
+        <source>The layers are interpreted as often again, by picks that are moved by their errors. How far the results scatter is the error of depth and velocity, and tells whether methods disagree by more than that.</source>
+        <translation>Las capas se interpretan otras tantas veces, con los picados desplazados según sus errores. La dispersión de los resultados es el error de la profundidad y la velocidad, e indica si los métodos discrepan en más que eso.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>&amp;Resumen</translation>
+    </message>
+    <message>
+        <source>Medians by method</source>
+        <translation>Medianas por método</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Capa</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Método</translation>
+    </message>
+    <message>
+        <source>Median velocity
+[m/s]</source>
+        <translation>Velocidad mediana
+[m/s]</translation>
+    </message>
+    <message>
+        <source>Median depth
+[m]</source>
+        <translation>Profundidad mediana
+[m]</translation>
+    </message>
+    <message>
+        <source>Geophones
+with a depth</source>
+        <translation>Geófonos
+con profundidad</translation>
+    </message>
+    <message>
+        <source>Of these not
+carried by picks</source>
+        <translation>De ellos, sin
+respaldo de picados</translation>
+    </message>
+    <message>
+        <source>How far methods agree, and their remarks</source>
+        <translation>En qué medida coinciden los métodos, y sus observaciones</translation>
+    </message>
+    <message>
+        <source>Layer &amp;2</source>
+        <translation>Capa &amp;2</translation>
+    </message>
+    <message>
+        <source>Layer 2 by method</source>
+        <translation>Capa 2 por método</translation>
+    </message>
+    <message>
+        <source>Layer &amp;3</source>
+        <translation>Capa &amp;3</translation>
+    </message>
+    <message>
+        <source>Layer 3 by method</source>
+        <translation>Capa 3 por método</translation>
+    </message>
+    <message>
+        <source>Save the picture as PNG, SVG or PDF</source>
+        <translation>Guarda la imagen como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save p&amp;icture ...</source>
+        <translation>Guardar ima&amp;gen ...</translation>
+    </message>
+    <message>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
+        <translation>Guarda como CSV las profundidades y velocidades de todas las capas y métodos en los geófonos</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Guardar &amp;tabla ...</translation>
+    </message>
+    <message>
+        <source>Copy the same table for a spreadsheet</source>
+        <translation>Copia la misma tabla para una hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Copi&amp;ar tabla</translation>
+    </message>
+    <message>
+        <source>Layers are being interpreted...</source>
+        <translation>Se están interpretando las capas...</translation>
+    </message>
+    <message>
+        <source>Stopped: no error bands.</source>
+        <translation>Detenido: sin bandas de error.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>no pick is assigned to a refractor.</source>
+        <translation>ningún picado está asignado a un refractor.</translation>
     </message>
 </context>
 <context>
@@ -6921,6 +7078,57 @@ Defina la posición de los geófonos
     </message>
 </context>
 <context>
+    <name>talvesk::ProfileTable</name>
+    <message>
+        <source>picks</source>
+        <translation>picados</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>hueco</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolongación</translation>
+    </message>
+    <message>
+        <source>Picks of the shots at both ends of the line carry it.</source>
+        <translation>Lo respaldan picados de los disparos de ambos extremos de la línea.</translation>
+    </message>
+    <message>
+        <source>Shifted arrivals of other shots carry it.</source>
+        <translation>Lo respaldan llegadas trasladadas de otros disparos.</translation>
+    </message>
+    <message>
+        <source>It lies across more than two spacings without arrivals.</source>
+        <translation>Cubre más de dos separaciones entre geófonos sin llegadas.</translation>
+    </message>
+    <message>
+        <source>It continues what lies beside it, beyond the last arrivals.</source>
+        <translation>Prolonga lo que hay al lado, más allá de las últimas llegadas.</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Depth %1 (m)</source>
+        <translation>Profundidad %1 (m)</translation>
+    </message>
+    <message>
+        <source>V %1 (m/s)</source>
+        <translation>V %1 (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Profundidad %1 por</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ReadingPanel</name>
     <message>
         <source>Format:</source>
@@ -7724,17 +7932,29 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
         <translation>%1 m: rugosidad de tV %2 ms, irregularidad de la velocidad %3 %</translation>
     </message>
+    <message>
+        <source>Depths and velocities</source>
+        <translation>Profundidades y velocidades</translation>
+    </message>
+    <message>
+        <source>Compare &amp;methods ...</source>
+        <translation>Comparar &amp;métodos ...</translation>
+    </message>
+    <message>
+        <source>Layers from the marks by other methods beside the reciprocal one: delay times, intercept times and plus-minus</source>
+        <translation>Capas a partir de las asignaciones por otros métodos además del recíproco: tiempos de retardo, tiempos de intercepción y más-menos</translation>
+    </message>
+    <message>
+        <source>There is no profile yet.</source>
+        <translation>Aún no hay perfil.</translation>
+    </message>
+    <message>
+        <source>Picks or marks have changed: build the profiles again.</source>
+        <translation>Los picados o las asignaciones han cambiado: vuelva a construir los perfiles.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
-    <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Capa %1, %2 m/s</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Capa %1</translation>
-    </message>
     <message>
         <source>Geophones</source>
         <translation>Geófonos</translation>
@@ -8644,6 +8864,58 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Residuals of the picks, shot by geophone</source>
         <translation>Residuos de los picados, disparo por geófono</translation>
+    </message>
+    <message>
+        <source>Layer %1 [ms]</source>
+        <translation>Capa %1 [ms]</translation>
+    </message>
+    <message>
+        <source>No misfit of the layers is told: they have no depth, or were built from other picks or marks than those of now.</source>
+        <translation>No se indica el desajuste de las capas: no tienen profundidad, o se construyeron con otros picados u otras asignaciones que los actuales.</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers differ from the picks by %1 ms (RMS of %2 picks; mean of picks less computed times %3 ms; chi-square %4).</source>
+        <translation>Los tiempos calculados a través de las capas difieren de los picados en %1 ms (RMS de %2 picados; media de los picados menos los tiempos calculados, %3 ms; chi cuadrado %4).</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the layers, by shot (number of picks)</source>
+        <translation>Desajuste RMS de las capas, por disparo (número de picados)</translation>
+    </message>
+    <message>
+        <source>Depth of refractors by method</source>
+        <translation>Profundidad de los refractores por método</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>picados</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>hueco</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolongación</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Profundidad %1 por</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, is not carried by picks of the shots at both ends there: but by shifted arrivals of other shots (phantom), across more than two spacings without arrivals (gap), or by a continuation beyond the last ones.</source>
+        <translation>Un valor entre paréntesis, o una línea discontinua, no se apoya ahí en picados de los disparos de ambos extremos: procede de llegadas trasladadas de otros disparos (phantom), cubre más de dos separaciones entre geófonos sin llegadas (hueco) o prolonga la línea más allá de las últimas (prolongación).</translation>
+    </message>
+    <message>
+        <source>Errors, and the bands round the lines, are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations.</source>
+        <translation>Los errores, y las bandas en torno a las líneas, son la mitad del ancho dentro del cual caen 68 de cada 100 resultados al desplazar los picados según sus errores, con %1 de estas interpretaciones.</translation>
+    </message>
+    <message>
+        <source>Median velocity of refractor %1</source>
+        <translation>Velocidad mediana del refractor %1</translation>
     </message>
 </context>
 <context>
@@ -12011,6 +12283,73 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Error: %1 ms</source>
         <translation>Error: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>Ca&amp;pas</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers of the refraction interpretation</source>
+        <translation>Tiempos calculados a través de las capas de la interpretación por refracción</translation>
+    </message>
+    <message>
+        <source>There are no layers of these picks: build the profiles of the refraction interpretation (anew).</source>
+        <translation>No hay capas de estos picados: construya (de nuevo) los perfiles de la interpretación por refracción.</translation>
+    </message>
+    <message>
+        <source>Layers: %1 ms</source>
+        <translation>Capas: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::XYCriteria</name>
+    <message>
+        <source>XY (m)</source>
+        <translation>XY (m)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV</source>
+        <translation>Rugosidad de tV</translation>
+    </message>
+    <message>
+        <source>RMS (ms)</source>
+        <translation>RMS (ms)</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity</source>
+        <translation>Irregularidad de la velocidad</translation>
+    </message>
+    <message>
+        <source>RMS (%)</source>
+        <translation>RMS (%)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV against XY</source>
+        <translation>Rugosidad de tV en función de XY</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity against XY</source>
+        <translation>Irregularidad de la velocidad en función de XY</translation>
+    </message>
+    <message>
+        <source>Click to choose it</source>
+        <translation>Clic para elegirla</translation>
+    </message>
+    <message>
+        <source>No XY can be judged: forward and reverse curve have too few geophones in common.</source>
+        <translation>No se puede valorar ninguna XY: las dromocronas directa e inversa tienen muy pocos geófonos en común.</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet.</source>
+        <translation>Aún no se ha construido nada.</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>elegida</translation>
+    </message>
+    <message>
+        <source>proposed</source>
+        <translation>propuesta</translation>
     </message>
 </context>
 <context>
