@@ -102,16 +102,27 @@
         <source>How sure the section is stays unknown.</source>
         <translation>La certeza de la sección sigue sin conocerse.</translation>
     </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>C&amp;ontinuar</translation>
+    </message>
     <message numerus="yes">
-        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <source>%n member(s) of this seed are done; Continue goes on with more.</source>
         <translation>
-            <numerusform>Detenido con %n miembro; Iniciar continúa desde ahí.</numerusform>
-            <numerusform>Detenido con %n miembros; Iniciar continúa desde ahí.</numerusform>
+            <numerusform>%n miembro de esta semilla terminado; Continuar añade más.</numerusform>
+            <numerusform>%n miembros de esta semilla terminados; Continuar añade más.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Continue goes on from there.</source>
+        <translation>
+            <numerusform>Detenido con %n miembro; Continuar sigue desde ahí.</numerusform>
+            <numerusform>Detenido con %n miembros; Continuar sigue desde ahí.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Stopped before the first member was done; Start goes on.</source>
-        <translation>Detenido antes de terminar el primer miembro; Iniciar continúa.</translation>
+        <source>Stopped before the first member was done; Continue goes on.</source>
+        <translation>Detenido antes de terminar el primer miembro; Continuar sigue desde ahí.</translation>
     </message>
 </context>
 <context>
@@ -918,6 +929,224 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
 </context>
 <context>
+    <name>talvesk::ElasticDialog</name>
+    <message>
+        <source>P and S together</source>
+        <translation>P y S juntas</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Ondas:</translation>
+    </message>
+    <message>
+        <source>Which of the two projects is of P waves and which of S waves. The program guesses it from the recordings, else from the velocities.</source>
+        <translation>Cuál de los dos proyectos es de ondas P y cuál de ondas S. El programa lo deduce de los registros o, si no, de las velocidades.</translation>
+    </message>
+    <message>
+        <source>Take another project for the other wave</source>
+        <translation>Toma otro proyecto para la otra onda</translation>
+    </message>
+    <message>
+        <source>&amp;Other project ...</source>
+        <translation>Otro pro&amp;yecto ...</translation>
+    </message>
+    <message>
+        <source>Shi&amp;ft S by:</source>
+        <translation>Despla&amp;zar S:</translation>
+    </message>
+    <message>
+        <source>Metres added to distances of S</source>
+        <translation>Metros que se suman a las distancias de S</translation>
+    </message>
+    <message>
+        <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
+        <translation>Lo que se suma a las distancias de S, cuya línea empieza en otro punto, para obtener las de P</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>&amp;Depths may differ by:</source>
+        <translation>Diferencia de &amp;profundidad admitida:</translation>
+    </message>
+    <message>
+        <source>Percent that depths may differ by</source>
+        <translation>Porcentaje en que pueden diferir las profundidades</translation>
+    </message>
+    <message>
+        <source>Difference between the depths of a layer by P and by S, as a share of their mean, beyond which both may be different ground: that is marked and said, and nothing is left out</source>
+        <translation>Diferencia entre las profundidades de una capa según P y según S, en proporción a su media, a partir de la cual ambas pueden ser terrenos distintos: se marca y se indica, y no se excluye nada</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>D&amp;ensity:</source>
+        <translation>D&amp;ensidad:</translation>
+    </message>
+    <message>
+        <source>A number for each layer, or 310 Vp^0.25 in kg/m3, which Gardner and others (1974) found for rocks faster than 1500 m/s</source>
+        <translation>Un valor para cada capa, o 310 Vp^0,25 en kg/m3, que Gardner y otros (1974) hallaron para rocas de más de 1500 m/s</translation>
+    </message>
+    <message>
+        <source>Of each layer</source>
+        <translation>De cada capa</translation>
+    </message>
+    <message>
+        <source>From Vp, by Gardner&apos;s rule</source>
+        <translation>A partir de Vp, por la relación de Gardner</translation>
+    </message>
+    <message>
+        <source>1:</source>
+        <translation>1:</translation>
+    </message>
+    <message>
+        <source>Density of layer 1</source>
+        <translation>Densidad de la capa 1</translation>
+    </message>
+    <message>
+        <source> kg/m3</source>
+        <translation> kg/m3</translation>
+    </message>
+    <message>
+        <source>2:</source>
+        <translation>2:</translation>
+    </message>
+    <message>
+        <source>Density of layer 2</source>
+        <translation>Densidad de la capa 2</translation>
+    </message>
+    <message>
+        <source>3:</source>
+        <translation>3:</translation>
+    </message>
+    <message>
+        <source>Density of layer 3</source>
+        <translation>Densidad de la capa 3</translation>
+    </message>
+    <message>
+        <source>Standard deviations of all that follows from the velocities, by 100 interpretations of picks that are moved by their errors</source>
+        <translation>Desviaciones estándar de todo lo que se deriva de las velocidades, con 100 interpretaciones de picados desplazados según sus errores</translation>
+    </message>
+    <message>
+        <source>Errors from the pic&amp;ks</source>
+        <translation>Erro&amp;res a partir de los picados</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Capa:</translation>
+    </message>
+    <message>
+        <source>Which layers picture and table show</source>
+        <translation>Qué capas muestran la imagen y la tabla</translation>
+    </message>
+    <message>
+        <source>P and S along the line</source>
+        <translation>P y S a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; moduli of small strains: shear G0, Young&apos;s E0, bulk K, constrained M</source>
+        <translation>Profundidades bajo la superficie; módulos a pequeñas deformaciones: de corte G0, de Young E0, volumétrico K, edométrico M</translation>
+    </message>
+    <message>
+        <source>Copy the table as it stands here, for a spreadsheet</source>
+        <translation>Copia la tabla tal como está aquí, para una hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Copi&amp;ar tabla</translation>
+    </message>
+    <message>
+        <source>Save the table as CSV, in metres, m/s, kg/m3 and MPa</source>
+        <translation>Guarda la tabla como CSV, en metros, m/s, kg/m3 y MPa</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Guardar &amp;tabla ...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Guarda las curvas como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>Guardar &amp;imagen ...</translation>
+    </message>
+    <message>
+        <source>Interpreting moved picks ...</source>
+        <translation>Interpretando picados desplazados ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>P: %1, S: %2</source>
+        <translation>P: %1, S: %2</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Capa %1</translation>
+    </message>
+    <message>
+        <source>Picks of %1 have changed since its layers were built.</source>
+        <translation>Los picados de %1 han cambiado desde que se construyeron sus capas.</translation>
+    </message>
+    <message>
+        <source>It has no errors.</source>
+        <translation>No tiene errores calculados.</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Capa</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distancia [m]</translation>
+    </message>
+    <message>
+        <source>Depth by P [m]</source>
+        <translation>Profundidad según P [m]</translation>
+    </message>
+    <message>
+        <source>Depth by S [m]</source>
+        <translation>Profundidad según S [m]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ: it may be different ground.</source>
+        <translation>Las profundidades según P y S difieren: puede ser un terreno distinto.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ErrorBands</name>
+    <message>
+        <source>&amp;Error bands</source>
+        <translation>Bandas de &amp;error</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>How far depths and velocities scatter as picks are moved by their errors, over %1 interpretations</source>
+        <translation>Cuánto se dispersan las profundidades y velocidades al desplazar los picados según sus errores, en %1 interpretaciones</translation>
+    </message>
+    <message>
+        <source>No errors could be found: the profile is not that of the picks and marks. Build it again.</source>
+        <translation>No se han podido hallar los errores: el perfil no corresponde a los picados y las asignaciones. Vuelva a construirlo.</translation>
+    </message>
+    <message>
+        <source>Bands: 68 of %1 interpretations of picks that were moved by their errors</source>
+        <translation>Bandas: 68 de cada %1 interpretaciones con los picados desplazados según sus errores</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ExportTomoVelData</name>
     <message>
         <source>Set optional shift parameter before export</source>
@@ -1389,6 +1618,130 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Fixed bodies</source>
         <translation>Cuerpos fijos</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Vp/Vs</source>
+        <translation>Vp/Vs</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>Coeficiente de Poisson</translation>
+    </message>
+    <message>
+        <source>G0, E0 [MPa]</source>
+        <translation>G0, E0 [MPa]</translation>
+    </message>
+    <message>
+        <source>K, M [MPa]</source>
+        <translation>K, M [MPa]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ</source>
+        <translation>Las profundidades según P y S difieren</translation>
+    </message>
+    <message>
+        <source>No ground: Vp/Vs below 1.41</source>
+        <translation>Terreno imposible: Vp/Vs menor que 1,41</translation>
+    </message>
+    <message>
+        <source>Bars: one standard deviation, of the picks</source>
+        <translation>Barras: una desviación estándar, por los errores de los picados</translation>
+    </message>
+    <message>
+        <source>Vp</source>
+        <translation>Vp</translation>
+    </message>
+    <message>
+        <source>Vs</source>
+        <translation>Vs</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Densidad</translation>
+    </message>
+    <message>
+        <source>G0</source>
+        <translation>G0</translation>
+    </message>
+    <message>
+        <source>E0</source>
+        <translation>E0</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>kg/m3</source>
+        <translation>kg/m3</translation>
+    </message>
+    <message>
+        <source>MPa</source>
+        <translation>MPa</translation>
+    </message>
+    <message>
+        <source>Density from Vp by Gardner&apos;s rule</source>
+        <translation>Densidad a partir de Vp por la relación de Gardner</translation>
+    </message>
+    <message>
+        <source>Density %1 kg/m3</source>
+        <translation>Densidad %1 kg/m3</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Capa %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 ± %3 m/s</source>
+        <translation>Capa %1, %2 ± %3 m/s</translation>
+    </message>
+    <message>
+        <source>Dashed: not carried by picks there</source>
+        <translation>Línea discontinua: sin picados que la respalden</translation>
+    </message>
+    <message>
+        <source>Error of the picks (68 of 100)</source>
+        <translation>Error por los picados (68 de 100)</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profundidad [m]</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface</source>
+        <translation>Profundidades bajo la superficie</translation>
+    </message>
+    <message>
+        <source>dashed: not carried by picks there</source>
+        <translation>línea discontinua: sin picados que la respalden</translation>
+    </message>
+    <message>
+        <source>hollow marks: layer 3</source>
+        <translation>símbolos huecos: capa 3</translation>
+    </message>
+    <message>
+        <source>shaded: 68 of 100 results of moved picks</source>
+        <translation>sombreado: 68 de cada 100 resultados con picados desplazados</translation>
+    </message>
+    <message>
+        <source>dashed: times through the layers</source>
+        <translation>línea discontinua: tiempos a través de las capas</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Capas</translation>
     </message>
 </context>
 <context>
@@ -2270,6 +2623,129 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
 </context>
 <context>
+    <name>talvesk::LayerMethodsDialog</name>
+    <message>
+        <source>Compare methods</source>
+        <translation>Comparar métodos</translation>
+    </message>
+    <message>
+        <source>I&amp;nterpretations for error bands:</source>
+        <translation>I&amp;nterpretaciones para las bandas de error:</translation>
+    </message>
+    <message>
+        <source>The layers are interpreted as often again, by picks that are moved by their errors. How far the results scatter is the error of depth and velocity, and tells whether methods disagree by more than that.</source>
+        <translation>Las capas se interpretan otras tantas veces, con los picados desplazados según sus errores. La dispersión de los resultados es el error de la profundidad y la velocidad, e indica si los métodos discrepan en más que eso.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>&amp;Resumen</translation>
+    </message>
+    <message>
+        <source>Medians by method</source>
+        <translation>Medianas por método</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Capa</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Método</translation>
+    </message>
+    <message>
+        <source>Median velocity
+[m/s]</source>
+        <translation>Velocidad mediana
+[m/s]</translation>
+    </message>
+    <message>
+        <source>Median depth
+[m]</source>
+        <translation>Profundidad mediana
+[m]</translation>
+    </message>
+    <message>
+        <source>Geophones
+with a depth</source>
+        <translation>Geófonos
+con profundidad</translation>
+    </message>
+    <message>
+        <source>Of these not
+carried by picks</source>
+        <translation>De ellos, sin
+respaldo de picados</translation>
+    </message>
+    <message>
+        <source>How far methods agree, and their remarks</source>
+        <translation>En qué medida coinciden los métodos, y sus observaciones</translation>
+    </message>
+    <message>
+        <source>Layer &amp;2</source>
+        <translation>Capa &amp;2</translation>
+    </message>
+    <message>
+        <source>Layer 2 by method</source>
+        <translation>Capa 2 por método</translation>
+    </message>
+    <message>
+        <source>Layer &amp;3</source>
+        <translation>Capa &amp;3</translation>
+    </message>
+    <message>
+        <source>Layer 3 by method</source>
+        <translation>Capa 3 por método</translation>
+    </message>
+    <message>
+        <source>Save the picture as PNG, SVG or PDF</source>
+        <translation>Guarda la imagen como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save p&amp;icture ...</source>
+        <translation>Guardar ima&amp;gen ...</translation>
+    </message>
+    <message>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
+        <translation>Guarda como CSV las profundidades y velocidades de todas las capas y métodos en los geófonos</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Guardar &amp;tabla ...</translation>
+    </message>
+    <message>
+        <source>Copy the same table for a spreadsheet</source>
+        <translation>Copia la misma tabla para una hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Copi&amp;ar tabla</translation>
+    </message>
+    <message>
+        <source>Layers are being interpreted...</source>
+        <translation>Se están interpretando las capas...</translation>
+    </message>
+    <message>
+        <source>Stopped: no error bands.</source>
+        <translation>Detenido: sin bandas de error.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>no pick is assigned to a refractor.</source>
+        <translation>ningún picado está asignado a un refractor.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
@@ -2825,10 +3301,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
         <translation>No queda ninguna capa: la profundidad final de una capa debe ser mayor que la inicial, y esta no puede ser negativa.</translation>
-    </message>
-    <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation>Las capas no forman un modelo de velocidad. Ordénelas por profundidad, sin solapes y con más de 0,02 m de espesor cada una. %1</translation>
     </message>
     <message>
         <source>The grid of the layered model could not be built.</source>
@@ -5971,14 +6443,6 @@ Defina la posición de los geófonos
         <translation>tres capas se ajustan mejor, pero no hay en cada extremo de la línea un disparo con picados de la capa intermedia: se proponen dos capas</translation>
     </message>
     <message>
-        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>disparo %1, a su derecha: la capa %2 se apoya en menos de cuatro picados (%3)</translation>
-    </message>
-    <message>
-        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>disparo %1, a su izquierda: la capa %2 se apoya en menos de cuatro picados (%3)</translation>
-    </message>
-    <message>
         <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
         <translation>%1 picados no encajan en ninguna capa y no se asignan (disparo/traza): %2</translation>
     </message>
@@ -6149,6 +6613,250 @@ Defina la posición de los geófonos
     <message>
         <source>Section, %1 m/s</source>
         <translation>Sección, %1 m/s</translation>
+    </message>
+    <message>
+        <source>The methods could not be compared: %1</source>
+        <translation>No se han podido comparar los métodos: %1</translation>
+    </message>
+    <message>
+        <source>P and S have no velocity in common to draw.</source>
+        <translation>P y S no tienen ninguna velocidad en común que dibujar.</translation>
+    </message>
+    <message>
+        <source>No method gives a depth.</source>
+        <translation>Ningún método da una profundidad.</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
+        <translation>Las capas no forman un modelo de velocidad. Ordénelas por profundidad, sin solapes y con más de 0,02 m de espesor cada una.</translation>
+    </message>
+    <message>
+        <source>this is no file with the members of an ensemble</source>
+        <translation>no es un archivo con los miembros de un conjunto de secciones</translation>
+    </message>
+    <message>
+        <source>its members cannot be read: the file is damaged</source>
+        <translation>no se pueden leer sus miembros: el archivo está dañado</translation>
+    </message>
+    <message>
+        <source>its members are those of another ensemble: another survey or section, other settings or another seed</source>
+        <translation>sus miembros son los de otro conjunto: otro levantamiento u otra sección, otros ajustes u otra semilla</translation>
+    </message>
+    <message>
+        <source>its member %1 is done already, others are not; only sets of members that share none can be put together</source>
+        <translation>su miembro %1 ya está terminado y otros no; solo se pueden reunir grupos que no compartan ningún miembro</translation>
+    </message>
+    <message>
+        <source>its members cannot be those of this ensemble</source>
+        <translation>sus miembros no pueden ser los de este conjunto</translation>
+    </message>
+    <message>
+        <source>the first layer of its layered profile has one velocity</source>
+        <translation>la primera capa de su perfil de capas tiene una sola velocidad</translation>
+    </message>
+    <message>
+        <source>such a first layer cannot be</source>
+        <translation>una primera capa así es imposible</translation>
+    </message>
+    <message>
+        <source>it belongs to another layered profile</source>
+        <translation>corresponde a otro perfil de capas</translation>
+    </message>
+    <message>
+        <source>Layer %1, medians of %2 places: %3; %4</source>
+        <translation>Capa %1, medianas de %2 puntos: %3; %4</translation>
+    </message>
+    <message>
+        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, coeficiente de Poisson %4</translation>
+    </message>
+    <message>
+        <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
+        <translation>densidad %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Capa %1: en %2 de %3 puntos las profundidades de su techo según P y según S difieren en más de un %4 % (mediana ahí: %5 m según P, %6 m según S). Las ondas P suelen ver el nivel freático y las ondas S no: el mismo número puede ser un terreno distinto.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
+        <translation>Capa %1: en %2 de %3 puntos no se conoce una velocidad.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there. Are P and S exchanged, or is S a P wave?</source>
+        <translation>Capa %1: en %2 de %3 puntos S no es más lenta que P, lo que no ocurre en ningún terreno: ahí no hay coeficiente de Poisson, E0 ni K. ¿Están intercambiadas P y S, o es S una onda P?</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
+        <translation>Capa %1: en %2 de %3 puntos Vp/Vs es menor que 1,41 y el coeficiente de Poisson negativo, lo que no ocurre en suelos ni rocas: las velocidades son de terrenos distintos o erróneas.</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
+        <translation>La relación de Gardner se halló para rocas de más de 1500 m/s; en %1 de %2 puntos Vp es menor, y la densidad, una conjetura.</translation>
+    </message>
+    <message>
+        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
+        <translation>Las superficies de P y S distan hasta %1 m, en %2 m: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
+    </message>
+    <message>
+        <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
+        <translation>Según sus registros, el proyecto de P es de ondas S y el de S no: quizá estén intercambiados.</translation>
+    </message>
+    <message>
+        <source>The recordings of both projects are of S waves.</source>
+        <translation>Los registros de ambos proyectos son de ondas S.</translation>
+    </message>
+    <message>
+        <source>The places of P and S on the map are given in different systems (EPSG:%1 and EPSG:%2) and were not compared.</source>
+        <translation>Las posiciones de P y S en el mapa están en sistemas distintos (EPSG:%1 y EPSG:%2) y no se han comparado.</translation>
+    </message>
+    <message>
+        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Las mismas distancias de P y S distan hasta %1 m en el mapa: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
+    </message>
+    <message>
+        <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>El proyecto de P no tiene perfil de capas: construya antes sus perfiles en el cuadro de diálogo de refracción.</translation>
+    </message>
+    <message>
+        <source>The project of S has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>El proyecto de S no tiene perfil de capas: construya antes sus perfiles en el cuadro de diálogo de refracción.</translation>
+    </message>
+    <message>
+        <source>P and S have no place in common: P was interpreted from %1, S from %2 along the line.</source>
+        <translation>P y S no tienen ningún punto en común: a lo largo de la línea, P se ha interpretado de %1 y S de %2.</translation>
+    </message>
+    <message>
+        <source>Layer %1: P and S have no place in common.</source>
+        <translation>Capa %1: P y S no tienen ningún punto en común.</translation>
+    </message>
+    <message>
+        <source>P has %1 layers and S has %2; what lies below layer %3 is known of one wave only and left out.</source>
+        <translation>P tiene %1 capas y S tiene %2; lo que hay bajo la capa %3 se conoce de una sola onda y se excluye.</translation>
+    </message>
+    <message>
+        <source>the curves of layer %1 follow the lines of shots %2 and %3, which give %4 and %5 ms for the way between these shots</source>
+        <translation>las dromocronas de la capa %1 siguen las líneas de los disparos %2 y %3, que dan %4 y %5 ms para el trayecto entre estos disparos</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
+        <translation>el perfil solo se ajusta a sus picados en %1 ms, y las ondas de la propuesta en %2 ms: se desvía a partir del disparo %3, en %4 m</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
+        <translation>el perfil solo se ajusta a sus picados en %1 ms, y las ondas de la propuesta en %2 ms: donde más se desvía es en el disparo %3, en %4 m</translation>
+    </message>
+    <message>
+        <source>the delays of the waves change so fast along the line that no boundary has them all</source>
+        <translation>los retardos de las ondas cambian tan deprisa a lo largo de la línea que ningún contacto los reproduce todos</translation>
+    </message>
+    <message>
+        <source>reciprocal</source>
+        <translation>recíproco</translation>
+    </message>
+    <message>
+        <source>delay times</source>
+        <translation>tiempos de retardo</translation>
+    </message>
+    <message>
+        <source>intercept times</source>
+        <translation>tiempos de intercepción</translation>
+    </message>
+    <message>
+        <source>plus-minus</source>
+        <translation>más-menos</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
+        <translation>Capa %1: las profundidades difieren más en %2 m, de %3 m (%4) a %5 m (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
+        <translation>Capa %1: las velocidades difieren más en %2 m, de %3 m/s (%4) a %5 m/s (%6)</translation>
+    </message>
+    <message>
+        <source>to the right of shot %1</source>
+        <translation>a la derecha del disparo %1</translation>
+    </message>
+    <message>
+        <source>to the right of shots %1</source>
+        <translation>a la derecha de los disparos %1</translation>
+    </message>
+    <message>
+        <source>to the left of shot %1</source>
+        <translation>a la izquierda del disparo %1</translation>
+    </message>
+    <message>
+        <source>to the left of shots %1</source>
+        <translation>a la izquierda de los disparos %1</translation>
+    </message>
+    <message>
+        <source>layer %1 rests on fewer than four picks (their number in brackets) %2</source>
+        <translation>la capa %1 se apoya en menos de cuatro picados (su número, entre paréntesis) %2</translation>
+    </message>
+    <message>
+        <source>1 pick fits no layer and is given to none (shot/trace): %1</source>
+        <translation>1 picado no encaja en ninguna capa y no se asigna (disparo/traza): %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robusto</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>no robusto</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>por bloques</translation>
+    </message>
+    <message>
+        <source>smooth</source>
+        <translation>suave</translation>
+    </message>
+    <message>
+        <source>shots shifted</source>
+        <translation>disparos desplazados en el tiempo</translation>
+    </message>
+    <message>
+        <source>no shot shifted</source>
+        <translation>ningún disparo desplazado en el tiempo</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 cells of P lie where the section of S shows none.</source>
+        <translation>%1 de las %2 celdas de P están donde la sección de S no muestra ninguna.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there.</source>
+        <translation>En %1 de %2 celdas S no es más lenta que P, lo que no ocurre en ningún terreno: ahí no hay coeficiente de Poisson, E0 ni K.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not.</source>
+        <translation>En %1 de %2 celdas Vp/Vs es menor que 1,41 y el coeficiente de Poisson negativo, lo que no ocurre en suelos ni rocas.</translation>
+    </message>
+    <message>
+        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
+        <translation>Las superficies de las secciones de P y S distan hasta %1 m, en %2 m; las celdas se emparejan por su profundidad bajo ellas.</translation>
+    </message>
+    <message>
+        <source>A section has no layers: all of it has the first density.</source>
+        <translation>Una sección no tiene capas: toda ella recibe la primera densidad.</translation>
+    </message>
+    <message>
+        <source>The project of P has no section.</source>
+        <translation>El proyecto de P no tiene sección.</translation>
+    </message>
+    <message>
+        <source>The project of S has no section.</source>
+        <translation>El proyecto de S no tiene sección.</translation>
+    </message>
+    <message>
+        <source>The sections of P and S have no cell in common.</source>
+        <translation>Las secciones de P y S no tienen ninguna celda en común.</translation>
     </message>
 </context>
 <context>
@@ -6367,6 +7075,57 @@ Defina la posición de los geófonos
     <message>
         <source>Take minimum and maximum from the velocities of the section</source>
         <translation>Toma mínimo y máximo de las velocidades de la sección</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ProfileTable</name>
+    <message>
+        <source>picks</source>
+        <translation>picados</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>hueco</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolongación</translation>
+    </message>
+    <message>
+        <source>Picks of the shots at both ends of the line carry it.</source>
+        <translation>Lo respaldan picados de los disparos de ambos extremos de la línea.</translation>
+    </message>
+    <message>
+        <source>Shifted arrivals of other shots carry it.</source>
+        <translation>Lo respaldan llegadas trasladadas de otros disparos.</translation>
+    </message>
+    <message>
+        <source>It lies across more than two spacings without arrivals.</source>
+        <translation>Cubre más de dos separaciones entre geófonos sin llegadas.</translation>
+    </message>
+    <message>
+        <source>It continues what lies beside it, beyond the last arrivals.</source>
+        <translation>Prolonga lo que hay al lado, más allá de las últimas llegadas.</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Depth %1 (m)</source>
+        <translation>Profundidad %1 (m)</translation>
+    </message>
+    <message>
+        <source>V %1 (m/s)</source>
+        <translation>V %1 (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Profundidad %1 por</translation>
     </message>
 </context>
 <context>
@@ -7173,17 +7932,29 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
         <translation>%1 m: rugosidad de tV %2 ms, irregularidad de la velocidad %3 %</translation>
     </message>
+    <message>
+        <source>Depths and velocities</source>
+        <translation>Profundidades y velocidades</translation>
+    </message>
+    <message>
+        <source>Compare &amp;methods ...</source>
+        <translation>Comparar &amp;métodos ...</translation>
+    </message>
+    <message>
+        <source>Layers from the marks by other methods beside the reciprocal one: delay times, intercept times and plus-minus</source>
+        <translation>Capas a partir de las asignaciones por otros métodos además del recíproco: tiempos de retardo, tiempos de intercepción y más-menos</translation>
+    </message>
+    <message>
+        <source>There is no profile yet.</source>
+        <translation>Aún no hay perfil.</translation>
+    </message>
+    <message>
+        <source>Picks or marks have changed: build the profiles again.</source>
+        <translation>Los picados o las asignaciones han cambiado: vuelva a construir los perfiles.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
-    <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Capa %1, %2 m/s</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Capa %1</translation>
-    </message>
     <message>
         <source>Geophones</source>
         <translation>Geófonos</translation>
@@ -8093,6 +8864,58 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Residuals of the picks, shot by geophone</source>
         <translation>Residuos de los picados, disparo por geófono</translation>
+    </message>
+    <message>
+        <source>Layer %1 [ms]</source>
+        <translation>Capa %1 [ms]</translation>
+    </message>
+    <message>
+        <source>No misfit of the layers is told: they have no depth, or were built from other picks or marks than those of now.</source>
+        <translation>No se indica el desajuste de las capas: no tienen profundidad, o se construyeron con otros picados u otras asignaciones que los actuales.</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers differ from the picks by %1 ms (RMS of %2 picks; mean of picks less computed times %3 ms; chi-square %4).</source>
+        <translation>Los tiempos calculados a través de las capas difieren de los picados en %1 ms (RMS de %2 picados; media de los picados menos los tiempos calculados, %3 ms; chi cuadrado %4).</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the layers, by shot (number of picks)</source>
+        <translation>Desajuste RMS de las capas, por disparo (número de picados)</translation>
+    </message>
+    <message>
+        <source>Depth of refractors by method</source>
+        <translation>Profundidad de los refractores por método</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>picados</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>hueco</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolongación</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Profundidad %1 por</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, is not carried by picks of the shots at both ends there: but by shifted arrivals of other shots (phantom), across more than two spacings without arrivals (gap), or by a continuation beyond the last ones.</source>
+        <translation>Un valor entre paréntesis, o una línea discontinua, no se apoya ahí en picados de los disparos de ambos extremos: procede de llegadas trasladadas de otros disparos (phantom), cubre más de dos separaciones entre geófonos sin llegadas (hueco) o prolonga la línea más allá de las últimas (prolongación).</translation>
+    </message>
+    <message>
+        <source>Errors, and the bands round the lines, are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations.</source>
+        <translation>Los errores, y las bandas en torno a las líneas, son la mitad del ancho dentro del cual caen 68 de cada 100 resultados al desplazar los picados según sus errores, con %1 de estas interpretaciones.</translation>
+    </message>
+    <message>
+        <source>Median velocity of refractor %1</source>
+        <translation>Velocidad mediana del refractor %1</translation>
     </message>
 </context>
 <context>
@@ -11255,6 +12078,58 @@ Do you want to run refraction processing anyway? </source>
         <source>Table (*.csv)</source>
         <translation>Tabla (*.csv)</translation>
     </message>
+    <message>
+        <source>P and S together ...</source>
+        <translation>P y S juntas ...</translation>
+    </message>
+    <message>
+        <source>Put the layers of this survey and those of a project of the other wave together: Vp/Vs, Poisson&apos;s ratio and moduli along the line</source>
+        <translation>Reúne las capas de este levantamiento y las de un proyecto de la otra onda: Vp/Vs, coeficiente de Poisson y módulos a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>There are no times through the layers: build the profiles anew.</source>
+        <translation>No hay tiempos a través de las capas: vuelva a construir los perfiles.</translation>
+    </message>
+    <message>
+        <source>Project of the other wave</source>
+        <translation>Proyecto de la otra onda</translation>
+    </message>
+    <message>
+        <source>This is the project that is open.</source>
+        <translation>Es el proyecto que está abierto.</translation>
+    </message>
+    <message>
+        <source>Choose the project of the other wave, P or S, along the same line.</source>
+        <translation>Elija el proyecto de la otra onda, P o S, a lo largo de la misma línea.</translation>
+    </message>
+    <message>
+        <source>%1 has no layered profile.</source>
+        <translation>%1 no tiene perfil de capas.</translation>
+    </message>
+    <message>
+        <source>Open it, build its profiles in the refraction dialog, and save it.</source>
+        <translation>Ábralo, construya sus perfiles en el cuadro de diálogo de refracción y guárdelo.</translation>
+    </message>
+    <message>
+        <source>this survey</source>
+        <translation>este levantamiento</translation>
+    </message>
+    <message>
+        <source>Save picture of P and S</source>
+        <translation>Guardar imagen de P y S</translation>
+    </message>
+    <message>
+        <source>Save table of P and S</source>
+        <translation>Guardar tabla de P y S</translation>
+    </message>
+    <message>
+        <source>Save picture of layers by method</source>
+        <translation>Guardar imagen de las capas por método</translation>
+    </message>
+    <message>
+        <source>Save table of layers by method</source>
+        <translation>Guardar tabla de las capas por método</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -11408,6 +12283,73 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Error: %1 ms</source>
         <translation>Error: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>Ca&amp;pas</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers of the refraction interpretation</source>
+        <translation>Tiempos calculados a través de las capas de la interpretación por refracción</translation>
+    </message>
+    <message>
+        <source>There are no layers of these picks: build the profiles of the refraction interpretation (anew).</source>
+        <translation>No hay capas de estos picados: construya (de nuevo) los perfiles de la interpretación por refracción.</translation>
+    </message>
+    <message>
+        <source>Layers: %1 ms</source>
+        <translation>Capas: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::XYCriteria</name>
+    <message>
+        <source>XY (m)</source>
+        <translation>XY (m)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV</source>
+        <translation>Rugosidad de tV</translation>
+    </message>
+    <message>
+        <source>RMS (ms)</source>
+        <translation>RMS (ms)</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity</source>
+        <translation>Irregularidad de la velocidad</translation>
+    </message>
+    <message>
+        <source>RMS (%)</source>
+        <translation>RMS (%)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV against XY</source>
+        <translation>Rugosidad de tV en función de XY</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity against XY</source>
+        <translation>Irregularidad de la velocidad en función de XY</translation>
+    </message>
+    <message>
+        <source>Click to choose it</source>
+        <translation>Clic para elegirla</translation>
+    </message>
+    <message>
+        <source>No XY can be judged: forward and reverse curve have too few geophones in common.</source>
+        <translation>No se puede valorar ninguna XY: las dromocronas directa e inversa tienen muy pocos geófonos en común.</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet.</source>
+        <translation>Aún no se ha construido nada.</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>elegida</translation>
+    </message>
+    <message>
+        <source>proposed</source>
+        <translation>propuesta</translation>
     </message>
 </context>
 <context>
