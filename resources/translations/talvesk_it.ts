@@ -102,16 +102,27 @@
         <source>How sure the section is stays unknown.</source>
         <translation>Quanto sia sicura la sezione resta ignoto.</translation>
     </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continua</translation>
+    </message>
     <message numerus="yes">
-        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <source>%n member(s) of this seed are done; Continue goes on with more.</source>
         <translation>
-            <numerusform>Fermato con %n membro; &quot;Avvia&quot; riprende da lì.</numerusform>
-            <numerusform>Fermato con %n membri; &quot;Avvia&quot; riprende da lì.</numerusform>
+            <numerusform>%n membro di questo seme è completato; &quot;Continua&quot; ne aggiunge altri.</numerusform>
+            <numerusform>%n membri di questo seme sono completati; &quot;Continua&quot; ne aggiunge altri.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Continue goes on from there.</source>
+        <translation>
+            <numerusform>Fermato con %n membro; &quot;Continua&quot; riprende da lì.</numerusform>
+            <numerusform>Fermato con %n membri; &quot;Continua&quot; riprende da lì.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Stopped before the first member was done; Start goes on.</source>
-        <translation>Fermato prima di completare il primo membro; &quot;Avvia&quot; riprende.</translation>
+        <source>Stopped before the first member was done; Continue goes on.</source>
+        <translation>Fermato prima di completare il primo membro; &quot;Continua&quot; riprende.</translation>
     </message>
 </context>
 <context>
@@ -918,6 +929,224 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::ElasticDialog</name>
+    <message>
+        <source>P and S together</source>
+        <translation>P e S insieme</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Onde:</translation>
+    </message>
+    <message>
+        <source>Which of the two projects is of P waves and which of S waves. The program guesses it from the recordings, else from the velocities.</source>
+        <translation>Quale dei due progetti è di onde P e quale di onde S. Il programma lo deduce dalle registrazioni, altrimenti dalle velocità.</translation>
+    </message>
+    <message>
+        <source>Take another project for the other wave</source>
+        <translation>Scegli un altro progetto per l&apos;altra onda</translation>
+    </message>
+    <message>
+        <source>&amp;Other project ...</source>
+        <translation>&amp;Altro progetto ...</translation>
+    </message>
+    <message>
+        <source>Shi&amp;ft S by:</source>
+        <translation>Tras&amp;la S di:</translation>
+    </message>
+    <message>
+        <source>Metres added to distances of S</source>
+        <translation>Metri aggiunti alle distanze di S</translation>
+    </message>
+    <message>
+        <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
+        <translation>Quanto si aggiunge alle distanze di S, la cui linea comincia altrove, per avere quelle di P</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>&amp;Depths may differ by:</source>
+        <translation>Differenza di &amp;profondità ammessa:</translation>
+    </message>
+    <message>
+        <source>Percent that depths may differ by</source>
+        <translation>Percentuale di cui le profondità possono differire</translation>
+    </message>
+    <message>
+        <source>Difference between the depths of a layer by P and by S, as a share of their mean, beyond which both may be different ground: that is marked and said, and nothing is left out</source>
+        <translation>Differenza fra le profondità di uno strato da P e da S, in rapporto alla loro media, oltre la quale può trattarsi di terreni diversi: viene segnalata nella figura e a parole, e nulla viene tralasciato</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>D&amp;ensity:</source>
+        <translation>&amp;Densità:</translation>
+    </message>
+    <message>
+        <source>A number for each layer, or 310 Vp^0.25 in kg/m3, which Gardner and others (1974) found for rocks faster than 1500 m/s</source>
+        <translation>Un valore per ogni strato, o 310 Vp^0,25 in kg/m3, che Gardner e altri (1974) hanno trovato per rocce più veloci di 1500 m/s</translation>
+    </message>
+    <message>
+        <source>Of each layer</source>
+        <translation>Per ogni strato</translation>
+    </message>
+    <message>
+        <source>From Vp, by Gardner&apos;s rule</source>
+        <translation>Da Vp, relazione di Gardner</translation>
+    </message>
+    <message>
+        <source>1:</source>
+        <translation>1:</translation>
+    </message>
+    <message>
+        <source>Density of layer 1</source>
+        <translation>Densità dello strato 1</translation>
+    </message>
+    <message>
+        <source> kg/m3</source>
+        <translation> kg/m3</translation>
+    </message>
+    <message>
+        <source>2:</source>
+        <translation>2:</translation>
+    </message>
+    <message>
+        <source>Density of layer 2</source>
+        <translation>Densità dello strato 2</translation>
+    </message>
+    <message>
+        <source>3:</source>
+        <translation>3:</translation>
+    </message>
+    <message>
+        <source>Density of layer 3</source>
+        <translation>Densità dello strato 3</translation>
+    </message>
+    <message>
+        <source>Standard deviations of all that follows from the velocities, by 100 interpretations of picks that are moved by their errors</source>
+        <translation>Deviazioni standard di tutto ciò che deriva dalle velocità, da 100 interpretazioni di primi arrivi spostati secondo i loro errori</translation>
+    </message>
+    <message>
+        <source>Errors from the pic&amp;ks</source>
+        <translation>Errori dai primi a&amp;rrivi</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Strato:</translation>
+    </message>
+    <message>
+        <source>Which layers picture and table show</source>
+        <translation>Quali strati mostrano immagine e tabella</translation>
+    </message>
+    <message>
+        <source>P and S along the line</source>
+        <translation>P e S lungo la linea</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; moduli of small strains: shear G0, Young&apos;s E0, bulk K, constrained M</source>
+        <translation>Profondità dalla superficie; moduli a piccole deformazioni: di taglio G0, di Young E0, volumetrico K, edometrico M</translation>
+    </message>
+    <message>
+        <source>Copy the table as it stands here, for a spreadsheet</source>
+        <translation>Copia la tabella così com&apos;è qui, per un foglio di calcolo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>&amp;Copia tabella</translation>
+    </message>
+    <message>
+        <source>Save the table as CSV, in metres, m/s, kg/m3 and MPa</source>
+        <translation>Salva la tabella come CSV, in metri, m/s, kg/m3 e MPa</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Salva &amp;tabella ...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Salva le curve come PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Interpreting moved picks ...</source>
+        <translation>Interpretazione dei primi arrivi spostati ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>P: %1, S: %2</source>
+        <translation>P: %1, S: %2</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Strato %1</translation>
+    </message>
+    <message>
+        <source>Picks of %1 have changed since its layers were built.</source>
+        <translation>I primi arrivi di %1 sono cambiati dopo la costruzione dei suoi strati.</translation>
+    </message>
+    <message>
+        <source>It has no errors.</source>
+        <translation>Non ha errori.</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Strato</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distanza [m]</translation>
+    </message>
+    <message>
+        <source>Depth by P [m]</source>
+        <translation>Profondità da P [m]</translation>
+    </message>
+    <message>
+        <source>Depth by S [m]</source>
+        <translation>Profondità da S [m]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ: it may be different ground.</source>
+        <translation>Le profondità da P e da S differiscono: può trattarsi di terreni diversi.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ErrorBands</name>
+    <message>
+        <source>&amp;Error bands</source>
+        <translation>Fasce di &amp;errore</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>How far depths and velocities scatter as picks are moved by their errors, over %1 interpretations</source>
+        <translation>Quanto si disperdono profondità e velocità spostando gli arrivi secondo i loro errori, su %1 interpretazioni</translation>
+    </message>
+    <message>
+        <source>No errors could be found: the profile is not that of the picks and marks. Build it again.</source>
+        <translation>Impossibile trovare gli errori: il profilo non è quello degli arrivi e delle assegnazioni. Costruirlo di nuovo.</translation>
+    </message>
+    <message>
+        <source>Bands: 68 of %1 interpretations of picks that were moved by their errors</source>
+        <translation>Fasce: 68 interpretazioni su %1 di arrivi spostati secondo i loro errori</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ExportTomoVelData</name>
     <message>
         <source>Set optional shift parameter before export</source>
@@ -1389,6 +1618,130 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Fixed bodies</source>
         <translation>Corpi fissi</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Vp/Vs</source>
+        <translation>Vp/Vs</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>Coefficiente di Poisson</translation>
+    </message>
+    <message>
+        <source>G0, E0 [MPa]</source>
+        <translation>G0, E0 [MPa]</translation>
+    </message>
+    <message>
+        <source>K, M [MPa]</source>
+        <translation>K, M [MPa]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ</source>
+        <translation>Le profondità da P e S differiscono</translation>
+    </message>
+    <message>
+        <source>No ground: Vp/Vs below 1.41</source>
+        <translation>Non è terreno: Vp/Vs sotto 1,41</translation>
+    </message>
+    <message>
+        <source>Bars: one standard deviation, of the picks</source>
+        <translation>Barre: una deviazione standard, dai primi arrivi</translation>
+    </message>
+    <message>
+        <source>Vp</source>
+        <translation>Vp</translation>
+    </message>
+    <message>
+        <source>Vs</source>
+        <translation>Vs</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Densità</translation>
+    </message>
+    <message>
+        <source>G0</source>
+        <translation>G0</translation>
+    </message>
+    <message>
+        <source>E0</source>
+        <translation>E0</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>kg/m3</source>
+        <translation>kg/m3</translation>
+    </message>
+    <message>
+        <source>MPa</source>
+        <translation>MPa</translation>
+    </message>
+    <message>
+        <source>Density from Vp by Gardner&apos;s rule</source>
+        <translation>Densità da Vp con la relazione di Gardner</translation>
+    </message>
+    <message>
+        <source>Density %1 kg/m3</source>
+        <translation>Densità %1 kg/m3</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Strato %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 ± %3 m/s</source>
+        <translation>Strato %1, %2 ± %3 m/s</translation>
+    </message>
+    <message>
+        <source>Dashed: not carried by picks there</source>
+        <translation>Tratteggio: non sostenuto da primi arrivi in quel punto</translation>
+    </message>
+    <message>
+        <source>Error of the picks (68 of 100)</source>
+        <translation>Errore dei primi arrivi (68 su 100)</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profondità [m]</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface</source>
+        <translation>Le profondità sono dalla superficie</translation>
+    </message>
+    <message>
+        <source>dashed: not carried by picks there</source>
+        <translation>tratteggio: non sostenuto da primi arrivi in quel punto</translation>
+    </message>
+    <message>
+        <source>hollow marks: layer 3</source>
+        <translation>simboli vuoti: strato 3</translation>
+    </message>
+    <message>
+        <source>shaded: 68 of 100 results of moved picks</source>
+        <translation>ombreggiato: 68 risultati su 100 con primi arrivi spostati</translation>
+    </message>
+    <message>
+        <source>dashed: times through the layers</source>
+        <translation>tratteggio: tempi attraverso gli strati</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Strati</translation>
     </message>
 </context>
 <context>
