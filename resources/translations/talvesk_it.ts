@@ -2623,6 +2623,129 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::LayerMethodsDialog</name>
+    <message>
+        <source>Compare methods</source>
+        <translation>Confronta metodi</translation>
+    </message>
+    <message>
+        <source>I&amp;nterpretations for error bands:</source>
+        <translation>I&amp;nterpretazioni per le fasce di errore:</translation>
+    </message>
+    <message>
+        <source>The layers are interpreted as often again, by picks that are moved by their errors. How far the results scatter is the error of depth and velocity, and tells whether methods disagree by more than that.</source>
+        <translation>Gli strati si interpretano altrettante volte di nuovo, con arrivi spostati secondo i loro errori. La dispersione dei risultati è l&apos;errore di profondità e velocità, e dice se i metodi discordano più di così.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Avvia</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>&amp;Ferma</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>&amp;Riepilogo</translation>
+    </message>
+    <message>
+        <source>Medians by method</source>
+        <translation>Mediane secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Strato</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Metodo</translation>
+    </message>
+    <message>
+        <source>Median velocity
+[m/s]</source>
+        <translation>Velocità mediana
+[m/s]</translation>
+    </message>
+    <message>
+        <source>Median depth
+[m]</source>
+        <translation>Profondità mediana
+[m]</translation>
+    </message>
+    <message>
+        <source>Geophones
+with a depth</source>
+        <translation>Geofoni con
+profondità</translation>
+    </message>
+    <message>
+        <source>Of these not
+carried by picks</source>
+        <translation>Di cui non sostenuti
+da arrivi</translation>
+    </message>
+    <message>
+        <source>How far methods agree, and their remarks</source>
+        <translation>Quanto i metodi concordano, e le loro note</translation>
+    </message>
+    <message>
+        <source>Layer &amp;2</source>
+        <translation>Strato &amp;2</translation>
+    </message>
+    <message>
+        <source>Layer 2 by method</source>
+        <translation>Strato 2 secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Layer &amp;3</source>
+        <translation>Strato &amp;3</translation>
+    </message>
+    <message>
+        <source>Layer 3 by method</source>
+        <translation>Strato 3 secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Save the picture as PNG, SVG or PDF</source>
+        <translation>Salva l&apos;immagine come PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save p&amp;icture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
+        <translation>Salva come CSV profondità e velocità di tutti gli strati e metodi ai geofoni</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Salva &amp;tabella ...</translation>
+    </message>
+    <message>
+        <source>Copy the same table for a spreadsheet</source>
+        <translation>Copia la stessa tabella per un foglio di calcolo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>&amp;Copia tabella</translation>
+    </message>
+    <message>
+        <source>Layers are being interpreted...</source>
+        <translation>Interpretazione degli strati...</translation>
+    </message>
+    <message>
+        <source>Stopped: no error bands.</source>
+        <translation>Fermato: nessuna fascia di errore.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+    <message>
+        <source>no pick is assigned to a refractor.</source>
+        <translation>nessun arrivo è assegnato a un rifrattore.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
@@ -6723,6 +6846,57 @@ Impostare la posizione dei geofoni
     </message>
 </context>
 <context>
+    <name>talvesk::ProfileTable</name>
+    <message>
+        <source>picks</source>
+        <translation>arrivi</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacuna</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolungamento</translation>
+    </message>
+    <message>
+        <source>Picks of the shots at both ends of the line carry it.</source>
+        <translation>Sostenuto da arrivi dei tiri a entrambe le estremità della linea.</translation>
+    </message>
+    <message>
+        <source>Shifted arrivals of other shots carry it.</source>
+        <translation>Sostenuto da arrivi traslati di altri tiri.</translation>
+    </message>
+    <message>
+        <source>It lies across more than two spacings without arrivals.</source>
+        <translation>Attraversa più di due intervalli fra geofoni senza arrivi.</translation>
+    </message>
+    <message>
+        <source>It continues what lies beside it, beyond the last arrivals.</source>
+        <translation>Prolunga ciò che gli sta accanto, oltre gli ultimi arrivi.</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Depth %1 (m)</source>
+        <translation>Profondità %1 (m)</translation>
+    </message>
+    <message>
+        <source>V %1 (m/s)</source>
+        <translation>V %1 (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Profondità %1 da</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ReadingPanel</name>
     <message>
         <source>Format:</source>
@@ -7526,17 +7700,29 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
         <translation>%1 m: irregolarità di tV %2 ms, disuniformità della velocità %3 %</translation>
     </message>
+    <message>
+        <source>Depths and velocities</source>
+        <translation>Profondità e velocità</translation>
+    </message>
+    <message>
+        <source>Compare &amp;methods ...</source>
+        <translation>Confronta &amp;metodi ...</translation>
+    </message>
+    <message>
+        <source>Layers from the marks by other methods beside the reciprocal one: delay times, intercept times and plus-minus</source>
+        <translation>Strati dalle assegnazioni con altri metodi oltre a quello reciproco: tempi di ritardo, tempi d&apos;intercetta e plus-minus</translation>
+    </message>
+    <message>
+        <source>There is no profile yet.</source>
+        <translation>Non c&apos;è ancora un profilo.</translation>
+    </message>
+    <message>
+        <source>Picks or marks have changed: build the profiles again.</source>
+        <translation>Arrivi o assegnazioni sono cambiati: costruire di nuovo i profili.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
-    <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Strato %1, %2 m/s</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Strato %1</translation>
-    </message>
     <message>
         <source>Geophones</source>
         <translation>Geofoni</translation>
@@ -8446,6 +8632,58 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Residuals of the picks, shot by geophone</source>
         <translation>Residui dei primi arrivi, tiro per geofono</translation>
+    </message>
+    <message>
+        <source>Layer %1 [ms]</source>
+        <translation>Strato %1 [ms]</translation>
+    </message>
+    <message>
+        <source>No misfit of the layers is told: they have no depth, or were built from other picks or marks than those of now.</source>
+        <translation>Lo scarto degli strati non è indicato: non hanno profondità, o sono stati costruiti da primi arrivi o assegnazioni diversi da quelli attuali.</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers differ from the picks by %1 ms (RMS of %2 picks; mean of picks less computed times %3 ms; chi-square %4).</source>
+        <translation>I tempi calcolati attraverso gli strati differiscono dai primi arrivi di %1 ms (RMS di %2 primi arrivi; media di primi arrivi meno tempi calcolati %3 ms; chi quadrato %4).</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the layers, by shot (number of picks)</source>
+        <translation>Scarto quadratico medio degli strati, per tiro (numero di primi arrivi)</translation>
+    </message>
+    <message>
+        <source>Depth of refractors by method</source>
+        <translation>Profondità dei rifrattori secondo i metodi</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>primi arrivi</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacuna</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolungamento</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Profondità %1 da</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, is not carried by picks of the shots at both ends there: but by shifted arrivals of other shots (phantom), across more than two spacings without arrivals (gap), or by a continuation beyond the last ones.</source>
+        <translation>Un valore fra parentesi, e una linea tratteggiata, non sono sostenuti in quel punto da primi arrivi dei tiri a entrambe le estremità, ma da arrivi traslati di altri tiri (phantom), attraverso più di due intervalli fra geofoni senza arrivi (lacuna), o da un prolungamento oltre gli ultimi.</translation>
+    </message>
+    <message>
+        <source>Errors, and the bands round the lines, are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations.</source>
+        <translation>Gli errori, e le fasce attorno alle linee, sono la semiampiezza entro cui cadono 68 risultati su 100 quando i primi arrivi si spostano secondo i loro errori, da %1 interpretazioni di questo tipo.</translation>
+    </message>
+    <message>
+        <source>Median velocity of refractor %1</source>
+        <translation>Velocità mediana del rifrattore %1</translation>
     </message>
 </context>
 <context>
@@ -11608,6 +11846,58 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Table (*.csv)</source>
         <translation>Tabella (*.csv)</translation>
     </message>
+    <message>
+        <source>P and S together ...</source>
+        <translation>P e S insieme ...</translation>
+    </message>
+    <message>
+        <source>Put the layers of this survey and those of a project of the other wave together: Vp/Vs, Poisson&apos;s ratio and moduli along the line</source>
+        <translation>Riunisce gli strati di questo rilievo e quelli di un progetto dell&apos;altra onda: Vp/Vs, coefficiente di Poisson e moduli lungo la linea</translation>
+    </message>
+    <message>
+        <source>There are no times through the layers: build the profiles anew.</source>
+        <translation>Non ci sono tempi attraverso gli strati: costruire di nuovo i profili.</translation>
+    </message>
+    <message>
+        <source>Project of the other wave</source>
+        <translation>Progetto dell&apos;altra onda</translation>
+    </message>
+    <message>
+        <source>This is the project that is open.</source>
+        <translation>Questo è il progetto aperto.</translation>
+    </message>
+    <message>
+        <source>Choose the project of the other wave, P or S, along the same line.</source>
+        <translation>Scegliere il progetto dell&apos;altra onda, P o S, lungo la stessa linea.</translation>
+    </message>
+    <message>
+        <source>%1 has no layered profile.</source>
+        <translation>%1 non ha un profilo a strati.</translation>
+    </message>
+    <message>
+        <source>Open it, build its profiles in the refraction dialog, and save it.</source>
+        <translation>Aprirlo, costruirne i profili nella finestra della rifrazione e salvarlo.</translation>
+    </message>
+    <message>
+        <source>this survey</source>
+        <translation>questo rilievo</translation>
+    </message>
+    <message>
+        <source>Save picture of P and S</source>
+        <translation>Salva immagine di P e S</translation>
+    </message>
+    <message>
+        <source>Save table of P and S</source>
+        <translation>Salva tabella di P e S</translation>
+    </message>
+    <message>
+        <source>Save picture of layers by method</source>
+        <translation>Salva immagine degli strati secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Save table of layers by method</source>
+        <translation>Salva tabella degli strati secondo i metodi</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -11761,6 +12051,73 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Error: %1 ms</source>
         <translation>Errore: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>St&amp;rati</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers of the refraction interpretation</source>
+        <translation>Tempi calcolati attraverso gli strati dell&apos;interpretazione a rifrazione</translation>
+    </message>
+    <message>
+        <source>There are no layers of these picks: build the profiles of the refraction interpretation (anew).</source>
+        <translation>Non ci sono strati di questi primi arrivi: costruire (di nuovo) i profili dell&apos;interpretazione a rifrazione.</translation>
+    </message>
+    <message>
+        <source>Layers: %1 ms</source>
+        <translation>Strati: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::XYCriteria</name>
+    <message>
+        <source>XY (m)</source>
+        <translation>XY (m)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV</source>
+        <translation>Irregolarità di tV</translation>
+    </message>
+    <message>
+        <source>RMS (ms)</source>
+        <translation>RMS (ms)</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity</source>
+        <translation>Disuniformità della velocità</translation>
+    </message>
+    <message>
+        <source>RMS (%)</source>
+        <translation>RMS (%)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV against XY</source>
+        <translation>Irregolarità di tV in funzione di XY</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity against XY</source>
+        <translation>Disuniformità della velocità in funzione di XY</translation>
+    </message>
+    <message>
+        <source>Click to choose it</source>
+        <translation>Fai clic per sceglierlo</translation>
+    </message>
+    <message>
+        <source>No XY can be judged: forward and reverse curve have too few geophones in common.</source>
+        <translation>Nessun XY si può valutare: dromocrona diretta e inversa hanno troppo pochi geofoni in comune.</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet.</source>
+        <translation>Ancora nulla di costruito.</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>scelto</translation>
+    </message>
+    <message>
+        <source>proposed</source>
+        <translation>proposto</translation>
     </message>
 </context>
 <context>
