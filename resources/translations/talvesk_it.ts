@@ -3303,10 +3303,6 @@ da arrivi</translation>
         <translation>Non resta alcuno strato: la profondità finale di uno strato deve essere maggiore di quella iniziale, e questa non negativa.</translation>
     </message>
     <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation>Gli strati non formano un modello di velocità. Ordinarli per profondità, senza sovrapposizioni, ognuno spesso più di 0,02 m. %1</translation>
-    </message>
-    <message>
         <source>The grid of the layered model could not be built.</source>
         <translation>Non è stato possibile creare la griglia del modello a strati.</translation>
     </message>
@@ -6447,14 +6443,6 @@ Impostare la posizione dei geofoni
         <translation>tre strati si adattano meglio, ma non c&apos;è un tiro a ogni estremo della linea con primi arrivi dello strato intermedio: si propongono due strati</translation>
     </message>
     <message>
-        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>tiro %1, alla sua destra: lo strato %2 poggia su meno di quattro primi arrivi (%3)</translation>
-    </message>
-    <message>
-        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>tiro %1, alla sua sinistra: lo strato %2 poggia su meno di quattro primi arrivi (%3)</translation>
-    </message>
-    <message>
         <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
         <translation>%1 primi arrivi non si adattano ad alcuno strato e non sono assegnati (tiro/traccia): %2</translation>
     </message>
@@ -6625,6 +6613,250 @@ Impostare la posizione dei geofoni
     <message>
         <source>Section, %1 m/s</source>
         <translation>Sezione, %1 m/s</translation>
+    </message>
+    <message>
+        <source>The methods could not be compared: %1</source>
+        <translation>Non è stato possibile confrontare i metodi: %1</translation>
+    </message>
+    <message>
+        <source>P and S have no velocity in common to draw.</source>
+        <translation>P e S non hanno alcuna velocità comune da disegnare.</translation>
+    </message>
+    <message>
+        <source>No method gives a depth.</source>
+        <translation>Nessun metodo dà una profondità.</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
+        <translation>Gli strati non formano un modello di velocità. Ordinarli per profondità, senza sovrapposizioni, ognuno spesso più di 0,02 m.</translation>
+    </message>
+    <message>
+        <source>this is no file with the members of an ensemble</source>
+        <translation>non è un file con i membri di un insieme di modelli</translation>
+    </message>
+    <message>
+        <source>its members cannot be read: the file is damaged</source>
+        <translation>i suoi membri non si possono leggere: il file è danneggiato</translation>
+    </message>
+    <message>
+        <source>its members are those of another ensemble: another survey or section, other settings or another seed</source>
+        <translation>i suoi membri sono di un altro insieme di modelli: un altro rilievo o un&apos;altra sezione, altre impostazioni o un altro seme</translation>
+    </message>
+    <message>
+        <source>its member %1 is done already, others are not; only sets of members that share none can be put together</source>
+        <translation>il suo membro %1 è già completato, altri no; si possono riunire solo gruppi che non hanno membri in comune</translation>
+    </message>
+    <message>
+        <source>its members cannot be those of this ensemble</source>
+        <translation>i suoi membri non possono essere di questo insieme di modelli</translation>
+    </message>
+    <message>
+        <source>the first layer of its layered profile has one velocity</source>
+        <translation>il primo strato del suo profilo a strati ha una sola velocità</translation>
+    </message>
+    <message>
+        <source>such a first layer cannot be</source>
+        <translation>un primo strato simile non è possibile</translation>
+    </message>
+    <message>
+        <source>it belongs to another layered profile</source>
+        <translation>appartiene a un altro profilo a strati</translation>
+    </message>
+    <message>
+        <source>Layer %1, medians of %2 places: %3; %4</source>
+        <translation>Strato %1, mediane di %2 punti: %3; %4</translation>
+    </message>
+    <message>
+        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, coefficiente di Poisson %4</translation>
+    </message>
+    <message>
+        <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
+        <translation>densità %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Strato %1: in %2 punti su %3 le profondità del suo tetto da P e da S differiscono di oltre il %4 % (mediana in quei punti %5 m da P, %6 m da S). Le onde P vedono spesso la falda, le onde S no: lo stesso numero può indicare terreni diversi.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
+        <translation>Strato %1: in %2 punti su %3 una velocità non è nota.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there. Are P and S exchanged, or is S a P wave?</source>
+        <translation>Strato %1: in %2 punti su %3 S non è più lenta di P, come in nessun terreno: lì mancano coefficiente di Poisson, E0 e K. P e S sono scambiate, o S è un&apos;onda P?</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
+        <translation>Strato %1: in %2 punti su %3 Vp/Vs è sotto 1,41 e il coefficiente di Poisson negativo, come in nessun terreno o roccia: le velocità sono di terreni diversi, o sbagliate.</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
+        <translation>La relazione di Gardner vale per rocce più veloci di 1500 m/s; in %1 punti su %2 Vp è minore, e la densità solo indicativa.</translation>
+    </message>
+    <message>
+        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
+        <translation>Le superfici di P e di S distano fra loro fino a %1 m, a %2 m lungo la linea: forse non sono la stessa linea, o non cominciano nello stesso punto.</translation>
+    </message>
+    <message>
+        <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
+        <translation>Secondo le registrazioni il progetto di P è di onde S, e quello di S no: forse sono scambiati.</translation>
+    </message>
+    <message>
+        <source>The recordings of both projects are of S waves.</source>
+        <translation>Le registrazioni di entrambi i progetti sono di onde S.</translation>
+    </message>
+    <message>
+        <source>The places of P and S on the map are given in different systems (EPSG:%1 and EPSG:%2) and were not compared.</source>
+        <translation>Le posizioni di P e S sulla mappa sono date in sistemi diversi (EPSG:%1 e EPSG:%2) e non sono state confrontate.</translation>
+    </message>
+    <message>
+        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Alle stesse distanze, P e S si trovano fino a %1 m l&apos;una dall&apos;altra sulla mappa: forse non sono la stessa linea, o non cominciano nello stesso punto.</translation>
+    </message>
+    <message>
+        <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Il progetto di P non ha un profilo a strati: costruirne prima i profili nella finestra della rifrazione.</translation>
+    </message>
+    <message>
+        <source>The project of S has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Il progetto di S non ha un profilo a strati: costruirne prima i profili nella finestra della rifrazione.</translation>
+    </message>
+    <message>
+        <source>P and S have no place in common: P was interpreted from %1, S from %2 along the line.</source>
+        <translation>P e S non hanno alcun punto in comune: lungo la linea P è stata interpretata da %1, S da %2.</translation>
+    </message>
+    <message>
+        <source>Layer %1: P and S have no place in common.</source>
+        <translation>Strato %1: P e S non hanno alcun punto in comune.</translation>
+    </message>
+    <message>
+        <source>P has %1 layers and S has %2; what lies below layer %3 is known of one wave only and left out.</source>
+        <translation>P ha %1 strati e S ne ha %2; ciò che sta sotto lo strato %3 è noto per una sola onda e viene tralasciato.</translation>
+    </message>
+    <message>
+        <source>the curves of layer %1 follow the lines of shots %2 and %3, which give %4 and %5 ms for the way between these shots</source>
+        <translation>le dromocrone dello strato %1 seguono le rette dei tiri %2 e %3, che danno %4 e %5 ms per il percorso fra questi tiri</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
+        <translation>il profilo si adatta ai suoi primi arrivi solo entro %1 ms, le onde della proposta entro %2 ms: se ne scosta dal tiro %3 a %4 m in poi</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
+        <translation>il profilo si adatta ai suoi primi arrivi solo entro %1 ms, le onde della proposta entro %2 ms: se ne scosta di più al tiro %3 a %4 m</translation>
+    </message>
+    <message>
+        <source>the delays of the waves change so fast along the line that no boundary has them all</source>
+        <translation>i ritardi delle onde cambiano così in fretta lungo la linea che nessuna interfaccia li spiega tutti</translation>
+    </message>
+    <message>
+        <source>reciprocal</source>
+        <translation>reciproco</translation>
+    </message>
+    <message>
+        <source>delay times</source>
+        <translation>tempi di ritardo</translation>
+    </message>
+    <message>
+        <source>intercept times</source>
+        <translation>tempi d&apos;intercetta</translation>
+    </message>
+    <message>
+        <source>plus-minus</source>
+        <translation>plus-minus</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
+        <translation>Strato %1: le profondità discordano di più a %2 m, da %3 m (%4) a %5 m (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
+        <translation>Strato %1: le velocità discordano di più a %2 m, da %3 m/s (%4) a %5 m/s (%6)</translation>
+    </message>
+    <message>
+        <source>to the right of shot %1</source>
+        <translation>a destra del tiro %1</translation>
+    </message>
+    <message>
+        <source>to the right of shots %1</source>
+        <translation>a destra dei tiri %1</translation>
+    </message>
+    <message>
+        <source>to the left of shot %1</source>
+        <translation>a sinistra del tiro %1</translation>
+    </message>
+    <message>
+        <source>to the left of shots %1</source>
+        <translation>a sinistra dei tiri %1</translation>
+    </message>
+    <message>
+        <source>layer %1 rests on fewer than four picks (their number in brackets) %2</source>
+        <translation>lo strato %1 poggia su meno di quattro primi arrivi (il numero fra parentesi) %2</translation>
+    </message>
+    <message>
+        <source>1 pick fits no layer and is given to none (shot/trace): %1</source>
+        <translation>1 primo arrivo non si adatta ad alcuno strato e non è assegnato (tiro/traccia): %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robusta</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>non robusta</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>a blocchi</translation>
+    </message>
+    <message>
+        <source>smooth</source>
+        <translation>smussata</translation>
+    </message>
+    <message>
+        <source>shots shifted</source>
+        <translation>tiri traslati</translation>
+    </message>
+    <message>
+        <source>no shot shifted</source>
+        <translation>nessun tiro traslato</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 cells of P lie where the section of S shows none.</source>
+        <translation>%1 celle di P su %2 sono dove la sezione di S non ne mostra.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there.</source>
+        <translation>In %1 celle su %2 S non è più lenta di P, come in nessun terreno: lì mancano coefficiente di Poisson, E0 e K.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not.</source>
+        <translation>In %1 celle su %2 Vp/Vs è sotto 1,41 e il coefficiente di Poisson negativo, come in nessun terreno o roccia.</translation>
+    </message>
+    <message>
+        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
+        <translation>Le superfici delle sezioni di P e S distano fra loro fino a %1 m, a %2 m lungo la linea; le celle si abbinano secondo la profondità da esse.</translation>
+    </message>
+    <message>
+        <source>A section has no layers: all of it has the first density.</source>
+        <translation>Una sezione non ha strati: le si dà ovunque la prima densità.</translation>
+    </message>
+    <message>
+        <source>The project of P has no section.</source>
+        <translation>Il progetto di P non ha una sezione.</translation>
+    </message>
+    <message>
+        <source>The project of S has no section.</source>
+        <translation>Il progetto di S non ha una sezione.</translation>
+    </message>
+    <message>
+        <source>The sections of P and S have no cell in common.</source>
+        <translation>Le sezioni di P e S non hanno celle in comune.</translation>
     </message>
 </context>
 <context>
