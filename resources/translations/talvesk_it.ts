@@ -104,7 +104,7 @@
     </message>
     <message>
         <source>&amp;Continue</source>
-        <translation>&amp;Continua</translation>
+        <translation>Con&amp;tinua</translation>
     </message>
     <message numerus="yes">
         <source>%n member(s) of this seed are done; Continue goes on with more.</source>
@@ -1056,7 +1056,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>&amp;Copy table</source>
-        <translation>&amp;Copia tabella</translation>
+        <translation>Copia ta&amp;bella</translation>
     </message>
     <message>
         <source>Save the table as CSV, in metres, m/s, kg/m3 and MPa</source>
@@ -2726,7 +2726,7 @@ da arrivi</translation>
     </message>
     <message>
         <source>&amp;Copy table</source>
-        <translation>&amp;Copia tabella</translation>
+        <translation>C&amp;opia tabella</translation>
     </message>
     <message>
         <source>Layers are being interpreted...</source>
