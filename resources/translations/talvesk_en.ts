@@ -4,10 +4,17 @@
 <context>
     <name>talvesk::CertaintyDialog</name>
     <message numerus="yes">
-        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <source>%n member(s) of this seed are done; Continue goes on with more.</source>
         <translation>
-            <numerusform>Stopped with %n member; Start goes on from there.</numerusform>
-            <numerusform>Stopped with %n members; Start goes on from there.</numerusform>
+            <numerusform>%n member of this seed is done; Continue goes on with more.</numerusform>
+            <numerusform>%n members of this seed are done; Continue goes on with more.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Continue goes on from there.</source>
+        <translation>
+            <numerusform>Stopped with %n member; Continue goes on from there.</numerusform>
+            <numerusform>Stopped with %n members; Continue goes on from there.</numerusform>
         </translation>
     </message>
 </context>

@@ -102,16 +102,27 @@
         <source>How sure the section is stays unknown.</source>
         <translation>Quanto sia sicura la sezione resta ignoto.</translation>
     </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>Con&amp;tinua</translation>
+    </message>
     <message numerus="yes">
-        <source>Stopped with %n member(s); Start goes on from there.</source>
+        <source>%n member(s) of this seed are done; Continue goes on with more.</source>
         <translation>
-            <numerusform>Fermato con %n membro; &quot;Avvia&quot; riprende da lì.</numerusform>
-            <numerusform>Fermato con %n membri; &quot;Avvia&quot; riprende da lì.</numerusform>
+            <numerusform>%n membro di questo seme è completato; &quot;Continua&quot; ne aggiunge altri.</numerusform>
+            <numerusform>%n membri di questo seme sono completati; &quot;Continua&quot; ne aggiunge altri.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped with %n member(s); Continue goes on from there.</source>
+        <translation>
+            <numerusform>Fermato con %n membro; &quot;Continua&quot; riprende da lì.</numerusform>
+            <numerusform>Fermato con %n membri; &quot;Continua&quot; riprende da lì.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Stopped before the first member was done; Start goes on.</source>
-        <translation>Fermato prima di completare il primo membro; &quot;Avvia&quot; riprende.</translation>
+        <source>Stopped before the first member was done; Continue goes on.</source>
+        <translation>Fermato prima di completare il primo membro; &quot;Continua&quot; riprende.</translation>
     </message>
 </context>
 <context>
@@ -918,6 +929,224 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::ElasticDialog</name>
+    <message>
+        <source>P and S together</source>
+        <translation>P e S insieme</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Onde:</translation>
+    </message>
+    <message>
+        <source>Which of the two projects is of P waves and which of S waves. The program guesses it from the recordings, else from the velocities.</source>
+        <translation>Quale dei due progetti è di onde P e quale di onde S. Il programma lo deduce dalle registrazioni, altrimenti dalle velocità.</translation>
+    </message>
+    <message>
+        <source>Take another project for the other wave</source>
+        <translation>Scegli un altro progetto per l&apos;altra onda</translation>
+    </message>
+    <message>
+        <source>&amp;Other project ...</source>
+        <translation>&amp;Altro progetto ...</translation>
+    </message>
+    <message>
+        <source>Shi&amp;ft S by:</source>
+        <translation>Tras&amp;la S di:</translation>
+    </message>
+    <message>
+        <source>Metres added to distances of S</source>
+        <translation>Metri aggiunti alle distanze di S</translation>
+    </message>
+    <message>
+        <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
+        <translation>Quanto si aggiunge alle distanze di S, la cui linea comincia altrove, per avere quelle di P</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+    <message>
+        <source>&amp;Depths may differ by:</source>
+        <translation>Differenza di &amp;profondità ammessa:</translation>
+    </message>
+    <message>
+        <source>Percent that depths may differ by</source>
+        <translation>Percentuale di cui le profondità possono differire</translation>
+    </message>
+    <message>
+        <source>Difference between the depths of a layer by P and by S, as a share of their mean, beyond which both may be different ground: that is marked and said, and nothing is left out</source>
+        <translation>Differenza fra le profondità di uno strato da P e da S, in rapporto alla loro media, oltre la quale può trattarsi di terreni diversi: viene segnalata nella figura e a parole, e nulla viene tralasciato</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>D&amp;ensity:</source>
+        <translation>&amp;Densità:</translation>
+    </message>
+    <message>
+        <source>A number for each layer, or 310 Vp^0.25 in kg/m3, which Gardner and others (1974) found for rocks faster than 1500 m/s</source>
+        <translation>Un valore per ogni strato, o 310 Vp^0,25 in kg/m3, che Gardner e altri (1974) hanno trovato per rocce più veloci di 1500 m/s</translation>
+    </message>
+    <message>
+        <source>Of each layer</source>
+        <translation>Per ogni strato</translation>
+    </message>
+    <message>
+        <source>From Vp, by Gardner&apos;s rule</source>
+        <translation>Da Vp, relazione di Gardner</translation>
+    </message>
+    <message>
+        <source>1:</source>
+        <translation>1:</translation>
+    </message>
+    <message>
+        <source>Density of layer 1</source>
+        <translation>Densità dello strato 1</translation>
+    </message>
+    <message>
+        <source> kg/m3</source>
+        <translation> kg/m3</translation>
+    </message>
+    <message>
+        <source>2:</source>
+        <translation>2:</translation>
+    </message>
+    <message>
+        <source>Density of layer 2</source>
+        <translation>Densità dello strato 2</translation>
+    </message>
+    <message>
+        <source>3:</source>
+        <translation>3:</translation>
+    </message>
+    <message>
+        <source>Density of layer 3</source>
+        <translation>Densità dello strato 3</translation>
+    </message>
+    <message>
+        <source>Standard deviations of all that follows from the velocities, by 100 interpretations of picks that are moved by their errors</source>
+        <translation>Deviazioni standard di tutto ciò che deriva dalle velocità, da 100 interpretazioni di primi arrivi spostati secondo i loro errori</translation>
+    </message>
+    <message>
+        <source>Errors from the pic&amp;ks</source>
+        <translation>Errori dai primi a&amp;rrivi</translation>
+    </message>
+    <message>
+        <source>&amp;Layer:</source>
+        <translation>&amp;Strato:</translation>
+    </message>
+    <message>
+        <source>Which layers picture and table show</source>
+        <translation>Quali strati mostrano immagine e tabella</translation>
+    </message>
+    <message>
+        <source>P and S along the line</source>
+        <translation>P e S lungo la linea</translation>
+    </message>
+    <message>
+        <source>Depths below the surface; moduli of small strains: shear G0, Young&apos;s E0, bulk K, constrained M</source>
+        <translation>Profondità dalla superficie; moduli a piccole deformazioni: di taglio G0, di Young E0, volumetrico K, edometrico M</translation>
+    </message>
+    <message>
+        <source>Copy the table as it stands here, for a spreadsheet</source>
+        <translation>Copia la tabella così com&apos;è qui, per un foglio di calcolo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>Copia ta&amp;bella</translation>
+    </message>
+    <message>
+        <source>Save the table as CSV, in metres, m/s, kg/m3 and MPa</source>
+        <translation>Salva la tabella come CSV, in metri, m/s, kg/m3 e MPa</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Salva &amp;tabella ...</translation>
+    </message>
+    <message>
+        <source>Save the curves as PNG, SVG or PDF</source>
+        <translation>Salva le curve come PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save &amp;picture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Interpreting moved picks ...</source>
+        <translation>Interpretazione dei primi arrivi spostati ...</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>P: %1, S: %2</source>
+        <translation>P: %1, S: %2</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Strato %1</translation>
+    </message>
+    <message>
+        <source>Picks of %1 have changed since its layers were built.</source>
+        <translation>I primi arrivi di %1 sono cambiati dopo la costruzione dei suoi strati.</translation>
+    </message>
+    <message>
+        <source>It has no errors.</source>
+        <translation>Non ha errori.</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Strato</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distanza [m]</translation>
+    </message>
+    <message>
+        <source>Depth by P [m]</source>
+        <translation>Profondità da P [m]</translation>
+    </message>
+    <message>
+        <source>Depth by S [m]</source>
+        <translation>Profondità da S [m]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ: it may be different ground.</source>
+        <translation>Le profondità da P e da S differiscono: può trattarsi di terreni diversi.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ErrorBands</name>
+    <message>
+        <source>&amp;Error bands</source>
+        <translation>Fasce di &amp;errore</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>How far depths and velocities scatter as picks are moved by their errors, over %1 interpretations</source>
+        <translation>Quanto si disperdono profondità e velocità spostando gli arrivi secondo i loro errori, su %1 interpretazioni</translation>
+    </message>
+    <message>
+        <source>No errors could be found: the profile is not that of the picks and marks. Build it again.</source>
+        <translation>Impossibile trovare gli errori: il profilo non è quello degli arrivi e delle assegnazioni. Costruirlo di nuovo.</translation>
+    </message>
+    <message>
+        <source>Bands: 68 of %1 interpretations of picks that were moved by their errors</source>
+        <translation>Fasce: 68 interpretazioni su %1 di arrivi spostati secondo i loro errori</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ExportTomoVelData</name>
     <message>
         <source>Set optional shift parameter before export</source>
@@ -1389,6 +1618,130 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Fixed bodies</source>
         <translation>Corpi fissi</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Vp/Vs</source>
+        <translation>Vp/Vs</translation>
+    </message>
+    <message>
+        <source>Poisson&apos;s ratio</source>
+        <translation>Coefficiente di Poisson</translation>
+    </message>
+    <message>
+        <source>G0, E0 [MPa]</source>
+        <translation>G0, E0 [MPa]</translation>
+    </message>
+    <message>
+        <source>K, M [MPa]</source>
+        <translation>K, M [MPa]</translation>
+    </message>
+    <message>
+        <source>Depths by P and S differ</source>
+        <translation>Le profondità da P e S differiscono</translation>
+    </message>
+    <message>
+        <source>No ground: Vp/Vs below 1.41</source>
+        <translation>Non è terreno: Vp/Vs sotto 1,41</translation>
+    </message>
+    <message>
+        <source>Bars: one standard deviation, of the picks</source>
+        <translation>Barre: una deviazione standard, dai primi arrivi</translation>
+    </message>
+    <message>
+        <source>Vp</source>
+        <translation>Vp</translation>
+    </message>
+    <message>
+        <source>Vs</source>
+        <translation>Vs</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Densità</translation>
+    </message>
+    <message>
+        <source>G0</source>
+        <translation>G0</translation>
+    </message>
+    <message>
+        <source>E0</source>
+        <translation>E0</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>kg/m3</source>
+        <translation>kg/m3</translation>
+    </message>
+    <message>
+        <source>MPa</source>
+        <translation>MPa</translation>
+    </message>
+    <message>
+        <source>Density from Vp by Gardner&apos;s rule</source>
+        <translation>Densità da Vp con la relazione di Gardner</translation>
+    </message>
+    <message>
+        <source>Density %1 kg/m3</source>
+        <translation>Densità %1 kg/m3</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 m/s</source>
+        <translation>Strato %1, %2 m/s</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2 ± %3 m/s</source>
+        <translation>Strato %1, %2 ± %3 m/s</translation>
+    </message>
+    <message>
+        <source>Dashed: not carried by picks there</source>
+        <translation>Tratteggio: non sostenuto da primi arrivi in quel punto</translation>
+    </message>
+    <message>
+        <source>Error of the picks (68 of 100)</source>
+        <translation>Errore dei primi arrivi (68 su 100)</translation>
+    </message>
+    <message>
+        <source>Depth [m]</source>
+        <translation>Profondità [m]</translation>
+    </message>
+    <message>
+        <source>Depths are below the surface</source>
+        <translation>Le profondità sono dalla superficie</translation>
+    </message>
+    <message>
+        <source>dashed: not carried by picks there</source>
+        <translation>tratteggio: non sostenuto da primi arrivi in quel punto</translation>
+    </message>
+    <message>
+        <source>hollow marks: layer 3</source>
+        <translation>simboli vuoti: strato 3</translation>
+    </message>
+    <message>
+        <source>shaded: 68 of 100 results of moved picks</source>
+        <translation>ombreggiato: 68 risultati su 100 con primi arrivi spostati</translation>
+    </message>
+    <message>
+        <source>dashed: times through the layers</source>
+        <translation>tratteggio: tempi attraverso gli strati</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Strati</translation>
     </message>
 </context>
 <context>
@@ -2270,6 +2623,129 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::LayerMethodsDialog</name>
+    <message>
+        <source>Compare methods</source>
+        <translation>Confronta metodi</translation>
+    </message>
+    <message>
+        <source>I&amp;nterpretations for error bands:</source>
+        <translation>I&amp;nterpretazioni per le fasce di errore:</translation>
+    </message>
+    <message>
+        <source>The layers are interpreted as often again, by picks that are moved by their errors. How far the results scatter is the error of depth and velocity, and tells whether methods disagree by more than that.</source>
+        <translation>Gli strati si interpretano altrettante volte di nuovo, con arrivi spostati secondo i loro errori. La dispersione dei risultati è l&apos;errore di profondità e velocità, e dice se i metodi discordano più di così.</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Avvia</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p</source>
+        <translation>&amp;Ferma</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>&amp;Riepilogo</translation>
+    </message>
+    <message>
+        <source>Medians by method</source>
+        <translation>Mediane secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Strato</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Metodo</translation>
+    </message>
+    <message>
+        <source>Median velocity
+[m/s]</source>
+        <translation>Velocità mediana
+[m/s]</translation>
+    </message>
+    <message>
+        <source>Median depth
+[m]</source>
+        <translation>Profondità mediana
+[m]</translation>
+    </message>
+    <message>
+        <source>Geophones
+with a depth</source>
+        <translation>Geofoni con
+profondità</translation>
+    </message>
+    <message>
+        <source>Of these not
+carried by picks</source>
+        <translation>Di cui non sostenuti
+da arrivi</translation>
+    </message>
+    <message>
+        <source>How far methods agree, and their remarks</source>
+        <translation>Quanto i metodi concordano, e le loro note</translation>
+    </message>
+    <message>
+        <source>Layer &amp;2</source>
+        <translation>Strato &amp;2</translation>
+    </message>
+    <message>
+        <source>Layer 2 by method</source>
+        <translation>Strato 2 secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Layer &amp;3</source>
+        <translation>Strato &amp;3</translation>
+    </message>
+    <message>
+        <source>Layer 3 by method</source>
+        <translation>Strato 3 secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Save the picture as PNG, SVG or PDF</source>
+        <translation>Salva l&apos;immagine come PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>Save p&amp;icture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
+        <translation>Salva come CSV profondità e velocità di tutti gli strati e metodi ai geofoni</translation>
+    </message>
+    <message>
+        <source>Save &amp;table ...</source>
+        <translation>Salva &amp;tabella ...</translation>
+    </message>
+    <message>
+        <source>Copy the same table for a spreadsheet</source>
+        <translation>Copia la stessa tabella per un foglio di calcolo</translation>
+    </message>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>C&amp;opia tabella</translation>
+    </message>
+    <message>
+        <source>Layers are being interpreted...</source>
+        <translation>Interpretazione degli strati...</translation>
+    </message>
+    <message>
+        <source>Stopped: no error bands.</source>
+        <translation>Fermato: nessuna fascia di errore.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+    <message>
+        <source>no pick is assigned to a refractor.</source>
+        <translation>nessun arrivo è assegnato a un rifrattore.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::LeftOutText</name>
     <message>
         <source>%1 of %2 picks</source>
@@ -2825,10 +3301,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>No layer is left: a layer&apos;s final depth must be greater than its initial depth, and that not negative.</source>
         <translation>Non resta alcuno strato: la profondità finale di uno strato deve essere maggiore di quella iniziale, e questa non negativa.</translation>
-    </message>
-    <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick. %1</source>
-        <translation>Gli strati non formano un modello di velocità. Ordinarli per profondità, senza sovrapposizioni, ognuno spesso più di 0,02 m. %1</translation>
     </message>
     <message>
         <source>The grid of the layered model could not be built.</source>
@@ -5971,14 +6443,6 @@ Impostare la posizione dei geofoni
         <translation>tre strati si adattano meglio, ma non c&apos;è un tiro a ogni estremo della linea con primi arrivi dello strato intermedio: si propongono due strati</translation>
     </message>
     <message>
-        <source>shot %1, to its right: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>tiro %1, alla sua destra: lo strato %2 poggia su meno di quattro primi arrivi (%3)</translation>
-    </message>
-    <message>
-        <source>shot %1, to its left: layer %2 rests on fewer than four picks (%3)</source>
-        <translation>tiro %1, alla sua sinistra: lo strato %2 poggia su meno di quattro primi arrivi (%3)</translation>
-    </message>
-    <message>
         <source>%1 picks fit no layer and are given to none (shot/trace): %2</source>
         <translation>%1 primi arrivi non si adattano ad alcuno strato e non sono assegnati (tiro/traccia): %2</translation>
     </message>
@@ -6149,6 +6613,250 @@ Impostare la posizione dei geofoni
     <message>
         <source>Section, %1 m/s</source>
         <translation>Sezione, %1 m/s</translation>
+    </message>
+    <message>
+        <source>The methods could not be compared: %1</source>
+        <translation>Non è stato possibile confrontare i metodi: %1</translation>
+    </message>
+    <message>
+        <source>P and S have no velocity in common to draw.</source>
+        <translation>P e S non hanno alcuna velocità comune da disegnare.</translation>
+    </message>
+    <message>
+        <source>No method gives a depth.</source>
+        <translation>Nessun metodo dà una profondità.</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
+        <translation>Gli strati non formano un modello di velocità. Ordinarli per profondità, senza sovrapposizioni, ognuno spesso più di 0,02 m.</translation>
+    </message>
+    <message>
+        <source>this is no file with the members of an ensemble</source>
+        <translation>non è un file con i membri di un insieme di modelli</translation>
+    </message>
+    <message>
+        <source>its members cannot be read: the file is damaged</source>
+        <translation>i suoi membri non si possono leggere: il file è danneggiato</translation>
+    </message>
+    <message>
+        <source>its members are those of another ensemble: another survey or section, other settings or another seed</source>
+        <translation>i suoi membri sono di un altro insieme di modelli: un altro rilievo o un&apos;altra sezione, altre impostazioni o un altro seme</translation>
+    </message>
+    <message>
+        <source>its member %1 is done already, others are not; only sets of members that share none can be put together</source>
+        <translation>il suo membro %1 è già completato, altri no; si possono riunire solo gruppi che non hanno membri in comune</translation>
+    </message>
+    <message>
+        <source>its members cannot be those of this ensemble</source>
+        <translation>i suoi membri non possono essere di questo insieme di modelli</translation>
+    </message>
+    <message>
+        <source>the first layer of its layered profile has one velocity</source>
+        <translation>il primo strato del suo profilo a strati ha una sola velocità</translation>
+    </message>
+    <message>
+        <source>such a first layer cannot be</source>
+        <translation>un primo strato simile non è possibile</translation>
+    </message>
+    <message>
+        <source>it belongs to another layered profile</source>
+        <translation>appartiene a un altro profilo a strati</translation>
+    </message>
+    <message>
+        <source>Layer %1, medians of %2 places: %3; %4</source>
+        <translation>Strato %1, mediane di %2 punti: %3; %4</translation>
+    </message>
+    <message>
+        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, coefficiente di Poisson %4</translation>
+    </message>
+    <message>
+        <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
+        <translation>densità %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Strato %1: in %2 punti su %3 le profondità del suo tetto da P e da S differiscono di oltre il %4 % (mediana in quei punti %5 m da P, %6 m da S). Le onde P vedono spesso la falda, le onde S no: lo stesso numero può indicare terreni diversi.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
+        <translation>Strato %1: in %2 punti su %3 una velocità non è nota.</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there. Are P and S exchanged, or is S a P wave?</source>
+        <translation>Strato %1: in %2 punti su %3 S non è più lenta di P, come in nessun terreno: lì mancano coefficiente di Poisson, E0 e K. P e S sono scambiate, o S è un&apos;onda P?</translation>
+    </message>
+    <message>
+        <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
+        <translation>Strato %1: in %2 punti su %3 Vp/Vs è sotto 1,41 e il coefficiente di Poisson negativo, come in nessun terreno o roccia: le velocità sono di terreni diversi, o sbagliate.</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
+        <translation>La relazione di Gardner vale per rocce più veloci di 1500 m/s; in %1 punti su %2 Vp è minore, e la densità solo indicativa.</translation>
+    </message>
+    <message>
+        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
+        <translation>Le superfici di P e di S distano fra loro fino a %1 m, a %2 m lungo la linea: forse non sono la stessa linea, o non cominciano nello stesso punto.</translation>
+    </message>
+    <message>
+        <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
+        <translation>Secondo le registrazioni il progetto di P è di onde S, e quello di S no: forse sono scambiati.</translation>
+    </message>
+    <message>
+        <source>The recordings of both projects are of S waves.</source>
+        <translation>Le registrazioni di entrambi i progetti sono di onde S.</translation>
+    </message>
+    <message>
+        <source>The places of P and S on the map are given in different systems (EPSG:%1 and EPSG:%2) and were not compared.</source>
+        <translation>Le posizioni di P e S sulla mappa sono date in sistemi diversi (EPSG:%1 e EPSG:%2) e non sono state confrontate.</translation>
+    </message>
+    <message>
+        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Alle stesse distanze, P e S si trovano fino a %1 m l&apos;una dall&apos;altra sulla mappa: forse non sono la stessa linea, o non cominciano nello stesso punto.</translation>
+    </message>
+    <message>
+        <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Il progetto di P non ha un profilo a strati: costruirne prima i profili nella finestra della rifrazione.</translation>
+    </message>
+    <message>
+        <source>The project of S has no layered profile: build its profiles in the refraction dialog first.</source>
+        <translation>Il progetto di S non ha un profilo a strati: costruirne prima i profili nella finestra della rifrazione.</translation>
+    </message>
+    <message>
+        <source>P and S have no place in common: P was interpreted from %1, S from %2 along the line.</source>
+        <translation>P e S non hanno alcun punto in comune: lungo la linea P è stata interpretata da %1, S da %2.</translation>
+    </message>
+    <message>
+        <source>Layer %1: P and S have no place in common.</source>
+        <translation>Strato %1: P e S non hanno alcun punto in comune.</translation>
+    </message>
+    <message>
+        <source>P has %1 layers and S has %2; what lies below layer %3 is known of one wave only and left out.</source>
+        <translation>P ha %1 strati e S ne ha %2; ciò che sta sotto lo strato %3 è noto per una sola onda e viene tralasciato.</translation>
+    </message>
+    <message>
+        <source>the curves of layer %1 follow the lines of shots %2 and %3, which give %4 and %5 ms for the way between these shots</source>
+        <translation>le dromocrone dello strato %1 seguono le rette dei tiri %2 e %3, che danno %4 e %5 ms per il percorso fra questi tiri</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
+        <translation>il profilo si adatta ai suoi primi arrivi solo entro %1 ms, le onde della proposta entro %2 ms: se ne scosta dal tiro %3 a %4 m in poi</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
+        <translation>il profilo si adatta ai suoi primi arrivi solo entro %1 ms, le onde della proposta entro %2 ms: se ne scosta di più al tiro %3 a %4 m</translation>
+    </message>
+    <message>
+        <source>the delays of the waves change so fast along the line that no boundary has them all</source>
+        <translation>i ritardi delle onde cambiano così in fretta lungo la linea che nessuna interfaccia li spiega tutti</translation>
+    </message>
+    <message>
+        <source>reciprocal</source>
+        <translation>reciproco</translation>
+    </message>
+    <message>
+        <source>delay times</source>
+        <translation>tempi di ritardo</translation>
+    </message>
+    <message>
+        <source>intercept times</source>
+        <translation>tempi d&apos;intercetta</translation>
+    </message>
+    <message>
+        <source>plus-minus</source>
+        <translation>plus-minus</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
+        <translation>Strato %1: le profondità discordano di più a %2 m, da %3 m (%4) a %5 m (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
+        <translation>Strato %1: le velocità discordano di più a %2 m, da %3 m/s (%4) a %5 m/s (%6)</translation>
+    </message>
+    <message>
+        <source>to the right of shot %1</source>
+        <translation>a destra del tiro %1</translation>
+    </message>
+    <message>
+        <source>to the right of shots %1</source>
+        <translation>a destra dei tiri %1</translation>
+    </message>
+    <message>
+        <source>to the left of shot %1</source>
+        <translation>a sinistra del tiro %1</translation>
+    </message>
+    <message>
+        <source>to the left of shots %1</source>
+        <translation>a sinistra dei tiri %1</translation>
+    </message>
+    <message>
+        <source>layer %1 rests on fewer than four picks (their number in brackets) %2</source>
+        <translation>lo strato %1 poggia su meno di quattro primi arrivi (il numero fra parentesi) %2</translation>
+    </message>
+    <message>
+        <source>1 pick fits no layer and is given to none (shot/trace): %1</source>
+        <translation>1 primo arrivo non si adatta ad alcuno strato e non è assegnato (tiro/traccia): %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>robust</source>
+        <translation>robusta</translation>
+    </message>
+    <message>
+        <source>not robust</source>
+        <translation>non robusta</translation>
+    </message>
+    <message>
+        <source>blocky</source>
+        <translation>a blocchi</translation>
+    </message>
+    <message>
+        <source>smooth</source>
+        <translation>smussata</translation>
+    </message>
+    <message>
+        <source>shots shifted</source>
+        <translation>tiri traslati</translation>
+    </message>
+    <message>
+        <source>no shot shifted</source>
+        <translation>nessun tiro traslato</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 cells of P lie where the section of S shows none.</source>
+        <translation>%1 celle di P su %2 sono dove la sezione di S non ne mostra.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells S is not slower than P, which no ground is: no Poisson&apos;s ratio, E0 and K there.</source>
+        <translation>In %1 celle su %2 S non è più lenta di P, come in nessun terreno: lì mancano coefficiente di Poisson, E0 e K.</translation>
+    </message>
+    <message>
+        <source>In %1 of %2 cells Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not.</source>
+        <translation>In %1 celle su %2 Vp/Vs è sotto 1,41 e il coefficiente di Poisson negativo, come in nessun terreno o roccia.</translation>
+    </message>
+    <message>
+        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
+        <translation>Le superfici delle sezioni di P e S distano fra loro fino a %1 m, a %2 m lungo la linea; le celle si abbinano secondo la profondità da esse.</translation>
+    </message>
+    <message>
+        <source>A section has no layers: all of it has the first density.</source>
+        <translation>Una sezione non ha strati: le si dà ovunque la prima densità.</translation>
+    </message>
+    <message>
+        <source>The project of P has no section.</source>
+        <translation>Il progetto di P non ha una sezione.</translation>
+    </message>
+    <message>
+        <source>The project of S has no section.</source>
+        <translation>Il progetto di S non ha una sezione.</translation>
+    </message>
+    <message>
+        <source>The sections of P and S have no cell in common.</source>
+        <translation>Le sezioni di P e S non hanno celle in comune.</translation>
     </message>
 </context>
 <context>
@@ -6367,6 +7075,57 @@ Impostare la posizione dei geofoni
     <message>
         <source>Take minimum and maximum from the velocities of the section</source>
         <translation>Prende minimo e massimo dalle velocità della sezione</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::ProfileTable</name>
+    <message>
+        <source>picks</source>
+        <translation>arrivi</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacuna</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolungamento</translation>
+    </message>
+    <message>
+        <source>Picks of the shots at both ends of the line carry it.</source>
+        <translation>Sostenuto da arrivi dei tiri a entrambe le estremità della linea.</translation>
+    </message>
+    <message>
+        <source>Shifted arrivals of other shots carry it.</source>
+        <translation>Sostenuto da arrivi traslati di altri tiri.</translation>
+    </message>
+    <message>
+        <source>It lies across more than two spacings without arrivals.</source>
+        <translation>Attraversa più di due intervalli fra geofoni senza arrivi.</translation>
+    </message>
+    <message>
+        <source>It continues what lies beside it, beyond the last arrivals.</source>
+        <translation>Prolunga ciò che gli sta accanto, oltre gli ultimi arrivi.</translation>
+    </message>
+    <message>
+        <source>X (m)</source>
+        <translation>X (m)</translation>
+    </message>
+    <message>
+        <source>Depth %1 (m)</source>
+        <translation>Profondità %1 (m)</translation>
+    </message>
+    <message>
+        <source>V %1 (m/s)</source>
+        <translation>V %1 (m/s)</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Profondità %1 da</translation>
     </message>
 </context>
 <context>
@@ -7173,17 +7932,29 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
         <translation>%1 m: irregolarità di tV %2 ms, disuniformità della velocità %3 %</translation>
     </message>
+    <message>
+        <source>Depths and velocities</source>
+        <translation>Profondità e velocità</translation>
+    </message>
+    <message>
+        <source>Compare &amp;methods ...</source>
+        <translation>Confronta &amp;metodi ...</translation>
+    </message>
+    <message>
+        <source>Layers from the marks by other methods beside the reciprocal one: delay times, intercept times and plus-minus</source>
+        <translation>Strati dalle assegnazioni con altri metodi oltre a quello reciproco: tempi di ritardo, tempi d&apos;intercetta e plus-minus</translation>
+    </message>
+    <message>
+        <source>There is no profile yet.</source>
+        <translation>Non c&apos;è ancora un profilo.</translation>
+    </message>
+    <message>
+        <source>Picks or marks have changed: build the profiles again.</source>
+        <translation>Arrivi o assegnazioni sono cambiati: costruire di nuovo i profili.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
-    <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Strato %1, %2 m/s</translation>
-    </message>
-    <message>
-        <source>Layer %1</source>
-        <translation>Strato %1</translation>
-    </message>
     <message>
         <source>Geophones</source>
         <translation>Geofoni</translation>
@@ -8093,6 +8864,58 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Residuals of the picks, shot by geophone</source>
         <translation>Residui dei primi arrivi, tiro per geofono</translation>
+    </message>
+    <message>
+        <source>Layer %1 [ms]</source>
+        <translation>Strato %1 [ms]</translation>
+    </message>
+    <message>
+        <source>No misfit of the layers is told: they have no depth, or were built from other picks or marks than those of now.</source>
+        <translation>Lo scarto degli strati non è indicato: non hanno profondità, o sono stati costruiti da primi arrivi o assegnazioni diversi da quelli attuali.</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers differ from the picks by %1 ms (RMS of %2 picks; mean of picks less computed times %3 ms; chi-square %4).</source>
+        <translation>I tempi calcolati attraverso gli strati differiscono dai primi arrivi di %1 ms (RMS di %2 primi arrivi; media di primi arrivi meno tempi calcolati %3 ms; chi quadrato %4).</translation>
+    </message>
+    <message>
+        <source>RMS misfit of the layers, by shot (number of picks)</source>
+        <translation>Scarto quadratico medio degli strati, per tiro (numero di primi arrivi)</translation>
+    </message>
+    <message>
+        <source>Depth of refractors by method</source>
+        <translation>Profondità dei rifrattori secondo i metodi</translation>
+    </message>
+    <message>
+        <source>picks</source>
+        <translation>primi arrivi</translation>
+    </message>
+    <message>
+        <source>phantom</source>
+        <translation>phantom</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacuna</translation>
+    </message>
+    <message>
+        <source>continuation</source>
+        <translation>prolungamento</translation>
+    </message>
+    <message>
+        <source>Depth %1 by</source>
+        <translation>Profondità %1 da</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, is not carried by picks of the shots at both ends there: but by shifted arrivals of other shots (phantom), across more than two spacings without arrivals (gap), or by a continuation beyond the last ones.</source>
+        <translation>Un valore fra parentesi, e una linea tratteggiata, non sono sostenuti in quel punto da primi arrivi dei tiri a entrambe le estremità, ma da arrivi traslati di altri tiri (phantom), attraverso più di due intervalli fra geofoni senza arrivi (lacuna), o da un prolungamento oltre gli ultimi.</translation>
+    </message>
+    <message>
+        <source>Errors, and the bands round the lines, are half the width within which 68 of 100 results lie when picks are moved by their errors, by %1 such interpretations.</source>
+        <translation>Gli errori, e le fasce attorno alle linee, sono la semiampiezza entro cui cadono 68 risultati su 100 quando i primi arrivi si spostano secondo i loro errori, da %1 interpretazioni di questo tipo.</translation>
+    </message>
+    <message>
+        <source>Median velocity of refractor %1</source>
+        <translation>Velocità mediana del rifrattore %1</translation>
     </message>
 </context>
 <context>
@@ -11255,6 +12078,58 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Table (*.csv)</source>
         <translation>Tabella (*.csv)</translation>
     </message>
+    <message>
+        <source>P and S together ...</source>
+        <translation>P e S insieme ...</translation>
+    </message>
+    <message>
+        <source>Put the layers of this survey and those of a project of the other wave together: Vp/Vs, Poisson&apos;s ratio and moduli along the line</source>
+        <translation>Riunisce gli strati di questo rilievo e quelli di un progetto dell&apos;altra onda: Vp/Vs, coefficiente di Poisson e moduli lungo la linea</translation>
+    </message>
+    <message>
+        <source>There are no times through the layers: build the profiles anew.</source>
+        <translation>Non ci sono tempi attraverso gli strati: costruire di nuovo i profili.</translation>
+    </message>
+    <message>
+        <source>Project of the other wave</source>
+        <translation>Progetto dell&apos;altra onda</translation>
+    </message>
+    <message>
+        <source>This is the project that is open.</source>
+        <translation>Questo è il progetto aperto.</translation>
+    </message>
+    <message>
+        <source>Choose the project of the other wave, P or S, along the same line.</source>
+        <translation>Scegliere il progetto dell&apos;altra onda, P o S, lungo la stessa linea.</translation>
+    </message>
+    <message>
+        <source>%1 has no layered profile.</source>
+        <translation>%1 non ha un profilo a strati.</translation>
+    </message>
+    <message>
+        <source>Open it, build its profiles in the refraction dialog, and save it.</source>
+        <translation>Aprirlo, costruirne i profili nella finestra della rifrazione e salvarlo.</translation>
+    </message>
+    <message>
+        <source>this survey</source>
+        <translation>questo rilievo</translation>
+    </message>
+    <message>
+        <source>Save picture of P and S</source>
+        <translation>Salva immagine di P e S</translation>
+    </message>
+    <message>
+        <source>Save table of P and S</source>
+        <translation>Salva tabella di P e S</translation>
+    </message>
+    <message>
+        <source>Save picture of layers by method</source>
+        <translation>Salva immagine degli strati secondo i metodi</translation>
+    </message>
+    <message>
+        <source>Save table of layers by method</source>
+        <translation>Salva tabella degli strati secondo i metodi</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -11408,6 +12283,73 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Error: %1 ms</source>
         <translation>Errore: %1 ms</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>St&amp;rati</translation>
+    </message>
+    <message>
+        <source>Times computed through the layers of the refraction interpretation</source>
+        <translation>Tempi calcolati attraverso gli strati dell&apos;interpretazione a rifrazione</translation>
+    </message>
+    <message>
+        <source>There are no layers of these picks: build the profiles of the refraction interpretation (anew).</source>
+        <translation>Non ci sono strati di questi primi arrivi: costruire (di nuovo) i profili dell&apos;interpretazione a rifrazione.</translation>
+    </message>
+    <message>
+        <source>Layers: %1 ms</source>
+        <translation>Strati: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::XYCriteria</name>
+    <message>
+        <source>XY (m)</source>
+        <translation>XY (m)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV</source>
+        <translation>Irregolarità di tV</translation>
+    </message>
+    <message>
+        <source>RMS (ms)</source>
+        <translation>RMS (ms)</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity</source>
+        <translation>Disuniformità della velocità</translation>
+    </message>
+    <message>
+        <source>RMS (%)</source>
+        <translation>RMS (%)</translation>
+    </message>
+    <message>
+        <source>Roughness of tV against XY</source>
+        <translation>Irregolarità di tV in funzione di XY</translation>
+    </message>
+    <message>
+        <source>Unevenness of velocity against XY</source>
+        <translation>Disuniformità della velocità in funzione di XY</translation>
+    </message>
+    <message>
+        <source>Click to choose it</source>
+        <translation>Fai clic per sceglierlo</translation>
+    </message>
+    <message>
+        <source>No XY can be judged: forward and reverse curve have too few geophones in common.</source>
+        <translation>Nessun XY si può valutare: dromocrona diretta e inversa hanno troppo pochi geofoni in comune.</translation>
+    </message>
+    <message>
+        <source>Nothing is built yet.</source>
+        <translation>Ancora nulla di costruito.</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>scelto</translation>
+    </message>
+    <message>
+        <source>proposed</source>
+        <translation>proposto</translation>
     </message>
 </context>
 <context>
