@@ -26,6 +26,7 @@ class SampleBlock {
   const double* data() const { return mAway == nullptr ? mValues.data() : read(); }
   std::size_t size() const { return mAway == nullptr ? mValues.size() : mSize; }
   std::vector<double>& values() { return mValues; }  ///< of a block in memory
+  std::size_t capacity() const { return mValues.capacity(); }
 
  private:
   const double* read() const;
@@ -61,6 +62,8 @@ class Samples {
   const double* data() const { return mBlock == nullptr ? nullptr : mBlock->data(); }
   std::size_t size() const { return mBlock == nullptr ? 0 : mBlock->size(); }
   bool empty() const { return size() == 0; }
+  /// For how many there is memory; 0 on the disk.
+  std::size_t capacity() const { return mBlock == nullptr ? 0 : mBlock->capacity(); }
   const double* begin() const { return data(); }
   const double* end() const { return data() + size(); }
   const double& operator[](std::size_t i) const { return mBlock->data()[i]; }

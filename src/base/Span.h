@@ -22,7 +22,7 @@ class Span {
 
   Span() = default;
   Span(const T* data, std::size_t size) : mData(data), mSize(size) {}
-  Span(std::initializer_list<T> values) : mData(values.begin()), mSize(values.size()) {}
+  Span(std::initializer_list<T> values) : Span(values.begin(), values.size()) {}
   template <typename Container, typename = std::enable_if_t<std::is_convertible_v<
                                     decltype(std::declval<const Container&>().data()), const T*>>>
   // NOLINTNEXTLINE(google-explicit-constructor): a container is a span of itself

@@ -25,8 +25,8 @@ ReadShotFile reading(ShotReader reader, double scale) {
   file.shots.resize(1);
   for (int i = 0; i < 4; ++i) {
     ShotRecord trace;
-    for (int s = 0; s < 30; ++s) trace.samples.push_back(scale * ((s * 7 + i) % 11 - 5));
-    if (reader == ShotReader::kRules) trace.samples.back() = 0.0;
+    for (int s = 0; s < 30; ++s) trace.samples.edit().push_back(scale * ((s * 7 + i) % 11 - 5));
+    if (reader == ShotReader::kRules) trace.samples.edit().back() = 0.0;
     trace.sampleInterval = 0.001;
     trace.delay = -0.002;
     trace.source = {-2.5, 100.0};
@@ -82,17 +82,17 @@ TEST(LostByRules, isWhatTheStandardHasBesides) {
        },
        true},
       {"1 of 4 traces are all zeros",
-       [](TwoReadings& two) { traces(two.rules)[2].samples.assign(30, 0.0); }, true},
+       [](TwoReadings& two) { traces(two.rules)[2].samples.edit().assign(30, 0.0); }, true},
       {"the samples of 4 of 4 traces",
        [&](TwoReadings& two) {
          forAll(two.rules, [](ShotRecord& trace) {
-           for (std::size_t i = 0; i < 15; ++i) trace.samples[i] = trace.samples[2 * i];
+           for (std::size_t i = 0; i < 15; ++i) trace.samples.edit()[i] = trace.samples[2 * i];
          });
        },
        false},
       {"4 of 4 traces are shorter",
        [&](TwoReadings& two) {
-         forAll(two.rules, [](ShotRecord& trace) { trace.samples.resize(20); });
+         forAll(two.rules, [](ShotRecord& trace) { trace.samples.edit().resize(20); });
        },
        false},
       {"interval is 0 ms by the program's rules, 1 ms by the standard",
@@ -104,7 +104,8 @@ TEST(LostByRules, isWhatTheStandardHasBesides) {
        [&](TwoReadings& two) {
          forAll(two.standard, [](ShotRecord& trace) {
            trace.delay = 0.0;
-           trace.samples.insert(trace.samples.begin(), 5, 0.0);
+           std::vector<double>& samples = trace.samples.edit();
+           samples.insert(samples.begin(), 5, 0.0);
          });
        },
        false},
@@ -192,7 +193,7 @@ TEST(ReadingSummaries, spanTheTracesOfAllShots) {
   EXPECT_EQ(summaryOf(ReadShotFile()).traces, 0U);
   file.shots.push_back(file.shots.front());
   traces(file)[3].delay = -0.5;
-  file.shots[1].data.traces[0].samples.resize(7);
+  file.shots[1].data.traces[0].samples.edit().resize(7);
   for (ShotRecord& trace : file.shots[1].data.traces) trace.source.x = 20.0;
   const ReadingSummary summary = summaryOf(file);
   EXPECT_EQ(summary.shots, 2U);

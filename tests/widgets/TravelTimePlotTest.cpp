@@ -293,7 +293,7 @@ TEST_F(TravelTimes, previewFadesTheOtherShotsOnLightAndDarkGround) {
     palette.setColor(QPalette::Base, dark ? QColor(30, 30, 30) : QColor(Qt::white));
     palette.setColor(QPalette::Text, dark ? QColor(Qt::white) : QColor(Qt::black));
     plot.setPalette(palette);
-    plot.setCanvasBackground(palette.color(QPalette::Base));
+    plot.canvas()->setPalette(palette);
     for (const int current : {0, 1}) {
       plot.setCurrentShot(current);
       EXPECT_GT(contrastAt(current, 2), 80) << dark;
