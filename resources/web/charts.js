@@ -53,6 +53,7 @@ class Chart {
       dragmode: 'pan',
       showlegend: false,
       hovermode: false,
+      images: this.images,
       uirevision: 'same',
       ...layout,
     };
@@ -197,8 +198,9 @@ class Chart {
       sizing: 'stretch',
       layer: 'below',
     };
+    this.images = [image];
     this.painting = true;
-    return Plotly.relayout(this.element, { images: [image] }).then(() => {
+    return Plotly.relayout(this.element, { images: this.images }).then(() => {
       this.painting = false;
     });
   }

@@ -77,3 +77,54 @@ function paintTraces(context, traces, color, toX, toY) {
     context.stroke(line);
   }
 }
+
+/** A line from receiver to receiver along the line, broken where there is no time. */
+function paintCurve(context, receivers, times, color, toX, toY) {
+  const order = receivers.map((_, at) => at).filter((at) => receivers[at] !== null);
+  order.sort((a, b) => receivers[a] - receivers[b]);
+  context.strokeStyle = color;
+  context.lineWidth = 1.2;
+  context.beginPath();
+  let open = false;
+  for (const at of order) {
+    if (times[at] === null) open = false;
+    else if (open) context.lineTo(toX(receivers[at]), toY(times[at]));
+    else {
+      context.moveTo(toX(receivers[at]), toY(times[at]));
+      open = true;
+    }
+  }
+  context.stroke();
+}
+
+function paintDots(context, receivers, times, color, toX, toY) {
+  context.fillStyle = color;
+  context.beginPath();
+  times.forEach((time, at) => {
+    if (time === null || receivers[at] === null) return;
+    const x = toX(receivers[at]);
+    const y = toY(time);
+    context.moveTo(x + 2.5, y);
+    context.arc(x, y, 2.5, 0, 2 * Math.PI);
+  });
+  context.fill();
+}
+
+/** One standard deviation up and down, with caps. */
+function paintBars(context, receivers, times, errors, color, toX, toY) {
+  context.strokeStyle = color;
+  context.lineWidth = 1;
+  context.beginPath();
+  times.forEach((time, at) => {
+    if (time === null || receivers[at] === null || errors[at] === null) return;
+    const x = toX(receivers[at]);
+    const ends = [toY(time - errors[at]), toY(time + errors[at])];
+    context.moveTo(x, ends[0]);
+    context.lineTo(x, ends[1]);
+    for (const y of ends) {
+      context.moveTo(x - 2.5, y);
+      context.lineTo(x + 2.5, y);
+    }
+  });
+  context.stroke();
+}

@@ -14,6 +14,7 @@ class TimesFigure {
     this.chart.element.tabIndex = 0;
     this.chart.element.setAttribute('role', 'application');
     this.chart.element.setAttribute('aria-label', `${words.times}. ${words.timesHelp}`);
+    this.chart.setPicture((context, toX, toY) => this.paint(context, toX, toY));
     this.chart.follow((at) => this.point(at), (at) => this.click(at));
     this.listenToKeys();
   }
@@ -79,16 +80,12 @@ class TimesFigure {
 
   describe(colors) {
     const traces = [];
-    const { parts } = this;
     let latest = 1;
     const places = [];
-    this.shots.forEach((shot, i) => {
+    for (const shot of this.shots) {
       places.push(shot.x, ...shot.receivers);
       for (const time of [...shot.measured, ...shot.computed]) latest = Math.max(latest, time || 0);
-      if (!this.shown.has(i)) return;
-      if (parts.computed) traces.push(this.computedOf(shot, i));
-      if (parts.measured) traces.push(this.measuredOf(shot, i));
-    });
+    }
     traces.push({
       type: 'scatter',
       mode: 'markers',
@@ -110,31 +107,17 @@ class TimesFigure {
     };
   }
 
-  /** One line with its bars, cheap to move however many picks there are. */
-  measuredOf(shot, i) {
-    const trace = {
-      type: 'scatter',
-      mode: 'markers',
-      x: shot.receivers,
-      y: shot.measured,
-      marker: { color: shotColor(i), size: 5 },
-    };
-    if (this.parts.errors && shot.errors.some((error) => error !== null)) {
-      trace.error_y = { type: 'data', array: shot.errors.map((e) => e || 0), thickness: 1, width: 2 };
-    }
-    return trace;
-  }
-
-  computedOf(shot, i) {
-    const order = shot.receivers.map((x, at) => at).filter((at) => shot.receivers[at] !== null);
-    order.sort((a, b) => shot.receivers[a] - shot.receivers[b]);
-    return {
-      type: 'scatter',
-      mode: 'lines',
-      x: order.map((at) => shot.receivers[at]),
-      y: order.map((at) => shot.computed[at]),
-      line: { color: shotColor(i), width: 1.2 },
-    };
+  /** Painted and not drawn by the library: thousands of picks must follow the pointer. */
+  paint(context, toX, toY) {
+    const { parts } = this;
+    this.shots.forEach((shot, i) => {
+      if (!this.shown.has(i)) return;
+      const color = shotColor(i);
+      if (parts.computed) paintCurve(context, shot.receivers, shot.computed, color, toX, toY);
+      if (!parts.measured) return;
+      if (parts.errors) paintBars(context, shot.receivers, shot.measured, shot.errors, color, toX, toY);
+      paintDots(context, shot.receivers, shot.measured, color, toX, toY);
+    });
   }
 
   marked(colors) {

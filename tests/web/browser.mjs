@@ -16,12 +16,16 @@ export function launch() {
   return chromium.launch({ executablePath: process.env.CHROMIUM, args: quiet });
 }
 
+export function pageOf(name) {
+  return pathToFileURL(`${process.env.WEB_PAGES}/${name}.html`).href;
+}
+
 /** Opens a page; `trouble` holds its errors, warnings of its policy and all that it asked for. */
 export async function open(browser, name, options = {}) {
   const context = await browser.newContext({ viewport: { width: 1300, height: 900 }, ...options });
   const page = await context.newPage();
   const trouble = [];
-  const file = pathToFileURL(`${process.env.WEB_PAGES}/${name}.html`).href;
+  const file = pageOf(name);
   page.on('console', (message) => {
     if (message.type() === 'error' || message.type() === 'warning') trouble.push(message.text());
   });

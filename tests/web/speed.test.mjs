@@ -4,7 +4,7 @@
 import assert from 'node:assert/strict';
 import { readFileSync, readdirSync } from 'node:fs';
 import { after, before, test } from 'node:test';
-import { launch, live, open } from './browser.mjs';
+import { launch, live, open, pageOf } from './browser.mjs';
 
 const tickMs = 10; // of /proc on Linux
 const longestOpening = 2000;
@@ -34,19 +34,19 @@ function browserTime() {
 }
 
 test('it opens at once', async () => {
-  const warm = await open(browser, 'bare');
-  await warm.close();
-  const before = browserTime();
-  const began = performance.now();
-  const { page, trouble, close } = await open(browser, 'large');
+  const context = await browser.newContext({ viewport: { width: 1300, height: 900 } });
+  const page = await context.newPage();
+  const tools = await context.newCDPSession(page);
+  await tools.send('Performance.enable');
+  await page.goto(pageOf('large'));
   await page.evaluate(() => new Promise((done) => {
     requestAnimationFrame(() => requestAnimationFrame(done));
   }));
-  const used = browserTime() - before;
-  console.log(`opened in ${used} ms of processor, ${(performance.now() - began).toFixed(0)} ms by the clock`);
+  const { metrics } = await tools.send('Performance.getMetrics');
+  const used = 1000 * metrics.find(({ name }) => name === 'ProcessTime').value;
+  console.log(`opened in ${used.toFixed(0)} ms of processor`);
   assert.ok(used < longestOpening, `${used} ms`);
-  assert.deepEqual(trouble, []);
-  await close();
+  await context.close();
 });
 
 /** Processor time of a frame while the pointer drags a chart. */
@@ -70,7 +70,7 @@ async function frameWhilePanning(page, name) {
   });
   const before = browserTime();
   const began = performance.now();
-  for (let i = 1; i <= 90; i += 1) await page.mouse.move(middle[0] + 2 * i, middle[1] + i / 3);
+  for (let i = 1; i <= 60; i += 1) await page.mouse.move(middle[0] + 2 * i, middle[1] + i / 3);
   const used = browserTime() - before;
   const frames = await page.evaluate(() => window.frameCount);
   await page.mouse.up();
