@@ -2,7 +2,7 @@
 
 const missingSample = -128;
 const fullSwing = 127;
-const swingInSpacings = 1.4;
+const swingInSpacings = 2;
 const cutInSpacings = 0.7;
 
 /** The traces of a gather: times, and swings in units of the lower axis. */

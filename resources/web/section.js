@@ -190,7 +190,7 @@ class SectionFigure {
     });
     if (parts.geophones) traces.push(markers(section.geophones, 'triangle-down', 7));
     if (parts.shots) traces.push(markers(section.shots, 'star', 10));
-    traces.push(...this.pickRay(line), ...this.crosshair(colors));
+    traces.push(...this.pickRay(line), ...this.crosshair());
     return { traces, layout: this.layout(colors) };
   }
 
@@ -207,9 +207,11 @@ class SectionFigure {
     return ray ? [line({ x: ray.x, y: ray.z }, { color: '#e60000', width: 2.5 })] : [];
   }
 
-  crosshair(colors) {
+  crosshair() {
     if (!this.cursor) return [];
-    const marker = { symbol: 'cross-thin', size: 18, line: { color: colors.text, width: 2 } };
+    const marker = {
+      symbol: 'cross', size: 14, color: '#fff', line: { color: '#000', width: 1.5 },
+    };
     return [{ type: 'scatter', mode: 'markers', x: [this.cursor.x], y: [this.cursor.z], marker }];
   }
 

@@ -110,11 +110,11 @@ TEST(WebPage, holdsNoPlaceThatIsLeftOut) {
 
 TEST(WebPage, isWrittenForASuffixOfAnyCase) {
   const TestFolder folder;
-  const std::string path = folder / "line.HTML";
+  const std::string path = folder.file("line.HTML");
   const TomoDocument line = pickedLine();
   ASSERT_TRUE(writeReport(reportOn(line), path).ok());
   EXPECT_EQ(TestFolder::get(path).substr(0, 15), "<!DOCTYPE html>");
-  EXPECT_THAT(writeReport(reportOn(line), folder / "line.htm").message(), HasSubstr(".html"));
+  EXPECT_THAT(writeReport(reportOn(line), folder.file("line.htm")).message(), HasSubstr(".html"));
 }
 
 TEST(WebText, leavesOutWhatNoPageCanHold) {

@@ -3,7 +3,6 @@
 #include "model/Recordings.h"
 #include "support/ConsoleCapture.h"
 #include "support/TestSurveys.h"
-#include "tomo/KeepRun.h"
 #include "tomo/TomographyRun.h"
 
 #include <QApplication>
@@ -64,7 +63,6 @@ void invert(TomoDocument& line, int iterations) {
   Log log;
   const Status status = runInversion(line, few, log).status;
   if (!status.ok()) std::fprintf(stderr, "%s\n", status.message().c_str());
-  keepRun(line);
 }
 
 void addCertainty(TomoDocument& line) {

@@ -149,10 +149,11 @@ class BodyWriter {
     // A wide one scrolls in a place of its own, which keys reach.
     const QString name = item.text.isEmpty() ? WebPageWords::tr("About the report") : item.text;
     mBody += QStringLiteral(
-                 "<div class=\"table\" tabindex=\"0\" role=\"region\" aria-label=\"%1\">"
+                 "<div class=\"table%3\" tabindex=\"0\" role=\"region\" aria-label=\"%1\">"
                  "\n<table%2>\n")
                  .arg(web::escaped(name),
-                      table.hasHeadings() ? QString() : QStringLiteral(" class=\"facts\""));
+                      table.hasHeadings() ? QString() : QStringLiteral(" class=\"facts\""),
+                      table.staysWhole() ? QStringLiteral(" whole") : QString());
     if (!item.text.isEmpty()) addText(QStringLiteral("caption"), item.text);
     if (table.hasHeadings()) addHeadings(table);
     mBody += QStringLiteral("<tbody>\n");
@@ -206,8 +207,10 @@ class BodyWriter {
       status = paintFigure(FigureFormat::kPng, sheet, item.figure.paint, picture);
     }
     if (!status.ok()) return status;
+    // Of residuals the live figures show other sides than the still one, which stays.
+    const bool beside = item.live == LiveFigure::kResiduals;
     mBody += QStringLiteral("<figure>\n");
-    if (item.live != LiveFigure::kNone) addLive(item.live);
+    if (item.live != LiveFigure::kNone && !beside) addLive(item.live);
     mBody +=
         QStringLiteral("<img class=\"still\" width=\"%1\" alt=\"%2\" src=\"data:image/%3;base64,")
             .arg(qRound(item.figure.sheet.widthMm / kMmPerInch * 96.0))
@@ -215,6 +218,7 @@ class BodyWriter {
     mBody += QString::fromLatin1(picture.toBase64());
     mBody += QStringLiteral("\">\n<figcaption>%1</figcaption>\n</figure>\n")
                  .arg(web::escaped(item.text));
+    if (beside) addLive(item.live);
     if (mGoOn && !mGoOn(++mFigures)) {
       return Status::failure(Message::tr("The report was stopped."), kReportCancelled);
     }

@@ -120,13 +120,15 @@ QJsonArray gatherData(const TomoDocument& document) {
   std::size_t traces = 0;
   for (const TraceSet& set : sets) traces += set.size();
   if (traces == 0) return gathers;
+  GatherFigureOptions look;
+  look.errorBars = false;  // the page draws its own
   const std::size_t each = std::clamp(kMostSamples / traces, kFewestPerTrace, kMostPerTrace);
   std::size_t left = kMostSamples;
   for (const TravelTime& record : document.ttArray) {
     GatherScene scene;
     const auto set = static_cast<std::size_t>(record.traceSetID);
     if (record.traceSetID < 0 || set >= sets.size() || sets[set].empty() ||
-        !buildGatherScene(document, set, {}, scene).ok()) {
+        !buildGatherScene(document, set, look, scene).ok()) {
       gathers.append(QJsonValue::Null);
       continue;
     }
