@@ -117,6 +117,7 @@ test('a click shows the profile below it', async () => {
   await profile.locator('.main-svg').first().waitFor();
   assert.match(await profile.locator('.chart-title').textContent(), /^Vertical profile at 2\d\.\d\d m$/);
   await profile.locator('summary').click();
+  await profile.locator('tbody tr').first().waitFor();
   const rows = await profile.locator('tbody tr').evaluateAll((all) => all.map((row) => [...row.cells].map((c) => c.textContent)));
   const column = Math.floor(data.section.columns / 2);
   const drawn = data.section.quantities[0].values.filter((v, i) => i % data.section.columns === column && v !== null);
@@ -206,6 +207,7 @@ test('misfit, history and reciprocity show the numbers of the data', async () =>
   const { page, data, trouble, close } = await open(browser, 'plain');
   const tableOf = async (place, index) => {
     await place.locator('summary').nth(index).click();
+    await place.locator('details').nth(index).locator('tbody tr').first().waitFor();
     return place.locator('details').nth(index).locator('tbody tr').evaluateAll(
       (all) => all.map((row) => [...row.cells].map((c) => Number(c.textContent))),
     );
