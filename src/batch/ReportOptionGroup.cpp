@@ -7,8 +7,9 @@ CLI::Option* addReport(CLI::App& command, std::string& path, ReportFields& field
   constexpr const char* kGroup = "Report";
   CLI::Option* report = mustEndIn(
       addPath(command, "--report", path,
-              "A report on survey, travel times, section and misfit, named *.pdf or *.odt"),
-      {".pdf", ".odt"}, true);
+              "A report on survey, travel times, section and misfit, named *.pdf, *.odt or "
+              "*.html"),
+      {".pdf", ".odt", ".html"}, true);
   report->group(kGroup);
   const auto field = [&](const char* name, std::string& text, const char* help) {
     command.add_option(name, text, help)->type_name("TEXT")->needs(report)->group(kGroup);

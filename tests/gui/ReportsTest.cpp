@@ -75,11 +75,12 @@ class Reports : public WindowTest {
 };
 
 TEST_F(Reports, needASurveyAndPicturesOfTheViewASection) {
-  for (const char* name : {"actionImages", "actionScreenshot", "actionPDF", "actionODT"}) {
+  for (const char* name :
+       {"actionImages", "actionScreenshot", "actionPDF", "actionODT", "actionWeb_page"}) {
     EXPECT_FALSE(action(name).isEnabled()) << name;
   }
   loadShots(1);
-  for (const char* name : {"actionImages", "actionPDF", "actionODT"}) {
+  for (const char* name : {"actionImages", "actionPDF", "actionODT", "actionWeb_page"}) {
     EXPECT_TRUE(action(name).isEnabled()) << name;
   }
   EXPECT_FALSE(action("actionScreenshot").isEnabled());
@@ -118,6 +119,11 @@ TEST_F(Reports, areShownBeforeTheyAreWrittenAndRememberWhomTheyAreFor) {
   dialogs.expectFiles("Save ODT report", {path("report")});
   action("actionODT").trigger();
   EXPECT_THAT(TestFolder::get(home.file("report.odt")).substr(0, 80), HasSubstr("opendocument"));
+
+  expectDialog([](QWidget&) {});
+  dialogs.expectFiles("Save web page", {path("report")});
+  action("actionWeb_page").trigger();
+  EXPECT_THAT(TestFolder::get(home.file("report.html")), StartsWith("<!DOCTYPE html>"));
 }
 
 TEST_F(Reports, tellWhereTheyCouldNotBeWritten) {

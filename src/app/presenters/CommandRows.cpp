@@ -69,6 +69,7 @@ Rows fileRows(Desk& desk, Presenters& p) {
       {"actionScreenshot", &State::grid, call(p.reports, &ReportPresenter::takeScreenshot)},
       {"actionPDF", &State::records, call(p.reports, &ReportPresenter::writePdf)},
       {"actionODT", &State::records, call(p.reports, &ReportPresenter::writeOdt)},
+      {"actionWeb_page", &State::records, call(p.reports, &ReportPresenter::writeWebPage)},
 
       {"actionUser_guide", always, call(p.help, &HelpPresenter::openUserGuide)},
       {"actionHelp", always, call(p.help, &HelpPresenter::openOnlineHelp)},

@@ -135,6 +135,10 @@ void ReportPresenter::writeOdt() {
   writeReportAs(tr("Save ODT report"), tr("OpenDocument text (*.odt)"), "odt");
 }
 
+void ReportPresenter::writeWebPage() {
+  writeReportAs(tr("Save web page"), tr("Web page (*.html)"), "html");
+}
+
 void ReportPresenter::writeReportAs(const QString& title, const QString& filter,
                                     const char* suffix) {
   ReportOptions options;

@@ -23,6 +23,7 @@ class ReportPresenter : public QObject {
   void takeScreenshot();  ///< of the section as it is seen
   void writePdf();
   void writeOdt();
+  void writeWebPage();
 
  private:
   bool mayOverwrite(const std::vector<PlannedImage>& images);

@@ -4,6 +4,8 @@
 #include "figures/report/ReportBuilder.h"
 #include "figures/report/ReportOdt.h"
 #include "figures/report/ReportPages.h"
+#include "figures/web/WebData.h"
+#include "figures/web/WebPage.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 
@@ -49,6 +51,7 @@ Status buildReport(const ReportSource& source, const ReportOptions& options,
   if (!status.ok()) return status;
   if (sections.method) report::addMethod(builder);
   if (made.items.size() == front) made.items.pop_back();
+  made.liveData = [source, options] { return webData(source, options); };
   content = std::move(made);
   return {};
 }
@@ -59,9 +62,12 @@ Status reportFormatOf(const std::string& path, ReportFormat& format) {
     format = ReportFormat::kPdf;
   } else if (name.endsWith(QLatin1String(".odt"), Qt::CaseInsensitive)) {
     format = ReportFormat::kOdt;
+  } else if (name.endsWith(QLatin1String(".html"), Qt::CaseInsensitive)) {
+    format = ReportFormat::kHtml;
   } else {
     return Status::failure(
-        Message::tr("No report format is known for %1: let the file name end with .pdf or .odt.")
+        Message::tr("No report format is known for %1: let the file name end with .pdf, .odt or "
+                    ".html.")
             .arg(path));
   }
   return {};
@@ -85,7 +91,9 @@ Status writeReport(const ReportContent& content, const std::string& path,
     const auto figures = std::count_if(
         content.items.begin(), content.items.end(),
         [](const ReportItem& item) { return item.kind == ReportItem::Kind::kFigure; });
-    status = reportAsOdt(content, goOnOf(static_cast<int>(figures)), bytes);
+    const auto goOn = goOnOf(static_cast<int>(figures));
+    status = format == ReportFormat::kOdt ? reportAsOdt(content, goOn, bytes)
+                                          : reportAsHtml(content, goOn, bytes);
   }
   if (!status.ok()) return status;
   return writeBytes(path, bytes);

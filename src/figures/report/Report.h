@@ -16,13 +16,14 @@ using ReportProgress = std::function<bool(double done)>;
 Status buildReport(const ReportSource& source, const ReportOptions& options,
                    ReportContent& content);
 
-enum class ReportFormat { kPdf, kOdt };
+enum class ReportFormat { kPdf, kOdt, kHtml };
 
-/// The format that a file's suffix (".pdf", ".odt", any case) asks for. Any other suffix fails with
-/// a message that names the two.
+/// The format that a file's suffix (".pdf", ".odt", ".html", any case) asks for. Any other suffix
+/// fails with a message that names the three.
 Status reportFormatOf(const std::string& path, ReportFormat& format);
 
-/// Writes a report as PDF, its figures as shapes, or as ODT, its figures as pictures, and replaces
+/// Writes a report as PDF, its figures as shapes, as ODT, its figures as pictures, or as web page,
+/// some of its figures live, and replaces
 /// the file at `path` by it, whole or not at all. Work that `progress` ended fails with the code
 /// kReportCancelled.
 Status writeReport(const ReportContent& content, const std::string& path,

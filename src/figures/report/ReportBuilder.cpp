@@ -17,16 +17,18 @@ void ReportBuilder::heading(const QString& text) {
   add(ReportItem::Kind::kHeading, QStringLiteral("%1  %2").arg(++mHeadings).arg(text));
 }
 
-void ReportBuilder::table(const QString& caption, ReportTable table) {
+void ReportBuilder::table(const QString& caption, ReportTable table, LiveFigure live) {
   if (table.rows.empty()) return;
   add(ReportItem::Kind::kTable,
       caption.isEmpty() ? QString() : ReportWords::tr("Table %1. %2").arg(++mTables).arg(caption));
   mContent.items.back().table = std::move(table);
+  mContent.items.back().live = live;
 }
 
-void ReportBuilder::figure(const QString& caption, FigureDrawing drawing) {
+void ReportBuilder::figure(const QString& caption, FigureDrawing drawing, LiveFigure live) {
   add(ReportItem::Kind::kFigure, ReportWords::tr("Figure %1. %2").arg(++mFigures).arg(caption));
   mContent.items.back().figure = std::move(drawing);
+  mContent.items.back().live = live;
 }
 
 namespace report {

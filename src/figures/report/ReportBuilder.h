@@ -28,8 +28,8 @@ class ReportBuilder {
   void subheading(const QString& text) { add(ReportItem::Kind::kSubheading, text); }
   void paragraph(const QString& text) { add(ReportItem::Kind::kParagraph, text); }
   /// A table without rows is left out. \param caption empty: no number either
-  void table(const QString& caption, ReportTable table);
-  void figure(const QString& caption, FigureDrawing drawing);
+  void table(const QString& caption, ReportTable table, LiveFigure live = LiveFigure::kNone);
+  void figure(const QString& caption, FigureDrawing drawing, LiveFigure live = LiveFigure::kNone);
   double widthMm() const { return ReportSheet(options.paper).textWidthMm(); }
 
  private:
@@ -55,6 +55,10 @@ Status addRefraction(ReportBuilder& builder);
 void addLayerFit(ReportBuilder& builder);      ///< nothing where no misfit is known
 void addLayerMethods(ReportBuilder& builder);  ///< nothing where only the profile was built
 void addMethod(ReportBuilder& builder);
+
+/// How the sections of a report are drawn: as its options say, as far as that is about the
+/// quantity.
+SectionFigureOptions sectionOptions(const ReportOptions& options, SectionQuantity quantity);
 
 /// A number with as many places, "." before them in every language; "–" for what is no number.
 QString number(double value, int places);

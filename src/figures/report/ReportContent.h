@@ -2,8 +2,10 @@
 
 #include "figures/FigureFile.h"
 
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <vector>
 
 namespace talvesk {
@@ -49,6 +51,17 @@ struct ReportTable {
   std::vector<double> letters(bool wholeTitles) const;  ///< that each column needs
 };
 
+/// What the web page of a report has in place of a still figure, or beside a table.
+enum class LiveFigure {
+  kNone,
+  kSection,
+  kTravelTimes,  ///< with the recordings of a shot
+  kResiduals,    ///< per shot and per geophone
+  kHistory,      ///< misfit per iteration
+  kReciprocity,
+  kMap
+};
+
 /// A part of a report. What is read of it stands in `text`; of tables and figures that is the
 /// caption, with its number.
 struct ReportItem {
@@ -58,16 +71,19 @@ struct ReportItem {
   QString text;
   ReportTable table;
   FigureDrawing figure;
+  LiveFigure live = LiveFigure::kNone;  ///< that takes the place of a figure, or follows a table
 };
 
 /// A report as its readers get it, from the first page to the last, without a word on pages. One
-/// content becomes a PDF, an ODT and the pages on the screen.
+/// content becomes a PDF, an ODT, a web page and the pages on the screen.
 struct ReportContent {
   ReportPaper paper = ReportPaper::kA4;
   QString title;
   QString author;
   QString language;  ///< ISO code, for spelling
   std::vector<ReportItem> items;
+  /// What the live figures show, see figures/web/WebData.h; called where there is a page to write.
+  std::function<QJsonObject()> liveData;
 };
 
 }  // namespace talvesk

@@ -185,8 +185,23 @@ void addParameters(ReportBuilder& builder, const InversionRecord& run) {
   builder.table(ReportWords::tr("Parameters of the inversion"), facts);
 }
 
-SectionFigureOptions sectionOptions(const ReportBuilder& builder, SectionQuantity quantity) {
-  SectionFigureOptions options = builder.options.section;
+Status addSection(ReportBuilder& builder, const SectionFigureOptions& options,
+                  const QString& caption, LiveFigure live = LiveFigure::kNone) {
+  FigureDrawing drawing;
+  Status status = prepareSectionFigure(builder.source.document, options, drawing);
+  if (status.ok() && drawing.sheet.heightMm > kHighestSectionMm) {
+    SectionFigureOptions lower = options;
+    lower.heightMm = kHighestSectionMm;
+    status = prepareSectionFigure(builder.source.document, lower, drawing);
+  }
+  if (status.ok()) builder.figure(caption, std::move(drawing), live);
+  return status;
+}
+
+}  // namespace
+
+SectionFigureOptions sectionOptions(const ReportOptions& report, SectionQuantity quantity) {
+  SectionFigureOptions options = report.section;
   if (options.scene.quantity != quantity) {
     // Range and contours are those of another quantity.
     options.scene.range.reset();
@@ -203,26 +218,11 @@ SectionFigureOptions sectionOptions(const ReportBuilder& builder, SectionQuantit
   if (options.scene.fill == SectionFill::kNone) options.scene.fill = SectionFill::kCells;
   if (options.colorBar == ColorBar::kNone) options.colorBar = ColorBar::kVertical;
   options.scene.quantity = quantity;
-  options.widthMm = builder.widthMm();
+  options.widthMm = ReportSheet(report.paper).textWidthMm();
   options.heightMm = 0.0;
   options.showTitle = false;
   return options;
 }
-
-Status addSection(ReportBuilder& builder, const SectionFigureOptions& options,
-                  const QString& caption) {
-  FigureDrawing drawing;
-  Status status = prepareSectionFigure(builder.source.document, options, drawing);
-  if (status.ok() && drawing.sheet.heightMm > kHighestSectionMm) {
-    SectionFigureOptions lower = options;
-    lower.heightMm = kHighestSectionMm;
-    status = prepareSectionFigure(builder.source.document, lower, drawing);
-  }
-  if (status.ok()) builder.figure(caption, std::move(drawing));
-  return status;
-}
-
-}  // namespace
 
 Status addTravelTimes(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
@@ -245,7 +245,7 @@ Status addTravelTimes(ReportBuilder& builder) {
           ? ReportWords::tr("Travel-time curves: picked first breaks against distance")
           : ReportWords::tr("Travel-time curves: picked first breaks (symbols) and times computed "
                             "through the section (lines) against distance"),
-      std::move(drawing));
+      std::move(drawing), LiveFigure::kTravelTimes);
   builder.table(
       residuals.empty()
           ? ReportWords::tr("Picks of every shot")
@@ -283,17 +283,17 @@ Status addSections(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   if (document.model->grid == nullptr) return {};
   builder.heading(ReportWords::tr("Velocity section"));
-  SectionFigureOptions options = sectionOptions(builder, SectionQuantity::kVelocity);
+  SectionFigureOptions options = sectionOptions(builder.options, SectionQuantity::kVelocity);
   options.scene.rays = builder.options.sections.rays && !document.result->rays.empty();
   QString caption = ReportWords::tr("Velocities of the grid");
   if (document.result->has_tomographic_info) {
     caption = options.scene.rays ? ReportWords::tr("Velocity section with rays")
                                  : ReportWords::tr("Velocity section");
   }
-  Status status = addSection(builder, options, caption);
+  Status status = addSection(builder, options, caption, LiveFigure::kSection);
   if (status.ok() && builder.options.sections.density && document.result->has_tomographic_info &&
       hasInformationDensity(document)) {
-    options = sectionOptions(builder, SectionQuantity::kInformationDensity);
+    options = sectionOptions(builder.options, SectionQuantity::kInformationDensity);
     options.scene.rays = false;
     status = addSection(
         builder, options,
@@ -301,7 +301,7 @@ Status addSections(ReportBuilder& builder) {
             "Information density: how completely rays cross the surroundings of each cell"));
   }
   if (status.ok() && document.result->certainty) {
-    options = sectionOptions(builder, SectionQuantity::kCertainty);
+    options = sectionOptions(builder.options, SectionQuantity::kCertainty);
     options.scene.rays = false;
     status = addSection(
         builder, options,

@@ -89,17 +89,19 @@ void addLastPass(ReportBuilder& builder) {
 void addResiduals(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   const ResidualTable table = residualTableOf(document);
-  const auto add = [&](ResidualView view, double heightMm, const QString& caption) {
+  const auto add = [&](ResidualView view, double heightMm, const QString& caption,
+                       LiveFigure live = LiveFigure::kNone) {
     SectionFigureOptions sheet;
     sheet.widthMm = builder.widthMm();
     sheet.heightMm = heightMm;
     FigureDrawing drawing;
     const Status status = prepareResidualFigure(document, table, view, {}, sheet, drawing);
-    if (status.ok()) builder.figure(caption, drawing);
+    if (status.ok()) builder.figure(caption, drawing, live);
   };
   add(ResidualView::kOffset, kMisfitHeightMm,
       ReportWords::tr("Residuals of the picks against the distance from their shot"));
-  add(ResidualView::kMap, 0.0, ReportWords::tr("Residuals of the picks, shot by geophone"));
+  add(ResidualView::kMap, 0.0, ReportWords::tr("Residuals of the picks, shot by geophone"),
+      LiveFigure::kResiduals);
 }
 
 void addHistory(ReportBuilder& builder, const InversionRecord& run) {
@@ -169,7 +171,7 @@ Status addMisfit(ReportBuilder& builder) {
                : ReportWords::tr(
                      "RMS misfit of the section after every external iteration (blue), 0 being "
                      "the starting model, and of the last solver pass of each (grey)"),
-        drawing);
+        drawing, LiveFigure::kHistory);
   }
   addHistory(builder, *document.result->lastInversion);
   return {};

@@ -38,7 +38,7 @@ void addShots(ReportBuilder& builder, const doctor::ReciprocityTable& found) {
                                                                  milliseconds(shot.shiftError))
                                 : number(std::nan(""), 0)});
   }
-  builder.table(ReportWords::tr("Reciprocity of every shot"), table);
+  builder.table(ReportWords::tr("Reciprocity of every shot"), table, LiveFigure::kReciprocity);
 }
 
 void addWorst(ReportBuilder& builder, const doctor::ReciprocityTable& found) {

@@ -286,7 +286,7 @@ void addPosition(ReportBuilder& builder) {
   }
   builder.table(known ? ReportWords::tr("Ends of the line; longitude and latitude on WGS 84")
                       : ReportWords::tr("Ends of the line"),
-                table);
+                table, LiveFigure::kMap);
 }
 
 }  // namespace talvesk::report

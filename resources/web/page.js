@@ -1,0 +1,105 @@
+// Puts the page together: what is live takes the place of its still figure.
+
+const figures = {};
+
+function showSection(place) {
+  if (data.section.cells) {
+    place.append(make('p', { class: 'note', text: say(words.tooManyCells, data.section.cells) }));
+    return false;
+  }
+  figures.section = new SectionFigure(place, data.section, data.rays);
+  figures.section.redraw();
+  if (figures.pick) figures.section.showPick(figures.pick);
+  return true;
+}
+
+function showTimes(place) {
+  const chosen = (pick) => {
+    figures.pick = pick;
+    figures.section?.showPick(pick);
+    figures.gather.show(pick);
+  };
+  figures.times = new TimesFigure(place, data.shots, chosen);
+  figures.gather = new GatherFigure(place, data.shots, data.gathers);
+  figures.times.chart.draw();
+  return true;
+}
+
+const builders = {
+  section: { has: () => data.section?.columns || data.section?.cells, build: showSection },
+  times: { has: () => data.shots?.length > 0, build: showTimes },
+  residuals: { has: () => data.misfit?.perShot?.length > 0, build: (place) => showResiduals(place, data.misfit) },
+  history: { has: () => data.misfit?.section?.length > 1, build: (place) => showHistory(place, data.misfit) },
+  reciprocity: { has: () => data.reciprocity?.length > 0, build: (place) => showReciprocity(place, data.reciprocity) },
+  map: { has: () => data.map?.ends, build: (place) => showMap(place, data.map) },
+};
+
+/** Shows the still figure again where the live one cannot be made. */
+function build(place) {
+  if (place.dataset.built) return;
+  place.dataset.built = 'yes';
+  const figure = place.closest('figure');
+  figure?.classList.add('is-live');
+  try {
+    if (builders[place.dataset.figure].build(place) === false) figure?.classList.remove('is-live');
+  } catch (error) {
+    place.replaceChildren();
+    place.hidden = true;
+    figure?.classList.remove('is-live');
+    console.error(error);
+  }
+}
+
+/** A figure is built when it comes near: long pages open at once. */
+function startFigures() {
+  const places = [...document.querySelectorAll('.live')].filter((place) => builders[place.dataset.figure].has());
+  const nearby = new IntersectionObserver((entries) => {
+    for (const entry of entries) {
+      if (!entry.isIntersecting) continue;
+      nearby.unobserve(entry.target);
+      build(entry.target);
+    }
+  }, { rootMargin: '400px' });
+  for (const place of places) {
+    place.hidden = false;
+    place.closest('figure')?.classList.add('is-live');
+    nearby.observe(place);
+  }
+}
+
+const dark = window.matchMedia('(prefers-color-scheme: dark)');
+
+function isDark() {
+  const chosen = document.documentElement.dataset.theme;
+  return chosen ? chosen === 'dark' : dark.matches;
+}
+
+function themeButton() {
+  const name = () => (isDark() ? words.light : words.dark);
+  const switchTheme = () => {
+    document.documentElement.dataset.theme = isDark() ? 'light' : 'dark';
+    toggle.textContent = name();
+    redrawCharts();
+  };
+  const toggle = button(name(), switchTheme, { class: 'theme' });
+  dark.addEventListener('change', () => {
+    toggle.textContent = name();
+    redrawCharts();
+  });
+  return toggle;
+}
+
+function addTools() {
+  const tools = make('div', { class: 'tools', role: 'group', 'aria-label': words.tools });
+  tools.append(themeButton());
+  if (data.shots?.some((shot) => shot.measured.some((time) => time !== null))) {
+    tools.append(button(words.picksCsv, () => download('picks.csv', picksCsv(data.shots))));
+  }
+  if (data.section?.columns) {
+    tools.append(button(words.sectionCsv, () => download('section.csv', sectionCsv(data.section))));
+  }
+  document.getElementById('contents').append(tools);
+}
+
+addTools();
+startFigures();

@@ -1,0 +1,144 @@
+#include "figures/report/Report.h"
+#include "figures/web/WebPage.h"
+#include "figures/web/WebText.h"
+#include "support/TestFolder.h"
+#include "support/TestSurveys.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QRegularExpression>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace talvesk {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+using testing::TestFolder;
+using Kind = ReportItem::Kind;
+
+TomoDocument pickedLine() {
+  TomoDocument line = testing::testLine(13, 2.0, {0.0, 12.0, 24.0}, 1.0);
+  testing::pickTwoLayers(line, 450.0, 1800.0, 3.0);
+  return line;
+}
+
+std::string pageOf(const ReportContent& content) {
+  QByteArray bytes;
+  const Status status = reportAsHtml(content, {}, bytes);
+  EXPECT_TRUE(status.ok()) << status.message();
+  return bytes.toStdString();
+}
+
+ReportContent reportOn(const TomoDocument& line, const ReportOptions& options = {}) {
+  ReportContent content;
+  EXPECT_TRUE(buildReport({line}, options, content).ok());
+  return content;
+}
+
+TEST(WebPage, hasTheTextsOfTheOtherReportsInTheirOrder) {
+  const TomoDocument line = pickedLine();
+  const ReportContent content = reportOn(line);
+  const std::string page = pageOf(content);
+  std::size_t at = page.find("<main");
+  for (const ReportItem& item : content.items) {
+    // What belongs to a figure stands below it, a caption above its table.
+    if (item.text.isEmpty() || item.kind == Kind::kTable) continue;
+    const std::size_t next = page.find(web::escaped(item.text).toStdString() + "</", at);
+    ASSERT_NE(next, std::string::npos) << item.text.toStdString();
+    at = next;
+  }
+  for (const ReportItem& item : content.items) {
+    for (const QStringList& row : item.table.rows) {
+      for (const QString& text : row)
+        EXPECT_THAT(page, HasSubstr(web::escaped(text).toStdString()));
+    }
+  }
+}
+
+TEST(WebPage, showsTextsAsTheyAre) {
+  TomoDocument line = pickedLine();
+  const std::string attack = "</script><script>alert(1)</script>\"'&<!--\xe2\x80\xa8";
+  ReportOptions options;
+  options.title = options.client = options.author = options.notes = attack;
+  options.section.palette.name = attack;
+  options.section.scene.refractors = {{attack, {{{0.0, 99.0}, {20.0, 99.0}}}}};
+  testing::putGrid(line, 10.0, 1.0);
+  const std::string page = pageOf(reportOn(line, options));
+  EXPECT_THAT(page, Not(HasSubstr("<script>alert")));
+  EXPECT_THAT(page, HasSubstr("<h1>&lt;/script&gt;&lt;script&gt;alert(1)&lt;/script&gt;"));
+  EXPECT_THAT(page, HasSubstr("\\u003c/script\\u003e"));
+
+  const std::size_t begin = page.find("id=\"data\">") + 10;
+  const std::string json = page.substr(begin, page.find("</script>", begin) - begin);
+  const QJsonObject data = QJsonDocument::fromJson(QByteArray::fromStdString(json)).object();
+  const QJsonArray layers = data["section"].toObject()["layers"].toArray();
+  ASSERT_EQ(layers.size(), 1);
+  EXPECT_EQ(layers[0].toObject()["name"].toString().toStdString(), attack);
+}
+
+TEST(WebPage, allowsItsOwnTwoScriptsAndNothingElse) {
+  const std::string page = pageOf(reportOn(pickedLine()));
+  EXPECT_THAT(page, HasSubstr("content=\"default-src 'none'; script-src 'sha256-"));
+  EXPECT_THAT(page, Not(HasSubstr("unsafe-eval")));
+  const QRegularExpression script(QStringLiteral("<script>(.*?)</script>"),
+                                  QRegularExpression::DotMatchesEverythingOption);
+  auto matches = script.globalMatch(QString::fromStdString(page));
+  int scripts = 0;
+  for (; matches.hasNext(); ++scripts) {
+    const QByteArray text = matches.next().captured(1).toUtf8();
+    const auto hash = QCryptographicHash::hash(text, QCryptographicHash::Sha256).toBase64();
+    EXPECT_THAT(page, HasSubstr("'sha256-" + hash.toStdString() + "'"));
+  }
+  EXPECT_EQ(scripts, 2);
+}
+
+TEST(WebPage, holdsNoPlaceThatIsLeftOut) {
+  TomoDocument line = pickedLine();
+  line.map.edit().geoCoord_isSet = true;
+  line.map.edit().geoCoord = {32632, 612345.0, 612445.0, 5000000.0, 5000050.0};
+  EXPECT_THAT(pageOf(reportOn(line)), HasSubstr("612345"));
+  ReportOptions options;
+  options.sections.position = false;
+  EXPECT_THAT(pageOf(reportOn(line, options)), Not(HasSubstr("612345")));
+}
+
+TEST(WebPage, isWrittenForASuffixOfAnyCase) {
+  const TestFolder folder;
+  const std::string path = folder.file("line.HTML");
+  const TomoDocument line = pickedLine();
+  ASSERT_TRUE(writeReport(reportOn(line), path).ok());
+  EXPECT_EQ(TestFolder::get(path).substr(0, 15), "<!DOCTYPE html>");
+  EXPECT_THAT(writeReport(reportOn(line), folder.file("line.htm")).message(), HasSubstr(".html"));
+}
+
+TEST(WebText, leavesOutWhatNoPageCanHold) {
+  EXPECT_EQ(web::escaped(QStringLiteral("a\u0001<b>\t") + QChar(0xd800)), "a&lt;b&gt;\t");
+  EXPECT_EQ(web::escaped(QString::fromUtf8("\xf0\x9f\x98\x80")).toUtf8(), "\xf0\x9f\x98\x80");
+}
+
+TEST(WebText, writesNumbersAsTheLanguageDoes) {
+  const struct {
+    const char* language;
+    const char* text;
+    const char* written;
+  } cases[] = {
+      {"de", "1.5 ms, -0.25 %, 3.00 \u2013 4.10", "1,5 ms, -0,25 %, 3,00 \u2013 4,10"},
+      {"it", "RMS 1.5.", "RMS 1,5."},
+      {"fr", "22.11.2026, 1.2.3", "22.11.2026, 1.2.3"},
+      {"es", "shot. 3", "shot. 3"},
+      {"en", "1.5", "1.5"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(web::LocalNumbers(c.language).inText(QString::fromUtf8(c.text)).toStdString(),
+              c.written);
+  }
+}
+
+}  // namespace
+}  // namespace talvesk
