@@ -3243,10 +3243,6 @@ durch Picks belegt</translation>
         <translation>Es gibt keine Messung, über die berichtet werden könnte: Laden Sie zuerst Schussdateien oder Laufzeiten.</translation>
     </message>
     <message>
-        <source>No report format is known for %1: let the file name end with .pdf or .odt.</source>
-        <translation>Für %1 ist kein Berichtsformat bekannt: Der Dateiname muss auf .pdf oder .odt enden.</translation>
-    </message>
-    <message>
         <source>The report was stopped.</source>
         <translation>Der Bericht wurde angehalten.</translation>
     </message>
@@ -6858,6 +6854,30 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>The sections of P and S have no cell in common.</source>
         <translation>Die Schnitte von P und S haben keine Zelle gemeinsam.</translation>
     </message>
+    <message>
+        <source>a scratch file of samples cannot be written to</source>
+        <translation>in eine temporäre Datei für Abtastwerte kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Samples are kept in memory: %1</source>
+        <translation>Abtastwerte bleiben im Speicher: %1</translation>
+    </message>
+    <message>
+        <source>no folder for scratch files of samples can be written to</source>
+        <translation>für temporäre Dateien mit Abtastwerten ist kein Ordner beschreibbar</translation>
+    </message>
+    <message>
+        <source>no scratch file of samples can be made in %1: %2</source>
+        <translation>in %1 kann keine temporäre Datei für Abtastwerte angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>No report format is known for %1: let the file name end with .pdf, .odt or .html.</source>
+        <translation>Für %1 ist kein Berichtsformat bekannt: Der Dateiname muss auf .pdf, .odt oder .html enden.</translation>
+    </message>
+    <message>
+        <source>This Talvesk cannot write web pages: it was built without the chart library. Run scripts/bootstrap and build it again, or write a PDF or ODT report.</source>
+        <translation>Dieses Talvesk kann keine Webseiten schreiben: Es wurde ohne die Diagrammbibliothek gebaut. Führen Sie scripts/bootstrap aus und bauen Sie es neu, oder schreiben Sie einen PDF- oder ODT-Bericht.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7507,6 +7527,26 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Error (ms)</source>
         <translation>Fehler (ms)</translation>
+    </message>
+    <message>
+        <source>Samples are kept:</source>
+        <translation>Abtastwerte liegen:</translation>
+    </message>
+    <message>
+        <source>in memory and on the disk</source>
+        <translation>im Speicher und auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>on the disk</source>
+        <translation>auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>in memory</source>
+        <translation>im Speicher</translation>
+    </message>
+    <message>
+        <source>in memory, for %1</source>
+        <translation>im Speicher, denn %1</translation>
     </message>
 </context>
 <context>
@@ -9833,6 +9873,26 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>&amp;Keep samples on disk:</source>
+        <translation>Abtastwerte auf &amp;Datenträger halten:</translation>
+    </message>
+    <message>
+        <source>Of surveys that are larger than memory. What is open stays where it is until it is opened again.</source>
+        <translation>Für Messungen, die größer sind als der Speicher. Was geöffnet ist, bleibt, wo es ist, bis es erneut geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>When they fill a quarter of the memory</source>
+        <translation>Wenn sie ein Viertel des Speichers füllen</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ShotFileDialog</name>
@@ -12130,6 +12190,22 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Save table of layers by method</source>
         <translation>Tabelle der Schichten nach Methode speichern</translation>
     </message>
+    <message>
+        <source>Web page ...</source>
+        <translation>Webseite ...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as a page for any browser, with figures to work with</source>
+        <translation>Schreibt einen Bericht der Messung als Seite für jeden Browser, mit interaktiven Abbildungen</translation>
+    </message>
+    <message>
+        <source>Save web page</source>
+        <translation>Webseite speichern</translation>
+    </message>
+    <message>
+        <source>Web page (*.html)</source>
+        <translation>Webseite (*.html)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -12299,6 +12375,370 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Layers: %1 ms</source>
         <translation>Schichten: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::WebPage</name>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>About the report</source>
+        <translation>Über den Bericht</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Zum Inhalt springen</translation>
+    </message>
+    <message>
+        <source>%1: velocity</source>
+        <translation>%1: Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Faster than %1 by</source>
+        <translation>Schneller als %1 um</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
+        <source>What the section shows</source>
+        <translation>Was der Schnitt zeigt</translation>
+    </message>
+    <message>
+        <source>Point at the section to read it, click for the profile below a point, drag to move it. Keys: arrows move a cross, Enter shows the profile below it, + and - zoom, 0 shows all.</source>
+        <translation>Zeigen Sie auf den Schnitt, um Werte abzulesen; ein Klick zeigt das Profil unter einer Stelle, Ziehen verschiebt den Schnitt. Tasten: Pfeiltasten bewegen ein Kreuz, die Eingabetaste zeigt das Profil darunter, + und - zoomen, 0 zeigt alles.</translation>
+    </message>
+    <message>
+        <source>Colours show</source>
+        <translation>Farben zeigen</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Colours from</source>
+        <translation>Farben von</translation>
+    </message>
+    <message>
+        <source>Colours to</source>
+        <translation>Farben bis</translation>
+    </message>
+    <message>
+        <source>Contour lines</source>
+        <translation>Isolinien</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration</source>
+        <translation>Überhöhung</translation>
+    </message>
+    <message>
+        <source>as it fits</source>
+        <translation>passend</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Strahlen</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Grenze der Abdeckung</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Schichten</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Entfernung %1 m</translation>
+    </message>
+    <message>
+        <source>elevation %1 m</source>
+        <translation>Höhe %1 m</translation>
+    </message>
+    <message>
+        <source>depth %1 m</source>
+        <translation>Tiefe %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical profile</source>
+        <translation>Vertikalprofil</translation>
+    </message>
+    <message>
+        <source>Vertical profile at %1 m</source>
+        <translation>Vertikalprofil bei %1 m</translation>
+    </message>
+    <message>
+        <source>Depth from [m]</source>
+        <translation>Tiefe von [m]</translation>
+    </message>
+    <message>
+        <source>Depth to [m]</source>
+        <translation>Tiefe bis [m]</translation>
+    </message>
+    <message>
+        <source>Depth below ground [m]</source>
+        <translation>Tiefe unter Gelände [m]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
+        <translation>Der Schnitt hat %1 Zellen, zu viele für eine interaktive Darstellung auf einer Seite: Er steht hier als Bild.</translation>
+    </message>
+    <message>
+        <source>Travel-time curves</source>
+        <translation>Laufzeitkurven</translation>
+    </message>
+    <message>
+        <source>What the curves show</source>
+        <translation>Was die Kurven zeigen</translation>
+    </message>
+    <message>
+        <source>Point at a pick to read it, click it for its recording and its ray in the section. Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Zeigen Sie auf einen Pick, um ihn abzulesen; ein Klick zeigt seine Aufzeichnung und seinen Strahl im Schnitt. Tasten: Links und Rechts gehen von Pick zu Pick, Auf und Ab von Schuss zu Schuss, + und - zoomen, 0 zeigt alles.</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Fehlerbalken</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Berechnet</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Schuss %1</translation>
+    </message>
+    <message>
+        <source>geophone %1 at %2 m</source>
+        <translation>Geophon %1 bei %2 m</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ± %2 ms</source>
+        <translation>%1 ± %2 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms</source>
+        <translation>berechnet %1 ms</translation>
+    </message>
+    <message>
+        <source>misfit %1 ms</source>
+        <translation>Abweichung %1 ms</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>Geophone</source>
+        <translation>Geophon</translation>
+    </message>
+    <message>
+        <source>Measured [ms]</source>
+        <translation>Gemessen [ms]</translation>
+    </message>
+    <message>
+        <source>Error [ms]</source>
+        <translation>Fehler [ms]</translation>
+    </message>
+    <message>
+        <source>Computed [ms]</source>
+        <translation>Berechnet [ms]</translation>
+    </message>
+    <message>
+        <source>Misfit [ms]</source>
+        <translation>Abweichung [ms]</translation>
+    </message>
+    <message>
+        <source>Recording of the shot</source>
+        <translation>Aufzeichnung des Schusses</translation>
+    </message>
+    <message>
+        <source>There is no recording of this shot.</source>
+        <translation>Von diesem Schuss gibt es keine Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>The recording of this shot is left out: those of the shots before it are as much as a page holds.</source>
+        <translation>Die Aufzeichnung dieses Schusses ist weggelassen: Mehr als die der Schüsse davor fasst eine Seite nicht.</translation>
+    </message>
+    <message>
+        <source>Misfit of every shot</source>
+        <translation>Abweichung jedes Schusses</translation>
+    </message>
+    <message>
+        <source>Misfit of every geophone</source>
+        <translation>Abweichung jedes Geophons</translation>
+    </message>
+    <message>
+        <source>Misfit of every iteration</source>
+        <translation>Abweichung jeder Iteration</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [ms]</source>
+        <translation>Berechnet minus gemessen [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Mean [ms]</source>
+        <translation>Mittel [ms]</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>RMS %1 ms</source>
+        <translation>RMS %1 ms</translation>
+    </message>
+    <message>
+        <source>mean %1 ms</source>
+        <translation>Mittel %1 ms</translation>
+    </message>
+    <message>
+        <source>picks: %1</source>
+        <translation>Picks: %1</translation>
+    </message>
+    <message>
+        <source>Iteration</source>
+        <translation>Iteration</translation>
+    </message>
+    <message>
+        <source>Iteration %1</source>
+        <translation>Iteration %1</translation>
+    </message>
+    <message>
+        <source>Section, RMS [ms]</source>
+        <translation>Schnitt, RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Last solver pass, RMS [ms]</source>
+        <translation>Letzter Durchgang des Lösers, RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Times there and back</source>
+        <translation>Zeiten hin und zurück</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Hin [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Zurück [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Differenz [ms]</translation>
+    </message>
+    <message>
+        <source>Shots %1 and %2</source>
+        <translation>Schüsse %1 und %2</translation>
+    </message>
+    <message>
+        <source>there %1 ms</source>
+        <translation>hin %1 ms</translation>
+    </message>
+    <message>
+        <source>back %1 ms</source>
+        <translation>zurück %1 ms</translation>
+    </message>
+    <message>
+        <source>difference %1 ms</source>
+        <translation>Differenz %1 ms</translation>
+    </message>
+    <message>
+        <source>The numbers of this figure</source>
+        <translation>Die Zahlen dieser Abbildung</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Picks as CSV</source>
+        <translation>Picks als CSV</translation>
+    </message>
+    <message>
+        <source>Section as CSV</source>
+        <translation>Schnitt als CSV</translation>
+    </message>
+    <message>
+        <source>Map of the line</source>
+        <translation>Karte der Messlinie</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Erstes Geophon</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Letztes Geophon</translation>
+    </message>
+    <message>
+        <source>Open the place in a map service</source>
+        <translation>Die Stelle in einem Kartendienst öffnen</translation>
     </message>
 </context>
 <context>
