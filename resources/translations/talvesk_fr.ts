@@ -3243,10 +3243,6 @@ de pointés</translation>
         <translation>Il n&apos;y a pas de levé pour un rapport&#xa0;: chargez d&apos;abord des fichiers de tirs ou des temps de parcours.</translation>
     </message>
     <message>
-        <source>No report format is known for %1: let the file name end with .pdf or .odt.</source>
-        <translation>Aucun format de rapport n&apos;est connu pour %1&#xa0;: le nom du fichier doit se terminer par .pdf ou .odt.</translation>
-    </message>
-    <message>
         <source>The report was stopped.</source>
         <translation>Le rapport a été interrompu.</translation>
     </message>
@@ -6858,6 +6854,30 @@ Veuillez définir la position des géophones
         <source>The sections of P and S have no cell in common.</source>
         <translation>Les coupes de P et de S n&apos;ont aucune cellule commune.</translation>
     </message>
+    <message>
+        <source>a scratch file of samples cannot be written to</source>
+        <translation>un fichier temporaire d&apos;échantillons ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>Samples are kept in memory: %1</source>
+        <translation>Les échantillons restent en mémoire&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no folder for scratch files of samples can be written to</source>
+        <translation>aucun dossier pour les fichiers temporaires d&apos;échantillons n&apos;est accessible en écriture</translation>
+    </message>
+    <message>
+        <source>no scratch file of samples can be made in %1: %2</source>
+        <translation>aucun fichier temporaire d&apos;échantillons ne peut être créé dans %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>No report format is known for %1: let the file name end with .pdf, .odt or .html.</source>
+        <translation>Aucun format de rapport n&apos;est connu pour %1&#xa0;: le nom du fichier doit se terminer par .pdf, .odt ou .html.</translation>
+    </message>
+    <message>
+        <source>This Talvesk cannot write web pages: it was built without the chart library. Run scripts/bootstrap and build it again, or write a PDF or ODT report.</source>
+        <translation>Ce Talvesk ne peut pas écrire de pages web&#xa0;: il a été compilé sans la bibliothèque de graphiques. Lancez scripts/bootstrap et compilez-le de nouveau, ou écrivez un rapport PDF ou ODT.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7507,6 +7527,26 @@ Veuillez définir la position des géophones
     <message>
         <source>Error (ms)</source>
         <translation>Erreur (ms)</translation>
+    </message>
+    <message>
+        <source>Samples are kept:</source>
+        <translation>Échantillons gardés&#xa0;:</translation>
+    </message>
+    <message>
+        <source>in memory and on the disk</source>
+        <translation>en mémoire et sur le disque</translation>
+    </message>
+    <message>
+        <source>on the disk</source>
+        <translation>sur le disque</translation>
+    </message>
+    <message>
+        <source>in memory</source>
+        <translation>en mémoire</translation>
+    </message>
+    <message>
+        <source>in memory, for %1</source>
+        <translation>en mémoire, car %1</translation>
     </message>
 </context>
 <context>
@@ -9833,6 +9873,26 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source> MB</source>
         <translation> Mo</translation>
     </message>
+    <message>
+        <source>&amp;Keep samples on disk:</source>
+        <translation>&amp;Garder les échantillons sur disque&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Of surveys that are larger than memory. What is open stays where it is until it is opened again.</source>
+        <translation>Pour les levés plus volumineux que la mémoire. Ce qui est ouvert reste où il est jusqu&apos;à sa prochaine ouverture.</translation>
+    </message>
+    <message>
+        <source>When they fill a quarter of the memory</source>
+        <translation>S&apos;ils remplissent le quart de la mémoire</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Toujours</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ShotFileDialog</name>
@@ -12130,6 +12190,22 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Save table of layers by method</source>
         <translation>Enregistrer le tableau des couches selon la méthode</translation>
     </message>
+    <message>
+        <source>Web page ...</source>
+        <translation>Page web ...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as a page for any browser, with figures to work with</source>
+        <translation>Écrire un rapport du levé sous forme de page pour tout navigateur, avec des figures interactives</translation>
+    </message>
+    <message>
+        <source>Save web page</source>
+        <translation>Enregistrer la page web</translation>
+    </message>
+    <message>
+        <source>Web page (*.html)</source>
+        <translation>Page web (*.html)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -12299,6 +12375,370 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Layers: %1 ms</source>
         <translation>Couches&#xa0;: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::WebPage</name>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>About the report</source>
+        <translation>À propos du rapport</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Aller au contenu</translation>
+    </message>
+    <message>
+        <source>%1: velocity</source>
+        <translation>%1&#xa0;: vitesse</translation>
+    </message>
+    <message>
+        <source>Faster than %1 by</source>
+        <translation>Plus rapide que %1 de</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Coupe</translation>
+    </message>
+    <message>
+        <source>What the section shows</source>
+        <translation>Ce que montre la coupe</translation>
+    </message>
+    <message>
+        <source>Point at the section to read it, click for the profile below a point, drag to move it. Keys: arrows move a cross, Enter shows the profile below it, + and - zoom, 0 shows all.</source>
+        <translation>Survolez la coupe pour la lire, cliquez pour voir le profil sous un point, faites-la glisser pour la déplacer. Touches&#xa0;: les flèches déplacent une croix, Entrée montre le profil au-dessous, + et - zooment, 0 affiche tout.</translation>
+    </message>
+    <message>
+        <source>Colours show</source>
+        <translation>Colorer selon</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Colours from</source>
+        <translation>Couleurs à partir de</translation>
+    </message>
+    <message>
+        <source>Colours to</source>
+        <translation>Couleurs jusqu&apos;à</translation>
+    </message>
+    <message>
+        <source>Contour lines</source>
+        <translation>Isolignes</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration</source>
+        <translation>Exagération verticale</translation>
+    </message>
+    <message>
+        <source>as it fits</source>
+        <translation>automatique</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Rais</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Limite de couverture</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Couches</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distance %1 m</translation>
+    </message>
+    <message>
+        <source>elevation %1 m</source>
+        <translation>altitude %1 m</translation>
+    </message>
+    <message>
+        <source>depth %1 m</source>
+        <translation>profondeur %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical profile</source>
+        <translation>Profil vertical</translation>
+    </message>
+    <message>
+        <source>Vertical profile at %1 m</source>
+        <translation>Profil vertical à %1 m</translation>
+    </message>
+    <message>
+        <source>Depth from [m]</source>
+        <translation>Profondeur de [m]</translation>
+    </message>
+    <message>
+        <source>Depth to [m]</source>
+        <translation>Profondeur à [m]</translation>
+    </message>
+    <message>
+        <source>Depth below ground [m]</source>
+        <translation>Profondeur sous le sol [m]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
+        <translation>La coupe a %1 cellules, trop pour être explorée dans une page&#xa0;: elle figure ici sous forme d&apos;image.</translation>
+    </message>
+    <message>
+        <source>Travel-time curves</source>
+        <translation>Dromochroniques</translation>
+    </message>
+    <message>
+        <source>What the curves show</source>
+        <translation>Ce que montrent les courbes</translation>
+    </message>
+    <message>
+        <source>Point at a pick to read it, click it for its recording and its ray in the section. Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Survolez un pointé pour le lire, cliquez dessus pour voir son enregistrement et son rai dans la coupe. Touches&#xa0;: gauche et droite vont de pointé en pointé, haut et bas de tir en tir, + et - zooment, 0 affiche tout.</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Mesurés</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Barres d&apos;erreur</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calculés</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tir %1</translation>
+    </message>
+    <message>
+        <source>geophone %1 at %2 m</source>
+        <translation>géophone %1 à %2 m</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ± %2 ms</source>
+        <translation>%1 ± %2 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms</source>
+        <translation>calculé %1 ms</translation>
+    </message>
+    <message>
+        <source>misfit %1 ms</source>
+        <translation>écart %1 ms</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>Geophone</source>
+        <translation>Géophone</translation>
+    </message>
+    <message>
+        <source>Measured [ms]</source>
+        <translation>Mesuré [ms]</translation>
+    </message>
+    <message>
+        <source>Error [ms]</source>
+        <translation>Erreur [ms]</translation>
+    </message>
+    <message>
+        <source>Computed [ms]</source>
+        <translation>Calculé [ms]</translation>
+    </message>
+    <message>
+        <source>Misfit [ms]</source>
+        <translation>Écart [ms]</translation>
+    </message>
+    <message>
+        <source>Recording of the shot</source>
+        <translation>Enregistrement du tir</translation>
+    </message>
+    <message>
+        <source>There is no recording of this shot.</source>
+        <translation>Il n&apos;y a pas d&apos;enregistrement de ce tir.</translation>
+    </message>
+    <message>
+        <source>The recording of this shot is left out: those of the shots before it are as much as a page holds.</source>
+        <translation>L&apos;enregistrement de ce tir est omis&#xa0;: ceux des tirs précédents remplissent déjà la page.</translation>
+    </message>
+    <message>
+        <source>Misfit of every shot</source>
+        <translation>Écart de chaque tir</translation>
+    </message>
+    <message>
+        <source>Misfit of every geophone</source>
+        <translation>Écart de chaque géophone</translation>
+    </message>
+    <message>
+        <source>Misfit of every iteration</source>
+        <translation>Écart de chaque itération</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [ms]</source>
+        <translation>Calculés moins mesurés [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Mean [ms]</source>
+        <translation>Moyenne [ms]</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Pointés</translation>
+    </message>
+    <message>
+        <source>RMS %1 ms</source>
+        <translation>RMS %1 ms</translation>
+    </message>
+    <message>
+        <source>mean %1 ms</source>
+        <translation>moyenne %1 ms</translation>
+    </message>
+    <message>
+        <source>picks: %1</source>
+        <translation>pointés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Iteration</source>
+        <translation>Itération</translation>
+    </message>
+    <message>
+        <source>Iteration %1</source>
+        <translation>Itération %1</translation>
+    </message>
+    <message>
+        <source>Section, RMS [ms]</source>
+        <translation>Coupe, RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Last solver pass, RMS [ms]</source>
+        <translation>Dernière passe du solveur, RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Times there and back</source>
+        <translation>Temps à l&apos;aller et au retour</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Aller [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Retour [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Différence [ms]</translation>
+    </message>
+    <message>
+        <source>Shots %1 and %2</source>
+        <translation>Tirs %1 et %2</translation>
+    </message>
+    <message>
+        <source>there %1 ms</source>
+        <translation>aller %1 ms</translation>
+    </message>
+    <message>
+        <source>back %1 ms</source>
+        <translation>retour %1 ms</translation>
+    </message>
+    <message>
+        <source>difference %1 ms</source>
+        <translation>différence %1 ms</translation>
+    </message>
+    <message>
+        <source>The numbers of this figure</source>
+        <translation>Les valeurs de cette figure</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Picks as CSV</source>
+        <translation>Pointés en CSV</translation>
+    </message>
+    <message>
+        <source>Section as CSV</source>
+        <translation>Coupe en CSV</translation>
+    </message>
+    <message>
+        <source>Map of the line</source>
+        <translation>Plan de la ligne</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Premier géophone</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Dernier géophone</translation>
+    </message>
+    <message>
+        <source>Open the place in a map service</source>
+        <translation>Ouvrir le lieu dans un service de cartes</translation>
     </message>
 </context>
 <context>
