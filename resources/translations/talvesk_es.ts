@@ -3243,10 +3243,6 @@ respaldo de picados</translation>
         <translation>No hay ningún levantamiento sobre el que informar: cargue antes archivos de disparos o tiempos de recorrido.</translation>
     </message>
     <message>
-        <source>No report format is known for %1: let the file name end with .pdf or .odt.</source>
-        <translation>No se conoce ningún formato de informe para %1: el nombre del archivo debe terminar en .pdf o .odt.</translation>
-    </message>
-    <message>
         <source>The report was stopped.</source>
         <translation>El informe se ha detenido.</translation>
     </message>
@@ -6858,6 +6854,30 @@ Defina la posición de los geófonos
         <source>The sections of P and S have no cell in common.</source>
         <translation>Las secciones de P y S no tienen ninguna celda en común.</translation>
     </message>
+    <message>
+        <source>a scratch file of samples cannot be written to</source>
+        <translation>no se puede escribir en un archivo temporal de muestras</translation>
+    </message>
+    <message>
+        <source>Samples are kept in memory: %1</source>
+        <translation>Las muestras se mantienen en memoria: %1</translation>
+    </message>
+    <message>
+        <source>no folder for scratch files of samples can be written to</source>
+        <translation>no se puede escribir en ninguna carpeta para archivos temporales de muestras</translation>
+    </message>
+    <message>
+        <source>no scratch file of samples can be made in %1: %2</source>
+        <translation>no se puede crear ningún archivo temporal de muestras en %1: %2</translation>
+    </message>
+    <message>
+        <source>No report format is known for %1: let the file name end with .pdf, .odt or .html.</source>
+        <translation>No se conoce ningún formato de informe para %1: el nombre del archivo debe terminar en .pdf, .odt o .html.</translation>
+    </message>
+    <message>
+        <source>This Talvesk cannot write web pages: it was built without the chart library. Run scripts/bootstrap and build it again, or write a PDF or ODT report.</source>
+        <translation>Este Talvesk no puede escribir páginas web: se compiló sin la biblioteca de gráficos. Ejecute scripts/bootstrap y vuelva a compilarlo, o escriba un informe PDF u ODT.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7507,6 +7527,26 @@ Defina la posición de los geófonos
     <message>
         <source>Error (ms)</source>
         <translation>Error (ms)</translation>
+    </message>
+    <message>
+        <source>Samples are kept:</source>
+        <translation>Ubicación de las muestras:</translation>
+    </message>
+    <message>
+        <source>in memory and on the disk</source>
+        <translation>en memoria y en disco</translation>
+    </message>
+    <message>
+        <source>on the disk</source>
+        <translation>en disco</translation>
+    </message>
+    <message>
+        <source>in memory</source>
+        <translation>en memoria</translation>
+    </message>
+    <message>
+        <source>in memory, for %1</source>
+        <translation>en memoria, porque %1</translation>
     </message>
 </context>
 <context>
@@ -9833,6 +9873,26 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>&amp;Keep samples on disk:</source>
+        <translation>Muestras en &amp;disco:</translation>
+    </message>
+    <message>
+        <source>Of surveys that are larger than memory. What is open stays where it is until it is opened again.</source>
+        <translation>Para levantamientos mayores que la memoria. Lo que está abierto se queda donde está hasta que se vuelve a abrir.</translation>
+    </message>
+    <message>
+        <source>When they fill a quarter of the memory</source>
+        <translation>Si llenan un cuarto de la memoria</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Siempre</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ShotFileDialog</name>
@@ -12130,6 +12190,22 @@ Do you want to run refraction processing anyway? </source>
         <source>Save table of layers by method</source>
         <translation>Guardar tabla de las capas por método</translation>
     </message>
+    <message>
+        <source>Web page ...</source>
+        <translation>Página web ...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as a page for any browser, with figures to work with</source>
+        <translation>Escribe un informe del levantamiento como página para cualquier navegador, con figuras interactivas</translation>
+    </message>
+    <message>
+        <source>Save web page</source>
+        <translation>Guardar página web</translation>
+    </message>
+    <message>
+        <source>Web page (*.html)</source>
+        <translation>Página web (*.html)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -12299,6 +12375,370 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Layers: %1 ms</source>
         <translation>Capas: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::WebPage</name>
+    <message>
+        <source>Contents</source>
+        <translation>Índice</translation>
+    </message>
+    <message>
+        <source>About the report</source>
+        <translation>Acerca del informe</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Saltar al contenido</translation>
+    </message>
+    <message>
+        <source>%1: velocity</source>
+        <translation>%1: velocidad</translation>
+    </message>
+    <message>
+        <source>Faster than %1 by</source>
+        <translation>Más rápida que %1 en</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sección</translation>
+    </message>
+    <message>
+        <source>What the section shows</source>
+        <translation>Qué muestra la sección</translation>
+    </message>
+    <message>
+        <source>Point at the section to read it, click for the profile below a point, drag to move it. Keys: arrows move a cross, Enter shows the profile below it, + and - zoom, 0 shows all.</source>
+        <translation>Apunte a la sección para leer sus valores, haga clic para ver el perfil bajo un punto, arrastre para moverla. Teclas: las flechas mueven una cruz, Intro muestra el perfil bajo ella, + y - amplían y reducen, 0 muestra todo.</translation>
+    </message>
+    <message>
+        <source>Colours show</source>
+        <translation>Los colores muestran</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Paleta</translation>
+    </message>
+    <message>
+        <source>Colours from</source>
+        <translation>Colores desde</translation>
+    </message>
+    <message>
+        <source>Colours to</source>
+        <translation>Colores hasta</translation>
+    </message>
+    <message>
+        <source>Contour lines</source>
+        <translation>Isolíneas</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration</source>
+        <translation>Exageración vertical</translation>
+    </message>
+    <message>
+        <source>as it fits</source>
+        <translation>ajustada a la vista</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Rayos</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Límite de cobertura</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Capas</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Mostrar todo</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distancia %1 m</translation>
+    </message>
+    <message>
+        <source>elevation %1 m</source>
+        <translation>cota %1 m</translation>
+    </message>
+    <message>
+        <source>depth %1 m</source>
+        <translation>profundidad %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical profile</source>
+        <translation>Perfil vertical</translation>
+    </message>
+    <message>
+        <source>Vertical profile at %1 m</source>
+        <translation>Perfil vertical en %1 m</translation>
+    </message>
+    <message>
+        <source>Depth from [m]</source>
+        <translation>Profundidad desde [m]</translation>
+    </message>
+    <message>
+        <source>Depth to [m]</source>
+        <translation>Profundidad hasta [m]</translation>
+    </message>
+    <message>
+        <source>Depth below ground [m]</source>
+        <translation>Profundidad bajo el terreno [m]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
+        <translation>La sección tiene %1 celdas, demasiadas para explorarla en una página: aquí figura como imagen.</translation>
+    </message>
+    <message>
+        <source>Travel-time curves</source>
+        <translation>Dromocronas</translation>
+    </message>
+    <message>
+        <source>What the curves show</source>
+        <translation>Qué muestran las dromocronas</translation>
+    </message>
+    <message>
+        <source>Point at a pick to read it, click it for its recording and its ray in the section. Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Apunte a un picado para leer sus valores, haga clic en él para ver su registro y su rayo en la sección. Teclas: izquierda y derecha van de picado en picado, arriba y abajo de disparo en disparo, + y - amplían y reducen, 0 muestra todo.</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Medidos</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Barras de error</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calculados</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>geophone %1 at %2 m</source>
+        <translation>geófono %1 en %2 m</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ± %2 ms</source>
+        <translation>%1 ± %2 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms</source>
+        <translation>calculado %1 ms</translation>
+    </message>
+    <message>
+        <source>misfit %1 ms</source>
+        <translation>desajuste %1 ms</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>Geophone</source>
+        <translation>Geófono</translation>
+    </message>
+    <message>
+        <source>Measured [ms]</source>
+        <translation>Medido [ms]</translation>
+    </message>
+    <message>
+        <source>Error [ms]</source>
+        <translation>Error [ms]</translation>
+    </message>
+    <message>
+        <source>Computed [ms]</source>
+        <translation>Calculado [ms]</translation>
+    </message>
+    <message>
+        <source>Misfit [ms]</source>
+        <translation>Desajuste [ms]</translation>
+    </message>
+    <message>
+        <source>Recording of the shot</source>
+        <translation>Registro del disparo</translation>
+    </message>
+    <message>
+        <source>There is no recording of this shot.</source>
+        <translation>No hay registro de este disparo.</translation>
+    </message>
+    <message>
+        <source>The recording of this shot is left out: those of the shots before it are as much as a page holds.</source>
+        <translation>El registro de este disparo se ha omitido: los de los disparos anteriores ya ocupan todo lo que cabe en una página.</translation>
+    </message>
+    <message>
+        <source>Misfit of every shot</source>
+        <translation>Desajuste de cada disparo</translation>
+    </message>
+    <message>
+        <source>Misfit of every geophone</source>
+        <translation>Desajuste de cada geófono</translation>
+    </message>
+    <message>
+        <source>Misfit of every iteration</source>
+        <translation>Desajuste de cada iteración</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [ms]</source>
+        <translation>Calculado menos medido [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Mean [ms]</source>
+        <translation>Media [ms]</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picados</translation>
+    </message>
+    <message>
+        <source>RMS %1 ms</source>
+        <translation>RMS %1 ms</translation>
+    </message>
+    <message>
+        <source>mean %1 ms</source>
+        <translation>media %1 ms</translation>
+    </message>
+    <message>
+        <source>picks: %1</source>
+        <translation>picados: %1</translation>
+    </message>
+    <message>
+        <source>Iteration</source>
+        <translation>Iteración</translation>
+    </message>
+    <message>
+        <source>Iteration %1</source>
+        <translation>Iteración %1</translation>
+    </message>
+    <message>
+        <source>Section, RMS [ms]</source>
+        <translation>Sección, RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Last solver pass, RMS [ms]</source>
+        <translation>Última pasada del solucionador, RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Times there and back</source>
+        <translation>Tiempos en ambos sentidos</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Ida [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Vuelta [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Diferencia [ms]</translation>
+    </message>
+    <message>
+        <source>Shots %1 and %2</source>
+        <translation>Disparos %1 y %2</translation>
+    </message>
+    <message>
+        <source>there %1 ms</source>
+        <translation>ida %1 ms</translation>
+    </message>
+    <message>
+        <source>back %1 ms</source>
+        <translation>vuelta %1 ms</translation>
+    </message>
+    <message>
+        <source>difference %1 ms</source>
+        <translation>diferencia %1 ms</translation>
+    </message>
+    <message>
+        <source>The numbers of this figure</source>
+        <translation>Valores de esta figura</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Modo oscuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Modo claro</translation>
+    </message>
+    <message>
+        <source>Picks as CSV</source>
+        <translation>Picados como CSV</translation>
+    </message>
+    <message>
+        <source>Section as CSV</source>
+        <translation>Sección como CSV</translation>
+    </message>
+    <message>
+        <source>Map of the line</source>
+        <translation>Mapa de la línea</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Primer geófono</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Último geófono</translation>
+    </message>
+    <message>
+        <source>Open the place in a map service</source>
+        <translation>Abrir el lugar en un servicio de mapas</translation>
     </message>
 </context>
 <context>
