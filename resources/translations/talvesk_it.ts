@@ -3243,10 +3243,6 @@ da arrivi</translation>
         <translation>Non c&apos;è un rilievo su cui scrivere una relazione: caricare prima file dei tiri o tempi di arrivo.</translation>
     </message>
     <message>
-        <source>No report format is known for %1: let the file name end with .pdf or .odt.</source>
-        <translation>Nessun formato di relazione noto per %1: il nome del file deve finire con .pdf o .odt.</translation>
-    </message>
-    <message>
         <source>The report was stopped.</source>
         <translation>La relazione è stata interrotta.</translation>
     </message>
@@ -6858,6 +6854,30 @@ Impostare la posizione dei geofoni
         <source>The sections of P and S have no cell in common.</source>
         <translation>Le sezioni di P e S non hanno celle in comune.</translation>
     </message>
+    <message>
+        <source>a scratch file of samples cannot be written to</source>
+        <translation>non è possibile scrivere in un file temporaneo dei campioni</translation>
+    </message>
+    <message>
+        <source>Samples are kept in memory: %1</source>
+        <translation>I campioni restano in memoria: %1</translation>
+    </message>
+    <message>
+        <source>no folder for scratch files of samples can be written to</source>
+        <translation>nessuna cartella per i file temporanei dei campioni è scrivibile</translation>
+    </message>
+    <message>
+        <source>no scratch file of samples can be made in %1: %2</source>
+        <translation>non è possibile creare un file temporaneo dei campioni in %1: %2</translation>
+    </message>
+    <message>
+        <source>No report format is known for %1: let the file name end with .pdf, .odt or .html.</source>
+        <translation>Nessun formato di relazione noto per %1: il nome del file deve finire con .pdf, .odt o .html.</translation>
+    </message>
+    <message>
+        <source>This Talvesk cannot write web pages: it was built without the chart library. Run scripts/bootstrap and build it again, or write a PDF or ODT report.</source>
+        <translation>Questo Talvesk non può scrivere pagine web: è stato compilato senza la libreria dei grafici. Eseguire scripts/bootstrap e compilarlo di nuovo, oppure scrivere una relazione PDF o ODT.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7507,6 +7527,26 @@ Impostare la posizione dei geofoni
     <message>
         <source>Error (ms)</source>
         <translation>Errore (ms)</translation>
+    </message>
+    <message>
+        <source>Samples are kept:</source>
+        <translation>Campioni conservati:</translation>
+    </message>
+    <message>
+        <source>in memory and on the disk</source>
+        <translation>in memoria e su disco</translation>
+    </message>
+    <message>
+        <source>on the disk</source>
+        <translation>su disco</translation>
+    </message>
+    <message>
+        <source>in memory</source>
+        <translation>in memoria</translation>
+    </message>
+    <message>
+        <source>in memory, for %1</source>
+        <translation>in memoria, perché %1</translation>
     </message>
 </context>
 <context>
@@ -9833,6 +9873,26 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>&amp;Keep samples on disk:</source>
+        <translation>&amp;Campioni su disco:</translation>
+    </message>
+    <message>
+        <source>Of surveys that are larger than memory. What is open stays where it is until it is opened again.</source>
+        <translation>Per i rilievi più grandi della memoria. Ciò che è aperto resta dove si trova finché non viene riaperto.</translation>
+    </message>
+    <message>
+        <source>When they fill a quarter of the memory</source>
+        <translation>Se riempiono un quarto della memoria</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Sempre</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Mai</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ShotFileDialog</name>
@@ -12130,6 +12190,22 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Save table of layers by method</source>
         <translation>Salva tabella degli strati secondo i metodi</translation>
     </message>
+    <message>
+        <source>Web page ...</source>
+        <translation>Pagina web ...</translation>
+    </message>
+    <message>
+        <source>Write a report of the survey as a page for any browser, with figures to work with</source>
+        <translation>Scrive una relazione del rilievo come pagina per qualsiasi browser, con figure interattive</translation>
+    </message>
+    <message>
+        <source>Save web page</source>
+        <translation>Salva pagina web</translation>
+    </message>
+    <message>
+        <source>Web page (*.html)</source>
+        <translation>Pagina web (*.html)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -12299,6 +12375,370 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Layers: %1 ms</source>
         <translation>Strati: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::WebPage</name>
+    <message>
+        <source>Contents</source>
+        <translation>Indice</translation>
+    </message>
+    <message>
+        <source>About the report</source>
+        <translation>Informazioni sulla relazione</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Vai al contenuto</translation>
+    </message>
+    <message>
+        <source>%1: velocity</source>
+        <translation>%1: velocità</translation>
+    </message>
+    <message>
+        <source>Faster than %1 by</source>
+        <translation>Velocità in più rispetto a %1</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sezione</translation>
+    </message>
+    <message>
+        <source>What the section shows</source>
+        <translation>Che cosa mostra la sezione</translation>
+    </message>
+    <message>
+        <source>Point at the section to read it, click for the profile below a point, drag to move it. Keys: arrows move a cross, Enter shows the profile below it, + and - zoom, 0 shows all.</source>
+        <translation>Puntare la sezione per leggerne i valori, fare clic per il profilo sotto un punto, trascinare per spostarla. Tasti: le frecce muovono una croce, Invio mostra il profilo sotto di essa, + e - ingrandiscono e riducono, 0 mostra tutto.</translation>
+    </message>
+    <message>
+        <source>Colours show</source>
+        <translation>I colori mostrano</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Tavolozza</translation>
+    </message>
+    <message>
+        <source>Colours from</source>
+        <translation>Colori da</translation>
+    </message>
+    <message>
+        <source>Colours to</source>
+        <translation>Colori fino a</translation>
+    </message>
+    <message>
+        <source>Contour lines</source>
+        <translation>Isolinee</translation>
+    </message>
+    <message>
+        <source>Vertical exaggeration</source>
+        <translation>Esagerazione verticale</translation>
+    </message>
+    <message>
+        <source>as it fits</source>
+        <translation>automatica</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Raggi</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Coverage limit</source>
+        <translation>Limite di copertura</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tiri</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Strati</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ingrandisci</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Riduci</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Mostra tutto</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distanza %1 m</translation>
+    </message>
+    <message>
+        <source>elevation %1 m</source>
+        <translation>quota %1 m</translation>
+    </message>
+    <message>
+        <source>depth %1 m</source>
+        <translation>profondità %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical profile</source>
+        <translation>Profilo verticale</translation>
+    </message>
+    <message>
+        <source>Vertical profile at %1 m</source>
+        <translation>Profilo verticale a %1 m</translation>
+    </message>
+    <message>
+        <source>Depth from [m]</source>
+        <translation>Profondità da [m]</translation>
+    </message>
+    <message>
+        <source>Depth to [m]</source>
+        <translation>Profondità fino a [m]</translation>
+    </message>
+    <message>
+        <source>Depth below ground [m]</source>
+        <translation>Profondità dal suolo [m]</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
+        <translation>La sezione ha %1 celle, troppe per esplorarla in una pagina: qui è riportata come immagine.</translation>
+    </message>
+    <message>
+        <source>Travel-time curves</source>
+        <translation>Dromocrone</translation>
+    </message>
+    <message>
+        <source>What the curves show</source>
+        <translation>Che cosa mostrano le dromocrone</translation>
+    </message>
+    <message>
+        <source>Point at a pick to read it, click it for its recording and its ray in the section. Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Puntare un primo arrivo per leggerlo, farci clic per vederne la registrazione e il raggio nella sezione. Tasti: sinistra e destra passano da un primo arrivo all&apos;altro, su e giù da un tiro all&apos;altro, + e - ingrandiscono e riducono, 0 mostra tutto.</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Misurati</translation>
+    </message>
+    <message>
+        <source>Error bars</source>
+        <translation>Barre d&apos;errore</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calcolati</translation>
+    </message>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tiro %1</translation>
+    </message>
+    <message>
+        <source>geophone %1 at %2 m</source>
+        <translation>geofono %1 a %2 m</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ± %2 ms</source>
+        <translation>%1 ± %2 ms</translation>
+    </message>
+    <message>
+        <source>computed %1 ms</source>
+        <translation>calcolato %1 ms</translation>
+    </message>
+    <message>
+        <source>misfit %1 ms</source>
+        <translation>scarto %1 ms</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>Geophone</source>
+        <translation>Geofono</translation>
+    </message>
+    <message>
+        <source>Measured [ms]</source>
+        <translation>Misurato [ms]</translation>
+    </message>
+    <message>
+        <source>Error [ms]</source>
+        <translation>Errore [ms]</translation>
+    </message>
+    <message>
+        <source>Computed [ms]</source>
+        <translation>Calcolato [ms]</translation>
+    </message>
+    <message>
+        <source>Misfit [ms]</source>
+        <translation>Scarto [ms]</translation>
+    </message>
+    <message>
+        <source>Recording of the shot</source>
+        <translation>Registrazione del tiro</translation>
+    </message>
+    <message>
+        <source>There is no recording of this shot.</source>
+        <translation>Di questo tiro non c&apos;è registrazione.</translation>
+    </message>
+    <message>
+        <source>The recording of this shot is left out: those of the shots before it are as much as a page holds.</source>
+        <translation>La registrazione di questo tiro è tralasciata: quelle dei tiri precedenti sono quanto una pagina può contenere.</translation>
+    </message>
+    <message>
+        <source>Misfit of every shot</source>
+        <translation>Scarto di ogni tiro</translation>
+    </message>
+    <message>
+        <source>Misfit of every geophone</source>
+        <translation>Scarto di ogni geofono</translation>
+    </message>
+    <message>
+        <source>Misfit of every iteration</source>
+        <translation>Scarto di ogni iterazione</translation>
+    </message>
+    <message>
+        <source>Computed minus measured [ms]</source>
+        <translation>Calcolati meno misurati [ms]</translation>
+    </message>
+    <message>
+        <source>RMS [ms]</source>
+        <translation>RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Mean [ms]</source>
+        <translation>Media [ms]</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Primi arrivi</translation>
+    </message>
+    <message>
+        <source>RMS %1 ms</source>
+        <translation>RMS %1 ms</translation>
+    </message>
+    <message>
+        <source>mean %1 ms</source>
+        <translation>media %1 ms</translation>
+    </message>
+    <message>
+        <source>picks: %1</source>
+        <translation>primi arrivi: %1</translation>
+    </message>
+    <message>
+        <source>Iteration</source>
+        <translation>Iterazione</translation>
+    </message>
+    <message>
+        <source>Iteration %1</source>
+        <translation>Iterazione %1</translation>
+    </message>
+    <message>
+        <source>Section, RMS [ms]</source>
+        <translation>Sezione, RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Last solver pass, RMS [ms]</source>
+        <translation>Ultimo passaggio del risolutore, RMS [ms]</translation>
+    </message>
+    <message>
+        <source>Times there and back</source>
+        <translation>Tempi di andata e di ritorno</translation>
+    </message>
+    <message>
+        <source>There [ms]</source>
+        <translation>Andata [ms]</translation>
+    </message>
+    <message>
+        <source>Back [ms]</source>
+        <translation>Ritorno [ms]</translation>
+    </message>
+    <message>
+        <source>Difference [ms]</source>
+        <translation>Differenza [ms]</translation>
+    </message>
+    <message>
+        <source>Shots %1 and %2</source>
+        <translation>Tiri %1 e %2</translation>
+    </message>
+    <message>
+        <source>there %1 ms</source>
+        <translation>andata %1 ms</translation>
+    </message>
+    <message>
+        <source>back %1 ms</source>
+        <translation>ritorno %1 ms</translation>
+    </message>
+    <message>
+        <source>difference %1 ms</source>
+        <translation>differenza %1 ms</translation>
+    </message>
+    <message>
+        <source>The numbers of this figure</source>
+        <translation>I numeri di questa figura</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Pagina</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Tema scuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Tema chiaro</translation>
+    </message>
+    <message>
+        <source>Picks as CSV</source>
+        <translation>Primi arrivi in CSV</translation>
+    </message>
+    <message>
+        <source>Section as CSV</source>
+        <translation>Sezione in CSV</translation>
+    </message>
+    <message>
+        <source>Map of the line</source>
+        <translation>Mappa della linea</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>First geophone</source>
+        <translation>Primo geofono</translation>
+    </message>
+    <message>
+        <source>Last geophone</source>
+        <translation>Ultimo geofono</translation>
+    </message>
+    <message>
+        <source>Open the place in a map service</source>
+        <translation>Apri la posizione in un servizio di mappe</translation>
     </message>
 </context>
 <context>
