@@ -232,7 +232,7 @@ TEST_F(Refraction, proposesOverTheWholeSurveyWithItsFigures) {
   ASSERT_TRUE(label.isVisible());
   const std::string proposed = label.text().toStdString();
   EXPECT_THAT(proposed, HasSubstr("Proposal over the whole survey: 2 layers, misfit 0 ms; "));
-  EXPECT_THAT(proposed, HasSubstr("fit no layer and are given to none (shot/trace): 6/51"));
+  EXPECT_THAT(proposed, HasSubstr("1 pick fits no layer and is given to none (shot/trace): 6/51"));
   EXPECT_EQ(layer(5, 50), 0U);
   for (const std::size_t trace : {5U, 20U, 55U}) {
     EXPECT_EQ(layer(5, trace), truth[5].layer[trace]) << trace;

@@ -118,6 +118,7 @@ void makeProfile(Plot& plot) {
   boundary.lines = {{{0.0, -10.0}, {100.0, -8.0}}};
   scene.boundaries = {boundary};
   scene.velocities = {2000.0, 0.0};
+  scene.velocityErrors = {0.0, 0.0};
   makePage<RefractionProfilePlot>(plot).setScene(scene);
 }
 
