@@ -286,9 +286,8 @@ struct DemoOptions {
   bool quiet = false;
 };
 
-using CommandOptions =
-    std::variant<InfoOptions, PickOptions, CheckOptions, InvertOptions, EnsembleRunOptions,
-                 RefractOptions, ElasticBatchOptions, ExportOptions, ConvertOptions, RecordsOptions,
-                 DemoOptions>;
+using CommandOptions = std::variant<InfoOptions, PickOptions, CheckOptions, InvertOptions,
+                                    EnsembleRunOptions, RefractOptions, ElasticBatchOptions,
+                                    ExportOptions, ConvertOptions, RecordsOptions, DemoOptions>;
 
 }  // namespace talvesk
