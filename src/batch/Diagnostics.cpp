@@ -2,10 +2,12 @@
 
 #include "base/Console.h"
 #include "base/SampleStore.h"
+#include "base/TextNumber.h"
 #include "batch/Failure.h"
 #include "io/TravelTimeData.h"
 #include "io/TravelTimeFile.h"
 
+#include <cmath>
 #include <iostream>
 #include <sstream>
 
@@ -29,6 +31,10 @@ Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool v
   const bool talkOnTerminal = isatty(taken ? STDERR_FILENO : STDOUT_FILENO) != 0;
   if (talkOnTerminal) channels.progress = ProgressStyle::kLines;
   return channels;
+}
+
+std::string shortNumber(double value) {
+  return std::fabs(value) < 99.5 ? formatDouble(value, 2) : formatDouble(std::round(value), 17);
 }
 
 void warnOfLosses(const std::string& path, const std::vector<Message>& losses) {

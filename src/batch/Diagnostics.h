@@ -28,6 +28,9 @@ struct Channels {
 /// \param verbose the engine talks where it would tear a progress bar apart, which then are lines
 Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool verbose = false);
 
+/// For texts: two digits, and all those before the point ("0.43", "4.5", "118").
+std::string shortNumber(double value);
+
 /// Warns on standard error of what the program's rules lose of a shot file, and names the option
 /// that helps.
 void warnOfLosses(const std::string& path, const std::vector<Message>& losses);

@@ -192,7 +192,7 @@ void summarize(const EnsembleRun& run, const TomoDocument& document, std::ostrea
   }
   summarizeCertainty(*document.result->certainty, out);
   out << "Computing time: [s] models " << formatDouble(run.models, 4) << ", " << run.fitted
-      << " members " << formatDouble(run.members, 4) << std::endl;
+      << (run.fitted == 1 ? " member " : " members ") << formatDouble(run.members, 4) << std::endl;
 }
 
 }  // namespace
@@ -227,6 +227,12 @@ int run(const EnsembleRunOptions& options) {
       place.empty() ? "" : "; the same command goes on from there, by " + place;
   if (!run.found) {
     return failed("stopped before the first member was done; nothing was written");
+  }
+  if (document.result->certainty->members < 2 && options.writesResults()) {
+    return failed(
+        "only one member counts, which does not tell how sure the section is; nothing "
+        "was written" +
+        goOn);
   }
   warnAboutCertainty(document);
   if (run.missing > 0) {

@@ -31,6 +31,11 @@ void readVariation(const std::string& text, EnsembleVariation& vary) {
     throw CLI::ValidationError("--vary",
                                "'" + name + "' is none of smoothing, blocky, robust, statics");
   }
+  if (list != lists.end() ? !list->second->empty() : !vary.smoothing.empty()) {
+    throw CLI::ValidationError("--vary", "'" + name +
+                                             "' is given twice; name all of its values "
+                                             "at once, separated by commas");
+  }
   for (const std::string_view value : splitFields(std::string_view(text).substr(equals + 1), ',')) {
     if (list != lists.end()) {
       list->second->push_back(readYes(option, value));
@@ -125,6 +130,14 @@ void addEnsemble(CLI::App& app, EnsembleRunOptions& options) {
             {".csv"}, true);
   command.add_flag("--quiet", options.quiet, kQuietHelp);
   command.final_callback([&options] {
+    if (!options.writesResults() && options.keep.empty()) {
+      throw CLI::RequiredError("one of --out, --json, --table, --depths and --keep");
+    }
+    if (options.members < 2 && options.writesResults()) {
+      throw CLI::ValidationError("--members",
+                                 "one member alone does not tell how sure the section is: at "
+                                 "least 2, or --keep as the only output");
+    }
     if (options.from > options.members) {
       throw CLI::ValidationError("--from",
                                  "it is beyond the last member, " + plainNumber(options.members));

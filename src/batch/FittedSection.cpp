@@ -133,7 +133,7 @@ void warnAboutCertainty(const TomoDocument& document) {
   }
   if (!note.fits()) {
     warn("the certainty is that of other sections: this one lies beyond two deviations in " +
-         formatDouble(note.percentBeyond, 2) + " % of the cells with rays");
+         shortNumber(note.percentBeyond) + " % of the cells with rays");
   }
 }
 

@@ -57,6 +57,23 @@ Json proposalJson(const XYProposal& proposal) {
   return json;
 }
 
+Json choiceJson(const XYChoice& choice) {
+  Json tried = Json::array();
+  for (const XYTried& one : choice.tried) {
+    Json row = Json::object();
+    row["xy"] = one.xy;
+    row["roughness"] = one.roughness;
+    row["unevenness"] = one.unevenness;
+    tried.push_back(std::move(row));
+  }
+  Json xy = Json::object();
+  xy["receivers"] = choice.receivers;
+  xy["smoothest"] = proposalJson(choice.smoothest);
+  xy["most_even"] = proposalJson(choice.mostEven);
+  xy["tried"] = std::move(tried);
+  return xy;
+}
+
 Json bandJson(const Band& band) {
   Json json = Json::object();
   json["low"] = band.low;
@@ -129,7 +146,9 @@ LayerFindings findLayers(const LayerMethodOptions& options, const TomoDocument& 
   const std::vector<ShotArrivals> shots = shotArrivals(document);
   for (std::size_t i = 0; i < interpretation.refractData.cData.size(); ++i) {
     const auto number = static_cast<std::uint32_t>(i) + 2;
-    findings.xy.push_back(findXY(interpretation, number));
+    if (!interpretation.refractData.isFitted()) {
+      findings.xy.push_back(findXY(interpretation, number));
+    }
     findings.support.push_back(supportOf(shots, interpretation, number));
   }
   BoundsOptions bounds;
@@ -144,22 +163,8 @@ LayerFindings findLayers(const LayerMethodOptions& options, const TomoDocument& 
 }
 
 void addFindings(const LayerFindings& findings, std::size_t refractor, Json& json) {
-  if (refractor >= findings.xy.size()) return;
-  const XYChoice& choice = findings.xy[refractor];
-  Json tried = Json::array();
-  for (const XYTried& one : choice.tried) {
-    Json row = Json::object();
-    row["xy"] = one.xy;
-    row["roughness"] = one.roughness;
-    row["unevenness"] = one.unevenness;
-    tried.push_back(std::move(row));
-  }
-  Json xy = Json::object();
-  xy["receivers"] = choice.receivers;
-  xy["smoothest"] = proposalJson(choice.smoothest);
-  xy["most_even"] = proposalJson(choice.mostEven);
-  xy["tried"] = std::move(tried);
-  json["xy_choice"] = std::move(xy);
+  if (refractor >= findings.support.size()) return;
+  if (refractor < findings.xy.size()) json["xy_choice"] = choiceJson(findings.xy[refractor]);
   json["depth_support"] = namesOf(findings.support[refractor].depth);
   json["velocity_support"] = namesOf(findings.support[refractor].velocity);
 }
@@ -205,12 +210,17 @@ std::vector<std::string> remarksOf(const LayerFindings& findings) {
 }
 
 void summarizeFindings(const LayerFindings& findings, std::ostream& out) {
-  for (std::size_t i = 0; i < findings.xy.size(); ++i) {
+  for (std::size_t i = 0; i < findings.support.size(); ++i) {
     const auto& depth = findings.support[i].depth;
     const auto count = [&depth](Support support) {
       return std::count(depth.begin(), depth.end(), support);
     };
     out << "Layer " << i + 2 << ": ";
+    if (i >= findings.xy.size()) {
+      const auto told = static_cast<std::size_t>(count(Support::kPicks));
+      out << depth.size() - told << " of " << depth.size() << " depths not told by picks\n";
+      continue;
+    }
     if (!findings.xy[i].tried.empty()) {
       out << "XY by smoothest tV " << textOf(findings.xy[i].smoothest)
           << ", by most even velocities " << textOf(findings.xy[i].mostEven) << "; ";

@@ -20,13 +20,15 @@ class TomoDocument;
 
 /// What `refract` tells beside the prescribed profile.
 struct LayerFindings {
-  std::vector<XYChoice> xy;                    ///< per refractor that is built
-  std::vector<RefractorSupport> support;       ///< likewise
+  std::vector<XYChoice> xy;                    ///< per refractor of the reciprocal method
+  std::vector<RefractorSupport> support;       ///< per refractor that is built
   std::optional<MethodComparison> comparison;  ///< none: not asked for
 
   const MethodComparison* methods() const { return comparison ? &*comparison : nullptr; }
   /// Whether some method has found a layer.
   bool foundLayers() const;
+  /// Whether picks were moved by their errors.
+  bool hasBands() const { return comparison && comparison->bounds.members > 0; }
 };
 
 /// Builds the profile with the XY asked for, which may first have to be found.
@@ -39,7 +41,8 @@ ProfileOutcome buildWithXY(const RefractOptions& options, const std::vector<Shot
 LayerFindings findLayers(const LayerMethodOptions& options, const TomoDocument& document,
                          const refractionDataStructure::Interpretation& interpretation);
 
-/// Adds to the JSON of a refractor: `xy_choice`, `depth_support` and `velocity_support`.
+/// Adds to the JSON of a refractor: `depth_support` and `velocity_support`, and of one by the
+/// reciprocal method `xy_choice`.
 void addFindings(const LayerFindings& findings, std::size_t refractor, Json& json);
 
 /// All that a comparison holds.

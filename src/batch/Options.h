@@ -166,6 +166,9 @@ struct EnsembleRunOptions {
   std::string table;   ///< per cell
   std::string depths;  ///< table per isovalue and column
   bool quiet = false;
+
+  /// Whether more is asked for than members that are kept.
+  bool writesResults() const { return !(out + json + table + depths).empty(); }
 };
 
 /// How layers are proposed.

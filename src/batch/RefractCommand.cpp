@@ -6,6 +6,7 @@
 #include "batch/LayerFindings.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
+#include "batch/RefractSummary.h"
 #include "batch/RefractionJson.h"
 #include "batch/Reports.h"
 #include "batch/ShotPicking.h"
@@ -19,6 +20,7 @@
 #include "refraction/FittedProfile.h"
 #include "refraction/LayerProposal.h"
 #include "refraction/LayeredFit.h"
+#include "refraction/PicksFingerprint.h"
 #include "refraction/Profile.h"
 #include "refraction/SurveyProposal.h"
 #include "refraction/WeighedPicks.h"
@@ -35,18 +37,24 @@
 namespace talvesk {
 namespace {
 
-using refractionDataStructure::computedData;
 using refractionDataStructure::Interpretation;
+
+constexpr double kManyErrors = 3.0;
 
 /// The picks of a survey and what is found from them.
 struct Work {
   std::vector<ShotArrivals> shots;
   std::vector<std::vector<double>> errors;  ///< of the picks
   std::optional<SurveyProposal> proposal;   ///< over the survey
+  bool wasFitted = false;                   ///< the profile that the project came with
   ProfileOutcome outcome;
   LayeredFit fit;
   LayerFindings findings;
   std::vector<std::string> remarks;  ///< on the profile
+
+  bool hasOneLayer() const {
+    return proposal && proposal->hasLayers() && proposal->grounds[*proposal->chosen].layers == 1;
+  }
 };
 
 void propose(const RefractOptions& options, Interpretation& interpretation, Work& work) {
@@ -76,9 +84,29 @@ Status markLayers(const RefractOptions& options, const TomoDocument& document,
   return {};
 }
 
+/// Whether the profile of a project is the one that is asked for: it was fitted to these picks, and
+/// nothing says how another would be found.
+bool keepsProfile(const RefractOptions& options, const Interpretation& interpretation,
+                  const Work& work) {
+  const bool otherAsked = options.propose || options.profile || options.xy ||
+                          options.layering.xyRule != XYRule::kGiven || !options.layers.empty();
+  return work.wasFitted && !otherAsked &&
+         !picksChangedSince(work.shots, interpretation.refractData);
+}
+
 /// The profile asked for. The reciprocal method says what is missing where nothing can be fitted.
 void build(const RefractOptions& options, Interpretation& interpretation, Work& work,
            Status& refused) {
+  work.wasFitted = interpretation.refractData.isFitted();
+  if (work.hasOneLayer()) {
+    forgetResults(interpretation);  // an earlier profile is not of these marks
+    return;
+  }
+  if (keepsProfile(options, interpretation, work)) {
+    work.outcome.built = true;
+    work.fit = fitOfProfile(work.shots, work.errors, interpretation);
+    return;
+  }
   if (options.isFitted() && work.proposal->hasLayers()) {
     work.fit = fitProfile(work.shots, work.errors, *work.proposal, interpretation);
     work.outcome.built = work.fit.total.picks > 0;
@@ -86,6 +114,19 @@ void build(const RefractOptions& options, Interpretation& interpretation, Work& 
   }
   work.outcome = buildWithXY(options, work.shots, interpretation, refused);
   if (work.outcome.built) work.fit = fitOfProfile(work.shots, work.errors, interpretation);
+}
+
+/// Says when a profile fits much less than it could: than the waves of a proposal do, or without
+/// one than the errors of its picks let expect. Empty otherwise.
+std::string whyFitsLess(const Work& work, const Interpretation& interpretation) {
+  if (work.proposal) {
+    return whyProfileFitsLess(work.shots, work.fit, *work.proposal, interpretation).english();
+  }
+  const LayerMisfit& all = work.fit.total;
+  const double times = std::sqrt(all.chi2);
+  if (all.picks == 0 || !(times > kManyErrors)) return {};
+  return "the profile fits its picks to " + shortNumber(all.rms * 1000.0) + " ms only, " +
+         shortNumber(times) + " times their errors";
 }
 
 /// What a user must know of the profile.
@@ -103,9 +144,18 @@ std::vector<std::string> profileRemarks(const RefractOptions& options, const Wor
     remarks.emplace_back(
         "no profile can be fitted to all picks; it is that of the reciprocal method");
   }
-  if (work.proposal) {
-    const Message why = whyProfileFitsLess(work.shots, work.fit, *work.proposal, interpretation);
-    if (!why.empty()) remarks.push_back(why.english());
+  const bool fitted = interpretation.refractData.isFitted();
+  if (work.wasFitted && !fitted) {
+    remarks.emplace_back(
+        "the profile of the project was fitted to all its picks; it is replaced by that of the "
+        "reciprocal method (--propose survey fits one again)");
+  }
+  const std::string why = whyFitsLess(work, interpretation);
+  if (!why.empty()) remarks.push_back(why);
+  if (fitted && work.findings.hasBands()) {
+    remarks.emplace_back(
+        "no error bands: --bounds moves picks through the reciprocal method only, this profile is "
+        "fitted");
   }
   return remarks;
 }
@@ -123,56 +173,19 @@ std::string reasonOf(const Work& work, const ShotPairReach& reach) {
          formatDouble(reach.firstReceiver) + " to " + formatDouble(reach.lastReceiver) + " m";
 }
 
-std::string rangeOf(const std::vector<double>& values, const std::string& unit) {
-  std::vector<double> known;
-  std::copy_if(values.begin(), values.end(), std::back_inserter(known),
-               [](double value) { return std::isfinite(value); });
-  if (known.empty()) return "unknown";
-  const auto ends = std::minmax_element(known.begin(), known.end());
-  return formatDouble(*ends.first, 4) + " to " + formatDouble(*ends.second, 4) + ' ' + unit;
-}
-
-/// Of the first layer of a fitted profile, whose velocity is a mean.
-std::string atSurface(const refractionDataStructure::FirstLayer& first) {
-  if (first.x.empty()) return {};
-  std::string text = " in the mean, " + rangeOf(first.velocity, "m/s") + " at the surface";
-  if (first.growth > 0.0) {
-    text += ", growing by " + formatDouble(100.0 * first.growth, 2) +
-            " % of it per metre down to " + formatDouble(first.growsTo, 2) + " m";
-  }
-  return text;
-}
-
-std::string misfitOf(const LayeredFit& fit, std::uint32_t layer) {
-  const auto found = std::find_if(fit.perLayer.begin(), fit.perLayer.end(),
-                                  [layer](const LayerMisfit& one) { return one.layer == layer; });
-  if (found == fit.perLayer.end()) return {};
-  return ", misfit " + formatDouble(found->rms * 1000.0, 2) + " ms (chi2 " +
-         formatDouble(found->chi2, 2) + ") of " + std::to_string(found->picks) + " picks";
-}
-
 void summarize(const Interpretation& interpretation, const Work& work, std::ostream& out) {
-  const auto& results = interpretation.refractData;
-  if (work.proposal) out << "Proposal: " << work.proposal->statement() << '\n';
-  if (!results.cData.empty()) {
-    out << "Layer 1: " << (results.v1 > 0.0 ? formatDouble(results.v1, 4) + " m/s" : "no velocity")
-        << atSurface(results.first) << misfitOf(work.fit, 1) << '\n';
-  }
-  for (std::size_t i = 0; i < results.cData.size(); ++i) {
-    const computedData& refractor = results.cData[i];
-    out << "Layer " << i + 2 << ": ";
-    if (results.isFitted()) {
-      out << "fitted to all picks, " << refractor.x.size() << " places";
-    } else {
-      out << "shots " << interpretation.phnt_A[i].shotID + 1 << " and "
-          << interpretation.phnt_R[i].shotID + 1 << ", " << refractor.x.size() << " receivers";
-    }
-    out << ", velocity " << rangeOf(refractor.velocity, "m/s") << ", depth "
-        << rangeOf(refractor.depth, "m") << misfitOf(work.fit, static_cast<std::uint32_t>(i) + 2)
-        << '\n';
-  }
+  if (work.proposal) out << "Proposal, by its waves: " << work.proposal->statement() << '\n';
+  summarizeProfile(interpretation, work.shots, work.fit, out);
   summarizeFindings(work.findings, out);
   out.flush();
+}
+
+/// The profile, and below it what several methods find.
+std::string tableOf(const Interpretation& interpretation, const LayerFindings& findings) {
+  const auto& results = interpretation.refractData;
+  if (!findings.comparison) return profileTable(results);
+  const std::string comparison = comparisonTable(*findings.comparison);
+  return results.cData.empty() ? comparison : profileTable(results) + '\n' + comparison;
 }
 
 /// Tries every output: a picture that cannot be drawn must not cost the numbers.
@@ -185,14 +198,13 @@ int writeResults(const RefractOptions& options, const LoadedProject& project, co
         path, refractionJson(interpretation, work.fit, work.proposal, work.remarks, work.findings));
   });
   attempt(options.table, [&](const auto& path) {
-    return writeOutput(path, work.findings.comparison ? comparisonTable(*work.findings.comparison)
-                                                      : profileTable(interpretation.refractData));
+    return writeOutput(path, tableOf(interpretation, work.findings));
   });
   attempt(options.misfit,
           [&](const auto& path) { return writeOutput(path, misfitTable(work.fit)); });
   attempt(options.project, [&](const auto& path) { return writeProject(path, project); });
   const std::optional<ProfileErrors> errors =
-      work.findings.comparison
+      work.findings.comparison && !interpretation.refractData.isFitted()
           ? profileErrors(*work.findings.comparison, interpretation.refractData)
           : std::nullopt;
   RefractionFigureOptions figure;
@@ -236,6 +248,18 @@ Status prepareReport(const RefractOptions& options, TomoDocument& document) {
   return recomputeRays(document, log);
 }
 
+/// A proposal of one layer has marks and nothing below them: what shows a profile is not written.
+int endWithoutRefractor(const RefractOptions& options, const LoadedProject& project,
+                        const Work& work, const Channels& channels) {
+  RefractOptions marksOnly;
+  marksOnly.json = options.json;
+  marksOnly.project = options.project;
+  for (const Message& remark : work.proposal->remarks()) warn(remark);
+  writeResults(marksOnly, project, work);
+  summarize(*project.interpretation, work, *channels.summary);
+  return failed("1 layer: there is no refractor to build a profile of");
+}
+
 }  // namespace
 
 int run(const RefractOptions& options) {
@@ -269,6 +293,7 @@ int run(const RefractOptions& options) {
   if (!status.ok()) return failed(status.message());
   const Interpretation& interpretation = *project.interpretation;
   work.findings = findLayers(options.layering, document, interpretation);
+  if (work.hasOneLayer()) return endWithoutRefractor(options, project, work, channels);
   if (!work.outcome.built) {
     const std::string reason = reasonOf(work, shotPairReach(work.shots, interpretation.ttLayer, 2));
     const bool layered = work.proposal && work.proposal->hasLayers();

@@ -72,7 +72,8 @@ void addRefract(CLI::App& app, RefractOptions& options) {
   CLI::Option* table = addPath(command, "--table", options.table,
                                "Write a text line per receiver: x, depths (metres), tV, tG "
                                "(seconds) and velocities (m/s) of both refractors; with other "
-                               "methods or --bounds what all of them find, side by side");
+                               "methods or --bounds, below it, what all of them find, side by "
+                               "side");
   CLI::Option* misfit = addPath(
       command, "--misfit", options.misfit,
       "Write how arrivals computed through the profile fit the picks, a text line per shot and "

@@ -44,15 +44,18 @@ Json refractorJson(const Interpretation& all, std::size_t index) {
     json["reverse"] = curveJson(all.phnt_R[index]);
     json["t_ab"] = std::max(all.phnt_A[index].reciprocalTime, all.phnt_R[index].reciprocalTime);
   }
-  json["xy"] = data.chosenXY;
+  const bool hasXY = !all.refractData.isFitted();
+  if (hasXY) json["xy"] = data.chosenXY;
   json["x"] = data.x;
   json["elevation"] = data.elevation;
   json["tv"] = data.tV;
   json["tg"] = data.tG;
   json["velocity"] = data.velocity;
   json["depth"] = data.depth;
-  json["tv_family"] = familyJson(data.tVs);
-  json["tg_family"] = familyJson(data.tGs);
+  if (hasXY) {
+    json["tv_family"] = familyJson(data.tVs);
+    json["tg_family"] = familyJson(data.tGs);
+  }
   return json;
 }
 
@@ -166,8 +169,9 @@ std::string refractionJson(const Interpretation& interpretation, const LayeredFi
   json["profile"] = interpretation.refractData.isFitted() ? "fitted" : "reciprocal";
   if (interpretation.refractData.isFitted()) {
     json["first_layer"] = firstLayerJson(interpretation.refractData.first);
+  } else {
+    json["xy_family"] = kXYFamily;
   }
-  json["xy_family"] = kXYFamily;
   json["refractors"] = std::move(refractors);
   json["shots"] = std::move(shots);
   if (proposal) json["proposal"] = proposalJson(*proposal);

@@ -14,6 +14,7 @@ namespace {
 using nlohmann::ordered_json;
 using ::testing::AllOf;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 /// Projects of P and S waves over one dipping refractor, S 2.5 times slower; the profiles are those
@@ -28,7 +29,8 @@ class Elastic : public ::testing::Test {
   }
   static void TearDownTestSuite() { delete folder; }
 
-  static std::string project(const std::string& name, double slower, double deeper) {
+  static std::string project(const std::string& name, double slower, double deeper,
+                             const char* profile = "reciprocal") {
     testing::DippingLayers ground = testing::twoDippingLayers();
     for (double& v : ground.velocities) v /= slower;
     ground.depths[0] += deeper;
@@ -36,9 +38,8 @@ class Elastic : public ::testing::Test {
     const std::string picks = *folder / (name + ".otte");
     EXPECT_TRUE(writeTravelTimes(picks, testing::standardDippingLine(ground, truth)).ok());
     const std::string path = *folder / (name + ".tvsk");
-    const Outcome outcome =
-        runBatch({"refract", picks, "--propose", "survey", "--profile", "reciprocal", "--project",
-                  path, "--start-model", "sharp", "--quiet"});
+    const Outcome outcome = runBatch({"refract", picks, "--propose", "survey", "--profile", profile,
+                                      "--project", path, "--start-model", "sharp", "--quiet"});
     EXPECT_EQ(outcome.code, 0) << outcome.err;
     return path;
   }
@@ -90,6 +91,19 @@ TEST_F(Elastic, writesTableAndPictureWithErrors) {
   EXPECT_THAT(text, HasSubstr(",m_mpa,m_mpa_error,remark\n1,0,100,0,0,"));
   EXPECT_THAT(text, HasSubstr("\n2,"));
   EXPECT_THAT(contentsOf(picture), AllOf(HasSubstr("<svg"), HasSubstr("Poisson"), HasSubstr("E0")));
+}
+
+TEST_F(Elastic, saysThatAFittedProfileGetsNoErrors) {
+  const std::string fitted = project("fitted", 1.0, 0.0, "fitted");
+  const char* const told = "P: its profile was fitted to all picks and gets no errors";
+  const Outcome outcome = runBatch({"elastic", fitted, s, "--bounds", "5", "--json", "-"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, AllOf(HasSubstr(told), Not(HasSubstr("S: its profile"))));
+  const ordered_json json = ordered_json::parse(outcome.out);
+  EXPECT_THAT(json["remarks"].dump(), HasSubstr(told));
+  EXPECT_FALSE(json["layers"][1].contains("errors"));
+  EXPECT_THAT(runBatch({"elastic", fitted, s, "--json", "-"}).err, Not(HasSubstr(told)))
+      << "nobody asked for any";
 }
 
 TEST_F(Elastic, saysWhatDoesNotFitWhateverQuietSays) {

@@ -154,6 +154,9 @@ TEST_F(EnsembleRun, tellsWhatItCannotDo) {
       {{"--vary", "blocky=maybe"}, 2, "'maybe' is neither yes nor no"},
       {{"--vary", "smoothing=0.5,0"}, 2, "'0' is not a number from 0.001 to 1000"},
       {{"--vary", "smoothing="}, 2, "is not SETTING=VALUE"},
+      {{"--vary", "smoothing=1", "--vary", "smoothing=2", "--json", "-"}, 2, "is given twice"},
+      {{"--members", "4"}, 2, "one of --out, --json, --table, --depths and --keep"},
+      {{"--members", "1", "--json", "-"}, 2, "one member alone does not tell how sure"},
       {{"--from", "9", "--members", "8"}, 2, "beyond the last member"},
       {{"--members", "70000"}, 2, "'70000' is not a whole number from 1 to 65536"},
       {{"--keep", project}, 2, "would overwrite the input"},
@@ -163,6 +166,19 @@ TEST_F(EnsembleRun, tellsWhatItCannotDo) {
     EXPECT_EQ(outcome.code, each.code) << each.told;
     EXPECT_THAT(outcome.err, HasSubstr(each.told));
   }
+}
+
+TEST_F(EnsembleRun, keepsASingleMemberButTellsNothingOfIt) {
+  const std::string kept = folder / "one.members";
+  const Outcome one = ensemble({"--members", "1", "--keep", kept});
+  ASSERT_EQ(one.code, 0) << one.err;
+  EXPECT_THAT(one.out, HasSubstr(", 1 member "));
+  EXPECT_TRUE(folder.holds("one.members"));
+  const Outcome told =
+      ensemble({"--from", "2", "--members", "2", "--json", folder / "second.json"});
+  EXPECT_EQ(told.code, 1);
+  EXPECT_THAT(told.err, HasSubstr("only one member counts"));
+  EXPECT_FALSE(folder.holds("second.json"));
 }
 
 TEST_F(EnsembleRun, variesSettings) {

@@ -211,7 +211,8 @@ TEST(Refract, proposesOverTheSurveyAndSaysHowTheProfileFits) {
   EXPECT_EQ(json["proposal"]["layers"], 3);
   EXPECT_EQ(json["proposal"]["grounds"].size(), 4U);
   EXPECT_NEAR(json["proposal"]["grounds"][2]["velocities"][1].get<double>(), 1200.0, 12.0);
-  EXPECT_THAT(outcome.err, HasSubstr("Proposal: 3 layers, misfit 0 ms; 2 layers, misfit "));
+  EXPECT_THAT(outcome.err,
+              HasSubstr("Proposal, by its waves: 3 layers, misfit 0 ms; 2 layers, misfit "));
   EXPECT_THAT(outcome.err, HasSubstr("Layer 2: fitted to all picks, "));
   EXPECT_THAT(outcome.err, HasSubstr(" m, misfit "));
   ASSERT_EQ(json["misfit"]["layers"].size(), 3U);
@@ -261,6 +262,66 @@ TEST(Refract, keepsAFittedProfileInProjects) {
   const LayeredFit fit =
       fitOfProfile(shots, pickErrors(back.document, shots), *back.interpretation);
   EXPECT_EQ(misfitTable(fit), first.out);
+}
+
+TEST(Refract, givesAFittedProfileNoBandsOfAnother) {
+  const Survey survey;
+  const std::string table = survey.folder / "both.txt";
+  const std::string plain = survey.folder / "plain.svg";
+  const std::string bounded = survey.folder / "bounded.svg";
+  const std::vector<std::string> asked = {"refract", survey.picks, "--propose",
+                                          "survey",  "--quiet",    "--image"};
+  const auto with = [&](const std::vector<std::string>& more) {
+    std::vector<std::string> arguments = asked;
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return runBatch(arguments);
+  };
+  const char* const told = "no error bands: --bounds moves picks through the reciprocal method";
+  EXPECT_THAT(with({plain}).err, Not(HasSubstr(told)));
+  const Outcome outcome = with({bounded, "--bounds", "3", "--table", table});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr(told));
+  EXPECT_EQ(contentsOf(bounded), contentsOf(plain));
+  // The profile stands first, what the methods find below it.
+  const std::string text = contentsOf(table);
+  EXPECT_LT(text.find(" tV  TV2 "), text.find("\n\nLayer 2\nx elevation reciprocal-depth "));
+}
+
+TEST(Refract, keepsTheFittedProfileOfAProjectUnlessAnotherIsAskedFor) {
+  const Survey survey;
+  const Environment home = {{"HOME", survey.folder / ""}};
+  const std::string project = survey.folder / "fitted.tvsk";
+  const Outcome first = runBatch(
+      {"refract", survey.picks, "--propose", "survey", "--quiet", "--table", "-", "-o", project},
+      home);
+  ASSERT_EQ(first.code, 0) << first.err;
+  const Outcome again = runBatch({"refract", project, "--quiet", "--table", "-"}, home);
+  EXPECT_EQ(again.out, first.out);
+  const Outcome json = runBatch({"refract", project, "--quiet", "--json", "-"}, home);
+  const ordered_json kept = ordered_json::parse(json.out);
+  EXPECT_EQ(kept["profile"], "fitted");
+  for (const char* key : {"xy", "tv_family", "tg_family", "xy_choice"}) {
+    EXPECT_FALSE(kept["refractors"][0].contains(key)) << key;
+  }
+  for (const auto& more : {std::vector<std::string>{"--profile", "reciprocal"}, {"--xy", "0"}}) {
+    std::vector<std::string> arguments = {"refract", project, "--quiet", "--json", "-"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    const Outcome other = runBatch(arguments, home);
+    EXPECT_EQ(ordered_json::parse(other.out)["profile"], "reciprocal");
+    EXPECT_THAT(other.err, HasSubstr("it is replaced by that of the reciprocal method"));
+  }
+}
+
+TEST(Refract, writesTheMarksOfOneLayerAndSaysThatThereIsNoRefractor) {
+  const Survey survey;
+  const Outcome outcome = runBatch({"refract", survey.picks, "--propose", "survey", "--layer-count",
+                                    "1", "--quiet", "--json", "-"});
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("1 layer: there is no refractor to build a profile of"));
+  const ordered_json json = ordered_json::parse(outcome.out);
+  EXPECT_EQ(json["proposal"]["layers"], 1);
+  EXPECT_EQ(json["shots"][0]["layers"].size(), 60U);
+  EXPECT_TRUE(json["refractors"].empty());
 }
 
 TEST(Refract, claimsNoLayersOnGroundWithASteadyGradient) {

@@ -73,6 +73,19 @@ void remarkOnDensity(const ElasticLine& line, std::vector<Message>& remarks) {
                         .arg(all));
 }
 
+void remarkOnErrors(const LayeredWave& p, const LayeredWave& s, std::vector<Message>& remarks) {
+  if (p.errorsNotGiven) {
+    remarks.push_back(
+        Message::tr("P: its profile was fitted to all picks and gets no errors. One "
+                    "by the reciprocal method does."));
+  }
+  if (s.errorsNotGiven) {
+    remarks.push_back(
+        Message::tr("S: its profile was fitted to all picks and gets no errors. One "
+                    "by the reciprocal method does."));
+  }
+}
+
 /// Positions may agree although the lines do not.
 void remarkOnSurface(const LayeredWave& p, const LayeredWave& s, double shift,
                      std::vector<Message>& remarks) {
@@ -94,6 +107,7 @@ void remarkOnSurface(const LayeredWave& p, const LayeredWave& s, double shift,
 }  // namespace
 
 void addRemarks(const LayeredWave& p, const LayeredWave& s, ElasticLine& line) {
+  remarkOnErrors(p, s, line.remarks);
   remarkOnSurface(p, s, line.options.shift, line.remarks);
   for (const ElasticLayer& layer : line.layers) {
     remarkOnTops(layer, line.options.topTolerance, line.remarks);

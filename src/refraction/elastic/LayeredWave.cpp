@@ -133,7 +133,8 @@ LayeredWave layeredWave(const TomoDocument& document, const Interpretation& inte
   LayeredWave wave = layeredWave(interpretation.refractData);
   if (wave.layers.empty() || picksChangedSince(document, interpretation.refractData)) return wave;
   // The errors below are those of a profile that the reciprocal method finds.
-  if (interpretation.refractData.isFitted()) return wave;
+  wave.errorsNotGiven = interpretation.refractData.isFitted();
+  if (wave.errorsNotGiven) return wave;
   const LayerPicks picks = layerPicksOf(document, interpretation, errorRuleOf(document));
   const MethodComparison moved = compareMethods(picks, {LayerMethod::kReciprocal}, bounds,
                                                 [&](std::size_t) { return !goOn || goOn(); });

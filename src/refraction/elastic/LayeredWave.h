@@ -27,6 +27,8 @@ struct WaveLayer {
 struct LayeredWave {
   std::vector<Point2D> surface;   ///< at the receivers, ascending x, each x once
   std::vector<WaveLayer> layers;  ///< from the surface down; empty: nothing was built
+  /// Errors were asked for, but the profile was fitted to all picks, which gives none.
+  bool errorsNotGiven = false;
 
   bool hasErrors() const;  ///< of a velocity at least
   /// Elevation of the surface, metres; not a number beyond the receivers.
@@ -37,9 +39,9 @@ struct LayeredWave {
 LayeredWave layeredWave(const refractionDataStructure::processingData& results);
 
 /// The same with errors: what velocities and depths scatter by as the picks are moved by theirs,
-/// see compareMethods(). The profile of a survey whose picks have changed since gets none.
-/// \param goOn asked now and then on the calling thread; after false there are no errors; may be
-/// empty
+/// see compareMethods(). The profile of a survey whose picks have changed since gets none, neither
+/// does one that was fitted to all picks. \param goOn asked now and then on the calling thread;
+/// after false there are no errors; may be empty
 LayeredWave layeredWave(const TomoDocument& document,
                         const refractionDataStructure::Interpretation& interpretation,
                         const BoundsOptions& bounds, const std::function<bool()>& goOn = {});
