@@ -103,6 +103,12 @@ std::vector<std::string> profileRemarks(const RefractOptions& options, const Wor
     remarks.emplace_back(
         "no profile can be fitted to all picks; it is that of the reciprocal method");
   }
+  if (interpretation.refractData.isFitted() && work.findings.comparison) {
+    remarks.emplace_back(
+        "the profile is fitted to all picks; errors and other methods are told of profiles of "
+        "their "
+        "own, and its picture has no bands");
+  }
   if (work.proposal) {
     const Message why = whyProfileFitsLess(work.shots, work.fit, *work.proposal, interpretation);
     if (!why.empty()) remarks.push_back(why.english());
