@@ -148,6 +148,8 @@ RefractionScene refractionScene(const TomoDocument& document, const Interpretati
                                        own == nullptr ? nullptr : &own->depth));
   }
   scene.v1 = results.v1;
+  scene.v1IsMean = results.isFitted() && results.v1 > 0.0;
+  scene.v1Grows = scene.v1IsMean && results.first.growth > 0.0;
   if (errors != nullptr) scene.v1Error = errors->v1Error;
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
     scene.velocities.push_back(medianOfFinite(results.cData[i].velocity, 0.0));
@@ -263,11 +265,20 @@ QwtPlotItem* tops(const RefractionScene& scene) {
                     icon);
 }
 
+/// Of a first layer that has no one velocity.
+QString firstLayerName(const RefractionScene& scene, const QLocale& locale) {
+  const QString mean = locale.toString(scene.v1, 'f', 0);
+  return scene.v1Grows
+             ? FigureWords::tr("Layer 1, %1 m/s in the mean, growing with depth").arg(mean)
+             : FigureWords::tr("Layer 1, %1 m/s in the mean").arg(mean);
+}
+
 }  // namespace
 
 std::vector<QwtPlotItem*> layers(const RefractionScene& scene, const QLocale& locale) {
-  std::vector<QwtPlotItem*> items{
-      ground(scene, 1, FigureWords::layer(1, scene.v1, scene.v1Error, locale))};
+  const QString first = scene.v1IsMean ? firstLayerName(scene, locale)
+                                       : FigureWords::layer(1, scene.v1, scene.v1Error, locale);
+  std::vector<QwtPlotItem*> items{ground(scene, 1, first)};
   for (const ProfileBoundary& boundary : scene.boundaries) {
     const std::size_t i = boundary.refractor - 2;
     items.push_back(ground(scene, boundary.refractor,

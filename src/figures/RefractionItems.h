@@ -26,6 +26,8 @@ struct RefractionScene {
   std::vector<BoundaryLook> looks;     ///< of the boundaries
   double v1 = 0.0;                     ///< m/s; not a number, or 0, when not known
   double v1Error = 0.0;                ///< likewise
+  bool v1IsMean = false;               ///< of a first layer that was fitted along the line
+  bool v1Grows = false;                ///< and whose velocity grows with depth
   std::vector<double> velocities;      ///< median of each refractor, m/s, top down; 0 without one
   std::vector<double> velocityErrors;  ///< of these; 0, or not a number, when not known
 

@@ -207,10 +207,23 @@ class ProfileFitter {
 
 }  // namespace
 
+SurveyProposal proposalOfMarks(const std::vector<ShotArrivals>& shots,
+                               const std::vector<std::vector<double>>& errors,
+                               const std::vector<layerStruct>& marks) {
+  std::uint32_t layers = kLastLayer;
+  while (layers > 1 && !isAssigned(marks, layers)) --layers;
+  SurveyProposal proposal = proposeFromSurvey(shots, errors, marks, layers);
+  proposal.marks = marks;
+  clearShifts(proposal.marks);
+  return proposal;
+}
+
 LayeredFit fitProfile(const std::vector<ShotArrivals>& shots,
                       const std::vector<std::vector<double>>& errors,
                       const SurveyProposal& proposal, Interpretation& interpretation) {
   if (!proposal.waves || proposal.waves->waves.size() < 2) return {};
+  const auto below = static_cast<std::uint32_t>(proposal.waves->waves.size()) + 1;
+  if (below <= kLastLayer && isAssigned(proposal.marks, below)) return {};
   Attempt best = ProfileFitter(shots, errors, proposal.marks).fitFrom(*proposal.waves);
   if (!std::isfinite(best.cost)) return {};
   interpretation = {};

@@ -20,14 +20,24 @@ namespace talvesk {
 /// before the waves are fitted again, until nothing gets better.
 ///
 /// The profile has the receivers, and the shots beyond them, that lie between the first and the
-/// last place with a pick of a refractor; no curves, tV and tG. \param errors pickErrors() \param
-/// proposal with two layers at least, of these shots \param interpretation its marks become those
-/// of the proposal, its results the profile; as it was where nothing can be fitted \return how it
-/// fits; empty, total.picks is 0, where nothing can be fitted
+/// last place with a pick of a refractor; no curves, tV and tG.
+/// \param errors pickErrors()
+/// \param proposal with two layers at least, of these shots. Its marks may have been changed since;
+/// with a mark of a layer that its waves do not have nothing can be fitted
+/// \param interpretation its marks become those of the proposal, its results the profile; as it was
+/// where nothing can be fitted
+/// \return how it fits; empty, total.picks is 0, where nothing can be fitted
 LayeredFit fitProfile(const std::vector<ShotArrivals>& shots,
                       const std::vector<std::vector<double>>& errors,
                       const SurveyProposal& proposal,
                       refractionDataStructure::Interpretation& interpretation);
+
+/// The proposal with as many layers as marks have, and these marks for its own: what a profile is
+/// fitted from where a user has changed the marks, and by which it is known again.
+/// \param errors pickErrors()
+SurveyProposal proposalOfMarks(const std::vector<ShotArrivals>& shots,
+                               const std::vector<std::vector<double>>& errors,
+                               const std::vector<refractionDataStructure::layerStruct>& marks);
 
 /// Says when a profile fits its picks much less than the waves of the proposal do: how much, from
 /// which shot on along the line, and why, as far as that can be told. Empty when it fits about as

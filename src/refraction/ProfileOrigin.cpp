@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "refraction/BuildProfiles.h"
+#include "refraction/FittedProfile.h"
 
 #include <algorithm>
 #include <cmath>
@@ -22,25 +23,40 @@ bool sameValues(const std::vector<double>& a, const std::vector<double>& b) {
   });
 }
 
-}  // namespace
-
-bool isProfileOf(const std::vector<ShotArrivals>& shots, const Interpretation& interpretation) {
-  const processingData& profile = interpretation.refractData;
-  if (profile.cData.empty()) return false;
-  const console::Silence silence;
-  Interpretation again = interpretation;
-  if (!buildProfiles(shots, again).built) return false;
-  const auto& built = again.refractData.cData;
-  return std::equal(profile.cData.begin(), profile.cData.end(), built.begin(), built.end(),
-                    [](const computedData& a, const computedData& b) {
+bool sameProfile(const processingData& profile, const processingData& again) {
+  return std::equal(profile.cData.begin(), profile.cData.end(), again.cData.begin(),
+                    again.cData.end(), [](const computedData& a, const computedData& b) {
                       return sameValues(a.x, b.x) && sameValues(a.velocity, b.velocity) &&
                              sameValues(a.depth, b.depth);
                     });
 }
 
+/// The fit of a fitted profile, found again from picks and marks.
+LayeredFit fitOfOwnFitted(const std::vector<ShotArrivals>& shots,
+                          const std::vector<std::vector<double>>& errors,
+                          const Interpretation& interpretation) {
+  Interpretation again;
+  LayeredFit fit =
+      fitProfile(shots, errors, proposalOfMarks(shots, errors, interpretation.ttLayer), again);
+  return sameProfile(interpretation.refractData, again.refractData) ? fit : LayeredFit();
+}
+
+}  // namespace
+
+bool isProfileOf(const std::vector<ShotArrivals>& shots, const Interpretation& interpretation) {
+  const processingData& profile = interpretation.refractData;
+  if (profile.cData.empty()) return false;
+  if (profile.isFitted()) return false;
+  const console::Silence silence;
+  Interpretation again = interpretation;
+  if (!buildProfiles(shots, again).built) return false;
+  return sameProfile(profile, again.refractData);
+}
+
 LayeredFit fitOfOwnProfile(const std::vector<ShotArrivals>& shots,
                            const std::vector<std::vector<double>>& errors,
                            const Interpretation& interpretation) {
+  if (interpretation.refractData.isFitted()) return fitOfOwnFitted(shots, errors, interpretation);
   return isProfileOf(shots, interpretation) ? fitOfProfile(shots, errors, interpretation)
                                             : LayeredFit();
 }

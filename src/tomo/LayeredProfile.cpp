@@ -102,6 +102,13 @@ Status LayeredProfile::read(const processingData& results, LayeredProfile& out) 
                     "layer 1 and build the profiles again."));
   }
   profile.mV1 = results.v1;
+  if (results.isFitted()) {
+    profile.mNotes.push_back(
+        Message::tr(
+            "The velocity of layer 1 changes along the line and with depth in this profile; "
+            "here it is its mean, %1 m/s, everywhere.")
+            .arg(Message::number(results.v1, 4)));
+  }
   if (!profile.take(0, results.cData[0])) {
     return Status::failure(
         Message::tr("The first refractor of the layered profile has no depth or no velocity at any "

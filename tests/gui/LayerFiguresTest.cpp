@@ -2,6 +2,7 @@
 #include "app/dialogs/RefractionProcessingDialog.h"
 #include "gui/WindowTest.h"
 #include "io/Survey.h"
+#include "io/project/ProjectWriter.h"
 #include "support/RefractionLines.h"
 #include "widgets/RefractionProfilePlot.h"
 #include "widgets/SeriesPlot.h"
@@ -93,6 +94,94 @@ TEST_F(LayerFigures, dashesWhatPicksDoNotCarryAndSaysSoInTheTable) {
     EXPECT_EQ(text(30, 3), "picks");
     EXPECT_THAT(text(30, 1), MatchesRegex("[0-9.]+"));
   });
+}
+
+/// Of a profile that is fitted to all picks there are no curves, tV, tG, XY and errors, and nothing
+/// of a profile that was there before is left.
+TEST_F(LayerFigures, showsNothingOfTheReciprocalMethodBesideAFittedProfile) {
+  interpret([](QWidget& dialog) {
+    auto& choice = in<QComboBox>(dialog, "profileCombo");
+    EXPECT_EQ(choice.currentText(), "Reciprocal method");
+    ASSERT_TRUE(findsBands(dialog));
+    ASSERT_FALSE(in<SeriesPlot>(dialog, "tvPlot").series().empty());
+    choice.setCurrentIndex(1);
+    emit choice.activated(1);
+    const auto& stale = in<QLabel>(dialog, "staleLabel");
+    EXPECT_EQ(stale.text(), "The profile that is shown is by the reciprocal method.");
+    in<QPushButton>(dialog, "buildButton").click();
+    EXPECT_EQ(stale.text(), "");
+
+    for (const char* plot : {"tvPlot", "tgPlot", "phantomPlot"}) {
+      EXPECT_TRUE(in<SeriesPlot>(dialog, plot).series().empty()) << plot;
+    }
+    EXPECT_FALSE(sceneOf(dialog).hasBands());
+    EXPECT_EQ(sceneOf(dialog).v1Error, 0.0);
+    EXPECT_TRUE(sceneOf(dialog).v1IsMean);
+    EXPECT_EQ(in<QTableWidget>(dialog, "shiftTable").rowCount(), 0);
+    for (const char* part :
+         {"xyCombo", "refractorCombo", "errorBandsCheck", "pushAutoPhantButton"}) {
+      EXPECT_FALSE(in<QWidget>(dialog, part).isEnabled()) << part;
+    }
+    EXPECT_EQ(in<QLabel>(dialog, "xyFoundLabel").text(), "");
+    EXPECT_THAT(in<QLabel>(dialog, "errorBandsNote").text().toStdString(),
+                HasSubstr("for the reciprocal method only"));
+    const auto& table = in<QTableWidget>(dialog, "profileTable");
+    EXPECT_EQ(table.item(30, 3)->text(), "picks");
+    EXPECT_THAT(table.item(30, 1)->text().toStdString(), MatchesRegex("[0-9.]+"));
+    EXPECT_THAT(table.item(30, 1)->toolTip().toStdString(), HasSubstr("Fitted to all picks"));
+    EXPECT_THAT(in<QLabel>(dialog, "notesLabel").text().toStdString(),
+                HasSubstr("fitted to all picks. Layer 1 has "));
+
+    choice.setCurrentIndex(0);
+    emit choice.activated(0);
+    in<QPushButton>(dialog, "buildButton").click();
+    EXPECT_FALSE(in<SeriesPlot>(dialog, "tvPlot").series().empty());
+    EXPECT_TRUE(in<QComboBox>(dialog, "xyCombo").isEnabled());
+    EXPECT_FALSE(sceneOf(dialog).v1IsMean);
+  });
+}
+
+/// Kept by OK, undo and a project; its times are drawn until picks are others.
+TEST_F(LayerFigures, keepsAFittedProfileAndItsTimes) {
+  interpret([](QWidget& dialog) {
+    auto& choice = in<QComboBox>(dialog, "profileCombo");
+    in<QPushButton>(dialog, "clearButton").click();
+    in<QPushButton>(dialog, "proposeSurveyButton").click();
+    EXPECT_EQ(choice.currentText(), "Fitted to all picks");
+    EXPECT_THAT(in<QLabel>(dialog, "proposalLabel").text().toStdString(),
+                HasSubstr("\"Build profiles\" fits the profile to all picks"));
+    in<QPushButton>(dialog, "buildButton").click();
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return in<QCheckBox>(dialog, "computedCheck").isEnabled(); }, 60000));
+  });
+  const auto isFitted = [this] {
+    return window->session().survey().interpretation->refractData.isFitted();
+  };
+  ASSERT_TRUE(isFitted());
+  action("actionTravel_times").trigger();
+  layersBox().setChecked(true);
+  ASSERT_TRUE(hasTimes());
+  const double pick = window->document().ttArray[5].ttMisurati[50];
+  child<editTravelTimesWidget>("showTracesWidget").editPick(5, 50, pick + 0.004);
+  EXPECT_TRUE(plot().layered().empty());
+  child<editTravelTimesWidget>("showTracesWidget").editPick(5, 50, pick);
+  EXPECT_TRUE(hasTimes()) << "as after undo";
+
+  const std::string file = home.file("fitted.tvsk");
+  const Survey& kept = window->session().survey();
+  ASSERT_EQ(ProjectWriter().save(file, home.file("Talvesk_TMP/"), kept.document,
+                                 kept.interpretation, kept.palettes),
+            0);
+  window->session().undo();
+  window->session().markSaved();
+  window->openFiles({QString::fromStdString(file)});
+  ASSERT_TRUE(isFitted());
+  dialogs.expect([](QWidget& dialog) {
+    EXPECT_EQ(in<QComboBox>(dialog, "profileCombo").currentText(), "Fitted to all picks");
+    EXPECT_EQ(in<QLabel>(dialog, "staleLabel").text(), "");
+    dialog.close();
+  });
+  action("actionRefraction").trigger();
 }
 
 TEST_F(LayerFigures, showsErrorBandsOnDemandUntilWhatTheyRestOnChanges) {

@@ -1,8 +1,11 @@
+#include "model/ChiSquare.h"
 #include "numerics/Medians.h"
 #include "refraction/BuildProfiles.h"
 #include "refraction/FittedProfile.h"
+#include "refraction/ProfileOrigin.h"
 #include "refraction/Support.h"
 #include "refraction/WeighedPicks.h"
+#include "refraction/methods/ProfileErrors.h"
 #include "support/ConsoleCapture.h"
 #include "support/LayerTrials.h"
 
@@ -106,6 +109,43 @@ TEST(FittedProfile, needsNoShotAtEitherEndOfTheLine) {
   }
   const RefractorSupport support = supportOf(line.shots, line.fitted, 2);
   EXPECT_EQ(support.depth.size(), refractor.x.size());
+}
+
+TEST(FittedProfile, isKnownAgainByItsPicksAndMarks) {
+  const testing::ConsoleCapture console;
+  Line line(testing::LayerTrial(TrialGround::kTwoDipping, 0).line());
+  const auto misfit = [&line](const Interpretation& interpretation) {
+    return fitOfOwnProfile(line.shots, line.errors, interpretation).total;
+  };
+  const LayeredFit fit = line.fit();
+  ASSERT_GT(fit.total.picks, 0U);
+  EXPECT_EQ(misfit(line.fitted).rms, fit.total.rms);
+  Interpretation marked = line.fitted;
+  marked.ttLayer[2].layer[20] = 0;
+  EXPECT_EQ(misfit(marked).picks, 0U) << "the marks are others";
+  line.proposal = proposalOfMarks(line.shots, line.errors, marked.ttLayer);
+  EXPECT_EQ(line.fit().total.picks, fit.total.picks - 1);
+  EXPECT_EQ(misfit(line.fitted).picks, fit.total.picks - 1) << "a profile of these";
+  line.shots[2].times[22] += 3e-3;
+  EXPECT_EQ(misfit(line.fitted).picks, 0U) << "the picks are others";
+}
+
+TEST(FittedProfile, hasNoErrorsOfTheReciprocalMethod) {
+  const testing::ConsoleCapture console;
+  const TomoDocument document = testing::LayerTrial(TrialGround::kTwoDipping, 0).line();
+  Line line(document);
+  ASSERT_GT(line.fit().total.picks, 0U);
+  const MethodComparison moved =
+      compareMethods(layerPicksOf(document, line.fitted, errorRuleOf(document)),
+                     {LayerMethod::kReciprocal}, {4, 1, 1});
+  EXPECT_FALSE(profileErrors(moved, line.fitted.refractData));
+}
+
+TEST(FittedProfile, cannotFitALayerThatHasNoWave) {
+  const testing::ConsoleCapture console;
+  Line line(testing::LayerTrial(TrialGround::kTwoDipping, 0).line());
+  line.proposal.marks[2].layer[20] = 3;
+  EXPECT_EQ(line.fit().total.picks, 0U);
 }
 
 TEST(FittedProfile, leavesWhatWasThereWhereNothingCanBeFitted) {

@@ -96,6 +96,8 @@ TEST(LayeredProfile, tellsWhatItFillsAndLeavesOut) {
   processingData crossing = profileOf({{5.0, 0.0}, {8.0, -0.3}});
   processingData bottomless = profileOf({{3.0, 0.0}, {7.0, 0.0}});
   bottomless.cData[1].depth.assign(10, kUnknown);
+  processingData fitted = profileOf({{3.0, 0.0}});
+  fitted.first = {{0.0, 10.0}, {300.0, 500.0}, 0.1, 3.0};
   struct Case {
     const char* what;
     processingData profile;
@@ -108,6 +110,7 @@ TEST(LayeredProfile, tellsWhatItFillsAndLeavesOut) {
         "negative depth at 1 of 10"}},
       {"crossing", crossing, {"Layer 3 begins above layer 2 at 5 of 10"}},
       {"a layer without depths", bottomless, {"ground ends with layer 2"}},
+      {"a first layer that changes", fitted, {"here it is its mean, 400 m/s, everywhere"}},
       {"a shallow grid", profileOf({{3.0, 0.0}, {13.0, 0.0}}), {"ends above layer 3 in 96 of 96"}},
   };
   for (const Case& c : cases) {

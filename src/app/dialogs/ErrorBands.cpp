@@ -63,6 +63,7 @@ void ErrorBands::setNone(const QString& why) {
   mBox->setEnabled(false);
   mBox->setToolTip(why);
   follow();
+  if (mBox->isChecked()) mNote->setText(why);  // they were wanted
 }
 
 /// Finds what is wanted and not there yet.

@@ -35,7 +35,14 @@ QString supportText(Support support) {
   return {};
 }
 
-QString supportTip(Support support) {
+QString supportTip(Support support, bool fitted) {
+  if (fitted) {
+    return support == Support::kPicks
+               ? Texts::tr("Fitted to all picks, some of which come from here or go here.")
+               : Texts::tr(
+                     "No pick of the layer comes from here or goes here: it lies between "
+                     "what others tell.");
+  }
   switch (support) {
     case Support::kPicks:
       return Texts::tr("Picks of the shots at both ends of the line carry it.");
@@ -55,6 +62,7 @@ struct Column {
   const std::vector<Support>& support;
   const Band* band;
   int places;
+  bool fitted;
 };
 
 QTableWidgetItem* textCell(const QString& text, Qt::Alignment align) {
@@ -76,7 +84,7 @@ QTableWidgetItem* valueCell(const Column& column, std::size_t j) {
   const bool carried = j >= column.support.size() || column.support[j] == Support::kPicks;
   auto* cell =
       textCell(carried ? text : QLatin1Char('(') + text + QLatin1Char(')'), Qt::AlignRight);
-  if (j < column.support.size()) cell->setToolTip(supportTip(column.support[j]));
+  if (j < column.support.size()) cell->setToolTip(supportTip(column.support[j], column.fitted));
   return cell;
 }
 
@@ -90,12 +98,12 @@ QStringList headsOf(std::size_t refractors) {
 }
 
 void fillRefractor(const computedData& refractor, const RefractorSupport& support,
-                   const ProfileErrors::Refractor* errors, int first, QTableWidget& table,
-                   const std::vector<Point2D>& receivers) {
+                   const ProfileErrors::Refractor* errors, bool fitted, int first,
+                   QTableWidget& table, const std::vector<Point2D>& receivers) {
   const Column depth{refractor.depth, support.depth, errors == nullptr ? nullptr : &errors->depth,
-                     2};
+                     2, fitted};
   const Column velocity{refractor.velocity, support.velocity,
-                        errors == nullptr ? nullptr : &errors->velocity, 0};
+                        errors == nullptr ? nullptr : &errors->velocity, 0, fitted};
   for (std::size_t row = 0; row < receivers.size(); ++row) {
     const auto same = std::find(refractor.x.begin(), refractor.x.end(), receivers[row].x);
     const auto j = static_cast<std::size_t>(same - refractor.x.begin());
@@ -104,7 +112,7 @@ void fillRefractor(const computedData& refractor, const RefractorSupport& suppor
     table.setItem(at, first + 1, valueCell(velocity, j));
     const bool known = j < support.depth.size() && std::isfinite(refractor.depth[j]);
     auto* carried = textCell(known ? supportText(support.depth[j]) : QString(), Qt::AlignLeft);
-    if (known) carried->setToolTip(supportTip(support.depth[j]));
+    if (known) carried->setToolTip(supportTip(support.depth[j], fitted));
     table.setItem(at, first + 2, carried);
   }
 }
@@ -128,9 +136,10 @@ void fillProfileTable(const std::vector<ShotArrivals>& shots,
   }
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
     const bool known = errors != nullptr && i < errors->refractors.size();
-    fillRefractor(
-        results.cData[i], supportOf(shots, interpretation, static_cast<std::uint32_t>(i) + 2),
-        known ? &errors->refractors[i] : nullptr, 1 + 3 * static_cast<int>(i), table, receivers);
+    fillRefractor(results.cData[i],
+                  supportOf(shots, interpretation, static_cast<std::uint32_t>(i) + 2),
+                  known ? &errors->refractors[i] : nullptr, results.isFitted(),
+                  1 + 3 * static_cast<int>(i), table, receivers);
   }
   table.resizeColumnsToContents();
 }

@@ -87,8 +87,9 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
   mUi->curvesPlot->setSurvey(mShots);
   marksChanged();
   mStale = false;
+  chooseFitted(mWork.refractData.isFitted());
   showResults();
-  fitProfile();
+  findFit();
   mUi->curvesPlot->setFocus();
 }
 
@@ -101,19 +102,11 @@ void RefractionProcessingDialog::nameThings() {
   mUi->curvesPlot->setEmptyText(
       tr("There are no picks to assign to layers: pick first breaks, or import travel times."));
   mUi->phantomPlot->setTexts(tr("Phantom travel times"), x, tr("time (ms)"));
-  mUi->phantomPlot->setEmptyText(
-      tr("No curves yet.\n\nAssign picks to layer 2 for a shot at either end of the line, then "
-         "press \"Auto phantoming\" or \"Build profiles\"."));
   mUi->tvPlot->setTexts(tr("tV, velocity analysis"), x, tr("time (ms)"));
   mUi->tgPlot->setTexts(tr("tG, time depth"), x, tr("time (ms)"));
   mUi->velocityPlot->setTexts(tr("Velocity"), x, tr("Velocity (m/s)"));
   mUi->profilePlot->setTexts(tr("Refraction Profile"), x, tr("Z (m)"));
-  const QString none =
-      tr("Nothing is built yet: assign picks to layers and press \"Build profiles\".");
-  for (PlotPage* page : {static_cast<PlotPage*>(mUi->tvPlot), static_cast<PlotPage*>(mUi->tgPlot),
-                         static_cast<PlotPage*>(mUi->velocityPlot)}) {
-    page->setEmptyText(none);
-  }
+  showEmptyTexts();
   mUi->profilePlot->setEmptyText(
       tr("There is no depth to show. Layer 1 needs a branch with two picks, and each refractor has "
          "to be faster than the layer above."));
@@ -214,14 +207,7 @@ void RefractionProcessingDialog::marksChanged() {
   mUi->curvesPlot->setMarks(mWork.ttLayer);
   mUi->clearButton->setEnabled(hasMarks(mWork.ttLayer));
   mUi->methodsButton->setEnabled(hasMarks(mWork.ttLayer));
-  QStringList changed;
-  if (picksChangedSince(mShots, mWork.refractData)) {
-    changed << tr("The picks have changed since the profiles were built.");
-  }
-  if (mStale && !mWork.refractData.cData.empty()) {
-    changed << tr("The marks have changed since the profiles were built.");
-  }
-  mUi->staleLabel->setText(changed.join(QLatin1Char(' ')));
+  showStale();
   followErrors();
   showProposal();
   refreshShot();

@@ -63,6 +63,7 @@ class RefractionProcessingDialog : public QDialog {
   void on_enabledCheck_clicked(bool checked);
   void on_pushAutoPhantButton_clicked();
   void on_buildButton_clicked();
+  void on_profileCombo_activated(int index);
   void on_methodsButton_clicked();
   void on_refractorCombo_activated(int index);
   void on_xyCombo_activated(int index);
@@ -80,14 +81,23 @@ class RefractionProcessingDialog : public QDialog {
   void mark(const std::vector<TraceRef>& picks, int layer);
   void changeMarks(const QString& text, const Marks& after);
   void marksChanged();
+  bool marksAreProposed() const;  ///< those of the last proposal over the survey
   void showProposal();
   void showReading(const BranchReading* reading);
   void refreshShot();
 
   // Results
   bool build(std::vector<RefractionWarning> told);
-  void fitProfile();
+  void findFit();
   void showFit();
+  void showNotes();
+
+  // A profile that is fitted to all picks
+  bool wantsFitted() const;
+  void chooseFitted(bool fitted);
+  bool buildFitted();
+  void showStale();
+  void showEmptyTexts();
   void tell(const std::vector<RefractionWarning>& warnings,
             const std::vector<RefractionWarning>& known);
   void showPhantoms();
@@ -105,6 +115,8 @@ class RefractionProcessingDialog : public QDialog {
   std::vector<ShotArrivals> mShots;
   std::vector<RefractionWarning> mWarnings;  ///< of the last build
   std::optional<SurveyProposal> mProposal;   ///< that the marks were last replaced by
+  std::optional<SurveyProposal>
+      mJudge;       ///< of the profile's marks, whose waves mFit is held against
   LayeredFit mFit;  ///< of the profiles as they were built or opened; empty until it is found
   BackgroundFit* mFitting;
   QUndoStack* mUndo;

@@ -53,6 +53,7 @@ void RefractionProcessingDialog::on_proposeButton_clicked() {
     return;
   }
   mProposal.reset();
+  chooseFitted(false);
   changeMarks(tr("propose layers"), proposed);
   showProposal();
 }
@@ -88,8 +89,13 @@ void RefractionProcessingDialog::on_proposeSurveyButton_clicked() {
   }
   const Marks marks = proposal.marks;
   mProposal = std::move(proposal);
+  chooseFitted(true);
   changeMarks(tr("propose layers over the whole survey"), marks);
   showProposal();
+}
+
+bool RefractionProcessingDialog::marksAreProposed() const {
+  return mProposal && sameMarks(mProposal->marks, mWork.ttLayer);
 }
 
 /// What the last proposal over the survey says, and whether the marks are still its own.
@@ -98,8 +104,13 @@ void RefractionProcessingDialog::showProposal() {
   label.setVisible(mProposal.has_value());
   if (!mProposal) return;
   QStringList lines{tr("Proposal over the whole survey: %1").arg(textOf(mProposal->statement()))};
-  if (!sameMarks(mProposal->marks, mWork.ttLayer)) {
+  if (!marksAreProposed()) {
     lines << tr("The marks are no longer those of this proposal.");
+  }
+  if (wantsFitted()) {
+    lines << tr(
+        "\"Build profiles\" fits the profile to all picks; beside it the reciprocal method "
+        "can be chosen.");
   }
   const QStringList remarks = linesOf(mProposal->remarks());
   label.setToolTip(remarks.size() > kShownRemarks ? remarks.join(QLatin1Char('\n')) : QString());

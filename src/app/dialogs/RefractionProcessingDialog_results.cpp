@@ -1,4 +1,5 @@
 #include "app/BackgroundFit.h"
+#include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/MisfitTable.h"
@@ -8,6 +9,8 @@
 #include "figures/RefractionItems.h"
 #include "model/ChiSquare.h"
 #include "model/TomoDocument.h"
+#include "refraction/Course.h"
+#include "refraction/FittedProfile.h"
 #include "refraction/PicksFingerprint.h"
 #include "refraction/Profile.h"
 #include "refraction/ReciprocalMethod.h"
@@ -105,6 +108,19 @@ PlotSeries lineOf(const phantom& curve, double end) {
   return series;
 }
 
+/// Of a first layer that has another velocity at every place, at the surface.
+PlotSeries surfaceVelocity(const FirstLayer& first, const std::vector<Point2D>& surface) {
+  Course slowness{first.x, first.velocity};
+  for (double& value : slowness.y) value = 1.0 / value;
+  PlotSeries series;
+  series.name = first.growth > 0.0
+                    ? RefractionProcessingDialog::tr("Layer 1 at the surface, growing with depth")
+                    : RefractionProcessingDialog::tr("Layer %1").arg(1);
+  series.color = shown(1);
+  for (const Point2D& at : surface) series.points.push_back({at.x, 1.0 / slowness.at(at.x)});
+  return series;
+}
+
 bool sameCurves(const std::vector<phantom>& some, const std::vector<phantom>& others) {
   return std::equal(some.begin(), some.end(), others.begin(), others.end(),
                     [](const phantom& a, const phantom& b) {
@@ -136,7 +152,7 @@ void RefractionProcessingDialog::on_pushAutoPhantButton_clicked() {
 }
 
 void RefractionProcessingDialog::on_buildButton_clicked() {
-  if (!build({})) return;
+  if (!(wantsFitted() ? buildFitted() : build({}))) return;
   QWidget* current = mUi->tabs->currentWidget();
   if (current == mUi->curvesTab || current == mUi->phantomTab) {
     mUi->tabs->setCurrentWidget(mUi->profileTab);
@@ -151,7 +167,9 @@ bool RefractionProcessingDialog::build(std::vector<RefractionWarning> told) {
     mWarnings = outcome.warnings;
     mStale = false;
     mBuilt = true;
-    fitProfile();
+    mJudge.reset();
+    if (marksAreProposed()) mJudge = mProposal;
+    findFit();
   }
   marksChanged();
   showResults();
@@ -179,7 +197,7 @@ void RefractionProcessingDialog::tell(const std::vector<RefractionWarning>& warn
 }
 
 /// Has computed how the times through the profiles fit the picks and marks of now.
-void RefractionProcessingDialog::fitProfile() {
+void RefractionProcessingDialog::findFit() {
   mFit = {};
   showFit();
   if (mWork.refractData.cData.empty()) return;
@@ -194,6 +212,7 @@ void RefractionProcessingDialog::showFit() {
   mUi->curvesPlot->setComputed(mFit.waves);
   mUi->misfitTable->setVisible(any);
   fillMisfitTable(mFit, mShots, *mUi->misfitTable);
+  showNotes();
 }
 
 void RefractionProcessingDialog::showResults() {
@@ -205,8 +224,12 @@ void RefractionProcessingDialog::showResults() {
     mUi->refractorCombo->addItem(i == 0 ? tr("first (layer 2)") : tr("second (layer 3)"));
   }
   mUi->refractorCombo->setCurrentIndex(refractors > 0 ? chosen : -1);
-  mUi->refractorCombo->setEnabled(refractors > 0);
-  mUi->xyCombo->setEnabled(refractors > 0);
+  const bool curves = refractors > 0 && !mWork.refractData.isFitted();
+  mUi->refractorCombo->setEnabled(curves);
+  mUi->xyCombo->setEnabled(curves);
+  mUi->pushAutoPhantButton->setEnabled(!mWork.refractData.isFitted());
+  showEmptyTexts();
+  showStale();
   showPhantoms();
   showFunctions();
   showProfile();
@@ -272,10 +295,15 @@ void RefractionProcessingDialog::showShifts() {
 }
 
 void RefractionProcessingDialog::showFunctions() {
-  const int refractor = mUi->refractorCombo->currentIndex();
+  const int refractor = mWork.refractData.isFitted() ? -1 : mUi->refractorCombo->currentIndex();
   std::vector<PlotSeries> tV;
   std::vector<PlotSeries> tG;
-  if (refractor < 0) mUi->xyCriteria->clear();
+  if (refractor < 0) {
+    mUi->xyCriteria->clear();
+    mUi->xyCombo->clear();
+    mUi->xyFoundLabel->clear();
+    mUi->xyFoundLabel->setToolTip({});
+  }
   if (refractor >= 0) {
     const computedData& found = mWork.refractData.cData[static_cast<std::size_t>(refractor)];
     // A project may have an XY that is none of the family.
@@ -355,6 +383,9 @@ std::shared_ptr<const ProfileErrors> RefractionProcessingDialog::profileErrors()
 void RefractionProcessingDialog::followErrors() {
   if (mWork.refractData.cData.empty()) {
     mUi->errorBands->setNone(tr("There is no profile yet."));
+  } else if (mWork.refractData.isFitted()) {
+    mUi->errorBands->setNone(
+        tr("What errors of the picks make of a profile is found for the reciprocal method only."));
   } else if (mStale || picksChangedSince(mShots, mWork.refractData)) {
     mUi->errorBands->setNone(tr("Picks or marks have changed: build the profiles again."));
   } else {
@@ -366,12 +397,13 @@ void RefractionProcessingDialog::showProfile() {
   const processingData& results = mWork.refractData;
   const auto errors = profileErrors();
   std::vector<PlotSeries> velocities;
-  const QColor first = shown(1);
   const std::vector<Point2D> surface = profileSurface(results);
-  if (!surface.empty() && std::isfinite(results.v1) && results.v1 > 0.0) {
+  if (results.isFitted() && !surface.empty()) {
+    velocities.push_back(surfaceVelocity(results.first, surface));
+  } else if (!surface.empty() && std::isfinite(results.v1) && results.v1 > 0.0) {
     PlotSeries series;
     series.name = tr("Layer %1").arg(1);
-    series.color = first;
+    series.color = shown(1);
     series.points = {{surface.front().x, results.v1}, {surface.back().x, results.v1}};
     if (errors != nullptr) {
       series.low.assign(2, results.v1 - errors->v1Error);
@@ -400,7 +432,20 @@ void RefractionProcessingDialog::showProfile() {
   mUi->velocityPlot->setFrame(QRectF(left, 0.0, scene.upperRight().x - left, 0.0));
   mUi->velocityPlot->setSeries(std::move(velocities));
   mUi->profilePlot->setScene(std::move(scene));
+  showNotes();
+}
+
+/// What a user must know of the profile.
+void RefractionProcessingDialog::showNotes() {
+  const processingData& results = mWork.refractData;
   QStringList notes;
+  if (results.isFitted()) {
+    notes << tr("Velocities and depths are fitted to all picks. %1").arg(firstLayerText(results));
+  }
+  if (mJudge) {
+    const Message why = whyProfileFitsLess(mShots, mFit, *mJudge, mWork);
+    if (!why.empty()) notes << tr("Misfit: %1.").arg(textOf(why));
+  }
   for (const RefractionWarning& warning : mWarnings) notes << refractionText(warning).trimmed();
   if (mWarnings.empty() && hasGaps(results)) {
     notes << tr(

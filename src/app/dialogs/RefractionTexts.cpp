@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <algorithm>
 
 namespace talvesk {
 namespace {
@@ -86,6 +87,20 @@ QString refractionText(const RefractionWarning& warning) {
           .arg(warning.total);
   }
   return {};
+}
+
+QString firstLayerText(const refractionDataStructure::processingData& results) {
+  const QLocale locale;
+  const refractionDataStructure::FirstLayer& first = results.first;
+  const auto ends = std::minmax_element(first.velocity.begin(), first.velocity.end());
+  const auto whole = [&locale](double velocity) { return locale.toString(velocity, 'f', 0); };
+  const QString text = Texts::tr("Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.")
+                           .arg(whole(results.v1), whole(*ends.first), whole(*ends.second));
+  if (!(first.growth > 0.0)) return text;
+  return text + QLatin1Char(' ') +
+         Texts::tr("It grows by %1 % of that per metre, down to %2 m.")
+             .arg(locale.toString(100.0 * first.growth, 'f', 1),
+                  locale.toString(first.growsTo, 'f', 1));
 }
 
 QString noShotPairText(const ShotPairReach& reach) {

@@ -13,4 +13,7 @@ QString refractionText(const RefractionWarning& warning);
 /// Why the first refractor has no pair of shots.
 QString noShotPairText(const ShotPairReach& reach);
 
+/// How fast the first layer of a fitted profile is, a sentence.
+QString firstLayerText(const refractionDataStructure::processingData& results);
+
 }  // namespace talvesk

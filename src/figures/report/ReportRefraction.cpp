@@ -116,8 +116,30 @@ ReportTable profileTable(const ReportBuilder& builder) {
   return table;
 }
 
+/// How fast the first layer of a fitted profile is.
+void addFirstLayer(const refractionDataStructure::processingData& data, ReportTable& facts) {
+  const refractionDataStructure::FirstLayer& first = data.first;
+  Range surface;
+  for (const double value : first.velocity) surface.take(value);
+  facts.rows.push_back(
+      {ReportWords::tr("Mean velocity of the first layer"), velocityText(data.v1, std::nan(""))});
+  facts.rows.push_back({ReportWords::tr("Velocity of the first layer at the surface"),
+                        velocities(surface.low, surface.high)});
+  if (!(first.growth > 0.0)) return;
+  facts.rows.push_back({ReportWords::tr("Growth of its velocity with depth"),
+                        ReportWords::tr("%1 % of that at the surface per metre, down to %2 m")
+                            .arg(number(100.0 * first.growth, 1), number(first.growsTo, 1))});
+}
+
 /// What parentheses, and values with an error, are.
 void addSupportLegend(ReportBuilder& builder) {
+  if (builder.source.interpretation->refractData.isFitted()) {
+    builder.paragraph(
+        ReportWords::tr("A value in parentheses, and a dashed line, stands where no pick of the "
+                        "refractor comes from or goes to: it lies between what others tell (gap). "
+                        "Errors are not told of a profile that is fitted to all picks."));
+    return;
+  }
   if (builder.source.interpretation->phnt_A.empty()) return;  // what carries it is not known
   builder.paragraph(ReportWords::tr(
       "A value in parentheses, and a dashed line, is not carried by picks of the shots at both "
@@ -145,8 +167,13 @@ Status addRefraction(ReportBuilder& builder) {
   }
   ReportTable facts = ReportTable::ofFacts();
   const ProfileErrors* errors = builder.source.errors;
-  facts.rows.push_back({ReportWords::tr("Velocity of the first layer"),
-                        velocityText(data.v1, errors == nullptr ? std::nan("") : errors->v1Error)});
+  if (data.isFitted()) {
+    addFirstLayer(data, facts);
+  } else {
+    facts.rows.push_back(
+        {ReportWords::tr("Velocity of the first layer"),
+         velocityText(data.v1, errors == nullptr ? std::nan("") : errors->v1Error)});
+  }
   for (std::size_t r = 0; r < data.cData.size(); ++r) {
     Range velocity;
     for (const double value : data.cData[r].velocity) velocity.take(value);
@@ -157,6 +184,7 @@ Status addRefraction(ReportBuilder& builder) {
           {ReportWords::tr("Median velocity of refractor %1").arg(r + 1),
            velocityText(medianOfFinite(data.cData[r].velocity, std::nan("")), own->medianError)});
     }
+    if (data.isFitted()) continue;  // it has no XY
     facts.rows.push_back({ReportWords::tr("Distance XY of refractor %1").arg(r + 1),
                           ReportWords::tr("%1 m").arg(number(data.cData[r].chosenXY, 1))});
   }
@@ -210,7 +238,12 @@ void addMethod(ReportBuilder& builder) {
         "drawn. Velocities that decrease with depth and thin layers may remain hidden from first "
         "arrivals."));
   }
-  if (isBuilt(builder)) {
+  if (isBuilt(builder) && builder.source.interpretation->refractData.isFitted()) {
+    builder.paragraph(ReportWords::tr(
+        "First breaks were assigned to layers, and velocities and depths of the refractors were "
+        "fitted to all of them at once: so that the direct and refracted times computed through "
+        "the layers, which may change along the line, are those of the picks."));
+  } else if (isBuilt(builder)) {
     builder.paragraph(ReportWords::tr(
         "The refractors were interpreted by the generalised reciprocal method. First breaks "
         "were assigned to layers, and the arrivals of each refractor from both ends of the "

@@ -28,6 +28,7 @@ Band bandAt(const std::vector<double>& x, const std::vector<Point2D>& line, cons
 
 std::optional<ProfileErrors> profileErrors(const MethodComparison& comparison,
                                            const processingData& profile) {
+  if (profile.isFitted()) return std::nullopt;
   const auto reciprocal = std::find_if(
       comparison.results.begin(), comparison.results.end(),
       [](const MethodResult& result) { return result.method == LayerMethod::kReciprocal; });
