@@ -121,12 +121,12 @@ TEST(FittedProfile, isKnownAgainByItsPicksAndMarks) {
   ASSERT_GT(fit.total.picks, 0U);
   EXPECT_EQ(misfit(line.fitted).rms, fit.total.rms);
   Interpretation marked = line.fitted;
-  marked.ttLayer[2].layer[20] = 0;
-  EXPECT_EQ(misfit(marked).picks, 0U) << "the marks are others";
+  marked.ttLayer[2].enabled = false;
+  EXPECT_EQ(misfit(marked).picks, 0U) << "a shot less";
   line.proposal = proposalOfMarks(line.shots, line.errors, marked.ttLayer);
-  EXPECT_EQ(line.fit().total.picks, fit.total.picks - 1);
-  EXPECT_EQ(misfit(line.fitted).picks, fit.total.picks - 1) << "a profile of these";
-  line.shots[2].times[22] += 3e-3;
+  EXPECT_LT(line.fit().total.picks, fit.total.picks);
+  EXPECT_GT(misfit(line.fitted).picks, 0U) << "the profile of these marks";
+  line.shots[4].times[22] += 3e-3;
   EXPECT_EQ(misfit(line.fitted).picks, 0U) << "the picks are others";
 }
 

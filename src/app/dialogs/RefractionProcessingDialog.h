@@ -91,13 +91,6 @@ class RefractionProcessingDialog : public QDialog {
   void findFit();
   void showFit();
   void showNotes();
-
-  // A profile that is fitted to all picks
-  bool wantsFitted() const;
-  void chooseFitted(bool fitted);
-  bool buildFitted();
-  void showStale();
-  void showEmptyTexts();
   void tell(const std::vector<RefractionWarning>& warnings,
             const std::vector<RefractionWarning>& known);
   void showPhantoms();
@@ -109,14 +102,20 @@ class RefractionProcessingDialog : public QDialog {
   void showProfile();
   void showResults();
 
+  // A profile that is fitted to all picks
+  bool wantsFitted() const;
+  void chooseFitted(bool fitted);
+  bool buildFitted();
+  void showStale();
+  void showEmptyTexts();
+
   std::unique_ptr<Ui::RefractionProcessingDialog> mUi;
   const TomoDocument& mDocument;
   refractionDataStructure::Interpretation mWork;
   std::vector<ShotArrivals> mShots;
   std::vector<RefractionWarning> mWarnings;  ///< of the last build
   std::optional<SurveyProposal> mProposal;   ///< that the marks were last replaced by
-  std::optional<SurveyProposal>
-      mJudge;       ///< of the profile's marks, whose waves mFit is held against
+  std::optional<SurveyProposal> mJudge;      ///< whose waves the fit of the profile is held against
   LayeredFit mFit;  ///< of the profiles as they were built or opened; empty until it is found
   BackgroundFit* mFitting;
   QUndoStack* mUndo;

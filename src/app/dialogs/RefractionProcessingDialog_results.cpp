@@ -447,7 +447,9 @@ void RefractionProcessingDialog::showNotes() {
     if (!why.empty()) notes << tr("Misfit: %1.").arg(textOf(why));
   }
   for (const RefractionWarning& warning : mWarnings) notes << refractionText(warning).trimmed();
-  if (mWarnings.empty() && hasGaps(results)) {
+  if (results.isFitted() && hasGaps(results)) {
+    notes << tr("Some velocities or depths are not known: no ground has those that fit there.");
+  } else if (mWarnings.empty() && hasGaps(results)) {
     notes << tr(
         "Some velocities or depths are not known. Build the profiles again to be told why.");
   }
