@@ -1,3 +1,4 @@
+#include "base/TextNumber.h"
 #include "python/Bindings.h"
 #include "python/LongWork.h"
 #include "python/Result.h"
@@ -24,7 +25,7 @@ CertaintySettings settingsOf(const Result& result, int members, std::uint64_t se
   CertaintySettings settings = certaintySettings(result.survey.document);
   settings.members = members;
   settings.ensemble.seed = seed;
-  settings.ensemble.isovalues = std::move(isovalues);
+  settings.ensemble.isovalues = checkedIsovalues(std::move(isovalues));
   settings.singleThread = singleThread;
   return settings;
 }
@@ -82,6 +83,17 @@ py::dict valuesOf(const EnsembleProgress& state) {
   values["models"] = state.models;
   values["left_out"] = state.leftOut;
   return values;
+}
+
+std::vector<double> checkedIsovalues(std::vector<double> isovalues) {
+  constexpr auto kLimits = parameters::kMinVelocity.limits;
+  for (const double velocity : isovalues) {
+    if (!(velocity >= kLimits.least && velocity <= kLimits.most)) {
+      throw Error("isovalues must be " + formatDouble(kLimits.least) + " to " +
+                  formatDouble(kLimits.most, 9) + " m/s, not " + formatDouble(velocity));
+    }
+  }
+  return isovalues;
 }
 
 void bindCertainty(py::module_& module) {

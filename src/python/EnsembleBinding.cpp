@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include <pybind11/stl.h>
@@ -19,18 +20,31 @@ namespace py = pybind11;
 namespace talvesk::python {
 namespace {
 
+/// The values that a setting is to take, one at least.
+template <typename Value>
+std::vector<Value> listOf(const std::string& name, const py::handle& values) {
+  try {
+    auto list = values.cast<std::vector<Value>>();
+    if (!list.empty()) return list;
+  } catch (const py::cast_error&) {
+    // Told below: what it says itself is of C++.
+  }
+  const char* kind = std::is_same_v<Value, bool> ? "True or False" : "numbers";
+  throw Error("vary: '" + name + "' must be a list of " + kind + ", one at least");
+}
+
 EnsembleVariation variationOf(const py::dict& vary) {
   EnsembleVariation variation;
   for (const auto& [key, values] : vary) {
-    const auto name = key.cast<std::string>();
+    const std::string name = py::str(key);
     if (name == "smoothing") {
-      variation.smoothing = values.cast<std::vector<double>>();
+      variation.smoothing = listOf<double>(name, values);
     } else if (name == "robust") {
-      variation.robust = values.cast<std::vector<bool>>();
+      variation.robust = listOf<bool>(name, values);
     } else if (name == "blocky") {
-      variation.blocky = values.cast<std::vector<bool>>();
+      variation.blocky = listOf<bool>(name, values);
     } else if (name == "statics") {
-      variation.statics = values.cast<std::vector<bool>>();
+      variation.statics = listOf<bool>(name, values);
     } else {
       throw Error("'" + name + "' is none of smoothing, blocky, robust, statics");
     }
@@ -49,7 +63,7 @@ class EnsembleAtWork {
       : mSurvey(survey), mSettings(settingsOf(survey, members)), mKeeper({}, 0) {
     raiseUnless(checkTraceable(survey.document));
     mSettings.ensemble.seed = seed;
-    mSettings.ensemble.isovalues = std::move(isovalues);
+    mSettings.ensemble.isovalues = checkedIsovalues(std::move(isovalues));
     mSettings.ensemble.vary = variationOf(vary);
     mEnsemble = resumedEnsemble(survey.document, mSettings);
     mKeeper = EnsembleKeeper(keep, ensembleKey(survey.document, mSettings));

@@ -1,10 +1,13 @@
+#include "base/TextNumber.h"
 #include "io/Survey.h"
 #include "python/Bindings.h"
 #include "python/Values.h"
 #include "refraction/BuildProfiles.h"
 #include "refraction/LayerProposal.h"
+#include "refraction/ReciprocalMethod.h"
 #include "session/TableRules.h"
 
+#include <cmath>
 #include <memory>
 #include <optional>
 
@@ -17,6 +20,8 @@ namespace {
 
 using refractionDataStructure::computedData;
 using refractionDataStructure::Interpretation;
+
+constexpr double kAsGiven = 1e-9;  // metres
 
 using Marks = std::vector<std::vector<std::uint32_t>>;
 
@@ -48,6 +53,17 @@ void putMarks(const std::optional<Marks>& marks, const std::vector<ShotArrivals>
   }
 }
 
+/// An XY that cannot be taken counts as 0, which nobody has asked for.
+void checkXY(const Interpretation& work, double xy) {
+  for (std::size_t i = 0; i < work.refractData.cData.size(); ++i) {
+    const computedData& refractor = work.refractData.cData[i];
+    if (std::fabs(refractor.chosenXY - xy) < kAsGiven) continue;
+    throw Error("xy " + formatDouble(xy) + ": the XY of layer " + std::to_string(i + 2) +
+                " must be within " + formatDouble(widestXY(refractor.x)) +
+                " m, six spacings of its geophones");
+  }
+}
+
 Layers refract(const Survey& survey, const std::optional<Marks>& marks,
                const std::optional<double>& xy) {
   Layers layers = {survey};
@@ -62,6 +78,7 @@ Layers refract(const Survey& survey, const std::optional<Marks>& marks,
       chooseXY(work, 3, *xy);
     }
     outcome = buildProfiles(shots, work);
+    if (xy && outcome.built) checkXY(work, *xy);
     return Status();
   }));
   if (!outcome.built) {

@@ -29,5 +29,8 @@ struct SureSection {
 /// What a progress callback is called with.
 pybind11::dict valuesOf(const EnsembleProgress& state);
 
+/// Velocities whose depths are asked for, m/s; an Error where one is out of range.
+std::vector<double> checkedIsovalues(std::vector<double> isovalues);
+
 }  // namespace python
 }  // namespace talvesk

@@ -1,3 +1,4 @@
+import math
 import os
 import pathlib
 import pickle
@@ -93,6 +94,13 @@ def test_says_what_it_cannot_do(project, line):
     for options, told in (
         ({"vary": {"depth": [1.0]}}, "'depth' is none of"),
         ({"vary": {"smoothing": [0.0]}}, "smoothing must be"),
+        ({"vary": {"smoothing": 1}}, "'smoothing' must be a list of numbers"),
+        ({"vary": {"smoothing": []}}, "'smoothing' must be a list of numbers, one at least"),
+        ({"vary": {"blocky": ["no"]}}, "'blocky' must be a list of True or False"),
+        ({"vary": {5: [True]}}, "'5' is none of"),
+        ({"isovalues": [1000, math.nan]}, "isovalues must be 1 to 999999999 m/s, not nan"),
+        ({"isovalues": [math.inf]}, "isovalues must be"),
+        ({"isovalues": [0.0]}, "isovalues must be"),
         ({"members": 0}, "members must be 1"),
     ):
         with pytest.raises(talvesk.Error, match=told):

@@ -136,6 +136,13 @@ def test_layers_are_those_of_the_batch_program(line, picks):
         talvesk.refract(picks, marks=[[1]])
 
 
+@pytest.mark.parametrize("xy", [13.0, 1e9, -1e9, numpy.nan, numpy.inf])
+def test_an_xy_that_cannot_be_taken_is_told(picks, xy):
+    with pytest.raises(talvesk.Error, match="the XY of layer 2 must be within 12 m"):
+        talvesk.refract(picks, xy=xy)
+    assert talvesk.refract(picks, xy=12.0).refractors[0]["xy"] == 12.0
+
+
 def test_certainty_is_that_of_the_batch_program_whatever_the_threads(line, picks):
     result = talvesk.invert(picks, talvesk.Grid(picks, cell=2.0, depth=16.0), "fitted")
     seen = []
@@ -151,6 +158,8 @@ def test_certainty_is_that_of_the_batch_program_whatever_the_threads(line, picks
     assert seen[-1]["completed"] == 3 and list(sure.isovalues) == [2000.0]
     with pytest.raises(talvesk.Error, match="members must be"):
         talvesk.certainty(result, 1)
+    with pytest.raises(talvesk.Error, match="isovalues must be"):
+        talvesk.certainty(result, 3, isovalues=[-1.0])
 
 
 def test_a_layout_of_ones_own(picks):
