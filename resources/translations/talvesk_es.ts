@@ -1743,6 +1743,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Layers</source>
         <translation>Capas</translation>
     </message>
+    <message>
+        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
+        <translation>Capa 1, %1 m/s de media, creciente con la profundidad</translation>
+    </message>
+    <message>
+        <source>Layer 1, %1 m/s in the mean</source>
+        <translation>Capa 1, %1 m/s de media</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -6878,6 +6886,18 @@ Defina la posición de los geófonos
         <source>This Talvesk cannot write web pages: it was built without the chart library. Run scripts/bootstrap and build it again, or write a PDF or ODT report.</source>
         <translation>Este Talvesk no puede escribir páginas web: se compiló sin la biblioteca de gráficos. Ejecute scripts/bootstrap y vuelva a compilarlo, o escriba un informe PDF u ODT.</translation>
     </message>
+    <message>
+        <source>P: its profile was fitted to all picks and gets no errors. One by the reciprocal method does.</source>
+        <translation>P: su perfil se ajustó a todos los picados y no recibe errores. Uno por el método recíproco sí los recibe.</translation>
+    </message>
+    <message>
+        <source>S: its profile was fitted to all picks and gets no errors. One by the reciprocal method does.</source>
+        <translation>S: su perfil se ajustó a todos los picados y no recibe errores. Uno por el método recíproco sí los recibe.</translation>
+    </message>
+    <message>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
+        <translation>En este perfil, la velocidad de la capa 1 varía a lo largo de la línea y con la profundidad; aquí se toma en todas partes su media, %1 m/s.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7146,6 +7166,14 @@ Defina la posición de los geófonos
     <message>
         <source>Depth %1 by</source>
         <translation>Profundidad %1 por</translation>
+    </message>
+    <message>
+        <source>Fitted to all picks, some of which come from here or go here.</source>
+        <translation>Ajustado a todos los picados, algunos de los cuales parten de aquí o llegan aquí.</translation>
+    </message>
+    <message>
+        <source>No pick of the layer comes from here or goes here: it lies between what others tell.</source>
+        <translation>Ningún picado de la capa parte de aquí ni llega aquí: el valor se sitúa entre lo que indican otros.</translation>
     </message>
 </context>
 <context>
@@ -7992,6 +8020,82 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <source>Picks or marks have changed: build the profiles again.</source>
         <translation>Los picados o las asignaciones han cambiado: vuelva a construir los perfiles.</translation>
     </message>
+    <message>
+        <source>Profile:</source>
+        <translation>Perfil:</translation>
+    </message>
+    <message>
+        <source>How &quot;Build profiles&quot; finds velocities and depths: from the curves of the end shots, or so that computed times fit the picks of all shots</source>
+        <translation>Cómo halla «Construir perfiles» las velocidades y profundidades: a partir de las dromocronas de los disparos extremos, o de modo que los tiempos calculados se ajusten a los picados de todos los disparos</translation>
+    </message>
+    <message>
+        <source>Reciprocal method</source>
+        <translation>Método recíproco</translation>
+    </message>
+    <message>
+        <source>Fitted to all picks</source>
+        <translation>Ajustado a todos los picados</translation>
+    </message>
+    <message>
+        <source>No profile can be fitted to all picks.</source>
+        <translation>No se puede ajustar ningún perfil a todos los picados.</translation>
+    </message>
+    <message>
+        <source>Direct waves and waves along refractors do not explain picks that are marked so. Look at the marks, or choose &quot;Reciprocal method&quot;.</source>
+        <translation>Ni las ondas directas ni las que viajan a lo largo de refractores explican los picados así asignados. Revise las asignaciones o elija «Método recíproco».</translation>
+    </message>
+    <message>
+        <source>No shot that takes part has picks of layer 2.</source>
+        <translation>Ningún disparo participante tiene picados de la capa 2.</translation>
+    </message>
+    <message>
+        <source>The profile that is shown is by the reciprocal method.</source>
+        <translation>El perfil mostrado se obtuvo por el método recíproco.</translation>
+    </message>
+    <message>
+        <source>The profile that is shown is fitted to all picks.</source>
+        <translation>El perfil mostrado está ajustado a todos los picados.</translation>
+    </message>
+    <message>
+        <source>A profile that is fitted to all picks has no tV and tG.
+
+Choose &quot;Reciprocal method&quot; and press &quot;Build profiles&quot; to have them.</source>
+        <translation>Un perfil ajustado a todos los picados no tiene tV ni tG.
+
+Para tenerlos, elija «Método recíproco» y pulse «Construir perfiles».</translation>
+    </message>
+    <message>
+        <source>A profile that is fitted to all picks has no phantom arrivals.
+
+Choose &quot;Reciprocal method&quot; and press &quot;Build profiles&quot; to have them.</source>
+        <translation>Un perfil ajustado a todos los picados no tiene llegadas fantasma.
+
+Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</translation>
+    </message>
+    <message>
+        <source>&quot;Build profiles&quot; fits the profile to all picks; beside it the reciprocal method can be chosen.</source>
+        <translation>«Construir perfiles» ajusta el perfil a todos los picados; al lado puede elegirse el método recíproco.</translation>
+    </message>
+    <message>
+        <source>Layer 1 at the surface, growing with depth</source>
+        <translation>Capa 1 en superficie, creciente con la profundidad</translation>
+    </message>
+    <message>
+        <source>What errors of the picks make of a profile is found for the reciprocal method only.</source>
+        <translation>El efecto de los errores de los picados en un perfil solo se calcula para el método recíproco.</translation>
+    </message>
+    <message>
+        <source>Velocities and depths are fitted to all picks. %1</source>
+        <translation>Las velocidades y profundidades están ajustadas a todos los picados. %1</translation>
+    </message>
+    <message>
+        <source>Misfit: %1.</source>
+        <translation>Desajuste: %1.</translation>
+    </message>
+    <message>
+        <source>Some velocities or depths are not known: no ground has those that fit there.</source>
+        <translation>Algunas velocidades o profundidades no se conocen: las que se ajustarían ahí no se dan en ningún terreno.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
@@ -8069,6 +8173,14 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
         <translation>Capa %1: sin profundidad en %2 de %3 receptores, donde la profundidad calculada supera la longitud de la línea.</translation>
+    </message>
+    <message>
+        <source>Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.</source>
+        <translation>La capa 1 tiene %1 m/s de media, y de %2 a %3 m/s en superficie.</translation>
+    </message>
+    <message>
+        <source>It grows by %1 % of that per metre, down to %2 m.</source>
+        <translation>Esta última crece un %1 % por metro, hasta %2 m de profundidad.</translation>
     </message>
 </context>
 <context>
@@ -8956,6 +9068,30 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>Median velocity of refractor %1</source>
         <translation>Velocidad mediana del refractor %1</translation>
+    </message>
+    <message>
+        <source>Mean velocity of the first layer</source>
+        <translation>Velocidad media de la primera capa</translation>
+    </message>
+    <message>
+        <source>Velocity of the first layer at the surface</source>
+        <translation>Velocidad de la primera capa en superficie</translation>
+    </message>
+    <message>
+        <source>Growth of its velocity with depth</source>
+        <translation>Aumento de su velocidad con la profundidad</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per metre, down to %2 m</source>
+        <translation>%1 % de la de superficie por metro, hasta %2 m de profundidad</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
+        <translation>Un valor entre paréntesis, o una línea discontinua, señala dónde ningún picado del refractor parte ni llega: se sitúa entre lo que indican otros (hueco). No se dan errores de un perfil ajustado a todos los picados.</translation>
+    </message>
+    <message>
+        <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
+        <translation>Las primeras llegadas se asignaron a capas, y las velocidades y profundidades de los refractores se ajustaron a todas ellas a la vez, de modo que los tiempos directos y refractados calculados a través de las capas, que pueden variar a lo largo de la línea, sean los de los picados.</translation>
     </message>
 </context>
 <context>
