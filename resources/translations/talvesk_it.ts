@@ -1743,6 +1743,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Layers</source>
         <translation>Strati</translation>
     </message>
+    <message>
+        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
+        <translation>Strato 1, in media %1 m/s, crescente con la profondità</translation>
+    </message>
+    <message>
+        <source>Layer 1, %1 m/s in the mean</source>
+        <translation>Strato 1, in media %1 m/s</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -6878,6 +6886,18 @@ Impostare la posizione dei geofoni
         <source>This Talvesk cannot write web pages: it was built without the chart library. Run scripts/bootstrap and build it again, or write a PDF or ODT report.</source>
         <translation>Questo Talvesk non può scrivere pagine web: è stato compilato senza la libreria dei grafici. Eseguire scripts/bootstrap e compilarlo di nuovo, oppure scrivere una relazione PDF o ODT.</translation>
     </message>
+    <message>
+        <source>P: its profile was fitted to all picks and gets no errors. One by the reciprocal method does.</source>
+        <translation>P: il suo profilo è stato adattato a tutti gli arrivi e non riceve errori. Uno ottenuto con il metodo reciproco sì.</translation>
+    </message>
+    <message>
+        <source>S: its profile was fitted to all picks and gets no errors. One by the reciprocal method does.</source>
+        <translation>S: il suo profilo è stato adattato a tutti gli arrivi e non riceve errori. Uno ottenuto con il metodo reciproco sì.</translation>
+    </message>
+    <message>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
+        <translation>In questo profilo la velocità dello strato 1 cambia lungo la linea e con la profondità; qui è ovunque la sua media, %1 m/s.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7146,6 +7166,14 @@ Impostare la posizione dei geofoni
     <message>
         <source>Depth %1 by</source>
         <translation>Profondità %1 da</translation>
+    </message>
+    <message>
+        <source>Fitted to all picks, some of which come from here or go here.</source>
+        <translation>Adattato a tutti gli arrivi, alcuni dei quali partono da qui o giungono qui.</translation>
+    </message>
+    <message>
+        <source>No pick of the layer comes from here or goes here: it lies between what others tell.</source>
+        <translation>Nessun arrivo dello strato parte da qui o giunge qui: il valore sta fra ciò che indicano altri.</translation>
     </message>
 </context>
 <context>
@@ -7992,6 +8020,82 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <source>Picks or marks have changed: build the profiles again.</source>
         <translation>Arrivi o assegnazioni sono cambiati: costruire di nuovo i profili.</translation>
     </message>
+    <message>
+        <source>Profile:</source>
+        <translation>Profilo:</translation>
+    </message>
+    <message>
+        <source>How &quot;Build profiles&quot; finds velocities and depths: from the curves of the end shots, or so that computed times fit the picks of all shots</source>
+        <translation>Come &quot;Costruisci profili&quot; trova velocità e profondità: dalle dromocrone dei tiri estremi, oppure in modo che i tempi calcolati si adattino agli arrivi di tutti i tiri</translation>
+    </message>
+    <message>
+        <source>Reciprocal method</source>
+        <translation>Metodo reciproco</translation>
+    </message>
+    <message>
+        <source>Fitted to all picks</source>
+        <translation>Adattato a tutti gli arrivi</translation>
+    </message>
+    <message>
+        <source>No profile can be fitted to all picks.</source>
+        <translation>Non è possibile adattare un profilo a tutti gli arrivi.</translation>
+    </message>
+    <message>
+        <source>Direct waves and waves along refractors do not explain picks that are marked so. Look at the marks, or choose &quot;Reciprocal method&quot;.</source>
+        <translation>Onde dirette e onde lungo i rifrattori non spiegano arrivi assegnati così. Controllare le assegnazioni, oppure scegliere &quot;Metodo reciproco&quot;.</translation>
+    </message>
+    <message>
+        <source>No shot that takes part has picks of layer 2.</source>
+        <translation>Nessun tiro che partecipa ha arrivi dello strato 2.</translation>
+    </message>
+    <message>
+        <source>The profile that is shown is by the reciprocal method.</source>
+        <translation>Il profilo mostrato è ottenuto con il metodo reciproco.</translation>
+    </message>
+    <message>
+        <source>The profile that is shown is fitted to all picks.</source>
+        <translation>Il profilo mostrato è adattato a tutti gli arrivi.</translation>
+    </message>
+    <message>
+        <source>A profile that is fitted to all picks has no tV and tG.
+
+Choose &quot;Reciprocal method&quot; and press &quot;Build profiles&quot; to have them.</source>
+        <translation>Un profilo adattato a tutti gli arrivi non ha tV e tG.
+
+Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci profili&quot;.</translation>
+    </message>
+    <message>
+        <source>A profile that is fitted to all picks has no phantom arrivals.
+
+Choose &quot;Reciprocal method&quot; and press &quot;Build profiles&quot; to have them.</source>
+        <translation>Un profilo adattato a tutti gli arrivi non ha arrivi fantasma.
+
+Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci profili&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;Build profiles&quot; fits the profile to all picks; beside it the reciprocal method can be chosen.</source>
+        <translation>&quot;Costruisci profili&quot; adatta il profilo a tutti gli arrivi; accanto si può scegliere il metodo reciproco.</translation>
+    </message>
+    <message>
+        <source>Layer 1 at the surface, growing with depth</source>
+        <translation>Strato 1 in superficie, crescente con la profondità</translation>
+    </message>
+    <message>
+        <source>What errors of the picks make of a profile is found for the reciprocal method only.</source>
+        <translation>L&apos;effetto degli errori degli arrivi su un profilo si determina solo per il metodo reciproco.</translation>
+    </message>
+    <message>
+        <source>Velocities and depths are fitted to all picks. %1</source>
+        <translation>Velocità e profondità sono adattate a tutti gli arrivi. %1</translation>
+    </message>
+    <message>
+        <source>Misfit: %1.</source>
+        <translation>Scarto: %1.</translation>
+    </message>
+    <message>
+        <source>Some velocities or depths are not known: no ground has those that fit there.</source>
+        <translation>Alcune velocità o profondità non sono note: quelle che lì si adatterebbero non sono possibili in alcun terreno.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
@@ -8069,6 +8173,14 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
         <translation>Strato %1: nessuna profondità in %2 ricevitori su %3, dove risulta maggiore della lunghezza della linea.</translation>
+    </message>
+    <message>
+        <source>Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.</source>
+        <translation>Lo strato 1 ha in media %1 m/s, e da %2 a %3 m/s in superficie.</translation>
+    </message>
+    <message>
+        <source>It grows by %1 % of that per metre, down to %2 m.</source>
+        <translation>La velocità cresce del %1 % di quest&apos;ultimo valore al metro, fino a %2 m di profondità.</translation>
     </message>
 </context>
 <context>
@@ -8956,6 +9068,30 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>Median velocity of refractor %1</source>
         <translation>Velocità mediana del rifrattore %1</translation>
+    </message>
+    <message>
+        <source>Mean velocity of the first layer</source>
+        <translation>Velocità media del primo strato</translation>
+    </message>
+    <message>
+        <source>Velocity of the first layer at the surface</source>
+        <translation>Velocità del primo strato in superficie</translation>
+    </message>
+    <message>
+        <source>Growth of its velocity with depth</source>
+        <translation>Crescita della sua velocità con la profondità</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per metre, down to %2 m</source>
+        <translation>%1 % di quella in superficie al metro, fino a %2 m di profondità</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
+        <translation>Un valore fra parentesi, e una linea tratteggiata, stanno dove nessun primo arrivo del rifrattore parte o giunge: il valore sta fra ciò che indicano altri (lacuna). Per un profilo adattato a tutti i primi arrivi non si danno errori.</translation>
+    </message>
+    <message>
+        <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
+        <translation>I primi arrivi sono stati assegnati agli strati, e le velocità e profondità dei rifrattori adattate a tutti insieme: in modo che i tempi diretti e rifratti calcolati attraverso gli strati, che possono cambiare lungo la linea, siano quelli letti.</translation>
     </message>
 </context>
 <context>
