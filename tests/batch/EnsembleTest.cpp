@@ -157,7 +157,7 @@ TEST_F(EnsembleRun, tellsWhatItCannotDo) {
       {{"--vary", "smoothing=1", "--vary", "smoothing=2", "--json", "-"}, 2, "is given twice"},
       {{"--members", "4"}, 2, "one of --out, --json, --table, --depths and --keep"},
       {{"--members", "1", "--json", "-"}, 2, "one member alone does not tell how sure"},
-      {{"--from", "9", "--members", "8"}, 2, "beyond the last member"},
+      {{"--from", "9", "--members", "8", "--json", "-"}, 2, "beyond the last member"},
       {{"--members", "70000"}, 2, "'70000' is not a whole number from 1 to 65536"},
       {{"--keep", project}, 2, "would overwrite the input"},
   };

@@ -214,7 +214,7 @@ TEST(Refract, proposesOverTheSurveyAndSaysHowTheProfileFits) {
   EXPECT_THAT(outcome.err,
               HasSubstr("Proposal, by its waves: 3 layers, misfit 0 ms; 2 layers, misfit "));
   EXPECT_THAT(outcome.err, HasSubstr("Layer 2: fitted to all picks, "));
-  EXPECT_THAT(outcome.err, HasSubstr(" m, misfit "));
+  EXPECT_THAT(outcome.err, HasSubstr(" m), misfit "));
   ASSERT_EQ(json["misfit"]["layers"].size(), 3U);
   EXPECT_LT(json["misfit"]["all"]["rms"].get<double>(), 0.0002);
   EXPECT_EQ(json["profile"], "fitted");
