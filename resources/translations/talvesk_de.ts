@@ -1743,6 +1743,14 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Layers</source>
         <translation>Schichten</translation>
     </message>
+    <message>
+        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
+        <translation>Schicht 1, im Mittel %1 m/s, mit der Tiefe zunehmend</translation>
+    </message>
+    <message>
+        <source>Layer 1, %1 m/s in the mean</source>
+        <translation>Schicht 1, im Mittel %1 m/s</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -6878,6 +6886,18 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>This Talvesk cannot write web pages: it was built without the chart library. Run scripts/bootstrap and build it again, or write a PDF or ODT report.</source>
         <translation>Dieses Talvesk kann keine Webseiten schreiben: Es wurde ohne die Diagrammbibliothek gebaut. Führen Sie scripts/bootstrap aus und bauen Sie es neu, oder schreiben Sie einen PDF- oder ODT-Bericht.</translation>
     </message>
+    <message>
+        <source>P: its profile was fitted to all picks and gets no errors. One by the reciprocal method does.</source>
+        <translation>P: Das Profil wurde an alle Picks angepasst und erhält keine Fehler. Eines nach der Reziprokmethode erhält sie.</translation>
+    </message>
+    <message>
+        <source>S: its profile was fitted to all picks and gets no errors. One by the reciprocal method does.</source>
+        <translation>S: Das Profil wurde an alle Picks angepasst und erhält keine Fehler. Eines nach der Reziprokmethode erhält sie.</translation>
+    </message>
+    <message>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
+        <translation>Die Geschwindigkeit von Schicht 1 ändert sich in diesem Profil entlang der Messlinie und mit der Tiefe; hier gilt überall ihr Mittel, %1 m/s.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7146,6 +7166,14 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Depth %1 by</source>
         <translation>Tiefe %1 aus</translation>
+    </message>
+    <message>
+        <source>Fitted to all picks, some of which come from here or go here.</source>
+        <translation>An alle Picks angepasst, von denen einige von hier ausgehen oder hier ankommen.</translation>
+    </message>
+    <message>
+        <source>No pick of the layer comes from here or goes here: it lies between what others tell.</source>
+        <translation>Kein Pick der Schicht geht von hier aus oder kommt hier an: Der Wert liegt zwischen dem, was andere sagen.</translation>
     </message>
 </context>
 <context>
@@ -7992,6 +8020,82 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <source>Picks or marks have changed: build the profiles again.</source>
         <translation>Picks oder Zuordnungen haben sich geändert: Erstellen Sie die Profile neu.</translation>
     </message>
+    <message>
+        <source>Profile:</source>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <source>How &quot;Build profiles&quot; finds velocities and depths: from the curves of the end shots, or so that computed times fit the picks of all shots</source>
+        <translation>Wie „Profile erstellen“ Geschwindigkeiten und Tiefen bestimmt: aus den Kurven der Endschüsse oder so, dass berechnete Zeiten zu den Picks aller Schüsse passen</translation>
+    </message>
+    <message>
+        <source>Reciprocal method</source>
+        <translation>Reziprokmethode</translation>
+    </message>
+    <message>
+        <source>Fitted to all picks</source>
+        <translation>An alle Picks angepasst</translation>
+    </message>
+    <message>
+        <source>No profile can be fitted to all picks.</source>
+        <translation>An alle Picks zusammen lässt sich kein Profil anpassen.</translation>
+    </message>
+    <message>
+        <source>Direct waves and waves along refractors do not explain picks that are marked so. Look at the marks, or choose &quot;Reciprocal method&quot;.</source>
+        <translation>Direkte Wellen und Wellen entlang von Refraktoren erklären so zugeordnete Picks nicht. Prüfen Sie die Zuordnungen oder wählen Sie „Reziprokmethode“.</translation>
+    </message>
+    <message>
+        <source>No shot that takes part has picks of layer 2.</source>
+        <translation>Kein teilnehmender Schuss hat Picks der Schicht 2.</translation>
+    </message>
+    <message>
+        <source>The profile that is shown is by the reciprocal method.</source>
+        <translation>Das gezeigte Profil ist nach der Reziprokmethode erstellt.</translation>
+    </message>
+    <message>
+        <source>The profile that is shown is fitted to all picks.</source>
+        <translation>Das gezeigte Profil ist an alle Picks angepasst.</translation>
+    </message>
+    <message>
+        <source>A profile that is fitted to all picks has no tV and tG.
+
+Choose &quot;Reciprocal method&quot; and press &quot;Build profiles&quot; to have them.</source>
+        <translation>Ein an alle Picks angepasstes Profil hat kein tV und kein tG.
+
+Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen“.</translation>
+    </message>
+    <message>
+        <source>A profile that is fitted to all picks has no phantom arrivals.
+
+Choose &quot;Reciprocal method&quot; and press &quot;Build profiles&quot; to have them.</source>
+        <translation>Ein an alle Picks angepasstes Profil hat keine Phantom-Einsätze.
+
+Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen“.</translation>
+    </message>
+    <message>
+        <source>&quot;Build profiles&quot; fits the profile to all picks; beside it the reciprocal method can be chosen.</source>
+        <translation>„Profile erstellen“ passt das Profil an alle Picks an; daneben lässt sich die Reziprokmethode wählen.</translation>
+    </message>
+    <message>
+        <source>Layer 1 at the surface, growing with depth</source>
+        <translation>Schicht 1 an der Oberfläche, mit der Tiefe zunehmend</translation>
+    </message>
+    <message>
+        <source>What errors of the picks make of a profile is found for the reciprocal method only.</source>
+        <translation>Was Fehler der Picks an einem Profil ausmachen, wird nur für die Reziprokmethode bestimmt.</translation>
+    </message>
+    <message>
+        <source>Velocities and depths are fitted to all picks. %1</source>
+        <translation>Geschwindigkeiten und Tiefen sind an alle Picks angepasst. %1</translation>
+    </message>
+    <message>
+        <source>Misfit: %1.</source>
+        <translation>Abweichung: %1.</translation>
+    </message>
+    <message>
+        <source>Some velocities or depths are not known: no ground has those that fit there.</source>
+        <translation>Einige Geschwindigkeiten oder Tiefen sind nicht bekannt: Was dort passen würde, gibt es in keinem Untergrund.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
@@ -8069,6 +8173,14 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
         <translation>Schicht %1: keine Tiefe an %2 von %3 Empfängern, wo sie sich größer als die Länge der Messlinie ergibt.</translation>
+    </message>
+    <message>
+        <source>Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.</source>
+        <translation>Schicht 1 hat im Mittel %1 m/s und an der Oberfläche %2 bis %3 m/s.</translation>
+    </message>
+    <message>
+        <source>It grows by %1 % of that per metre, down to %2 m.</source>
+        <translation>Bis %2 m Tiefe nimmt die Geschwindigkeit je Meter um %1 % des Werts an der Oberfläche zu.</translation>
     </message>
 </context>
 <context>
@@ -8956,6 +9068,30 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>Median velocity of refractor %1</source>
         <translation>Median der Geschwindigkeit von Refraktor %1</translation>
+    </message>
+    <message>
+        <source>Mean velocity of the first layer</source>
+        <translation>Mittlere Geschwindigkeit der ersten Schicht</translation>
+    </message>
+    <message>
+        <source>Velocity of the first layer at the surface</source>
+        <translation>Geschwindigkeit der ersten Schicht an der Oberfläche</translation>
+    </message>
+    <message>
+        <source>Growth of its velocity with depth</source>
+        <translation>Zunahme ihrer Geschwindigkeit mit der Tiefe</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per metre, down to %2 m</source>
+        <translation>%1 % des Werts an der Oberfläche je Meter, bis %2 m Tiefe</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
+        <translation>Ein Wert in Klammern und eine gestrichelte Linie stehen dort, wo kein Pick des Refraktors ausgeht oder ankommt: Sie liegen zwischen dem, was andere sagen (Lücke). Für ein an alle Picks angepasstes Profil werden keine Fehler angegeben.</translation>
+    </message>
+    <message>
+        <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
+        <translation>Die Ersteinsätze wurden Schichten zugeordnet, und Geschwindigkeiten und Tiefen der Refraktoren wurden an alle zugleich angepasst: so, dass die direkten und refraktierten Zeiten, berechnet durch die Schichten, die sich entlang der Messlinie ändern dürfen, denen der Picks entsprechen.</translation>
     </message>
 </context>
 <context>
