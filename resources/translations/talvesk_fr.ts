@@ -1743,6 +1743,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Layers</source>
         <translation>Couches</translation>
     </message>
+    <message>
+        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
+        <translation>Couche 1, %1 m/s en moyenne, croissant avec la profondeur</translation>
+    </message>
+    <message>
+        <source>Layer 1, %1 m/s in the mean</source>
+        <translation>Couche 1, %1 m/s en moyenne</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -6878,6 +6886,18 @@ Veuillez définir la position des géophones
         <source>This Talvesk cannot write web pages: it was built without the chart library. Run scripts/bootstrap and build it again, or write a PDF or ODT report.</source>
         <translation>Ce Talvesk ne peut pas écrire de pages web&#xa0;: il a été compilé sans la bibliothèque de graphiques. Lancez scripts/bootstrap et compilez-le de nouveau, ou écrivez un rapport PDF ou ODT.</translation>
     </message>
+    <message>
+        <source>P: its profile was fitted to all picks and gets no errors. One by the reciprocal method does.</source>
+        <translation>P&#xa0;: son profil a été ajusté à tous les pointés et ne reçoit pas d&apos;erreurs. Un profil par la méthode réciproque en reçoit.</translation>
+    </message>
+    <message>
+        <source>S: its profile was fitted to all picks and gets no errors. One by the reciprocal method does.</source>
+        <translation>S&#xa0;: son profil a été ajusté à tous les pointés et ne reçoit pas d&apos;erreurs. Un profil par la méthode réciproque en reçoit.</translation>
+    </message>
+    <message>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
+        <translation>Dans ce profil, la vitesse de la couche 1 varie le long de la ligne et avec la profondeur&#xa0;; ici, c&apos;est partout sa moyenne, %1 m/s.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7146,6 +7166,14 @@ Veuillez définir la position des géophones
     <message>
         <source>Depth %1 by</source>
         <translation>Appui profondeur %1</translation>
+    </message>
+    <message>
+        <source>Fitted to all picks, some of which come from here or go here.</source>
+        <translation>Ajusté à tous les pointés, dont certains partent d&apos;ici ou arrivent ici.</translation>
+    </message>
+    <message>
+        <source>No pick of the layer comes from here or goes here: it lies between what others tell.</source>
+        <translation>Aucun pointé de la couche ne part d&apos;ici ni n&apos;arrive ici&#xa0;: la valeur se situe entre ce qu&apos;indiquent les autres.</translation>
     </message>
 </context>
 <context>
@@ -7992,6 +8020,82 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <source>Picks or marks have changed: build the profiles again.</source>
         <translation>Les pointés ou les attributions ont changé&#xa0;: reconstruisez les profils.</translation>
     </message>
+    <message>
+        <source>Profile:</source>
+        <translation>Profil&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How &quot;Build profiles&quot; finds velocities and depths: from the curves of the end shots, or so that computed times fit the picks of all shots</source>
+        <translation>Comment «&#xa0;Construire les profils&#xa0;» détermine vitesses et profondeurs&#xa0;: à partir des courbes des tirs d&apos;extrémité, ou de sorte que les temps calculés s&apos;ajustent aux pointés de tous les tirs</translation>
+    </message>
+    <message>
+        <source>Reciprocal method</source>
+        <translation>Méthode réciproque</translation>
+    </message>
+    <message>
+        <source>Fitted to all picks</source>
+        <translation>Ajusté à tous les pointés</translation>
+    </message>
+    <message>
+        <source>No profile can be fitted to all picks.</source>
+        <translation>Aucun profil ne peut être ajusté à tous les pointés.</translation>
+    </message>
+    <message>
+        <source>Direct waves and waves along refractors do not explain picks that are marked so. Look at the marks, or choose &quot;Reciprocal method&quot;.</source>
+        <translation>Des ondes directes et des ondes le long de réfracteurs n&apos;expliquent pas les pointés ainsi attribués. Examinez les attributions, ou choisissez «&#xa0;Méthode réciproque&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No shot that takes part has picks of layer 2.</source>
+        <translation>Aucun tir participant n&apos;a de pointés de la couche 2.</translation>
+    </message>
+    <message>
+        <source>The profile that is shown is by the reciprocal method.</source>
+        <translation>Le profil affiché provient de la méthode réciproque.</translation>
+    </message>
+    <message>
+        <source>The profile that is shown is fitted to all picks.</source>
+        <translation>Le profil affiché est ajusté à tous les pointés.</translation>
+    </message>
+    <message>
+        <source>A profile that is fitted to all picks has no tV and tG.
+
+Choose &quot;Reciprocal method&quot; and press &quot;Build profiles&quot; to have them.</source>
+        <translation>Un profil ajusté à tous les pointés n&apos;a ni tV ni tG.
+
+Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur «&#xa0;Construire les profils&#xa0;».</translation>
+    </message>
+    <message>
+        <source>A profile that is fitted to all picks has no phantom arrivals.
+
+Choose &quot;Reciprocal method&quot; and press &quot;Build profiles&quot; to have them.</source>
+        <translation>Un profil ajusté à tous les pointés n&apos;a pas d&apos;arrivées fantômes.
+
+Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur «&#xa0;Construire les profils&#xa0;».</translation>
+    </message>
+    <message>
+        <source>&quot;Build profiles&quot; fits the profile to all picks; beside it the reciprocal method can be chosen.</source>
+        <translation>«&#xa0;Construire les profils&#xa0;» ajuste le profil à tous les pointés&#xa0;; à côté, on peut choisir la méthode réciproque.</translation>
+    </message>
+    <message>
+        <source>Layer 1 at the surface, growing with depth</source>
+        <translation>Couche 1 en surface, croissant avec la profondeur</translation>
+    </message>
+    <message>
+        <source>What errors of the picks make of a profile is found for the reciprocal method only.</source>
+        <translation>L&apos;effet des erreurs des pointés sur un profil n&apos;est déterminé que pour la méthode réciproque.</translation>
+    </message>
+    <message>
+        <source>Velocities and depths are fitted to all picks. %1</source>
+        <translation>Vitesses et profondeurs sont ajustées à tous les pointés. %1</translation>
+    </message>
+    <message>
+        <source>Misfit: %1.</source>
+        <translation>Écart&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Some velocities or depths are not known: no ground has those that fit there.</source>
+        <translation>Certaines vitesses ou profondeurs sont inconnues&#xa0;: aucun terrain n&apos;a celles qui s&apos;y ajusteraient.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::RefractionProfilePlot</name>
@@ -8069,6 +8173,14 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
         <translation>Couche %1&#xa0;: aucune profondeur à %2 des %3 récepteurs, où la profondeur calculée dépasse la longueur de la ligne.</translation>
+    </message>
+    <message>
+        <source>Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.</source>
+        <translation>La couche 1 a %1 m/s en moyenne, et de %2 à %3 m/s en surface.</translation>
+    </message>
+    <message>
+        <source>It grows by %1 % of that per metre, down to %2 m.</source>
+        <translation>La vitesse croît de %1&#xa0;% de sa valeur en surface par mètre, jusqu&apos;à %2 m de profondeur.</translation>
     </message>
 </context>
 <context>
@@ -8956,6 +9068,30 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>Median velocity of refractor %1</source>
         <translation>Vitesse médiane du réfracteur %1</translation>
+    </message>
+    <message>
+        <source>Mean velocity of the first layer</source>
+        <translation>Vitesse moyenne de la première couche</translation>
+    </message>
+    <message>
+        <source>Velocity of the first layer at the surface</source>
+        <translation>Vitesse de la première couche en surface</translation>
+    </message>
+    <message>
+        <source>Growth of its velocity with depth</source>
+        <translation>Croissance de sa vitesse avec la profondeur</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per metre, down to %2 m</source>
+        <translation>%1&#xa0;% de celle en surface par mètre, jusqu&apos;à %2 m de profondeur</translation>
+    </message>
+    <message>
+        <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
+        <translation>Une valeur entre parenthèses, et une ligne en tirets, figure là d&apos;où aucun pointé du réfracteur ne part et où aucun n&apos;arrive&#xa0;: elle se situe entre ce qu&apos;indiquent les autres (lacune). Les erreurs d&apos;un profil ajusté à tous les pointés ne sont pas indiquées.</translation>
+    </message>
+    <message>
+        <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
+        <translation>Les premières arrivées ont été attribuées à des couches, et les vitesses et profondeurs des réfracteurs ajustées à toutes à la fois&#xa0;: de sorte que les temps directs et réfractés calculés à travers les couches, qui peuvent varier le long de la ligne, soient ceux des pointés.</translation>
     </message>
 </context>
 <context>
