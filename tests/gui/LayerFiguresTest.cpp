@@ -158,7 +158,6 @@ TEST_F(LayerFigures, keepsAFittedProfileAndItsTimes) {
     return window->session().survey().interpretation->refractData.isFitted();
   };
   ASSERT_TRUE(isFitted());
-  action("actionTravel_times").trigger();
   layersBox().setChecked(true);
   ASSERT_TRUE(hasTimes());
   const double pick = window->document().ttArray[5].ttMisurati[50];
