@@ -16,6 +16,7 @@ constexpr std::size_t kWaves = std::size(kShares);
 constexpr double kGroupRatio = 0.85;
 constexpr std::size_t kMostGroups = 24;
 constexpr double kBandsPerCell = 4.0;
+constexpr double kMostBands = 8192.0;
 // Sums of times differ by rounding, which is far less than this share of them.
 constexpr double kMargin = 1e-9;
 
@@ -110,16 +111,23 @@ struct LatestTimes::Bands {
     const GridGeometry& g = grid.geometry();
     const Depths depths(g);
     steepest = depths.steepest();
-    thickness = g.aLato() / kBandsPerCell;
+    std::vector<double> from(g.cellCount()), to(g.cellCount());
+    double deepest = 0.0;
+    for (std::uint32_t cell = 0; cell < g.cellCount(); ++cell) {
+      depths.reachOf(cell / g.col(), cell % g.col(), from[cell], to[cell]);
+      deepest = std::max(deepest, to[cell]);
+    }
+    // A surface that leaps would ask for bands without end; wide ones only bound less well.
+    thickness = std::max(g.aLato() / kBandsPerCell, deepest / kMostBands);
+    const double rounding = kMargin * (g.aLato() / kBandsPerCell) / thickness;
     reaches.resize(g.cellCount());
     std::uint32_t last = 1;
     for (std::uint32_t cell = 0; cell < g.cellCount(); ++cell) {
-      double from, to;
-      depths.reachOf(cell / g.col(), cell % g.col(), from, to);
       Reach& reach = reaches[cell];
       // Whole cells end where bands do, but for rounding.
-      reach.from = static_cast<std::uint32_t>(std::max(0.0, from / thickness + kMargin));
-      reach.to = static_cast<std::uint32_t>(std::max(0.0, std::ceil(to / thickness - kMargin)));
+      reach.from = static_cast<std::uint32_t>(std::max(0.0, from[cell] / thickness + rounding));
+      reach.to =
+          static_cast<std::uint32_t>(std::max(0.0, std::ceil(to[cell] / thickness - rounding)));
       reach.to = std::max(reach.to, reach.from + 1);
       last = std::max(last, reach.to);
     }

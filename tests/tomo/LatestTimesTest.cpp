@@ -21,6 +21,7 @@ const Case kCases[] = {
     {"level ground full of ties", {20, 40, 6, 1.0}, 0.0, 0.0},
     {"steps that binary cannot hold", {20, 40, 6, 0.3}, 0.0, 0.0},
     {"steep ground", {20, 40, 6, 1.0}, 60.0, 0.5},
+    {"a surface that leaps by kilometres", {20, 40, 6, 1.0}, 1e7, 0.5},
     {"very rough ground", {25, 50, 8, 1.0}, 2.0, 1.9},
     {"ten nodes per side", {12, 30, 10, 2.0}, 4.0, 0.3},
     {"three nodes per side", {20, 40, 3, 1.0}, 2.0, 0.4},
