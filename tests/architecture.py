@@ -32,6 +32,12 @@ ALLOWED = {
 }
 # Heavy libraries stay out of headers, and out of the rooms that never draw or archive.
 HEAVY_IN_HEADER = re.compile(r"^(vtk|qwt_|cereal/)")
+# Headers of the system, beside those of C++ and the libraries, and the only files that may include them: one for
+# each need, which docs/other-systems.md lists with what another system would take.
+OF_SYSTEM = re.compile(r"^(sys/.*|linux/.*|unistd\.h|fcntl\.h|pwd\.h|dlfcn\.h|pthread\.h|poll\.h|spawn\.h|termios\.h)$")
+MEETS_SYSTEM = {f"src/base/{name}.cpp" for name in
+                ("FileReplacement", "LockedFile", "PrivateFolder", "ScratchFile", "StandardStreams", "StreamPlace",
+                 "ThisProcess")} | {"src/app/Termination.cpp", "src/batch/Interrupt.cpp"}
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
 
 
@@ -57,6 +63,8 @@ def violations(root):
             quote, target = match.groups()
             if path.suffix == ".h" and HEAVY_IN_HEADER.match(target):
                 yield f"{name}:{number}: header includes {target}"
+            if OF_SYSTEM.match(target) and name not in MEETS_SYSTEM:
+                yield f"{name}:{number}: {target} belongs into a file of docs/other-systems.md"
             if quote != '"':
                 continue
             other = target.split("/")[0]

@@ -51,6 +51,10 @@ std::optional<LockedFile> LockedFile::takeOver(const std::string& path) {
   return file;
 }
 
+bool LockedFile::write(std::string_view bytes) const {
+  return ::write(mDescriptor, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
+}
+
 bool LockedFile::isNamed() const {
   struct stat named = {};
   struct stat open = {};

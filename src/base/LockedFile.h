@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace talvesk {
 
@@ -24,6 +25,9 @@ class LockedFile {
 
   const std::string& path() const { return mPath; }
   int descriptor() const { return mDescriptor; }
+
+  /// Writes bytes at the present place of the file. False when not all of them could be.
+  bool write(std::string_view bytes) const;
 
   /// Whether the path still names this file.
   bool isNamed() const;

@@ -17,6 +17,14 @@ void occupyClosedStreams() {
   }
 }
 
+bool outputIsTerminal() {
+  return ::isatty(STDOUT_FILENO) != 0;
+}
+
+bool errorsAreOnTerminal() {
+  return ::isatty(STDERR_FILENO) != 0;
+}
+
 void outliveReaders() {
   std::signal(SIGPIPE, SIG_IGN);
 }

@@ -10,6 +10,10 @@ namespace talvesk {
 /// failing.
 void occupyClosedStreams();
 
+/// Whether somebody reads at a terminal what is printed there.
+bool outputIsTerminal();
+bool errorsAreOnTerminal();
+
 /// Printing to a pipe that nobody reads any more fails from here on, and no longer ends the
 /// program.
 void outliveReaders();

@@ -76,6 +76,12 @@ bool isNamedPipe(const std::string& path) {
   return descriptorOf(path) < 0 && kindOf(path) == S_IFIFO;
 }
 
+Status holdPipeOpen(const std::string& path) {
+  if (::open(path.c_str(), O_WRONLY | O_CLOEXEC) >= 0) return {};
+  return Status::failure(
+      Message::tr("Cannot write %1: %2").arg(path).arg(Message(std::strerror(errno))));
+}
+
 Status writeStream(const std::string& path, std::string_view bytes) {
   const int descriptor = openStream(path);
   const bool done = descriptor >= 0 && writeAll(descriptor, bytes);

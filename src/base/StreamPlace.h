@@ -23,6 +23,10 @@ bool isDevice(const std::string& path);
 /// Whether it names a pipe in the file system.
 bool isNamedPipe(const std::string& path);
 
+/// Keeps a pipe in the file system open as long as the program lives, so that its reader does not
+/// see an end before the bytes come. Waits until somebody reads from it.
+Status holdPipeOpen(const std::string& path);
+
 /// Writes all bytes to such a place. Fails, and does not wait, where nobody reads from a pipe. A
 /// reader who leaves sends SIGPIPE, see outliveReaders().
 Status writeStream(const std::string& path, std::string_view bytes);

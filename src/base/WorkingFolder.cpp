@@ -1,27 +1,12 @@
 #include "base/WorkingFolder.h"
 
+#include "base/ThisProcess.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QString>
 
-#include <pwd.h>
-#include <unistd.h>
-
 namespace talvesk {
-namespace {
-
-/// Services run without the variable that Qt asks, which then takes the root folder for the home.
-QString homeOfUser() {
-  if (qEnvironmentVariableIsEmpty("HOME")) {
-    const passwd* entry = ::getpwuid(::geteuid());
-    if (entry != nullptr && entry->pw_dir != nullptr) return QFile::decodeName(entry->pw_dir);
-  }
-  return QDir::homePath();
-}
-
-}  // namespace
-
 WorkingFolder WorkingFolder::below(const std::string& home) {
   WorkingFolder folder;
   folder.path = home + "/Talvesk_TMP/";
@@ -32,7 +17,7 @@ WorkingFolder WorkingFolder::below(const std::string& home) {
 }
 
 WorkingFolder WorkingFolder::ofUser() {
-  return below(homeOfUser().toStdString());
+  return below(homeFolder());
 }
 
 bool WorkingFolder::create() const {

@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "base/SampleStore.h"
+#include "base/StandardStreams.h"
 #include "base/TextNumber.h"
 #include "batch/Failure.h"
 #include "io/TravelTimeData.h"
@@ -10,8 +11,6 @@
 #include <cmath>
 #include <iostream>
 #include <sstream>
-
-#include <unistd.h>
 
 namespace talvesk {
 
@@ -24,11 +23,11 @@ Channels openChannels(const std::vector<OutputFile>& outputs, bool quiet, bool v
   if (quiet) return channels;
   const bool taken = writesToOutput(outputs);
   channels.summary = taken ? &std::cerr : &std::cout;
-  channels.progress = isatty(STDERR_FILENO) != 0 ? ProgressStyle::kBar : ProgressStyle::kLines;
+  channels.progress = errorsAreOnTerminal() ? ProgressStyle::kBar : ProgressStyle::kLines;
   if (!verbose) return channels;
   console::setOut(*channels.summary);
   console::setError(std::cerr);
-  const bool talkOnTerminal = isatty(taken ? STDERR_FILENO : STDOUT_FILENO) != 0;
+  const bool talkOnTerminal = taken ? errorsAreOnTerminal() : outputIsTerminal();
   if (talkOnTerminal) channels.progress = ProgressStyle::kLines;
   return channels;
 }

@@ -9,11 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <iostream>
-
-#include <fcntl.h>
 
 namespace talvesk {
 namespace {
@@ -48,14 +44,11 @@ Status checkPlace(const OutputFile& output) {
   return {};
 }
 
-/// The descriptor stays open as long as the program, so that the reader does not see an end before
-/// the bytes come.
 Status openPipe(const std::string& path) {
   // Other outputs are still to come when one reader leaves.
   if (isStreamPlace(path) && !isStandardOutput(path)) outliveReaders();
   if (!isNamedPipe(path)) return {};
-  if (::open(path.c_str(), O_WRONLY | O_CLOEXEC) >= 0) return {};
-  return Status::failure("Cannot write " + path + ": " + std::strerror(errno));
+  return holdPipeOpen(path);
 }
 
 }  // namespace

@@ -1,29 +1,15 @@
 #include "grid/GridBuilder.h"
 
+#include "base/AvailableMemory.h"
 #include "base/Console.h"
 
 #include <cmath>
 #include <exception>
-#include <fstream>
 #include <limits>
-#include <locale>
 #include <sstream>
 
 namespace talvesk {
 namespace {
-
-/// Memory that could be had without swapping, bytes; infinite where the system does not tell.
-double availableBytes() {
-  std::ifstream file("/proc/meminfo");
-  file.imbue(std::locale::classic());
-  std::string key;
-  double kibibytes = 0.0;
-  while (file >> key >> kibibytes) {
-    if (key == "MemAvailable:") return kibibytes * 1024.0;
-    file.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
-  }
-  return std::numeric_limits<double>::infinity();
-}
 
 /// Runs a builder; what it throws becomes a line on the error stream.
 std::unique_ptr<Grid> guarded(const std::function<std::unique_ptr<Grid>()>& build) {
@@ -90,7 +76,7 @@ Status checkGridSize(const GridSize& size, unsigned searches) {
                       .arg(Message::number(GridSize::kMaxNodes, 12)));
   }
   const double needed = estimatedGridBytes(size, searches);
-  const double available = availableBytes();
+  const double available = availableMemory();
   if (needed > available) {
     return failed(Message::tr("needs about %1 MiB, but only %2 MiB are free. Choose larger cells "
                               "or a smaller depth.")

@@ -1,6 +1,7 @@
 #include "io/TemporaryFolder.h"
 
 #include "base/LockedFile.h"
+#include "base/PrivateFolder.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -9,8 +10,6 @@
 #include <system_error>
 #include <utility>
 #include <vector>
-
-#include <sys/stat.h>
 
 namespace talvesk {
 namespace {
@@ -63,7 +62,7 @@ std::unique_ptr<TemporaryFolder> TemporaryFolder::create(const std::string& work
       return nullptr;
     }
     auto lock = std::make_unique<Lock>(std::move(*file));
-    if (::mkdir(path.c_str(), S_IRWXU) == 0) {
+    if (createPrivateFolder(path)) {
       return std::unique_ptr<TemporaryFolder>(new TemporaryFolder(path + "/", std::move(lock)));
     }
     if (errno != EEXIST) return nullptr;

@@ -2,6 +2,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/FileReplacement.h"
+#include "base/ThisProcess.h"
 
 #include <QFileInfo>
 #include <QString>
@@ -10,16 +11,8 @@
 #include <cerrno>
 #include <utility>
 
-#include <pwd.h>
-#include <unistd.h>
-
 namespace talvesk {
 namespace {
-
-std::string thisUser() {
-  const passwd* entry = ::getpwuid(::geteuid());
-  return entry != nullptr ? entry->pw_name : std::to_string(::geteuid());
-}
 
 std::string thisHost() {
   return QSysInfo::machineHostName().toStdString();
@@ -54,10 +47,9 @@ ProjectHolder holderIn(const std::string& lockFile) {
 }  // namespace
 
 ProjectLock::ProjectLock(LockedFile file) : mFile(std::move(file)) {
-  const std::string text =
-      thisUser() + "\n" + thisHost() + "\n" + std::to_string(::getpid()) + "\n";
   // Without its text, on a full disk, it is a lock still.
-  [[maybe_unused]] const auto written = ::write(mFile.descriptor(), text.data(), text.size());
+  static_cast<void>(
+      mFile.write(userName() + "\n" + thisHost() + "\n" + std::to_string(processNumber()) + "\n"));
 }
 
 ProjectLock::~ProjectLock() {

@@ -7,12 +7,11 @@
 #include "io/project/ProjectZip.h"
 #include "refraction/PlausibleResults.h"
 
+#include <QFileInfo>
 #include <exception>
 #include <filesystem>
 #include <system_error>
 #include <utility>
-
-#include <unistd.h>
 
 namespace talvesk {
 namespace {
@@ -24,7 +23,8 @@ Message whyClosed(const std::string& path) {
   if (!std::filesystem::is_regular_file(path, error)) {
     return Message::tr("It is not a regular file.");
   }
-  if (::access(path.c_str(), R_OK) != 0) return Message::tr("You may not read it.");
+  if (!QFileInfo(QString::fromStdString(path)).isReadable())
+    return Message::tr("You may not read it.");
   return {};
 }
 
