@@ -39,7 +39,7 @@ void referenceSearch(benchmark::State& state) {
   const reference::Graph graph(*grid);
   const std::uint32_t source = grid->geometry().lineNodeCount() / 3;
   for (auto _ : state) {
-    const auto paths = reference::search(graph, source);
+    auto paths = reference::search(graph, source);
     benchmark::DoNotOptimize(paths.distance.back());
   }
   state.counters["bytes/cell"] = static_cast<double>(graph.bytes()) / grid->cellCount();
