@@ -67,31 +67,9 @@ function startFigures() {
   }
 }
 
-const dark = window.matchMedia('(prefers-color-scheme: dark)');
-
-function isDark() {
-  const chosen = document.documentElement.dataset.theme;
-  return chosen ? chosen === 'dark' : dark.matches;
-}
-
-function themeButton() {
-  const name = () => (isDark() ? words.light : words.dark);
-  const switchTheme = () => {
-    document.documentElement.dataset.theme = isDark() ? 'light' : 'dark';
-    toggle.textContent = name();
-    redrawCharts();
-  };
-  const toggle = button(name(), switchTheme, { class: 'theme' });
-  dark.addEventListener('change', () => {
-    toggle.textContent = name();
-    redrawCharts();
-  });
-  return toggle;
-}
-
 function addTools() {
   const tools = make('div', { class: 'tools', role: 'group', 'aria-label': words.tools });
-  tools.append(themeButton());
+  tools.append(themeButton(words.dark, words.light, redrawCharts));
   if (data.shots?.some((shot) => shot.measured.some((time) => time !== null))) {
     tools.append(button(words.picksCsv, () => download('picks.csv', picksCsv(data.shots))));
   }

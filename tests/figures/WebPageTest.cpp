@@ -1,6 +1,6 @@
 #include "figures/report/Report.h"
 #include "figures/web/WebPage.h"
-#include "figures/web/WebText.h"
+#include "base/WebText.h"
 #include "support/TestFolder.h"
 #include "support/TestSurveys.h"
 

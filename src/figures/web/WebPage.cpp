@@ -1,11 +1,11 @@
 #include "figures/web/WebPage.h"
 
+#include "base/WebDocument.h"
+#include "base/WebText.h"
 #include "figures/report/ReportPages.h"
-#include "figures/web/WebText.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QFile>
 #include <QJsonDocument>
 #include <QLocale>
@@ -23,9 +23,9 @@ struct WebPageWords {
 
 constexpr const char* kChartLibrary = "chart-library.js";
 /// In the order in which they stand in the page.
-constexpr const char* kScripts[] = {"text.js",   "palettes.js", "mesh.js",  "charts.js",
-                                    "paint.js",  "section.js",  "times.js", "gather.js",
-                                    "misfit.js", "map.js",      "files.js", "page.js"};
+constexpr const char* kScripts[] = {
+    "theme.js", "text.js",   "palettes.js", "mesh.js", "charts.js", "paint.js", "section.js",
+    "times.js", "gather.js", "misfit.js",   "map.js",  "files.js",  "page.js"};
 
 /// A picture with more bytes of shapes than this is smaller as pixels.
 constexpr int kMostShapes = 120000;
@@ -40,11 +40,6 @@ QByteArray ownScript() {
   QByteArray script("'use strict';\n(() => {\n");
   for (const char* name : kScripts) script += resource(name) + '\n';
   return script + "})();\n";
-}
-
-/// What a policy calls a script by.
-QByteArray hashOf(const QByteArray& script) {
-  return "'sha256-" + QCryptographicHash::hash(script, QCryptographicHash::Sha256).toBase64() + "'";
 }
 
 QString nameOf(LiveFigure live) {
@@ -233,26 +228,6 @@ class BodyWriter {
   int mFigures = 0;
 };
 
-QByteArray headOf(const ReportContent& content, const QByteArray& library,
-                  const QByteArray& script) {
-  // The library sets styles on what it draws, which no hash can name; a style can load nothing.
-  const QByteArray policy = "default-src 'none'; script-src " + hashOf(library) + " " +
-                            hashOf(script) +
-                            "; style-src 'unsafe-inline'; img-src data: blob:; base-uri 'none'; "
-                            "form-action 'none'";
-  QByteArray head = "<!DOCTYPE html>\n<html lang=\"" + content.language.toUtf8() +
-                    "\">\n<head>\n<meta charset=\"utf-8\">\n"
-                    "<meta http-equiv=\"Content-Security-Policy\" content=\"" +
-                    policy +
-                    "\">\n<meta name=\"viewport\" content=\"width=device-width, "
-                    "initial-scale=1\">\n<meta name=\"generator\" content=\"Talvesk\">\n";
-  if (!content.author.isEmpty()) {
-    head += "<meta name=\"author\" content=\"" + web::escaped(content.author).toUtf8() + "\">\n";
-  }
-  return head + "<title>" + web::escaped(content.title).toUtf8() + "</title>\n<style>\n" +
-         resource("page.css") + "</style>\n</head>\n";
-}
-
 QByteArray pageSizeOf(const ReportContent& content) {
   return content.paper == ReportPaper::kA4 ? "a4" : "letter";
 }
@@ -270,15 +245,18 @@ Status reportAsHtml(const ReportContent& content, const std::function<bool(int)>
   }
   QString body;
   if (Status status = BodyWriter(content, goOn).write(body); !status.ok()) return status;
-  const QByteArray script = ownScript();
-  const QJsonObject data = content.liveData ? content.liveData() : QJsonObject();
-  bytes = headOf(content, library, script) + "<body class=\"" + pageSizeOf(content) +
-          "\">\n<a class=\"skip\" href=\"#content\">" +
-          web::escaped(WebPageWords::tr("Skip to the content")).toUtf8() + "</a>\n" +
-          body.toUtf8() + "<script type=\"application/json\" id=\"data\">" +
-          web::scriptSafe(QJsonDocument(data).toJson(QJsonDocument::Compact)) +
-          "</script>\n<script>" + library + "</script>\n<script>" + script +
-          "</script>\n</body>\n</html>\n";
+  web::Document page;
+  page.language = content.language;
+  page.title = content.title;
+  page.author = content.author;
+  page.style = resource("page.css");
+  page.bodyClass = pageSizeOf(content);
+  page.skip = WebPageWords::tr("Skip to the content");
+  page.body = body.toUtf8();
+  page.data = QJsonDocument(content.liveData ? content.liveData() : QJsonObject())
+                  .toJson(QJsonDocument::Compact);
+  page.scripts = {library, ownScript()};
+  bytes = web::documentBytes(page);
   return {};
 }
 
