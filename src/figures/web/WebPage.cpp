@@ -3,6 +3,7 @@
 #include "base/WebDocument.h"
 #include "base/WebText.h"
 #include "figures/report/ReportPages.h"
+#include "figures/web/WebPicture.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -200,6 +201,7 @@ class BodyWriter {
       sheet.dpi = kFigureDpi;
       type = QStringLiteral("png");
       status = paintFigure(FigureFormat::kPng, sheet, item.figure.paint, picture);
+      if (status.ok()) picture = web::fewColors(picture);
     }
     if (!status.ok()) return status;
     // Of residuals the live figures show other sides than the still one, which stays.
