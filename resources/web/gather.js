@@ -27,7 +27,8 @@ function tracesOf(gather) {
 }
 
 class GatherFigure {
-  constructor(place, shots, gathers) {
+  /** \param keys that go from pick to pick */
+  constructor(place, shots, gathers, keys) {
     this.shots = shots;
     this.gathers = gathers;
     this.box = make('div', { class: 'gather', hidden: true });
@@ -40,6 +41,7 @@ class GatherFigure {
     this.chart.setPicture((context, toX, toY) => {
       paintTraces(context, this.traces, themeColors().text, toX, toY);
     });
+    this.chart.listenToKeys(words.gather, words.gatherHelp, keys);
     this.caption = make('p', { class: 'readout' });
     this.box.append(this.chart.zoomButtons(), this.caption);
     place.append(this.box);

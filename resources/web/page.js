@@ -20,7 +20,7 @@ function showTimes(place) {
     figures.gather.show(pick);
   };
   figures.times = new TimesFigure(place, data.shots, chosen);
-  figures.gather = new GatherFigure(place, data.shots, data.gathers);
+  figures.gather = new GatherFigure(place, data.shots, data.gathers, figures.times.stepKeys());
   figures.times.chart.draw();
   return true;
 }
@@ -78,6 +78,16 @@ function addTools() {
   }
   document.getElementById('contents').append(tools);
 }
+
+/** On paper what has no still figure is drawn in the width of a sheet, black on white. */
+function printFigures(begins) {
+  printing = begins;
+  for (const place of document.querySelectorAll('.live.printed:not([hidden])')) if (begins) build(place);
+  redrawCharts((chart) => chart.element.closest('.printed'));
+}
+
+window.addEventListener('beforeprint', () => printFigures(true));
+window.addEventListener('afterprint', () => printFigures(false));
 
 addTools();
 startFigures();

@@ -155,7 +155,7 @@ class BodyWriter {
     mBody += QStringLiteral("<tbody>\n");
     for (const QStringList& row : table.rows) addRow(table, row, !item.text.isEmpty());
     mBody += QStringLiteral("</tbody>\n</table>\n</div>\n");
-    if (item.live != LiveFigure::kNone) addLive(item.live);
+    if (item.live != LiveFigure::kNone) addLive(item.live, true);
   }
 
   void addHeadings(const ReportTable& table) {
@@ -186,10 +186,10 @@ class BodyWriter {
     return column.number ? QStringLiteral(" class=\"number\"") : QString();
   }
 
-  /// The place of a live figure; a script fills it.
-  void addLive(LiveFigure live) {
-    mBody +=
-        QStringLiteral("<div class=\"live\" data-figure=\"%1\" hidden></div>\n").arg(nameOf(live));
+  /// The place of a live figure; a script fills it. One without a still figure is printed, too.
+  void addLive(LiveFigure live, bool printed) {
+    mBody += QStringLiteral("<div class=\"live%1\" data-figure=\"%2\" hidden></div>\n")
+                 .arg(printed ? QStringLiteral(" printed") : QString(), nameOf(live));
   }
 
   Status addFigure(const ReportItem& item) {
@@ -207,7 +207,7 @@ class BodyWriter {
     // Of residuals the live figures show other sides than the still one, which stays.
     const bool beside = item.live == LiveFigure::kResiduals;
     mBody += QStringLiteral("<figure>\n");
-    if (item.live != LiveFigure::kNone && !beside) addLive(item.live);
+    if (item.live != LiveFigure::kNone && !beside) addLive(item.live, false);
     mBody +=
         QStringLiteral("<img class=\"still\" width=\"%1\" alt=\"%2\" src=\"data:image/%3;base64,")
             .arg(qRound(item.figure.sheet.widthMm / kMmPerInch * 96.0))
@@ -215,7 +215,7 @@ class BodyWriter {
     mBody += QString::fromLatin1(picture.toBase64());
     mBody += QStringLiteral("\">\n<figcaption>%1</figcaption>\n</figure>\n")
                  .arg(web::escaped(item.text));
-    if (beside) addLive(item.live);
+    if (beside) addLive(item.live, true);
     if (mGoOn && !mGoOn(++mFigures)) {
       return Status::failure(Message::tr("The report was stopped."), kReportCancelled);
     }
