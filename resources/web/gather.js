@@ -43,7 +43,8 @@ class GatherFigure {
     });
     this.chart.listenToKeys(words.gather, words.gatherHelp, keys);
     this.caption = make('p', { class: 'readout' });
-    this.box.append(this.chart.zoomButtons(), this.caption);
+    this.buttons = this.chart.zoomButtons();
+    this.box.append(this.buttons, this.caption);
     place.append(this.box);
   }
 
@@ -53,6 +54,7 @@ class GatherFigure {
     this.box.hidden = false;
     const there = gather && typeof gather === 'object';
     this.chart.frame.hidden = !there;
+    this.buttons.hidden = !there;
     this.title.textContent = there ? gather.title : say(words.shot, pick.shot + 1);
     const none = gather ? words.gatherLeftOut : words.noGather;
     this.caption.textContent = there ? gather.caption : none;
