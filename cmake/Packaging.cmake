@@ -13,7 +13,16 @@ install(FILES ${desktop}/talvesk-mime.xml
 install(FILES resources/icons/talvesk.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES README.md DESTINATION ${docs})
-install(FILES LICENSE DESTINATION ${docs} RENAME copyright)
+
+# The programs carry the chart library of web reports, whose licence goes along.
+file(READ LICENSE copyright)
+cmake_path(GET TALVESK_CHART_LIBRARY PARENT_PATH chart_library_folder)
+if(EXISTS ${chart_library_folder}/LICENSE)
+  file(READ ${chart_library_folder}/LICENSE chart_licence)
+  string(APPEND copyright "\n\nThe web reports of Talvesk contain plotly.js, which has this licence:\n\n${chart_licence}")
+endif()
+file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/copyright CONTENT "${copyright}" @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/copyright DESTINATION ${docs})
 
 # Manual pages and the change log are compressed, without a time stamp: equal sources, equal package.
 find_program(GZIP_PROGRAM gzip REQUIRED)

@@ -1,8 +1,11 @@
 // What all charts share: looks by the theme, size, zoom, the pointer, pictures beneath their lines.
 
 const charts = [];
+const paper = { text: '#000', grid: '#bbb', paper: '#fff', accent: '#0b5cad', width: 640 };
+let printing = false;
 
 function themeColors() {
+  if (printing) return paper;
   const style = getComputedStyle(document.documentElement);
   const get = (name) => style.getPropertyValue(name).trim();
   return { text: get('--text'), grid: get('--grid'), paper: get('--paper'), accent: get('--accent') };
@@ -42,7 +45,12 @@ class Chart {
   draw() {
     const colors = themeColors();
     const { traces, layout } = this.describe(colors);
-    this.home = { x: layout.xaxis.range, y: layout.yaxis.range };
+    if (this.picture) {
+      // The library would lay its grid over the picture.
+      this.grid = [layout.xaxis, layout.yaxis].map((axis) => axis.showgrid !== false);
+      layout.xaxis.showgrid = false;
+      layout.yaxis.showgrid = false;
+    }
     const look = {
       paper_bgcolor: 'rgba(0,0,0,0)',
       plot_bgcolor: 'rgba(0,0,0,0)',
@@ -50,6 +58,7 @@ class Chart {
       margin: { l: 60, r: 16, t: 12, b: 48 },
       separators: number(1.5, 1).includes(',') ? ',.' : '.,',
       height: this.height,
+      width: colors.width,
       dragmode: 'pan',
       showlegend: false,
       hovermode: false,
@@ -63,6 +72,7 @@ class Chart {
     const first = !this.drawn;
     this.drawn = Plotly.react(this.element, traces, look, config);
     if (first) {
+      this.zoomByWheel();
       this.element.on('plotly_relayout', () => this.moved());
       this.element.on('plotly_relayouting', () => this.hideTip());
     }
@@ -130,14 +140,21 @@ class Chart {
     this.tip.hidden = true;
   }
 
-  /** \param factor below 1 shows less, larger */
-  zoom(factor) {
+  /** \param factor below 1 shows less, larger \param at what stays where it is; none: the middle */
+  zoom(factor, at) {
     const { xaxis, yaxis } = this.area();
-    const around = ([a, b]) => [
-      (a + b) / 2 - ((b - a) / 2) * factor,
-      (a + b) / 2 + ((b - a) / 2) * factor,
-    ];
-    return this.show(around(xaxis.range), around(yaxis.range));
+    const around = ([a, b], still = (a + b) / 2) => [still + (a - still) * factor, still + (b - still) * factor];
+    return this.show(around(xaxis.range, at?.x), around(yaxis.range, at?.y));
+  }
+
+  /** The wheel with Ctrl, which is what two fingers on a touchpad are to a browser. */
+  zoomByWheel() {
+    this.element.addEventListener('wheel', (event) => {
+      const at = event.ctrlKey && this.placeOf(event);
+      if (!at) return;
+      event.preventDefault();
+      this.zoom(Math.exp(Math.min(Math.max(event.deltaY, -100), 100) / 300), at);
+    }, { passive: false });
   }
 
   pan(right, up) {
@@ -153,6 +170,27 @@ class Chart {
   whole() {
     this.view = {};
     return this.draw();
+  }
+
+  /**
+   * Makes the chart one that keys reach. \param keys by the names of keys, besides those that zoom
+   */
+  listenToKeys(name, help, keys) {
+    const { element } = this;
+    element.tabIndex = 0;
+    element.setAttribute('role', 'application');
+    element.setAttribute('aria-label', `${name}. ${help}`);
+    const all = {
+      '+': () => this.zoom(1 / 1.5),
+      '-': () => this.zoom(1.5),
+      0: () => this.whole(),
+      ...keys,
+    };
+    element.addEventListener('keydown', (event) => {
+      if (event.ctrlKey || event.altKey || event.metaKey || !Object.hasOwn(all, event.key)) return;
+      all[event.key]();
+      event.preventDefault();
+    });
   }
 
   zoomButtons() {
@@ -186,7 +224,35 @@ class Chart {
     context.scale(ratio, ratio);
     const toX = (value) => ((value - x[0]) / (x[1] - x[0])) * width;
     const toY = (value) => ((y[1] - value) / (y[1] - y[0])) * height;
+    this.paintGrid(context, width, height, x, y, toX, toY);
     this.picture(context, toX, toY);
+    return this.layPicture(canvas, x, y);
+  }
+
+  /** Beneath all else in the picture, as far as it goes beyond the view. */
+  paintGrid(context, width, height, x, y, toX, toY) {
+    const { xaxis, yaxis } = this.area();
+    const places = ({ tick0, dtick }, [a, b]) => {
+      const first = Math.ceil((Math.min(a, b) - tick0) / dtick);
+      const count = Math.floor((Math.max(a, b) - tick0) / dtick) - first + 1;
+      return Array.from({ length: Math.min(Math.max(count, 0), 500) }, (_, i) => tick0 + (first + i) * dtick);
+    };
+    const crisp = (pixel) => Math.round(pixel) + 0.5;
+    context.strokeStyle = themeColors().grid;
+    context.lineWidth = 1;
+    context.beginPath();
+    for (const at of this.grid[0] ? places(xaxis, x) : []) {
+      context.moveTo(crisp(toX(at)), 0);
+      context.lineTo(crisp(toX(at)), height);
+    }
+    for (const at of this.grid[1] ? places(yaxis, y) : []) {
+      context.moveTo(0, crisp(toY(at)));
+      context.lineTo(width, crisp(toY(at)));
+    }
+    context.stroke();
+  }
+
+  layPicture(canvas, x, y) {
     const image = {
       source: canvas.toDataURL('image/png'),
       xref: 'x',
@@ -206,6 +272,7 @@ class Chart {
   }
 }
 
-function redrawCharts() {
-  for (const chart of charts) if (chart.drawn) chart.draw();
+/** \param which of them */
+function redrawCharts(which = () => true) {
+  for (const chart of charts) if (chart.drawn && which(chart)) chart.draw();
 }

@@ -27,7 +27,8 @@ function tracesOf(gather) {
 }
 
 class GatherFigure {
-  constructor(place, shots, gathers) {
+  /** \param keys that go from pick to pick */
+  constructor(place, shots, gathers, keys) {
     this.shots = shots;
     this.gathers = gathers;
     this.box = make('div', { class: 'gather', hidden: true });
@@ -40,8 +41,10 @@ class GatherFigure {
     this.chart.setPicture((context, toX, toY) => {
       paintTraces(context, this.traces, themeColors().text, toX, toY);
     });
+    this.chart.listenToKeys(words.gather, words.gatherHelp, keys);
     this.caption = make('p', { class: 'readout' });
-    this.box.append(this.chart.zoomButtons(), this.caption);
+    this.buttons = this.chart.zoomButtons();
+    this.box.append(this.buttons, this.caption);
     place.append(this.box);
   }
 
@@ -51,6 +54,7 @@ class GatherFigure {
     this.box.hidden = false;
     const there = gather && typeof gather === 'object';
     this.chart.frame.hidden = !there;
+    this.buttons.hidden = !there;
     this.title.textContent = there ? gather.title : say(words.shot, pick.shot + 1);
     const none = gather ? words.gatherLeftOut : words.noGather;
     this.caption.textContent = there ? gather.caption : none;

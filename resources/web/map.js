@@ -49,8 +49,11 @@ function scaleBar(size, scale) {
   ];
 }
 
-/** Beside its end, inwards. */
+/** Above the upper end and below the lower one, so that the line does not run through it. */
 function endName(x, y, text) {
   const left = x > 200;
-  return [shape('text', { x: x + (left ? -10 : 10), y: y - 10, 'text-anchor': left ? 'end' : 'start' }, text)];
+  const above = y <= 190;
+  return [shape('text', {
+    x: x + (left ? 8 : -8), y: y + (above ? -14 : 24), 'text-anchor': left ? 'end' : 'start',
+  }, text)];
 }

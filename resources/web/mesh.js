@@ -90,7 +90,19 @@ class Mesh {
 
   /** Iso-lines through the cells that have a value, as x and z with gaps. */
   contours(values, levels) {
-    const lines = { x: [], z: [] };
+    const lines = { x: [], z: [], levels: [] };
+    /** Where a level crosses a distance, or as near to it as `within`; null for no such place. */
+    lines.nearest = (level, x, within) => {
+      let best = null;
+      let least = within;
+      lines.levels.forEach((each, i) => {
+        const away = Math.abs(lines.x[3 * i] - x);
+        if (each !== level || away >= least) return;
+        least = away;
+        best = { x: lines.x[3 * i], z: lines.z[3 * i] };
+      });
+      return best;
+    };
     const means = this.cornerMeans(values);
     for (let cell = 0; cell < values.length; cell += 1) {
       if (values[cell] !== null) this.addContoursOf(cell, means, levels, lines);
@@ -120,6 +132,7 @@ class Mesh {
       for (let i = 0; i + 1 < crossings.length; i += 2) {
         lines.x.push(crossings[i][0], crossings[i + 1][0], null);
         lines.z.push(crossings[i][1], crossings[i + 1][1], null);
+        lines.levels.push(level);
       }
     }
   }

@@ -7,11 +7,25 @@ function hoverLook(colors) {
   };
 }
 
-/** A chart of numbers with the same numbers as a table. */
-function chartWithTable(place, name, describe, headings, rows) {
-  place.append(make('p', { class: 'chart-title', text: name }));
-  const chart = new Chart(place, name, describe, 260);
-  place.append(numbersTable(words.numbers, () => headings, rows).element);
+/** However many lines it takes. */
+const legendAbove = { orientation: 'h', x: 0, y: 1.02, yanchor: 'bottom' };
+
+/** A chart of numbers with the same numbers as a table; keys go from mark to mark of `marks`. */
+function chartWithTable(place, name, describe, headings, rows, marks) {
+  const box = make('div', { class: 'numbers-chart' }, [make('p', { class: 'chart-title', text: name })]);
+  const chart = new Chart(box, name, describe, 260);
+  const readout = make('p', { class: 'readout', 'aria-live': 'polite', text: words.marksHelp });
+  let at = -1;
+  const step = (by) => () => {
+    at = Math.min(Math.max(at + by, 0), marks.length - 1);
+    const { x, y, text } = marks[at];
+    readout.textContent = text.join(', ');
+    chart.showTip(x, y, text.join(', '));
+  };
+  chart.listenToKeys(name, words.marksHelp, { ArrowLeft: step(-1), ArrowRight: step(1) });
+  chart.element.addEventListener('blur', () => chart.hideTip());
+  box.append(readout, numbersTable(words.numbers, () => headings, rows).element);
+  place.append(box);
   chart.draw();
   return chart;
 }
@@ -23,7 +37,7 @@ function residualChart(place, name, groups, at) {
     say(words.rmsMs, number(group.rms, 3)),
     say(words.meanMs, signed(group.mean, 3)),
     say(words.picks, group.picks),
-  ].join('<br>');
+  ];
   const describe = (colors) => ({
     traces: [
       {
@@ -32,7 +46,7 @@ function residualChart(place, name, groups, at) {
         y: groups.map((group) => group.rms),
         marker: { color: '#4c8dc9' },
         name: chartText(words.rms),
-        hovertext: groups.map(text),
+        hovertext: groups.map((group) => text(group).join('<br>')),
         hoverinfo: 'text',
       },
       {
@@ -42,14 +56,14 @@ function residualChart(place, name, groups, at) {
         y: groups.map((group) => group.mean),
         marker: { color: '#d1570a', size: 7, symbol: 'diamond' },
         name: chartText(words.mean),
-        hovertext: groups.map(text),
+        hovertext: groups.map((group) => text(group).join('<br>')),
         hoverinfo: 'text',
       },
     ],
     layout: {
       ...hoverLook(colors),
       showlegend: true,
-      legend: { orientation: 'h', y: 1.18 },
+      legend: legendAbove,
       xaxis: axisLook(colors, at.title, {}),
       yaxis: axisLook(colors, words.residualMs, { zeroline: true, zerolinecolor: colors.text }),
     },
@@ -58,7 +72,8 @@ function residualChart(place, name, groups, at) {
   const rows = () => groups.map((group) => [
     number(group.at, at.places), number(group.rms, 3), signed(group.mean, 3), String(group.picks),
   ]);
-  chartWithTable(place, name, describe, headings, rows);
+  const marks = groups.map((group) => ({ x: group.at, y: group.rms, text: text(group) }));
+  chartWithTable(place, name, describe, headings, rows, marks);
 }
 
 function showResiduals(place, misfit) {
@@ -72,6 +87,7 @@ function showHistory(place, misfit) {
   const sections = misfit.section;
   const passes = misfit.passes;
   const count = Math.max(sections.length, passes.length + 1);
+  const text = (value, iteration) => [say(words.iteration, iteration), say(words.rmsMs, number(value, 3))];
   const curve = (values, first, name, color) => ({
     type: 'scatter',
     mode: 'lines+markers',
@@ -79,7 +95,7 @@ function showHistory(place, misfit) {
     y: values,
     name: chartText(name),
     line: { color },
-    hovertext: values.map((value, i) => `${say(words.iteration, i + first)}<br>${say(words.rmsMs, number(value, 3))}`),
+    hovertext: values.map((value, i) => text(value, i + first).join('<br>')),
     hoverinfo: 'text',
   });
   const describe = (colors) => ({
@@ -90,7 +106,7 @@ function showHistory(place, misfit) {
     layout: {
       ...hoverLook(colors),
       showlegend: passes.length > 0,
-      legend: { orientation: 'h', y: 1.18 },
+      legend: legendAbove,
       xaxis: axisLook(colors, words.iterations, { dtick: count > 12 ? undefined : 1 }),
       yaxis: axisLook(colors, words.rms, { rangemode: 'tozero' }),
     },
@@ -99,7 +115,9 @@ function showHistory(place, misfit) {
   const rows = () => Array.from({ length: count }, (_, i) => [
     String(i), number(sections[i], 3), ...(passes.length ? [number(passes[i - 1], 3)] : []),
   ]);
-  chartWithTable(place, words.misfitPerIteration, describe, headings, rows);
+  const marks = sections.map((value, i) => ({ x: i, y: value, text: text(value, i) }))
+    .filter(({ y }) => y !== null);
+  chartWithTable(place, words.misfitPerIteration, describe, headings, rows, marks);
 }
 
 function showReciprocity(place, pairs) {
@@ -109,7 +127,7 @@ function showReciprocity(place, pairs) {
     say(words.thereMs, number(there, 2)),
     say(words.backMs, number(back, 2)),
     say(words.differenceMs, signed(there - back, 2)),
-  ].join('<br>');
+  ];
   const describe = (colors) => ({
     traces: [
       { type: 'scatter', mode: 'lines', x: [0, last], y: [0, last], line: { color: colors.text, width: 1 }, hoverinfo: 'skip' },
@@ -119,7 +137,7 @@ function showReciprocity(place, pairs) {
         x: pairs.map((pair) => pair[2]),
         y: pairs.map((pair) => pair[3]),
         marker: { color: '#d1570a', size: 7 },
-        hovertext: pairs.map(text),
+        hovertext: pairs.map((pair) => text(pair).join('<br>')),
         hoverinfo: 'text',
       },
     ],
@@ -133,5 +151,6 @@ function showReciprocity(place, pairs) {
   const rows = () => pairs.map(([a, b, there, back]) => [
     String(a), String(b), number(there, 2), number(back, 2), signed(there - back, 2),
   ]);
-  chartWithTable(place, words.reciprocity, describe, headings, rows);
+  const marks = pairs.map((pair) => ({ x: pair[2], y: pair[3], text: text(pair) }));
+  chartWithTable(place, words.reciprocity, describe, headings, rows, marks);
 }

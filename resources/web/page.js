@@ -20,7 +20,7 @@ function showTimes(place) {
     figures.gather.show(pick);
   };
   figures.times = new TimesFigure(place, data.shots, chosen);
-  figures.gather = new GatherFigure(place, data.shots, data.gathers);
+  figures.gather = new GatherFigure(place, data.shots, data.gathers, figures.times.stepKeys());
   figures.times.chart.draw();
   return true;
 }
@@ -67,31 +67,9 @@ function startFigures() {
   }
 }
 
-const dark = window.matchMedia('(prefers-color-scheme: dark)');
-
-function isDark() {
-  const chosen = document.documentElement.dataset.theme;
-  return chosen ? chosen === 'dark' : dark.matches;
-}
-
-function themeButton() {
-  const name = () => (isDark() ? words.light : words.dark);
-  const switchTheme = () => {
-    document.documentElement.dataset.theme = isDark() ? 'light' : 'dark';
-    toggle.textContent = name();
-    redrawCharts();
-  };
-  const toggle = button(name(), switchTheme, { class: 'theme' });
-  dark.addEventListener('change', () => {
-    toggle.textContent = name();
-    redrawCharts();
-  });
-  return toggle;
-}
-
 function addTools() {
   const tools = make('div', { class: 'tools', role: 'group', 'aria-label': words.tools });
-  tools.append(themeButton());
+  tools.append(themeButton(words.dark, words.light, redrawCharts));
   if (data.shots?.some((shot) => shot.measured.some((time) => time !== null))) {
     tools.append(button(words.picksCsv, () => download('picks.csv', picksCsv(data.shots))));
   }
@@ -100,6 +78,16 @@ function addTools() {
   }
   document.getElementById('contents').append(tools);
 }
+
+/** On paper what has no still figure is drawn in the width of a sheet, black on white. */
+function printFigures(begins) {
+  printing = begins;
+  for (const place of document.querySelectorAll('.live.printed:not([hidden])')) if (begins) build(place);
+  redrawCharts((chart) => chart.element.closest('.printed'));
+}
+
+window.addEventListener('beforeprint', () => printFigures(true));
+window.addEventListener('afterprint', () => printFigures(false));
 
 addTools();
 startFigures();

@@ -20,7 +20,13 @@ class SectionFigure {
     this.profile = new ProfileFigure(place, this);
     this.chart.setPicture((context, toX, toY) => this.paint(context, toX, toY));
     this.chart.follow((at) => this.point(at), (at) => this.profile.show(at.x));
-    this.listenToKeys();
+    this.chart.listenToKeys(words.section, words.sectionHelp, {
+      ArrowLeft: () => this.moveCursor(-1, 0),
+      ArrowRight: () => this.moveCursor(1, 0),
+      ArrowUp: () => this.moveCursor(0, 1),
+      ArrowDown: () => this.moveCursor(0, -1),
+      Enter: () => this.cursor && this.profile.show(this.cursor.x),
+    });
   }
 
   get quantity() {
@@ -145,9 +151,6 @@ class SectionFigure {
     const lines = { class: 'readout', 'aria-live': 'polite' };
     this.readout = make('p', { ...lines, text: words.sectionHelp });
     place.append(this.readout);
-    this.chart.element.tabIndex = 0;
-    this.chart.element.setAttribute('role', 'application');
-    this.chart.element.setAttribute('aria-label', `${words.section}. ${words.sectionHelp}`);
   }
 
   redraw() {
@@ -179,6 +182,7 @@ class SectionFigure {
     if (this.levels.length > 0) {
       const contours = this.mesh.contours(this.quantity.values, this.levels);
       traces.push(line({ x: contours.x, y: contours.z }, { color: '#222', width: 0.8 }));
+      traces.push(this.contourNumbers(contours));
     }
     if (parts.coverage) traces.push(line(flat(section.coverage), { color: '#444', dash: 'dash', width: 1 }));
     if (parts.layers) traces.push(...this.layerTraces(line, flat));
@@ -192,6 +196,31 @@ class SectionFigure {
     if (parts.shots) traces.push(markers(section.shots, 'star', 10));
     traces.push(...this.pickRay(line), ...this.crosshair());
     return { traces, layout: this.layout(colors) };
+  }
+
+  /** Beside each other where lines of several levels lie close. */
+  contourNumbers(contours) {
+    const { mesh, levels } = this;
+    const length = mesh.x[mesh.columns] - mesh.x[0];
+    const step = Math.abs(levels[1] - levels[0]) || this.range[1] - this.range[0];
+    const places = Math.max(this.quantity.places, Math.ceil(-Math.log10(step)));
+    const chosen = { x: [], y: [], text: [] };
+    levels.forEach((level, i) => {
+      for (const part of [0.3, 0.7]) {
+        const target = mesh.x[0] + length * (part + 0.045 * ((i % 5) - 2));
+        const at = contours.nearest(level, target, length / 12);
+        if (!at) continue;
+        chosen.x.push(at.x);
+        chosen.y.push(at.z);
+        chosen.text.push(number(level, places));
+      }
+    });
+    return {
+      type: 'scatter',
+      mode: 'text',
+      ...chosen,
+      textfont: { size: 11, color: '#000', shadow: '0 0 2px #fff, 0 0 2px #fff, 0 0 3px #fff, 0 0 4px #fff' },
+    };
   }
 
   layerTraces(line, flat) {
@@ -305,21 +334,6 @@ class SectionFigure {
   showPick(pick) {
     this.pick = pick;
     if (this.chart.drawn) this.redraw();
-  }
-
-  listenToKeys() {
-    const steps = { ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, 1], ArrowDown: [0, -1] };
-    this.chart.element.addEventListener('keydown', (event) => {
-      const { key } = event;
-      if (event.ctrlKey || event.altKey || event.metaKey) return;
-      if (steps[key]) this.moveCursor(...steps[key]);
-      else if (key === '+') this.chart.zoom(1 / 1.5);
-      else if (key === '-') this.chart.zoom(1.5);
-      else if (key === '0') this.chart.whole();
-      else if (key === 'Enter' && this.cursor) this.profile.show(this.cursor.x);
-      else return;
-      event.preventDefault();
-    });
   }
 
   /** By one cell. */

@@ -11,12 +11,9 @@ class TimesFigure {
     place.prepend(this.controls());
     this.readout = make('p', { class: 'readout', 'aria-live': 'polite', text: words.timesHelp });
     place.append(this.readout, this.table());
-    this.chart.element.tabIndex = 0;
-    this.chart.element.setAttribute('role', 'application');
-    this.chart.element.setAttribute('aria-label', `${words.times}. ${words.timesHelp}`);
     this.chart.setPicture((context, toX, toY) => this.paint(context, toX, toY));
     this.chart.follow((at) => this.point(at), (at) => this.click(at));
-    this.listenToKeys();
+    this.chart.listenToKeys(words.times, words.timesHelp, this.stepKeys());
   }
 
   controls() {
@@ -191,18 +188,13 @@ class TimesFigure {
     this.chosen(pick);
   }
 
-  listenToKeys() {
-    const steps = { ArrowLeft: [0, -1], ArrowRight: [0, 1], ArrowUp: [1, 0], ArrowDown: [-1, 0] };
-    this.chart.element.addEventListener('keydown', (event) => {
-      const { key } = event;
-      if (event.ctrlKey || event.altKey || event.metaKey) return;
-      if (steps[key]) this.step(...steps[key]);
-      else if (key === '+') this.chart.zoom(1 / 1.5);
-      else if (key === '-') this.chart.zoom(1.5);
-      else if (key === '0') this.chart.whole();
-      else return;
-      event.preventDefault();
-    });
+  stepKeys() {
+    return {
+      ArrowLeft: () => this.step(0, -1),
+      ArrowRight: () => this.step(0, 1),
+      ArrowUp: () => this.step(1, 0),
+      ArrowDown: () => this.step(-1, 0),
+    };
   }
 
   /** To the next pick of the shot, or to the next shot that is shown. */

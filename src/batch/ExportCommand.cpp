@@ -2,10 +2,12 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/FittedSection.h"
+#include "batch/FreshTimes.h"
 #include "batch/Images.h"
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/RefractorOutput.h"
+#include "batch/ReportIndex.h"
 #include "batch/Reports.h"
 #include "batch/RunList.h"
 #include "export/CertaintyTable.h"
@@ -19,11 +21,9 @@
 #include "io/project/projectReader.h"
 #include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
-#include "model/LeftOut.h"
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
-#include "tomo/RayRecomputation.h"
 
 #include <ostream>
 
@@ -118,14 +118,7 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
       !options.images.empty() || !options.report.empty() || !options.refractors.empty();
   if (!draws && options.residuals.empty()) return {};
   if (draws) prepareDrawing();
-  Log log;
-  if (!document.result->has_tomographic_info) return {};
-  const Status status = recomputeRays(document, log);
-  for (const std::string& line : describe(leftOut(document, document.result->excluded), document)) {
-    warn(line);
-  }
-  if (picksChangedSince(document)) warn("picks have changed since the inversion");
-  return status;
+  return traceFreshTimes(document);
 }
 
 /// Where the layered profile is drawn or told.
@@ -140,6 +133,7 @@ void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project
 }  // namespace
 
 int run(const ExportOptions& options) {
+  if (!options.index.empty()) return writeReportIndex(options);
   const std::vector<OutputFile> outputs = outputsOf(options);
   const Channels channels = openChannels(outputs, options.quiet);
   const Status places = checkOutputFiles(outputs, {options.project});

@@ -86,6 +86,45 @@ void addRefractor(CLI::App& app, ExportOptions& options) {
       ->group(kOutputGroup);
 }
 
+/// The fields of a report go with a page on many lines, too.
+void addReportIndex(CLI::App& app, CLI::Option* report, ExportOptions& options) {
+  CLI::Option* index =
+      addPath(app, "--report-index", options.index,
+              "Of any number of projects a web page each and one on all of them, with a table of "
+              "misfit and coverage, small sections, a map and links: the name of that page, "
+              "*.html, or a folder, where it is index.html; a project that cannot be read stands "
+              "there with the reason")
+          ->type_name("PAGE|FOLDER")
+          ->group(report->get_group());
+  for (const char* name : {"--report-title", "--client", "--site", "--author", "--date"}) {
+    CLI::Option* field = app.get_option(name);
+    field->remove_needs(report);
+    field->check([index, report](const std::string&) -> std::string {
+      if (index->count() > 0 || report->count() > 0) return {};
+      return "goes with --report or --report-index";
+    });
+  }
+}
+
+/// One project, or an index of many and nothing else.
+void checkProjects(ExportOptions& options) {
+  if (!options.index.empty()) {
+    if (options.anyOutput() || !options.run.empty() || options.geography) {
+      throw CLI::ValidationError(
+          "--report-index",
+          "goes with the texts of a report and --quiet, and with no other option");
+    }
+    return;
+  }
+  if (options.projects.size() > 1) {
+    throw CLI::ValidationError(
+        "PROJECT",
+        "'" + options.projects[1] + "' is one more: several projects go with --report-index only");
+  }
+  options.project = options.projects.front();
+  if (!options.anyOutput()) throw CLI::ValidationError("export", "no file to write is given");
+}
+
 void addOutputs(CLI::App& app, ExportOptions& options) {
   addGridded(app, options);
   const auto output = [&app](const char* name, std::string& path, const char* suffix,
@@ -110,6 +149,7 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
             "The section as the project shows it: .png, .svg or .pdf; once per picture")
       ->group(kOutputGroup);
   CLI::Option* report = addReport(app, options.report, options.reportFields);
+  addReportIndex(app, report, options);
 
   const auto geography = [&options]() -> geographicsCoord& {
     if (!options.geography) options.geography.emplace();
@@ -160,7 +200,10 @@ void addExport(CLI::App& app, ExportOptions& options) {
   CLI::App& command = *app.add_subcommand(
       "export",
       "Write the section of a project for other programs, each output as it is asked for");
-  mustEndIn(command.add_option("PROJECT", options.project, "The project, named *.tvsk")->required(),
+  mustEndIn(command
+                .add_option("PROJECT", options.projects,
+                            "The project, named *.tvsk; any number with --report-index")
+                ->required(),
             {".tvsk"}, true);
   command
       .add_option("--use", options.run,
@@ -169,9 +212,7 @@ void addExport(CLI::App& app, ExportOptions& options) {
       ->type_name("RUN");
   addOutputs(command, options);
   command.add_flag("--quiet", options.quiet, kQuietHelp);
-  command.final_callback([&options] {
-    if (!options.anyOutput()) throw CLI::ValidationError("export", "no file to write is given");
-  });
+  command.final_callback([&options] { checkProjects(options); });
 }
 
 }  // namespace talvesk

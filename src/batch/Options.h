@@ -234,8 +234,10 @@ struct ElasticBatchOptions {
   bool quiet = false;
 };
 
-/// What is written of the section of a project.
+/// What is written of the section of a project, or of many projects together.
 struct ExportOptions {
+  std::vector<std::string> projects;  ///< of `index`
+  std::string index;                  ///< page on many projects, or its folder; else all below
   std::string project;
   std::string run;  ///< whose section it is to be; empty: that of the project
   std::string gridded;

@@ -13,5 +13,6 @@ void bindCertainty(pybind11::module_& module);
 void bindEnsemble(pybind11::module_& module);
 void bindRays(pybind11::module_& module);
 void bindLayers(pybind11::module_& module);
+void bindCampaign(pybind11::module_& module);
 
 }  // namespace talvesk::python

@@ -25,4 +25,5 @@ PYBIND11_MODULE(_talvesk, module) {
   python::bindEnsemble(module);
   python::bindRays(module);
   python::bindLayers(module);
+  python::bindCampaign(module);
 }

@@ -92,6 +92,49 @@ TEST(Export, drawsAndReportsWithoutADisplay) {
   EXPECT_EQ(folder.fileCount(), 4U);
 }
 
+TEST(Export, writesAPageOfEveryProjectAndOneOnAllOfThem) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  folder.write("torn.tvsk", "no archive");
+  const Outcome outcome = runBatch({"export", "--report-index", folder / "pages", project,
+                                    folder / "torn.tvsk", "--client", "Hill & Co"},
+                                   {{"DISPLAY", ""}});
+  EXPECT_EQ(outcome.code, 1) << "one of them failed";
+  EXPECT_THAT(outcome.err, HasSubstr("torn.tvsk is not a valid project"));
+  const std::string index = contentsOf(folder / "pages/index.html");
+  EXPECT_THAT(index, AllOf(HasSubstr("<a href=\"line.html\">line</a>"), HasSubstr("Hill &amp; Co"),
+                           HasSubstr("<strong>Failed:</strong> torn.tvsk is not a valid project"),
+                           HasSubstr("Map of the lines"), Not(HasSubstr(folder / ""))));
+  EXPECT_THAT(contentsOf(folder / "pages/line.html"), HasSubstr("<h1>Valley</h1>"));
+}
+
+TEST(Export, leavesAFileAloneThatIsNoPageOfItsOwn) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  folder.write("line.html", "mine");
+  const Outcome outcome = runBatch({"export", "--report-index", folder / "all.html", project});
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_EQ(contentsOf(folder / "line.html"), "mine");
+  EXPECT_THAT(contentsOf(folder / "all.html"), HasSubstr("is no page of Talvesk"));
+  std::remove((folder / "line.html").c_str());
+  for (int times = 0; times < 2; ++times) {
+    EXPECT_EQ(runBatch({"export", "--report-index", folder / "all.html", project}).code, 0);
+  }
+}
+
+TEST(Export, takesManyProjectsForAnIndexOnly) {
+  const auto refused = [](const std::vector<std::string>& arguments) {
+    const Outcome outcome = runBatch(arguments);
+    EXPECT_EQ(outcome.code, 2);
+    return outcome.err;
+  };
+  EXPECT_THAT(refused({"export", "a.tvsk", "b.tvsk", "--vtk", "x.vtu"}), HasSubstr("several"));
+  EXPECT_THAT(refused({"export", "a.tvsk", "--report-index", "x", "--vtk", "x.vtu"}),
+              HasSubstr("no other option"));
+  EXPECT_THAT(refused({"export", "a.tvsk", "--vtk", "x.vtu", "--client", "C"}),
+              HasSubstr("--report-index"));
+}
+
 TEST(Export, takesPlacePaletteAndRangeFromTheCommandLine) {
   const Folder folder;
   const std::string project = writeProject(folder, false);

@@ -1,14 +1,21 @@
+#include "base/WebText.h"
 #include "figures/report/Report.h"
 #include "figures/web/WebPage.h"
-#include "figures/web/WebText.h"
+#include "figures/web/WebPicture.h"
 #include "support/TestFolder.h"
 #include "support/TestSurveys.h"
 
+#include <QBuffer>
 #include <QByteArray>
+#include <QColor>
 #include <QCryptographicHash>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
+#include <algorithm>
+#include <cstdlib>
+#include <random>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -115,6 +122,42 @@ TEST(WebPage, isWrittenForASuffixOfAnyCase) {
   ASSERT_TRUE(writeReport(reportOn(line), path).ok());
   EXPECT_EQ(TestFolder::get(path).substr(0, 15), "<!DOCTYPE html>");
   EXPECT_THAT(writeReport(reportOn(line), folder.file("line.htm")).message(), HasSubstr(".html"));
+}
+
+TEST(WebPicture, keepsAPictureInAFractionOfItsBytes) {
+  std::minstd_rand random;
+  QImage image(300, 200, QImage::Format_RGB32);
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const int noise = static_cast<int>(random() % 7);  // as smoothed edges are
+      image.setPixel(x, y, qRgb(x * 200 / 300 + noise, y + noise, 128 - noise));
+    }
+  }
+  image.setPixel(5, 5, qRgb(255, 0, 0));  // what few pixels have is not lost
+  const auto bytesOf = [](const QImage& from) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    from.save(&buffer, "PNG");
+    return bytes;
+  };
+  const QByteArray png = bytesOf(image);
+  const QByteArray small = web::fewColors(png);
+  EXPECT_LT(small.size(), png.size() / 2);
+  const QImage read = QImage::fromData(small);
+  ASSERT_EQ(read.size(), image.size());
+  int furthest = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor a(image.pixel(x, y));
+      const QColor b(read.pixel(x, y));
+      furthest = std::max({furthest, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                           std::abs(a.blue() - b.blue())});
+    }
+  }
+  EXPECT_LT(furthest, 24);
+  EXPECT_EQ(read.pixelColor(5, 5), QColor(255, 0, 0));
+  EXPECT_EQ(web::fewColors("no picture"), QByteArray("no picture"));
 }
 
 TEST(WebText, leavesOutWhatNoPageCanHold) {

@@ -44,6 +44,9 @@ def test_every_line_has_a_row_and_the_bad_ones_their_reason(lines, tmp_path):
         assert [row["line"] for row in csv.DictReader(file)] == sorted(by_name)
     page = (tmp_path / "index.html").read_text()
     assert "odd &amp; &lt;bad&gt;.otte" in page and "<bad>" not in page
+    assert 'href="south.otte.tvsk"' in page and "Velocity section of north" in page
+    assert f">{by_name['north']['section_rmse_ms']:.2f}</td>" in page
+    assert "default-src 'none'" in page and str(lines) not in page
     # A line is that of the batch program by the same recipe.
     said = batch(
         "invert", *sorted((lines / "north").iterdir()), "--pick-method", "joint", "--method",
@@ -61,7 +64,7 @@ def test_a_line_is_gone_as_soon_as_its_row_is_there(lines, tmp_path, filter):
     files = sorted((lines / "north").iterdir())
     recipe = {**RECIPE, "read": {"on_disk": True}, "filter": {"kind": filter}}
     for _ in range(2):
-        row = _campaign.run_line("north", files, tmp_path, recipe)
+        row, _, _ = _campaign.run_line("north", files, tmp_path, recipe)
         assert row["status"] == ("done" if filter == "agc" else "failed")
         assert talvesk.samples_in_use() == before
 
@@ -76,6 +79,40 @@ def test_a_recipe_is_read_from_a_file_and_its_slips_are_told(lines, tmp_path):
             talvesk.campaign(lines, path, tmp_path)
     with pytest.raises(talvesk.Error, match="no line"):
         talvesk.campaign(lines, {"lines": {"pattern": "west*"}}, tmp_path)
+
+
+@pytest.mark.parametrize(
+    "recipe, told",
+    [
+        (5, "a TOML file or a dict"),
+        ({"grid": 5}, "must have words"),
+        ({"grid": {"cell": "wide"}}, "cell must be a number"),
+        ({"grid": {"nodes": 2.5}}, "nodes must be a whole number"),
+        ({"grid": {"nodes": True}}, "nodes must be a whole number"),
+        ({"lines": {"pattern": ["a"]}}, "pattern must be a text"),
+        ({"outputs": {"project": "yes"}}, "true or false"),
+    ],
+)
+def test_what_no_recipe_has_is_an_error_of_talvesk(lines, tmp_path, recipe, told):
+    with pytest.raises(talvesk.Error, match=told):
+        talvesk.campaign(lines, recipe, tmp_path)
+
+
+def test_folders_that_are_none_are_errors_of_talvesk(lines, tmp_path):
+    with pytest.raises(talvesk.Error, match="no such folder"):
+        talvesk.campaign(tmp_path / "gone", {}, tmp_path)
+    (tmp_path / "file").write_text("")
+    with pytest.raises(talvesk.Error, match="Cannot make the folder"):
+        talvesk.campaign(lines, RECIPE, tmp_path / "file")
+
+
+def test_a_text_is_a_line_only_where_it_holds_picks(line, tmp_path):
+    shutil.copy(line / "demo.otte", tmp_path / "a.otte")
+    (tmp_path / "notes.txt").write_text("Rain all day.\nShot 3 twice.\n")
+    (tmp_path / "costs.csv").write_text("item;euro\ndiesel;40\n")
+    with pytest.warns(UserWarning, match="holds no picks") as told:
+        assert list(_campaign.find_lines(tmp_path, {})) == ["a.otte"]
+    assert len(told) == 2
 
 
 @pytest.fixture(scope="module")

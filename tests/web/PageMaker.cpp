@@ -1,3 +1,4 @@
+#include "export/campaign/CampaignPage.h"
 #include "figures/report/Report.h"
 #include "model/KeptRun.h"
 #include "model/Recordings.h"
@@ -6,6 +7,7 @@
 #include "tomo/TomographyRun.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLocale>
 #include <cmath>
 #include <cstdio>
@@ -13,7 +15,8 @@
 #include <vector>
 
 // Writes the web pages that the tests open in a browser, into the folder named: bare (picks only),
-// plain (all that a page can have), hostile (texts that would like to be more), german, large.
+// plain (all that a page can have), hostile (texts that would like to be more), german, large; and
+// into its folder campaign a page on four lines with those of three.
 
 namespace talvesk {
 namespace {
@@ -121,6 +124,29 @@ bool writeHostile(TomoDocument line, const std::string& path) {
   return write(line, options, path);
 }
 
+bool writeCampaign(const TomoDocument& full, const std::string& folder) {
+  QDir().mkpath(QString::fromStdString(folder));
+  TomoDocument poor = full;
+  poor.ttArray.edit()[0].ttMisurati.edit()[9] += 0.02;
+  poor.map.edit().geoCoord = {32632, 600100.0, 600140.0, 5000070.0, 5000025.0};
+  const TomoDocument picked = pickedLine(3, 12);
+  std::vector<CampaignLine> lines = {
+      campaignLineOf(poor, "South"), campaignLineOf(full, "../<b onclick=\"x\">50% & #1?"),
+      campaignLineOf(picked, "No section"), failedLine("Torn", "line.tvsk is not a valid project")};
+  std::vector<std::string> names;
+  for (const CampaignLine& line : lines) names.push_back(line.name);
+  const std::vector<std::string> files = campaignFileNames(names, {"index"});
+  bool good = true;
+  const TomoDocument* documents[] = {&poor, &full, &picked};
+  for (std::size_t i = 0; i < 3; ++i) {
+    lines[i].files = {files[i] + ".html"};
+    good &= write(*documents[i], {}, folder + "/" + lines[i].files[0]);
+  }
+  CampaignTexts texts;
+  texts.client = "A <client>";
+  return good && writeCampaignPage(folder + "/index.html", lines, texts).ok();
+}
+
 bool writeAll(const std::string& folder) {
   const TomoDocument full = fullLine();
   ReportOptions options;
@@ -130,6 +156,7 @@ bool writeAll(const std::string& folder) {
   bool good = write(pickedLine(3, 12), {}, folder + "/bare.html");
   good &= write(full, options, folder + "/plain.html");
   good &= writeHostile(full, folder + "/hostile.html");
+  good &= writeCampaign(full, folder + "/campaign");
   QLocale::setDefault(QLocale(QLocale::German));
   good &= write(full, options, folder + "/german.html");
   QLocale::setDefault(QLocale::c());

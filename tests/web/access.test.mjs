@@ -81,6 +81,40 @@ test('the curves and the section are read by keys alone', async () => {
   await close();
 });
 
+test('recordings and charts of misfit are read by keys alone', async () => {
+  const { page, data, trouble, close } = await open(browser, 'plain');
+  const times = await live(page, 'times');
+  await times.locator('.chart').first().focus();
+  await page.keyboard.press('ArrowRight');
+  await times.locator('.gather .chart').focus();
+  await page.keyboard.press('ArrowUp');
+  await page.keyboard.press('ArrowRight');
+  const { measured } = data.shots[1];
+  const pickFrom = (from) => measured.findIndex((time, i) => i >= from && time !== null);
+  const reachedPick = pickFrom(pickFrom(data.shots[0].measured.findIndex((time) => time !== null)) + 1);
+  const said = await times.locator('.readout').first().textContent();
+  assert.match(said, new RegExp(`^Shot 2, geophone ${reachedPick + 1} at `));
+
+  const { perShot, section } = data.misfit;
+  const reached = {
+    residuals: `Shot 2, RMS ${perShot[1].rms.toFixed(3)} ms, `,
+    history: `Iteration 1, RMS ${section[1].toFixed(3)} ms`,
+    reciprocity: `Shots ${data.reciprocity[1][0]} and ${data.reciprocity[1][1]}, there `,
+  };
+  for (const [name, text] of Object.entries(reached)) {
+    const place = await live(page, name);
+    await place.locator('.chart').first().focus();
+    await page.keyboard.press('ArrowRight');
+    await page.keyboard.press('ArrowRight');
+    for (const part of ['.readout', '.tip']) {
+      const read = await place.locator(part).first().textContent();
+      assert.ok(read.startsWith(text), `${name}: ${read}`);
+    }
+  }
+  assert.deepEqual(trouble, []);
+  await close();
+});
+
 test('headings go down one by one, and every picture and table has a name', async () => {
   const { page, close } = await open(browser, 'plain');
   const levels = await page.locator('h1, h2, h3').evaluateAll((all) => all.map((h) => Number(h.tagName[1])));
@@ -108,14 +142,31 @@ test('the switch turns dark and light, and charts go with it', async () => {
   await close();
 });
 
-test('on paper the still figures stand in for the live ones', async () => {
+test('on paper the still figures stand in for the live ones that have one', async () => {
   const { page, close } = await open(browser, 'plain', { colorScheme: 'dark' });
-  await live(page, 'section');
+  for (const figure of figures) await live(page, figure);
   await page.emulateMedia({ media: 'print' });
-  assert.equal(await page.locator('.live:visible').count(), 0);
+  const onPaper = await page.locator('.live:visible').evaluateAll((all) => all.map((e) => e.dataset.figure));
+  assert.deepEqual(onPaper.sort(), ['map', 'reciprocity', 'residuals']);
   const pictures = await page.locator('img.still').count();
   assert.equal(await page.locator('img.still:visible').count(), pictures);
   const paper = await page.evaluate(() => getComputedStyle(document.body).backgroundColor);
   assert.equal(paper, 'rgb(255, 255, 255)');
+  await close();
+});
+
+test('what has no still figure is drawn for paper, seen before or not', async () => {
+  const { page, trouble, close } = await open(browser, 'plain', { colorScheme: 'dark' });
+  await page.evaluate(() => window.dispatchEvent(new Event('beforeprint')));
+  await page.emulateMedia({ media: 'print' });
+  const charts = page.locator('.live.printed .chart:visible');
+  await charts.nth(2).locator('.main-svg').first().waitFor();
+  assert.equal(await charts.count(), 3);
+  const looks = await charts.evaluateAll((all) => all.map(({ layout }) => [layout.width, layout.font.color]));
+  assert.deepEqual(looks, Array(3).fill([640, '#000']));
+  assert.ok(await page.locator('svg.map').isVisible());
+  await page.evaluate(() => window.dispatchEvent(new Event('afterprint')));
+  assert.notEqual(await charts.first().evaluate(({ layout }) => layout.font.color), '#000');
+  assert.deepEqual(trouble, []);
   await close();
 });

@@ -39,7 +39,7 @@ export async function open(browser, name, options = {}) {
     if (url !== file && !/^(data|blob):/.test(url)) trouble.push(`request: ${url}`);
   });
   await page.goto(file);
-  const data = await page.evaluate(() => JSON.parse(document.getElementById('data').textContent));
+  const data = await page.evaluate(() => JSON.parse(document.getElementById('data')?.textContent ?? 'null'));
   return { page, trouble, data, close: () => context.close() };
 }
 

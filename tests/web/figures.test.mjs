@@ -95,6 +95,9 @@ test('range, palette, contours and exaggeration are those asked for', async () =
   await place.getByLabel('Contour lines').fill('5');
   await place.getByLabel('Contour lines').press('Enter');
   assert.equal(await contours(), 1);
+  const said = await chart.evaluate(({ data: [...all] }) => all.find(({ mode }) => mode === 'text').text);
+  const levels = ['750', '900', '1050', '1200', '1350'];
+  assert.ok(said.length >= 5 && said.every((text) => levels.includes(text)), `${said} of ${levels}`);
   for (const factor of [2, 5]) {
     await place.getByLabel('Vertical exaggeration').selectOption(String(factor));
     await page.waitForTimeout(200);
@@ -104,6 +107,31 @@ test('range, palette, contours and exaggeration are those asked for', async () =
     ]);
     assert.ok(Math.abs(y / x - factor) < 0.02 * factor, `${y / x} for ${factor}`);
   }
+  assert.deepEqual(trouble, []);
+  await close();
+});
+
+test('the wheel with Ctrl zooms around the pointer, and without scrolls the page', async () => {
+  const { page, data, trouble, close } = await open(browser, 'plain');
+  const chart = (await live(page, 'section')).locator('.chart').first();
+  const { x, z } = middleCell(data);
+  const range = () => chart.evaluate((e) => e._fullLayout.xaxis.range.slice());
+  const [a, b] = await range();
+  await page.mouse.move(...(await onScreen(chart, x, z)));
+  await page.keyboard.down('Control');
+  await page.mouse.wheel(0, -100);
+  await page.keyboard.up('Control');
+  await page.waitForTimeout(150);
+  const near = await range();
+  assert.ok(near[1] - near[0] < 0.8 * (b - a));
+  const part = (from, to) => (x - from) / (to - from);
+  assert.ok(Math.abs(part(...near) - part(a, b)) < 0.01, 'what is pointed at stays');
+  const top = () => page.evaluate(() => window.scrollY);
+  const before = await top();
+  await page.mouse.wheel(0, 100);
+  await page.waitForTimeout(300);
+  assert.deepEqual(await range(), near);
+  assert.notEqual(await top(), before);
   assert.deepEqual(trouble, []);
   await close();
 });
@@ -174,6 +202,21 @@ function painted(chart, colors) {
     return wanted.map((color) => counts.get(color) || 0);
   }, colors);
 }
+
+test('no line of a grid runs over picks, traces or cells', async () => {
+  const { page, close } = await open(browser, 'plain');
+  const times = await live(page, 'times');
+  await times.locator('.chart').first().focus();
+  await page.keyboard.press('ArrowRight');
+  await times.locator('.gather image').first().waitFor();
+  const section = await live(page, 'section');
+  for (const chart of [times.locator('.chart').first(), times.locator('.gather .chart'), section.locator('.chart').first()]) {
+    assert.equal(await chart.locator('.gridlayer path').count(), 0);
+  }
+  const grid = await page.evaluate(() => getComputedStyle(document.documentElement).getPropertyValue('--grid').trim());
+  assert.ok((await painted(times.locator('.chart').first(), [grid]))[0] > 500, 'beneath them it is there');
+  await close();
+});
 
 test('curves are switched by shot and by kind', async () => {
   const { page, trouble, close } = await open(browser, 'plain');

@@ -1,11 +1,12 @@
 #include "figures/web/WebPage.h"
 
+#include "base/WebDocument.h"
+#include "base/WebText.h"
 #include "figures/report/ReportPages.h"
-#include "figures/web/WebText.h"
+#include "figures/web/WebPicture.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QFile>
 #include <QJsonDocument>
 #include <QLocale>
@@ -23,9 +24,9 @@ struct WebPageWords {
 
 constexpr const char* kChartLibrary = "chart-library.js";
 /// In the order in which they stand in the page.
-constexpr const char* kScripts[] = {"text.js",   "palettes.js", "mesh.js",  "charts.js",
-                                    "paint.js",  "section.js",  "times.js", "gather.js",
-                                    "misfit.js", "map.js",      "files.js", "page.js"};
+constexpr const char* kScripts[] = {
+    "theme.js", "text.js",   "palettes.js", "mesh.js", "charts.js", "paint.js", "section.js",
+    "times.js", "gather.js", "misfit.js",   "map.js",  "files.js",  "page.js"};
 
 /// A picture with more bytes of shapes than this is smaller as pixels.
 constexpr int kMostShapes = 120000;
@@ -40,11 +41,6 @@ QByteArray ownScript() {
   QByteArray script("'use strict';\n(() => {\n");
   for (const char* name : kScripts) script += resource(name) + '\n';
   return script + "})();\n";
-}
-
-/// What a policy calls a script by.
-QByteArray hashOf(const QByteArray& script) {
-  return "'sha256-" + QCryptographicHash::hash(script, QCryptographicHash::Sha256).toBase64() + "'";
 }
 
 QString nameOf(LiveFigure live) {
@@ -159,7 +155,7 @@ class BodyWriter {
     mBody += QStringLiteral("<tbody>\n");
     for (const QStringList& row : table.rows) addRow(table, row, !item.text.isEmpty());
     mBody += QStringLiteral("</tbody>\n</table>\n</div>\n");
-    if (item.live != LiveFigure::kNone) addLive(item.live);
+    if (item.live != LiveFigure::kNone) addLive(item.live, true);
   }
 
   void addHeadings(const ReportTable& table) {
@@ -190,10 +186,10 @@ class BodyWriter {
     return column.number ? QStringLiteral(" class=\"number\"") : QString();
   }
 
-  /// The place of a live figure; a script fills it.
-  void addLive(LiveFigure live) {
-    mBody +=
-        QStringLiteral("<div class=\"live\" data-figure=\"%1\" hidden></div>\n").arg(nameOf(live));
+  /// The place of a live figure; a script fills it. One without a still figure is printed, too.
+  void addLive(LiveFigure live, bool printed) {
+    mBody += QStringLiteral("<div class=\"live%1\" data-figure=\"%2\" hidden></div>\n")
+                 .arg(printed ? QStringLiteral(" printed") : QString(), nameOf(live));
   }
 
   Status addFigure(const ReportItem& item) {
@@ -205,12 +201,13 @@ class BodyWriter {
       sheet.dpi = kFigureDpi;
       type = QStringLiteral("png");
       status = paintFigure(FigureFormat::kPng, sheet, item.figure.paint, picture);
+      if (status.ok()) picture = web::fewColors(picture);
     }
     if (!status.ok()) return status;
     // Of residuals the live figures show other sides than the still one, which stays.
     const bool beside = item.live == LiveFigure::kResiduals;
     mBody += QStringLiteral("<figure>\n");
-    if (item.live != LiveFigure::kNone && !beside) addLive(item.live);
+    if (item.live != LiveFigure::kNone && !beside) addLive(item.live, false);
     mBody +=
         QStringLiteral("<img class=\"still\" width=\"%1\" alt=\"%2\" src=\"data:image/%3;base64,")
             .arg(qRound(item.figure.sheet.widthMm / kMmPerInch * 96.0))
@@ -218,7 +215,7 @@ class BodyWriter {
     mBody += QString::fromLatin1(picture.toBase64());
     mBody += QStringLiteral("\">\n<figcaption>%1</figcaption>\n</figure>\n")
                  .arg(web::escaped(item.text));
-    if (beside) addLive(item.live);
+    if (beside) addLive(item.live, true);
     if (mGoOn && !mGoOn(++mFigures)) {
       return Status::failure(Message::tr("The report was stopped."), kReportCancelled);
     }
@@ -232,26 +229,6 @@ class BodyWriter {
   int mChapters = 0;
   int mFigures = 0;
 };
-
-QByteArray headOf(const ReportContent& content, const QByteArray& library,
-                  const QByteArray& script) {
-  // The library sets styles on what it draws, which no hash can name; a style can load nothing.
-  const QByteArray policy = "default-src 'none'; script-src " + hashOf(library) + " " +
-                            hashOf(script) +
-                            "; style-src 'unsafe-inline'; img-src data: blob:; base-uri 'none'; "
-                            "form-action 'none'";
-  QByteArray head = "<!DOCTYPE html>\n<html lang=\"" + content.language.toUtf8() +
-                    "\">\n<head>\n<meta charset=\"utf-8\">\n"
-                    "<meta http-equiv=\"Content-Security-Policy\" content=\"" +
-                    policy +
-                    "\">\n<meta name=\"viewport\" content=\"width=device-width, "
-                    "initial-scale=1\">\n<meta name=\"generator\" content=\"Talvesk\">\n";
-  if (!content.author.isEmpty()) {
-    head += "<meta name=\"author\" content=\"" + web::escaped(content.author).toUtf8() + "\">\n";
-  }
-  return head + "<title>" + web::escaped(content.title).toUtf8() + "</title>\n<style>\n" +
-         resource("page.css") + "</style>\n</head>\n";
-}
 
 QByteArray pageSizeOf(const ReportContent& content) {
   return content.paper == ReportPaper::kA4 ? "a4" : "letter";
@@ -270,15 +247,18 @@ Status reportAsHtml(const ReportContent& content, const std::function<bool(int)>
   }
   QString body;
   if (Status status = BodyWriter(content, goOn).write(body); !status.ok()) return status;
-  const QByteArray script = ownScript();
-  const QJsonObject data = content.liveData ? content.liveData() : QJsonObject();
-  bytes = headOf(content, library, script) + "<body class=\"" + pageSizeOf(content) +
-          "\">\n<a class=\"skip\" href=\"#content\">" +
-          web::escaped(WebPageWords::tr("Skip to the content")).toUtf8() + "</a>\n" +
-          body.toUtf8() + "<script type=\"application/json\" id=\"data\">" +
-          web::scriptSafe(QJsonDocument(data).toJson(QJsonDocument::Compact)) +
-          "</script>\n<script>" + library + "</script>\n<script>" + script +
-          "</script>\n</body>\n</html>\n";
+  web::Document page;
+  page.language = content.language;
+  page.title = content.title;
+  page.author = content.author;
+  page.style = resource("page.css");
+  page.bodyClass = pageSizeOf(content);
+  page.skip = WebPageWords::tr("Skip to the content");
+  page.body = body.toUtf8();
+  page.data = QJsonDocument(content.liveData ? content.liveData() : QJsonObject())
+                  .toJson(QJsonDocument::Compact);
+  page.scripts = {library, ownScript()};
+  bytes = web::documentBytes(page);
   return {};
 }
 

@@ -69,6 +69,9 @@ void addTimes(QJsonObject& words) {
   words[QStringLiteral("computedColumn")] = WebPageWords::tr("Computed [ms]");
   words[QStringLiteral("misfitColumn")] = WebPageWords::tr("Misfit [ms]");
   words[QStringLiteral("gather")] = WebPageWords::tr("Recording of the shot");
+  words[QStringLiteral("gatherHelp")] = WebPageWords::tr(
+      "Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 "
+      "shows all.");
   words[QStringLiteral("noGather")] = WebPageWords::tr("There is no recording of this shot.");
   words[QStringLiteral("gatherLeftOut")] = WebPageWords::tr(
       "The recording of this shot is left out: those of the shots before it are as much as a page "
@@ -76,6 +79,10 @@ void addTimes(QJsonObject& words) {
 }
 
 void addMisfit(QJsonObject& words) {
+  words[QStringLiteral("marksHelp")] = WebPageWords::tr(
+      "Point at a mark to read it. Keys: left and right go from mark to mark, + and - zoom, 0 "
+      "shows "
+      "all.");
   words[QStringLiteral("misfitPerShot")] = WebPageWords::tr("Misfit of every shot");
   words[QStringLiteral("misfitPerGeophone")] = WebPageWords::tr("Misfit of every geophone");
   words[QStringLiteral("misfitPerIteration")] = WebPageWords::tr("Misfit of every iteration");

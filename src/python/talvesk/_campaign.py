@@ -2,10 +2,11 @@
 
 import csv
 import fnmatch
-import html
+import os
 import pathlib
 import tomllib
 import traceback
+import warnings
 
 from . import _talvesk
 
@@ -24,47 +25,72 @@ COLUMNS = (
 
 _SHOTS = (".sg2", ".seg2", ".dat", ".sgy", ".segy", ".su")
 _OUTPUTS = {"project": ".tvsk", "sgt": ".sgt", "vtk": ".vtu", "picture": ".png"}
+_PICKS = (".otte", ".sgt", ".tvsk")
+_PERHAPS_PICKS = (".csv", ".xyz", ".txt")  # by what is in them
+_NUMBER = (int, float)
+_LIST = (list, tuple)
+# What a recipe may say, and of what kind each of it is.
 _SECTIONS = {
-    "lines": {"pattern", "files"},
-    "read": {"reader", "time_unit", "as_recorded", "on_disk"},
-    "mend": {"sure"},
-    "filter": {"kind", "low", "high", "low_order", "high_order"},
-    "pick": {"method", "filtered", "slowest", "fastest", "worst"},
-    "grid": {"cell", "depth", "nodes", "layers"},
-    "invert": {
-        "method", "iterations", "min_velocity", "max_velocity", "solver_iterations", "smoothing",
-        "smoothing_type", "symmetric", "coarse_to_fine", "reference", "sigma", "robust", "blocky",
-        "statics",
+    "lines": {"pattern": str, "files": str},
+    "read": {"reader": str, "time_unit": str, "as_recorded": bool, "on_disk": bool},
+    "mend": {"sure": _NUMBER},
+    "filter": {"kind": str, "low": _NUMBER, "high": _NUMBER, "low_order": int, "high_order": int},
+    "pick": {
+        "method": str, "filtered": bool, "slowest": _NUMBER, "fastest": _NUMBER, "worst": _NUMBER,
     },
-    "certainty": {"members", "seed", "isovalues"},
-    "outputs": set(_OUTPUTS),
+    "grid": {"cell": _NUMBER, "depth": _NUMBER, "nodes": int, "layers": _LIST},
+    "invert": {
+        "method": str, "iterations": int, "min_velocity": _NUMBER, "max_velocity": _NUMBER,
+        "solver_iterations": int, "smoothing": int, "smoothing_type": str, "symmetric": bool,
+        "coarse_to_fine": bool, "reference": str, "sigma": _LIST, "robust": bool, "blocky": bool,
+        "statics": bool,
+    },
+    "certainty": {"members": int, "seed": int, "isovalues": _LIST},
+    "outputs": dict.fromkeys(_OUTPUTS, bool),
 }  # fmt: skip
 
 
 def read_recipe(recipe):
     """A recipe as a dict, from a TOML file or a dict; raises Error for what no recipe has."""
     if not isinstance(recipe, dict):
+        if not isinstance(recipe, (str, os.PathLike)):
+            raise _talvesk.Error(f"A recipe is a TOML file or a dict, not {recipe!r}")
         try:
             with open(recipe, "rb") as file:
                 recipe = tomllib.load(file)
-        except (OSError, tomllib.TOMLDecodeError) as error:
+        except (OSError, ValueError) as error:
             raise _talvesk.Error(f"{recipe}: {error}") from error
     for section, values in recipe.items():
         if section not in _SECTIONS:
             raise _talvesk.Error(f"[{section}] is no part of a recipe: {', '.join(_SECTIONS)}")
-        for key in values:
-            if key not in _SECTIONS[section]:
-                known = ", ".join(sorted(_SECTIONS[section]))
-                raise _talvesk.Error(f"[{section}] has no '{key}': {known}")
+        if not isinstance(values, dict):
+            raise _talvesk.Error(f"[{section}] must have words with values, not {values!r}")
+        for key, value in values.items():
+            _check(section, key, value)
     return recipe
+
+
+def _check(section, key, value):
+    words = _SECTIONS[section]
+    if key not in words:
+        raise _talvesk.Error(f"[{section}] has no '{key}': {', '.join(sorted(words))}")
+    kind = words[key]
+    # True counts as a number in Python, and nowhere else.
+    if isinstance(value, kind) and (kind is bool or not isinstance(value, bool)):
+        return
+    wanted = {str: "a text", bool: "true or false", int: "a whole number", _LIST: "a list"}
+    raise _talvesk.Error(f"[{section}] {key} must be {wanted.get(kind, 'a number')}, not {value!r}")
 
 
 def find_lines(folder, recipe):
     """The lines of a campaign: name and files, by name.
 
     A folder with shot files is a line, and so is a file of picks or a project in the folder itself.
+    Of tables and texts those are that hold picks; a warning names the others.
     """
     folder = pathlib.Path(folder)
+    if not folder.is_dir():
+        raise _talvesk.Error(f"{folder}: there is no such folder")
     lines = recipe.get("lines", {})
     pattern = lines.get("pattern", "*")
     files = lines.get("files")
@@ -76,11 +102,21 @@ def find_lines(folder, recipe):
             inside = sorted(one for one in path.iterdir() if _is_input(one, files))
             if inside:
                 found[path.name] = inside
-        elif path.suffix.lower() in (".otte", ".sgt", ".tvsk", ".csv", ".xyz", ".txt"):
+        elif _is_picks(path):
             found[path.name] = [path]
     if not found:
         raise _talvesk.Error(f"{folder}: there is no line in it that the recipe asks for")
     return found
+
+
+def _is_picks(path):
+    suffix = path.suffix.lower()
+    if suffix in _PICKS or suffix not in _PERHAPS_PICKS:
+        return suffix in _PICKS
+    if _talvesk._holds_picks(path):
+        return True
+    warnings.warn(f"{path.name} holds no picks and is not taken for a line", stacklevel=4)
+    return False
 
 
 def _is_input(path, files):
@@ -109,6 +145,8 @@ def _survey_of(files, recipe):
 
 
 def _write(result, survey, stem, outputs):
+    """Writes the outputs of a line, and tells their names."""
+    written = []
     for key, suffix in _OUTPUTS.items():
         if not outputs.get(key, key == "project"):
             continue
@@ -121,6 +159,8 @@ def _write(result, survey, stem, outputs):
             result.to_vtk(path)
         else:
             _draw(result, path)
+        written.append(path.name)
+    return written
 
 
 def _draw(result, path):
@@ -135,7 +175,11 @@ def _draw(result, path):
 
 
 def run_line(name, files, out, recipe):
-    """One line from its files to its outputs; what goes wrong is in the row, never raised."""
+    """One line from its files to its outputs; what goes wrong is in the row, never raised.
+
+    Returns the row, and what the page of the campaign shows of the line: its files, and a dict.
+    """
+    files_out, shown = [], {}
     row = dict.fromkeys(COLUMNS, "")
     row["line"] = name
     _talvesk._collect_warnings()
@@ -148,7 +192,8 @@ def run_line(name, files, out, recipe):
         if "certainty" in recipe:
             sure = _talvesk.certainty(result, **recipe["certainty"], single_thread=True)
             finished = sure.survey
-        _write(result, finished, pathlib.Path(out) / name, recipe.get("outputs", {}))
+        files_out = _write(result, finished, pathlib.Path(out) / name, recipe.get("outputs", {}))
+        shown = _talvesk._campaign_line(finished)
         row.update(
             status="done",
             shots=len(survey),
@@ -164,7 +209,7 @@ def run_line(name, files, out, recipe):
         last = traceback.extract_tb(error.__traceback__)[-1]
         row.update(status="failed", failure=f"{type(error).__name__}: {error} ({last.name})")
     row["warnings"] = "; ".join(dict.fromkeys(_talvesk._collected_warnings()))
-    return row
+    return row, files_out, shown
 
 
 def campaign(folder, recipe, out, *, client=None, progress=None):
@@ -177,16 +222,20 @@ def campaign(folder, recipe, out, *, client=None, progress=None):
     recipe = read_recipe(recipe)
     lines = find_lines(folder, recipe)
     out = pathlib.Path(out)
-    out.mkdir(parents=True, exist_ok=True)
+    try:
+        out.mkdir(parents=True, exist_ok=True)
+    except OSError as error:
+        raise _talvesk.Error(f"Cannot make the folder {out}: {error.strerror}") from error
     tasks = [(name, [str(file) for file in files], str(out), recipe) for name, files in lines.items()]
-    rows = []
-    for row in _run(tasks, client):
-        rows.append(row)
+    done = []
+    for one in _run(tasks, client):
+        done.append(one)
         if progress is not None:
-            progress({"completed": len(rows), "total": len(tasks), "line": row["line"]})
-    rows.sort(key=lambda row: row["line"])
+            progress({"completed": len(done), "total": len(tasks), "line": one[0]["line"]})
+    done.sort(key=lambda one: one[0]["line"])
+    rows = [row for row, _, _ in done]
     _write_table(rows, out / "campaign.csv")
-    _write_page(rows, out / "index.html", recipe)
+    _write_page(done, out / "index.html", folder)
     return rows
 
 
@@ -206,37 +255,29 @@ def _run(tasks, client):
 
 
 def _write_table(rows, path):
-    with open(path, "w", newline="", encoding="utf-8") as file:
-        writer = csv.DictWriter(file, COLUMNS)
-        writer.writeheader()
-        writer.writerows(rows)
+    try:
+        with open(path, "w", newline="", encoding="utf-8") as file:
+            writer = csv.DictWriter(file, COLUMNS)
+            writer.writeheader()
+            writer.writerows(rows)
+    except OSError as error:
+        raise _talvesk.Error(f"Cannot write {path}: {error.strerror}") from error
 
 
-def _cell(value):
-    return html.escape(f"{value:.4g}" if isinstance(value, float) else str(value))
+def _write_page(done, path, folder):
+    """The page that talvesk-batch export --report-index writes, too, on the lines as they are here."""
 
+    def plain(text):  # who reads the page need not know the folders of who wrote it
+        return text.replace(f"{pathlib.Path(folder)}{os.sep}", "")
 
-def _write_page(rows, path, recipe):
-    """One page that opens anywhere: the table, with the pictures where the recipe asks for them."""
-    done = sum(row["status"] == "done" for row in rows)
-    picture = bool(recipe.get("outputs", {}).get("picture"))
-    head = "".join(f"<th scope=col>{_cell(name)}</th>" for name in COLUMNS)
-    body = []
-    for row in rows:
-        cells = "".join(f"<td>{_cell(row[name])}</td>" for name in COLUMNS)
-        body.append(f"<tr class={row['status']}>{cells}</tr>")
-        if picture and row["status"] == "done":
-            name = html.escape(row["line"], quote=True)
-            body.append(
-                f'<tr><td colspan={len(COLUMNS)}><img loading=lazy src="{name}.png" '
-                f'alt="Velocity section of {name}"></td></tr>'
-            )
-    page = f"""<!DOCTYPE html>
-<html lang="en"><meta charset="utf-8"><title>Campaign</title>
-<style>body{{font-family:sans-serif;margin:2em}}table{{border-collapse:collapse}}
-td,th{{border:1px solid #bbb;padding:.3em .6em;text-align:left;vertical-align:top}}
-.failed{{background:#fde8e8}}img{{max-width:60em}}</style>
-<h1>Campaign</h1><p>{done} of {len(rows)} lines inverted.</p>
-<table><thead><tr>{head}</tr></thead><tbody>{"".join(body)}</tbody></table></html>
-"""
-    path.write_text(page, encoding="utf-8")
+    lines = [
+        (
+            row["line"],
+            plain(row["failure"]),
+            files,
+            [plain(row["warnings"])] if row["warnings"] else [],
+            shown,
+        )
+        for row, files, shown in done
+    ]
+    _talvesk._write_campaign_page(path, lines)

@@ -1,4 +1,4 @@
-#include "figures/web/WebText.h"
+#include "base/WebText.h"
 
 #include <QLocale>
 #include <QRegularExpression>
