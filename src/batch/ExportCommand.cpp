@@ -1,5 +1,6 @@
 #include "batch/Commands.h"
 #include "batch/Diagnostics.h"
+#include "batch/DrawingExports.h"
 #include "batch/Failure.h"
 #include "batch/FittedSection.h"
 #include "batch/Images.h"
@@ -42,6 +43,7 @@ std::vector<OutputFile> outputsOf(const ExportOptions& options) {
                                      {"--kml-section", options.kmlSection},
                                      {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  for (const OutputFile& file : filesOf(options.drawings)) outputs.push_back(file);
   for (const std::string& file : options.refractors) outputs.push_back({"--refractor", file});
   return outputs;
 }
@@ -98,6 +100,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
     return system.ok() ? writeSectionKml(path, document, *colors.palette, colors.range)
                        : cannotWrite(path, system.message());
   });
+  writeDrawings(options.drawings, project, checkSystem(options), attempt);
   warnAboutCertainty(document);
   const SectionFigureOptions section = sectionFigureOptions(
       project.section, project.palettes->current(), profileLines(document, project.interpretation));
@@ -131,6 +134,7 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
 /// Where the layered profile is drawn or told.
 void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project) {
   const bool shown = !options.report.empty() || !options.refractors.empty() ||
+                     options.drawings.drawsLines() ||
                      (!options.images.empty() && project.section.refraction);
   if (shown && picksChangedSince(project.document, project.interpretation->refractData)) {
     warn("picks have changed since the layered profile was built");

@@ -1,3 +1,4 @@
+#include "batch/DrawingExports.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
 
@@ -110,6 +111,7 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
             "The section as the project shows it: .png, .svg or .pdf; once per picture")
       ->group(kOutputGroup);
   CLI::Option* report = addReport(app, options.report, options.reportFields);
+  const std::vector<CLI::Option*> onMap = addDrawingExports(app, options.drawings);
 
   const auto geography = [&options]() -> geographicsCoord& {
     if (!options.geography) options.geography.emplace();
@@ -148,9 +150,15 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
           })
       ->needs(section)
       ->group(kColorGroup);
-  epsg->check([line, section, report](const std::string&) -> std::string {
-    if (line->count() > 0 || section->count() > 0 || report->count() > 0) return {};
-    return "only --kml-line, --kml-section and --report tell the place of the line";
+  std::vector<CLI::Option*> placed = {line, section, report};
+  placed.insert(placed.end(), onMap.begin(), onMap.end());
+  epsg->check([placed](const std::string&) -> std::string {
+    std::string names;
+    for (const CLI::Option* option : placed) {
+      if (option->count() > 0) return {};
+      names += (names.empty() ? "" : option == placed.back() ? " and " : ", ") + option->get_name();
+    }
+    return "only " + names + " tell the place of the line";
   });
 }
 
@@ -171,6 +179,9 @@ void addExport(CLI::App& app, ExportOptions& options) {
   command.add_flag("--quiet", options.quiet, kQuietHelp);
   command.final_callback([&options] {
     if (!options.anyOutput()) throw CLI::ValidationError("export", "no file to write is given");
+    if (!options.drawings.isovalues.empty() && !options.drawings.drawsLines()) {
+      throw CLI::ValidationError("--isovalues", "only --dxf and --gpkg have lines of velocities");
+    }
   });
 }
 
