@@ -17,6 +17,7 @@
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
+#include "io/PickedCopies.h"
 #include "io/project/projectReader.h"
 #include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
@@ -26,6 +27,7 @@
 #include "refraction/PicksFingerprint.h"
 #include "tomo/RayRecomputation.h"
 
+#include <QDir>
 #include <ostream>
 
 namespace talvesk {
@@ -76,6 +78,19 @@ Status checkSystem(const ExportOptions& options) {
   return options.geography ? GeoTransformer(options.geography->CRS).status() : Status();
 }
 
+void copyRecords(const ExportOptions& options, const TomoDocument& document,
+                 OutputAttempts& attempt) {
+  attempt(options.pickedRecords, [&](const std::string& folder) {
+    if (!QDir().mkpath(QString::fromStdString(folder))) {
+      return Status::failure("Cannot make the folder " + folder);
+    }
+    std::vector<Message> notes;
+    const Status status = writePickedCopies(document, folder, notes);
+    for (const std::string& note : notes) warn(note);
+    return status;
+  });
+}
+
 int writeFiles(const ExportOptions& options, const LoadedProject& project, const KmlColors& colors,
                std::ostream& summary) {
   const TomoDocument& document = project.document;
@@ -100,6 +115,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
     return system.ok() ? writeSectionKml(path, document, *colors.palette, colors.range)
                        : cannotWrite(path, system.message());
   });
+  copyRecords(options, document, attempt);
   writeDrawings(options.drawings, project, checkSystem(options), attempt);
   warnAboutCertainty(document);
   const SectionFigureOptions section = sectionFigureOptions(

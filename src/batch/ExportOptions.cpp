@@ -103,6 +103,12 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
   output("--sgt", options.sgt, ".sgt", kUnifiedHelp);
   addPath(app, "--residuals", options.residuals, kResidualsHelp)->group(kOutputGroup);
   addRefractor(app, options);
+  addPath(app, "--pick-headers", options.pickedRecords,
+          "Copies of the shot files with the picks in their trace headers, into this folder, which "
+          "is made when it does not exist: FIRST_BREAK in seconds in SEG-2, whole microseconds in "
+          "bytes 233 to 236 in SEG-Y and SU")
+      ->type_name("DIR")
+      ->group(kOutputGroup);
   CLI::Option* line = output("--kml-line", options.kmlLine, ".kml",
                              "Geophones and shots as marks on the globe, named *.kml");
   CLI::Option* section = output("--kml-section", options.kmlSection, ".kml",

@@ -265,6 +265,7 @@ struct ExportOptions {
   std::string kmlLine;
   std::string kmlSection;
   DrawingExports drawings;
+  std::string pickedRecords;        ///< folder for shot files with picks in their headers
   std::vector<std::string> images;  ///< one picture of the section per path
   std::string report;
   ReportFields reportFields;
@@ -274,7 +275,7 @@ struct ExportOptions {
   bool quiet = false;
 
   bool anyOutput() const {
-    return !images.empty() || !refractors.empty() || drawings.any() ||
+    return !images.empty() || !refractors.empty() || drawings.any() || !pickedRecords.empty() ||
            !(gridded + otte + sgt + residuals + vtk + surfer + certainty + kmlLine + kmlSection +
              report)
                 .empty();

@@ -115,6 +115,32 @@ TEST(Export, drawsInMetresOfTheLineOrOnTheMap) {
   EXPECT_EQ(runBatch({"export", project, "--dxf", folder / "x.dxf", "--isovalues", "6e9"}).code, 2);
 }
 
+TEST(Export, copiesShotFilesWithPicksInTheirHeaders) {
+  const Folder folder;
+  ASSERT_EQ(runBatch({"demo", folder / "line", "--quiet"}).code, 0);
+  const std::string project = folder / "line.tvsk";
+  ASSERT_EQ(runBatch({"pick", folder / "line/shot01.sg2", folder / "line/shot02.sg2", "--project",
+                      project, "--quiet"})
+                .code,
+            0);
+  const Outcome outcome = runBatch({"export", project, "--pick-headers", folder / "picked"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  for (const char* file : {"shot01.sg2", "shot02.sg2"}) {
+    const std::string copy = folder / (std::string("picked/") + file);
+    EXPECT_THAT(contentsOf(copy), HasSubstr("FIRST_BREAK 0."));
+    const std::string source = folder / (std::string("line/") + file);
+    const auto traces = [](const std::string& path) {
+      const std::string json = runBatch({"info", "--json", "-", "--samples", path}).out;
+      return json.substr(json.find("\"traces\""));
+    };
+    EXPECT_EQ(traces(copy), traces(source)) << "read by both readers";
+  }
+  const Outcome without =
+      runBatch({"export", writeProject(folder), "--pick-headers", folder / "none"});
+  EXPECT_EQ(without.code, 1);
+  EXPECT_THAT(without.err, HasSubstr("no shot files"));
+}
+
 TEST(Export, drawsAndReportsWithoutADisplay) {
   const Folder folder;
   const std::string project = writeProject(folder);
