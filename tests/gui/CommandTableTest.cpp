@@ -144,8 +144,8 @@ TEST_F(Commands, tellWhatLibrariesTheProgramIsBuiltWith) {
     page.setHtml(dynamic_cast<QMessageBox&>(widget).text());
     const std::string text = page.toPlainText().toStdString();
     for (const char* name :
-         {"Talvesk 2022.0", "Qt", "VTK", "Qwt", "PROJ", "libzip", "liquid-dsp", "Eigen", "cereal",
-          "LGPL", "BSD 3-Clause", "MIT", "MPL 2.0", qVersion()}) {
+         {"Talvesk 2022.0", "Qt", "VTK", "Qwt", "PROJ", "libzip", "SQLite", "liquid-dsp", "Eigen",
+          "cereal", "LGPL", "BSD 3-Clause", "MIT", "MPL 2.0", qVersion()}) {
       EXPECT_THAT(text, HasSubstr(name));
     }
     widget.close();
