@@ -1,5 +1,6 @@
 #include "batch/Commands.h"
 #include "batch/Diagnostics.h"
+#include "batch/DrawingExports.h"
 #include "batch/Failure.h"
 #include "batch/FittedSection.h"
 #include "batch/FreshTimes.h"
@@ -18,6 +19,7 @@
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
+#include "io/PickedCopies.h"
 #include "io/project/projectReader.h"
 #include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
@@ -25,6 +27,7 @@
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 
+#include <QDir>
 #include <ostream>
 
 namespace talvesk {
@@ -42,6 +45,7 @@ std::vector<OutputFile> outputsOf(const ExportOptions& options) {
                                      {"--kml-section", options.kmlSection},
                                      {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
+  for (const OutputFile& file : filesOf(options.drawings)) outputs.push_back(file);
   for (const std::string& file : options.refractors) outputs.push_back({"--refractor", file});
   return outputs;
 }
@@ -74,6 +78,19 @@ Status checkSystem(const ExportOptions& options) {
   return options.geography ? GeoTransformer(options.geography->CRS).status() : Status();
 }
 
+void copyRecords(const ExportOptions& options, const TomoDocument& document,
+                 OutputAttempts& attempt) {
+  attempt(options.pickedRecords, [&](const std::string& folder) {
+    if (!QDir().mkpath(QString::fromStdString(folder))) {
+      return Status::failure("Cannot make the folder " + folder);
+    }
+    std::vector<Message> notes;
+    const Status status = writePickedCopies(document, folder, notes);
+    for (const std::string& note : notes) warn(note);
+    return status;
+  });
+}
+
 int writeFiles(const ExportOptions& options, const LoadedProject& project, const KmlColors& colors,
                std::ostream& summary) {
   const TomoDocument& document = project.document;
@@ -98,6 +115,8 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
     return system.ok() ? writeSectionKml(path, document, *colors.palette, colors.range)
                        : cannotWrite(path, system.message());
   });
+  copyRecords(options, document, attempt);
+  writeDrawings(options.drawings, project, checkSystem(options), attempt);
   warnAboutCertainty(document);
   const SectionFigureOptions section = sectionFigureOptions(
       project.section, project.palettes->current(), profileLines(document, project.interpretation));
@@ -124,6 +143,7 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
 /// Where the layered profile is drawn or told.
 void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project) {
   const bool shown = !options.report.empty() || !options.refractors.empty() ||
+                     options.drawings.drawsLines() ||
                      (!options.images.empty() && project.section.refraction);
   if (shown && picksChangedSince(project.document, project.interpretation->refractData)) {
     warn("picks have changed since the layered profile was built");

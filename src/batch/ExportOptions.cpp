@@ -1,3 +1,4 @@
+#include "batch/DrawingExports.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
 
@@ -141,6 +142,12 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
   output("--sgt", options.sgt, ".sgt", kUnifiedHelp);
   addPath(app, "--residuals", options.residuals, kResidualsHelp)->group(kOutputGroup);
   addRefractor(app, options);
+  addPath(app, "--pick-headers", options.pickedRecords,
+          "Copies of the shot files with the picks in their trace headers, into this folder, which "
+          "is made when it does not exist: FIRST_BREAK in seconds in SEG-2, whole microseconds in "
+          "bytes 233 to 236 in SEG-Y and SU")
+      ->type_name("DIR")
+      ->group(kOutputGroup);
   CLI::Option* line = output("--kml-line", options.kmlLine, ".kml",
                              "Geophones and shots as marks on the globe, named *.kml");
   CLI::Option* section = output("--kml-section", options.kmlSection, ".kml",
@@ -150,6 +157,7 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
       ->group(kOutputGroup);
   CLI::Option* report = addReport(app, options.report, options.reportFields);
   addReportIndex(app, report, options);
+  const std::vector<CLI::Option*> onMap = addDrawingExports(app, options.drawings);
 
   const auto geography = [&options]() -> geographicsCoord& {
     if (!options.geography) options.geography.emplace();
@@ -188,9 +196,15 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
           })
       ->needs(section)
       ->group(kColorGroup);
-  epsg->check([line, section, report](const std::string&) -> std::string {
-    if (line->count() > 0 || section->count() > 0 || report->count() > 0) return {};
-    return "only --kml-line, --kml-section and --report tell the place of the line";
+  std::vector<CLI::Option*> placed = {line, section, report};
+  placed.insert(placed.end(), onMap.begin(), onMap.end());
+  epsg->check([placed](const std::string&) -> std::string {
+    std::string names;
+    for (const CLI::Option* option : placed) {
+      if (option->count() > 0) return {};
+      names += (names.empty() ? "" : option == placed.back() ? " and " : ", ") + option->get_name();
+    }
+    return "only " + names + " tell the place of the line";
   });
 }
 
@@ -212,7 +226,12 @@ void addExport(CLI::App& app, ExportOptions& options) {
       ->type_name("RUN");
   addOutputs(command, options);
   command.add_flag("--quiet", options.quiet, kQuietHelp);
-  command.final_callback([&options] { checkProjects(options); });
+  command.final_callback([&options] {
+    checkProjects(options);
+    if (!options.drawings.isovalues.empty() && !options.drawings.drawsLines()) {
+      throw CLI::ValidationError("--isovalues", "only --dxf and --gpkg have lines of velocities");
+    }
+  });
 }
 
 }  // namespace talvesk

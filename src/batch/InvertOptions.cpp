@@ -224,16 +224,6 @@ std::vector<CLI::Option*> addFitOptions(CLI::App& app, InvertOptions& options) {
   return own;
 }
 
-/// "600,1500".
-std::vector<double> readVelocities(const std::string& option, const std::string& text) {
-  std::vector<double> velocities;
-  for (const std::string_view field : splitFields(text, ',')) {
-    velocities.push_back(
-        numberWithin(option, std::string(field), rangeOf(parameters::kMinVelocity)));
-  }
-  return velocities;
-}
-
 /// \return the options, which go with a fitted section alone
 std::vector<CLI::Option*> addCertaintyOptions(CLI::App& app, InvertOptions& options) {
   using parameters::kMembers, parameters::kSeed;
@@ -249,7 +239,7 @@ std::vector<CLI::Option*> addCertaintyOptions(CLI::App& app, InvertOptions& opti
       app.add_option_function<std::string>(
              name,
              [&options, name](const std::string& text) {
-               options.isovalues = readVelocities(name, text);
+               options.isovalues = velocitiesWithin(name, text);
              },
              "With --certainty: velocities in m/s; --json has the depths at which they are reached")
           ->type_name("V,V...");

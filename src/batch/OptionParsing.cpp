@@ -56,6 +56,15 @@ CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,
   return app.add_option(name, path, help)->type_name("FILE");
 }
 
+std::vector<double> velocitiesWithin(const std::string& option, const std::string& text) {
+  std::vector<double> velocities;
+  for (const std::string_view field : splitFields(text, ',')) {
+    velocities.push_back(
+        numberWithin(option, std::string(field), rangeOf(parameters::kMinVelocity)));
+  }
+  return velocities;
+}
+
 CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase,
                        bool pipesToo) {
   const bool pipes = pipesToo || suffixes.size() == 1;

@@ -110,6 +110,9 @@ CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, b
 /// CLI::ValidationError.
 double readGrading(const std::string& option, const std::string& text);
 
+/// Velocities with commas between them, m/s. Throws CLI::ValidationError.
+std::vector<double> velocitiesWithin(const std::string& option, const std::string& text);
+
 /// Breaks the help texts of a command and its subcommands into lines that fit a terminal.
 void wrapHelp(CLI::App& app);
 

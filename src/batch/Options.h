@@ -234,6 +234,18 @@ struct ElasticBatchOptions {
   bool quiet = false;
 };
 
+/// What is written of a project for programs that draw and for maps.
+struct DrawingExports {
+  std::string dxf;
+  bool dxfOnMap = false;              ///< in space by map coordinates, else distance and elevation
+  std::vector<std::string> curtains;  ///< the cells on the map: .vtu or .csv
+  std::string geoPackage;
+  std::vector<double> isovalues;  ///< m/s; none: as the project shows them, else round ones
+
+  bool any() const { return drawsLines() || !curtains.empty(); }
+  bool drawsLines() const { return !(dxf + geoPackage).empty(); }
+};
+
 /// What is written of the section of a project, or of many projects together.
 struct ExportOptions {
   std::vector<std::string> projects;  ///< of `index`
@@ -254,6 +266,8 @@ struct ExportOptions {
   std::string certainty;  ///< table of how sure the section is
   std::string kmlLine;
   std::string kmlSection;
+  DrawingExports drawings;
+  std::string pickedRecords;        ///< folder for shot files with picks in their headers
   std::vector<std::string> images;  ///< one picture of the section per path
   std::string report;
   ReportFields reportFields;
@@ -263,7 +277,7 @@ struct ExportOptions {
   bool quiet = false;
 
   bool anyOutput() const {
-    return !images.empty() || !refractors.empty() ||
+    return !images.empty() || !refractors.empty() || drawings.any() || !pickedRecords.empty() ||
            !(gridded + otte + sgt + residuals + vtk + surfer + certainty + kmlLine + kmlSection +
              report)
                 .empty();

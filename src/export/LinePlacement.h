@@ -40,6 +40,8 @@ class LinePlacement {
   explicit LinePlacement(const geographicsCoord& ends);
 
   double length() const { return mLength; }  ///< between both ends, metres
+  double east() const { return mEast; }      ///< of the unit vector along the line
+  double north() const { return mNorth; }    ///< of the same
   /// \param distance from the first geophone, metres; may lie before it or beyond the last one
   MapPoint at(double distance) const;
 

@@ -2,6 +2,7 @@
 
 #include "base/AtomicFile.h"
 #include "export/ExportFailure.h"
+#include "export/LineOnMap.h"
 #include "model/GroundModel.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
@@ -14,6 +15,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <string>
 #include <vector>
 
 namespace talvesk {
@@ -31,7 +33,8 @@ struct Cells {
   std::vector<std::int64_t> offsets;  ///< where the next cell's corners begin
 };
 
-Cells drawnCells(const SectionMesh& mesh) {
+/// \param map where the line lies; null: x along the line, y 0
+Cells drawnCells(const SectionMesh& mesh, const LineOnMap* map) {
   Cells result;
   std::vector<std::int64_t> number(mesh.corners.size(), -1);
   const auto use = [&](std::uint32_t line, std::uint32_t column) {
@@ -39,7 +42,8 @@ Cells drawnCells(const SectionMesh& mesh) {
     if (number[corner] < 0) {
       number[corner] = static_cast<std::int64_t>(result.points.size() / 3);
       const Point2D& place = mesh.corners[corner];
-      result.points.insert(result.points.end(), {place.x, 0.0, place.z});
+      const MapPoint onMap = map != nullptr ? map->at(place.x) : MapPoint{place.x, 0.0};
+      result.points.insert(result.points.end(), {onMap.easting, onMap.northing, place.z});
     }
     result.corners.push_back(number[corner]);
   };
@@ -80,6 +84,8 @@ class VtuWriter {
   void attribute(const char* name, std::size_t value) {
     mXml.writeAttribute(QLatin1String(name), QString::number(value));
   }
+
+  void text(const std::string& words) { mXml.writeCharacters(QString::fromStdString(words)); }
 
   template <typename T>
   void array(const char* type, const char* name, const std::vector<T>& values, int components = 1) {
@@ -139,13 +145,24 @@ void writeCellData(VtuWriter& vtu, const Cells& cells, const TomoDocument& docum
   vtu.end();
 }
 
-}  // namespace
+/// What program-readable data say of the reference system of the points.
+void writeSystem(VtuWriter& vtu, const LineOnMap& map) {
+  vtu.begin("FieldData");
+  vtu.begin("DataArray");
+  vtu.attribute("type", "Int32");
+  vtu.attribute("Name", "EPSG");
+  vtu.attribute("NumberOfTuples", std::size_t{1});
+  vtu.attribute("format", "ascii");
+  vtu.text(std::to_string(map.epsg()));
+  vtu.end();
+  vtu.end();
+}
 
-Status writeVtkGrid(const std::string& path, const TomoDocument& document) {
+Status writeCells(const std::string& path, const TomoDocument& document, const LineOnMap* map) {
   if (!document.model->grid) {
     return cannotWrite(path, noGrid());
   }
-  const Cells cells = drawnCells(sectionMesh(*document.model->grid, document.model->xOffset));
+  const Cells cells = drawnCells(sectionMesh(*document.model->grid, document.model->xOffset), map);
   if (cells.cells.empty()) return cannotWrite(path, noCellDrawn());
   if (cells.cells.size() > kMaxCells) {
     return cannotWrite(
@@ -155,6 +172,7 @@ Status writeVtkGrid(const std::string& path, const TomoDocument& document) {
 
   VtuWriter vtu;
   vtu.begin("UnstructuredGrid");
+  if (map != nullptr) writeSystem(vtu, *map);
   vtu.begin("Piece");
   vtu.attribute("NumberOfPoints", cells.points.size() / 3);
   vtu.attribute("NumberOfCells", cells.cells.size());
@@ -170,6 +188,18 @@ Status writeVtkGrid(const std::string& path, const TomoDocument& document) {
   const QByteArray& bytes = vtu.finish();
   return told(
       writeFileAtomically(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())}));
+}
+
+}  // namespace
+
+Status writeVtkGrid(const std::string& path, const TomoDocument& document) {
+  return writeCells(path, document, nullptr);
+}
+
+Status writeVtkCurtain(const std::string& path, const TomoDocument& document) {
+  const LineOnMap map(document);
+  if (!map.status().ok()) return cannotWrite(path, map.status().text());
+  return writeCells(path, document, &map);
 }
 
 }  // namespace talvesk

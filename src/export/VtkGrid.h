@@ -16,4 +16,8 @@ class TomoDocument;
 /// no cell is drawn.
 Status writeVtkGrid(const std::string& path, const TomoDocument& document);
 
+/// The same as a curtain on the map: x easting, y northing, z elevation (metres), with the code of
+/// the reference system as the field "EPSG". Fails besides where the line has no place on the map.
+Status writeVtkCurtain(const std::string& path, const TomoDocument& document);
+
 }  // namespace talvesk

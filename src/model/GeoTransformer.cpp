@@ -139,4 +139,15 @@ bool GeoTransformer::transform(double easting, double northing, LonLat& out) con
   return true;
 }
 
+std::string wellKnownText(std::int32_t epsg) {
+  const SilentProj silence;
+  const std::string code = "EPSG:" + std::to_string(epsg);
+  PJ* const system = epsg > 0 ? proj_create(nullptr, code.c_str()) : nullptr;
+  if (system == nullptr) return {};
+  const char* const written = proj_as_wkt(nullptr, system, PJ_WKT1_GDAL, nullptr);
+  std::string text = written != nullptr ? written : "";  // which lives as long as its system
+  proj_destroy(system);
+  return text;
+}
+
 }  // namespace talvesk

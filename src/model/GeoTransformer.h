@@ -68,4 +68,8 @@ class GeoTransformer {
   Status mStatus;
 };
 
+/// The well-known text (version 1, as OGC 01-009) of a reference system; empty for a code that PROJ
+/// does not know. For one thread of the program at a time.
+std::string wellKnownText(std::int32_t epsg);
+
 }  // namespace talvesk

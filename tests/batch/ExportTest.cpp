@@ -78,6 +78,69 @@ TEST(Export, writesEverythingOfAProject) {
   EXPECT_EQ(folder.fileCount(), 8U) << "nothing is left of what was unpacked";
 }
 
+TEST(Export, drawsInMetresOfTheLineOrOnTheMap) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  ASSERT_EQ(runBatch({"export", project, "--dxf", folder / "s.dxf", "--isovalues", "550,650"}).code,
+            0);
+  EXPECT_THAT(contentsOf(folder / "s.dxf"),
+              AllOf(HasSubstr("ISOLINE_550\n"), HasSubstr("ISOLINE_650\n"), HasSubstr("\n10\n100."),
+                    Not(HasSubstr("\n10\n652000."))));
+  ASSERT_EQ(runBatch({"export", project, "--dxf", folder / "m.dxf", "--dxf-map"}).code, 0);
+  EXPECT_THAT(contentsOf(folder / "m.dxf"), HasSubstr("\n10\n652000."));
+
+  ASSERT_EQ(runBatch({"export", project, "--gpkg", folder / "s.gpkg", "--curtain", folder / "s.vtu",
+                      "--curtain", folder / "s.csv", "--epsg", "2180", "--first", "637000,487000",
+                      "--last", "637008,487000"})
+                .code,
+            0);
+  EXPECT_THAT(contentsOf(folder / "s.gpkg"), StartsWith("SQLite format 3"));
+  EXPECT_THAT(contentsOf(folder / "s.vtu"), HasSubstr("EPSG"));
+  EXPECT_THAT(contentsOf(folder / "s.csv"),
+              AllOf(StartsWith("easting_m_epsg2180,"), HasSubstr("\n636999.5,487000,")));
+
+  const Folder lost;
+  const Outcome nowhere =
+      runBatch({"export", writeProject(lost, false), "--dxf", lost / "m.dxf", "--dxf-map"});
+  EXPECT_EQ(nowhere.code, 1);
+  EXPECT_THAT(nowhere.err, HasSubstr("no place on the map"));
+  EXPECT_FALSE(lost.holds("m.dxf"));
+  for (const auto& [option, file] : {std::pair("--gpkg", "m.gpkg"), {"--curtain", "m.csv"}}) {
+    const Outcome outcome = runBatch({"export", lost / "line.tvsk", option, lost / file});
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_THAT(outcome.err, HasSubstr("no place on the map"));
+    EXPECT_FALSE(lost.holds(file));
+  }
+  EXPECT_EQ(runBatch({"export", project, "--isovalues", "600"}).code, 2) << "of no drawing";
+  EXPECT_EQ(runBatch({"export", project, "--dxf", folder / "x.dxf", "--isovalues", "6e9"}).code, 2);
+}
+
+TEST(Export, copiesShotFilesWithPicksInTheirHeaders) {
+  const Folder folder;
+  ASSERT_EQ(runBatch({"demo", folder / "line", "--quiet"}).code, 0);
+  const std::string project = folder / "line.tvsk";
+  ASSERT_EQ(runBatch({"pick", folder / "line/shot01.sg2", folder / "line/shot02.sg2", "--project",
+                      project, "--quiet"})
+                .code,
+            0);
+  const Outcome outcome = runBatch({"export", project, "--pick-headers", folder / "picked"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  for (const char* file : {"shot01.sg2", "shot02.sg2"}) {
+    const std::string copy = folder / (std::string("picked/") + file);
+    EXPECT_THAT(contentsOf(copy), HasSubstr("FIRST_BREAK 0."));
+    const std::string source = folder / (std::string("line/") + file);
+    const auto traces = [](const std::string& path) {
+      const std::string json = runBatch({"info", "--json", "-", "--samples", path}).out;
+      return json.substr(json.find("\"traces\""));
+    };
+    EXPECT_EQ(traces(copy), traces(source)) << "read by both readers";
+  }
+  const Outcome without =
+      runBatch({"export", writeProject(folder), "--pick-headers", folder / "none"});
+  EXPECT_EQ(without.code, 1);
+  EXPECT_THAT(without.err, HasSubstr("no shot files"));
+}
+
 TEST(Export, drawsAndReportsWithoutADisplay) {
   const Folder folder;
   const std::string project = writeProject(folder);

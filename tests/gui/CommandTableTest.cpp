@@ -144,8 +144,8 @@ TEST_F(Commands, tellWhatLibrariesTheProgramIsBuiltWith) {
     page.setHtml(dynamic_cast<QMessageBox&>(widget).text());
     const std::string text = page.toPlainText().toStdString();
     for (const char* name :
-         {"Talvesk 2022.0", "Qt", "VTK", "Qwt", "PROJ", "libzip", "liquid-dsp", "Eigen", "cereal",
-          "LGPL", "BSD 3-Clause", "MIT", "MPL 2.0", qVersion()}) {
+         {"Talvesk 2022.0", "Qt", "VTK", "Qwt", "PROJ", "libzip", "SQLite", "liquid-dsp", "Eigen",
+          "cereal", "LGPL", "BSD 3-Clause", "MIT", "MPL 2.0", qVersion()}) {
       EXPECT_THAT(text, HasSubstr(name));
     }
     widget.close();
@@ -294,7 +294,10 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionSave_Project_As",
         "actionExport_TravelTimes",
         "actionExport_recordings",
+        "actionExport_pick_headers",
         "actionExportSeismic_line",
+        "actionExport_DXF",
+        "actionExport_GeoPackage",
         "actionImages",
         "actionPDF",
         "actionODT",
@@ -337,6 +340,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionGridded_Data",
         "actionExport_VTK",
         "actionExport_Surfer",
+        "actionExport_curtain",
         "actionExportTomographic_profile_2_KML",
         "actionScreenshot",
         "actionDefine_model_velocity",

@@ -3,6 +3,7 @@
 #include "app/Languages.h"
 #include "app/dialogs/CertaintyDialog.h"
 #include "app/dialogs/DialogSetGeometry.h"
+#include "app/dialogs/DrawingDialog.h"
 #include "app/dialogs/ExportTomoVelData.h"
 #include "app/dialogs/ImagesDialog.h"
 #include "app/dialogs/MendDialog.h"
@@ -70,6 +71,7 @@ class Dialogs : public WindowTest {
     return {
         {"geometry", [&] { return make<DialogSetGeometry>(document, mSegy, mFolders, mContext); }},
         {"shift", [&] { return make<ExportTomoVelData>(); }},
+        {"drawing", [&] { return make<DrawingDialog>(DrawingDialog::Start()); }},
         {"images", [&] { return make<ImagesDialog>(document, mLayers, ImageSetOptions(), 0); }},
         {"palette",
          [&] {

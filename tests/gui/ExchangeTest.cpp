@@ -165,5 +165,31 @@ TEST_F(Exchange, exportsRecordingsButNotOverTheFilesOfTheSurvey) {
   EXPECT_EQ(TestFolder::get(home.file("out/shots.sgy")).size(), 3600 + 24 * (240 + 4 * 400));
 }
 
+TEST_F(Exchange, copiesShotFilesWithPicksButNotOverThoseOfTheSurvey) {
+  QDir(QString::fromStdString(home.path())).mkdir("out");
+  window->openFiles({shotFile("shot01.sg2")});
+  writable().ttArray.edit()[0].ttMisurati.edit()[1] = 0.0125;
+  const auto expectFolder = [this](const std::string& folder) {
+    dialogs.expect([folder](QWidget& widget) {
+      auto& dialog = dynamic_cast<QFileDialog&>(widget);
+      EXPECT_EQ(dialog.windowTitle(), "Folder for the shot files with picks");
+      type(dialog, folder);
+    });
+  };
+  const std::string before = TestFolder::get(home.file("shot01.sg2"));
+  expectFolder(home.path());
+  dialogs.expectBox("Warning", "shot01.sg2 is one of the shot files of this survey.",
+                    "Choose another folder.", QMessageBox::Ok);
+  action("actionExport_pick_headers").trigger();
+  EXPECT_EQ(TestFolder::get(home.file("shot01.sg2")), before);
+
+  expectFolder(home.file("out"));
+  dialogs.expectBox("Shot files with picks", "The recordings have been saved.",
+                    "FIRST_BREAK in seconds", QMessageBox::Ok);
+  action("actionExport_pick_headers").trigger();
+  EXPECT_THAT(TestFolder::get(home.file("out/shot01.sg2")), HasSubstr("FIRST_BREAK 0.012500"));
+  EXPECT_TRUE(dialogs.finished());
+}
+
 }  // namespace
 }  // namespace talvesk

@@ -24,6 +24,7 @@ constexpr Library kLibraries[] = {
     {"Qwt", "Qwt License (LGPL 2.1 with exceptions)"},
     {"PROJ", "MIT"},
     {"libzip", "BSD 3-Clause"},
+    {"SQLite", "public domain"},
     {"liquid-dsp", "MIT"},
     {"Eigen", "MPL 2.0"},
     {"cereal", "BSD 3-Clause"},

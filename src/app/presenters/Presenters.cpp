@@ -32,6 +32,7 @@ Presenters::Presenters(Desk& desk)
       refraction(desk, layered),
       layers(desk, models, projects),
       exports(desk),
+      drawings(desk),
       records(desk),
       reports(desk, layered),
       help(desk) {

@@ -5,6 +5,7 @@
 #include "app/presenters/CheckPresenter.h"
 #include "app/presenters/ContoursPresenter.h"
 #include "app/presenters/CurvesPresenter.h"
+#include "app/presenters/DrawingPresenter.h"
 #include "app/presenters/ExportPresenter.h"
 #include "app/presenters/GeometryPresenter.h"
 #include "app/presenters/HelpPresenter.h"
@@ -72,6 +73,7 @@ struct Presenters {
   RefractionPresenter refraction;
   LayersPresenter layers;
   ExportPresenter exports;
+  DrawingPresenter drawings;
   RecordExportPresenter records;
   ReportPresenter reports;
   HelpPresenter help;

@@ -2,6 +2,7 @@
 
 #include "app/MessageText.h"
 #include "app/Messages.h"
+#include "io/PickedCopies.h"
 #include "io/RecordExport.h"
 #include "model/Recordings.h"
 #include "model/TomoDocument.h"
@@ -29,7 +30,7 @@ bool RecordExportPresenter::askHow(RecordExport& wanted) {
 }
 
 /// Not over the files that the survey came from, and over others when the user says so.
-bool RecordExportPresenter::mayWrite(const RecordExport& wanted) {
+bool RecordExportPresenter::mayWrite(const std::vector<std::string>& targets) {
   const Recordings& recordings = *mDesk.document().recordings;
   QStringList sources;
   for (const auto* files :
@@ -39,7 +40,7 @@ bool RecordExportPresenter::mayWrite(const RecordExport& wanted) {
     }
   }
   QStringList existing;
-  for (const std::string& path : recordFiles(mDesk.document(), wanted)) {
+  for (const std::string& path : targets) {
     const QFileInfo file(QString::fromStdString(path));
     if (!file.exists()) continue;
     existing += file.fileName();
@@ -56,39 +57,70 @@ bool RecordExportPresenter::mayWrite(const RecordExport& wanted) {
                   false);
 }
 
-void RecordExportPresenter::write(const RecordExport& wanted) {
-  const TomoDocument document = mDesk.document();  // as it is now, while the window lives
-  const QString folder = QString::fromStdString(wanted.folder);
-  std::vector<Message> notes;
-  QProgressDialog progress(tr("Writing recordings ..."), tr("Stop"), 0,
-                           static_cast<int>(document.ttArray.size()), &mDesk.window);
+bool RecordExportPresenter::written(
+    const QString& label, const QString& folder, std::size_t steps,
+    const std::function<Status(const std::function<bool(std::size_t)>&)>& write) {
+  QProgressDialog progress(label, tr("Stop"), 0, static_cast<int>(steps), &mDesk.window);
   progress.setWindowModality(Qt::WindowModal);
   progress.setMinimumDuration(300);
-  const Status status = exportRecords(document, wanted, notes, [&](std::size_t shot) {
-    progress.setValue(static_cast<int>(shot));  // lets the window live
+  const Status status = write([&](std::size_t step) {
+    progress.setValue(static_cast<int>(step));  // lets the window live
     return !progress.wasCanceled();
   });
   const bool stopped = progress.wasCanceled();
   progress.reset();
   if (stopped) {
     mDesk.tell(tr("The export to %1 was stopped; some files are missing.").arg(folder));
-    return;
+    return false;
   }
   if (!status.ok()) {
     mDesk.tellFailure(tr("The recordings have not been exported."), status);
-    return;
+    return false;
   }
   mDesk.folders.saved(folder + QLatin1Char('/'));
   mDesk.tell(tr("Recordings saved in %1").arg(folder));
-  if (notes.empty()) return;
+  return true;
+}
+
+void RecordExportPresenter::write(const RecordExport& wanted) {
+  const TomoDocument document = mDesk.document();  // as it is now, while the window lives
+  std::vector<Message> notes;
+  const auto writing = [&](const std::function<bool(std::size_t)>& progress) {
+    return exportRecords(document, wanted, notes, progress);
+  };
+  if (!written(tr("Writing recordings ..."), QString::fromStdString(wanted.folder),
+               document.ttArray.size(), writing) ||
+      notes.empty()) {
+    return;
+  }
   showNote(&mDesk.window, tr("Export recordings"), tr("The recordings have been saved."),
            shortList(linesOf(notes)));
 }
 
 void RecordExportPresenter::exportRecordings() {
   RecordExport wanted;
-  if (!askHow(wanted) || !mayWrite(wanted)) return;
+  if (!askHow(wanted) || !mayWrite(recordFiles(mDesk.document(), wanted))) return;
   write(wanted);
+}
+
+void RecordExportPresenter::copyWithPicks() {
+  const TomoDocument document = mDesk.document();  // as it is now, while the window lives
+  const QString folder = QFileDialog::getExistingDirectory(
+      &mDesk.window, tr("Folder for the shot files with picks"), mDesk.folders.toSave());
+  if (folder.isEmpty()) return;
+  const std::vector<std::string> files = pickedCopies(document, folder.toStdString());
+  if (!mayWrite(files)) return;
+  std::vector<Message> notes;
+  const auto writing = [&](const std::function<bool(std::size_t)>& progress) {
+    return writePickedCopies(document, folder.toStdString(), notes, progress);
+  };
+  if (!written(tr("Writing recordings ..."), folder, files.size(), writing)) return;
+  QStringList lines = {
+      tr("In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files "
+         "it is whole microseconds in bytes 233 to 236 of the trace header. Both "
+         "count from the shot.")};
+  showNote(&mDesk.window, tr("Shot files with picks"), tr("The recordings have been saved."),
+           shortList(lines + linesOf(notes)));
 }
 
 }  // namespace talvesk

@@ -126,12 +126,12 @@ class SegyReader {
     return points;
   }
 
-  Status read(StandardReading& reading) {
-    SegyTraces found;
+  Status find(SegyTraces& found) {
     found.format = "segy";
     found.order = mLayout.order;
     found.code = segySampleCode(mHeader.code);
     if (found.code == nullptr) return refusal();
+    found.revision = mHeader.revision;
     found.hasTimeScalars = mHeader.revision >= 1;
     found.hasLaterKinds = mHeader.revision >= 1;
     // 2 midpoint, 3 single fold, 4 stacked, 7 common offset, 8 and 9 midpoint, conversion point.
@@ -147,7 +147,7 @@ class SegyReader {
     const bool none = std::all_of(found.traces.begin(), found.traces.end(),
                                   [](const SegyTrace& trace) { return trace.samples == 0; });
     if (none) return Status::failure(Message::tr("its headers tell no number of samples"));
-    return readSegyShots(mBytes, std::move(found), reading);
+    return {};
   }
 
  private:
@@ -226,7 +226,7 @@ Likelihood likelihoodOfSegy(std::string_view head, std::size_t fileSize) {
   return Likelihood::kNo;
 }
 
-Status readSegyByStandard(std::string_view bytes, StandardReading& reading) {
+Status findSegyByStandard(std::string_view bytes, SegyTraces& found) {
   if (!isLongEnough(bytes.size())) {
     return Status::failure(Message::tr("it is too short for a SEG-Y file with a trace"));
   }
@@ -236,7 +236,13 @@ Status readSegyByStandard(std::string_view bytes, StandardReading& reading) {
       return Status::failure(Message::tr("its bytes are swapped in pairs, which is not read"));
     }
   }
-  return likelier(bytes).read(reading);
+  return likelier(bytes).find(found);
+}
+
+Status readSegyByStandard(std::string_view bytes, StandardReading& reading) {
+  SegyTraces found;
+  if (Status status = findSegyByStandard(bytes, found); !status.ok()) return status;
+  return readSegyShots(bytes, std::move(found), reading);
 }
 
 }  // namespace talvesk

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "io/standard/SegyTraces.h"
 #include "io/standard/StandardReading.h"
 
 #include <string_view>
@@ -24,5 +25,8 @@ Likelihood likelihoodOfSegy(std::string_view head, std::size_t fileSize);
 /// not read, bytes swapped in pairs, no number of samples, or more data promised than the file can
 /// hold. A file that is cut short is no failure; zeros stand for what is missing.
 Status readSegyByStandard(std::string_view bytes, StandardReading& reading);
+
+/// The traces of a file, none of them read yet. Fails as the other, but for what is promised.
+Status findSegyByStandard(std::string_view bytes, SegyTraces& found);
 
 }  // namespace talvesk

@@ -20,6 +20,7 @@ struct SegyTrace {
 /// The traces of a file, in its order, and what it says of all of them.
 struct SegyTraces {
   const char* format = "";  ///< "segy" or "su"
+  int revision = 0;         ///< of SEG-Y, 0 to 2
   ByteOrder order = ByteOrder::kBig;
   const SegySampleCode* code = nullptr;
   double metresPerUnit = 1.0;  ///< of coordinates, elevations, depths and offsets

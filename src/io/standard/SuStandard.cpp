@@ -52,14 +52,13 @@ Likelihood likelihoodOfSu(std::string_view head, std::size_t fileSize) {
   return likely;
 }
 
-Status readSuByStandard(std::string_view bytes, StandardReading& reading) {
+Status findSuByStandard(std::string_view bytes, SegyTraces& found) {
   if (bytes.size() < kSegyTraceHeaderBytes) {
     return Status::failure(Message::tr("it is too short for an SU file with a trace"));
   }
   const bool little =
       plausibility(bytes, ByteOrder::kLittle) > plausibility(bytes, ByteOrder::kBig);
   const SegyLayout layout = layoutOf(bytes, little ? ByteOrder::kLittle : ByteOrder::kBig);
-  SegyTraces found;
   found.format = "su";
   found.order = layout.order;
   found.code = segySampleCode(kSegyIeeeFloat);
@@ -68,6 +67,12 @@ Status readSuByStandard(std::string_view bytes, StandardReading& reading) {
   if (found.traces.front().samples == 0) {
     return Status::failure(Message::tr("its first trace tells no number of samples"));
   }
+  return {};
+}
+
+Status readSuByStandard(std::string_view bytes, StandardReading& reading) {
+  SegyTraces found;
+  if (Status status = findSuByStandard(bytes, found); !status.ok()) return status;
   return readSegyShots(bytes, std::move(found), reading);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "io/standard/SegyTraces.h"
 #include "io/standard/StandardReading.h"
 
 #include <string_view>
@@ -19,5 +20,8 @@ Likelihood likelihoodOfSu(std::string_view head, std::size_t fileSize);
 /// more data promised than the file can hold. A file that is cut short is no failure; zeros stand
 /// for what is missing.
 Status readSuByStandard(std::string_view bytes, StandardReading& reading);
+
+/// The traces of a file, none of them read yet. Fails as the other, but for what is promised.
+Status findSuByStandard(std::string_view bytes, SegyTraces& found);
 
 }  // namespace talvesk
