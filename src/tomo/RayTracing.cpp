@@ -198,21 +198,66 @@ Ray ShortestPaths::ray(std::uint32_t receiver) const {
   GridEdge edge;
   for (std::uint32_t node = receiver; node != kNoPredecessor;) {
     ray.nodes.push_back(node);
-    // The rays of a shot come together, and are one from there to the source.
-    const auto known = mState->predecessors.find(node);
-    if (known != mState->predecessors.end()) {
-      node = known->second.node;
-      edge = known->second.edge;
-    } else {
-      const std::uint32_t from = predecessor(node, edge);
-      mState->predecessors.emplace(node, State::Step{from, edge});
-      node = from;
-    }
+    node = predecessor(node, edge);
     if (node != kNoPredecessor) ray.steps.push_back(edge);
   }
   std::reverse(ray.nodes.begin(), ray.nodes.end());
   std::reverse(ray.steps.begin(), ray.steps.end());
   return ray;
+}
+
+void ShortestPaths::trace(const std::vector<std::uint32_t>& receivers, RayTree& tree) {
+  tree.clear();
+  tree.branches.resize(receivers.size());
+  for (std::uint32_t i = 0; i < receivers.size(); ++i) {
+    if (receivers[i] == kNoNode) continue;
+    if (receivers[i] >= mState->grid->nodeCount()) {
+      throw std::out_of_range("no node " + std::to_string(receivers[i]));
+    }
+    tree.order.push_back(i);
+  }
+  // The long ones first: to leave another ray on its way makes fewer pieces of a ray than to go
+  // along many shorter ones.
+  std::stable_sort(tree.order.begin(), tree.order.end(), [&](std::uint32_t a, std::uint32_t b) {
+    return distance(receivers[a]) > distance(receivers[b]);
+  });
+  for (std::size_t i = 0; i < tree.order.size(); ++i) traceInto(tree, i, receivers[tree.order[i]]);
+  for (const std::uint32_t node : tree.nodes) {
+    mState->queued[mState->searchId(node)] = SearchField::kNotQueued;
+  }
+}
+
+void ShortestPaths::traceInto(RayTree& tree, std::size_t place, std::uint32_t receiver) {
+  // No node waits for anything now, so the list of buckets tells which step leads to a node.
+  std::vector<std::uint32_t>& stepInto = mState->queued;
+  RayTree::Branch& branch = tree.branches[tree.order[place]];
+  branch.first = branch.end = static_cast<std::uint32_t>(tree.nodes.size());
+  for (std::uint32_t node = receiver;;) {
+    const std::uint32_t known = stepInto[mState->searchId(node)];
+    if (known != SearchField::kNotQueued) {
+      branch.joins = known;
+      branch.onto = tree.rayOf(known, place);
+      branch.root = tree.branches[branch.onto].root;
+      break;
+    }
+    GridEdge edge;
+    const std::uint32_t from = predecessor(node, edge);
+    if (from == kNoPredecessor) {
+      branch.root = node;
+      break;
+    }
+    tree.nodes.push_back(node);
+    tree.cells.push_back(edge.cell);
+    tree.lengths.push_back(edge.length);
+    node = from;
+  }
+  branch.end = static_cast<std::uint32_t>(tree.nodes.size());
+  std::reverse(tree.nodes.begin() + branch.first, tree.nodes.end());
+  std::reverse(tree.cells.begin() + branch.first, tree.cells.end());
+  std::reverse(tree.lengths.begin() + branch.first, tree.lengths.end());
+  for (std::uint32_t step = branch.first; step < branch.end; ++step) {
+    stepInto[mState->searchId(tree.nodes[step])] = step;
+  }
 }
 
 }  // namespace talvesk

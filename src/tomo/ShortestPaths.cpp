@@ -92,7 +92,6 @@ void ShortestPaths::run(const Grid& grid, std::uint32_t source) {
   const GridGeometry& g = grid.geometry();
   s.grid = &grid;
   s.source = source;
-  s.predecessors.clear();
   s.queued.assign(grid.nodeCount(), SearchField::kNotQueued);
 
   SearchField& f = s.field;

@@ -4,7 +4,6 @@
 #include "tomo/ShortestPaths.h"
 
 #include <limits>
-#include <unordered_map>
 #include <vector>
 
 namespace talvesk {
@@ -16,11 +15,6 @@ struct ShortestPaths::State {
   std::vector<double> distance;
   std::vector<double> latest;  ///< per cell, of a search for receivers
   std::vector<std::uint32_t> queued;
-  struct Step {
-    std::uint32_t node;
-    GridEdge edge;
-  };
-  std::unordered_map<std::uint32_t, Step> predecessors;  ///< that rays asked for, by node
   BucketRing ring;
   SearchField field{};
 

@@ -119,6 +119,56 @@ TEST(ShortestPaths, aReceiverAtTheSourceIsARayOfOneNode) {
 }
 
 // The closed form of a constant gradient: t = 2/k asinh(k x / (2 sqrt(v0 v(0)))) along the surface.
+TEST(ShortestPaths, tracedTogetherAreTheSameRays) {
+  const struct {
+    const char* name;
+    GridSize size;
+    double relief, roughness;
+  } cases[] = {{"rough hills", {20, 40, 6, 1.0}, 3.0, 0.5},
+               {"level ground full of ties", {10, 30, 6, 1.0}, 0.0, 0.0},
+               {"no side nodes at all", {8, 30, 2, 1.0}, 2.0, 0.4}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const auto grid = testing::roughGrid(c.size, c.relief, c.roughness);
+    const std::uint32_t last = grid->geometry().lineNodeCount() - 1;
+    // Out of order, with one twice, one without a node, and the source.
+    std::vector<std::uint32_t> receivers = {7, last, 12, kNoNode, 7, 0, last - 1};
+    for (std::uint32_t node = 1; node < last; node += 3) receivers.push_back(node);
+    ShortestPaths paths;
+    RayTree tree;
+    for (const std::uint32_t source : {12U, 0U}) {
+      paths.search(*grid, source);
+      for (int times = 0; times < 2; ++times) paths.trace(receivers, tree);
+      std::vector<double> lengths;
+      tree.sumAlong([&](std::uint32_t step) { return tree.lengths[step]; }, lengths);
+      std::vector<RayTree::Run> runs;
+      std::size_t steps = 0;
+      for (std::size_t i = 0; i < receivers.size(); ++i) {
+        if (receivers[i] == kNoNode) {
+          EXPECT_TRUE(tree.nodesOf(i, runs).empty());
+          continue;
+        }
+        const Ray ray = paths.ray(receivers[i]);
+        EXPECT_EQ(tree.nodesOf(i, runs), ray.nodes) << receivers[i];
+        std::vector<std::uint32_t> cells, expected;
+        for (const RayTree::Run& run : runs) {
+          cells.insert(cells.end(), &tree.cells[run.first], tree.cells.data() + run.end);
+        }
+        double length = 0.0;
+        for (const GridEdge& step : ray.steps) {
+          expected.push_back(step.cell);
+          length += step.length;
+        }
+        EXPECT_EQ(cells, expected) << receivers[i];
+        EXPECT_EQ(tree.sumOf(i, lengths), length) << receivers[i];
+        steps += ray.steps.size();
+      }
+      EXPECT_LT(tree.cells.size(), steps) << "what rays share stands once";
+    }
+    EXPECT_THROW(paths.trace({grid->nodeCount()}, tree), std::out_of_range);
+  }
+}
+
 TEST(ShortestPaths, stayWithinTwoPercentOfAGradientsClosedForm) {
   const GridSize size{60, 200, 10, 0.5};
   const auto surface = testing::hills(100.0, 0.0);
