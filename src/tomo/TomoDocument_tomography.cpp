@@ -60,9 +60,10 @@ Status TomoDocument::runTomography_fast(std::vector<double>& slownesses, unsigne
 
   const std::string caption =
       "[INTERNAL RUN " + std::to_string(solverIterations) + "][RUNNIG SOLVEART]";
+  WorkerPool workers(threads);
   for (int it = 0; it < solverIterations; ++it) {
-    slownesses = updateSlownesses(model.edit().editGrid(), coorslow, outcome.coorcount,
-                                  outcome.hitCounts, {model->minVelocity, model->maxVelocity});
+    updateSlownesses(model.edit().editGrid(), coorslow, outcome.coorcount, outcome.hitCounts,
+                     {model->minVelocity, model->maxVelocity}, workers);
     pass.refreshRayTimes();
     if (it + 1 == solverIterations) break;
     std::fill(coorslow.begin(), coorslow.end(), 0.0);
@@ -71,7 +72,7 @@ Status TomoDocument::runTomography_fast(std::vector<double>& slownesses, unsigne
     if (!status.ok()) return status;
   }
   slownesses = smoothSlowness(smoothingTypeOf(smoothingType), *model->grid, outcome.hitCounts,
-                              smoothing, verticalRatio(symmetric));
+                              smoothing, verticalRatio(symmetric), workers);
   return {};
 }
 
