@@ -221,20 +221,17 @@ void ShortestPaths::trace(const std::vector<std::uint32_t>& receivers, RayTree& 
   std::stable_sort(tree.order.begin(), tree.order.end(), [&](std::uint32_t a, std::uint32_t b) {
     return distance(receivers[a]) > distance(receivers[b]);
   });
+  mState->stepInto.clear();
   for (std::size_t i = 0; i < tree.order.size(); ++i) traceInto(tree, i, receivers[tree.order[i]]);
-  for (const std::uint32_t node : tree.nodes) {
-    mState->queued[mState->searchId(node)] = SearchField::kNotQueued;
-  }
 }
 
 void ShortestPaths::traceInto(RayTree& tree, std::size_t place, std::uint32_t receiver) {
-  // No node waits for anything now, so the list of buckets tells which step leads to a node.
-  std::vector<std::uint32_t>& stepInto = mState->queued;
+  NodeSteps& stepInto = mState->stepInto;
   RayTree::Branch& branch = tree.branches[tree.order[place]];
   branch.first = branch.end = static_cast<std::uint32_t>(tree.nodes.size());
   for (std::uint32_t node = receiver;;) {
-    const std::uint32_t known = stepInto[mState->searchId(node)];
-    if (known != SearchField::kNotQueued) {
+    const std::uint32_t known = stepInto.find(node);
+    if (known != RayTree::kNone) {
       branch.joins = known;
       branch.onto = tree.rayOf(known, place);
       branch.root = tree.branches[branch.onto].root;
@@ -256,7 +253,7 @@ void ShortestPaths::traceInto(RayTree& tree, std::size_t place, std::uint32_t re
   std::reverse(tree.cells.begin() + branch.first, tree.cells.end());
   std::reverse(tree.lengths.begin() + branch.first, tree.lengths.end());
   for (std::uint32_t step = branch.first; step < branch.end; ++step) {
-    stepInto[mState->searchId(tree.nodes[step])] = step;
+    stepInto.add(tree.nodes[step], step);
   }
 }
 

@@ -116,7 +116,12 @@ void ShortestPaths::run(const Grid& grid, std::uint32_t source) {
     const auto [fastest, slowest] = std::minmax_element(slowness.begin(), slowness.end());
     const double mean = std::accumulate(slowness.begin(), slowness.end(), 0.0) /
                         static_cast<double>(slowness.size());
-    longest = longestEdge(g) * *slowest;
+    // The models of a run share their geometry.
+    if (s.measured != grid.sharedGeometry()) {
+      s.measured = grid.sharedGeometry();
+      s.longestEdge = longestEdge(g);
+    }
+    longest = s.longestEdge * *slowest;
     width = std::min(kCellsPerBucket * g.aLato() * mean,
                      kFastStepsPerBucket * g.aLato() / (g.nV() - 1) * *fastest);
     width = std::max(width, longest / kMostBuckets);

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "tomo/NodeSteps.h"
 #include "tomo/SearchField.h"
 #include "tomo/ShortestPaths.h"
 
 #include <limits>
+#include <memory>
 #include <vector>
 
 namespace talvesk {
@@ -17,6 +19,9 @@ struct ShortestPaths::State {
   std::vector<std::uint32_t> queued;
   BucketRing ring;
   SearchField field{};
+  NodeSteps stepInto;  ///< while rays are traced
+  std::shared_ptr<const GridGeometry> measured;
+  double longestEdge = 0.0;  ///< of the geometry that was measured, metres
 
   std::uint32_t searchId(std::uint32_t node) const {
     const GridGeometry::Place p = grid->geometry().place(node);
