@@ -25,11 +25,6 @@ void DijkstraComputePathsThread::expect(const RayBounds& bounds, std::size_t fir
   mFirstRay = firstRay;
 }
 
-void DijkstraComputePathsThread::run(ShotScratch& scratch) {
-  if (mRays.branches.empty()) traceRays(scratch);
-  evaluateRays(scratch);
-}
-
 std::size_t DijkstraComputePathsThread::receivers() const {
   return std::min(mDocument.line->goephonesStringSet.at(mSpreadIndex).size(),
                   mRecord.ttMisurati.size());
@@ -88,21 +83,23 @@ void DijkstraComputePathsThread::keep(ShotScratch& scratch) {
 void DijkstraComputePathsThread::collectCells(ShotScratch& scratch) {
   std::vector<std::uint32_t>& placeOf = scratch.placeOf;
   placeOf.assign(mDocument.model->grid->cellCount(), RayTree::kNone);
-  scratch.cells.clear();
+  std::size_t count = 0;
   for (const std::uint32_t cell : scratch.rays.cells) {
-    if (placeOf[cell] != RayTree::kNone) continue;
+    count += placeOf[cell] == RayTree::kNone;
     placeOf[cell] = 0;
-    scratch.cells.push_back(cell);
   }
-  std::sort(scratch.cells.begin(), scratch.cells.end());
-  mCells.assign(scratch.cells.begin(), scratch.cells.end());
-  for (std::uint32_t place = 0; place < mCells.size(); ++place) placeOf[mCells[place]] = place;
+  mCells.reserve(count);
+  for (std::uint32_t cell = 0; cell < placeOf.size(); ++cell) {
+    if (placeOf[cell] == RayTree::kNone) continue;
+    placeOf[cell] = static_cast<std::uint32_t>(mCells.size());
+    mCells.push_back(cell);
+  }
   mRays.cells.resize(scratch.rays.cells.size());
   std::transform(scratch.rays.cells.begin(), scratch.rays.cells.end(), mRays.cells.begin(),
                  [&](std::uint32_t cell) { return placeOf[cell]; });
 }
 
-void DijkstraComputePathsThread::evaluateRays(ShotScratch& scratch) {
+void DijkstraComputePathsThread::evaluateRays(ShotScratch& scratch, ShotSums& sums) {
   const Grid& grid = *mDocument.model->grid;
   std::vector<double>& slownesses = scratch.slownesses;
   slownesses.resize(mCells.size());
@@ -110,16 +107,16 @@ void DijkstraComputePathsThread::evaluateRays(ShotScratch& scratch) {
   mRays.sumAlong(
       [&](std::uint32_t step) { return mRays.lengths[step] * slownesses[mRays.cells[step]]; },
       scratch.sums);
-  mCorrections.assign(mCells.size(), 0.0);
-  mRayLengths.assign(mCells.size(), 0.0);
+  sums.corrections.assign(mCells.size(), 0.0);
+  sums.rayLengths.assign(mCells.size(), 0.0);
   for (std::uint32_t i = 0; i < mRays.branches.size(); ++i) {
     if (mRays.branches[i].root == kNoNode) continue;
-    evaluateRay(i, mRays.sumOf(i, scratch.sums), scratch);
+    evaluateRay(i, mRays.sumOf(i, scratch.sums), scratch, sums);
   }
 }
 
 void DijkstraComputePathsThread::evaluateRay(std::uint32_t receiver, double time,
-                                             ShotScratch& scratch) {
+                                             ShotScratch& scratch, ShotSums& sums) {
   mComputed.at(receiver) = time;
   const double measured = mRecord.ttMisurati.at(receiver);
   double residual = time - measured;
@@ -127,8 +124,8 @@ void DijkstraComputePathsThread::evaluateRay(std::uint32_t receiver, double time
   residual /= mLengths[receiver];
   // A ray without length, to a receiver at the source, crosses no cell and so adds nothing.
   if (residual == 0.0) return;
-  double* corrections = mCorrections.data();
-  double* rayLengths = mRayLengths.data();
+  double* corrections = sums.corrections.data();
+  double* rayLengths = sums.rayLengths.data();
   mRays.runsOf(receiver, scratch.runs);
   for (const RayTree::Run& run : scratch.runs) {
     for (std::uint32_t step = run.first; step < run.end; ++step) {
@@ -140,13 +137,13 @@ void DijkstraComputePathsThread::evaluateRay(std::uint32_t receiver, double time
 }
 
 void DijkstraComputePathsThread::addTo(std::vector<double>& coorslow,
-                                       std::vector<double>& coorcount, std::size_t first,
-                                       std::size_t end) const {
+                                       std::vector<double>& coorcount, const ShotSums& sums,
+                                       std::size_t first, std::size_t end) const {
   auto place = static_cast<std::size_t>(std::lower_bound(mCells.begin(), mCells.end(), first) -
                                         mCells.begin());
   for (; place < mCells.size() && mCells[place] < end; ++place) {
-    coorslow[mCells[place]] += mCorrections[place];
-    coorcount[mCells[place]] += mRayLengths[place];
+    coorslow[mCells[place]] += sums.corrections[place];
+    coorcount[mCells[place]] += sums.rayLengths[place];
   }
 }
 

@@ -30,6 +30,18 @@ struct ShotFailure {
   std::string what;
 };
 
+/// Says which shot it was when something fails.
+template <typename Work>
+void ofShot(std::size_t shot, Work work) {
+  try {
+    work();
+  } catch (const std::exception& error) {
+    throw ShotFailure{shot, error.what()};
+  } catch (...) {
+    throw ShotFailure{shot, "Unknown exception"};
+  }
+}
+
 void both(Log& log, const std::string& line) {
   console::out() << line << std::endl;
   log.write(line);
@@ -39,6 +51,11 @@ void both(Log& log, const std::string& line) {
 
 unsigned searchThreads() {
   return static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
+}
+
+unsigned searchThreads(bool singleThread, unsigned wanted) {
+  if (singleThread) return 1;
+  return wanted > 0 ? wanted : searchThreads();
 }
 
 Status checkTraceable(const TomoDocument& document) {
@@ -119,37 +136,50 @@ ForwardPass::ForwardPass(TomoDocument& document,
 
 Status ForwardPass::run(const std::string& caption, std::vector<double>* coorslow,
                         std::vector<double>* coorcount) {
-  if (!mTraced) expectRays();
-  const std::size_t shots = mWorkers.size();
   const bool adds = coorslow != nullptr;
-  const auto work = [&](unsigned worker, std::size_t shot) {
-    if (mWorkers[shot] == nullptr) return;
-    try {
-      mWorkers[shot]->run(mCrew.scratch(worker));
-    } catch (const std::exception& error) {
-      throw ShotFailure{shot, error.what()};
-    } catch (...) {
-      throw ShotFailure{shot, "Unknown exception"};
-    }
-  };
-  const auto done = [&](std::size_t shot) {
-    if (shot % mBatch != mBatch - 1 && shot + 1 < shots) return;
-    if (!mTraced && adds) {
-      console::out() << " --- Updating coorslow and coorcount " << std::endl;
-    }
-    tellBatch(shot + 1, caption, adds);
-  };
   try {
     tellBatch(0, caption, adds);
-    mCrew.pool().run(shots, work, done);
+    if (mTraced) {
+      for (std::size_t shot = mBatch; shot < mWorkers.size(); shot += mBatch) {
+        tellBatch(shot, caption, adds);
+      }
+    } else {
+      trace(caption, adds);
+    }
+    for (std::size_t shot = 0; shot < mWorkers.size(); shot += mCrew.sums().size()) {
+      const std::size_t end = std::min(shot + mCrew.sums().size(), mWorkers.size());
+      evaluate(shot, end);
+      if (adds) addUp(shot, end, *coorslow, *coorcount);
+    }
   } catch (const ShotFailure& failure) {
     return Status::failure(
         Message::tr("Ray tracing of shot %1 failed: %2").arg(failure.shot + 1).arg(failure.what));
   }
-  if (adds) addUp(*coorslow, *coorcount);
+  return {};
+}
+
+void ForwardPass::trace(const std::string& caption, bool adds) {
+  expectRays();
+  const std::size_t shots = mWorkers.size();
+  const auto work = [&](unsigned worker, std::size_t shot) {
+    DijkstraComputePathsThread* rays = mWorkers[shot].get();
+    if (rays != nullptr) ofShot(shot, [&] { rays->traceRays(mCrew.scratch(worker)); });
+  };
+  mCrew.pool().run(shots, work, [&](std::size_t shot) {
+    if (shot % mBatch != mBatch - 1 && shot + 1 < shots) return;
+    if (adds) console::out() << " --- Updating coorslow and coorcount " << std::endl;
+    tellBatch(shot + 1, caption, adds);
+  });
   mTraced = true;
   mBounds.reset();
-  return {};
+}
+
+void ForwardPass::evaluate(std::size_t first, std::size_t end) {
+  mCrew.pool().run(end - first, [&](unsigned worker, std::size_t i) {
+    DijkstraComputePathsThread* rays = mWorkers[first + i].get();
+    if (rays == nullptr) return;
+    ofShot(first + i, [&] { rays->evaluateRays(mCrew.scratch(worker), mCrew.sums()[i]); });
+  });
 }
 
 void ForwardPass::expectRays() {
@@ -180,16 +210,19 @@ void ForwardPass::tellThread(std::size_t shot, bool log) {
 }
 
 /// Every cell by itself gets the sums of the shots in their order, whichever thread adds them.
-void ForwardPass::addUp(std::vector<double>& coorslow, std::vector<double>& coorcount) {
-  forEachPart(mCrew.pool(), coorslow.size(), kCellsAtOnce, [&](std::size_t first, std::size_t end) {
-    for (std::vector<double>* sums : {&coorslow, &coorcount}) {
-      std::fill(sums->begin() + static_cast<std::ptrdiff_t>(first),
-                sums->begin() + static_cast<std::ptrdiff_t>(end), 0.0);
+void ForwardPass::addUp(std::size_t firstShot, std::size_t endShot, std::vector<double>& coorslow,
+                        std::vector<double>& coorcount) {
+  const auto add = [&](std::size_t first, std::size_t end) {
+    if (firstShot == 0) {
+      std::fill(&coorslow[first], coorslow.data() + end, 0.0);
+      std::fill(&coorcount[first], coorcount.data() + end, 0.0);
     }
-    for (const auto& worker : mWorkers) {
-      if (worker != nullptr) worker->addTo(coorslow, coorcount, first, end);
+    for (std::size_t shot = firstShot; shot < endShot; ++shot) {
+      if (mWorkers[shot] == nullptr) continue;
+      mWorkers[shot]->addTo(coorslow, coorcount, mCrew.sums()[shot - firstShot], first, end);
     }
-  });
+  };
+  forEachPart(mCrew.pool(), coorslow.size(), kCellsAtOnce, add);
 }
 
 void ForwardPass::takeRays(std::vector<std::vector<std::uint32_t>>& rays) {

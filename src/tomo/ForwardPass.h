@@ -19,6 +19,8 @@ struct ExcludedPosition;
 
 /// How many ray searches run at once unless the user asks for a single one.
 unsigned searchThreads();
+/// How many a run takes. \param wanted 0: as many as without a wish
+unsigned searchThreads(bool singleThread, unsigned wanted);
 
 /// Fails when rays cannot be traced: without a grid, without cells, or with a cell that has no
 /// valid velocity.
@@ -64,7 +66,10 @@ class ForwardPass {
   void expectRays();
   void tellBatch(std::size_t first, const std::string& caption, bool log);
   void tellThread(std::size_t shot, bool log);
-  void addUp(std::vector<double>& coorslow, std::vector<double>& coorcount);
+  void trace(const std::string& caption, bool adds);
+  void evaluate(std::size_t first, std::size_t end);
+  void addUp(std::size_t firstShot, std::size_t endShot, std::vector<double>& coorslow,
+             std::vector<double>& coorcount);
 
   Log& mLog;
   const TomoDocument& mDocument;

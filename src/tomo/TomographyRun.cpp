@@ -74,11 +74,6 @@ double percentOf(const Misfit& misfit) {
   return misfit.count > 0 ? misfit.relativeRms * 100.0 : -1.0;
 }
 
-unsigned threadsOf(const TomographyParameters& p) {
-  if (p.singleThread) return 1;
-  return p.threads > 0 ? p.threads : searchThreads();
-}
-
 /// The times of the last solver pass make way for those through the section that is shown.
 Status traceFinished(TomoDocument& document, TraceCrew& crew, TomographyResult& result, Log& log) {
   for (const TravelTime& record : document.ttArray) {
@@ -177,7 +172,7 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   const Stopwatch watch;
   const Shared<TomographyOutcome> before = document.result;
   begin(document, p, log);
-  TraceCrew crew(threadsOf(p));
+  TraceCrew crew(searchThreads(p.singleThread, p.threads));
   BestIteration best;
   const auto radiusOf = [&](int iteration) {
     return p.coarseToFine ? coarseToFineRadius(p.smoothing, iteration, p.externalIterations)

@@ -36,10 +36,11 @@ class Worker {
   }
 
   void run() {
-    mThread.run(mScratch);
+    if (mThread.rays().branches.empty()) mThread.traceRays(mScratch);
+    mThread.evaluateRays(mScratch, mSums);
     correction.assign(mDocument.model->grid->cellCount(), 0.0);
     rayLength = correction;
-    mThread.addTo(correction, rayLength, 0, correction.size());
+    mThread.addTo(correction, rayLength, mSums, 0, correction.size());
   }
   DijkstraComputePathsThread& thread() { return mThread; }
   double computed(std::size_t i) const { return mDocument.ttArray[0].ttCalcolati[i]; }
@@ -63,6 +64,7 @@ class Worker {
   }
   TomoDocument& mDocument;
   ShotScratch mScratch;
+  ShotSums mSums;
   DijkstraComputePathsThread mThread;
 };
 
