@@ -23,6 +23,7 @@
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
+#include "tomo/ForwardPass.h"
 #include "tomo/RayRecomputation.h"
 
 #include <ostream>
@@ -150,7 +151,7 @@ int run(const ExportOptions& options) {
   Status status = readProject(options.project, project);
   if (status.ok() && !options.run.empty()) {
     Log log;
-    status = chooseRun(options.run, project, log);
+    status = chooseRun(options.run, searchThreads(), project, log);
   }
   if (status.ok()) status = prepareFigures(options, project.document);
   if (!status.ok()) return failed(status.message());
