@@ -60,7 +60,8 @@ class ShortestPaths {
 
  private:
   struct State;
-  void run(const Grid& grid, std::uint32_t source);
+  void setField(const Grid& grid, std::uint32_t source);
+  void run();
   std::unique_ptr<State> mState;
 };
 
