@@ -56,12 +56,11 @@ void forEachEdgeInto(const Grid& grid, std::uint32_t node, Visit visit) {
 /// The same for those neighbours alone from which an edge can arrive at the time of the node: all
 /// others are passed over before the root of their edge is drawn.
 template <typename Visit>
-void forEachEdgeInTime(const Grid& grid, const double* distance, std::uint32_t node, double time,
+void forEachEdgeInTime(const Grid& grid, const SearchField& field, std::uint32_t node, double time,
                        Visit visit) {
   const GridGeometry& g = grid.geometry();
   const double x = g.nodeX(node);
   const double z = g.nodeZ(node);
-  const std::uint32_t sideBase = (g.righe() + 1) * g.lineNodeCount();
   const double rounding = time * kRounding;
   forEachCellOf(g, node, [&](std::uint32_t cell, CellSide side) {
     const std::uint32_t row = cell / g.col();
@@ -82,15 +81,19 @@ void forEachEdgeInTime(const Grid& grid, const double* distance, std::uint32_t n
     };
     const auto fromLine = [&](std::uint32_t line) {
       const std::uint32_t first = column * (g.nV() - 1);
-      const double* times = distance + std::size_t{line} * g.lineNodeCount();
-      for (std::uint32_t i = first; i < first + g.nV(); ++i) {
-        link(times[i], g.lineX(i), g.lineZ(line, i), [&] { return g.lineNode(line, i); });
-      }
+      const std::uint32_t point = field.point(line, column);
+      const double* corners = field.distance + field.cornerId(point);
+      const double* times = field.distance + field.levelId(point);
+      const auto from = [&](std::uint32_t i, double before) {
+        link(before, g.lineX(i), g.lineZ(line, i), [&] { return g.lineNode(line, i); });
+      };
+      from(first, corners[0]);
+      for (std::uint32_t k = 0; k + 2 < g.nV(); ++k) from(first + 1 + k, times[k]);
+      from(first + g.nV() - 1, corners[1]);
     };
     const auto fromSide = [&](std::uint32_t v) {
-      const std::uint32_t levels = g.nV() - 2;
-      const double* times = distance + sideBase + (std::size_t{row} * (g.col() + 1) + v) * levels;
-      for (std::uint32_t j = 0; j < levels; ++j) {
+      const double* times = field.distance + field.uprightId(field.point(row, v));
+      for (std::uint32_t j = 0; j + 2 < g.nV(); ++j) {
         link(times[j], g.sideX(v), g.sideZ(row, v, j), [&] { return g.sideNode(row, v, j); });
       }
     };
@@ -183,7 +186,7 @@ std::uint32_t ShortestPaths::predecessor(std::uint32_t node, GridEdge& edge) con
   // improvement. The edge is its first one in its own order, which is ascending by cell.
   SettlingOrder order(grid, *this);
   std::uint32_t best = kNoPredecessor;
-  forEachEdgeInTime(grid, mState->distance.data(), node, d, [&](const Link& link, double from) {
+  forEachEdgeInTime(grid, mState->field, node, d, [&](const Link& link, double from) {
     if (from + link.edge.time != d || link.neighbour == best) return;
     if (from == d && !order.before(link.neighbour, node)) return;
     if (best != kNoPredecessor && !order.before(link.neighbour, best)) return;

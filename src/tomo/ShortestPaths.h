@@ -65,7 +65,8 @@ class ShortestPaths {
 
  private:
   struct State;
-  void run(const Grid& grid, std::uint32_t source);
+  void setField(const Grid& grid, std::uint32_t source);
+  void run();
   void traceInto(RayTree& tree, std::size_t place, std::uint32_t receiver);
   std::unique_ptr<State> mState;
 };

@@ -1,5 +1,6 @@
 #include "support/ReferenceSearch.h"
 #include "support/TestGrids.h"
+#include "tomo/SearchField.h"
 #include "tomo/ShortestPaths.h"
 
 #include <gtest/gtest.h>
@@ -45,7 +46,10 @@ TEST(ShortestPaths, equalTheReferenceToTheLastBit) {
       {"level ground, steps that binary cannot hold", {10, 15, 6, 0.3}, 0.0, 0.0, {0, 31, 75}},
       {"ten nodes per side", {6, 9, 10, 0.5}, 2.0, 0.3, {0, 40}},
       {"seven nodes per side", {7, 9, 7, 2.0}, 5.0, 1.2, {3, 54}},
+      {"eight nodes per side", {7, 9, 8, 1.0}, 3.0, 0.5, {0, 30, 31}},
       {"fifteen nodes per side", {4, 5, 15, 1.0}, 2.0, 0.4, {0, 33}},
+      {"more nodes than a word has bits", {3, 4, 41, 1.0}, 2.0, 0.4, {0, 37, 160}},
+      {"more nodes than two words have bits", {2, 2, 71, 1.0}, 2.0, 0.4, {35}},
       {"fewer nodes than a vector", {8, 9, 3, 1.0}, 2.0, 0.4, {0, 11}},
       {"no side nodes at all", {8, 9, 2, 1.0}, 2.0, 0.4, {0, 5}},
       {"one cell", {1, 1, 6, 1.0}, 1.0, 0.0, {0, 3, 5}},
@@ -59,6 +63,42 @@ TEST(ShortestPaths, equalTheReferenceToTheLastBit) {
       SCOPED_TRACE(std::string(c.name) + ", source " + std::to_string(source));
       expectSameAsReference(*grid, source);
     }
+  }
+}
+
+/// The distances by search id that one of the kernels finds, whatever this processor would choose.
+std::vector<double> distancesBy(void (*kernel)(SearchField&, std::uint32_t), const Grid& grid,
+                                std::uint32_t level) {
+  const GridGeometry& g = grid.geometry();
+  SearchField f{};
+  f.rows = g.righe();
+  f.cols = g.col();
+  f.nV = g.nV();
+  f.lineNodes = g.lineNodeCount();
+  f.h = g.aLato();
+  f.lineX = g.lineXData();
+  f.lineZ = g.lineZData();
+  f.step = g.sideStepData();
+  f.slowness = grid.slownesses().data();
+  std::vector<double> distance(f.ids(), std::numeric_limits<double>::infinity());
+  std::vector<std::uint64_t> queued(std::size_t{3} * f.points(), SearchField::kNotQueued);
+  std::vector<std::uint32_t> improved(std::size_t{2} * f.points() * f.words(), 0);
+  BucketRing ring;
+  f.distance = distance.data();
+  f.queued = queued.data();
+  f.improved = improved.data();
+  f.bucketsPerSecond = 1.0 / 0.002;
+  f.ring = &ring;
+  ring.reset(4096);
+  kernel(f, f.levelId(f.point(1, 3)) + level);
+  return distance;
+}
+
+TEST(ShortestPaths, areTheSameOnEveryProcessor) {
+  for (const std::uint32_t nodes : {6U, 7U, 8U, 10U, 15U, 40U}) {
+    const auto grid = testing::roughGrid({6, 9, nodes, 1.0}, 3.0, 0.7);
+    const std::vector<double> plain = distancesBy(searchScalar, *grid, nodes - 3);
+    EXPECT_EQ(distancesBy(searchBaseline, *grid, nodes - 3), plain) << nodes;
   }
 }
 
