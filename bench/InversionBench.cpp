@@ -1,12 +1,15 @@
-// Building a grid, one external iteration with one and with all threads, a whole default inversion,
-// and the smoothing operators.
+// Building a grid, one external iteration with one and with all threads, whole default inversions,
+// one and many side by side, and the smoothing operators.
 #include "BenchSurvey.h"
+#include "base/RunForEach.h"
 #include "grid/GridBuilder.h"
 #include "model/GroundModel.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/TomographyRun.h"
 
+#include <algorithm>
 #include <ostream>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
@@ -47,6 +50,22 @@ void defaultInversion(benchmark::State& state) {
   }
 }
 
+/// Twenty of them, one per processor at a time, as campaigns and studies run them.
+void inversionsSideBySide(benchmark::State& state) {
+  const TomoDocument line = bench::surveyWithGrid(48, 9, 1.0, 49.0);
+  TomographyParameters parameters;
+  parameters.singleThread = true;
+  for (auto _ : state) {
+    std::vector<TomoDocument> lines(20, line);
+    std::vector<int> failed(lines.size(), 0);
+    runForEach(lines.size(), [&](std::size_t i) {
+      Log log;
+      failed[i] = runInversion(lines[i], parameters, log).status.ok() ? 0 : 1;
+    });
+    if (std::count(failed.begin(), failed.end(), 1) > 0) state.SkipWithError("an inversion failed");
+  }
+}
+
 void smoothing(benchmark::State& state) {
   auto document = bench::surveyWithGrid(100, 9, 0.5, 50.0);
   Log log;
@@ -67,11 +86,16 @@ BENCHMARK(externalIteration)
     ->ArgNames({"threads", "shots"})
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime()
+    ->Args({0, 9})
+    ->Args({1, 9})
     ->Args({0, 10})
     ->Args({1, 10})
+    ->Args({0, 11})
+    ->Args({1, 11})
     ->Args({0, 24})
     ->Args({1, 24});
 BENCHMARK(defaultInversion)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(inversionsSideBySide)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(smoothing)->ArgName("type")->Unit(benchmark::kMillisecond)->DenseRange(0, 3);
 
 }  // namespace talvesk

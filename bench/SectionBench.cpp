@@ -15,7 +15,7 @@
 
 #include <benchmark/benchmark.h>
 
-// Frames need a display, which scripts/bench provides.
+// Frames need a display, which scripts/bench --programs provides.
 
 namespace talvesk {
 namespace {

@@ -26,6 +26,7 @@
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
+#include "tomo/ForwardPass.h"
 
 #include <QDir>
 #include <ostream>
@@ -164,7 +165,7 @@ int run(const ExportOptions& options) {
   Status status = readProject(options.project, project);
   if (status.ok() && !options.run.empty()) {
     Log log;
-    status = chooseRun(options.run, project, log);
+    status = chooseRun(options.run, searchThreads(), project, log);
   }
   if (status.ok()) status = prepareFigures(options, project.document);
   if (!status.ok()) return failed(status.message());

@@ -31,6 +31,7 @@ FittedSettings settingsOf(const InvertOptions& options) {
   settings.reference = options.reference;
   settings.holdKnown = !options.constraints.empty();
   settings.singleThread = options.parameters.singleThread;
+  settings.threads = options.parameters.threads;
   FittedOptions& fit = settings.fit;
   fit.minVelocity = options.minVelocity.value_or(fit.minVelocity);
   fit.maxVelocity = options.maxVelocity.value_or(fit.maxVelocity);
@@ -148,6 +149,7 @@ Status findCertainty(const InvertOptions& options, const Channels& channels, Sur
   settings.errors = fitted.errors;
   settings.holdKnown = fitted.holdKnown;
   settings.singleThread = fitted.singleThread;
+  settings.threads = fitted.threads;
   settings.ensemble = {fitted.fit, static_cast<std::uint64_t>(options.seed), options.isovalues, {}};
   Progress progress(channels.progress, std::cerr);
   int done = 0;

@@ -276,12 +276,14 @@ int run(const InvertOptions& options) {
   LoadedProject project;
   TomoDocument& document = project.document;
   PickingManner manner;
-  manner.threads = options.parameters.singleThread ? 1 : 0;
+  const unsigned threads =
+      searchThreads(options.parameters.singleThread, options.parameters.threads);
+  manner.threads = threads;
   manner.quiet = options.quiet;
   manner.summary = channels.summary;
   Status status = readSurvey(options.input, options.picks, options.shots, manner, project);
   if (status.ok()) status = checkPicks(document, inputsOf(options));
-  if (status.ok() && !options.run.empty()) status = chooseRun(options.run, project, log);
+  if (status.ok() && !options.run.empty()) status = chooseRun(options.run, threads, project, log);
   if (status.ok()) status = takeKnownGround(options, project);
   if (status.ok()) status = setUpModel(options, project, log);
   if (status.ok()) status = tellWhatIsLeftOut(document);

@@ -248,6 +248,21 @@ std::vector<CLI::Option*> addCertaintyOptions(CLI::App& app, InvertOptions& opti
   return {members, seed, depths};
 }
 
+void addThreads(CLI::App& app, TomographyParameters& run) {
+  CLI::Option* single = app.add_flag("--single-thread", run.singleThread,
+                                     "Trace rays on one processor; the results are the same")
+                            ->group("Inversion");
+  addNumber<int>(app, "--threads", "N", {1, 1024},
+                 "Pick, trace and solve on so many processors at once; the results are the same "
+                 "(default: as many as there are cores)",
+                 [&](int value) {
+                   run.threads = static_cast<unsigned>(value);
+                   run.singleThread = value == 1;
+                 })
+      ->group("Inversion")
+      ->excludes(single);
+}
+
 /// \return the options that only the smoothed method has
 std::vector<CLI::Option*> addRunOptions(CLI::App& app, InvertOptions& options) {
   TomographyParameters& run = options.parameters;
@@ -301,9 +316,7 @@ std::vector<CLI::Option*> addRunOptions(CLI::App& app, InvertOptions& options) {
   };
   velocity(parameters::kMinVelocity, options.fitted.fit.minVelocity, options.minVelocity);
   velocity(parameters::kMaxVelocity, options.fitted.fit.maxVelocity, options.maxVelocity);
-  app.add_flag("--single-thread", run.singleThread,
-               "Trace rays on one processor; the results are the same")
-      ->group("Inversion");
+  addThreads(app, run);
   return own;
 }
 

@@ -71,6 +71,7 @@ ResolutionReport resolve(const InvertOptions& options, const TomoDocument& docum
   ResolutionRequest request = *options.resolution;
   request.errors = options.fitted.errors;
   request.singleThread = options.parameters.singleThread;
+  request.threads = options.parameters.threads;
   request.test.fit = options.fitted.fit;
   request.test.fit.statics = false;
   listenForInterrupt(Interruptible::kAtOnce, !options.quiet);

@@ -8,7 +8,6 @@
 #include "model/KeptRuns.h"
 #include "model/TomographyOutcome.h"
 #include "session/TableRules.h"
-#include "tomo/ForwardPass.h"
 #include "tomo/KeepRun.h"
 
 #include <ostream>
@@ -139,7 +138,7 @@ Json runsJson(const TomoDocument& document) {
   return runs;
 }
 
-Status chooseRun(const std::string& called, Survey& survey, Log& log) {
+Status chooseRun(const std::string& called, unsigned threads, Survey& survey, Log& log) {
   const auto index = findRun(*survey.document.runs, called);
   if (!index) {
     return Status::failure("the project has no inversion run " + quoted(called) + "; " +
@@ -148,7 +147,7 @@ Status chooseRun(const std::string& called, Survey& survey, Log& log) {
   const KeptRun run = survey.document.runs[*index];
   const bool wasSure = survey.document.result->certainty.has_value();
   const Status status = editSurvey(Edit::kUseRun, survey, [&](Survey& next) {
-    return useRun(*index, searchThreads(), next.document, log);
+    return useRun(*index, threads, next.document, log);
   });
   const std::string changes = changesText(changesSince(run, survey.document));
   if (status.ok() && !changes.empty()) warn(run.title().english() + changes);

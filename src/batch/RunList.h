@@ -22,6 +22,7 @@ Json runsJson(const TomoDocument& document);
 /// `--use RUN`: makes a run the section of a survey again, as the window does, and warns of what
 /// has changed since. Fails, with the survey as before, when there is no such run.
 /// \param called number or name of the run
-Status chooseRun(const std::string& called, Survey& survey, Log& log);
+/// \param threads that trace its rays, at least 1
+Status chooseRun(const std::string& called, unsigned threads, Survey& survey, Log& log);
 
 }  // namespace talvesk

@@ -6,7 +6,7 @@
 namespace talvesk {
 
 BucketRing::~BucketRing() {
-  for (std::uint32_t b = 0; b < mCount; ++b) std::free(mBuckets[b].nodes);
+  for (std::uint32_t b = 0; b < mCount; ++b) std::free(mBuckets[b].waiting);
   delete[] mBuckets;
 }
 
@@ -27,9 +27,9 @@ void BucketRing::reset(std::uint32_t count) {
 
 void BucketRing::grow(Bucket& bucket) {
   const std::uint32_t capacity = bucket.capacity == 0 ? 16 : bucket.capacity * 2;
-  void* nodes = std::realloc(bucket.nodes, capacity * sizeof(std::uint32_t));
-  if (nodes == nullptr) throw std::bad_alloc();
-  bucket.nodes = static_cast<std::uint32_t*>(nodes);
+  void* waiting = std::realloc(bucket.waiting, capacity * sizeof(std::uint32_t));
+  if (waiting == nullptr) throw std::bad_alloc();
+  bucket.waiting = static_cast<std::uint32_t*>(waiting);
   bucket.capacity = capacity;
 }
 

@@ -1,61 +1,57 @@
 #pragma once
 
 #include "tomo/RayBounds.h"
-#include "tomo/ShortestPaths.h"
+#include "tomo/RayTree.h"
 
-#include <QThread>
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace talvesk {
 
 class TomoDocument;
+struct ShotScratch;
+struct ShotSums;
 struct TravelTime;
 
-/// The worker of one shot: its rays through the current grid, the times along them, and what they
-/// ask of every cell. Started once to trace and evaluate, and again after every solver iteration,
-/// when it evaluates the rays that it has with the new slownesses.
+/// The work of one shot: its rays through the current grid, the times along them, and what they
+/// ask of every cell. It traces once, and evaluates the rays that it has with the new slownesses
+/// after every solver iteration. Which thread does that is up to the pool; the name is older.
 ///
-/// Reads the document; writes the computed times of its own shot and its own two accumulators, so
-/// that workers of different shots need no lock. As long as it works nobody copies the document,
-/// whose parts would be shared then. Nothing escapes the thread: see failure().
-class DijkstraComputePathsThread : public QThread {
+/// Reads the document; writes the computed times of its own shot and what it holds itself, so that
+/// different shots need no lock. As long as it works nobody copies the document, whose parts would
+/// be shared then.
+class DijkstraComputePathsThread {
  public:
   /// \param shotIndex record of the shot, also the thread's number; its `ttCalcolati` is as long as
   /// its `ttMisurati`
   /// \param sourceNode top-line node of the shot
   DijkstraComputePathsThread(TomoDocument& document, std::uint32_t shotIndex,
                              std::uint32_t sourceNode);
-  /// Waits for the thread where a batch was given up while it ran.
-  ~DijkstraComputePathsThread() override;
 
-  /// What the next start works with: the search's memory (first start only) and two zeroed arrays,
-  /// one entry per cell.
-  void use(ShortestPaths& search, std::vector<double>& correction, std::vector<double>& rayLength);
-
-  /// How long its rays take at most, before the first start; without it the whole ground is
+  /// How long its rays take at most, before they are traced; without it the whole ground is
   /// searched. \param firstRay number of its ray to the first receiver among those of all shots
   void expect(const RayBounds& bounds, std::size_t firstRay);
   std::size_t receivers() const;  ///< as many rays as it traces, those without nodes among them
 
-  void evaluateRay(std::uint32_t receiver);      ///< time, computed time and corrections
-  void refreshRayTimes(std::uint32_t receiver);  ///< edge times from the current slownesses
-
-  std::uint32_t threadNumber() const { return mShotIndex; }
-  const std::vector<Ray>& rays() const { return mRays; }  ///< without nodes: beyond the top line
-  double lastTime() const { return mLastTime; }           ///< seconds, of the ray evaluated last
-  /// Every cell that a ray crosses, once. Only these entries of the accumulators are ever written.
+  /// Throws what the search throws.
+  void traceRays(ShotScratch& scratch);
+  /// The nodes of every ray, handed out once; without nodes: beyond the top line.
+  std::vector<std::vector<std::uint32_t>> takeNodes();
+  const RayTree& rays() const { return mRays; }  ///< cells are places in cells(); nodes are gone
+  /// Every cell that a ray crosses, once, ascending.
   const std::vector<std::uint32_t>& cells() const { return mCells; }
-  const std::string& failure() const { return mFailure; }  ///< empty: all went well
 
- protected:
-  void run() override;
+  /// Times of all rays, and what they ask of each of cells().
+  void evaluateRays(ShotScratch& scratch, ShotSums& sums);
+  /// Adds that to one entry per cell of the grid, for the cells from `first` to `end` - 1.
+  void addTo(std::vector<double>& coorslow, std::vector<double>& coorcount, const ShotSums& sums,
+             std::size_t first, std::size_t end) const;
 
  private:
-  void traceRays();
-  void search(const Grid& grid, const std::vector<std::uint32_t>& nodes);
-  void collectCells();
+  void search(ShotScratch& scratch, const std::vector<std::uint32_t>& receivers);
+  void keep(ShotScratch& scratch);
+  void collectCells(ShotScratch& scratch);
+  void evaluateRay(std::uint32_t receiver, double time, ShotScratch& scratch, ShotSums& sums);
 
   std::uint32_t mShotIndex;
   const TomoDocument& mDocument;
@@ -63,15 +59,13 @@ class DijkstraComputePathsThread : public QThread {
   std::vector<double>& mComputed;  ///< times of the record, seconds
   std::uint32_t mSpreadIndex;
   std::uint32_t mSourceNode;
-  std::vector<Ray> mRays;  ///< per receiver; empty until the first run
-  std::vector<std::uint32_t> mCells;
   const RayBounds* mBounds = nullptr;
   std::size_t mFirstRay = 0;
-  ShortestPaths* mSearch = nullptr;
-  std::vector<double>* mCorrection = nullptr;
-  std::vector<double>* mRayLength = nullptr;
-  double mLastTime = 0.0;
-  std::string mFailure;
+
+  RayTree mRays;                                   ///< a ray per receiver
+  std::vector<std::vector<std::uint32_t>> mNodes;  ///< until they are taken
+  std::vector<double> mLengths;                    ///< per ray, metres
+  std::vector<std::uint32_t> mCells;
 };
 
 }  // namespace talvesk

@@ -6,10 +6,13 @@
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
+#include "tomo/Solver.h"
 
 #include <QThread>
 #include <algorithm>
+#include <exception>
 #include <ostream>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -22,6 +25,23 @@ bool sameExclusions(const std::vector<ExcludedPosition>& a,
                     });
 }
 
+struct ShotFailure {
+  std::size_t shot;
+  std::string what;
+};
+
+/// Says which shot it was when something fails.
+template <typename Work>
+void ofShot(std::size_t shot, Work work) {
+  try {
+    work();
+  } catch (const std::exception& error) {
+    throw ShotFailure{shot, error.what()};
+  } catch (...) {
+    throw ShotFailure{shot, "Unknown exception"};
+  }
+}
+
 void both(Log& log, const std::string& line) {
   console::out() << line << std::endl;
   log.write(line);
@@ -31,6 +51,11 @@ void both(Log& log, const std::string& line) {
 
 unsigned searchThreads() {
   return static_cast<unsigned>(std::max(QThread::idealThreadCount(), 1));
+}
+
+unsigned searchThreads(bool singleThread, unsigned wanted) {
+  if (singleThread) return 1;
+  return wanted > 0 ? wanted : searchThreads();
 }
 
 Status checkTraceable(const TomoDocument& document) {
@@ -80,9 +105,9 @@ std::vector<ExcludedPosition> findExcluded(const TomoDocument& document,
 }
 
 ForwardPass::ForwardPass(TomoDocument& document,
-                         const SharedVector<std::vector<std::uint32_t>>& earlier, unsigned threads,
+                         const SharedVector<std::vector<std::uint32_t>>& earlier, TraceCrew& crew,
                          Log& log, ThreadLines lines)
-    : mLog(log), mDocument(document), mEarlier(earlier), mLines(lines) {
+    : mLog(log), mDocument(document), mCrew(crew), mEarlier(earlier), mLines(lines) {
   std::vector<ExcludedPosition> excluded = findExcluded(document);
   if (!sameExclusions(excluded, document.result->excluded)) {
     for (const ExcludedPosition& position : excluded) log.write(describe(position), 1);
@@ -106,28 +131,55 @@ ForwardPass::ForwardPass(TomoDocument& document,
     mWorkers[s] = std::make_unique<DijkstraComputePathsThread>(
         document, static_cast<std::uint32_t>(s), source);
   }
-  mSlots.resize(std::min<std::size_t>(std::max(threads, 1U), std::max<std::size_t>(shots, 1)));
-  for (Slot& slot : mSlots) {
-    slot.correction.assign(document.model->grid->cellCount(), 0.0);
-    slot.rayLength.assign(document.model->grid->cellCount(), 0.0);
-  }
+  mBatch = std::min<std::size_t>(crew.width(), std::max<std::size_t>(shots, 1));
 }
 
 Status ForwardPass::run(const std::string& caption, std::vector<double>* coorslow,
                         std::vector<double>* coorcount) {
-  if (!mTraced) expectRays();
-  for (std::size_t first = 0; first < mWorkers.size(); first += mSlots.size()) {
-    const std::size_t last = std::min(first + mSlots.size(), mWorkers.size()) - 1;
-    if (!caption.empty()) {
-      both(mLog, caption + " Traces from " + std::to_string(first) + " to " + std::to_string(last));
+  const bool adds = coorslow != nullptr;
+  try {
+    tellBatch(0, caption, adds);
+    if (mTraced) {
+      for (std::size_t shot = mBatch; shot < mWorkers.size(); shot += mBatch) {
+        tellBatch(shot, caption, adds);
+      }
+    } else {
+      trace(caption, adds);
     }
-    if (const Status status = runBatch(first, last, coorslow, coorcount); !status.ok()) {
-      return status;
+    for (std::size_t shot = 0; shot < mWorkers.size(); shot += mCrew.sums().size()) {
+      const std::size_t end = std::min(shot + mCrew.sums().size(), mWorkers.size());
+      evaluate(shot, end);
+      if (adds) addUp(shot, end, *coorslow, *coorcount);
     }
+  } catch (const ShotFailure& failure) {
+    return Status::failure(
+        Message::tr("Ray tracing of shot %1 failed: %2").arg(failure.shot + 1).arg(failure.what));
   }
+  return {};
+}
+
+void ForwardPass::trace(const std::string& caption, bool adds) {
+  expectRays();
+  const std::size_t shots = mWorkers.size();
+  const auto work = [&](unsigned worker, std::size_t shot) {
+    DijkstraComputePathsThread* rays = mWorkers[shot].get();
+    if (rays != nullptr) ofShot(shot, [&] { rays->traceRays(mCrew.scratch(worker)); });
+  };
+  mCrew.pool().run(shots, work, [&](std::size_t shot) {
+    if (shot % mBatch != mBatch - 1 && shot + 1 < shots) return;
+    if (adds) console::out() << " --- Updating coorslow and coorcount " << std::endl;
+    tellBatch(shot + 1, caption, adds);
+  });
   mTraced = true;
   mBounds.reset();
-  return {};
+}
+
+void ForwardPass::evaluate(std::size_t first, std::size_t end) {
+  mCrew.pool().run(end - first, [&](unsigned worker, std::size_t i) {
+    DijkstraComputePathsThread* rays = mWorkers[first + i].get();
+    if (rays == nullptr) return;
+    ofShot(first + i, [&] { rays->evaluateRays(mCrew.scratch(worker), mCrew.sums()[i]); });
+  });
 }
 
 void ForwardPass::expectRays() {
@@ -140,38 +192,14 @@ void ForwardPass::expectRays() {
   }
 }
 
-Status ForwardPass::runBatch(std::size_t first, std::size_t last, std::vector<double>* coorslow,
-                             std::vector<double>* coorcount) {
-  for (std::size_t s = first; s <= last; ++s) {
-    if (!mTraced) tellThread(s, coorslow != nullptr);
-    if (mWorkers[s] == nullptr) continue;
-    Slot& slot = mSlots[s - first];
-    mWorkers[s]->use(slot.search, slot.correction, slot.rayLength);
-    mWorkers[s]->start();
+void ForwardPass::tellBatch(std::size_t first, const std::string& caption, bool log) {
+  if (first >= mWorkers.size()) return;
+  const std::size_t end = std::min(first + mBatch, mWorkers.size());
+  if (!caption.empty()) {
+    both(mLog,
+         caption + " Traces from " + std::to_string(first) + " to " + std::to_string(end - 1));
   }
-  Status status;
-  for (std::size_t s = first; s <= last; ++s) {
-    if (mWorkers[s] == nullptr) continue;
-    mWorkers[s]->wait();
-    if (!mWorkers[s]->failure().empty()) {
-      status = Status::failure(
-          Message::tr("Ray tracing of shot %1 failed: %2").arg(s + 1).arg(mWorkers[s]->failure()));
-    }
-  }
-  if (!mTraced && coorslow != nullptr) {
-    console::out() << " --- Updating coorslow and coorcount " << std::endl;
-  }
-  for (std::size_t s = first; s <= last; ++s) {
-    if (mWorkers[s] == nullptr) continue;
-    Slot& slot = mSlots[s - first];
-    for (const std::uint32_t c : mWorkers[s]->cells()) {
-      if (coorslow != nullptr) (*coorslow)[c] += slot.correction[c];
-      if (coorcount != nullptr) (*coorcount)[c] += slot.rayLength[c];
-      slot.correction[c] = 0.0;
-      slot.rayLength[c] = 0.0;
-    }
-  }
-  return status;
+  for (std::size_t shot = first; !mTraced && shot < end; ++shot) tellThread(shot, log);
 }
 
 void ForwardPass::tellThread(std::size_t shot, bool log) {
@@ -181,17 +209,26 @@ void ForwardPass::tellThread(std::size_t shot, bool log) {
   if (log) mLog.write(line);
 }
 
-void ForwardPass::refreshRayTimes() {
-  for (const auto& worker : mWorkers) {
-    if (worker == nullptr) continue;
-    for (std::uint32_t i = 0; i < worker->rays().size(); ++i) worker->refreshRayTimes(i);
-  }
+/// Every cell by itself gets the sums of the shots in their order, whichever thread adds them.
+void ForwardPass::addUp(std::size_t firstShot, std::size_t endShot, std::vector<double>& coorslow,
+                        std::vector<double>& coorcount) {
+  const auto add = [&](std::size_t first, std::size_t end) {
+    if (firstShot == 0) {
+      std::fill(&coorslow[first], coorslow.data() + end, 0.0);
+      std::fill(&coorcount[first], coorcount.data() + end, 0.0);
+    }
+    for (std::size_t shot = firstShot; shot < endShot; ++shot) {
+      if (mWorkers[shot] == nullptr) continue;
+      mWorkers[shot]->addTo(coorslow, coorcount, mCrew.sums()[shot - firstShot], first, end);
+    }
+  };
+  forEachPart(mCrew.pool(), coorslow.size(), kCellsAtOnce, add);
 }
 
-void ForwardPass::appendRaysTo(std::vector<std::vector<std::uint32_t>>& rays) const {
+void ForwardPass::takeRays(std::vector<std::vector<std::uint32_t>>& rays) {
   for (const auto& worker : mWorkers) {
     if (worker == nullptr) continue;
-    for (const Ray& ray : worker->rays()) rays.push_back(ray.nodes);
+    for (std::vector<std::uint32_t>& nodes : worker->takeNodes()) rays.push_back(std::move(nodes));
   }
 }
 

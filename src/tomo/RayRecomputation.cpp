@@ -13,16 +13,16 @@
 namespace talvesk {
 namespace {
 
-Status trace(TomoDocument& document, unsigned threads, Log& log, ThreadLines lines) {
+Status trace(TomoDocument& document, TraceCrew& crew, Log& log, ThreadLines lines) {
   try {
     const SharedVector<std::vector<std::uint32_t>> earlier = std::move(document.result.edit().rays);
     document.result.edit().rays = {};
-    ForwardPass pass(document, earlier, threads, log, lines);
+    ForwardPass pass(document, earlier, crew, log, lines);
     const Status status = pass.run("", nullptr, nullptr);
     if (!status.ok()) return status;
-    pass.appendRaysTo(document.result.edit().rays.edit());
+    pass.takeRays(document.result.edit().rays.edit());
     const std::optional<InversionRecord>& run = document.result->lastInversion;
-    if (run && run->fit) traceFittedTimes(document, threads);
+    if (run && run->fit) traceFittedTimes(document, crew.width());
     document.result.edit().timesOfSection = true;
     return status;
   } catch (const std::exception& error) {
@@ -33,8 +33,13 @@ Status trace(TomoDocument& document, unsigned threads, Log& log, ThreadLines lin
 }  // namespace
 
 Status traceSection(TomoDocument& document, unsigned threads, Log& log) {
+  TraceCrew crew(threads);
+  return traceSection(document, crew, log);
+}
+
+Status traceSection(TomoDocument& document, TraceCrew& crew, Log& log) {
   if (const Status status = checkTraceable(document); !status.ok()) return status;
-  return trace(document, threads, log, ThreadLines::kSilent);
+  return trace(document, crew, log, ThreadLines::kSilent);
 }
 
 Status recomputeRays(TomoDocument& document, Log& log) {
@@ -44,7 +49,8 @@ Status recomputeRays(TomoDocument& document, Log& log) {
     document.result.edit().coorcount.assign(cells, 0.0);
     document.result.edit().hitCounts.assign(cells, 0);
   }
-  return trace(document, searchThreads(), log, ThreadLines::kTold);
+  TraceCrew crew(searchThreads());
+  return trace(document, crew, log, ThreadLines::kTold);
 }
 
 }  // namespace talvesk

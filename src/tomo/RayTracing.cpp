@@ -56,12 +56,11 @@ void forEachEdgeInto(const Grid& grid, std::uint32_t node, Visit visit) {
 /// The same for those neighbours alone from which an edge can arrive at the time of the node: all
 /// others are passed over before the root of their edge is drawn.
 template <typename Visit>
-void forEachEdgeInTime(const Grid& grid, const double* distance, std::uint32_t node, double time,
+void forEachEdgeInTime(const Grid& grid, const SearchField& field, std::uint32_t node, double time,
                        Visit visit) {
   const GridGeometry& g = grid.geometry();
   const double x = g.nodeX(node);
   const double z = g.nodeZ(node);
-  const std::uint32_t sideBase = (g.righe() + 1) * g.lineNodeCount();
   const double rounding = time * kRounding;
   forEachCellOf(g, node, [&](std::uint32_t cell, CellSide side) {
     const std::uint32_t row = cell / g.col();
@@ -82,15 +81,19 @@ void forEachEdgeInTime(const Grid& grid, const double* distance, std::uint32_t n
     };
     const auto fromLine = [&](std::uint32_t line) {
       const std::uint32_t first = column * (g.nV() - 1);
-      const double* times = distance + std::size_t{line} * g.lineNodeCount();
-      for (std::uint32_t i = first; i < first + g.nV(); ++i) {
-        link(times[i], g.lineX(i), g.lineZ(line, i), [&] { return g.lineNode(line, i); });
-      }
+      const std::uint32_t point = field.point(line, column);
+      const double* corners = field.distance + field.cornerId(point);
+      const double* times = field.distance + field.levelId(point);
+      const auto from = [&](std::uint32_t i, double before) {
+        link(before, g.lineX(i), g.lineZ(line, i), [&] { return g.lineNode(line, i); });
+      };
+      from(first, corners[0]);
+      for (std::uint32_t k = 0; k + 2 < g.nV(); ++k) from(first + 1 + k, times[k]);
+      from(first + g.nV() - 1, corners[1]);
     };
     const auto fromSide = [&](std::uint32_t v) {
-      const std::uint32_t levels = g.nV() - 2;
-      const double* times = distance + sideBase + (std::size_t{row} * (g.col() + 1) + v) * levels;
-      for (std::uint32_t j = 0; j < levels; ++j) {
+      const double* times = field.distance + field.uprightId(field.point(row, v));
+      for (std::uint32_t j = 0; j + 2 < g.nV(); ++j) {
         link(times[j], g.sideX(v), g.sideZ(row, v, j), [&] { return g.sideNode(row, v, j); });
       }
     };
@@ -183,7 +186,7 @@ std::uint32_t ShortestPaths::predecessor(std::uint32_t node, GridEdge& edge) con
   // improvement. The edge is its first one in its own order, which is ascending by cell.
   SettlingOrder order(grid, *this);
   std::uint32_t best = kNoPredecessor;
-  forEachEdgeInTime(grid, mState->distance.data(), node, d, [&](const Link& link, double from) {
+  forEachEdgeInTime(grid, mState->field, node, d, [&](const Link& link, double from) {
     if (from + link.edge.time != d || link.neighbour == best) return;
     if (from == d && !order.before(link.neighbour, node)) return;
     if (best != kNoPredecessor && !order.before(link.neighbour, best)) return;
@@ -198,21 +201,63 @@ Ray ShortestPaths::ray(std::uint32_t receiver) const {
   GridEdge edge;
   for (std::uint32_t node = receiver; node != kNoPredecessor;) {
     ray.nodes.push_back(node);
-    // The rays of a shot come together, and are one from there to the source.
-    const auto known = mState->predecessors.find(node);
-    if (known != mState->predecessors.end()) {
-      node = known->second.node;
-      edge = known->second.edge;
-    } else {
-      const std::uint32_t from = predecessor(node, edge);
-      mState->predecessors.emplace(node, State::Step{from, edge});
-      node = from;
-    }
+    node = predecessor(node, edge);
     if (node != kNoPredecessor) ray.steps.push_back(edge);
   }
   std::reverse(ray.nodes.begin(), ray.nodes.end());
   std::reverse(ray.steps.begin(), ray.steps.end());
   return ray;
+}
+
+void ShortestPaths::trace(const std::vector<std::uint32_t>& receivers, RayTree& tree) {
+  tree.clear();
+  tree.branches.resize(receivers.size());
+  for (std::uint32_t i = 0; i < receivers.size(); ++i) {
+    if (receivers[i] == kNoNode) continue;
+    if (receivers[i] >= mState->grid->nodeCount()) {
+      throw std::out_of_range("no node " + std::to_string(receivers[i]));
+    }
+    tree.order.push_back(i);
+  }
+  // The long ones first: to leave another ray on its way makes fewer pieces of a ray than to go
+  // along many shorter ones.
+  std::stable_sort(tree.order.begin(), tree.order.end(), [&](std::uint32_t a, std::uint32_t b) {
+    return distance(receivers[a]) > distance(receivers[b]);
+  });
+  mState->stepInto.clear();
+  for (std::size_t i = 0; i < tree.order.size(); ++i) traceInto(tree, i, receivers[tree.order[i]]);
+}
+
+void ShortestPaths::traceInto(RayTree& tree, std::size_t place, std::uint32_t receiver) {
+  NodeSteps& stepInto = mState->stepInto;
+  RayTree::Branch& branch = tree.branches[tree.order[place]];
+  branch.first = branch.end = static_cast<std::uint32_t>(tree.nodes.size());
+  for (std::uint32_t node = receiver;;) {
+    const std::uint32_t known = stepInto.find(node);
+    if (known != RayTree::kNone) {
+      branch.joins = known;
+      branch.onto = tree.rayOf(known, place);
+      branch.root = tree.branches[branch.onto].root;
+      break;
+    }
+    GridEdge edge;
+    const std::uint32_t from = predecessor(node, edge);
+    if (from == kNoPredecessor) {
+      branch.root = node;
+      break;
+    }
+    tree.nodes.push_back(node);
+    tree.cells.push_back(edge.cell);
+    tree.lengths.push_back(edge.length);
+    node = from;
+  }
+  branch.end = static_cast<std::uint32_t>(tree.nodes.size());
+  std::reverse(tree.nodes.begin() + branch.first, tree.nodes.end());
+  std::reverse(tree.cells.begin() + branch.first, tree.cells.end());
+  std::reverse(tree.lengths.begin() + branch.first, tree.lengths.end());
+  for (std::uint32_t step = branch.first; step < branch.end; ++step) {
+    stepInto.add(tree.nodes[step], step);
+  }
 }
 
 }  // namespace talvesk

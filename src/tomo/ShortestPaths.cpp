@@ -13,10 +13,10 @@ namespace {
 
 // More buckets than this cost more to skip than wider ones cost in repeated relaxations.
 constexpr double kMostBuckets = 65536.0;
-// Measured: a bucket of one and a half average cell crossings makes the fewest moves between
-// buckets while few nodes are relaxed twice. Where the ground holds far faster cells than the
-// average, the width keeps to the short edges of those.
-constexpr double kCellsPerBucket = 1.5;
+// Measured: in a bucket of four average cell crossings the sides of cells wait until most of their
+// nodes can be settled at once, while few are settled twice. Where the ground holds far faster
+// cells than the average, the width keeps to the short edges of those.
+constexpr double kCellsPerBucket = 4.0;
 constexpr double kFastStepsPerBucket = 64.0;
 
 using SearchFunction = void (*)(SearchField&, std::uint32_t);
@@ -48,18 +48,17 @@ double longestEdge(const GridGeometry& g) {
   return std::hypot(g.aLato(), drop) * 1.000001;
 }
 
-/// Sets the nodes, by search id, to the latest time of a cell that each belongs to.
-void setLatest(const GridGeometry& g, const std::vector<double>& latest, double* distance) {
-  const std::uint32_t steps = g.nV() - 1;
-  for (std::uint32_t line = 0; line <= g.righe(); ++line) {
-    const double* cells = latest.data() + std::size_t{std::min(line, g.righe() - 1)} * g.col();
-    for (std::uint32_t c = 0; c < g.col(); ++c) distance = std::fill_n(distance, steps, cells[c]);
-    *distance++ = cells[g.col() - 1];
-  }
-  for (std::uint32_t row = 0; row < g.righe(); ++row) {
-    const double* cells = latest.data() + std::size_t{row} * g.col();
-    for (std::uint32_t v = 0; v <= g.col(); ++v) {
-      distance = std::fill_n(distance, steps - 1, cells[std::min(v, g.col() - 1)]);
+/// Sets the nodes to the latest time of a cell that each belongs to.
+void setLatest(const SearchField& f, const std::vector<double>& latest, double* distance) {
+  const std::uint32_t inner = f.nV - 2;
+  for (std::uint32_t line = 0; line <= f.rows; ++line) {
+    const double* cells = latest.data() + std::size_t{std::min(line, f.rows - 1)} * f.cols;
+    for (std::uint32_t v = 0; v <= f.cols; ++v) {
+      const std::uint32_t point = f.point(line, v);
+      const double time = cells[std::min(v, f.cols - 1)];
+      std::fill_n(distance + f.levelId(point), inner, time);
+      std::fill_n(distance + f.uprightId(point), inner, time);
+      distance[f.cornerId(point)] = time;
     }
   }
 }
@@ -72,19 +71,21 @@ ShortestPaths::ShortestPaths(ShortestPaths&&) noexcept = default;
 ShortestPaths& ShortestPaths::operator=(ShortestPaths&&) noexcept = default;
 
 void ShortestPaths::search(const Grid& grid, std::uint32_t source) {
-  mState->distance.assign(grid.nodeCount(), std::numeric_limits<double>::infinity());
-  run(grid, source);
+  setField(grid, source);
+  mState->distance.assign(mState->field.ids(), std::numeric_limits<double>::infinity());
+  run();
 }
 
 void ShortestPaths::search(const Grid& grid, std::uint32_t source,
                            const std::vector<WantedRay>& receivers, const LatestTimes& latest) {
+  setField(grid, source);
   latest.find(receivers, mState->latest);
-  mState->distance.resize(grid.nodeCount());
-  setLatest(grid.geometry(), mState->latest, mState->distance.data());
-  run(grid, source);
+  mState->distance.resize(mState->field.ids());
+  setLatest(mState->field, mState->latest, mState->distance.data());
+  run();
 }
 
-void ShortestPaths::run(const Grid& grid, std::uint32_t source) {
+void ShortestPaths::setField(const Grid& grid, std::uint32_t source) {
   if (source >= grid.nodeCount()) {
     throw std::out_of_range("no source node " + std::to_string(source));
   }
@@ -92,22 +93,28 @@ void ShortestPaths::run(const Grid& grid, std::uint32_t source) {
   const GridGeometry& g = grid.geometry();
   s.grid = &grid;
   s.source = source;
-  s.predecessors.clear();
-  s.queued.assign(grid.nodeCount(), SearchField::kNotQueued);
-
   SearchField& f = s.field;
   f.rows = g.righe();
   f.cols = g.col();
   f.nV = g.nV();
   f.lineNodes = g.lineNodeCount();
-  f.sideBase = (g.righe() + 1) * g.lineNodeCount();
   f.h = g.aLato();
   f.lineX = g.lineXData();
   f.lineZ = g.lineZData();
   f.step = g.sideStepData();
   f.slowness = grid.slownesses().data();
+}
+
+void ShortestPaths::run() {
+  State& s = *mState;
+  const Grid& grid = *s.grid;
+  const GridGeometry& g = grid.geometry();
+  SearchField& f = s.field;
+  s.queued.assign(std::size_t{3} * f.points(), SearchField::kNotQueued);
+  s.improved.assign(std::size_t{2} * f.points() * f.words(), 0);
   f.distance = s.distance.data();
   f.queued = s.queued.data();
+  f.improved = s.improved.data();
   f.ring = &s.ring;
 
   double width = 1.0;
@@ -117,7 +124,12 @@ void ShortestPaths::run(const Grid& grid, std::uint32_t source) {
     const auto [fastest, slowest] = std::minmax_element(slowness.begin(), slowness.end());
     const double mean = std::accumulate(slowness.begin(), slowness.end(), 0.0) /
                         static_cast<double>(slowness.size());
-    longest = longestEdge(g) * *slowest;
+    // The models of a run share their geometry.
+    if (s.measured != grid.sharedGeometry()) {
+      s.measured = grid.sharedGeometry();
+      s.longestEdge = longestEdge(g);
+    }
+    longest = s.longestEdge * *slowest;
     width = std::min(kCellsPerBucket * g.aLato() * mean,
                      kFastStepsPerBucket * g.aLato() / (g.nV() - 1) * *fastest);
     width = std::max(width, longest / kMostBuckets);
@@ -125,7 +137,7 @@ void ShortestPaths::run(const Grid& grid, std::uint32_t source) {
   f.bucketsPerSecond = 1.0 / width;
   s.ring.reset(static_cast<std::uint32_t>(longest * f.bucketsPerSecond) + 3);
 
-  searchFor(g.nV())(f, s.searchId(source));
+  searchFor(g.nV())(f, s.searchId(s.source));
 }
 
 std::uint32_t ShortestPaths::source() const {
@@ -138,7 +150,8 @@ double ShortestPaths::distance(std::uint32_t node) const {
 
 std::size_t ShortestPaths::bytes() const {
   return mState->distance.capacity() * sizeof(double) +
-         mState->queued.capacity() * sizeof(std::uint32_t) + mState->ring.bytes();
+         mState->queued.capacity() * sizeof(std::uint64_t) +
+         mState->improved.capacity() * sizeof(std::uint32_t) + mState->ring.bytes();
 }
 
 }  // namespace talvesk

@@ -2,6 +2,7 @@
 
 #include "grid/Grid.h"
 #include "tomo/LatestTimes.h"
+#include "tomo/RayTree.h"
 
 #include <cstdint>
 #include <memory>
@@ -56,11 +57,17 @@ class ShortestPaths {
   /// The ray to a receiver node. Throws std::out_of_range for a number that is no node.
   Ray ray(std::uint32_t receiver) const;
 
+  /// The rays to all receivers, kNoNode for those without, what they share traced back once.
+  /// Throws std::out_of_range for another number that is no node.
+  void trace(const std::vector<std::uint32_t>& receivers, RayTree& tree);
+
   std::size_t bytes() const;  ///< memory held
 
  private:
   struct State;
-  void run(const Grid& grid, std::uint32_t source);
+  void setField(const Grid& grid, std::uint32_t source);
+  void run();
+  void traceInto(RayTree& tree, std::size_t place, std::uint32_t receiver);
   std::unique_ptr<State> mState;
 };
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "tomo/NodeSteps.h"
 #include "tomo/SearchField.h"
 #include "tomo/ShortestPaths.h"
 
 #include <limits>
-#include <unordered_map>
+#include <memory>
 #include <vector>
 
 namespace talvesk {
@@ -15,19 +16,21 @@ struct ShortestPaths::State {
   std::uint32_t source = 0;
   std::vector<double> distance;
   std::vector<double> latest;  ///< per cell, of a search for receivers
-  std::vector<std::uint32_t> queued;
-  struct Step {
-    std::uint32_t node;
-    GridEdge edge;
-  };
-  std::unordered_map<std::uint32_t, Step> predecessors;  ///< that rays asked for, by node
+  std::vector<std::uint64_t> queued;
+  std::vector<std::uint32_t> improved;
   BucketRing ring;
   SearchField field{};
+  NodeSteps stepInto;  ///< while rays are traced
+  std::shared_ptr<const GridGeometry> measured;
+  double longestEdge = 0.0;  ///< of the geometry that was measured, metres
 
   std::uint32_t searchId(std::uint32_t node) const {
     const GridGeometry::Place p = grid->geometry().place(node);
-    if (p.onLine) return p.row * field.lineNodes + p.along;
-    return field.sideBase + (p.row * (field.cols + 1) + p.along) * (field.nV - 2) + p.level;
+    if (!p.onLine) return field.uprightId(field.point(p.row, p.along)) + p.level;
+    const std::uint32_t column = p.along / (field.nV - 1);
+    const std::uint32_t k = p.along - column * (field.nV - 1);
+    const std::uint32_t point = field.point(p.row, column);
+    return k == 0 ? field.cornerId(point) : field.levelId(point) + k - 1;
   }
   double distanceOf(std::uint32_t node) const { return distance[searchId(node)]; }
 };

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -53,12 +54,21 @@ struct Centres {
   std::vector<double> z;
 };
 
+/// Calls work(row) for every row; workers take a few thousand cells at once.
+void forEachRow(WorkerPool& pool, int rows, int cols, const std::function<void(int row)>& work) {
+  constexpr int kCells = 2048;
+  const auto part = static_cast<std::size_t>(std::max(kCells / std::max(cols, 1), 1));
+  forEachPart(pool, static_cast<std::size_t>(rows), part, [&](std::size_t first, std::size_t end) {
+    for (std::size_t row = first; row < end; ++row) work(static_cast<int>(row));
+  });
+}
+
 /// Works through a row of cells at once, but adds up every window in its own order: row by row,
 /// left to right.
-std::vector<double> uniform(const Windows& w, const std::vector<double>& in) {
+std::vector<double> uniform(const Windows& w, const std::vector<double>& in, WorkerPool& pool) {
   std::vector<double> out(in.size(), 0.0);
   const int reach = w.columnReach();
-  for (int row = 0; row < w.rows; ++row) {
+  forEachRow(pool, w.rows, w.cols, [&](int row) {
     double* sums = out.data() + std::size_t(row) * w.cols;
     for (int r = w.firstRow(row); r <= w.lastRow(row); ++r) {
       const double* values = in.data() + std::size_t(r) * w.cols;
@@ -73,16 +83,16 @@ std::vector<double> uniform(const Windows& w, const std::vector<double>& in) {
     for (int column = 0; column < w.cols; ++column) {
       sums[column] /= height * (w.lastColumn(column) - w.firstColumn(column) + 1);
     }
-  }
+  });
   return out;
 }
 
 /// Weighted mean over every window; the weight is a function of the squared centre distance.
 template <typename Weight>
 std::vector<double> weighted(const Windows& w, const Centres& centres,
-                             const std::vector<double>& in, Weight weightOf) {
+                             const std::vector<double>& in, WorkerPool& pool, Weight weightOf) {
   std::vector<double> out(in.size(), 0.0);
-  for (int row = 0; row < w.rows; ++row) {
+  forEachRow(pool, w.rows, w.cols, [&](int row) {
     for (int column = 0; column < w.cols; ++column) {
       const std::size_t cell = std::size_t(row) * w.cols + column;
       double sum = 0.0;
@@ -97,7 +107,7 @@ std::vector<double> weighted(const Windows& w, const Centres& centres,
       }
       out[cell] = weights > 0.0 ? sum / weights : 0.0;
     }
-  }
+  });
   return out;
 }
 
@@ -153,12 +163,54 @@ class ColumnRows {
   std::vector<std::uint8_t> mOrdered;
 };
 
+/// The cells that rays crossed: what lies next in a row, and between which depths they lie around a
+/// column. Most ground without rays is far below all of them.
+class CoveredCells {
+ public:
+  /// \param width columns to either side that count as around one
+  CoveredCells(const Grid& grid, const Centres& centres, const std::vector<std::uint32_t>& hits,
+               std::size_t width)
+      : mCols(grid.col()), mNext(grid.righe() * (mCols + 1), grid.col()) {
+    std::vector<double> top(mCols, kLargest), bottom(mCols, -kLargest);
+    for (std::size_t row = 0; row < grid.righe(); ++row) {
+      std::uint32_t* next = &mNext[row * (mCols + 1)];
+      for (std::uint32_t column = grid.col(); column-- > 0;) {
+        const std::size_t cell = row * mCols + column;
+        next[column] = hits[cell] > 0 ? column : next[column + 1];
+        if (hits[cell] == 0) continue;
+        top[column] = std::min(top[column], centres.z[cell]);
+        bottom[column] = std::max(bottom[column], centres.z[cell]);
+      }
+    }
+    for (std::size_t column = 0; column < mCols; ++column) {
+      const std::size_t first = column - std::min(column, width);
+      const std::size_t end = std::min(column + width + 1, mCols);
+      mTop.push_back(*std::min_element(&top[first], top.data() + end));
+      mBottom.push_back(*std::max_element(&bottom[first], bottom.data() + end));
+    }
+  }
+
+  /// The first covered cell of a row at or after a column, the number of columns for none.
+  std::size_t next(std::size_t row, std::size_t column) const {
+    return mNext[row * (mCols + 1) + column];
+  }
+  bool noneNear(std::size_t column, double depth, double reach) const {
+    return depth - mBottom[column] > reach || mTop[column] - depth > reach;
+  }
+
+ private:
+  std::size_t mCols;
+  std::vector<std::uint32_t> mNext;  ///< one more per row than it has cells
+  std::vector<double> mTop;          ///< depth of the highest covered cell around a column
+  std::vector<double> mBottom;       ///< of the lowest
+};
+
 /// Gives the cells that no ray crossed a mean of covered cells near by; looks only at the columns
 /// and rows in which such cells can lie, in cell order. \param in what a cell keeps; \param values
 /// what is averaged, read where hits are
 std::vector<double> fillUncovered(const Grid& grid, const std::vector<std::uint32_t>& hits,
                                   int radius, const std::vector<double>& in,
-                                  const std::vector<double>& values) {
+                                  const std::vector<double>& values, WorkerPool& pool) {
   std::vector<double> out = in;
   if (out.empty()) return out;
   const Centres centres(grid);
@@ -169,10 +221,9 @@ std::vector<double> fillUncovered(const Grid& grid, const std::vector<std::uint3
   const double reach = std::sqrt(limit) + grid.aLato();
   const auto width =
       static_cast<std::size_t>(std::min(reach / grid.aLato() + 1.0, static_cast<double>(cols)));
+  const CoveredCells covered(grid, centres, hits, width);
 
-  for (std::size_t cell = 0; cell < out.size(); ++cell) {
-    if (hits[cell] > 0) continue;
-    const std::size_t column = cell % cols;
+  const auto fill = [&](std::size_t cell, std::size_t column) {
     const std::size_t firstColumn = column - std::min(column, width);
     const std::size_t lastColumn = std::min(column + width, cols - 1);
     std::size_t firstRow = rows - 1, lastRow = 0;
@@ -185,9 +236,9 @@ std::vector<double> fillUncovered(const Grid& grid, const std::vector<std::uint3
     double sum = 0.0;
     double weights = 0.0;
     for (std::size_t r = firstRow; r <= lastRow; ++r) {
-      for (std::size_t c = firstColumn; c <= lastColumn; ++c) {
+      for (std::size_t c = covered.next(r, firstColumn); c <= lastColumn;
+           c = covered.next(r, c + 1)) {
         const std::size_t other = r * cols + c;
-        if (hits[other] == 0) continue;
         const double squared = centres.squaredDistance(cell, other);
         if (!(squared < limit)) continue;
         const double weight = std::exp(squared / spread);
@@ -197,20 +248,27 @@ std::vector<double> fillUncovered(const Grid& grid, const std::vector<std::uint3
     }
     // No weight at all: nothing near by, or a cell of 1 m/s, whose logarithm leaves no width.
     if (weights > 0.0) out[cell] = 1.0 / (sum / weights);
-  }
+  };
+  forEachRow(pool, static_cast<int>(rows), static_cast<int>(cols), [&](int row) {
+    for (std::size_t column = 0; column < cols; ++column) {
+      const std::size_t cell = static_cast<std::size_t>(row) * cols + column;
+      if (hits[cell] > 0 || covered.noneNear(column, centres.z[cell], reach)) continue;
+      fill(cell, column);
+    }
+  });
   return out;
 }
 
 std::vector<double> smooth(SmoothingType type, const Grid& grid, const std::vector<double>& in,
-                           int radius, double ratio) {
+                           int radius, double ratio, WorkerPool& pool) {
   const Windows windows(grid, radius, ratio);
   if (type == SmoothingType::kLinear) {
-    return weighted(windows, Centres(grid), in, inverseDistance);
+    return weighted(windows, Centres(grid), in, pool, inverseDistance);
   }
   if (type == SmoothingType::kGaussian) {
-    return weighted(windows, Centres(grid), in, gaussian(radius));
+    return weighted(windows, Centres(grid), in, pool, gaussian(radius));
   }
-  return uniform(windows, in);
+  return uniform(windows, in, pool);
 }
 
 const char* nameOf(SmoothingType type) {
@@ -233,33 +291,47 @@ void checkHits(const Grid& grid, const std::vector<std::uint32_t>& hits) {
 }  // namespace
 
 std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
-                                   const std::vector<std::uint32_t>& hits, int radius,
-                                   double ratio) {
+                                   const std::vector<std::uint32_t>& hits, int radius, double ratio,
+                                   WorkerPool& pool) {
   checkHits(grid, hits);
   if (type == SmoothingType::kRayBased) {
     std::vector<double> velocities = grid.slownesses();
     for (double& v : velocities) v = v == 0.0 ? kLargest : 1.0 / v;
-    const auto filled = fillUncovered(grid, hits, radius, grid.slownesses(), velocities);
-    return smooth(SmoothingType::kUniform, grid, filled, radius, ratio);
+    const auto filled = fillUncovered(grid, hits, radius, grid.slownesses(), velocities, pool);
+    return smooth(SmoothingType::kUniform, grid, filled, radius, ratio, pool);
   }
   console::out() << nameOf(type) << " Smoothing..." << std::endl;
-  return smooth(type, grid, grid.slownesses(), radius, ratio);
+  return smooth(type, grid, grid.slownesses(), radius, ratio, pool);
+}
+
+std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
+                                   const std::vector<std::uint32_t>& hits, int radius,
+                                   double ratio) {
+  WorkerPool alone(1);
+  return smoothSlowness(type, grid, hits, radius, ratio, alone);
 }
 
 std::vector<double> smoothRayDensity(SmoothingType type, const Grid& grid,
                                      const std::vector<std::uint32_t>& hits, int radius,
-                                     double ratio, Log& log) {
+                                     double ratio, Log& log, WorkerPool& pool) {
   checkHits(grid, hits);
   const std::vector<double> counts(hits.begin(), hits.end());
   if (type == SmoothingType::kRayBased) {
     // The fill turns a mean hit count into its reciprocal, as it does with velocities; kept, so
     // that uncovered ground stands apart in the layer.
-    const auto filled = fillUncovered(grid, hits, radius, counts, counts);
-    return smooth(SmoothingType::kUniform, grid, filled, radius, ratio);
+    const auto filled = fillUncovered(grid, hits, radius, counts, counts, pool);
+    return smooth(SmoothingType::kUniform, grid, filled, radius, ratio, pool);
   }
   log.write(std::string(nameOf(type)) + " RayDensity Smoothing");
   log.write(std::to_string(radius));
-  return smooth(type, grid, counts, radius, ratio);
+  return smooth(type, grid, counts, radius, ratio, pool);
+}
+
+std::vector<double> smoothRayDensity(SmoothingType type, const Grid& grid,
+                                     const std::vector<std::uint32_t>& hits, int radius,
+                                     double ratio, Log& log) {
+  WorkerPool alone(1);
+  return smoothRayDensity(type, grid, hits, radius, ratio, log, alone);
 }
 
 }  // namespace talvesk

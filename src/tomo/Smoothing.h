@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Log.h"
+#include "base/WorkerPool.h"
 #include "grid/Grid.h"
 #include "model/SmoothingType.h"
 
@@ -15,11 +16,19 @@ namespace talvesk {
 /// number of entries throws std::out_of_range
 /// \param radius smoothing parameter, cells, at least 1
 /// \param ratio see verticalRatio()
+/// \param pool its workers share the rows of the grid; the result does not depend on how many
+std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
+                                   const std::vector<std::uint32_t>& hits, int radius, double ratio,
+                                   WorkerPool& pool);
+/// The same on the calling thread alone.
 std::vector<double> smoothSlowness(SmoothingType type, const Grid& grid,
                                    const std::vector<std::uint32_t>& hits, int radius,
                                    double ratio);
 
 /// The same operators on the hit counts: the information density.
+std::vector<double> smoothRayDensity(SmoothingType type, const Grid& grid,
+                                     const std::vector<std::uint32_t>& hits, int radius,
+                                     double ratio, Log& log, WorkerPool& pool);
 std::vector<double> smoothRayDensity(SmoothingType type, const Grid& grid,
                                      const std::vector<std::uint32_t>& hits, int radius,
                                      double ratio, Log& log);

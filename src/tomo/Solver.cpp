@@ -1,5 +1,9 @@
 #include "tomo/Solver.h"
 
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
 namespace talvesk {
 namespace {
 
@@ -21,17 +25,21 @@ double corrected(double s, double correction, const VelocityLimits& limits) {
 
 }  // namespace
 
-std::vector<double> updateSlownesses(Grid& grid, const std::vector<double>& coorslow,
-                                     const std::vector<double>& coorcount,
-                                     std::vector<std::uint32_t>& hitCounts,
-                                     const VelocityLimits& limits) {
-  for (std::uint32_t c = 0; c < grid.cellCount(); ++c) {
-    if (coorcount.at(c) > 0.0) ++hitCounts.at(c);
-    // Not "equal to 0" the other way round: a NaN goes on, and is then refused as no velocity.
-    if (coorslow.at(c) == 0.0) continue;
-    grid.setSlowness(c, corrected(grid.slowness(c), coorslow[c] / coorcount[c], limits));
+void updateSlownesses(Grid& grid, const std::vector<double>& coorslow,
+                      const std::vector<double>& coorcount, std::vector<std::uint32_t>& hitCounts,
+                      const VelocityLimits& limits, WorkerPool& pool) {
+  const std::size_t cells = grid.cellCount();
+  if (std::min({coorslow.size(), coorcount.size(), hitCounts.size()}) < cells) {
+    throw std::out_of_range("sums or hit counts for less than " + std::to_string(cells) + " cells");
   }
-  return grid.slownesses();
+  forEachPart(pool, cells, kCellsAtOnce, [&](std::size_t first, std::size_t end) {
+    for (auto c = static_cast<std::uint32_t>(first); c < end; ++c) {
+      if (coorcount[c] > 0.0) ++hitCounts[c];
+      // Not "equal to 0" the other way round: a NaN goes on, and is then refused as no velocity.
+      if (coorslow[c] == 0.0) continue;
+      grid.setSlowness(c, corrected(grid.slowness(c), coorslow[c] / coorcount[c], limits));
+    }
+  });
 }
 
 }  // namespace talvesk

@@ -1,12 +1,18 @@
 #pragma once
 
+#include "base/WorkerPool.h"
 #include "grid/Grid.h"
 #include "model/Parameters.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace talvesk {
+
+/// What is done cell by cell is shared among workers in parts of so many: for less, waking another
+/// one costs more than it saves.
+inline constexpr std::size_t kCellsAtOnce = 16384;
 
 /// The limits within which the solver keeps velocities, m/s. The maximum wins where they cross.
 struct VelocityLimits {
@@ -20,10 +26,9 @@ struct VelocityLimits {
 /// \param coorslow per cell: sum over rays of (residual per metre times length in the cell), s
 /// \param coorcount per cell: metres of ray
 /// \param hitCounts per cell: raised by one where coorcount is greater than 0
-/// \return the slownesses of all cells after the update, s/m; the grid holds them too
-std::vector<double> updateSlownesses(Grid& grid, const std::vector<double>& coorslow,
-                                     const std::vector<double>& coorcount,
-                                     std::vector<std::uint32_t>& hitCounts,
-                                     const VelocityLimits& limits);
+/// Throws std::out_of_range where one of these is shorter than the grid.
+void updateSlownesses(Grid& grid, const std::vector<double>& coorslow,
+                      const std::vector<double>& coorcount, std::vector<std::uint32_t>& hitCounts,
+                      const VelocityLimits& limits, WorkerPool& pool);
 
 }  // namespace talvesk

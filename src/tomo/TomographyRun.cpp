@@ -8,6 +8,7 @@
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "tomo/CoarseToFine.h"
+#include "tomo/ExternalIteration.h"
 #include "tomo/ForwardPass.h"
 #include "tomo/KeepRun.h"
 #include "tomo/RayRecomputation.h"
@@ -74,14 +75,13 @@ double percentOf(const Misfit& misfit) {
 }
 
 /// The times of the last solver pass make way for those through the section that is shown.
-Status traceFinished(TomoDocument& document, const TomographyParameters& p,
-                     TomographyResult& result, Log& log) {
+Status traceFinished(TomoDocument& document, TraceCrew& crew, TomographyResult& result, Log& log) {
   for (const TravelTime& record : document.ttArray) {
     result.lastPassTimes.push_back(record.ttCalcolati);
   }
   // An iteration that failed may have been through this section before.
   document.result.edit().sectionHistory.resize(result.history.size());
-  const Status status = traceSection(document, p.singleThread ? 1U : searchThreads(), log);
+  const Status status = traceSection(document, crew, log);
   if (!status.ok()) return status;
   result.sectionMisfit = sectionMisfitOf(document);
   document.result.edit().sectionHistory.push_back(result.sectionMisfit);
@@ -112,9 +112,9 @@ void begin(TomoDocument& document, const TomographyParameters& p, Log& log) {
 
 /// The document becomes that of the best iteration. The last one's section has had no rays yet.
 Status keepBest(TomoDocument& document, const TomographyParameters& p, BestIteration& best,
-                TomographyResult& result, Log& log) {
+                TraceCrew& crew, TomographyResult& result, Log& log) {
   TomoDocument last = document;
-  const Status status = traceSection(last, p.singleThread ? 1U : searchThreads(), log);
+  const Status status = traceSection(last, crew, log);
   if (!status.ok()) return status;
   const SectionMisfit misfit = sectionMisfitOf(last);
   best.judge(misfit);
@@ -139,7 +139,7 @@ Status keepBest(TomoDocument& document, const TomographyParameters& p, BestItera
 /// What comes after the iterations.
 /// \param radius of smoothing with which the section was found
 Status finish(TomoDocument& document, const TomographyParameters& p, int radius,
-              const Stopwatch& watch, TomographyResult& result, Log& log) {
+              const Stopwatch& watch, TraceCrew& crew, TomographyResult& result, Log& log) {
   const auto seconds = [&] {
     result.computingSeconds = watch.seconds();
     result.elapsedSeconds = p.asked ? Stopwatch(*p.asked).seconds() : result.computingSeconds;
@@ -148,8 +148,8 @@ Status finish(TomoDocument& document, const TomographyParameters& p, int radius,
   try {
     document.result.edit().info_density =
         smoothRayDensity(p.smoothingType, *document.model->grid, document.result->hitCounts, radius,
-                         verticalRatio(p.symmetric), log);
-    status = traceFinished(document, p, result, log);
+                         verticalRatio(p.symmetric), log, crew.pool());
+    status = traceFinished(document, crew, result, log);
     seconds();
     tellEnd(result, log);
   } catch (const std::exception& error) {
@@ -172,6 +172,7 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
   const Stopwatch watch;
   const Shared<TomographyOutcome> before = document.result;
   begin(document, p, log);
+  TraceCrew crew(searchThreads(p.singleThread, p.threads));
   BestIteration best;
   const auto radiusOf = [&](int iteration) {
     return p.coarseToFine ? coarseToFineRadius(p.smoothing, iteration, p.externalIterations)
@@ -181,9 +182,9 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
     const std::string line = "Running Tomography - external iteration " + std::to_string(i);
     log.write(line);
     std::vector<double> slownesses;
-    result.status =
-        document.runTomography(slownesses, p.solverIterations, radiusOf(i), !p.singleThread,
-                               p.symmetric, static_cast<int>(p.smoothingType), log);
+    result.status = runExternalIteration(
+        document, slownesses, {p.solverIterations, radiusOf(i), p.symmetric, p.smoothingType}, crew,
+        log);
     if (!result.status.ok()) break;
     log.write(line + " ... COMPLETED. ");
     result.iterationsDone = i + 1;
@@ -210,9 +211,9 @@ TomographyResult runInversion(TomoDocument& document, const TomographyParameters
     return result;
   }
   result.misfit = result.history.back();
-  const Status kept = p.coarseToFine ? keepBest(document, p, best, result, log) : Status();
+  const Status kept = p.coarseToFine ? keepBest(document, p, best, crew, result, log) : Status();
   const int radius = radiusOf(static_cast<int>(result.history.size()) - 1);
-  const Status finished = finish(document, p, radius, watch, result, log);
+  const Status finished = finish(document, p, radius, watch, crew, result, log);
   for (const Status& status : {kept, finished}) {
     if (result.status.ok()) result.status = status;
   }

@@ -29,6 +29,7 @@ struct TomographyParameters {
   /// section fits the picks best along fresh rays.
   bool coarseToFine = false;
   bool singleThread = false;
+  unsigned threads = 0;  ///< unless it is to be a single one; 0: as many as there are processors
   double minVelocity = parameters::kMinVelocity.initial;  ///< m/s
   double maxVelocity = parameters::kMaxVelocity.initial;  ///< m/s
   PickErrorRule errors;  ///< of picks that state none; the section is told of by them

@@ -108,6 +108,8 @@ TEST(Inversion, fitsToTheErrorsOfThePicksOnDemand) {
   std::vector<std::string> single = command;
   single.push_back("--single-thread");
   EXPECT_EQ(withoutElapsed(runBatch(single).out), withoutElapsed(outcome.out));
+  single.back() = "--threads=3";
+  EXPECT_EQ(withoutElapsed(runBatch(single).out), withoutElapsed(outcome.out));
 }
 
 TEST(Inversion, saysOnStandardErrorWhatAFitLeavesOut) {
@@ -194,6 +196,35 @@ TEST(Inversion, resultsDoNotDependOnThreadsOrRuns) {
   EXPECT_EQ(withoutElapsed(many.out), withoutElapsed(again.out));
   EXPECT_EQ(withoutElapsed(many.out), withoutElapsed(single.out));
   EXPECT_NE(withoutElapsed(many.out), many.out);
+  for (const char* threads : {"1", "2", "3", "8"}) {
+    const Outcome some =
+        runBatch(quickRun(input, {"--json", "-", "--verbose", "--threads", threads}));
+    EXPECT_EQ(withoutElapsed(many.out), withoutElapsed(some.out)) << threads;
+    const std::string n = threads;
+    EXPECT_THAT(some.err, HasSubstr(" to be run " + n + " by " + n + "\n"));
+    EXPECT_THAT(some.err, HasSubstr(n == "1" ? ":Single thread mode" : ":Multi thread mode"));
+  }
+}
+
+TEST(Inversion, saysWhatIsWrongWithANumberOfThreads) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const struct {
+    std::vector<std::string> options;
+    const char* text;
+  } cases[] = {
+      {{"--threads", "0"}, "--threads: '0' is not a whole number from 1 to 1024"},
+      {{"--threads", "-2"}, "--threads: '-2' is not a whole number from 1 to 1024"},
+      {{"--threads", "1025"}, "--threads: '1025' is not a whole number from 1 to 1024"},
+      {{"--threads", "1.5"}, "--threads: '1.5' is not a whole number"},
+      {{"--threads", "two"}, "--threads: 'two' is not a whole number"},
+      {{"--threads", "2", "--single-thread"}, "--single-thread excludes --threads"},
+  };
+  for (const auto& c : cases) {
+    const Outcome outcome = runBatch(quickRun(input, c.options));
+    EXPECT_EQ(outcome.code, 2) << c.text;
+    EXPECT_THAT(outcome.err, HasSubstr(c.text));
+  }
 }
 
 TEST(Inversion, everyOutputIsTheSameInALocaleWithDecimalCommas) {

@@ -389,10 +389,13 @@ TEST_F(Picking, invertPicksTheSameFirstBreaksAndThreadsChangeNothing) {
   more.insert(more.end(), {"--filter", "hushel", "--otte", mFolder / "a.otte"});
   ASSERT_EQ(runBatch(arguments("invert", mFiles, more)).code, 0);
   more.back() = mFolder / "b.otte";
-  more.emplace_back("--single-thread");
-  ASSERT_EQ(runBatch(arguments("invert", mFiles, more)).code, 0);
+  for (const char* threads : {"--single-thread", "--threads=3"}) {
+    std::vector<std::string> others = more;
+    others.emplace_back(threads);
+    ASSERT_EQ(runBatch(arguments("invert", mFiles, others)).code, 0);
+    EXPECT_EQ(contentsOf(mFolder / "a.otte"), contentsOf(mFolder / "b.otte")) << threads;
+  }
   ASSERT_EQ(pick({"--filter", "hushel", "-o", mFolder / "c.otte"}).code, 0);
-  EXPECT_EQ(contentsOf(mFolder / "a.otte"), contentsOf(mFolder / "b.otte"));
   EXPECT_EQ(contentsOf(mFolder / "a.otte"), contentsOf(mFolder / "c.otte"));
 }
 

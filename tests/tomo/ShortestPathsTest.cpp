@@ -1,5 +1,6 @@
 #include "support/ReferenceSearch.h"
 #include "support/TestGrids.h"
+#include "tomo/SearchField.h"
 #include "tomo/ShortestPaths.h"
 
 #include <gtest/gtest.h>
@@ -45,7 +46,10 @@ TEST(ShortestPaths, equalTheReferenceToTheLastBit) {
       {"level ground, steps that binary cannot hold", {10, 15, 6, 0.3}, 0.0, 0.0, {0, 31, 75}},
       {"ten nodes per side", {6, 9, 10, 0.5}, 2.0, 0.3, {0, 40}},
       {"seven nodes per side", {7, 9, 7, 2.0}, 5.0, 1.2, {3, 54}},
+      {"eight nodes per side", {7, 9, 8, 1.0}, 3.0, 0.5, {0, 30, 31}},
       {"fifteen nodes per side", {4, 5, 15, 1.0}, 2.0, 0.4, {0, 33}},
+      {"more nodes than a word has bits", {3, 4, 41, 1.0}, 2.0, 0.4, {0, 37, 160}},
+      {"more nodes than two words have bits", {2, 2, 71, 1.0}, 2.0, 0.4, {35}},
       {"fewer nodes than a vector", {8, 9, 3, 1.0}, 2.0, 0.4, {0, 11}},
       {"no side nodes at all", {8, 9, 2, 1.0}, 2.0, 0.4, {0, 5}},
       {"one cell", {1, 1, 6, 1.0}, 1.0, 0.0, {0, 3, 5}},
@@ -59,6 +63,42 @@ TEST(ShortestPaths, equalTheReferenceToTheLastBit) {
       SCOPED_TRACE(std::string(c.name) + ", source " + std::to_string(source));
       expectSameAsReference(*grid, source);
     }
+  }
+}
+
+/// The distances by search id that one of the kernels finds, whatever this processor would choose.
+std::vector<double> distancesBy(void (*kernel)(SearchField&, std::uint32_t), const Grid& grid,
+                                std::uint32_t level) {
+  const GridGeometry& g = grid.geometry();
+  SearchField f{};
+  f.rows = g.righe();
+  f.cols = g.col();
+  f.nV = g.nV();
+  f.lineNodes = g.lineNodeCount();
+  f.h = g.aLato();
+  f.lineX = g.lineXData();
+  f.lineZ = g.lineZData();
+  f.step = g.sideStepData();
+  f.slowness = grid.slownesses().data();
+  std::vector<double> distance(f.ids(), std::numeric_limits<double>::infinity());
+  std::vector<std::uint64_t> queued(std::size_t{3} * f.points(), SearchField::kNotQueued);
+  std::vector<std::uint32_t> improved(std::size_t{2} * f.points() * f.words(), 0);
+  BucketRing ring;
+  f.distance = distance.data();
+  f.queued = queued.data();
+  f.improved = improved.data();
+  f.bucketsPerSecond = 1.0 / 0.002;
+  f.ring = &ring;
+  ring.reset(4096);
+  kernel(f, f.levelId(f.point(1, 3)) + level);
+  return distance;
+}
+
+TEST(ShortestPaths, areTheSameOnEveryProcessor) {
+  for (const std::uint32_t nodes : {6U, 7U, 8U, 10U, 15U, 40U}) {
+    const auto grid = testing::roughGrid({6, 9, nodes, 1.0}, 3.0, 0.7);
+    const std::vector<double> plain = distancesBy(searchScalar, *grid, nodes - 3);
+    EXPECT_EQ(distancesBy(searchBaseline, *grid, nodes - 3), plain) << nodes;
   }
 }
 
@@ -119,6 +159,56 @@ TEST(ShortestPaths, aReceiverAtTheSourceIsARayOfOneNode) {
 }
 
 // The closed form of a constant gradient: t = 2/k asinh(k x / (2 sqrt(v0 v(0)))) along the surface.
+TEST(ShortestPaths, tracedTogetherAreTheSameRays) {
+  const struct {
+    const char* name;
+    GridSize size;
+    double relief, roughness;
+  } cases[] = {{"rough hills", {20, 40, 6, 1.0}, 3.0, 0.5},
+               {"level ground full of ties", {10, 30, 6, 1.0}, 0.0, 0.0},
+               {"no side nodes at all", {8, 30, 2, 1.0}, 2.0, 0.4}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const auto grid = testing::roughGrid(c.size, c.relief, c.roughness);
+    const std::uint32_t last = grid->geometry().lineNodeCount() - 1;
+    // Out of order, with one twice, one without a node, and the source.
+    std::vector<std::uint32_t> receivers = {7, last, 12, kNoNode, 7, 0, last - 1};
+    for (std::uint32_t node = 1; node < last; node += 3) receivers.push_back(node);
+    ShortestPaths paths;
+    RayTree tree;
+    for (const std::uint32_t source : {12U, 0U}) {
+      paths.search(*grid, source);
+      for (int times = 0; times < 2; ++times) paths.trace(receivers, tree);
+      std::vector<double> lengths;
+      tree.sumAlong([&](std::uint32_t step) { return tree.lengths[step]; }, lengths);
+      std::vector<RayTree::Run> runs;
+      std::size_t steps = 0;
+      for (std::size_t i = 0; i < receivers.size(); ++i) {
+        if (receivers[i] == kNoNode) {
+          EXPECT_TRUE(tree.nodesOf(i, runs).empty());
+          continue;
+        }
+        const Ray ray = paths.ray(receivers[i]);
+        EXPECT_EQ(tree.nodesOf(i, runs), ray.nodes) << receivers[i];
+        std::vector<std::uint32_t> cells, expected;
+        for (const RayTree::Run& run : runs) {
+          cells.insert(cells.end(), &tree.cells[run.first], tree.cells.data() + run.end);
+        }
+        double length = 0.0;
+        for (const GridEdge& step : ray.steps) {
+          expected.push_back(step.cell);
+          length += step.length;
+        }
+        EXPECT_EQ(cells, expected) << receivers[i];
+        EXPECT_EQ(tree.sumOf(i, lengths), length) << receivers[i];
+        steps += ray.steps.size();
+      }
+      EXPECT_LT(tree.cells.size(), steps) << "what rays share stands once";
+    }
+    EXPECT_THROW(paths.trace({grid->nodeCount()}, tree), std::out_of_range);
+  }
+}
+
 TEST(ShortestPaths, stayWithinTwoPercentOfAGradientsClosedForm) {
   const GridSize size{60, 200, 10, 0.5};
   const auto surface = testing::hills(100.0, 0.0);

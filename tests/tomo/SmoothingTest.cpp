@@ -248,6 +248,34 @@ TEST(Smoothing, fillsOnlyWithinTheCircleAroundTheWindow) {
   EXPECT_EQ(out, plain::windowed(SmoothingType::kUniform, *grid, filled, 5, 0.0));
 }
 
+TEST(Smoothing, doesNotDependOnTheNumberOfWorkers) {
+  const testing::ConsoleCapture console;
+  // Rays above a bent line, with gaps; nothing near the ground below and at one end.
+  const auto grid = testing::roughGrid({70, 110, 6, 1.0}, 6.0, 0.5);
+  std::vector<std::uint32_t> hits = someHits(*grid, 0.6);
+  for (std::uint32_t c = 0; c < hits.size(); ++c) {
+    const std::uint32_t row = c / 110, column = c % 110;
+    if (row > 12 + column / 10 || column > 90) hits[c] = 0;
+  }
+  Log log;
+  for (const bool density : {false, true}) {
+    EXPECT_EQ(smoothed(SmoothingType::kRayBased, *grid, hits, 4, 0.7, density),
+              plain::windowed(SmoothingType::kUniform, *grid,
+                              plain::filled(*grid, hits, 4, density), 4, 0.7));
+    for (int number = 0; number <= 3; ++number) {
+      const SmoothingType type = smoothingTypeOf(number);
+      const std::vector<double> expected = smoothed(type, *grid, hits, 4, 0.7, density);
+      for (const unsigned workers : {2U, 3U, 8U}) {
+        WorkerPool pool(workers);
+        EXPECT_EQ(density ? smoothRayDensity(type, *grid, hits, 4, 0.7, log, pool)
+                          : smoothSlowness(type, *grid, hits, 4, 0.7, pool),
+                  expected)
+            << "type " << number << ", " << workers << " workers";
+      }
+    }
+  }
+}
+
 TEST(Smoothing, staysFiniteWhereACellsOwnVelocityLeavesNoWidth) {
   // The logarithm of 1 m/s is 0; of infinite velocity there is only the largest number.
   for (const double slowness : {1.0, 0.0}) {

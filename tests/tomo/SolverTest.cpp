@@ -58,20 +58,39 @@ TEST(Solver, correctsEveryCellAtOnce) {
     const double before = grid->slowness(0);
     grid->setSlowness(1, c.slowness);
     std::vector<std::uint32_t> hits = {0, 0, 4};
-    const auto result =
-        updateSlownesses(*grid, {0.0, c.coorslow, 0.0}, {0.0, c.coorcount, 1.0}, hits, c.limits);
+    WorkerPool alone(1);
+    updateSlownesses(*grid, {0.0, c.coorslow, 0.0}, {0.0, c.coorcount, 1.0}, hits, c.limits, alone);
     EXPECT_EQ(grid->slowness(1), c.expected);
     EXPECT_EQ(hits, (std::vector<std::uint32_t>{0, c.hits, 5}));
     EXPECT_EQ(grid->slowness(0), before);
-    EXPECT_EQ(result, grid->slownesses());
+  }
+}
+
+TEST(Solver, doesNotDependOnTheNumberOfWorkers) {
+  const GridSize size{150, 300, 6, 1.0};
+  std::vector<double> coorslow(size.cellCount()), coorcount(size.cellCount());
+  for (std::size_t c = 0; c < coorslow.size(); ++c) {
+    coorcount[c] = static_cast<double>(c % 7);
+    coorslow[c] = 1e-4 * static_cast<double>(c % 11) * coorcount[c];
+  }
+  std::vector<double> expected;
+  for (const unsigned workers : {1U, 2U, 3U, 8U}) {
+    WorkerPool pool(workers);
+    auto grid = testing::roughGrid(size, 0.0);
+    std::vector<std::uint32_t> hits(size.cellCount(), 0);
+    updateSlownesses(*grid, coorslow, coorcount, hits, kWide, pool);
+    if (expected.empty()) expected = grid->slownesses();
+    EXPECT_EQ(grid->slownesses(), expected) << workers;
+    for (std::size_t c = 0; c < hits.size(); ++c) ASSERT_EQ(hits[c], c % 7 > 0 ? 1u : 0u) << c;
   }
 }
 
 TEST(Solver, refusesArraysOfAnotherGrid) {
   auto grid = testing::roughGrid({1, 3, 6, 1.0}, 0.0);
   std::vector<std::uint32_t> hits(3, 0);
-  EXPECT_THROW(updateSlownesses(*grid, {0, 0}, {0, 0, 0}, hits, kWide), std::out_of_range);
-  EXPECT_THROW(updateSlownesses(*grid, {0, 0, 0}, {0, 0}, hits, kWide), std::out_of_range);
+  WorkerPool alone(1);
+  EXPECT_THROW(updateSlownesses(*grid, {0, 0}, {0, 0, 0}, hits, kWide, alone), std::out_of_range);
+  EXPECT_THROW(updateSlownesses(*grid, {0, 0, 0}, {0, 0}, hits, kWide, alone), std::out_of_range);
 }
 
 // --- Misfit

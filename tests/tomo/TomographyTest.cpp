@@ -125,6 +125,28 @@ TEST(Inversion, doesNotDependOnTheNumberOfThreads) {
   }
 }
 
+TEST(Inversion, doesNotDependOnTheNumberOfThreadsOverManyCells) {
+  const testing::ConsoleCapture console;
+  std::vector<double> expected;
+  for (const unsigned threads : {1U, 2U, 3U, 8U}) {
+    TomoDocument line = twoLayers(1.5);
+    testing::putGrid(line, 40.0, 0.3);
+    ASSERT_GT(line.model->grid->cellCount(), 20000u);
+    TomographyParameters p = fewIterations(2, 2);
+    p.threads = threads;
+    Log log;
+    ASSERT_TRUE(runInversion(line, p, log).status.ok());
+    const std::string n = std::to_string(threads);
+    EXPECT_NE(console.out().find(" 5 to be run " + n + " by " + n), std::string::npos);
+    std::vector<double> all = line.model->grid->slownesses();
+    for (const auto* values : {&line.result->coorcount, &line.result->info_density}) {
+      all.insert(all.end(), values->begin(), values->end());
+    }
+    if (expected.empty()) expected = all;
+    EXPECT_EQ(all, expected) << threads << " threads";
+  }
+}
+
 TEST(Inversion, givesTheSameInBothModes) {
   const testing::ConsoleCapture console;
   Log log;

@@ -5,35 +5,56 @@
 #include "support/TestSurveys.h"
 #include "tomo/DijkstraComputePathsThread.h"
 #include "tomo/ForwardPass.h"
+#include "tomo/TraceCrew.h"
 
 #include <cmath>
 #include <functional>
 #include <limits>
 #include <numeric>
+#include <sstream>
+#include <stdexcept>
 
 #include <gtest/gtest.h>
 
 namespace talvesk {
 namespace {
 
-/// One shot's worker, started again and again with fresh accumulators.
+/// A step of a ray.
+struct Step {
+  std::uint32_t cell;
+  double length;
+};
+
+/// One shot's worker, run again and again.
 class Worker {
  public:
-  explicit Worker(TomoDocument& document)
-      : mDocument(document), mThread(document, 0, sourceOf(document)) {
+  explicit Worker(TomoDocument& document) : Worker(document, sourceOf(document)) {}
+  Worker(TomoDocument& document, std::uint32_t source)
+      : mDocument(document), mThread(document, 0, source) {
     document.ttArray.edit()[0].ttCalcolati.edit().assign(document.ttArray[0].ttMisurati.size(),
                                                          kNoTime);
   }
 
   void run() {
+    if (mThread.rays().branches.empty()) mThread.traceRays(mScratch);
+    mThread.evaluateRays(mScratch, mSums);
     correction.assign(mDocument.model->grid->cellCount(), 0.0);
     rayLength = correction;
-    mThread.use(mSearch, correction, rayLength);
-    mThread.start();
-    mThread.wait();
+    mThread.addTo(correction, rayLength, mSums, 0, correction.size());
   }
   DijkstraComputePathsThread& thread() { return mThread; }
   double computed(std::size_t i) const { return mDocument.ttArray[0].ttCalcolati[i]; }
+  std::vector<Step> steps(std::size_t ray) const {
+    std::vector<RayTree::Run> runs;
+    mThread.rays().runsOf(ray, runs);
+    std::vector<Step> all;
+    for (const RayTree::Run& run : runs) {
+      for (std::uint32_t step = run.first; step < run.end; ++step) {
+        all.push_back({mThread.cells()[mThread.rays().cells[step]], mThread.rays().lengths[step]});
+      }
+    }
+    return all;
+  }
 
   std::vector<double> correction, rayLength;
 
@@ -42,7 +63,8 @@ class Worker {
     return d.model->grid->geometry().topNodeIndex(d.ttArray[0].shotPos2d.x + d.model->xOffset);
   }
   TomoDocument& mDocument;
-  ShortestPaths mSearch;
+  ShotScratch mScratch;
+  ShotSums mSums;
   DijkstraComputePathsThread mThread;
 };
 
@@ -62,11 +84,10 @@ TEST(Worker, spreadsTheErrorOfARayAlongItsWay) {
   line.ttArray.edit()[0].ttMisurati.edit()[8] = 0.02;
   Worker worker(line);
   worker.run();
-  ASSERT_EQ(worker.thread().failure(), "");
 
-  const Ray& ray = worker.thread().rays()[8];
+  const std::vector<Step> ray = worker.steps(8);
   double time = 0.0, length = 0.0;
-  for (const GridEdge& step : ray.steps) {
+  for (const Step& step : ray) {
     time += step.length * line.model->grid->slowness(step.cell);
     length += step.length;
   }
@@ -74,7 +95,7 @@ TEST(Worker, spreadsTheErrorOfARayAlongItsWay) {
   EXPECT_GT(length, 12.0);
   const double perMetre = (time - 0.02) / length;
   std::vector<double> correction(line.model->grid->cellCount(), 0.0), rayLength = correction;
-  for (const GridEdge& step : ray.steps) {
+  for (const Step& step : ray) {
     correction[step.cell] += perMetre * step.length;
     rayLength[step.cell] += step.length;
   }
@@ -123,12 +144,12 @@ TEST(Worker, addsNoLengthForAnExactFit) {
   EXPECT_GT(sum(worker.rayLength), 13.0);
 }
 
-TEST(Worker, keepsItsRaysWhenItIsStartedAgain) {
+TEST(Worker, keepsItsRaysWhenItRunsAgain) {
   TomoDocument line = smallLine();
   Worker worker(line);
   worker.run();
-  std::vector<std::vector<std::uint32_t>> before;
-  for (const Ray& ray : worker.thread().rays()) before.push_back(ray.nodes);
+  std::vector<std::vector<Step>> before;
+  for (std::size_t i = 0; i < 10; ++i) before.push_back(worker.steps(i));
   const std::vector<double> times = line.ttArray[0].ttCalcolati;
 
   // A model that would bend every ray otherwise.
@@ -136,21 +157,36 @@ TEST(Worker, keepsItsRaysWhenItIsStartedAgain) {
     line.model.edit().editGrid().setSlowness(
         c, c < line.model.edit().grid->col() ? 1.0 / 5000.0 : 1.0 / 100.0);
   }
-  worker.thread().refreshRayTimes(9);
-  for (const GridEdge& step : worker.thread().rays()[9].steps) {
-    EXPECT_EQ(step.time, step.length * line.model->grid->slowness(step.cell));
-  }
   worker.run();
   for (std::size_t i = 0; i < before.size(); ++i) {
-    const Ray& ray = worker.thread().rays()[i];
-    EXPECT_EQ(ray.nodes, before[i]);
     double time = 0.0;
-    for (const GridEdge& step : ray.steps)
-      time += step.length * line.model->grid->slowness(step.cell);
+    for (const Step& step : before[i]) time += step.length * line.model->grid->slowness(step.cell);
     EXPECT_EQ(worker.computed(i), time);
   }
   EXPECT_NE(line.ttArray[0].ttCalcolati, times);
-  EXPECT_EQ(worker.thread().lastTime(), worker.computed(9));
+}
+
+TEST(Worker, handsOutTheNodesOfItsRaysOnce) {
+  TomoDocument line = smallLine();
+  line.line.edit().goephonesStringSet[0][4].x = 500.0;  // beyond the grid
+  Worker worker(line);
+  worker.run();
+  const auto nodes = worker.thread().takeNodes();
+  ShortestPaths paths;
+  paths.search(*line.model->grid, nodes.at(0).at(0));
+  const GridGeometry& geometry = line.model->grid->geometry();
+  for (std::size_t i = 0; i < 10; ++i) {
+    SCOPED_TRACE(i);
+    const std::uint32_t receiver =
+        geometry.topNodeIndex(line.line->goephonesStringSet[0][i].x + line.model->xOffset);
+    EXPECT_EQ(receiver == kNoNode, i == 4);
+    if (i == 4) {
+      EXPECT_TRUE(nodes[i].empty());
+    } else {
+      EXPECT_EQ(nodes[i], paths.ray(receiver).nodes);
+    }
+  }
+  EXPECT_TRUE(worker.thread().takeNodes().empty());
 }
 
 TEST(Worker, goesAsFarAsStringAndRecordBothGo) {
@@ -159,21 +195,15 @@ TEST(Worker, goesAsFarAsStringAndRecordBothGo) {
     line.ttArray.edit()[0].ttMisurati.edit().assign(times, 0.01);
     Worker worker(line);
     worker.run();
-    EXPECT_EQ(worker.thread().failure(), "");
-    EXPECT_EQ(worker.thread().rays().size(), std::min<std::size_t>(times, 10));
+    EXPECT_EQ(worker.thread().takeNodes().size(), std::min<std::size_t>(times, 10));
     for (std::size_t i = 0; i < times; ++i) EXPECT_EQ(worker.computed(i) == kNoTime, i >= 10) << i;
   }
 }
 
-TEST(Worker, letsNothingEscapeItsThread) {
+TEST(Worker, throwsForASourceThatIsNoNode) {
   TomoDocument line = smallLine();
-  DijkstraComputePathsThread thread(line, 0, kNoNode);
-  ShortestPaths search;
-  std::vector<double> correction, rayLength;
-  thread.use(search, correction, rayLength);
-  thread.start();
-  thread.wait();
-  EXPECT_NE(thread.failure(), "");
+  Worker worker(line, kNoNode);
+  EXPECT_THROW(worker.run(), std::out_of_range);
 }
 
 // --- Exclusions
@@ -228,9 +258,10 @@ TEST(ForwardPass, leavesOutWhatTheGridCannotHold) {
     c.change(line);
     Log log;
     std::vector<double> coorslow(line.model->grid->cellCount(), 0.0), coorcount = coorslow;
-    ForwardPass reference(whole, {}, 2, log);
+    TraceCrew crew(2);
+    ForwardPass reference(whole, {}, crew, log);
     ASSERT_TRUE(reference.run("all", &coorslow, &coorcount).ok());
-    ForwardPass pass(line, {}, 2, log);
+    ForwardPass pass(line, {}, crew, log);
     ASSERT_TRUE(pass.run("rest", &coorslow, &coorcount).ok());
 
     std::vector<std::pair<int, int>> excluded;
@@ -258,12 +289,69 @@ TEST(ForwardPass, namesExclusionsOnceAndCountsFromOne) {
   line.ttArray.edit()[1].shotPos2d.x = 500.0;
   line.line.edit().goephonesStringSet[0][9].x = std::numeric_limits<double>::quiet_NaN();
   Log log;
-  const ForwardPass first(line, {}, 1, log);
-  const ForwardPass second(line, {}, 1, log);
+  TraceCrew crew(1);
+  const ForwardPass first(line, {}, crew, log);
+  const ForwardPass second(line, {}, crew, log);
   const auto lines = exclusionsIn(console.error());
   ASSERT_EQ(lines.size(), 3u);
   EXPECT_EQ(lines[0].find("Left out: shot 1, receiver 10 at x = "), 0u) << lines[0];
   EXPECT_EQ(lines[1].find("Left out: shot 2 at x = 500 m"), 0u) << lines[1];
+}
+
+TEST(ForwardPass, namesTheFirstShotThatFails) {
+  for (const unsigned threads : {1U, 2U, 3U, 8U}) {
+    const testing::ConsoleCapture console;
+    TomoDocument line = movedLine();
+    Log log;
+    TraceCrew crew(threads);
+    ForwardPass pass(line, {}, crew, log);
+    // Shorter than what the workers were made for.
+    for (const std::size_t shot : {1, 2}) line.ttArray.edit()[shot].ttCalcolati.edit().resize(2);
+    std::vector<double> coorslow(line.model->grid->cellCount(), 0.0), coorcount = coorslow;
+    const Status status = pass.run("all", &coorslow, &coorcount);
+    ASSERT_FALSE(status.ok());
+    EXPECT_NE(status.message().find("shot 2 failed"), std::string::npos) << status.message();
+  }
+}
+
+TEST(ForwardPass, tellsItsBatchesInOrderForEveryNumberOfThreads) {
+  const struct {
+    unsigned threads;
+    std::vector<std::string> lines;
+  } cases[] = {
+      {1,
+       {"all Traces from 0 to 0", " --- Creating and running thread 0",
+        " --- Updating coorslow and coorcount ", "all Traces from 1 to 1",
+        " --- Creating and running thread 1", " --- Updating coorslow and coorcount ",
+        "all Traces from 2 to 2", " --- Creating and running thread 2",
+        " --- Updating coorslow and coorcount "}},
+      {2,
+       {"all Traces from 0 to 1", " --- Creating and running thread 0",
+        " --- Creating and running thread 1", " --- Updating coorslow and coorcount ",
+        "all Traces from 2 to 2", " --- Creating and running thread 2",
+        " --- Updating coorslow and coorcount "}},
+      {8,
+       {"all Traces from 0 to 2", " --- Creating and running thread 0",
+        " --- Creating and running thread 1", " --- Creating and running thread 2",
+        " --- Updating coorslow and coorcount "}},
+  };
+  for (const auto& c : cases) {
+    for (int times = 0; times < 20; ++times) {
+      const testing::ConsoleCapture console;
+      TomoDocument line = movedLine();
+      Log log;
+      TraceCrew crew(c.threads);
+      ForwardPass pass(line, {}, crew, log);
+      std::vector<double> coorslow(line.model->grid->cellCount(), 0.0), coorcount = coorslow;
+      ASSERT_TRUE(pass.run("all", &coorslow, &coorcount).ok());
+      std::vector<std::string> lines;
+      std::istringstream stream(console.out());
+      for (std::string text; std::getline(stream, text);) {
+        if (text.empty() || text[0] != '[') lines.push_back(text);  // not those of the log
+      }
+      EXPECT_EQ(lines, c.lines) << c.threads;
+    }
+  }
 }
 
 }  // namespace

@@ -35,11 +35,6 @@ void takeVariation(const EnsembleVariation& vary, Fingerprint& key) {
   }
 }
 
-unsigned threadsOf(const CertaintySettings& settings) {
-  if (settings.singleThread) return 1;
-  return settings.threads > 0 ? settings.threads : searchThreads();
-}
-
 }  // namespace
 
 std::unique_ptr<Ensemble> ensembleOf(const TomoDocument& document,
@@ -150,8 +145,9 @@ Status runCertainty(Ensemble& ensemble, const TomoDocument& document,
                     const std::function<void(const EnsembleProgress&)>& progress,
                     const std::function<bool()>& cancelled) {
   try {
-    const Status status = ensemble.run(settings.range(), threadsOf(settings), progress,
-                                       [&] { return !cancelled || !cancelled(); });
+    const Status status =
+        ensemble.run(settings.range(), searchThreads(settings.singleThread, settings.threads),
+                     progress, [&] { return !cancelled || !cancelled(); });
     if (ensemble.counts().members() > 0) certainty = gathered(ensemble, document, settings);
     if (!status.ok() || ensemble.counts().members() > 0 ||
         !ensemble.openOf(settings.range()).empty()) {

@@ -183,7 +183,7 @@ FittedRunResult runOnCopy(TomoDocument& document, const FittedSettings& settings
                           const std::function<bool()>& cancelled) {
   FittedRunResult result;
   const Clock::time_point start = Clock::now();
-  const unsigned threads = settings.singleThread ? 1U : searchThreads();
+  const unsigned threads = searchThreads(settings.singleThread, settings.threads);
   const FitData data = picksToFit(document, settings.errors);
   const Grid& grid = *document.model->grid;
   FittedOptions options = settings.fit;

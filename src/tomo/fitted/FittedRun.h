@@ -20,6 +20,7 @@ struct FittedSettings {
   PickErrorRule errors;
   bool holdKnown = false;  ///< held to the document's known ground, too
   bool singleThread = false;
+  unsigned threads = 0;                                        ///< see TomographyParameters
   std::optional<std::chrono::steady_clock::time_point> asked;  ///< see TomographyParameters
 };
 

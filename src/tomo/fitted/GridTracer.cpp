@@ -35,11 +35,17 @@ bool GridTracer::trace(const std::vector<double>& slownesses, TracedRays& traced
   const auto traceShot = [&](std::size_t worker, std::size_t shot) {
     ShortestPaths& search = mSearches[worker];
     search.search(grid, mShots[shot].source);
+    RayTree tree;
+    search.trace(mShots[shot].receivers, tree);
+    std::vector<RayTree::Run> runs;
     std::vector<RayPiece> pieces;
-    for (const std::uint32_t receiver : mShots[shot].receivers) {
+    for (std::size_t ray = 0; ray < tree.branches.size(); ++ray) {
       pieces.clear();
-      for (const GridEdge& step : search.ray(receiver).steps) {
-        pieces.push_back({step.cell, step.length});
+      tree.runsOf(ray, runs);
+      for (const RayTree::Run& run : runs) {
+        for (std::uint32_t step = run.first; step < run.end; ++step) {
+          pieces.push_back({tree.cells[step], tree.lengths[step]});
+        }
       }
       shots[shot].add(pieces, slownesses);
     }

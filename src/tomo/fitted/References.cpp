@@ -243,7 +243,7 @@ std::optional<References> referencesOf(const TomoDocument& document, const Fitte
   const Grid& grid = *document.model->grid;
   const VelocityBounds bounds{settings.fit.minVelocity, settings.fit.maxVelocity};
   const FitData data = picksToFit(document, settings.errors);
-  const unsigned threads = settings.singleThread ? 1U : searchThreads();
+  const unsigned threads = searchThreads(settings.singleThread, settings.threads);
   const auto tracer = fitTracer(grid.sharedGeometry(), data, threads);
   const FitData onTime = picksOnTime(data, settings.fit.triggerError);
   ReferenceModels made = referenceModels(onTime, grid.geometry(), bounds);

@@ -38,7 +38,7 @@ void runTests(const TomoDocument& document, const ResolutionRequest& request,
   }
   for (const double s : background) report.background.push_back(1.0 / s);
   const auto tracer =
-      fitTracer(grid.sharedGeometry(), data, request.singleThread ? 1U : searchThreads());
+      fitTracer(grid.sharedGeometry(), data, searchThreads(request.singleThread, request.threads));
   std::vector<double> sizes = request.trySizes ? sizesToTry(size, data) : request.sizes;
   if (sizes.empty()) sizes.push_back(request.test.size);
   for (const double each : sizes) {

@@ -23,6 +23,7 @@ struct ResolutionRequest {
   ResolutionBackground background = ResolutionBackground::kSection;
   PickErrorRule errors;
   bool singleThread = false;
+  unsigned threads = 0;  ///< see TomographyParameters
 };
 
 struct ResolutionReport {

@@ -8,7 +8,7 @@
 namespace talvesk {
 namespace {
 
-constexpr std::uint32_t kNotWaiting = SearchField::kNotQueued;
+constexpr std::uint32_t kNotWaiting = ~std::uint32_t{0};
 constexpr std::int64_t kBucketMask = 0x7FFFFFFFU;
 constexpr double kMostBuckets = 65536.0;
 constexpr double kFlat = 1e-9;
@@ -105,7 +105,7 @@ void TimeField::spread(const SurfacePoint& source, const std::vector<double>& sl
     const auto current = static_cast<std::uint32_t>(mNow & kBucketMask);
     BucketRing::Bucket& bucket = mBuckets.at(current);
     for (std::uint32_t i = 0; i < bucket.size; ++i) {  // it may grow meanwhile
-      const std::uint32_t node = bucket.nodes[i];
+      const std::uint32_t node = bucket.waiting[i];
       if (mWaiting[node] != current) continue;
       mWaiting[node] = kNotWaiting;
       settle(node);
