@@ -46,7 +46,7 @@ def search(builds):
             said = output(
                 build / "bench_search",
                 f"--benchmark_filter=earch/400/100/{nodes}$",
-                "--benchmark_repetitions=5",
+                "--benchmark_repetitions=3",
                 "--benchmark_format=json",
             )
             times = {
