@@ -47,13 +47,16 @@ void SectionView::retranslateTools() {
   s.draw->setText(tr("Draw"));
   s.draw->setToolTip(tr("Click texts, lines and areas of ground into the section; Esc ends"));
   s.drawActions[0]->setText(tr("Text"));
+  s.drawActions[0]->setToolTip(tr("Click where a text is to stand on the section"));
   s.drawActions[1]->setText(tr("Line"));
+  s.drawActions[1]->setToolTip(tr("Click the points of a line on the section"));
   s.drawActions[2]->setText(tr("Polygon"));
+  s.drawActions[2]->setToolTip(tr("Click the corners of an area of the section"));
 }
 
 void SectionView::startMeasuring() {
   setTool(std::make_unique<SectionMeasureTool>());
-  mState->measure->setChecked(true);
+  mState->measure->setChecked(hasTool());
 }
 
 void SectionView::startDrawing(AnnotationKind kind) {
@@ -63,7 +66,7 @@ void SectionView::startDrawing(AnnotationKind kind) {
         this, [this, what, points] { emit annotationDrawn(what, points); }, Qt::QueuedConnection);
   };
   setTool(std::make_unique<SectionDrawTool>(kind, done));
-  mState->drawActions[static_cast<std::size_t>(kind)]->setChecked(true);
+  mState->drawActions[static_cast<std::size_t>(kind)]->setChecked(hasTool());
 }
 
 void SectionView::endTool() {
@@ -77,6 +80,7 @@ bool SectionView::hasTool() const {
 void SectionView::setTool(std::unique_ptr<SectionTool> tool) {
   State& s = *mState;
   s.tool = std::move(tool);
+  if (isEmpty()) s.tool.reset();  // there is nothing to measure or draw on
   s.measure->setChecked(false);
   for (QAction* action : s.drawActions) action->setChecked(false);
   if (s.tool) {
