@@ -116,7 +116,7 @@ class ProfilePainter {
     } else {
       words << FigureWords::tr("surface at %1 m").arg(number(mProfile.surface, 2));
     }
-    if (mPanels.front().band) words << FigureWords::tr("shaded: 16 to 84 % of the members");
+    if (mPanels.front().band) words << FigureWords::tr("shaded: 16 to 84 %");
     const QString text =
         mMetrics.elidedText(FigureWords::joined(words), Qt::ElideRight, mSheet.right() - left);
     put(text, {left + 0.5 * mMetrics.horizontalAdvance(text), mBottom + mLine});
@@ -183,6 +183,11 @@ class ProfilePainter {
     const double spacing = mMetrics.horizontalAdvance(widest) + 1.2 * mLine;
     const int most = std::max(static_cast<int>(area.width() / spacing), 1);
     const AxisTicks ticks = axisTicks(panel.range.min, panel.range.max, most);
+    mPainter.setPen(QPen(Qt::black, 1.0));
+    for (const double value : ticks.minor) {
+      const double x = xOf(panel, area, value);
+      mPainter.drawLine(QPointF(x, area.top() - 0.5 * kTick), QPointF(x, area.top()));
+    }
     for (const double value : ticks.major) {
       const double x = xOf(panel, area, value);
       mPainter.setPen(QPen(kGrid, 1.0));

@@ -50,6 +50,7 @@ DepthProfiles::DepthProfiles(const TomoDocument& document) {
     mSpreads = certaintySpreads(*certainty);
   }
   mVelocityRange = rangeOf(mMesh, mVelocities);
+  mVelocityRange.max = std::max(mVelocityRange.max, rangeOf(mMesh, mHigh).max);
   mGradientRange = rangeOf(mMesh, mGradients);
   mSpreadRange = rangeOf(mMesh, mSpreads);
   for (std::uint32_t row = mMesh.rows; row-- > 0 && mDepth == 0.0;) {
