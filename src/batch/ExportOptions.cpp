@@ -168,6 +168,11 @@ void addExport(CLI::App& app, ExportOptions& options) {
                   "PROJECT --list' lists them (default: that which the project shows)")
       ->type_name("RUN");
   addOutputs(command, options);
+  mustEndIn(addPath(command, "--style", options.style,
+                    "How the section looks in pictures, reports and KML: palette, range, contours, "
+                    "exaggeration, switches and marked isolines of this file, named *.tvstyle "
+                    "(default: the project's)"),
+            {".tvstyle"}, true);
   command.add_flag("--quiet", options.quiet, kQuietHelp);
   command.final_callback([&options] {
     if (!options.anyOutput()) throw CLI::ValidationError("export", "no file to write is given");
