@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -34,6 +35,11 @@ QTableWidgetItem* fixedCell(const QString& text) {
   auto* cell = new QTableWidgetItem(text);
   cell->setFlags(cell->flags() & ~Qt::ItemIsEditable);
   return cell;
+}
+
+/// Metres to the millimetre; nobody draws finer.
+QString shownText(double metres) {
+  return numberText(std::round(1000.0 * metres) / 1000.0);
 }
 
 /// The usual colour of a lithology's signs.
@@ -178,8 +184,8 @@ void AnnotationsDialog::showPoints() {
     table.setRowCount(count);
     for (int i = 0; i < count; ++i) {
       const Point2D& p = item->points[static_cast<std::size_t>(i)];
-      table.setItem(i, 0, new QTableWidgetItem(numberText(p.x)));
-      table.setItem(i, 1, new QTableWidgetItem(numberText(p.z)));
+      table.setItem(i, 0, new QTableWidgetItem(shownText(p.x)));
+      table.setItem(i, 1, new QTableWidgetItem(shownText(p.z)));
     }
     if (count > 0) table.setCurrentCell(std::min(std::max(row, 0), count - 1), 0);
   }
@@ -202,7 +208,7 @@ void AnnotationsDialog::takePoint(int row, int column) {
   if (typed) coordinate = *typed;
   // What is no number goes back to what was there.
   const QScopedValueRollback<bool> showing(mShowing, true);
-  mUi->pointsTable->item(row, column)->setText(numberText(coordinate));
+  mUi->pointsTable->item(row, column)->setText(shownText(coordinate));
   changed();
 }
 

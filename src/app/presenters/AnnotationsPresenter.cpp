@@ -6,6 +6,8 @@
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/section/SectionView.h"
 
+#include <cmath>
+
 namespace talvesk {
 namespace {
 
@@ -41,6 +43,10 @@ void AnnotationsPresenter::drawn(AnnotationKind kind, const std::vector<Point2D>
   Annotation item;
   item.kind = kind;
   item.points = points;
+  // A pixel is not known finer than that.
+  for (Point2D& p : item.points) {
+    p = {std::round(100.0 * p.x) / 100.0, std::round(100.0 * p.z) / 100.0};
+  }
   ask(&item);
 }
 
