@@ -24,11 +24,11 @@ Raster rasterOf(Lithology pattern) {
     case Lithology::kSand:
       return {7.0, 6.0, 0.9};
     case Lithology::kGravel:
-      return {13.0, 9.0, 3.2};
+      return {11.0, 7.0, 2.8};
     case Lithology::kClay:
-      return {15.0, 5.0, 5.0};
+      return {10.0, 5.0, 3.4};
     case Lithology::kSilt:
-      return {16.0, 6.0, 5.0};
+      return {11.0, 6.0, 4.0};
     case Lithology::kRock:
       return {14.0, 10.0, 3.2};
     case Lithology::kFill:
@@ -59,8 +59,7 @@ class Signs {
  public:
   Signs(Lithology pattern, const Raster& raster) : mPattern(pattern), mHalf(raster.halfWidth) {}
 
-  /// \param odd whether its row is an odd one, \param column its place in the row
-  void add(const QPointF& at, bool odd, long column) {
+  void add(const QPointF& at) {
     switch (mPattern) {
       case Lithology::kSand:
         mDots << at;
@@ -72,12 +71,8 @@ class Signs {
         addLine(at, {-mHalf, 0.0}, {mHalf, 0.0});
         break;
       case Lithology::kSilt:
-        // The rows shift by half a step, so each begins with the other sign.
-        if (((column % 2) != 0) == odd) {
-          addLine(at, {-mHalf, 0.0}, {mHalf, 0.0});
-        } else {
-          mDots << at;
-        }
+        addLine(at, {-mHalf, 0.0}, {0.0, 0.0});
+        mDots << at + QPointF(0.75 * mHalf, 0.0);
         break;
       case Lithology::kRock:
         addLine(at, {-mHalf, 0.0}, {mHalf, 0.0});
@@ -133,15 +128,14 @@ void paintLithology(QPainter& painter, const QPolygonF& area, Lithology pattern,
   const auto yOf = [&](long row) { return origin.y() + static_cast<double>(row) * raster.dy; };
   auto row = static_cast<long>(std::ceil((seen.top() - origin.y()) / raster.dy));
   for (; yOf(row) <= seen.bottom(); ++row) {
-    const bool odd = row % 2 != 0;
-    const double start = origin.x() + (odd ? 0.5 * raster.dx : 0.0);
+    const double start = origin.x() + (row % 2 != 0 ? 0.5 * raster.dx : 0.0);
     const auto xOf = [&](long column) { return start + static_cast<double>(column) * raster.dx; };
     const std::vector<double> xs = crossings(area, yOf(row));
     for (std::size_t i = 0; i + 1 < xs.size(); i += 2) {
       const double left = std::max(xs[i], seen.left()) + raster.halfWidth;
       const double right = std::min(xs[i + 1], seen.right()) - raster.halfWidth;
       auto column = static_cast<long>(std::ceil((left - start) / raster.dx));
-      for (; xOf(column) <= right; ++column) signs.add({xOf(column), yOf(row)}, odd, column);
+      for (; xOf(column) <= right; ++column) signs.add({xOf(column), yOf(row)});
     }
   }
   signs.paint(painter, color);

@@ -143,7 +143,8 @@ LegendEntry legendOf(Lithology pattern, std::uint32_t color) {
             painter.setPen(QPen(Qt::black, 0.8));
             painter.setBrush(Qt::white);
             painter.drawRect(box);
-            paintLithology(painter, QPolygonF(box), pattern, QColor(QRgb(color)), box, middle);
+            paintLithology(painter, QPolygonF(box.adjusted(0.0, 2.0, 0.0, -2.0)), pattern,
+                           QColor(QRgb(color)), box, middle);
           }};
 }
 
