@@ -24,13 +24,12 @@ TEST(DepthProfile, isTheColumnBelowAPlaceDownFromItsSurface) {
   EXPECT_DOUBLE_EQ(section.right(), 129.0);
   const DepthProfile profile = section.at(112.25);
   ASSERT_EQ(profile.layers.size(), 10U);
-  EXPECT_EQ(profile.layers[0].top, 0.0);
   for (std::size_t row = 0; row < profile.layers.size(); ++row) {
     const DepthProfile::Layer& layer = profile.layers[row];
     EXPECT_NEAR(layer.velocity, 400.0 + 100.0 * static_cast<double>(row) + 13.0, 1e-9);
     EXPECT_NEAR(layer.bottom - layer.top, 1.0, 0.2) << "cells of a metre, over hills";
-    if (row > 0) EXPECT_EQ(layer.top, profile.layers[row - 1].bottom);
-    EXPECT_NEAR(layer.gradient, 100.0, 1e-9);
+    EXPECT_EQ(layer.top, row > 0 ? profile.layers[row - 1].bottom : 0.0);
+    EXPECT_NEAR(layer.gradient, 100.0, 2.0) << "per metre, over hills";
     EXPECT_TRUE(std::isnan(layer.spread)) << "nobody knows how sure it is";
   }
   EXPECT_FALSE(section.hasCertainty());
