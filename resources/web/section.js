@@ -211,23 +211,26 @@ class SectionFigure {
     )));
   }
 
-  /** What the user has drawn, each with its name in the middle. */
+  /** What the user has drawn: areas below lines below their names. */
   drawnTraces(line, flat) {
-    return this.section.drawn.flatMap(({ kind, name, color, width, points }) => {
-      const outline = flat(points);
-      const label = {
-        type: 'scatter', mode: 'text', ...labelPlace(kind, outline), text: [chartText(name)],
-        textfont: { color },
-      };
-      if (kind === 'text') return [label];
-      const shape = line(outline, { color, width }, kind === 'area'
-        ? { fill: 'toself', fillcolor: 'rgba(255, 255, 255, 0.5)', hoverinfo: 'skip' } : {});
-      if (kind === 'area') {
-        shape.x = [...shape.x, shape.x[0]];
-        shape.y = [...shape.y, shape.y[0]];
-      }
-      return name ? [shape, label] : [shape];
-    });
+    const { drawn } = this.section;
+    const areas = drawn.filter(({ kind }) => kind === 'area').map(({ color, width, points }) => line(
+      flat([...points, points[0], points[1]]),
+      { color, width },
+      { fill: 'toself', fillcolor: 'rgba(255, 255, 255, 0.5)', hoverinfo: 'skip' },
+    ));
+    const lines = drawn.filter(({ kind }) => kind === 'line').flatMap(({ color, width, points }) => [
+      line(flat(points), { color: '#fff', width: width + 2 }),
+      line(flat(points), { color, width }),
+    ]);
+    const names = drawn.filter(({ name }) => name).map(({ kind, name, color, points }) => ({
+      type: 'scatter',
+      mode: 'text',
+      ...labelPlace(kind, flat(points)),
+      text: [`<b>${chartText(name)}</b>`],
+      textfont: { color, size: 13, shadow: '0 0 3px #fff, 0 0 3px #fff, 0 0 3px #fff' },
+    }));
+    return [...areas, ...lines, ...names];
   }
 
   pickRay(line) {
