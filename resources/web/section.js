@@ -3,12 +3,20 @@
 const noRays = 'none';
 const allRays = 'all';
 
+/** Where the name of something drawn goes: into an area, else at its middle point. */
+function labelPlace(kind, { x, y }) {
+  const middle = Math.floor(x.length / 2);
+  if (kind !== 'area') return { x: [x[middle]], y: [y[middle]] };
+  const centre = (values) => (Math.min(...values) + Math.max(...values)) / 2;
+  return { x: [centre(x)], y: [centre(y)] };
+}
+
 class SectionFigure {
   constructor(place, section, rays) {
     this.section = section;
     this.mesh = new Mesh(section);
     this.rays = (rays || []).map((shot) => shot.map(rayPoints));
-    this.parts = { coverage: true, geophones: true, shots: true, layers: true, contours: true };
+    this.parts = { coverage: true, geophones: true, shots: true, layers: true, drawn: true, contours: true };
     this.shownRays = this.rays.length > 0 ? allRays : noRays;
     this.levels = section.contours;
     this.contourCount = section.contours.length;
@@ -64,7 +72,7 @@ class SectionFigure {
     const box = make('div', { class: 'controls', role: 'group', 'aria-label': words.sectionControls });
     box.append(quantity, palette, ...this.rangeFields(), this.contourField(), this.exaggerationField());
     if (this.rays.some((shot) => shot.length > 0)) box.append(this.rayField());
-    for (const part of ['coverage', 'geophones', 'shots', 'layers']) {
+    for (const part of ['coverage', 'geophones', 'shots', 'layers', 'drawn']) {
       if (section[part].length === 0) continue;
       box.append(checkBox(words[part], true, (on) => {
         this.parts[part] = on;
@@ -186,6 +194,7 @@ class SectionFigure {
     }
     if (parts.coverage) traces.push(line(flat(section.coverage), { color: '#444', dash: 'dash', width: 1 }));
     if (parts.layers) traces.push(...this.layerTraces(line, flat));
+    if (parts.drawn) traces.push(...this.drawnTraces(line, flat));
     const markers = (points, symbol, size) => ({
       type: 'scatter',
       mode: 'markers',
@@ -229,6 +238,28 @@ class SectionFigure {
       flat(piece),
       { color: '#c2185b', width: 2.5, dash: looks[i % looks.length] },
     )));
+  }
+
+  /** What the user has drawn: areas below lines below their names. */
+  drawnTraces(line, flat) {
+    const { drawn } = this.section;
+    const areas = drawn.filter(({ kind }) => kind === 'area').map(({ color, width, points }) => line(
+      flat([...points, points[0], points[1]]),
+      { color, width },
+      { fill: 'toself', fillcolor: 'rgba(255, 255, 255, 0.5)', hoverinfo: 'skip' },
+    ));
+    const lines = drawn.filter(({ kind }) => kind === 'line').flatMap(({ color, width, points }) => [
+      line(flat(points), { color: '#fff', width: width + 2 }),
+      line(flat(points), { color, width }),
+    ]);
+    const names = drawn.filter(({ name }) => name).map(({ kind, name, color, points }) => ({
+      type: 'scatter',
+      mode: 'text',
+      ...labelPlace(kind, flat(points)),
+      text: [`<b>${chartText(name)}</b>`],
+      textfont: { color, size: 13, shadow: '0 0 3px #fff, 0 0 3px #fff, 0 0 3px #fff' },
+    }));
+    return [...areas, ...lines, ...names];
   }
 
   pickRay(line) {

@@ -20,6 +20,7 @@
 #include "export/VtkGrid.h"
 #include "figures/ProfileLines.h"
 #include "io/PickedCopies.h"
+#include "io/StyleFile.h"
 #include "io/project/projectReader.h"
 #include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
@@ -141,6 +142,14 @@ Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
   return traceFreshTimes(document);
 }
 
+Status layOn(LoadedProject& project, const std::string& file) {
+  SectionStyle style;
+  Status status = readStyle(file, style);
+  if (!status.ok()) return status;
+  applyStyle(style, project.document, project.palettes.edit(), project.section);
+  return status;
+}
+
 /// Where the layered profile is drawn or told.
 void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project) {
   const bool shown = !options.report.empty() || !options.refractors.empty() ||
@@ -157,7 +166,9 @@ int run(const ExportOptions& options) {
   if (!options.index.empty()) return writeReportIndex(options);
   const std::vector<OutputFile> outputs = outputsOf(options);
   const Channels channels = openChannels(outputs, options.quiet);
-  const Status places = checkOutputFiles(outputs, {options.project});
+  std::vector<std::string> inputs{options.project};
+  if (!options.style.empty()) inputs.push_back(options.style);
+  const Status places = checkOutputFiles(outputs, inputs);
   if (places.code() == kWrongUsage) return wrongUsage("export", places.message());
   if (!places.ok()) return failed(places.message());
 
@@ -167,6 +178,7 @@ int run(const ExportOptions& options) {
     Log log;
     status = chooseRun(options.run, searchThreads(), project, log);
   }
+  if (status.ok() && !options.style.empty()) status = layOn(project, options.style);
   if (status.ok()) status = prepareFigures(options, project.document);
   if (!status.ok()) return failed(status.message());
   KmlColors colors;

@@ -110,7 +110,7 @@ void addReportIndex(CLI::App& app, CLI::Option* report, ExportOptions& options) 
 /// One project, or an index of many and nothing else.
 void checkProjects(ExportOptions& options) {
   if (!options.index.empty()) {
-    if (options.anyOutput() || !options.run.empty() || options.geography) {
+    if (options.anyOutput() || !(options.run + options.style).empty() || options.geography) {
       throw CLI::ValidationError(
           "--report-index",
           "goes with the texts of a report and --quiet, and with no other option");
@@ -225,6 +225,11 @@ void addExport(CLI::App& app, ExportOptions& options) {
                   "PROJECT --list' lists them (default: that which the project shows)")
       ->type_name("RUN");
   addOutputs(command, options);
+  mustEndIn(addPath(command, "--style", options.style,
+                    "How the section looks in pictures, reports and KML: palette, range, contours, "
+                    "exaggeration, switches and marked isolines of this file, named *.tvstyle "
+                    "(default: the project's)"),
+            {".tvstyle"}, true);
   command.add_flag("--quiet", options.quiet, kQuietHelp);
   command.final_callback([&options] {
     checkProjects(options);

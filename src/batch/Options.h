@@ -272,6 +272,7 @@ struct ExportOptions {
   std::string report;
   ReportFields reportFields;
   std::optional<geographicsCoord> geography;  ///< none: the project's
+  std::string style;                          ///< file of a style to lay on the section first
   std::string palette;                        ///< by name; none: the project's current one
   std::optional<ValueRange> range;            ///< m/s; none: that of the project's current palette
   bool quiet = false;

@@ -32,6 +32,10 @@ QString lonLat(const LonLat& place) {
   return kmlNumber(place.longitude) + QLatin1Char(',') + kmlNumber(place.latitude);
 }
 
+QString coordinatesOf(const KmlDocument::Vertex& vertex) {
+  return lonLat(vertex.place) + QLatin1Char(',') + kmlNumber(vertex.altitude) + QLatin1Char('\n');
+}
+
 }  // namespace
 
 QString kmlNumber(double value) {
@@ -70,12 +74,8 @@ void KmlDocument::addMark(const QString& name, const LonLat& place, const QStrin
 
 void KmlDocument::addShape(const std::vector<Vertex>& ring, const QString& color) {
   QString coordinates(QLatin1Char('\n'));
-  const auto add = [&coordinates](const Vertex& vertex) {
-    coordinates +=
-        lonLat(vertex.place) + QLatin1Char(',') + kmlNumber(vertex.altitude) + QLatin1Char('\n');
-  };
-  for (const Vertex& vertex : ring) add(vertex);
-  if (!ring.empty()) add(ring.front());
+  for (const Vertex& vertex : ring) coordinates += coordinatesOf(vertex);
+  if (!ring.empty()) coordinates += coordinatesOf(ring.front());
 
   mXml.writeStartElement(QStringLiteral("Placemark"));
   mXml.writeStartElement(QStringLiteral("Style"));
@@ -94,6 +94,25 @@ void KmlDocument::addShape(const std::vector<Vertex>& ring, const QString& color
   mXml.writeEndElement();  // LinearRing
   mXml.writeEndElement();  // outerBoundaryIs
   mXml.writeEndElement();  // Polygon
+  mXml.writeEndElement();  // Placemark
+}
+
+void KmlDocument::addLine(const std::string& name, const std::vector<Vertex>& points,
+                          const QString& color, double width) {
+  QString coordinates(QLatin1Char('\n'));
+  for (const Vertex& point : points) coordinates += coordinatesOf(point);
+  mXml.writeStartElement(QStringLiteral("Placemark"));
+  mXml.writeTextElement(QStringLiteral("name"), xmlText(name));
+  mXml.writeStartElement(QStringLiteral("Style"));
+  mXml.writeStartElement(QStringLiteral("LineStyle"));
+  mXml.writeTextElement(QStringLiteral("color"), color);
+  mXml.writeTextElement(QStringLiteral("width"), kmlNumber(width));
+  mXml.writeEndElement();  // LineStyle
+  mXml.writeEndElement();  // Style
+  mXml.writeStartElement(QStringLiteral("LineString"));
+  mXml.writeTextElement(QStringLiteral("altitudeMode"), QStringLiteral("relativeToGround"));
+  mXml.writeTextElement(QStringLiteral("coordinates"), coordinates);
+  mXml.writeEndElement();  // LineString
   mXml.writeEndElement();  // Placemark
 }
 

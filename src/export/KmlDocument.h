@@ -28,6 +28,10 @@ class KmlDocument {
   /// \param color "aabbggrr"
   void addShape(const std::vector<Vertex>& ring, const QString& color);
 
+  /// A line with a name. \param color "aabbggrr" \param width pixels
+  void addLine(const std::string& name, const std::vector<Vertex>& points, const QString& color,
+               double width);
+
   /// Closes the document and replaces the file, whole or not at all.
   Status write(const std::string& path);
 

@@ -1,12 +1,15 @@
 #include "export/SectionKml.h"
 
 #include "base/Console.h"
+#include "base/TextNumber.h"
 #include "export/ExportFailure.h"
 #include "export/KmlDocument.h"
 #include "export/LinePlacement.h"
+#include "model/Annotations.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
 #include "model/TomoDocument.h"
+#include "view/SectionAnnotations.h"
 #include "view/SectionValues.h"
 
 #include <algorithm>
@@ -81,6 +84,31 @@ std::vector<KmlDocument::Vertex> ringOf(const Rectangle& cell, const LineOnGlobe
   return {{left, lower}, {right, lower}, {right, upper}, {left, upper}};
 }
 
+/// The marked isolines of a survey, each piece under its name.
+void addIsolines(const TomoDocument& document, const Wall& wall, const LineOnGlobe& line,
+                 double firstX, KmlDocument& kml) {
+  for (const DrawnIsoline& isoline : drawnIsolines(document.annotations->isolines, wall.mesh,
+                                                   document.model->grid->velocities())) {
+    const std::uint32_t rgb = isoline.mark.color;
+    char color[9];
+    std::snprintf(color, sizeof color, "ff%02x%02x%02x", rgb & 0xffU, rgb >> 8 & 0xffU,
+                  rgb >> 16 & 0xffU);
+    const std::string name =
+        isoline.mark.name.empty() ? exactDouble(isoline.mark.velocity) + " m/s" : isoline.mark.name;
+    for (const ContourLine& contour : isoline.lines) {
+      std::vector<KmlDocument::Vertex> points;
+      for (const Point2D& p : contour.points) {
+        LonLat place;
+        if (line.locate(p.x - firstX, place)) points.push_back({place, p.z - wall.foot});
+      }
+      if (contour.closed && !points.empty()) points.push_back(points.front());
+      if (points.size() > 1) {
+        kml.addLine(name, points, QString::fromLatin1(color), isoline.mark.width);
+      }
+    }
+  }
+}
+
 /// What stands in the way of an export, or an empty text.
 Message whyNot(const TomoDocument& document, const ColorPalette& palette, const ValueRange& range) {
   if (!document.model->grid) return noGrid();
@@ -132,6 +160,7 @@ Status writeSectionKml(const std::string& path, const TomoDocument& document,
     ++shapes;
   });
   if (shapes == 0) return cannotWrite(path, noCellDrawn());
+  addIsolines(document, wall, line, ends->first, kml);
   return told(kml.write(path));
 }
 

@@ -36,10 +36,10 @@ QPointF pointAt(const QPolygonF& line, double distance) {
   return line.back();
 }
 
-/// Finds a free place for every label and keeps the places that are taken.
+/// Finds a free place for every label and adds it to the places that are taken.
 class LabelPlacer {
  public:
-  explicit LabelPlacer(const QRectF& canvas) : mCanvas(canvas) {}
+  LabelPlacer(const QRectF& canvas, std::vector<QRectF>& taken) : mCanvas(canvas), mTaken(taken) {}
 
   /// Tries places along the line, from its middle outwards. \param text around the origin
   /// \param placed the text where it goes; false when there is no room
@@ -76,7 +76,7 @@ class LabelPlacer {
   }
 
   QRectF mCanvas;
-  std::vector<QRectF> mTaken;
+  std::vector<QRectF>& mTaken;
 };
 
 bool hasLabel(const SectionScene& scene, const ContourStyle& style, double value) {
@@ -85,15 +85,42 @@ bool hasLabel(const SectionScene& scene, const ContourStyle& style, double value
   return at % style.labelEvery == 0;
 }
 
+QPainterPath labelPath(const QString& text, double points) {
+  QPainterPath label;
+  // Not the painter's font, which counts in the resolution of the device.
+  label.addText(0, 0, figureFont(points), text);
+  label.translate(-label.boundingRect().center());
+  return label;
+}
+
+void paintLabel(QPainter& painter, const QPainterPath& label, const QColor& color) {
+  painter.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawPath(label);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(color);
+  painter.drawPath(label);
+}
+
 }  // namespace
+
+void paintLineLabels(QPainter& painter, const std::vector<LineLabel>& labels, const QRectF& canvas,
+                     std::vector<QRectF>& taken) {
+  LabelPlacer placer(canvas, taken);
+  for (const LineLabel& label : labels) {
+    if (label.text.isEmpty()) continue;
+    QPainterPath placed;
+    if (!placer.place(label.line, labelPath(label.text, label.points), placed)) continue;
+    paintLabel(painter, placed, label.color);
+  }
+}
 
 void paintContourLabels(QPainter& painter, const SectionScene& scene,
                         const std::vector<QPolygonF>& lines, const ContourStyle& style,
-                        const QRectF& canvas, const std::function<QString(double)>& text) {
+                        const QRectF& canvas, const std::function<QString(double)>& text,
+                        std::vector<QRectF>& taken) {
   if (style.labelEvery < 1) return;
-  // Not the painter's font, which counts in the resolution of the device.
-  const QFont font = figureFont(style.labelPoints);
-  LabelPlacer placer(canvas);
+  LabelPlacer placer(canvas, taken);
   // Lines come level by level, and a rough section has thousands of short ones.
   QPainterPath label;
   std::optional<double> labelled;
@@ -101,19 +128,12 @@ void paintContourLabels(QPainter& painter, const SectionScene& scene,
     const double value = scene.contours[i].value;
     if (!hasLabel(scene, style, value)) continue;
     if (labelled != value) {
-      label = QPainterPath();
-      label.addText(0, 0, font, text(value));
-      label.translate(-label.boundingRect().center());
+      label = labelPath(text(value), style.labelPoints);
       labelled = value;
     }
     QPainterPath placed;
     if (!placer.place(lines[i], label, placed)) continue;
-    painter.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPath(placed);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(toColor(style.color));
-    painter.drawPath(placed);
+    paintLabel(painter, placed, toColor(style.color));
   }
 }
 

@@ -244,6 +244,9 @@ QStringList FigureWords::sectionFacts(const SectionScene& scene, double vertical
     if (scene.certainty->leftOut > 0) facts += tr("%1 left out").arg(scene.certainty->leftOut);
     facts += certaintyWarnings(scene, locale);
   }
+  if (scene.annotations.outside > 0) {
+    facts += tr("annotations outside the section: %1").arg(scene.annotations.outside);
+  }
   const QString factor = exaggeration(verticalExaggeration, locale);
   if (!factor.isEmpty()) facts += factor;
   return facts;

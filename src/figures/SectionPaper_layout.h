@@ -13,6 +13,8 @@ class QFontMetricsF;
 
 namespace talvesk {
 
+struct MarkedIsoline;
+
 /// What the parts of a sheet agree on, logical pixels.
 namespace section_paper {
 constexpr double kTick = 6.0;
@@ -40,6 +42,11 @@ struct LegendEntry {
 std::vector<LegendEntry> sectionLegend(const SectionScene& scene, const SectionDress& dress);
 /// Of what is drawn of its certainty.
 std::vector<LegendEntry> certaintyLegend(const SectionScene& scene, const QLocale& locale);
+
+/// Of what the user has drawn.
+std::vector<LegendEntry> annotationLegend(const SectionScene& scene, const QLocale& locale);
+/// What a marked isoline is called on a section: its name, else its velocity.
+QString isolineName(const MarkedIsoline& mark, const QLocale& locale);
 
 /// What goes where on a sheet of some size.
 struct SectionPaperLayout {

@@ -41,9 +41,15 @@ void SectionPaperPainter::paintMarks() {
   mPainter.setRenderHint(QPainter::Antialiasing);
   if (mDress.gridLines) paintGridLines();
   paintDepthBands();
+  paintAreas();
   paintLines();
   paintKnown();
-  paintContourValues();
+  paintMarkedIsolines();
+  paintAnnotations();
+  std::vector<QRectF> taken;
+  for (const PlacedText& text : texts) taken.push_back(text.outline.boundingRect());
+  paintLineLabels(mPainter, mLineLabels, mPlot, taken);
+  paintContourValues(taken);
   paintMarkers();
   mPainter.restore();
 }
@@ -79,7 +85,7 @@ void SectionPaperPainter::paintLines() {
   }
 }
 
-void SectionPaperPainter::paintContourValues() {
+void SectionPaperPainter::paintContourValues(std::vector<QRectF>& taken) {
   if (mScene.contours.empty() || mDress.contours.labelEvery < 1) return;
   std::vector<QPolygonF> lines;
   lines.reserve(mScene.contours.size());
@@ -88,10 +94,13 @@ void SectionPaperPainter::paintContourValues() {
     if (contour.closed && !lines.back().isEmpty()) lines.back().append(lines.back().front());
   }
   const double step = mScene.range.span() / 50.0;
-  paintContourLabels(mPainter, mScene, lines, mDress.contours, mPlot, [&](double value) {
-    const QString text = QString::fromStdString(valueText(value, step));
-    return QString(text).replace(QLatin1Char('.'), mDress.locale.decimalPoint());
-  });
+  paintContourLabels(
+      mPainter, mScene, lines, mDress.contours, mPlot,
+      [&](double value) {
+        const QString text = QString::fromStdString(valueText(value, step));
+        return QString(text).replace(QLatin1Char('.'), mDress.locale.decimalPoint());
+      },
+      taken);
 }
 
 void SectionPaperPainter::paintMarkers() {
@@ -151,6 +160,8 @@ std::vector<LegendEntry> sectionLegend(const SectionScene& scene, const SectionD
                        line(refractorPen(i))});
   }
   for (LegendEntry& entry : certaintyLegend(scene, dress.locale))
+    entries.push_back(std::move(entry));
+  for (LegendEntry& entry : annotationLegend(scene, dress.locale))
     entries.push_back(std::move(entry));
   const auto outlined = [](const QPen& pen) {
     return [pen](QPainter& painter, const QPointF& middle) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "figures/ContourLabels.h"
 #include "figures/SectionCamera.h"
 #include "figures/SectionPaper_layout.h"
 
@@ -10,6 +11,9 @@
 #include <vector>
 
 namespace talvesk {
+
+struct Annotation;
+struct MarkedIsoline;
 
 /// Paints one sheet, part by part.
 class SectionPaperPainter {
@@ -60,9 +64,14 @@ class SectionPaperPainter {
   void paintVelocity(double velocity, const Point2D& middle);
   void paintGridLines();
   void paintLines();
-  void paintContourValues();
+  void paintContourValues(std::vector<QRectF>& taken);
   void paintMarkers();
   void paintKnown();
+  void paintAreas();        ///< polygons of annotations
+  void paintAnnotations();  ///< their lines and texts
+  void paintMarkedIsolines();
+  QPolygonF onSheet(const Annotation& item) const;
+  void putNote(const Annotation& item, const QPointF& middle);
   void putOnSection(const QString& text, const QPointF& middle);
   QString velocityWords(double velocity) const;  ///< without its unit
 
@@ -77,7 +86,8 @@ class SectionPaperPainter {
   QRectF mPlot;
   QTransform mMap;  ///< survey positions to the sheet
   QFontMetricsF mMetrics;
-  double mLine;  ///< height of a line of text
+  double mLine;                                       ///< height of a line of text
+  std::vector<section_items::LineLabel> mLineLabels;  ///< of lines painted so far
 };
 
 /// A known depth with the bar of its error. \param up, down lengths of the bar on the sheet

@@ -2,6 +2,7 @@
 
 #include "base/Console.h"
 #include "base/TextNumber.h"
+#include "model/Annotations.h"
 #include "model/GroundModel.h"
 #include "model/KeptRun.h"
 #include "model/KnownGround.h"

@@ -16,6 +16,7 @@
 namespace talvesk {
 
 class Log;
+struct Annotations;
 struct GroundModel;
 struct KeptRun;
 struct KnownGround;
@@ -51,6 +52,7 @@ class TomoDocument {
   Shared<MapPosition> map;           ///< model/GeographicsCoord.h
   SharedVector<KeptRun> runs;        ///< inversions so far, oldest first; model/KeptRun.h
   Shared<KnownGround> known;         ///< from elsewhere than the picks, model/KnownGround.h
+  Shared<Annotations> annotations;   ///< drawn on the section, model/Annotations.h
   /// Metres, one more for every look at the survey. What was proposed is remembered, be the edits
   /// since undone or not, so it is no part of the model.
   SharedVector<double> proposedCellSizes;

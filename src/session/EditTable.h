@@ -35,6 +35,9 @@ enum class Edit {
   kTitle,
   kPalette,
   kContours,
+  kMarkedIsolines,
+  kAnnotations,
+  kStyle,
   kMapPosition
 };
 

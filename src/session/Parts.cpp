@@ -1,6 +1,7 @@
 #include "session/Parts.h"
 
 #include "io/Survey.h"
+#include "model/Annotations.h"
 #include "model/GroundModel.h"
 #include "model/KeptRun.h"
 #include "model/KnownGround.h"
@@ -264,6 +265,9 @@ PartSet differingParts(const Survey& a, const Survey& b) {
   addIf(!a.document.runs.isSharedWith(b.document.runs), Part::kRuns);
   addIf(!a.document.known.isSharedWith(b.document.known) && *a.document.known != *b.document.known,
         Part::kKnown);
+  addIf(!a.document.annotations.isSharedWith(b.document.annotations) &&
+            *a.document.annotations != *b.document.annotations,
+        Part::kAnnotations);
   addIf(!sameView(a.section, b.section), Part::kView);
   return parts;
 }
@@ -319,6 +323,9 @@ void forgetPart(Part part, Survey& survey) {
       break;
     case Part::kKnown:
       if (!document.known->empty()) document.known = {};
+      break;
+    case Part::kAnnotations:
+      if (!document.annotations->empty()) document.annotations = {};
       break;
   }
 }

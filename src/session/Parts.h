@@ -19,13 +19,15 @@ enum class Part {
   kProfile,
   kLook,  ///< title, palettes, contours
   kMap,
-  kRuns,   ///< the list of inversions that have been run
-  kKnown,  ///< what is known of the ground from elsewhere
-  kView    ///< what the section shows of all that; it is saved, but no edit
+  kRuns,         ///< the list of inversions that have been run
+  kKnown,        ///< what is known of the ground from elsewhere
+  kAnnotations,  ///< drawn on the section: marked isolines, texts, lithology
+  kView          ///< what the section shows of all that; it is saved, but no edit
 };
-inline constexpr std::array<Part, 12> kParts = {
-    Part::kRecordings, Part::kPicks, Part::kGeometry, Part::kModel, Part::kResult, Part::kMarks,
-    Part::kProfile,    Part::kLook,  Part::kMap,      Part::kRuns,  Part::kKnown,  Part::kView};
+inline constexpr std::array<Part, 13> kParts = {
+    Part::kRecordings, Part::kPicks,       Part::kGeometry, Part::kModel, Part::kResult,
+    Part::kMarks,      Part::kProfile,     Part::kLook,     Part::kMap,   Part::kRuns,
+    Part::kKnown,      Part::kAnnotations, Part::kView};
 
 /// Some of the parts.
 class PartSet {

@@ -1,6 +1,7 @@
 #include "view/SectionScene.h"
 
 #include "base/RoundStep.h"
+#include "model/Annotations.h"
 #include "model/ChiSquare.h"
 #include "model/GroundModel.h"
 #include "model/Residuals.h"
@@ -206,6 +207,16 @@ void putInversion(const TomoDocument& document, SectionScene& scene) {
   }
 }
 
+/// What the user has drawn. Of its isolines only where the section is filled, and with what it is.
+void putAnnotations(const TomoDocument& document, const SectionMesh& ground, SectionScene& scene) {
+  const Annotations& drawn = *document.annotations;
+  if (scene.fill != SectionFill::kNone && !scene.values) {
+    scene.annotations.isolines = drawnIsolines(drawn.isolines, ground, scene.velocities);
+  }
+  scene.annotations.items = drawn.items;
+  scene.annotations.outside = countOutside(drawn.items, scene.lowerLeft(), scene.upperRight());
+}
+
 template <typename Less>
 Point2D extreme(const SectionScene& scene, double start, Less better) {
   Point2D corner{start, start};
@@ -275,6 +286,7 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.quantity = options.quantity;
   scene.fill = options.fill;
   scene.mesh = sectionMesh(*document.model->grid, document.model->xOffset);
+  const SectionMesh ground = scene.mesh;
   if (Status status = fillIn(document, options, scene); !status.ok()) return status;
 
   const std::optional<Certainty>& certainty = document.result->certainty;
@@ -288,6 +300,7 @@ Status buildSectionScene(const TomoDocument& document, const SectionSceneOptions
   scene.surface = surfaceLine(*document.model->grid, document.model->xOffset);
   scene.geophones = allGeophones(document);
   scene.shots = eachPlaceOnce(document.shotPoints());
+  if (options.annotations) putAnnotations(document, ground, scene);
   // The figures of an inversion are none of values that it did not find.
   if (!options.values) putInversion(document, scene);
   out = std::move(scene);
@@ -303,6 +316,7 @@ SectionScene sceneWithoutGrid(const TomoDocument& document, std::vector<SectionL
   scene.geophones = allGeophones(document);
   scene.surface = scene.geophones;
   scene.shots = eachPlaceOnce(document.shotPoints());
+  putAnnotations(document, {}, scene);
   return scene;
 }
 

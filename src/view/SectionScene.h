@@ -9,6 +9,7 @@
 #include "view/ContourBands.h"
 #include "view/ContourLines.h"
 #include "view/KnownMarks.h"
+#include "view/SectionAnnotations.h"
 #include "view/SectionCertainty.h"
 
 #include <optional>
@@ -61,6 +62,7 @@ struct SectionSceneOptions {
   bool rays = false;
   bool coverageLimit = true;
   bool known = true;                    ///< what is known of the ground from elsewhere
+  bool annotations = true;              ///< what the user has drawn
   std::optional<CellValues> values;     ///< shown in place of the quantity
   std::vector<SectionLine> refractors;  ///< shown as they are
   bool fadeUncertain = false;           ///< the velocity section, where its certainty is known
@@ -91,6 +93,7 @@ struct SectionScene {
   std::vector<DepthBand> depthBands;       ///< in the order of their velocities
   std::optional<CertaintyNote> certainty;  ///< where anything shown comes from it
   KnownMarks known;                        ///< empty when it is not asked for
+  SectionAnnotations annotations;          ///< empty when they are not asked for
   std::vector<Point2D> surface;            ///< top line of the grid, left to right
   std::vector<Point2D> geophones;          ///< of all strings, ascending x, each place once
   std::vector<Point2D> shots;              ///< of all records, ascending x, each place once

@@ -46,9 +46,9 @@ bool ContourSettings::operator==(const ContourSettings& other) const {
 
 bool SectionViewSettings::operator==(const SectionViewSettings& other) const {
   const auto parts = [](const SectionViewSettings& s) {
-    return std::tie(s.profile, s.smooth, s.quantity, s.rays, s.refraction, s.known, s.scalarBar,
-                    s.title, s.gridLines, s.geophones, s.verticalExaggeration, s.fadeUncertain,
-                    s.bandVelocities, s.lockRange, s.contours);
+    return std::tie(s.profile, s.smooth, s.quantity, s.rays, s.refraction, s.known, s.annotations,
+                    s.scalarBar, s.title, s.gridLines, s.geophones, s.verticalExaggeration,
+                    s.fadeUncertain, s.bandVelocities, s.lockRange, s.contours);
   };
   return parts(*this) == parts(other);
 }
@@ -143,6 +143,7 @@ SectionSceneOptions sceneOptions(const SectionViewSettings& settings, const Colo
   options.fadeUncertain = settings.fadeUncertain;
   options.bandVelocities = settings.bandVelocities;
   options.known = settings.known;
+  options.annotations = settings.annotations;
   return options;
 }
 
@@ -152,6 +153,7 @@ Status buildSectionScene(const TomoDocument& document, const SectionViewSettings
   const bool cells = document.model->grid && document.model->grid->cellCount() > 0;
   if (!cells && settings.refraction && !refractors.empty()) {
     out = sceneWithoutGrid(document, refractors);
+    if (!settings.annotations) out.annotations = {};
     return {};
   }
   SectionSceneOptions options = sceneOptions(settings, palette);

@@ -67,6 +67,7 @@ struct SectionViewSettings {
   bool rays = false;
   bool refraction = false;  ///< the layered profile over the section
   bool known = true;        ///< what is known of the ground from elsewhere
+  bool annotations = true;  ///< marked isolines and what else the user has drawn
   bool scalarBar = true;
   bool title = true;
   bool gridLines = false;

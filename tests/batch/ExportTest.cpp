@@ -1,4 +1,5 @@
 #include "batch/BatchRunner.h"
+#include "io/StyleFile.h"
 #include "io/project/ProjectWriter.h"
 #include "model/GeographicsCoord.h"
 #include "support/ConsoleCapture.h"
@@ -196,6 +197,33 @@ TEST(Export, takesManyProjectsForAnIndexOnly) {
               HasSubstr("no other option"));
   EXPECT_THAT(refused({"export", "a.tvsk", "--vtk", "x.vtu", "--client", "C"}),
               HasSubstr("--report-index"));
+}
+
+TEST(Export, laysAStyleOnPicturesAndKml) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  SectionStyle style;
+  style.palette = ColorPaletteList()[2];
+  style.palette.min_db = 400.0;
+  style.palette.max_db = 900.0;
+  style.section.verticalExaggeration = 2.5;
+  style.isolines = {{"weathered rock", 650.0, 0x2040c0}};
+  ASSERT_TRUE(writeStyle(folder / "campaign.tvstyle", style).ok());
+  const Outcome outcome =
+      runBatch({"export", project, "--quiet", "--style", folder / "campaign.tvstyle", "--image",
+                folder / "a.svg", "--kml-section", folder / "s.kml"},
+               {{"DISPLAY", ""}});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(contentsOf(folder / "a.svg"),
+              AllOf(HasSubstr(">900<"), HasSubstr("weathered rock: 650 m/s"),
+                    HasSubstr("Vertical exaggeration 2.5")));
+  EXPECT_THAT(contentsOf(folder / "s.kml"), HasSubstr("<name>weathered rock</name>"));
+
+  const Outcome none = runBatch(
+      {"export", project, "--style", folder / "none.tvstyle", "--image", folder / "b.svg"});
+  EXPECT_EQ(none.code, 1);
+  EXPECT_THAT(none.err, HasSubstr("none.tvstyle"));
+  EXPECT_FALSE(folder.holds("b.svg"));
 }
 
 TEST(Export, takesPlacePaletteAndRangeFromTheCommandLine) {

@@ -2,6 +2,7 @@
 #include "export/LinePlacement.h"
 #include "export/SectionKml.h"
 #include "export/SeismicLineKml.h"
+#include "model/Annotations.h"
 #include "model/GeographicsCoord.h"
 #include "model/GroundModel.h"
 #include "model/SurveyLine.h"
@@ -11,6 +12,7 @@
 #include "support/TestFolder.h"
 
 #include <QXmlStreamReader>
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -190,6 +192,24 @@ TEST(SectionKml, standsTheDrawnCellsOnTheLineLikeAWall) {
       EXPECT_NEAR(numbers[2].toDouble(), expected[i][1], 1e-6);
     }
   }
+}
+
+TEST(SectionKml, hasTheMarkedIsolinesUnderTheirNames) {
+  const ConsoleCapture console;
+  const TestFolder folder;
+  TomoDocument document = placed();
+  const std::vector<double> velocities = document.model->grid->velocities();
+  const auto [least, most] = std::minmax_element(velocities.begin(), velocities.end());
+  document.annotations.edit().isolines = {{"water <table>", 0.5 * (*least + *most), 0x1122ff, 2.5},
+                                          {"bedrock", 19000.0}};
+  const std::string path = folder.file("section.kml");
+  ASSERT_TRUE(writeSectionKml(path, document, ColorPaletteList().current(), kRange).ok());
+  const Leaves leaves(path);
+  EXPECT_EQ(leaves.error, "");
+  EXPECT_THAT(leaves.of(kMark + "/name"), ::testing::Each("water <table>"));
+  EXPECT_FALSE(leaves.of(kMark + "/name").empty());
+  EXPECT_THAT(leaves.of(kMark + "/Style/LineStyle/color"), ::testing::Each("ffff2211"));
+  EXPECT_THAT(leaves.of(kMark + "/Style/LineStyle/width"), ::testing::Each("2.5"));
 }
 
 TEST(SectionKml, leavesNoGapsBetweenRowsUnderHills) {

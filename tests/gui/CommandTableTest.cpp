@@ -349,6 +349,12 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionGrid_view",
         "actionSmooth_view",
         "actionShow_Contour_Lines",
+        "actionMarked_isolines",
+        "actionDepth_profile",
+        "actionFence",
+        "actionSave_style",
+        "actionApply_style",
+        "actionAnnotations",
         "actionVertical_Gradient",
         "actionLaplacian_Gradient",
         "actionShow_scalarbar",
@@ -366,16 +372,25 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
 
 /// What these need is not on the way to a section: a filtered copy, a layered profile, a view that
 /// was zoomed, a step that was undone, picks that were made.
-const std::set<std::string> kBesideTheWay = {
-    "show_filtered_cb",           "actionShow_refraction",
-    "actionShow_Certainty_Layer", "actionExport_certainty",
-    "actionFade_uncertain",       "actionDepth_bands",
-    "actionShow_known",           "actionZoom_back",
-    "actionZoom_forward",         "actionRedo",
-    "actionConfirm_picks",        "actionRemove_picks",
-    "actionRemove_unconfirmed",   "actionCount_from_shot",
-    "actionTake_back_mends",      "actionStart_from_layers",
-    "actionCompare_layers",       "actionP_and_S"};
+const std::set<std::string> kBesideTheWay = {"show_filtered_cb",
+                                             "actionShow_refraction",
+                                             "actionShow_Certainty_Layer",
+                                             "actionExport_certainty",
+                                             "actionFade_uncertain",
+                                             "actionDepth_bands",
+                                             "actionShow_annotations",
+                                             "actionShow_known",
+                                             "actionZoom_back",
+                                             "actionZoom_forward",
+                                             "actionRedo",
+                                             "actionConfirm_picks",
+                                             "actionRemove_picks",
+                                             "actionRemove_unconfirmed",
+                                             "actionCount_from_shot",
+                                             "actionTake_back_mends",
+                                             "actionStart_from_layers",
+                                             "actionCompare_layers",
+                                             "actionP_and_S"};
 
 class GrowingSurvey : public Commands {
  protected:

@@ -1,3 +1,4 @@
+#include "model/Annotations.h"
 #include "model/KeptRun.h"
 #include "model/KnownGround.h"
 #include "session/EditTable.h"
@@ -52,6 +53,9 @@ void touch(Part part, Survey& survey) {
       break;
     case Part::kKnown:
       document.known.edit().depths.push_back({"P2", 3.0, 4.0});
+      break;
+    case Part::kAnnotations:
+      document.annotations.edit().isolines.emplace_back();
       break;
     case Part::kView:
       survey.section.rays = !survey.section.rays;

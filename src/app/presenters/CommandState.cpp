@@ -2,6 +2,7 @@
 
 #include "app/presenters/Desk.h"
 #include "export/LinePlacement.h"
+#include "model/Annotations.h"
 #include "model/GroundModel.h"
 #include "model/KnownGround.h"
 #include "model/SurveyFacts.h"
@@ -59,6 +60,7 @@ CommandState::CommandState(const Desk& desk)
   refractors = !refractorLines(desk.interpretation()).empty();
   known = cells && !document.known->empty();
   picture = cells || (section.refraction && refractors);
+  annotations = picture && !document.annotations->empty();
   line = lineEnds(document).has_value();
   lineAndGrid = line && grid;
   drawable = records || grid;

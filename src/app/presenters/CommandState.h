@@ -34,9 +34,10 @@ struct CommandState {
   bool rays;      ///< over cells
   bool density;   ///< information density of cells
   bool refractors;
-  bool known;    ///< ground, over cells
-  bool picture;  ///< cells, or the layered profile alone
-  bool line;     ///< geophones at two ends
+  bool known;        ///< ground, over cells
+  bool annotations;  ///< over a picture
+  bool picture;      ///< cells, or the layered profile alone
+  bool line;         ///< geophones at two ends
   bool lineAndGrid;
   bool drawable;  ///< records or a grid: something to make pictures of
 

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "app/LayeredModel.h"
+#include "app/presenters/AnnotationsPresenter.h"
 #include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
 #include "app/presenters/ContoursPresenter.h"
 #include "app/presenters/CurvesPresenter.h"
+#include "app/presenters/DepthProfilePresenter.h"
 #include "app/presenters/DrawingPresenter.h"
 #include "app/presenters/ExportPresenter.h"
+#include "app/presenters/FencePresenter.h"
 #include "app/presenters/GeometryPresenter.h"
 #include "app/presenters/HelpPresenter.h"
 #include "app/presenters/InversionPresenter.h"
@@ -29,6 +32,7 @@
 #include "app/presenters/SectionPresenter.h"
 #include "app/presenters/SettingsPresenter.h"
 #include "app/presenters/ShotFilesPresenter.h"
+#include "app/presenters/StylePresenter.h"
 #include "app/presenters/SurveyPresenter.h"
 #include "app/presenters/TraceOptionsPresenter.h"
 #include "app/presenters/TracesPresenter.h"
@@ -52,6 +56,9 @@ struct Presenters {
   TraceOptionsPresenter traceOptions;
   CurvesPresenter curves;
   SectionPresenter section;
+  AnnotationsPresenter annotations;
+  StylePresenter styles;
+  DepthProfilePresenter depthProfile;
   PalettePresenter palettes;
   ContoursPresenter contours;
   ProjectPresenter projects;
@@ -72,6 +79,7 @@ struct Presenters {
   ReviewPresenter review;
   RefractionPresenter refraction;
   LayersPresenter layers;
+  FencePresenter fence;
   ExportPresenter exports;
   DrawingPresenter drawings;
   RecordExportPresenter records;

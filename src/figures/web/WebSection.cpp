@@ -1,5 +1,6 @@
 #include "figures/FigureWords.h"
 #include "figures/ProfileLines.h"
+#include "figures/SectionPaper_layout.h"
 #include "figures/report/ReportBuilder.h"
 #include "figures/web/WebParts.h"
 #include "model/GroundModel.h"
@@ -10,6 +11,7 @@
 #include "view/SimplifiedLine.h"
 #include "view/VelocityDifference.h"
 
+#include <QColor>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -90,6 +92,7 @@ class SectionWriter {
                      {QStringLiteral("geophones"), rounded(mScene.geophones, 2)},
                      {QStringLiteral("shots"), rounded(mScene.shots, 2)},
                      {QStringLiteral("layers"), layerJson(layers)},
+                     {QStringLiteral("drawn"), drawnJson()},
                      {QStringLiteral("exaggeration"), mOptions.section.verticalExaggeration}};
     addCorners(json);
     return json;
@@ -206,6 +209,43 @@ class SectionWriter {
       list.append(
           QJsonObject{{QStringLiteral("name"), name.isEmpty() ? FigureWords::refractor(i) : name},
                       {QStringLiteral("pieces"), pieces}});
+    }
+    return list;
+  }
+
+  static QJsonObject lookJson(const QString& kind, const QString& name, std::uint32_t color,
+                              double width) {
+    return {{QStringLiteral("kind"), kind},
+            {QStringLiteral("name"), name},
+            {QStringLiteral("color"), QColor(QRgb(color)).name()},
+            {QStringLiteral("width"), width}};
+  }
+
+  /// Marked isolines, with their names at each piece, and what else the user has drawn.
+  QJsonArray drawnJson() const {
+    QJsonArray list;
+    for (const DrawnIsoline& isoline : mScene.annotations.isolines) {
+      const MarkedIsoline& mark = isoline.mark;
+      for (const ContourLine& contour : isoline.lines) {
+        QJsonObject json = lookJson(QStringLiteral("line"), isolineName(mark, QLocale::c()),
+                                    mark.color, mark.width);
+        std::vector<Point2D> points = simplifiedLine(contour.points, 0.02);
+        if (contour.closed && !points.empty()) points.push_back(points.front());
+        json[QStringLiteral("points")] = rounded(points, 2);
+        list.append(json);
+      }
+    }
+    const QString kinds[] = {QStringLiteral("text"), QStringLiteral("line"),
+                             QStringLiteral("area")};
+    for (const Annotation& item : mScene.annotations.items) {
+      QString name = QString::fromStdString(item.text);
+      if (name.isEmpty() && item.pattern != Lithology::kNone) {
+        name = FigureWords::message(nameOf(item.pattern));
+      }
+      QJsonObject json =
+          lookJson(kinds[static_cast<std::size_t>(item.kind)], name, item.color, item.width);
+      json[QStringLiteral("points")] = rounded(item.points, 2);
+      list.append(json);
     }
     return list;
   }

@@ -30,6 +30,7 @@ void addSection(QJsonObject& words) {
   words[QStringLiteral("geophones")] = WebPageWords::tr("Geophones");
   words[QStringLiteral("shots")] = WebPageWords::tr("Shots");
   words[QStringLiteral("layers")] = WebPageWords::tr("Layers");
+  words[QStringLiteral("drawn")] = WebPageWords::tr("Annotations");
   words[QStringLiteral("zoomIn")] = WebPageWords::tr("Zoom in");
   words[QStringLiteral("zoomOut")] = WebPageWords::tr("Zoom out");
   words[QStringLiteral("whole")] = WebPageWords::tr("Show all");

@@ -2,6 +2,7 @@
 
 #include "base/AtomicFile.h"
 #include "io/MemberFile.h"
+#include "io/project/ProjectAnnotations.h"
 #include "io/project/ProjectCertainty.h"
 #include "io/project/ProjectFirstLayer.h"
 #include "io/project/ProjectKnownGround.h"
@@ -144,6 +145,10 @@ bool hasKnown(const TomoDocument& document, const Interpretation&) {
   return !document.known->empty();
 }
 
+bool hasAnnotations(const TomoDocument& document, const Interpretation&) {
+  return !document.annotations->empty();
+}
+
 bool canHaveKnown(const TomoDocument&, const Interpretation&) {
   return true;
 }
@@ -213,6 +218,15 @@ const std::vector<OwnMember>& ownMembers() {
        reads([](const TomoDocument&) { return KnownGroundMember(); },
              [](KnownGroundMember member, TomoDocument& document, Interpretation&) {
                return installKnownGround(std::move(member), document);
+             })},
+      {"annotations.xml", 1, "Annotations",
+       Message::tr("marked isolines and what was drawn on its section are lost"), canHaveKnown,
+       hasAnnotations, writes([](const TomoDocument& document, const Interpretation&) {
+         return annotationsOf(document);
+       }),
+       reads([](const TomoDocument&) { return AnnotationsMember(); },
+             [](AnnotationsMember member, TomoDocument& document, Interpretation&) {
+               return installAnnotations(std::move(member), document);
              })},
       // Behind the result, of which it is part.
       {"certainty.xml", 1, "Certainty", Message::tr("how sure the section is is not known"),

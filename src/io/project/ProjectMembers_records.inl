@@ -6,6 +6,7 @@
 #include "base/Console.h"
 #include "io/XmlRecords.inl"
 #include "io/project/MendsMember.h"
+#include "io/project/ProjectAnnotations.h"
 #include "io/project/ProjectCertainty.h"
 #include "io/project/ProjectFirstLayer.h"
 #include "io/project/ProjectKnownGround.h"
@@ -98,6 +99,7 @@ void describe(V& fields, SectionViewSettings& section) {
   fields.optional("contours", section.contours);
   fields.optional("fade_uncertain", section.fadeUncertain);
   fields.optional("depth_bands", section.bandVelocities);
+  fields.optional("annotations", section.annotations);
 }
 
 template <class V>
@@ -378,6 +380,31 @@ void describe(V& fields, KnownGroundMember& member) {
   fields("boreholes", member.known.boreholes);
   fields("depths", member.known.depths);
   fields("bodies", member.known.bodies);
+}
+
+template <class V>
+void describe(V& fields, MarkedIsoline& isoline) {
+  fields("name", isoline.name);
+  fields("velocity", isoline.velocity);
+  fields("color", isoline.color);
+  fields("width", isoline.width);
+}
+
+template <class V>
+void describe(V& fields, Annotation& item) {
+  fields("kind", item.kind);
+  fields("text", item.text);
+  fields("points", item.points);
+  fields("pattern", item.pattern);
+  fields("color", item.color);
+  fields("width", item.width);
+  fields("text_size", item.textSize);
+}
+
+template <class V>
+void describe(V& fields, AnnotationsMember& member) {
+  fields("isolines", member.annotations.isolines);
+  fields("items", member.annotations.items);
 }
 
 template <class V>

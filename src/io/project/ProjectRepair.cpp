@@ -152,27 +152,6 @@ void repairContours(ContourSettings& contours, Repairs& repairs) {
   }
 }
 
-void repairSection(SectionViewSettings& section, Repairs& repairs) {
-  const SectionViewSettings fresh;
-  if (section.quantity < SectionQuantity::kVelocity ||
-      section.quantity > SectionQuantity::kCertainty) {
-    section.quantity = fresh.quantity;
-    repairs.push_back(
-        Message::tr("its section shows a quantity that does not exist; it is the velocity now"));
-  }
-  if (section.geophones < GeophoneMarkers::kNone || section.geophones > GeophoneMarkers::kLarge) {
-    section.geophones = fresh.geophones;
-    repairs.push_back(
-        Message::tr("its geophone markers have a size that does not exist; it is normal now"));
-  }
-  repairExaggeration(section.verticalExaggeration, repairs);
-  repairContours(section.contours, repairs);
-  if (!areBandVelocities(section.bandVelocities)) {
-    section.bandVelocities.clear();
-    repairs.push_back(Message::tr("its depth bands cannot be drawn so; there are none now"));
-  }
-}
-
 /// What is not a number is not known; what is one must be small enough.
 bool within(const std::vector<double>& values, double largest) {
   return all(values, [largest](double v) { return std::isnan(v) || std::fabs(v) <= largest; });
@@ -216,6 +195,27 @@ bool canBe(const processingData& results) {
 }
 
 }  // namespace
+
+void repairSection(SectionViewSettings& section, Repairs& repairs) {
+  const SectionViewSettings fresh;
+  if (section.quantity < SectionQuantity::kVelocity ||
+      section.quantity > SectionQuantity::kCertainty) {
+    section.quantity = fresh.quantity;
+    repairs.push_back(
+        Message::tr("its section shows a quantity that does not exist; it is the velocity now"));
+  }
+  if (section.geophones < GeophoneMarkers::kNone || section.geophones > GeophoneMarkers::kLarge) {
+    section.geophones = fresh.geophones;
+    repairs.push_back(
+        Message::tr("its geophone markers have a size that does not exist; it is normal now"));
+  }
+  repairExaggeration(section.verticalExaggeration, repairs);
+  repairContours(section.contours, repairs);
+  if (!areBandVelocities(section.bandVelocities)) {
+    section.bandVelocities.clear();
+    repairs.push_back(Message::tr("its depth bands cannot be drawn so; there are none now"));
+  }
+}
 
 void repairSurvey(SurveyMember& member, Repairs& repairs) {
   repairTitle(member.document.title, repairs);

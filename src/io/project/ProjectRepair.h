@@ -12,6 +12,9 @@ namespace talvesk {
 // survey needs them for anything else. They are put right or left out, each with a line in
 // `repairs` for the user.
 
+/// What the section shows.
+void repairSection(SectionViewSettings& section, std::vector<Message>& repairs);
+
 /// Title, limits and starting model of the inversion, coordinates, and what the section shows.
 void repairSurvey(SurveyMember& member, std::vector<Message>& repairs);
 

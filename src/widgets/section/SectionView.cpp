@@ -31,8 +31,9 @@ bool sameGround(const SectionScene* a, const SectionScene& b) {
 }  // namespace
 
 SectionOverlay::SectionOverlay(QWidget* parent, const SectionSheet& sheet,
-                               const SectionCamera& camera)
-    : QWidget(parent), mSheet(sheet), mCamera(camera) {
+                               const SectionCamera& camera,
+                               const std::unique_ptr<SectionTool>& tool)
+    : QWidget(parent), mSheet(sheet), mCamera(camera), mTool(tool) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setFocusPolicy(Qt::NoFocus);
 }
@@ -40,7 +41,15 @@ SectionOverlay::SectionOverlay(QWidget* parent, const SectionSheet& sheet,
 void SectionOverlay::paintEvent(QPaintEvent*) {
   if (mSheet.scene() == nullptr) return;
   QPainter painter(this);
-  mSheet.paper(font()).paint(painter, size(), mCamera);
+  const SectionPaper paper = mSheet.paper(font());
+  paper.paint(painter, size(), mCamera);
+  if (!mTool) return;
+  const QRect plot = paper.plotRect(size(), mCamera.exaggeration);
+  const QTransform map =
+      mCamera.toPicture(plot.size()) * QTransform::fromTranslate(plot.left(), plot.top());
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setClipRect(plot);
+  mTool->paint(painter, [&map](const Point2D& p) { return map.map(QPointF(p.x, p.z)); });
 }
 
 SectionView::SectionView(QWidget* parent) : QWidget(parent), mState(std::make_unique<State>()) {
@@ -92,6 +101,7 @@ void SectionView::layOutControls() {
   s.reset->setObjectName(QStringLiteral("resetButton"));
   s.reset->setAutoRaise(true);
   row->addWidget(s.reset);
+  layOutTools(*row);
   row->addStretch(1);
 
   s.paper->setObjectName(QStringLiteral("sectionPaper"));
@@ -99,7 +109,7 @@ void SectionView::layOutControls() {
   s.paper->setMouseTracking(true);
   s.paper->setMinimumSize(120, 80);
   s.paper->installEventFilter(this);
-  s.overlay = new SectionOverlay(s.paper, s.sheet, s.camera);
+  s.overlay = new SectionOverlay(s.paper, s.sheet, s.camera, s.tool);
   s.text = new QLabel(this);
   s.text->setObjectName(QStringLiteral("sectionEmptyLabel"));
   s.text->setTextFormat(Qt::RichText);
@@ -131,6 +141,7 @@ void SectionView::retranslate() {
   s.reset->setText(tr("Reset View"));
   s.reset->setToolTip(tr("Bring the whole section back into view (Home)"));
   s.paper->setAccessibleName(tr("Velocity section"));
+  retranslateTools();
 }
 
 void SectionView::changeEvent(QEvent* event) {
@@ -145,6 +156,7 @@ void SectionView::showText(const QString& text) {
   s.text->setText(text);
   s.pages->setCurrentWidget(s.text);
   s.controls->hide();
+  endTool();
   s.cursor.reset();
   emit cursorLeft();
 }

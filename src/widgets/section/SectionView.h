@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Annotations.h"
 #include "view/SectionProbe.h"
 #include "view/SectionScene.h"
 #include "view/SectionViewSettings.h"
@@ -8,9 +9,13 @@
 #include <QPointF>
 #include <QWidget>
 #include <memory>
+#include <vector>
+
+class QHBoxLayout;
 
 namespace talvesk {
 
+class SectionTool;
 struct SectionCamera;
 
 /// The section as the user sees it: the picture with axes, colour bar and legend, and a row of
@@ -18,6 +23,7 @@ struct SectionCamera;
 ///
 /// Wheel: zoom at the cursor. Drag: pan, or turn while "Turn in 3-D" is on; the middle button
 /// always pans. Double click: everything. Keys: arrows pan or turn, + and - zoom, Home resets.
+/// While it is measured or drawn, the left button does that; Esc ends it.
 class SectionView : public QWidget {
   Q_OBJECT
 
@@ -47,6 +53,8 @@ class SectionView : public QWidget {
   enum class Part { kWhole, kSeen };
   QImage picture(const QSize& size, Part part = Part::kSeen, double ratio = 1.0) const;
 
+  bool hasTool() const;  ///< the left button measures or draws
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
@@ -58,12 +66,17 @@ class SectionView : public QWidget {
   void zoomOut();
   void setVerticalExaggeration(double factor);  ///< bounded, and told by exaggerationChanged()
   void setTurning(bool turning);                ///< false: back to the front, too
+  void startMeasuring();
+  void startDrawing(AnnotationKind kind);  ///< one after the other, each told by annotationDrawn()
+  void endTool();
 
  signals:
   void cursorMoved(const SectionReading& reading);
   void cursorLeft();
   void exaggerationChanged(double factor);
   void viewChanged();
+  /// \param points survey positions, as many as the kind needs
+  void annotationDrawn(AnnotationKind kind, const std::vector<Point2D>& points);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -72,7 +85,11 @@ class SectionView : public QWidget {
  private:
   struct State;
   void layOutControls();
+  void layOutTools(QHBoxLayout& row);
   void retranslate();
+  void retranslateTools();
+  void setTool(std::unique_ptr<SectionTool> tool);
+  bool toolEvent(QEvent* event);
   void layOut();
   void applyCamera(bool moving = false);
   bool sheetEvent(QEvent* event);

@@ -32,6 +32,7 @@ bool SectionView::sheetEvent(QEvent* event) {
     return false;
   }
   if (isEmpty()) return false;
+  if (toolEvent(event)) return true;
   switch (event->type()) {
     case QEvent::Wheel: {
       auto* wheel = static_cast<QWheelEvent*>(event);
@@ -58,7 +59,7 @@ bool SectionView::sheetEvent(QEvent* event) {
     }
     case QEvent::MouseButtonRelease:
       s.dragButton = Qt::NoButton;
-      s.paper->unsetCursor();
+      s.tool ? s.paper->setCursor(Qt::CrossCursor) : s.paper->unsetCursor();
       return true;
     case QEvent::Leave:
       s.cursor.reset();

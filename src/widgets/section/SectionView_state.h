@@ -3,11 +3,13 @@
 #include "figures/SectionCamera.h"
 #include "widgets/section/SectionCanvas.h"
 #include "widgets/section/SectionSheet.h"
+#include "widgets/section/SectionTools.h"
 #include "widgets/section/SectionView.h"
 
 #include <QWidget>
 #include <optional>
 
+class QAction;
 class QDoubleSpinBox;
 class QLabel;
 class QStackedLayout;
@@ -15,10 +17,12 @@ class QToolButton;
 
 namespace talvesk {
 
-/// Paints the paper over the canvas; it lies in front of it and takes no events.
+/// Paints the paper over the canvas, and the tool at work over that; it lies in front of it and
+/// takes no events.
 class SectionOverlay : public QWidget {
  public:
-  SectionOverlay(QWidget* parent, const SectionSheet& sheet, const SectionCamera& camera);
+  SectionOverlay(QWidget* parent, const SectionSheet& sheet, const SectionCamera& camera,
+                 const std::unique_ptr<SectionTool>& tool);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -26,6 +30,7 @@ class SectionOverlay : public QWidget {
  private:
   const SectionSheet& mSheet;
   const SectionCamera& mCamera;
+  const std::unique_ptr<SectionTool>& mTool;
 };
 
 struct SectionView::State {
@@ -36,12 +41,16 @@ struct SectionView::State {
   std::unique_ptr<SectionCanvas> canvas;  ///< none before the first section
   bool fits = true;                       ///< nobody has moved the view since it was reset
   bool turning = false;
+  std::unique_ptr<SectionTool> tool;  ///< that the left button has; none: it moves the section
 
   QWidget* controls = nullptr;
   QLabel* exaggerationLabel = nullptr;
   QDoubleSpinBox* exaggeration = nullptr;
   QToolButton* turn = nullptr;
   QToolButton* reset = nullptr;
+  QToolButton* measure = nullptr;
+  QToolButton* draw = nullptr;
+  std::vector<QAction*> drawActions;  ///< as kAnnotationKinds
   QStackedLayout* pages = nullptr;
   QLabel* text = nullptr;
   QWidget* paper = nullptr;

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "app/FenceLines.h"
+#include "view/ColorPalette.h"
+
+#include <QDialog>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QImage;
+
+namespace talvesk {
+
+namespace Ui {
+class FenceDialog;
+}
+class FenceView;
+
+/// Shows the sections of several lines where they stand on the map. The lines are copies: nothing
+/// here changes a survey.
+class FenceDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// \param own the open survey, which stays in the fence
+  /// \param palette of all, with the range that all share
+  FenceDialog(FenceLine own, const ColorPalette& palette, double exaggeration,
+              QWidget* parent = nullptr);
+  ~FenceDialog() override;
+
+  void add(FenceLine line);
+  QImage picture() const;
+
+  std::function<void()> addWanted;   ///< asked for more projects
+  std::function<void()> saveWanted;  ///< asked for a file of the picture
+
+ private:
+  void remove();
+  void refresh();
+
+  std::unique_ptr<Ui::FenceDialog> mUi;
+  FenceView* mView = nullptr;
+  std::vector<FenceLine> mLines;
+  ColorPalette mPalette;
+};
+
+}  // namespace talvesk

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/presenters/Desk.h"
+
+#include <QObject>
+
+namespace talvesk {
+
+class DepthProfileDialog;
+
+/// The window that shows the ground below the mouse.
+class DepthProfilePresenter : public QObject {
+  Q_DECLARE_TR_FUNCTIONS(talvesk::Talvesk_MainWindows)
+
+ public:
+  explicit DepthProfilePresenter(Desk& desk);
+
+  void show();
+
+ private:
+  void refresh();
+  void save();
+
+  Desk& mDesk;
+  DepthProfileDialog* mDialog = nullptr;  ///< the window's child, made when it is first asked for
+  Session::Subscription mSubscription;
+};
+
+}  // namespace talvesk

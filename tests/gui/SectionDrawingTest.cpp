@@ -1,0 +1,244 @@
+#include "app/dialogs/AnnotationsDialog.h"
+#include "app/dialogs/DepthProfileDialog.h"
+#include "app/dialogs/FenceDialog.h"
+#include "app/dialogs/MarkedIsolinesDialog.h"
+#include "figures/SectionCamera.h"
+#include "gui/WindowTest.h"
+#include "io/Survey.h"
+#include "io/TravelTimeFile.h"
+#include "model/Annotations.h"
+#include "support/TestSurveys.h"
+#include "view/SectionScene.h"
+#include "widgets/fence/FenceView.h"
+#include "widgets/section/SectionView.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+#include <QToolButton>
+
+namespace talvesk::testing {
+namespace {
+
+using ::testing::HasSubstr;
+
+class SectionDrawing : public WindowTest {
+ protected:
+  void openLine() {
+    TomoDocument line = testLine(24, 2.0, {-2.0, 9.0, 23.0, 37.0, 48.0}, 1.0);
+    pickTwoLayers(line, 450.0, 1800.0, 3.0);
+    ASSERT_TRUE(writeTravelTimes(home.file("line.otte"), line).ok());
+    open();
+    window->openFiles({QString::fromStdString(home.file("line.otte"))});
+    putGrid(writable(), 12.0, 1.0);
+    showWritten();
+    action("actionReset_View").trigger();
+  }
+  template <class Dialog>
+  void expectDialog(std::function<void(Dialog&)> act) {
+    dialogs.expect([act = std::move(act)](QWidget& widget) {
+      auto* dialog = qobject_cast<Dialog*>(&widget);
+      ASSERT_NE(dialog, nullptr) << widget.windowTitle().toStdString();
+      act(*dialog);
+    });
+  }
+  template <class Widget>
+  static Widget& part(const QWidget& dialog, const char* name) {
+    auto* widget = dialog.findChild<Widget*>(QLatin1String(name));
+    EXPECT_NE(widget, nullptr) << name;
+    return *widget;
+  }
+  static void pressOk(const QWidget& dialog) {
+    part<QDialogButtonBox>(dialog, "buttonBox").button(QDialogButtonBox::Ok)->click();
+  }
+  SectionView& view() { return child<SectionView>("vtk_widget"); }
+  double top() { return view().scene()->upperRight().z; }
+  /// \param z metres above the highest ground
+  QPoint at(double x, double z) { return view().pointOf({x, top() + z}).toPoint(); }
+  /// As the mouse does, whatever window lies in front.
+  void point(double x, double z, Qt::MouseButtons pressed = Qt::NoButton) {
+    QMouseEvent move(QEvent::MouseMove, at(x, z), Qt::NoButton, pressed, Qt::NoModifier);
+    QApplication::sendEvent(view().sheet(), &move);
+  }
+  void drag(const Point2D& from, const Point2D& to) {
+    QTest::mousePress(view().sheet(), Qt::LeftButton, Qt::NoModifier, at(from.x, from.z));
+    point(to.x, to.z, Qt::LeftButton);
+    QTest::mouseRelease(view().sheet(), Qt::LeftButton, Qt::NoModifier, at(to.x, to.z));
+  }
+  void click(double x, double z) {
+    QTest::mouseClick(view().sheet(), Qt::LeftButton, Qt::NoModifier, at(x, z));
+  }
+  const Annotations& drawn() { return *window->document().annotations; }
+  const SectionAnnotations& shown() { return view().scene()->annotations; }
+};
+
+TEST_F(SectionDrawing, marksAnIsolineThatIsUndoneAndHidden) {
+  openLine();
+  EXPECT_FALSE(action("actionShow_annotations").isEnabled());
+  expectDialog<MarkedIsolinesDialog>([](MarkedIsolinesDialog& dialog) {
+    auto& table = part<QTableWidget>(dialog, "isolinesTable");
+    ASSERT_EQ(table.rowCount(), 1) << "the first is proposed";
+    table.item(0, 0)->setText("Grundwasser");
+    qobject_cast<QDoubleSpinBox*>(table.cellWidget(0, 1))->setValue(1200.0);
+    pressOk(dialog);
+  });
+  action("actionMarked_isolines").trigger();
+  ASSERT_EQ(drawn().isolines.size(), 1U);
+  EXPECT_EQ(drawn().isolines[0].name, "Grundwasser");
+  EXPECT_EQ(drawn().isolines[0].velocity, 1200.0);
+  ASSERT_EQ(shown().isolines.size(), 1U);
+  EXPECT_TRUE(window->isWindowModified());
+  EXPECT_TRUE(action("actionShow_annotations").isChecked());
+  action("actionShow_annotations").trigger();
+  EXPECT_TRUE(shown().empty());
+  action("actionUndo").trigger();
+  EXPECT_TRUE(drawn().empty());
+}
+
+TEST_F(SectionDrawing, drawsAnAreaByMouseAndNamesItsGround) {
+  openLine();
+  view().startDrawing(AnnotationKind::kPolygon);
+  click(10.0, -2.0);
+  click(20.0, -2.0);
+  QTest::keyClick(view().sheet(), Qt::Key_Return);
+  EXPECT_TRUE(view().hasTool()) << "two points are no area";
+  click(30.0, -8.0);
+  click(20.0, -6.0);
+  QTest::keyClick(view().sheet(), Qt::Key_Backspace);
+  expectDialog<AnnotationsDialog>([](AnnotationsDialog& dialog) {
+    auto& table = part<QTableWidget>(dialog, "itemsTable");
+    ASSERT_EQ(table.rowCount(), 1);
+    qobject_cast<QComboBox*>(table.cellWidget(0, 2))
+        ->setCurrentIndex(static_cast<int>(Lithology::kGravel));
+    EXPECT_EQ(part<QTableWidget>(dialog, "pointsTable").rowCount(), 3);
+    part<QTableWidget>(dialog, "pointsTable").item(0, 0)->setText("11.5");
+    pressOk(dialog);
+  });
+  QTest::keyClick(view().sheet(), Qt::Key_Return);
+  QApplication::processEvents();
+  ASSERT_EQ(drawn().items.size(), 1U);
+  const Annotation& area = drawn().items[0];
+  EXPECT_EQ(area.pattern, Lithology::kGravel);
+  EXPECT_EQ(area.points[0].x, 11.5) << "typed";
+  EXPECT_NEAR(area.points[1].x, 20.0, 0.2) << "clicked, to a pixel";
+  EXPECT_NEAR(area.points[2].z, top() - 8.0, 0.2);
+  QTest::keyClick(view().sheet(), Qt::Key_Escape);
+  EXPECT_FALSE(view().hasTool());
+  action("actionUndo").trigger();
+  EXPECT_TRUE(drawn().empty());
+}
+
+TEST_F(SectionDrawing, needsNoMouseAndTakesNothingThatCannotBe) {
+  openLine();
+  expectDialog<AnnotationsDialog>([](AnnotationsDialog& dialog) {
+    part<QPushButton>(dialog, "addTextButton").click();
+    EXPECT_THAT(part<QLabel>(dialog, "messageLabel").text().toStdString(),
+                HasSubstr("annotation 1: it says nothing"));
+    pressOk(dialog);
+    ASSERT_TRUE(dialog.isVisible()) << "what cannot be is not taken";
+    part<QTableWidget>(dialog, "itemsTable").item(0, 1)->setText("old quarry");
+    auto& points = part<QTableWidget>(dialog, "pointsTable");
+    points.item(0, 1)->setText("deep");
+    EXPECT_NEAR(points.item(0, 1)->text().toDouble(), dialog.items()[0].points[0].z, 1e-3)
+        << "what is no number goes";
+    EXPECT_FALSE(part<QPushButton>(dialog, "addPointButton").isEnabled()) << "of a text";
+    pressOk(dialog);
+  });
+  action("actionAnnotations").trigger();
+  ASSERT_EQ(drawn().items.size(), 1U);
+  EXPECT_EQ(drawn().items[0].text, "old quarry");
+}
+
+TEST_F(SectionDrawing, measuresUntilEscapeAndMovesTheSectionAgainAfterwards) {
+  openLine();
+  const Point2D before = view().camera().centre;
+  auto& button = part<QToolButton>(view(), "measureButton");
+  button.click();
+  ASSERT_TRUE(view().hasTool());
+  const QImage plain = view().sheet()->grab().toImage();
+  drag({10.0, -2.0}, {30.0, -6.0});
+  EXPECT_NE(view().sheet()->grab().toImage(), plain) << "the line and its figures";
+  EXPECT_EQ(view().camera().centre.x, before.x) << "the section stays where it is";
+  QTest::keyClick(view().sheet(), Qt::Key_Escape);
+  EXPECT_FALSE(view().hasTool());
+  EXPECT_FALSE(button.isChecked());
+  drag({10.0, -2.0}, {30.0, -6.0});
+  EXPECT_NEAR(view().camera().centre.x, before.x - 20.0, 0.3) << "and moves again";
+}
+
+TEST_F(SectionDrawing, laysTheStyleOfOneSurveyOnAnotherAndBack) {
+  openLine();
+  const QString file = QString::fromStdString(home.file("campaign.tvstyle"));
+  const Status chosen = window->session().apply(Edit::kPalette, [](Survey& survey) {
+    survey.palettes.edit().select(4);
+    survey.palettes.edit().current().max_db = 3210.0;
+    return Status();
+  });
+  ASSERT_TRUE(chosen.ok());
+  dialogs.expectFiles("Save style", {file});
+  action("actionSave_style").trigger();
+  action("actionUndo").trigger();
+  EXPECT_EQ(window->session().survey().palettes->currentIndex(), 0U);
+  dialogs.expectFiles("Apply style", {file});
+  action("actionApply_style").trigger();
+  EXPECT_EQ(window->session().survey().palettes->currentIndex(), 4U);
+  EXPECT_EQ(view().scene()->range.max, 3210.0);
+  EXPECT_TRUE(window->session().survey().section.lockRange);
+  action("actionUndo").trigger();
+  EXPECT_EQ(window->session().survey().palettes->currentIndex(), 0U);
+  EXPECT_FALSE(window->session().survey().section.lockRange);
+}
+
+TEST_F(SectionDrawing, showsTheGroundBelowThePointerUntilItIsHeld) {
+  openLine();
+  action("actionDepth_profile").trigger();
+  auto* dialog = window->findChild<DepthProfileDialog*>();
+  ASSERT_NE(dialog, nullptr);
+  point(12.0, -3.0);
+  EXPECT_NEAR(dialog->profile().x, 12.0, 0.2);
+  EXPECT_EQ(dialog->profile().layers.size(), 12U);
+  auto& place = part<QDoubleSpinBox>(*dialog, "placeSpin");
+  place.setValue(30.0);
+  point(20.0, -3.0);
+  EXPECT_EQ(dialog->profile().x, 30.0) << "typed, so held";
+  const QString file = QString::fromStdString(home.file("profile.svg"));
+  dialogs.expectFiles("Save depth profile", {file});
+  part<QPushButton>(*dialog, "saveButton").click();
+  EXPECT_THAT(TestFolder::get(file.toStdString()), HasSubstr("Vertical gradient [1/s]"));
+}
+
+TEST_F(SectionDrawing, standsLinesInAFenceAndSaysWhatHasNoPlace) {
+  openLine();
+  const QString other = QString::fromStdString(home.file("other.tvsk"));
+  dialogs.expectFiles("Save Project", {other});
+  action("actionSave_Project_As").trigger();
+  writable().map.edit() = {{32632, 500000.0, 500040.0, 5.0e6, 5.0e6 + 20.0}, true};
+  showWritten();
+  expectDialog<FenceDialog>([&](FenceDialog& dialog) {
+    const auto& fence = part<FenceView>(dialog, "fenceView");
+    ASSERT_EQ(fence.scene().panels.size(), 1U);
+    dialogs.expectFiles("Add projects to the fence", {other});
+    part<QPushButton>(dialog, "addButton").click();
+    EXPECT_EQ(fence.scene().panels.size(), 1U);
+    EXPECT_THAT(part<QLabel>(dialog, "messageLabel").text().toStdString(),
+                HasSubstr("Left out: other: it has no position on the map"));
+    const double before = fence.camera().azimuth;
+    QTest::keyClick(dialog.findChild<FenceView*>(), Qt::Key_Right);
+    EXPECT_NE(fence.camera().azimuth, before);
+    part<QPushButton>(dialog, "removeButton").click();
+    EXPECT_EQ(part<QListWidget>(dialog, "linesList").count(), 1);
+    dialog.reject();
+  });
+  action("actionFence").trigger();
+  EXPECT_TRUE(window->document().map->geoCoord_isSet) << "nothing here changes the survey";
+}
+
+}  // namespace
+}  // namespace talvesk::testing

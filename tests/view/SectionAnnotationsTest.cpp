@@ -1,0 +1,114 @@
+#include "support/SectionDocument.h"
+#include "view/SectionMeasure.h"
+#include "view/SectionScene.h"
+#include "view/SectionViewSettings.h"
+
+#include <cmath>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace talvesk {
+namespace {
+
+using testing::sectionDocument;
+
+/// 400 m/s in the first row, 100 m/s more in each below it.
+double layered(std::uint32_t row, std::uint32_t) {
+  return 400.0 + 100.0 * row;
+}
+
+SectionScene sceneOf(const TomoDocument& document, const SectionViewSettings& view) {
+  SectionScene scene;
+  EXPECT_TRUE(buildSectionScene(document, view, ColorPaletteList().current(), {}, scene).ok());
+  return scene;
+}
+
+TEST(SectionAnnotations, markAVelocityWhateverTheSectionShows) {
+  TomoDocument document = sectionDocument(10, 30, 0.0, layered);
+  document.annotations.edit().isolines = {{"water table", 850.0}, {"rock", 9000.0}};
+  SectionViewSettings view;
+  for (const SectionQuantity quantity :
+       {SectionQuantity::kVelocity, SectionQuantity::kVerticalGradient}) {
+    view.quantity = quantity;
+    const SectionScene scene = sceneOf(document, view);
+    ASSERT_EQ(scene.annotations.isolines.size(), 2U);
+    const DrawnIsoline& table = scene.annotations.isolines[0];
+    ASSERT_EQ(table.lines.size(), 1U);
+    // Means of corners: 850 m/s lies between rows 4 and 5, 5 m below the surface at 100 m.
+    for (const Point2D& p : table.lines[0].points) EXPECT_NEAR(p.z, 95.0, 1e-9);
+    EXPECT_TRUE(scene.annotations.isolines[1].lines.empty()) << "so fast nothing is";
+  }
+  view.profile = false;
+  EXPECT_TRUE(sceneOf(document, view).annotations.isolines.empty()) << "of a section not shown";
+}
+
+TEST(SectionAnnotations, goWithTheSwitchOfTheViewAndTellWhatIsOutOfSight) {
+  TomoDocument document = sectionDocument(10, 30, 0.0, layered);
+  Annotation inside{AnnotationKind::kText, "clay pit", {{110.0, 95.0}}};
+  Annotation crossing{AnnotationKind::kLine, "", {{0.0, 95.0}, {400.0, 95.0}}};
+  Annotation below{AnnotationKind::kPolygon, "", {{105.0, 50.0}, {115.0, 50.0}, {110.0, 40.0}}};
+  document.annotations.edit().items = {inside, crossing, below};
+  SectionViewSettings view;
+  const SectionScene scene = sceneOf(document, view);
+  EXPECT_EQ(scene.annotations.items.size(), 3U);
+  EXPECT_EQ(scene.annotations.outside, 1U);
+  view.annotations = false;
+  EXPECT_TRUE(sceneOf(document, view).annotations.empty());
+}
+
+TEST(Annotations, sayWhatCannotBe) {
+  const double kNone = std::numeric_limits<double>::quiet_NaN();
+  const Annotation text{AnnotationKind::kText, "here", {{1.0, 2.0}}};
+  const Annotation area{AnnotationKind::kPolygon, "", {{0, 0}, {1, 0}, {1, 1}}, Lithology::kSand};
+  EXPECT_TRUE(faultOf(text).empty());
+  EXPECT_TRUE(faultOf(area).empty());
+  using Change = void (*)(Annotation&);
+  const struct {
+    const char* what;
+    const Annotation& of;
+    Change change;
+  } kFaults[] = {
+      {"a text that says nothing", text, [](Annotation& a) { a.text.clear(); }},
+      {"a text at two places", text,
+       [](Annotation& a) {
+         a.points.push_back({3, 4});
+       }},
+      {"a text nowhere", text, [](Annotation& a) { a.points.clear(); }},
+      {"an endless text", text, [](Annotation& a) { a.text.assign(201, 'x'); }},
+      {"a text of another size", text, [](Annotation& a) { a.textSize = 1e6; }},
+      {"an area with two corners", area, [](Annotation& a) { a.points.pop_back(); }},
+      {"a place off the earth", area, [](Annotation& a) { a.points[0].z = 1e300; }},
+      {"another kind", area, [](Annotation& a) { a.kind = static_cast<AnnotationKind>(7); }},
+      {"another pattern", area, [](Annotation& a) { a.pattern = static_cast<Lithology>(-1); }},
+      {"a colour beyond white", area, [](Annotation& a) { a.color = 0x1000000; }},
+      {"a line without width", area, [](Annotation& a) { a.width = 0.0; }}};
+  for (const auto& fault : kFaults) {
+    Annotation changed = fault.of;
+    fault.change(changed);
+    EXPECT_FALSE(faultOf(changed).empty()) << fault.what;
+  }
+  Annotation nowhere = text;
+  nowhere.points[0].x = kNone;
+  EXPECT_FALSE(faultOf(nowhere).empty());
+  EXPECT_FALSE(faultOf(MarkedIsoline{"", kNone}).empty());
+  Annotations many;
+  many.items.assign(Annotations::kMostItems + 1, text);
+  EXPECT_FALSE(faultOf(many).empty());
+}
+
+TEST(SectionMeasure, isThatOfTheGround) {
+  const SectionMeasure up = measureSection({10.0, 100.0}, {13.0, 104.0});
+  EXPECT_DOUBLE_EQ(up.distance, 5.0);
+  EXPECT_DOUBLE_EQ(up.horizontal, 3.0);
+  EXPECT_DOUBLE_EQ(up.vertical, 4.0);
+  EXPECT_NEAR(up.slope, 53.1301, 1e-4);
+  // To the left and down: the slope is that of the way, not of a turn.
+  const SectionMeasure down = measureSection({10.0, 100.0}, {0.0, 90.0});
+  EXPECT_DOUBLE_EQ(down.horizontal, 10.0);
+  EXPECT_DOUBLE_EQ(down.slope, -45.0);
+  EXPECT_EQ(measureSection({1.0, 1.0}, {1.0, 1.0}).slope, 0.0);
+}
+
+}  // namespace
+}  // namespace talvesk
