@@ -98,6 +98,7 @@ Json mendsJson(const ShotMends& mends) {
     trace["killed"] = mend.killed;
     trace["reversed"] = mend.reversed;
     trace["muted_before"] = mend.mutedBefore;
+    trace["gain"] = mend.gain;
     traces.push_back(std::move(trace));
   }
   Json json = Json::object();

@@ -252,6 +252,7 @@ void describe(V& fields, TraceMend& mend) {
   fields("killed", mend.killed);
   fields("reversed", mend.reversed);
   fields("muted_before", mend.mutedBefore);
+  fields.optional("gain", mend.gain);
 }
 
 template <class V>
