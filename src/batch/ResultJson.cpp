@@ -429,6 +429,11 @@ std::string projectJson(const LoadedProject& project) {
         i < document.recordings->traceSets.size() ? document.recordings->traceSets[i].size() : 0;
     shot["computed_times"] = record.ttCalcolati;
     shot["mends"] = mendsJson(mendsOfRecord(document, static_cast<std::int32_t>(i)));
+    Json filters = Json::array();
+    for (const FilterStep& step : filtersOf(*document.recordings, i)) {
+      filters.push_back(describe(step).english());
+    }
+    shot["filters"] = std::move(filters);
     shots.push_back(std::move(shot));
   }
   Json json = Json::object();

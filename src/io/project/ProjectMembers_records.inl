@@ -7,6 +7,7 @@
 #include "io/XmlRecords.inl"
 #include "io/project/MendsMember.h"
 #include "io/project/ProjectCertainty.h"
+#include "io/project/ProjectFilters.h"
 #include "io/project/ProjectFirstLayer.h"
 #include "io/project/ProjectKnownGround.h"
 #include "io/project/ProjectMembers.h"
@@ -244,6 +245,23 @@ void describe(V& fields, StoredReader& stored) {
 
 template <class V>
 void describe(V& fields, ReadersMember& member) {
+  fields("sets", member.sets);
+}
+
+template <class V>
+void describe(V& fields, FilterStep& step) {
+  fields("kind", step.kind);
+  fields("numbers", step.numbers);
+}
+
+template <class V>
+void describe(V& fields, StoredFilters& stored) {
+  fields("set", stored.set);
+  fields("steps", stored.steps);
+}
+
+template <class V>
+void describe(V& fields, FiltersMember& member) {
   fields("sets", member.sets);
 }
 
