@@ -305,6 +305,8 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionAutoPick_line",
         "actionFill_along",
         "actionFilter",
+        "actionNotch",
+        "actionVelocity_filter",
         "actionAGC",
         "actionApply_Hushel",
         "actionRun_tomography_inversion",
