@@ -92,7 +92,9 @@ void editTravelTimesWidget::State::paintLive(QPainter& painter) {
   if (!selection.empty() && !options.showOnlyTraces) {
     const std::vector<std::size_t> traceNumbers(selection.traces().begin(),
                                                 selection.traces().end());
-    paintTag(painter, colors, plot.bottomLeft() + QPointF(8.0, -30.0),
+    // What is mended stands below it.
+    const bool mended = document != nullptr && mendsOfRecord(*document, shot).any();
+    paintTag(painter, colors, plot.bottomLeft() + QPointF(8.0, mended ? -58.0 : -30.0),
              editTravelTimesWidget::tr("Traces %1: C confirms, Del removes, K kills, P reverses, "
                                        "U mutes, Esc leaves")
                  .arg(QString::fromStdString(ranges(traceNumbers))),
