@@ -35,11 +35,11 @@ class MendedProject : public ProjectTest {
     ShotMends first;
     first.timeShift = 0.003;
     first.orderReversed = true;
-    first.traces.resize(7);
+    first.traces.resize(6);
     first.traces[3].killed = true;
     first.traces[4].reversed = true;
     first.traces[5].mutedBefore = 0.0105;
-    first.traces[6].gain = 0.75;
+    first.traces[2].gain = 0.75;
     ASSERT_TRUE(setMends(0, first, project.document).ok());
     ShotMends second;
     second.disabled = true;
