@@ -26,6 +26,8 @@ inline constexpr const char* kQuietHelp =
 /// The options that belong to shot files, to ask what was given once the line is parsed.
 struct ShotOptionGroup {
   std::vector<CLI::Option*> options;
+  std::vector<CLI::Option*> notch;     ///< of these, those of --filter notch
+  std::vector<CLI::Option*> velocity;  ///< and of --filter velocity
 
   bool anyGiven() const;
   /// Throws CLI::ValidationError when options contradict each other.

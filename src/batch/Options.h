@@ -8,7 +8,9 @@
 #include "model/GeographicsCoord.h"
 #include "model/Parameters.h"
 #include "model/Recordings.h"
+#include "processing/NotchFilter.h"
 #include "processing/ShotFilters.h"
+#include "processing/VelocityFilter.h"
 #include "refraction/elastic/ElasticLine.h"
 #include "refraction/methods/MethodResult.h"
 #include "tomo/TomographyRun.h"
@@ -43,7 +45,7 @@ struct InfoOptions {
 };
 
 /// On what the first breaks are picked.
-enum class PickFilter { kNone, kAgc, kHushel, kBand };
+enum class PickFilter { kNone, kAgc, kHushel, kBand, kNotch, kVelocity };
 
 /// Elevations for all positions of a survey.
 struct ElevationOptions {
@@ -63,6 +65,8 @@ struct ShotOptions {
   ShotReader reader = ShotReader::kRules;
   PickFilter filter = PickFilter::kNone;
   BandFilter band;  ///< of kBand: one corner at least
+  NotchFilter notch;
+  VelocityFilter velocity;
   PickMethod method = PickMethod::kSingle;
   std::string geophones;        ///< geometry file
   std::string shots;            ///< geometry file

@@ -81,6 +81,14 @@ void describeInversion(const TomoDocument& document, std::ostream& out) {
   }
 }
 
+void listFilters(const TomoDocument& document, std::ostream& out) {
+  for (std::size_t set = 0; set < document.recordings->traceSets.size(); ++set) {
+    for (const FilterStep& step : filtersOf(*document.recordings, set)) {
+      out << "  filter      shot " << set + 1 << ": " << describe(step) << "\n";
+    }
+  }
+}
+
 void listMends(const TomoDocument& document, std::ostream& out) {
   for (std::size_t set = 0; set < document.recordings->mends.size(); ++set) {
     for (const Message& line : describeMends(document, set)) {
@@ -166,6 +174,7 @@ void describe(const std::string& path, const LoadedProject& project, std::ostrea
     out << "none\n";
   }
   listMends(document, out);
+  listFilters(document, out);
   out << "  inversion   ";
   if (!document.result->has_tomographic_info) {
     out << "none\n";

@@ -98,6 +98,7 @@ Json mendsJson(const ShotMends& mends) {
     trace["killed"] = mend.killed;
     trace["reversed"] = mend.reversed;
     trace["muted_before"] = mend.mutedBefore;
+    trace["gain"] = mend.gain;
     traces.push_back(std::move(trace));
   }
   Json json = Json::object();
@@ -428,6 +429,11 @@ std::string projectJson(const LoadedProject& project) {
         i < document.recordings->traceSets.size() ? document.recordings->traceSets[i].size() : 0;
     shot["computed_times"] = record.ttCalcolati;
     shot["mends"] = mendsJson(mendsOfRecord(document, static_cast<std::int32_t>(i)));
+    Json filters = Json::array();
+    for (const FilterStep& step : filtersOf(*document.recordings, i)) {
+      filters.push_back(describe(step).english());
+    }
+    shot["filters"] = std::move(filters);
     shots.push_back(std::move(shot));
   }
   Json json = Json::object();

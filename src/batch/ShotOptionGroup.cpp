@@ -1,5 +1,6 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
+#include "batch/ShotPicking.h"
 #include "io/FileFormats.h"
 #include "io/GeometryFile.h"
 #include "io/TravelTimeFile.h"
@@ -16,7 +17,10 @@ PickFilter readFilter(const std::string& text) {
   if (text == "agc") return PickFilter::kAgc;
   if (text == "hushel") return PickFilter::kHushel;
   if (text == "band") return PickFilter::kBand;
-  throw CLI::ValidationError("--filter", "'" + text + "' is none of none, agc, hushel, band");
+  if (text == "notch") return PickFilter::kNotch;
+  if (text == "velocity") return PickFilter::kVelocity;
+  throw CLI::ValidationError("--filter",
+                             "'" + text + "' is none of none, agc, hushel, band, notch, velocity");
 }
 
 PickMethod readMethod(const std::string& option, const std::string& text) {
@@ -71,6 +75,53 @@ std::vector<CLI::Option*> addCorner(CLI::App& command, const Parameter<double>& 
   return {cutOff, orderOption};
 }
 
+VelocityFilter::Direction readDirection(const std::string& text) {
+  using Direction = VelocityFilter::Direction;
+  if (text == "both") return Direction::kBoth;
+  if (text == "forth") return Direction::kForth;
+  if (text == "back") return Direction::kBack;
+  throw CLI::ValidationError("--direction", "'" + text + "' is none of both, forth, back");
+}
+
+std::vector<CLI::Option*> addNotch(CLI::App& command, NotchFilter& notch) {
+  using namespace parameters;
+  return {
+      addParameter(command, kNotch, "HZ", kNotch.help + defaultOf(kNotch),
+                   [&notch](double hertz) { notch.hertz = hertz; }),
+      addParameter(command, kNotchHarmonics, "N", kNotchHarmonics.help + defaultOf(kNotchHarmonics),
+                   [&notch](int count) { notch.harmonics = count; }),
+      addParameter(command, kNotchQuality, "Q", kNotchQuality.help + defaultOf(kNotchQuality),
+                   [&notch](double quality) { notch.quality = quality; })};
+}
+
+std::vector<CLI::Option*> addVelocity(CLI::App& command, VelocityFilter& filter) {
+  using namespace parameters;
+  return {addParameter(command, kSlowest, "M/S", kSlowest.help + defaultOf(kSlowest),
+                       [&filter](double velocity) { filter.slowest = velocity; }),
+          addParameter(command, kFastest, "M/S", kFastest.help + defaultOf(kFastest),
+                       [&filter](double velocity) { filter.fastest = velocity; }),
+          addParameter(command, kVelocityTaper, "PERCENT",
+                       kVelocityTaper.help + defaultOf(kVelocityTaper),
+                       [&filter](double percent) { filter.taper = percent; }),
+          command
+              .add_option_function<std::string>(
+                  "--direction",
+                  [&filter](const std::string& text) { filter.direction = readDirection(text); },
+                  "Waves of the velocity filter: forth, towards greater distances; back; both "
+                  "(default: both)")
+              ->type_name("WAY"),
+          command.add_flag("--reject-velocities", filter.rejects,
+                           "The velocity filter takes its range out instead of keeping it")};
+}
+
+/// Options of a filter go with it only.
+void checkBelongs(const std::vector<CLI::Option*>& options, PickFilter filter, PickFilter chosen) {
+  for (const CLI::Option* option : options) {
+    if (option->count() == 0 || chosen == filter) continue;
+    throw CLI::ValidationError(option->get_name(), "it goes with --filter " + nameOf(filter));
+  }
+}
+
 }  // namespace
 
 bool ShotOptionGroup::anyGiven() const {
@@ -85,6 +136,11 @@ void ShotOptionGroup::check(const ShotOptions& shots) const {
   }
   if (shots.filter != PickFilter::kBand && corners) {
     throw CLI::ValidationError("--low and --high", "they go with --filter band");
+  }
+  checkBelongs(notch, PickFilter::kNotch, shots.filter);
+  checkBelongs(velocity, PickFilter::kVelocity, shots.filter);
+  if (const Status status = checkVelocityFilter(shots.velocity); !status.ok()) {
+    throw CLI::ValidationError("--slowest", status.message());
   }
   const bool separatorGiven = options.back()->count() > 0;
   if (separatorGiven && shots.geophones.empty() && shots.shots.empty()) {
@@ -196,11 +252,18 @@ ShotOptionGroup addShotOptions(CLI::App& command, ShotOptions& shots,
               "control; hushel, " +
                   plainNumber(parameters::kHushelHigh.value) + " to " +
                   plainNumber(parameters::kHushelLow.value) +
-                  " Hz; band, what --low and --high leave (default: none)")
+                  " Hz; band, what --low and --high leave; notch, without the hum of power lines "
+                  "(--notch); velocity, waves of the apparent velocities from --slowest to "
+                  "--fastest (default: none)")
           ->type_name("TYPE"));
   for (CLI::Option* option : addCorner(command, parameters::kLowPass, shots.band.low)) add(option);
   for (CLI::Option* option : addCorner(command, parameters::kHighPass, shots.band.high))
     add(option);
+  group.notch = addNotch(command, shots.notch);
+  group.velocity = addVelocity(command, shots.velocity);
+  for (const auto& filter : {group.notch, group.velocity}) {
+    for (CLI::Option* option : filter) add(option);
+  }
   for (CLI::Option* option : addPositionOptions(command, shots).options) {
     group.options.push_back(option);
   }

@@ -184,6 +184,7 @@ namespace {
 
 Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots, Survey& survey) {
   FilterOutcome outcome;
+  std::vector<Message> notes;
   const Status done = editSurvey(Edit::kFilter, survey, [&](Survey& next) {
     TomoDocument& document = next.document;
     if (options.filter == PickFilter::kAgc) outcome = agcShots(document, shots);
@@ -191,9 +192,16 @@ Status filter(const ShotOptions& options, const std::vector<std::int32_t>& shots
     if (options.filter == PickFilter::kBand) {
       outcome = bandFilterShots(document, shots, options.band);
     }
+    if (options.filter == PickFilter::kNotch) {
+      outcome = notchShots(document, shots, options.notch, false);
+    }
+    if (options.filter == PickFilter::kVelocity) {
+      outcome = velocityFilterShots(document, shots, options.velocity, false, notes);
+    }
     return Status();
   });
   if (!done.ok()) return done;
+  for (const Message& note : notes) warn(note);
   if (outcome.failed == 0) return {};
   if (outcome.filtered == 0) return outcome.status;
   warn(std::to_string(outcome.failed) + " of " + std::to_string(outcome.failed + outcome.filtered) +
@@ -346,6 +354,10 @@ std::string nameOf(PickFilter filter) {
       return "hushel";
     case PickFilter::kBand:
       return "band";
+    case PickFilter::kNotch:
+      return "notch";
+    case PickFilter::kVelocity:
+      return "velocity";
     case PickFilter::kNone:
       break;
   }

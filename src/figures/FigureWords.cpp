@@ -64,9 +64,12 @@ QStringList FigureWords::mends(const ShotMends& mends, const QLocale& locale) {
   const std::size_t turned = countOf(mends.traces, [](const TraceMend& t) { return t.reversed; });
   const std::size_t muted =
       countOf(mends.traces, [](const TraceMend& t) { return t.mutedBefore > 0.0; });
+  const std::size_t scaled =
+      countOf(mends.traces, [](const TraceMend& t) { return t.gain != 1.0; });
   if (killed > 0) words += tr("%1 killed", "traces").arg(traces(killed));
   if (turned > 0) words += tr("%1 of reversed polarity", "traces").arg(traces(turned));
   if (muted > 0) words += tr("%1 muted", "traces").arg(traces(muted));
+  if (scaled > 0) words += tr("%1 with a gain of their own", "traces").arg(traces(scaled));
   return words;
 }
 

@@ -248,9 +248,10 @@ void setAxis(const std::vector<double>& positions, const TravelTime* record, Gat
   scene.high = std::max(scene.high, x);
 }
 
-/// Adds a trace unless there is nothing of it to draw.
-void addTrace(const TraceSet& set, std::size_t channel, double x, const TravelTime* record,
-              const GatherFigureOptions& options, GatherScene& scene, Counts& counts) {
+/// Adds a trace unless there is nothing of it to draw. \param gain that it was given by a mend
+void addTrace(const TraceSet& set, std::size_t channel, double x, double gain,
+              const TravelTime* record, const GatherFigureOptions& options, GatherScene& scene,
+              Counts& counts) {
   const Trace& source = set[channel];
   GatherTrace trace;
   trace.channel = channel;
@@ -277,6 +278,8 @@ void addTrace(const TraceSet& set, std::size_t channel, double x, const TravelTi
   } else if (!trace.pickMs) {
     return;
   }
+  // A trace that was given a gain of its own is drawn so much larger than by its own measure.
+  if (options.scaling == GatherScaling::kEachTrace) trace.scale /= gain;
   scene.traces.push_back(trace);
 }
 
@@ -320,14 +323,14 @@ Status buildGatherScene(const TomoDocument& document, std::size_t shot,
   setAxis(positions, record, made);
 
   made.traceStep = std::max<std::size_t>((set.size() + kMostTraces - 1) / kMostTraces, 1);
+  const ShotMends& mends = mendsOf(document.recordings->mends, shot);
   Counts counts;
   for (std::size_t i = 0; i < set.size(); i += made.traceStep) {
-    addTrace(set, i, positions[i], record, options, made, counts);
+    addTrace(set, i, positions[i], mendOf(mends, i).gain, record, options, made, counts);
   }
   if (options.scaling == GatherScaling::kWholeShot) scaleAlike(made.traces);
   made.hasPicks = counts.picks > 0;
-  made.caption =
-      captionOf(counts, made.traceStep, mendsOf(document.recordings->mends, shot), options);
+  made.caption = captionOf(counts, made.traceStep, mends, options);
   scene = std::move(made);
   return {};
 }

@@ -30,7 +30,8 @@ struct GatherTrace {
   double errorMs = 0.0;          ///< of the pick, one standard deviation; 0: not known
 
   double timeMs(std::size_t sample) const { return static_cast<double>(sample) * intervalMs; }
-  /// From -1 to 1 for a trace scaled by itself; not a number where the sample is none.
+  /// From -1 to 1 for a trace scaled by itself, times the gain that it has by a mend; not a number
+  /// where the sample is none.
   double swing(std::size_t sample) const;
 };
 

@@ -25,11 +25,16 @@ void describeTraces(const std::vector<TraceMend>& traces, std::vector<Message>& 
     lines.push_back(Message::tr("traces with their polarity reversed: %1").arg(reversed));
   }
   std::map<double, std::vector<std::size_t>> muted;
+  std::map<double, std::vector<std::size_t>> scaled;
   for (std::size_t j = 0; j < traces.size(); ++j) {
     if (traces[j].mutedBefore > 0.0) muted[traces[j].mutedBefore].push_back(j);
+    if (traces[j].gain != 1.0) scaled[traces[j].gain].push_back(j);
   }
   for (const auto& [time, list] : muted) {
     lines.push_back(Message::tr("traces muted before %1 ms: %2").arg(1e3 * time).arg(ranges(list)));
+  }
+  for (const auto& [gain, list] : scaled) {
+    lines.push_back(Message::tr("traces with a gain of %1: %2").arg(gain).arg(ranges(list)));
   }
 }
 

@@ -39,6 +39,9 @@ void mendSamples(const TraceMend& mend, double interval, Samples& samples) {
   if (mend.reversed) {
     for (double& value : values) value = -value;
   }
+  if (mend.gain != 1.0) {
+    for (double& value : values) value *= mend.gain;
+  }
   for (std::size_t k = 0; k < values.size(); ++k) {
     const bool early = static_cast<double>(k) * interval < mend.mutedBefore;
     if (mend.killed || early) values[k] = 0.0;
@@ -188,6 +191,12 @@ Status checkMends(const Recordings& recordings, std::size_t set, const ShotMends
     if (!(trace.mutedBefore >= 0.0 && trace.mutedBefore <= kLatestPick)) {
       return Status::failure(
           Message::tr("a trace cannot be muted before %1 ms").arg(1e3 * trace.mutedBefore));
+    }
+    if (!(trace.gain >= TraceMend::kLeastGain && trace.gain <= TraceMend::kMostGain)) {
+      return Status::failure(Message::tr("a trace cannot have a gain of %1, only one from %2 to %3")
+                                 .arg(trace.gain)
+                                 .arg(TraceMend::kLeastGain)
+                                 .arg(TraceMend::kMostGain));
     }
   }
   if (!(std::fabs(mends.timeShift) <= kLatestPick)) {

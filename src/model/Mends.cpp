@@ -17,7 +17,8 @@ bool sameTraces(const std::vector<TraceMend>& a, const std::vector<TraceMend>& b
 }  // namespace
 
 bool operator==(const TraceMend& a, const TraceMend& b) {
-  return a.killed == b.killed && a.reversed == b.reversed && a.mutedBefore == b.mutedBefore;
+  return a.killed == b.killed && a.reversed == b.reversed && a.mutedBefore == b.mutedBefore &&
+         a.gain == b.gain;
 }
 
 bool ShotMends::any() const {

@@ -11,8 +11,13 @@ struct TraceMend {
   bool killed = false;       ///< its samples count for nothing: all are zero
   bool reversed = false;     ///< its samples change their sign
   double mutedBefore = 0.0;  ///< seconds; samples before are zero; 0 mutes none
+  /// Its samples are so many times as large, kLeastGain to kMostGain; 1 leaves them as they are.
+  double gain = 1.0;
 
-  bool any() const { return killed || reversed || mutedBefore > 0.0; }
+  static constexpr double kLeastGain = 0.01;
+  static constexpr double kMostGain = 100.0;
+
+  bool any() const { return killed || reversed || mutedBefore > 0.0 || gain != 1.0; }
 };
 
 bool operator==(const TraceMend& a, const TraceMend& b);

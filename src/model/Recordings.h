@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Message.h"
+#include "model/FilterSteps.h"
 #include "model/Mends.h"
 #include "model/Trace.h"
 
@@ -28,6 +29,8 @@ struct RecordingNote {
   ShotReader reader = ShotReader::kRules;
   std::size_t recordInFile = 0;  ///< which of the shots of its file, from 0
   std::string nameInFile = {};   ///< of that shot; empty where the file holds one
+  /// What made its filtered copies; see filtersOf(). Empty where that is not known.
+  std::vector<FilterStep> filters = {};
 };
 
 /// What the geophones of a survey recorded, and the files that it came from.

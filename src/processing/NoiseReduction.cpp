@@ -29,7 +29,9 @@ Status reduceNoiseOf(Trace& trace) {
 }  // namespace
 
 FilterOutcome reduceNoise(TomoDocument& document, const std::vector<std::int32_t>& shots) {
-  return filterEachTrace(document, shots, reduceNoiseOf);
+  FilterOutcome outcome = filterEachTrace(document, shots, reduceNoiseOf);
+  if (outcome.filtered > 0) noteFilter(document, shots, {FilterKind::kHushel, {}}, false);
+  return outcome;
 }
 
 }  // namespace talvesk

@@ -143,17 +143,29 @@ FilterOutcome bandFilterTraces(TraceSet& traces, const BandFilter& filter,
 FilterOutcome bandFilterShots(TomoDocument& document, const std::vector<std::int32_t>& shots,
                               const BandFilter& filter) {
   if (!filter.low && !filter.high) return {};
-  return overShots(document, shots, [&](TraceSet& traces) {
+  FilterOutcome outcome = overShots(document, shots, [&](TraceSet& traces) {
     HighestFrequency highest;
     highest.see(computeSpectrum(traces, true));
     return bandFilterTraces(traces, filter, highest.value());
   });
+  if (outcome.filtered > 0) noteFilter(document, shots, stepOf(filter), false);
+  return outcome;
+}
+
+FilterStep stepOf(const BandFilter& filter) {
+  const FilterCorner none{0.0, 0};
+  const FilterCorner low = filter.low.value_or(none);
+  const FilterCorner high = filter.high.value_or(none);
+  return {FilterKind::kBand,
+          {low.hertz, static_cast<double>(low.order), high.hertz, static_cast<double>(high.order)}};
 }
 
 FilterOutcome agcShots(TomoDocument& document, const std::vector<std::int32_t>& shots) {
-  return filterEachTrace(document, shots, [](Trace& trace) {
+  FilterOutcome outcome = filterEachTrace(document, shots, [](Trace& trace) {
     return refilter(trace, [&](std::vector<double>& out) { return agcTrace(trace.samples, out); });
   });
+  if (outcome.filtered > 0) noteFilter(document, shots, {FilterKind::kAgc, {}}, false);
+  return outcome;
 }
 
 FilterOutcome filterEachTrace(TomoDocument& document, const std::vector<std::int32_t>& shots,

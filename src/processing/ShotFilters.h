@@ -2,6 +2,7 @@
 
 #include "base/Span.h"
 #include "base/Status.h"
+#include "model/FilterSteps.h"
 #include "model/Parameters.h"
 #include "model/Trace.h"
 
@@ -55,6 +56,9 @@ FilterOutcome bandFilterTraces(TraceSet& traces, const BandFilter& filter, doubl
 /// of the raw samples). Without a filter nothing is done.
 FilterOutcome bandFilterShots(TomoDocument& document, const std::vector<std::int32_t>& shots,
                               const BandFilter& filter);
+
+/// What a project remembers of such a filter.
+FilterStep stepOf(const BandFilter& filter);
 
 /// Automatic gain control of every trace of the shots, in order.
 FilterOutcome agcShots(TomoDocument& document, const std::vector<std::int32_t>& shots);

@@ -109,7 +109,9 @@ PlotTool* PlotGestures::toolFor(const QMouseEvent& event) {
   if (event.button() == Qt::MiddleButton || (left && mSpaceHeld)) return mPan.get();
   const bool ctrl = (event.modifiers() & Qt::ControlModifier) != 0;
   const bool shift = (event.modifiers() & Qt::ShiftModifier) != 0;
-  if (left && ctrl && !shift) return within ? mBand.get() : nullptr;
+  if (left && ctrl && !shift) {
+    return within ? mBand.get() : mSurface.toolBeside(event.localPos());
+  }
   PlotTool* own = mSurface.toolFor(event.button(), event.modifiers(), event.localPos());
   if (own != nullptr || !left || !within) return own;
   return shift && !ctrl ? mPan.get() : mBand.get();

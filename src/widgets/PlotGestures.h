@@ -34,6 +34,8 @@ class PlotSurface {
   virtual PlotTool* toolFor(Qt::MouseButton, Qt::KeyboardModifiers, const QPointF&) {
     return nullptr;
   }
+  /// The same for the left button with Ctrl beside the plot; in it they zoom to a rectangle.
+  virtual PlotTool* toolBeside(const QPointF&) { return nullptr; }
   /// The plot's own keys and turns of the wheel, which come before those of all plots.
   /// \return whether it was one
   virtual bool keyPressed(const QKeyEvent&) { return false; }

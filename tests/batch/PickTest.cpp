@@ -200,7 +200,9 @@ TEST_F(Picking, everyFilterHasItsSay) {
       {"hushel", {}},
       {"band", {"--low", "100"}},
       {"band", {"--high", "150", "--high-order", "3"}},
-      {"band", {"--low", "300", "--low-order", "2", "--high", "20"}}};
+      {"band", {"--low", "300", "--low-order", "2", "--high", "20"}},
+      {"notch", {"--notch", "60", "--notch-harmonics", "2", "--notch-quality", "5"}},
+      {"velocity", {"--slowest", "200", "--velocity-taper", "50"}}};
   std::vector<ordered_json> seen = {raw};
   for (const auto& [name, corners] : filters) {
     std::vector<std::string> options = {"--filter", name};
@@ -265,6 +267,8 @@ TEST_F(Picking, warnsOfNumbersThatAreCutAtDecimalCommas) {
 TEST_F(Picking, whatDoesNotFitFailsInOneLineAndLeavesTheOldFile) {
   const std::string out = mFolder.write("out.otte", "old");
   const std::string few = geophones(12, 3.0, ";");
+  const std::string uneven = mFolder.write(
+      "uneven.csv", "0;5\n3;5\n6;5\n9;5\n12;5\n15;5\n18;5\n22;5\n24;5\n27;5\n30;5\n33;5\n36;5\n");
   const std::string twoShots = mFolder.write("two.csv", "shot_id_1;1;0\nshot_id_2;2;0\n");
   const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
       {{"--geophones", few}, "12 geophones do not fit"},
@@ -273,6 +277,7 @@ TEST_F(Picking, whatDoesNotFitFailsInOneLineAndLeavesTheOldFile) {
       {{"--shots", mFolder / "none.csv"}, "none.csv"},
       {{"--filter", "band", "--low", "5000"}, "5000 Hz"},
       {{"--filter", "band", "--high", "2000"}, "2000 Hz"},
+      {{"--filter", "velocity", "--geophones", uneven}, "not evenly spaced"},
       {{mFolder / "none.sg2"}, "none.sg2"},
       {{mFolder / "line.otte"}, "suffix"}};
   const std::size_t files = mFolder.fileCount();

@@ -46,6 +46,7 @@ TEST_F(Mending, isOneStepFromItsDialogToTheTraces) {
     ASSERT_EQ(table->rowCount(), 12);
     table->item(0, 0)->setCheckState(Qt::Checked);
     table->item(1, 2)->setData(Qt::EditRole, 0.003);
+    table->item(2, 3)->setData(Qt::EditRole, 2.5);
     dialog.findChild<QCheckBox*>("orderBox")->setChecked(true);
     EXPECT_EQ(table->item(11, 0)->checkState(), Qt::Checked) << "a mend stays with its channel";
     EXPECT_TRUE(dialog.findChild<QListWidget*>("stackList")->isHidden());
@@ -56,6 +57,7 @@ TEST_F(Mending, isOneStepFromItsDialogToTheTraces) {
   ASSERT_EQ(mends.traces.size(), 12U);
   EXPECT_TRUE(mends.traces[11].killed);
   EXPECT_EQ(mends.traces[10].mutedBefore, 0.003);
+  EXPECT_EQ(mends.traces[9].gain, 2.5);
   EXPECT_THAT(chosen(0), HasSubstr("(mended)"));
   EXPECT_THAT(status(), HasSubstr("whole samples"));
   EXPECT_EQ(action("actionUndo").text().toStdString(), "Undo \"Mend recordings\"");
@@ -81,6 +83,33 @@ TEST_F(Mending, isOneStepFromItsDialogToTheTraces) {
   EXPECT_EQ(writable().recordings->traceSets[0][0].samples,
             before.recordings->traceSets[0][0].samples);
   EXPECT_FALSE(action("actionTake_back_mends").isEnabled());
+}
+
+TEST_F(Mending, ofTheSelectedTracesGoesByTheMenu) {
+  loadShots(2);
+  auto& view = child<editTravelTimesWidget>("showTracesWidget");
+  view.editPick(0, 4, 0.02);
+  view.selectTraces(3, 4);
+  dialogs.expect([](QWidget& dialog) {
+    dialog.findChild<QDoubleSpinBox*>()->setValue(5.0);
+    dynamic_cast<QDialog&>(dialog).accept();
+  });
+  action("actionMute_traces").trigger();
+  for (const char* name : {"actionReverse_polarity", "actionAmplify_traces", "actionKill_traces"}) {
+    action(name).trigger();
+  }
+  EXPECT_THAT(status(), HasSubstr("set aside: 1"));
+  const ShotMends& mends = window->session().document().recordings->mends.at(0);
+  ASSERT_EQ(mends.traces.size(), 5U);
+  EXPECT_FALSE(mends.traces[2].any());
+  for (const std::size_t trace : {3U, 4U}) {
+    EXPECT_EQ(mends.traces[trace].mutedBefore, 0.005);
+    EXPECT_TRUE(mends.traces[trace].reversed && mends.traces[trace].killed);
+    EXPECT_EQ(mends.traces[trace].gain, 1.5);
+  }
+  EXPECT_EQ(action("actionUndo").text().toStdString(), "Undo \"Kill traces\"");
+  action("actionTake_back_mends").trigger();
+  EXPECT_EQ(writable().ttArray[0].ttMisurati[4], 0.02);
 }
 
 TEST_F(Mending, refusesPicksWhereThereIsNoPlaceForThem) {

@@ -39,6 +39,7 @@ class MendedProject : public ProjectTest {
     first.traces[3].killed = true;
     first.traces[4].reversed = true;
     first.traces[5].mutedBefore = 0.0105;
+    first.traces[2].gain = 0.75;
     ASSERT_TRUE(setMends(0, first, project.document).ok());
     ShotMends second;
     second.disabled = true;

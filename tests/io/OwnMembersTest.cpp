@@ -122,6 +122,35 @@ TEST_F(OwnMember, keepsTheErrorsOfPicks) {
   EXPECT_EQ(other.document.ttArray[2].errorOf(5), 1.0 / 3000.0);
 }
 
+TEST_F(OwnMember, keepsByWhatFilteredCopiesWereMade) {
+  Recordings& recordings = project.document.recordings.edit();
+  for (Trace& trace : recordings.traceSets[1]) trace.filtered = trace.samples;
+  const std::vector<FilterStep> steps = {{FilterKind::kAgc, {}},
+                                         {FilterKind::kVelocity, {350.5, 0.0, -1.0, 0.0, 20.0}}};
+  recordings.noteOf(1).filters = steps;
+  ASSERT_EQ(save(), 0);
+  ASSERT_EQ(load(archive(), back), 0) << reader.message();
+  EXPECT_THAT(reader.repairs(), IsEmpty());
+  const std::vector<FilterStep> read = filtersOf(*back.document.recordings, 1);
+  ASSERT_EQ(read.size(), 2U);
+  EXPECT_EQ(read[0].kind, FilterKind::kAgc);
+  EXPECT_EQ(read[1].kind, FilterKind::kVelocity);
+  EXPECT_EQ(read[1].numbers, steps[1].numbers);
+  EXPECT_TRUE(filtersOf(*back.document.recordings, 0).empty());
+  EXPECT_EQ(savedAgain(back), entriesOf(archive()));
+  const std::string sound = entriesOf(archive()).at("filters.xml");
+  for (const auto& [before, after] :
+       std::vector<std::pair<std::string, std::string>>{{"<set>1<", "<set>77<"},
+                                                        {"<kind>4<", "<kind>9<"},
+                                                        {"<kind>4<", "<kind>3<"},
+                                                        {"<kind>0<", "<kind>-1<"}}) {
+    LoadedProject other;
+    ASSERT_EQ(load(withMember("filters.xml", with(sound, before, after)), other), 0) << after;
+    EXPECT_THAT(reader.repairs(), ElementsAre(HasSubstr("filters.xml"))) << after;
+    EXPECT_TRUE(filtersOf(*other.document.recordings, 1).empty()) << after;
+  }
+}
+
 TEST_F(OwnMember, keepsHowSureTheSectionIs) {
   invert(project.document);
   const std::size_t cells = project.document.model->grid->cellCount();

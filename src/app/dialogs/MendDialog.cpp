@@ -20,7 +20,7 @@ namespace {
 constexpr double kMilliseconds = 1e3;
 constexpr double kMostOfScreen = 0.92;
 
-enum Column { kKilled, kReversed, kMutedBefore };
+enum Column { kKilled, kReversed, kMutedBefore, kGain };
 
 QTableWidgetItem* checkItem() {
   auto* item = new QTableWidgetItem();
@@ -69,6 +69,26 @@ class MuteDelegate : public QStyledItemDelegate {
 
  private:
   TimesOfRecord mTimes;
+};
+
+/// Gains by which samples are multiplied; one of 1 is left blank.
+class GainDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                        const QModelIndex& /*index*/) const override {
+    auto* field = new QDoubleSpinBox(parent);
+    field->setDecimals(4);
+    field->setRange(TraceMend::kLeastGain, TraceMend::kMostGain);
+    field->setSingleStep(0.5);
+    field->setFrame(false);
+    return field;
+  }
+  QString displayText(const QVariant& value, const QLocale& locale) const override {
+    const double gain = value.toDouble();
+    return gain == 1.0 ? QString() : locale.toString(gain, 'g', 4);
+  }
 };
 
 TimesOfRecord timesOf(const TraceSet& traces) {
@@ -129,11 +149,13 @@ void MendDialog::fillTraces() {
   const TimesOfRecord times = timesOf(traces);
   QTableWidget& table = *mUi->tracesTable;
   table.setItemDelegateForColumn(kMutedBefore, new MuteDelegate(times, &table));
+  table.setItemDelegateForColumn(kGain, new GainDelegate(&table));
   table.setRowCount(static_cast<int>(traces.size()));
   for (int row = 0; row < table.rowCount(); ++row) {
     table.setItem(row, kKilled, checkItem());
     table.setItem(row, kReversed, checkItem());
     table.setItem(row, kMutedBefore, new QTableWidgetItem());
+    table.setItem(row, kGain, new QTableWidgetItem());
     showRow(row, mendOf(mends, static_cast<std::size_t>(row)));
   }
   QHeaderView& columns = *table.horizontalHeader();
@@ -148,6 +170,7 @@ void MendDialog::showRow(int row, const TraceMend& mend) {
   check(kKilled, mend.killed);
   check(kReversed, mend.reversed);
   mUi->tracesTable->item(row, kMutedBefore)->setData(Qt::EditRole, mend.mutedBefore);
+  mUi->tracesTable->item(row, kGain)->setData(Qt::EditRole, mend.gain);
 }
 
 TraceMend MendDialog::rowMend(int row) const {
@@ -156,6 +179,7 @@ TraceMend MendDialog::rowMend(int row) const {
   mend.killed = table.item(row, kKilled)->checkState() == Qt::Checked;
   mend.reversed = table.item(row, kReversed)->checkState() == Qt::Checked;
   mend.mutedBefore = table.item(row, kMutedBefore)->data(Qt::EditRole).toDouble();
+  mend.gain = table.item(row, kGain)->data(Qt::EditRole).toDouble();
   return mend;
 }
 

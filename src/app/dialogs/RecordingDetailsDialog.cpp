@@ -161,6 +161,11 @@ void RecordingDetailsDialog::showSet(int index) {
       traces, [](const Trace& t) { return static_cast<double>(t.droppedSamples); }, QString()));
   const QStringList mends = linesOf(describeMends(mDocument, set));
   mUi->mendsValue->setText(mends.isEmpty() ? tr("None") : mends.join(QLatin1Char('\n')));
+  QStringList filters;
+  for (const FilterStep& step : filtersOf(*mDocument.recordings, set)) {
+    filters << textOf(describe(step));
+  }
+  mUi->filtersValue->setText(filters.isEmpty() ? tr("None") : filters.join(QLatin1Char('\n')));
   mUi->warningsText->setPlainText(info.warnings.isEmpty() ? tr("None")
                                                           : info.warnings.join(QLatin1Char('\n')));
   fillTable(index);

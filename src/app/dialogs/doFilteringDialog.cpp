@@ -166,6 +166,14 @@ void doFilteringDialog::copyBack(const TraceSet& traces, std::int32_t shot) {
   }
 }
 
+/// Without a corner the handler copies what there was before.
+void doFilteringDialog::noteStep(const BandFilter& wanted) {
+  if (!wanted.low && !wanted.high) return;
+  std::vector<std::int32_t> shots = mOthers;
+  shots.push_back(mShot);
+  noteFilter(mDocument, shots, stepOf(wanted), mUi->applyToFiltered->isChecked());
+}
+
 FilterOutcome doFilteringDialog::filterOthers(const BandFilter& wanted) {
   FilterOutcome sum;
   for (const std::int32_t shot : mOthers) {
@@ -190,6 +198,7 @@ void doFilteringDialog::on_button_apply_filter_clicked() {
   });
   if (outcome.filtered > 0) {
     mChangedDocument = true;
+    noteStep(wanted);
   }
   showFiltered();
   if (outcome.failed > 0) {

@@ -50,6 +50,7 @@ class doFilteringDialog : public QDialog {
   void showCorners();
   BandFilter filter() const;
   bool mayFilter(const BandFilter& wanted);
+  void noteStep(const BandFilter& wanted);  ///< in what the project remembers of the copies
   FilterOutcome filterOthers(const BandFilter& wanted);
   void copyBack(const TraceSet& traces, std::int32_t shot);
   void showFiltered();

@@ -1,5 +1,6 @@
 #include "app/presenters/Desk.h"
 
+#include "app/MessageText.h"
 #include "app/Outcomes.h"
 #include "io/Survey.h"
 #include "model/Recordings.h"
@@ -61,6 +62,11 @@ bool Desk::tellUnlessDone(const Status& status) {
 
 void Desk::tell(const QString& text) {
   ui.statusBar->showMessage(text, kMessageTime);
+}
+
+void Desk::tellNotes(const std::vector<Message>& notes) {
+  for (const Message& note : notes) log.write(note, 0);
+  if (!notes.empty()) tell(linesOf(notes).join(QStringLiteral("; ")));
 }
 
 void Desk::tellFailure(const QString& text, const Status& status) {

@@ -17,6 +17,7 @@
 #include <QString>
 #include <array>
 #include <functional>
+#include <vector>
 
 class QLabel;
 
@@ -62,7 +63,8 @@ struct Desk {
   /// Edits the survey. False, after telling why, when it is as it was.
   bool edit(Edit kind, const std::function<void(Survey&)>& change, Message text = {});
   bool tellUnlessDone(const Status& status);
-  void tell(const QString& text);  ///< an outcome, in the status bar
+  void tell(const QString& text);                     ///< an outcome, in the status bar
+  void tellNotes(const std::vector<Message>& notes);  ///< of an edit, there and in the log
   /// Tells a failure by a box and the log. \param text what the user wanted and did not get
   void tellFailure(const QString& text, const Status& status);
   void logSlot(const char* name);

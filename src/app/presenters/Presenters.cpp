@@ -6,6 +6,7 @@ Presenters::Presenters(Desk& desk)
     : layered(desk.session),
       settings(desk),
       traces(desk),
+      traceMends(desk),
       checks(desk),
       reciprocity(desk),
       traceOptions(desk),

@@ -34,6 +34,7 @@
 #include "app/presenters/ShotFilesPresenter.h"
 #include "app/presenters/StylePresenter.h"
 #include "app/presenters/SurveyPresenter.h"
+#include "app/presenters/TraceMendsPresenter.h"
 #include "app/presenters/TraceOptionsPresenter.h"
 #include "app/presenters/TracesPresenter.h"
 #include "app/presenters/TravelTimesPresenter.h"
@@ -51,6 +52,7 @@ struct Presenters {
   // They hear of a change in this order.
   SettingsPresenter settings;
   TracesPresenter traces;
+  TraceMendsPresenter traceMends;
   CheckPresenter checks;
   ReciprocityPresenter reciprocity;
   TraceOptionsPresenter traceOptions;

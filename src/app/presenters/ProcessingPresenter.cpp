@@ -3,6 +3,8 @@
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
+#include "app/dialogs/NotchDialog.h"
+#include "app/dialogs/VelocityFilterDialog.h"
 #include "app/dialogs/doFilteringDialog.h"
 #include "io/Survey.h"
 #include "model/Mending.h"
@@ -227,6 +229,42 @@ void ProcessingPresenter::hushel() {
   makeFilteredCopies(
       Message::tr("Hushel"), tr("Applying Hushel ..."),
       [](TomoDocument& work, std::int32_t shot) { return reduceNoise(work, {shot}); });
+}
+
+/// Whether the dialogs of filters have something to begin with: records may be of picks only.
+bool ProcessingPresenter::hasTraces(int shot) const {
+  return shot >= 0 &&
+         static_cast<std::size_t>(shot) < mDesk.document().recordings->traceSets.size();
+}
+
+void ProcessingPresenter::notch() {
+  const int shot = mDesk.shot.index();
+  const std::vector<std::int32_t> shots = shotsToProcess();
+  if (shots.empty() || !hasTraces(shot)) return;
+  NotchDialog dialog(mDesk.document(), shot, shots.size(), &mDesk.window);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const NotchFilter filter = dialog.filter();
+  const bool ofFiltered = dialog.ofFiltered();
+  makeFilteredCopies(Message::tr("Notch"), tr("Applying notches ..."),
+                     [=](TomoDocument& work, std::int32_t each) {
+                       return notchShots(work, {each}, filter, ofFiltered);
+                     });
+}
+
+void ProcessingPresenter::velocityFilter() {
+  const int shot = mDesk.shot.index();
+  const std::vector<std::int32_t> shots = shotsToProcess();
+  if (shots.empty() || !hasTraces(shot)) return;
+  VelocityFilterDialog dialog(mDesk.document(), shot, shots.size(), &mDesk.window);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const VelocityFilter filter = dialog.filter();
+  const bool ofFiltered = dialog.ofFiltered();
+  std::vector<Message> notes;
+  makeFilteredCopies(Message::tr("Velocity filter"), tr("Applying the velocity filter ..."),
+                     [&](TomoDocument& work, std::int32_t each) {
+                       return velocityFilterShots(work, {each}, filter, ofFiltered, notes);
+                     });
+  mDesk.tellNotes(notes);
 }
 
 void ProcessingPresenter::filter() {

@@ -26,13 +26,16 @@ class ProcessingPresenter : public QObject {
   void autoPickAlongLine();
   /// By the joint picker through the picks that a person made, of the shot in view only.
   void fillAlong();
-  void filter();  ///< by its dialog
+  void filter();          ///< by its dialog
+  void notch();           ///< likewise
+  void velocityFilter();  ///< likewise
   void agc();
   void hushel();
 
  private:
   void fillAlong(const GuideLine& guide);
   std::vector<std::int32_t> shotsToProcess() const;
+  bool hasTraces(int shot) const;
   void forEachShot(const std::vector<std::int32_t>& shots, const QString& text,
                    const std::function<void(std::int32_t)>& work);
   void makeFilteredCopies(Message step, const QString& text,

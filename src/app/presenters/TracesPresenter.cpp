@@ -116,8 +116,7 @@ void TracesPresenter::mend(
   const Status done = mDesk.session.apply(
       Edit::kMend, [&](Survey& survey) { return change(survey.document, notes); });
   if (!done.ok()) return mDesk.tellFailure(failure, done);
-  for (const Message& note : notes) mDesk.log.write(note, 0);
-  if (!notes.empty()) mDesk.tell(linesOf(notes).join(QStringLiteral("; ")));
+  mDesk.tellNotes(notes);
 }
 
 void TracesPresenter::retranslate() {

@@ -201,6 +201,22 @@ void addShots(ReportBuilder& builder) {
                 table);
 }
 
+void addFilters(ReportBuilder& builder) {
+  const Recordings& recordings = *builder.source.document.recordings;
+  ReportTable table{{{ReportWords::tr("Shot"), true}, {ReportWords::tr("Filter"), false}}, {}};
+  for (std::size_t set = 0; set < recordings.traceSets.size(); ++set) {
+    for (const FilterStep& step : filtersOf(recordings, set)) {
+      table.rows.push_back({QString::number(set + 1), FigureWords::message(describe(step))});
+    }
+  }
+  if (table.rows.empty()) return;
+  builder.subheading(ReportWords::tr("Filters"));
+  builder.paragraph(ReportWords::tr(
+      "These shots have filtered copies beside their recordings, made as listed, one "
+      "filter after the other."));
+  builder.table(ReportWords::tr("Filters of the recordings"), table);
+}
+
 void addMends(ReportBuilder& builder) {
   const TomoDocument& document = builder.source.document;
   ReportTable table{{{ReportWords::tr("Shot"), true}, {ReportWords::tr("Mend"), false}}, {}};
@@ -247,6 +263,7 @@ void addSurvey(ReportBuilder& builder) {
   addStrings(builder);
   addShots(builder);
   addMends(builder);
+  addFilters(builder);
 }
 
 void addPosition(ReportBuilder& builder) {

@@ -4,6 +4,7 @@
 #include "io/MemberFile.h"
 #include "io/project/ProjectAnnotations.h"
 #include "io/project/ProjectCertainty.h"
+#include "io/project/ProjectFilters.h"
 #include "io/project/ProjectFirstLayer.h"
 #include "io/project/ProjectKnownGround.h"
 #include "io/project/ProjectMembers.h"
@@ -195,6 +196,21 @@ const std::vector<OwnMember>& ownMembers() {
        Message::tr("what was mended in its recordings is not known; traces and picks stay as they "
                    "are"),
        hasMends, hasMends, writeMends, readMends},
+      {"filters.xml", 1, "Filters",
+       Message::tr("it is not known by what the filtered copies of its traces were made"),
+       [](const TomoDocument& document, const Interpretation&) {
+         return !document.recordings->traceSets.empty();
+       },
+       [](const TomoDocument& document, const Interpretation&) {
+         return filterStepsOf(document).has_value();
+       },
+       writes([](const TomoDocument& document, const Interpretation&) {
+         return filterStepsOf(document);
+       }),
+       reads([](const TomoDocument&) { return FiltersMember(); },
+             [](FiltersMember member, TomoDocument& document, Interpretation&) {
+               return installFilterSteps(std::move(member), document);
+             })},
       // Behind the mends, for it tells of the picks that they keep.
       {"errors.xml", 1, "Pick errors", Message::tr("no error of a pick is known"),
        [](const TomoDocument& document, const Interpretation&) { return hasPicks(document); },

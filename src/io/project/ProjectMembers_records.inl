@@ -8,6 +8,7 @@
 #include "io/project/MendsMember.h"
 #include "io/project/ProjectAnnotations.h"
 #include "io/project/ProjectCertainty.h"
+#include "io/project/ProjectFilters.h"
 #include "io/project/ProjectFirstLayer.h"
 #include "io/project/ProjectKnownGround.h"
 #include "io/project/ProjectMembers.h"
@@ -250,10 +251,28 @@ void describe(V& fields, ReadersMember& member) {
 }
 
 template <class V>
+void describe(V& fields, FilterStep& step) {
+  fields("kind", step.kind);
+  fields("numbers", step.numbers);
+}
+
+template <class V>
+void describe(V& fields, StoredFilters& stored) {
+  fields("set", stored.set);
+  fields("steps", stored.steps);
+}
+
+template <class V>
+void describe(V& fields, FiltersMember& member) {
+  fields("sets", member.sets);
+}
+
+template <class V>
 void describe(V& fields, TraceMend& mend) {
   fields("killed", mend.killed);
   fields("reversed", mend.reversed);
   fields("muted_before", mend.mutedBefore);
+  fields.optional("gain", mend.gain);
 }
 
 template <class V>

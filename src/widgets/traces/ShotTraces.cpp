@@ -1,5 +1,6 @@
 #include "widgets/traces/ShotTraces.h"
 
+#include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
@@ -99,11 +100,14 @@ void ShotTraces::measure() {
   const std::size_t n = set != nullptr ? set->size() : times()->ttMisurati.size();
   mMean.assign(n, 0.0);
   mPeak.assign(n, 0.0);
+  mGain.assign(n, 1.0);
+  const ShotMends& mends = mendsOfRecord(*mDocument, mRecord);
   double end = 0.0;
   double latest = 0.0;
   for (int i = 0; i < count(); ++i) {
     mMean[index(i)] = meanOf(samples(i));
     mPeak[index(i)] = peakOf(samples(i), mMean[index(i)]);
+    mGain[index(i)] = mendOf(mends, index(i)).gain;
     mShotPeak = std::max(mShotPeak, mPeak[index(i)]);
     end = std::max(end, recordEnd(i));
     for (const double t : {measured(i), computed(i)}) {

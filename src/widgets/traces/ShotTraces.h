@@ -32,7 +32,10 @@ class ShotTraces {
   double recordEnd(int trace) const;      ///< time of the last sample, seconds
   double mean(int trace) const { return mMean[index(trace)]; }
   double peak(int trace) const { return mPeak[index(trace)]; }  ///< largest |sample - mean|
-  double shotPeak() const { return mShotPeak; }                 ///< largest of all traces
+  /// That a mend gave the trace, 1 without. Its samples have it already; one that is scaled by its
+  /// own peak is drawn so many times as large.
+  double gain(int trace) const { return mGain[index(trace)]; }
+  double shotPeak() const { return mShotPeak; }  ///< largest of all traces
   /// End of the time axis, seconds, above 0: of the longest trace, or of the latest time.
   double timeEnd() const { return mTimeEnd; }
 
@@ -57,6 +60,7 @@ class ShotTraces {
   bool mShowFiltered = false;
   std::vector<double> mMean;
   std::vector<double> mPeak;
+  std::vector<double> mGain;
   double mShotPeak = 0.0;
   double mTimeEnd = 0.1;
 };

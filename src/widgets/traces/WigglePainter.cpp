@@ -123,8 +123,9 @@ class Painter {
     rowExtremes(traces.samples(trace), mMapping.window.top / interval, perRow, mImage.height(),
                 mRows);
     const double mean = traces.mean(trace);
-    double peak = mScene.options.normalise == TraceNormalise::EachTrace ? traces.peak(trace)
-                                                                        : traces.shotPeak();
+    double peak = mScene.options.normalise == TraceNormalise::EachTrace
+                      ? traces.peak(trace) / traces.gain(trace)
+                      : traces.shotPeak();
     if (!(peak > 0.0)) peak = 1.0;
     const double reach =
         kFullScale * mScene.options.gain * (device(mScene.layout.spacing()) - device(0.0));

@@ -144,18 +144,6 @@ void editTravelTimesWidget::goToTrace(int trace) {
   mState->goTo(trace);
 }
 
-int editTravelTimesWidget::selectedFirst() const {
-  return mState->selectedFirst;
-}
-
-int editTravelTimesWidget::selectedLast() const {
-  return mState->selectedLast;
-}
-
-void editTravelTimesWidget::selectTraces(int first, int last) {
-  mState->select(first, last);
-}
-
 const ViewWindow& editTravelTimesWidget::window() const {
   return mState->window();
 }

@@ -13,14 +13,16 @@
 
 namespace talvesk {
 
+class Message;
 class Session;
 class Status;
 class TomoDocument;
 struct ViewWindow;
 
 /// What the left mouse button does. Whatever the tool, Ctrl + left drag zooms to a rectangle,
-/// Shift + left drag selects traces, Ctrl + Shift + left drag pulls the error bar of a pick, and
-/// the right button removes picks.
+/// Shift + left drag selects traces, as any drag over the numbers above them, where Shift goes on
+/// from the trace selected first and Ctrl adds and takes away; Ctrl + Shift + left drag pulls the
+/// error bar of a pick, and the right button removes picks.
 enum class TraceTool {
   Pick,    ///< click sets, drag moves, drag across traces draws a run
   Zoom,    ///< drag a rectangle; a click zooms in
@@ -44,9 +46,11 @@ inline constexpr std::array<double, 5> kKeyErrors = {0.0, 0.5, 1.0, 2.5, 5.0};
 /// Right walk along the traces (Shift selects), Home and End go to the first and the last; Up and
 /// Down move the pick by a sample (Shift 10 samples, Ctrl 1 ms); Return sets a pick like that of
 /// the neighbour; Delete removes, C confirms; 1 to 4 give the errors of kKeyErrors and 0
-/// takes them away; [ and ] change the gain, as the wheel does with Alt;
-/// M magnifier, R ruler, G guide line, Escape gives up. H shows the opening view. A double click
-/// with the tool Pick picks twice, and shows not everything.
+/// takes them away; K kills the selected traces, P turns their polarity, U mutes them before the
+/// cursor and Shift+U no more, { and } change their own gain, all as mends of the recording; [ and
+/// ] change the gain of the view, as the wheel does with Alt; M magnifier, R ruler, G guide line,
+/// Escape gives up. H shows the opening view. A double click with the tool Pick picks twice, and
+/// shows not everything.
 class editTravelTimesWidget : public QWidget {
   Q_OBJECT
 
@@ -86,9 +90,11 @@ class editTravelTimesWidget : public QWidget {
   void setCurrentTrace(int trace);
   /// Makes a trace the current one, alone, and moves the view so that it and its pick are in sight.
   void goToTrace(int trace);
-  int selectedFirst() const;  ///< channels selected, from 0; -1 none
+  int selectedFirst() const;  ///< lowest and highest trace selected, from 0; -1 none
   int selectedLast() const;
-  void selectTraces(int first, int last);  ///< -1, -1 clears
+  const std::vector<int>& selectedTraces() const;  ///< from 0, ascending
+  /// Those from one to the other as they stand side by side. -1, -1 clears
+  void selectTraces(int first, int last);
 
   /// The part of the shot that is seen: channels from 0 or metres, and seconds.
   const ViewWindow& window() const;
@@ -127,10 +133,23 @@ class editTravelTimesWidget : public QWidget {
   void removePicks();             ///< of whatever origin
   void removeUnconfirmedPicks();  ///< automatic ones that nobody confirmed
 
+  // Mends of the same traces, each a step of its own; what becomes of picks is told by mended().
+  void killTraces();  ///< or, where all are killed, no more
+  void reversePolarity();
+  void muteTraces(double seconds);  ///< before a time; 0: no more
+  void amplifyTraces();             ///< to the next gain, see nextGain()
+  void attenuateTraces();
+
  signals:
   void editRefused(const talvesk::Status& reason);  ///< the picks are as they were
   /// A trace has no place for the pick that it was given; those of others are set.
   void pickLeftOut(const talvesk::Status& why);
+  /// Mends were made. \param notes what the user should know, for example of picks set aside
+  void mended(const std::vector<talvesk::Message>& notes);
+  /// U was pressed where the cursor tells no time to mute before.
+  void muteTimeWanted();
+  /// A menu of what can be done with the selected traces. \param at on the screen
+  void menuWanted(const QPoint& at);
   void pick_added();            ///< a trace without a pick got one; pick_edited() follows
   void pick_edited();           ///< picks changed, undo and redo included
   void mouse_moved(int trace);  ///< trace under the cursor, from 0; -1 none
@@ -149,6 +168,7 @@ class editTravelTimesWidget : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;

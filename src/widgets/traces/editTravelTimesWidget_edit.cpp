@@ -89,17 +89,10 @@ void editTravelTimesWidget::State::picksChanged(const SurveyChange& change) {
   emit widget.shotEdited(shots.front());
 }
 
-std::pair<int, int> editTravelTimesWidget::State::range() const {
-  if (selectedFirst >= 0) return {selectedFirst, selectedLast};
-  if (current >= 0) return {current, current};
-  return {0, -1};
-}
-
 void editTravelTimesWidget::State::removeRange(bool unconfirmedOnly) {
   if (!canEdit()) return;
   std::map<int, double> times;
-  const auto [first, last] = range();
-  for (int trace = first; trace <= last; ++trace) {
+  for (const int trace : range()) {
     if (!unconfirmedOnly || waits(trace)) times[trace] = kNoTime;
   }
   edit(times.size() > 1 ? Message::tr("Remove picks") : Message::tr("Remove pick"), times);
@@ -108,8 +101,7 @@ void editTravelTimesWidget::State::removeRange(bool unconfirmedOnly) {
 void editTravelTimesWidget::State::confirmRange() {
   if (!canEdit()) return;
   std::vector<PickChange> changes;
-  const auto [first, last] = range();
-  for (int trace = first; trace <= last; ++trace) {
+  for (const int trace : range()) {
     if (!traces.canPick(trace) || !waits(trace)) continue;
     changes.push_back({trace, traces.measured(trace), false});
   }
@@ -119,8 +111,7 @@ void editTravelTimesWidget::State::confirmRange() {
 bool editTravelTimesWidget::hasPicksInRange(bool unconfirmedOnly) const {
   const State& state = *mState;
   if (!state.canEdit()) return false;
-  const auto [first, last] = state.range();
-  for (int trace = first; trace <= last; ++trace) {
+  for (const int trace : state.range()) {
     if (!state.traces.canPick(trace) || !hasPick(state.traces.measured(trace))) continue;
     if (!unconfirmedOnly || state.waits(trace)) return true;
   }
@@ -172,16 +163,6 @@ void editTravelTimesWidget::State::goTo(int trace) {
   setCurrent(trace);
   reveal(trace);
   tellCurrent();
-}
-
-void editTravelTimesWidget::State::select(int first, int last) {
-  if (first > last) std::swap(first, last);
-  if (first < 0 || last >= layout.count()) first = last = -1;
-  if (first == selectedFirst && last == selectedLast) return;
-  selectedFirst = first;
-  selectedLast = last;
-  redrawMarks();
-  emit widget.selectionChanged();
 }
 
 void editTravelTimesWidget::State::describe() {

@@ -23,8 +23,7 @@ void editTravelTimesWidget::State::setErrors(double sigma) {
   changed.pickError = sigma;
   widget.setOptions(changed);
   std::vector<std::pair<int, double>> errors;
-  const auto [first, last] = range();
-  for (int trace = first; trace <= last; ++trace) errors.emplace_back(trace, options.pickError);
+  for (const int trace : range()) errors.emplace_back(trace, options.pickError);
   pushErrors(errors);
   emit widget.optionsChanged();
 }

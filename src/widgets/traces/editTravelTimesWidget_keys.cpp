@@ -16,9 +16,8 @@ void editTravelTimesWidget::State::walk(int steps, bool selecting) {
   const int to = layout.stepped(current, steps);
   if (to < 0) return;
   if (selecting) {
-    // The end that stays is the one that the current trace is not.
-    const bool started = selectedFirst >= 0 && (from == selectedFirst || from == selectedLast);
-    const int anchor = !started ? from : from == selectedLast ? selectedFirst : selectedLast;
+    const bool started = selection.anchor() >= 0 && selection.has(from);
+    const int anchor = started ? selection.anchor() : from;
     select(anchor < 0 ? to : anchor, to);
     setCurrent(to);
     reveal(to);
@@ -102,8 +101,8 @@ bool editTravelTimesWidget::State::escape() {
   if (ruler) {
     ruler.reset();
     widget.update();
-  } else if (selectedFirst >= 0) {
-    select(-1, -1);
+  } else if (!selection.empty()) {
+    select({});
   } else if (tool != TraceTool::Pick) {
     widget.setTool(TraceTool::Pick);
   } else {
@@ -118,6 +117,7 @@ bool editTravelTimesWidget::State::keyPressed(const QKeyEvent& event) {
       !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
   const bool nudging = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
   if ((plain || nudging) && pickKey(event)) return true;
+  if (plain && mendKey(event)) return true;
   return plain && (walkKey(event) || lookKey(event));
 }
 

@@ -24,7 +24,7 @@ int editTravelTimesWidget::State::traceAt(const QPointF& point) const {
 PlotTool* editTravelTimesWidget::State::toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys,
                                                 const QPointF& point) {
   const bool within = plot.contains(point);
-  const bool above = point.y() < plot.top() && point.x() >= plot.left();
+  const bool above = isAbove(point);
   if (button == Qt::RightButton && within) return removeTool.get();
   if (button != Qt::LeftButton || (!within && !above)) return nullptr;
   if (within && (keys & Qt::ControlModifier)) return errorTool.get();
@@ -44,6 +44,14 @@ PlotTool* editTravelTimesWidget::State::toolFor(Qt::MouseButton button, Qt::Keyb
       return guideTool.get();
   }
   return nullptr;
+}
+
+PlotTool* editTravelTimesWidget::State::toolBeside(const QPointF& point) {
+  return isAbove(point) ? selectTool.get() : nullptr;
+}
+
+bool editTravelTimesWidget::State::isAbove(const QPointF& point) const {
+  return point.y() < plot.top() && point.x() >= plot.left();
 }
 
 TraceCursor editTravelTimesWidget::State::cursorFor(int trace, std::optional<double> time) const {

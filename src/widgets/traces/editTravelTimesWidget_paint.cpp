@@ -1,3 +1,4 @@
+#include "base/IndexRanges.h"
 #include "figures/FigureWords.h"
 #include "model/Mending.h"
 #include "model/TomoDocument.h"
@@ -60,21 +61,8 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
   painter.drawImage(plot.topLeft(), wiggles);
   const TraceMapping map = mapping();
   painter.save();
+  paintSelection(painter);
   painter.setClipRect(plot);
-  const auto band = [&](double from, double to, const QColor& color) {
-    painter.fillRect(QRectF(QPointF(map.x(from), plot.top()), QPointF(map.x(to), plot.bottom())),
-                     color);
-  };
-  if (selectedFirst >= 0) {
-    for (int trace = selectedFirst; trace <= selectedLast; ++trace) {
-      const double x = layout.position(trace);
-      band(x - 0.5 * layout.leftRoom(trace), x + 0.5 * layout.rightRoom(trace), colors.selection);
-    }
-  }
-  if (current >= 0 && !options.showOnlyTraces) {
-    const double x = layout.position(current);
-    band(x - 0.5 * layout.leftRoom(current), x + 0.5 * layout.rightRoom(current), colors.current);
-  }
   if (!options.showOnlyTraces && document != nullptr) {
     paintGuides(painter, scene(), map, *document);
     if (options.errorBars) paintErrorBars(painter, scene(), map, stroke.times(), pulled);
@@ -101,11 +89,15 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
 void editTravelTimesWidget::State::paintLive(QPainter& painter) {
   const TraceMapping map = mapping();
   if (ruler) paintRuler(painter, scene(), map, ruler->first, ruler->second);
-  if (selectedFirst >= 0 && !options.showOnlyTraces) {
-    paintTag(painter, colors, plot.bottomLeft() + QPointF(8.0, -30.0),
-             editTravelTimesWidget::tr("Traces %1 to %2: C confirms, Del removes, Esc leaves")
-                 .arg(selectedFirst + 1)
-                 .arg(selectedLast + 1),
+  if (!selection.empty() && !options.showOnlyTraces) {
+    const std::vector<std::size_t> traceNumbers(selection.traces().begin(),
+                                                selection.traces().end());
+    // What is mended stands below it.
+    const bool mended = document != nullptr && mendsOfRecord(*document, shot).any();
+    paintTag(painter, colors, plot.bottomLeft() + QPointF(8.0, mended ? -58.0 : -30.0),
+             editTravelTimesWidget::tr("Traces %1: C confirms, Del removes, K kills, P reverses, "
+                                       "U mutes, Esc leaves")
+                 .arg(QString::fromStdString(ranges(traceNumbers))),
              plot);
   }
   gestures.paintTool(painter);

@@ -9,23 +9,28 @@
 #include "widgets/traces/TraceColors.h"
 #include "widgets/traces/TraceLayout.h"
 #include "widgets/traces/TraceMapping.h"
+#include "widgets/traces/TraceSelection.h"
 #include "widgets/traces/WigglePainter.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QImage>
 #include <QUndoStack>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
 class QScrollBar;
 
 namespace talvesk {
 
+struct TraceMend;
+
 /// What the trace view remembers between events. Its functions stand in the file of their purpose:
-/// _view.cpp, _edit.cpp, _errors.cpp, _mouse.cpp, _keys.cpp, _paint.cpp, and the tools of the mouse
-/// in _tools.cpp.
+/// _view.cpp, _edit.cpp, _selection.cpp, _mends.cpp, _errors.cpp, _mouse.cpp, _keys.cpp,
+/// _paint.cpp, and the tools of the mouse in _tools.cpp.
 struct editTravelTimesWidget::State : PlotSurface {
   using Step = Viewport::Step;
   class PickTool;
@@ -61,15 +66,23 @@ struct editTravelTimesWidget::State : PlotSurface {
   void surveyChanged(const SurveyChange& change);
   void picksChanged(const SurveyChange& change);
   void show(const TomoDocument* shown);
-  std::pair<int, int> range() const;  ///< selected traces or the current one; first > last: none
+  std::vector<int> range() const;  ///< selected traces or the current one, ascending
   void removeRange(bool unconfirmedOnly);
   void confirmRange();
   void nudge(double seconds, bool keyHeld);
   void pickLikeNeighbour();
   void setCurrent(int trace);
-  void goTo(int trace);  ///< without a selection, in sight, and told
-  void select(int first, int last);
+  void goTo(int trace);              ///< without a selection, in sight, and told
+  void select(int first, int last);  ///< all that stand between the two
+  void select(TraceSelection chosen);
+  std::unique_ptr<PlotTool> makeSelectTool();
+  std::vector<int> between(int first, int last) const;
+  void paintSelection(QPainter& painter) const;
   void describe();  ///< tells assistive technology what is current
+
+  // --- Mends of traces.
+  void mend(Message text, const std::function<void(TraceMend&)>& change);
+  bool mendKey(const QKeyEvent& event);
 
   // --- Errors of picks.
   void setErrors(double sigma);  ///< of the range; seconds, 0: not known
@@ -85,6 +98,8 @@ struct editTravelTimesWidget::State : PlotSurface {
   void repaintLive() override { widget.update(); }
   PlotTool* toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys,
                     const QPointF& point) override;
+  PlotTool* toolBeside(const QPointF& point) override;
+  bool isAbove(const QPointF& point) const;  ///< over the numbers of the traces
   bool keyPressed(const QKeyEvent& event) override;
   bool wheelTurned(double notches, Qt::KeyboardModifiers keys) override;
   void hovered(const std::optional<QPointF>& point) override;
@@ -128,8 +143,7 @@ struct editTravelTimesWidget::State : PlotSurface {
 
   int current = -1;
   int nudges = 0;  ///< keys that moved a pick so far
-  int selectedFirst = -1;
-  int selectedLast = -1;
+  TraceSelection selection;
 
   std::unique_ptr<PlotTool> pickTool;
   std::unique_ptr<PlotTool> removeTool;

@@ -125,33 +125,6 @@ class editTravelTimesWidget::State::RulerTool : public PlotTool {
   QPointF mFrom;
 };
 
-/// Selects the traces between press and mouse.
-class editTravelTimesWidget::State::SelectTool : public PlotTool {
- public:
-  explicit SelectTool(State& state) : mState(state) {}
-
-  bool press(const ToolEvent& event) override {
-    mBefore = {mState.selectedFirst, mState.selectedLast};
-    mFrom = nearest(event.at);
-    mState.select(mFrom, mFrom);
-    return true;
-  }
-  void move(const ToolEvent& event) override {
-    mState.select(mFrom, nearest(clamped(event.at, mState.plot)));
-  }
-  void release(const ToolEvent&) override {}
-  void giveUp() override { mState.select(mBefore.first, mBefore.second); }
-
- private:
-  int nearest(const QPointF& point) const {
-    return mState.layout.nearest(mState.placeAt(point).x());
-  }
-
-  State& mState;
-  std::pair<int, int> mBefore;
-  int mFrom = -1;
-};
-
 /// Draws a line along the first breaks and hands it over to whoever picks.
 class editTravelTimesWidget::State::GuideTool : public PlotTool {
  public:
@@ -213,7 +186,7 @@ editTravelTimesWidget::State::State(editTravelTimesWidget& owner)
       zoomTool(std::make_unique<BandTool>(
           gestures, [this](const QPointF& at) { gestures.zoomAbout(at, kClickZoom, kClickZoom); })),
       rulerTool(std::make_unique<RulerTool>(*this)),
-      selectTool(std::make_unique<SelectTool>(*this)),
+      selectTool(makeSelectTool()),
       errorTool(makeErrorTool()),
       guideTool(std::make_unique<GuideTool>(*this)) {}
 

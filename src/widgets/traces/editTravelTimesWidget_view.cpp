@@ -65,7 +65,7 @@ void editTravelTimesWidget::State::rebuildShot(bool newShot) {
   hoverTrace = -1;
   if (newShot) ruler.reset();
   if (current >= layout.count()) current = -1;
-  if (selectedLast >= layout.count()) selectedFirst = selectedLast = -1;
+  if (selection.last() >= layout.count()) selection = {};
   if (current < 0 && layout.count() > 0) current = layout.order().front();
   Viewport& viewport = gestures.viewport();
   const ViewWindow before = window();
