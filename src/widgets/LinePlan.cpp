@@ -21,6 +21,7 @@ namespace talvesk {
 namespace {
 
 constexpr double kReach = 14.0;       ///< pixels around a click
+constexpr double kPadding = 12.0;     ///< pixels around the line
 constexpr double kLeastHeight = 2.0;  ///< metres of elevation shown for a level line
 constexpr double kFarthest = 1e8;     ///< what lies beyond would squeeze all the rest, metres
 
@@ -73,6 +74,7 @@ QColor faded(const QColor& color, const QColor& background) {
 LinePlan::LinePlan(QWidget* parent)
     : PlotPage(parent),
       mChoose(std::make_unique<BandTool>(gestures(), [this](const QPointF& at) { click(at); })) {
+  setPadding(kPadding);
   auto* legend = new QwtLegend;
   legend->setFrameStyle(QFrame::NoFrame);
   plot().insertLegend(legend, QwtPlot::BottomLegend);
@@ -167,8 +169,8 @@ QRectF LinePlan::content() const {
   double width = std::max(high.x - low.x, 1.0);
   double height = std::max(high.z - low.z, kLeastHeight);
   if (mAxes == LinePlanAxes::kMap) {
-    const double shape = std::max(1.0, static_cast<double>(canvas()->width())) /
-                         std::max(1.0, static_cast<double>(canvas()->height()));
+    const double shape = std::max(1.0, canvas()->width() - 2.0 * kPadding) /
+                         std::max(1.0, canvas()->height() - 2.0 * kPadding);
     width = std::max(width, shape * height);
     height = std::max(height, width / shape);
   }
@@ -244,9 +246,17 @@ void LinePlan::setAxes(LinePlanAxes axes) {
   retranslate();
 }
 
-void LinePlan::resizeEvent(QResizeEvent* event) {
-  PlotPage::resizeEvent(event);
-  if (mAxes == LinePlanAxes::kMap) setWhole(content(), false);
+bool LinePlan::eventFilter(QObject* watched, QEvent* event) {
+  const bool filtered = PlotPage::eventFilter(watched, event);
+  // One scale both ways needs other ends on a canvas of another shape. As numbers at the axes
+  // change the canvas again, once round is enough.
+  const bool shaped = watched == canvas() && event->type() == QEvent::Resize;
+  if (shaped && mAxes == LinePlanAxes::kMap && !mFitting) {
+    mFitting = true;
+    setWhole(content(), false);
+    mFitting = false;
+  }
+  return filtered;
 }
 
 PlotTool* LinePlan::toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys, const QPointF&) {

@@ -55,7 +55,7 @@ class LinePlan : public PlotPage {
   void dress() override;
   void retranslate() override;
   bool event(QEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void draw();
@@ -71,6 +71,7 @@ class LinePlan : public PlotPage {
   std::optional<Target> targetAt(const QPointF& at) const;
 
   LinePlanAxes mAxes = LinePlanAxes::kElevation;
+  bool mFitting = false;
   LinePlanScene mScene;
   std::unique_ptr<PlotTool> mChoose;
 };
