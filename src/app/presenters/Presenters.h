@@ -29,6 +29,7 @@
 #include "app/presenters/SettingsPresenter.h"
 #include "app/presenters/ShotFilesPresenter.h"
 #include "app/presenters/SurveyPresenter.h"
+#include "app/presenters/SurveyedPositionsPresenter.h"
 #include "app/presenters/TraceOptionsPresenter.h"
 #include "app/presenters/TracesPresenter.h"
 #include "app/presenters/TravelTimesPresenter.h"
@@ -59,6 +60,7 @@ struct Presenters {
   TravelTimesPresenter travelTimes;
   SurveyPresenter survey;
   GeometryPresenter geometry;
+  SurveyedPositionsPresenter surveyed;
   ModelPresenter models;
   ResidualsPresenter residuals;
   SecondLookPresenter secondLook;
