@@ -87,6 +87,10 @@ class Matcher {
   }
 
   SurveyedMatch match(const std::vector<SurveyedRow>& rows, StationsBy by) && {
+    // Beside rows that are said to be geophones others are none: bench marks, corners of houses.
+    mSaysGeophones = std::any_of(rows.begin(), rows.end(), [](const SurveyedRow& row) {
+      return row.kind == SurveyedKind::kGeophone;
+    });
     for (std::size_t i = 0; i < rows.size(); ++i) take(i, rows[i], by);
     return std::move(mMatch);
   }
@@ -113,6 +117,8 @@ class Matcher {
     std::vector<std::size_t> stations;
     std::vector<std::size_t> shots;
     const bool shot = what.kind == SurveyedKind::kShot;
+    const bool other = what.kind == SurveyedKind::kStation && mSaysGeophones;
+    if (other && by != StationsBy::kDistance) return mMatch.unused.push_back(row);
     if (by == StationsBy::kNumber) {
       (shot ? shots : stations) = counted(what.number, shot ? mShots.size() : mStations.size());
     } else if (by == StationsBy::kOrder) {
@@ -144,6 +150,7 @@ class Matcher {
   Distances mStationX;
   Distances mShotX;
   double mReach = 0.0;
+  bool mSaysGeophones = false;
   std::size_t mNextStation = 0;
   std::size_t mNextShot = 0;
   SurveyedMatch mMatch;

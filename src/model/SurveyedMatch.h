@@ -32,7 +32,8 @@ struct SurveyedRow {
 
 /// What tells which geophone or shot a row belongs to.
 enum class StationsBy {
-  kNumber,   ///< geophones and shots from 1 on; rows of no kind are geophones
+  kNumber,   ///< geophones and shots from 1 on; rows of no kind are geophones, unless others are
+             ///< said to be
   kOrder,    ///< the first row of geophones is the first geophone; rows of no kind are geophones
   kDistance  ///< where geophones and shots stand along the line so far; rows of no kind are both
 };

@@ -119,6 +119,7 @@ Message namesOf(const std::vector<std::size_t>& named, const std::vector<Surveye
     lines += (i > 0 ? ", " : "") + std::to_string(row.line);
     if (!row.name.empty()) lines += " (" + quoted(row.name) + ")";
   }
+  if (named.size() == 1) return Message::tr("line %1").arg(Message(lines));
   if (named.size() <= kMostRowsNamed) return Message::tr("lines %1").arg(Message(lines));
   return Message::tr("lines %1 and %2 more").arg(Message(lines)).arg(named.size() - kMostRowsNamed);
 }

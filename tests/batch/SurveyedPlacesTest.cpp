@@ -38,7 +38,7 @@ TEST_F(SurveyedPlaces, becomeDistancesAndTheMapPositionOfALine) {
            "--length", "slope", "--positions-json", in("p.json"), "--project", in("a.tvsk")});
   ASSERT_EQ(outcome.code, 0) << outcome.err;
   EXPECT_THAT(outcome.out, HasSubstr("13 geophones, 0 shots; across the line 0 m RMS"));
-  EXPECT_THAT(outcome.err, HasSubstr("no geophone or shot of the survey is there: lines 15"));
+  EXPECT_THAT(outcome.err, HasSubstr("no geophone or shot of the survey is there: line 15"));
   EXPECT_THAT(outcome.err, HasSubstr("by the distances so far: shots 1-3"));
   const Json told = jsonOf("p.json");
   EXPECT_EQ(told["length"], "slope");

@@ -266,7 +266,7 @@ TEST(SurveyedPositions, findTheGeophonesThatRowsAreOf) {
   EXPECT_EQ(outcome.geometry.shots[0].place.x, outcome.geometry.strings[0][0].x);
   ASSERT_EQ(outcome.findings.size(), 1U);
   EXPECT_THAT(describe(outcome.findings[0], outcome, byDistance).english(),
-              HasSubstr("Not used, for no geophone or shot of the survey is there: lines 1"));
+              HasSubstr("Not used, for no geophone or shot of the survey is there: line 1 ("));
 
   const std::vector<SurveyedRow> byNumber = straightRows(8, 5.0, 0.0);
   EXPECT_EQ(proposeStations(byNumber, geometry), StationsBy::kNumber);
@@ -300,7 +300,13 @@ TEST(SurveyedPositions, sayWhatIsDoubtful) {
        },
        "as expected: geophone 7"},
       {SurveyedFault::kRowTwice, LineShape::kFitted,
-       [](auto& rows) { rows.push_back(row(3, onLine(99.0, 0.0, 0.5))); }, "lines 4"},
+       [](auto& rows) { rows.push_back(row(3, onLine(99.0, 0.0, 0.5))); }, ": line 4 ("},
+      {SurveyedFault::kRowUnused, LineShape::kFitted,
+       [](auto& rows) {
+         for (SurveyedRow& each : rows) each.kind = SurveyedKind::kGeophone;
+         rows.insert(rows.begin(), row(1, onLine(99.0, 7.0, 0.5)));
+       },
+       "is there: line 2 ("},
       {SurveyedFault::kNoElevation, LineShape::kFitted,
        [](auto& rows) { rows[2].elevation = std::nan(""); }, "others: geophone 3"},
   };
