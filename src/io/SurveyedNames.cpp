@@ -13,15 +13,14 @@ namespace {
 using Names = std::vector<std::string_view>;
 
 const Names kStations = {
-    "name",     "nr",      "no",      "num",         "number",  "id",          "station",
-    "stat",     "stn",     "point",   "pointname",   "pointid", "pointnumber", "pt",
-    "ptid",     "ptname",  "punkt",   "punktnummer", "punktnr", "punktname",   "nummer",
-    "numero",   "punto",   "nome",    "nom",         "nombre",  "stazione",    "estacion",
-    "geophone", "geophon", "geofono", "receiver",    "peg",     "label",       "code",
-    "channel",  "chan",    "kanal",   "canal",       "canale",  "voie",        "picchetto",
-    "estaca",   "piquet",  "pflock",  "distance",    "distanz", "distanza",    "distancia",
-    "chainage"};
-const Names kKinds = {"kind", "type", "typ", "tipo", "art", "genre", "class", "what"};
+    "name",     "nr",      "no",       "num",         "number",   "id",          "station",
+    "stat",     "stn",     "point",    "pointname",   "pointid",  "pointnumber", "pt",
+    "ptid",     "ptname",  "punkt",    "punktnummer", "punktnr",  "punktname",   "nummer",
+    "numero",   "punto",   "nome",     "nom",         "nombre",   "stazione",    "estacion",
+    "geophone", "geophon", "geofono",  "receiver",    "peg",      "label",       "channel",
+    "chan",     "kanal",   "canal",    "canale",      "voie",     "picchetto",   "estaca",
+    "piquet",   "pflock",  "distance", "distanz",     "distanza", "distancia",   "chainage"};
+const Names kKinds = {"kind", "code", "type", "typ", "tipo", "art", "genre", "class", "what"};
 const Names kEastings = {"easting", "eastings",   "east",       "e",     "x",      "est",
                          "este",    "ost",        "ostwert",    "osten", "utme",   "utmx",
                          "utmeast", "utmeasting", "rechtswert", "rw",    "xcoord", "coordx",
