@@ -1,5 +1,6 @@
 // Throws any bytes at the readers of small tables: positions, elevations, layers of traces, known
-// ground, and what is pasted. The first byte chooses the reader and its separator.
+// ground, surveyed positions, and what is pasted. The first byte chooses the reader and its
+// separator.
 #include "Demand.h"
 #include "base/TypedTable.h"
 #include "io/ElevationTable.h"
@@ -7,6 +8,7 @@
 #include "io/KnownGroundFile.h"
 #include "io/LayerFile.h"
 #include "io/NamedPositions.h"
+#include "io/SurveyedTable.h"
 #include "model/ElevationProfile.h"
 #include "model/TomoDocument.h"
 
@@ -115,18 +117,44 @@ void tryKnownGround(std::string_view text) {
   demand(faultOf(known).empty(), "ground that can be");
 }
 
+/// The table, and what its rows make of a line of three geophones.
+void trySurveyed(std::string_view text) {
+  SurveyedTable table;
+  SurveyedReading reading;
+  Status status = SurveyedTable::parse(text, "a.csv", table);
+  if (status.ok()) table.firstRows(3);
+  if (status.ok()) status = table.read(table.proposed(), 0, reading);
+  demand(status.ok() == status.message().empty(), "a message with every failure");
+  demand(status.ok() != reading.rows.empty(), "rows after a success only");
+  SurveyGeometry geometry;
+  geometry.strings = {{{0.0, 0.0, false}, {5.0, 0.0, false}, {10.0, 0.0, false}}};
+  for (const LineShape shape : {LineShape::kFitted, LineShape::kThroughEnds, LineShape::kBent}) {
+    SurveyedOptions options;
+    options.shape = shape;
+    options.stations = proposeStations(reading.rows, geometry);
+    options.epsg = 32632;
+    SurveyedOutcome outcome;
+    if (!placeSurveyed(reading.rows, options, geometry, outcome).ok()) continue;
+    for (const SurveyedPoint& point : outcome.points) demandPlaces({point.after});
+    for (const SurveyedFinding& finding : outcome.findings) {
+      demand(!describe(finding, outcome, reading.rows).empty(), "words for every finding");
+    }
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   if (size == 0) return 0;
   static const char* const separators[] = {";", ",", kBlankSeparator};
   const std::string_view text(reinterpret_cast<const char*>(bytes) + 1, size - 1);
-  const int choice = bytes[0] % 13;
+  const int choice = bytes[0] % 14;
   if (choice < 6) tryPositions(text, separators[choice % 3], choice >= 3);
   if (choice == 6) tryLayers(text);
   if (choice == 7 || choice == 8) tryPasted(text, choice == 8);
   if (choice == 9) tryElevations(text);
   if (choice == 12) tryKnownGround(text);
+  if (choice == 13) trySurveyed(text);
   if (choice == 10 || choice == 11)
     tryNamed(text, choice == 10 ? PositionsOf::kShots : PositionsOf::kGeophones);
   return 0;

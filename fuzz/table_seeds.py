@@ -43,8 +43,17 @@ def known_seeds():
     yield 12, rows[0]
 
 
+def surveyed_seeds():
+    rows = "G1;652000,5;5074000;100\nG2;652005;5074000,25;\nS1;651990;5074001;99,5\n;;;\n"
+    for text in ("name;easting;northing;z\n" + rows, rows, rows.replace(";", "\t"),
+                 "nr,lat,lon,ele\n1,45.8,10.9,5\n2,N45 48.1,E10 57 21.8,6\n3,-45:48:10,10d57m,7\n",
+                 'id,lon,lat\n1,"10 57\'21.8""E",45 O\n2,181,0\n', "x,z\n1,2\n", "a b c\n1 2 3\n1 2 3\n",
+                 "x,y\n1e8,-1e8\n1e8,-1e8\n0,nan\n", "x,y,z\n0,0,1\n3,4,1\n6,8,1e9\n"):
+        yield 13, text
+
+
 def table_seeds():
-    for seeds in (position_seeds(), layer_seeds(), pasted_seeds(), named_seeds(), known_seeds()):
+    for seeds in (position_seeds(), layer_seeds(), pasted_seeds(), named_seeds(), known_seeds(), surveyed_seeds()):
         yield from (bytes([reader]) + text.encode("ascii") for reader, text in seeds)
 
 

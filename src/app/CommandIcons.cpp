@@ -41,6 +41,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionExport_TravelTimes", ":/icons/export.png"},
     {"actionExport_recordings", ":/icons/export.png"},
     {"actionExport_pick_headers", ":/icons/export.png"},
+    {"actionSurveyed_positions", ":/icons/table.png"},
     {"actionSet_geography_coordinates", ":/icons/globe.png"},
     {"actionExportTomographic_profile_2_KML", ":/icons/globe.png"},
     {"actionExportSeismic_line", ":/icons/globe.png"},

@@ -26,7 +26,7 @@ QString whyNowhere(const TomoDocument& document, std::optional<std::int32_t> sys
         .arg(*system);
   }
   if (!lineEnds(document)) return FenceWords::tr("it has no geophones");
-  const double length = LinePlacement(place).length();
+  const double length = LinePlacement(place, courseOf(document)).length();
   if (!(length > 0.0) || !std::isfinite(length)) {
     return FenceWords::tr("its first and last geophone are at one place of the map");
   }
@@ -41,7 +41,7 @@ FenceScene fenceOf(const std::vector<FenceLine>& lines, QStringList& leftOut) {
   for (const FenceLine& line : lines) {
     QString why = whyNowhere(line.document, system);
     if (why.isEmpty()) {
-      const LinePlacement placement(line.document.map->geoCoord);
+      const LinePlacement placement(line.document.map->geoCoord, courseOf(line.document));
       const double first = lineEnds(line.document)->first;
       const auto place = [&](double x) {
         const MapPoint point = placement.at(x - first);

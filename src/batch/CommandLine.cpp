@@ -5,6 +5,7 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
 #include "batch/ProjectFiles.h"
+#include "batch/SurveyedPlaces.h"
 #include "io/FileFormats.h"
 
 #include <algorithm>
@@ -51,6 +52,7 @@ void addPick(CLI::App& app, PickOptions& pick) {
   CLI::App& command =
       *app.add_subcommand("pick", "Find the first breaks of shot files and drop implausible ones");
   command.add_option("SHOTS", pick.shots.files, "Shot files: " + shotSuffixes())->required();
+  addSurveyedOptions(command, pick.shots.surveyed);
   addElevationOptions(command, pick.shots.elevations);
   const ShotOptionGroup shots = addShotOptions(command, pick.shots);
   mustEndIn(addPath(command, "-o,--otte", pick.otte,

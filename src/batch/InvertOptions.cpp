@@ -1,6 +1,7 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
 #include "batch/ProjectFiles.h"
+#include "batch/SurveyedPlaces.h"
 #include "tomo/GridSetup.h"
 
 #include <algorithm>
@@ -383,6 +384,7 @@ void addInvert(CLI::App& app, InvertOptions& options) {
                       "unless an option of the grid is given")
       ->required();
   addPickReading(command, options.picks);
+  addSurveyedOptions(command, options.shots.surveyed);
   addElevationOptions(command, options.shots.elevations);
   const ShotOptionGroup shots = addShotOptions(command, options.shots, "--pick-method");
   addGridOptions(command, options);

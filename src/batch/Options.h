@@ -8,6 +8,7 @@
 #include "model/GeographicsCoord.h"
 #include "model/Parameters.h"
 #include "model/Recordings.h"
+#include "model/SurveyedPositions.h"
 #include "processing/NotchFilter.h"
 #include "processing/ShotFilters.h"
 #include "processing/VelocityFilter.h"
@@ -44,6 +45,14 @@ struct InfoOptions {
   ShotReader reader = ShotReader::kRules;  ///< whose failure is that of the command
 };
 
+/// Places of geophones and shots as surveyed.
+struct SurveyedPlaceOptions {
+  std::string table;                   ///< file of places
+  std::optional<StationsBy> stations;  ///< none: what fits best
+  SurveyedOptions placing;             ///< but for the stations
+  std::string json;                    ///< of what became of them
+};
+
 /// On what the first breaks are picked.
 enum class PickFilter { kNone, kAgc, kHushel, kBand, kNotch, kVelocity };
 
@@ -68,11 +77,12 @@ struct ShotOptions {
   NotchFilter notch;
   VelocityFilter velocity;
   PickMethod method = PickMethod::kSingle;
-  std::string geophones;        ///< geometry file
-  std::string shots;            ///< geometry file
-  std::string separator = ";";  ///< of the geometry files
-  ElevationOptions elevations;  ///< of picks and projects, too
-  bool asRecorded = false;      ///< time counts from the first sample, wherever the shot was
+  std::string geophones;          ///< geometry file
+  std::string shots;              ///< geometry file
+  std::string separator = ";";    ///< of the geometry files
+  SurveyedPlaceOptions surveyed;  ///< of picks and projects, too
+  ElevationOptions elevations;    ///< the same
+  bool asRecorded = false;        ///< time counts from the first sample, wherever the shot was
 };
 
 struct PickOptions {

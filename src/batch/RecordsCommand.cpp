@@ -6,6 +6,7 @@
 #include "batch/OutputFiles.h"
 #include "batch/ProjectFiles.h"
 #include "batch/ShotPicking.h"
+#include "batch/SurveyedPlaces.h"
 #include "io/project/projectReader.h"
 
 #include <QDir>
@@ -39,6 +40,7 @@ void addRecords(CLI::App& app, RecordsOptions& options) {
       "have there, as SEG-Y or SEG-2: shot01.sgy and so on");
   const auto inputs = std::make_shared<std::vector<std::string>>();
   command.add_option("INPUT", *inputs, "Shot files, or one project (.tvsk)")->required();
+  addSurveyedOptions(command, options.shots.surveyed);
   addElevationOptions(command, options.shots.elevations);
   addReader(command, options.shots.reader);
   const ShotOptionGroup shots = addPlaceOptions(command, options.shots);
@@ -76,7 +78,7 @@ int run(const RecordsOptions& options) {
   Status status = options.project.empty() ? loadShotFiles(options.shots, project)
                                           : readProject(options.project, project);
   if (status.ok()) {
-    status = layOntoElevations(options.shots.elevations, *channels.summary, project);
+    status = layOntoTables(options.project, options.shots, *channels.summary, project);
   }
   if (!status.ok()) return failed(status.message());
   if (!QDir().mkpath(QString::fromStdString(options.folder))) {

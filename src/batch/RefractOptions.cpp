@@ -1,5 +1,6 @@
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
+#include "batch/SurveyedPlaces.h"
 
 #include <memory>
 
@@ -56,6 +57,7 @@ void addRefract(CLI::App& app, RefractOptions& options) {
   const auto inputs = std::make_shared<std::vector<std::string>>();
   command.add_option("INPUT", *inputs, kindsOfInput())->required();
   addPickReading(command, options.picks);
+  addSurveyedOptions(command, options.shots.surveyed);
   addElevationOptions(command, options.shots.elevations);
   const ShotOptionGroup shots = addShotOptions(command, options.shots, "--pick-method");
   CLI::Option* layers = addPath(

@@ -4,6 +4,7 @@
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
 #include "batch/ProjectFiles.h"
+#include "batch/SurveyedPlaces.h"
 #include "io/ElevationTable.h"
 #include "io/NamedPositions.h"
 #include "io/ReadingComparison.h"
@@ -240,8 +241,7 @@ void summarize(const ShotOptions& options, const TomoDocument& document, std::os
       << "Picks: " << picks << " accepted, " << traces - picks << " rejected" << std::endl;
 }
 
-}  // namespace
-
+/// Gives all geophones and shots the elevations of a table; nothing where none was given.
 Status layOntoElevations(const ElevationOptions& options, std::ostream& out, Survey& survey) {
   if (options.table.empty()) return {};
   std::vector<Point2D> points;
@@ -267,19 +267,28 @@ Status layOntoElevations(const ElevationOptions& options, std::ostream& out, Sur
   return {};
 }
 
+}  // namespace
+
+Status layOntoTables(const std::string& file, const ShotOptions& options, std::ostream& out,
+                     Survey& survey) {
+  const Status status = placeBySurvey(options.surveyed, surveyFiles(file, options), out, survey);
+  return status.ok() ? layOntoElevations(options.elevations, out, survey) : status;
+}
+
 Status loadShotFiles(const ShotOptions& options, Survey& survey) {
   TomoDocument& document = survey.document;
   Status status = load(options, document);
   if (status.ok() && !options.geophones.empty()) status = placeGeophones(options, document);
   if (status.ok() && !options.shots.empty()) status = placeShots(options, document);
-  if (!status.ok() || !options.elevations.table.empty()) return status;
+  const bool tables = !(options.elevations.table + options.surveyed.table).empty();
+  if (!status.ok() || tables) return status;
   return levelShots(options, survey);
 }
 
 Status pickShotFiles(const ShotOptions& options, const PickingManner& manner, Survey& survey) {
   TomoDocument& document = survey.document;
   Status status = loadShotFiles(options, survey);
-  if (status.ok()) status = layOntoElevations(options.elevations, *manner.summary, survey);
+  if (status.ok()) status = layOntoTables({}, options, *manner.summary, survey);
   if (!status.ok()) return status;
 
   std::vector<std::int32_t> shots;
@@ -313,7 +322,7 @@ Status readSurvey(const std::string& file, const TravelTimeReading& picks, const
   if (file.empty()) return pickShotFiles(shots, manner, project);
   if (isProjectFile(file)) {
     const Status status = readProject(file, project);
-    return status.ok() ? layOntoElevations(shots.elevations, *manner.summary, project) : status;
+    return status.ok() ? layOntoTables(file, shots, *manner.summary, project) : status;
   }
   TravelTimeData data;
   TravelTimeReading reading = picks;
@@ -321,7 +330,7 @@ Status readSurvey(const std::string& file, const TravelTimeReading& picks, const
   Status status = readPicks(file, reading, data);
   if (!status.ok()) return status;
   status = importTravelTimes(std::move(data), project.document);
-  return status.ok() ? layOntoElevations(shots.elevations, *manner.summary, project) : status;
+  return status.ok() ? layOntoTables(file, shots, *manner.summary, project) : status;
 }
 
 Status checkPicks(const TomoDocument& document, const std::vector<std::string>& files) {
@@ -334,13 +343,16 @@ Status checkPicks(const TomoDocument& document, const std::vector<std::string>& 
 std::vector<std::string> surveyFiles(const std::string& file, const ShotOptions& shots) {
   if (file.empty()) return filesOf(shots);
   std::vector<std::string> files = {file};
-  if (!shots.elevations.table.empty()) files.push_back(shots.elevations.table);
+  for (const std::string& table : {shots.surveyed.table, shots.elevations.table}) {
+    if (!table.empty()) files.push_back(table);
+  }
   return files;
 }
 
 std::vector<std::string> filesOf(const ShotOptions& options) {
   std::vector<std::string> files = options.files;
-  for (const std::string& geometry : {options.geophones, options.shots, options.elevations.table}) {
+  for (const std::string& geometry :
+       {options.geophones, options.shots, options.surveyed.table, options.elevations.table}) {
     if (!geometry.empty()) files.push_back(geometry);
   }
   return files;

@@ -21,12 +21,15 @@ struct PickingManner {
 };
 
 /// Loads shot files into an empty survey and takes positions from geometry files. One file that
-/// cannot be read, or geometry that does not fit the files, fails the whole. Leaves the table
-/// of elevations to the next function, for which shots at 0 stay there.
+/// cannot be read, or geometry that does not fit the files, fails the whole. Leaves the tables
+/// of places and elevations to the next function, for which shots at 0 stay there.
 Status loadShotFiles(const ShotOptions& options, Survey& survey);
 
-/// Gives all geophones and shots the elevations of a table; nothing where none was given.
-Status layOntoElevations(const ElevationOptions& options, std::ostream& out, Survey& survey);
+/// Gives geophones and shots the places of a table of surveyed positions, then the elevations of
+/// another one; nothing where none was given.
+/// \param file of the survey; empty for shot files
+Status layOntoTables(const std::string& file, const ShotOptions& options, std::ostream& out,
+                     Survey& survey);
 
 /// Counts time from the shot where records begin before it, unless asked not to, and says so.
 Status countFromShot(const ShotOptions& options, std::ostream& out, Survey& survey);

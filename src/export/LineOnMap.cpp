@@ -5,7 +5,7 @@
 namespace talvesk {
 
 LineOnMap::LineOnMap(const TomoDocument& document)
-    : mPlacement(document.map->geoCoord), mEpsg(document.map->geoCoord.CRS) {
+    : mPlacement(document.map->geoCoord, courseOf(document)), mEpsg(document.map->geoCoord.CRS) {
   if (!document.map->geoCoord_isSet) {
     mStatus = Status::failure(
         Message::tr("the line has no place on the map; its geographic coordinates are missing"));
@@ -16,7 +16,7 @@ LineOnMap::LineOnMap(const TomoDocument& document)
     mStatus = Status::failure(Message::tr("the survey has no geophones"));
     return;
   }
-  const LineOnGlobe globe(document.map->geoCoord);
+  const LineOnGlobe globe(document.map->geoCoord, courseOf(document));
   mStatus = globe.status();
   mSystemName = globe.systemName();
   mFirstX = ends->first;

@@ -9,7 +9,7 @@
 namespace talvesk {
 
 /// Where a survey lies on the map, in easting and northing of its own reference system: distances
-/// are laid off from the first geophone towards the last one, without stretching.
+/// are laid off from the first geophone towards the last one, without stretching, or by its course.
 class LineOnMap {
  public:
   /// Check status() before use.
@@ -20,8 +20,8 @@ class LineOnMap {
   const Status& status() const { return mStatus; }
 
   MapPoint at(double x) const { return mPlacement.at(x - mFirstX); }  ///< \param x survey abscissa
-  double east() const { return mPlacement.east(); }    ///< of the unit vector along the line
-  double north() const { return mPlacement.north(); }  ///< of the same
+  /// The unit vector along the line there.
+  MapPoint direction(double x) const { return mPlacement.direction(x - mFirstX); }
   std::int32_t epsg() const { return mEpsg; }
   const std::string& systemName() const { return mSystemName; }  ///< empty where PROJ has none
 

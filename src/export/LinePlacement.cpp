@@ -26,26 +26,14 @@ std::optional<LineEnds> lineEnds(const TomoDocument& document) {
   return ends;
 }
 
-LinePlacement::LinePlacement(const geographicsCoord& ends)
-    : mFirst{ends.mEastFstGeoph, ends.mNorthFstGeoph} {
-  const double east = ends.mEastLstGeoph - ends.mEastFstGeoph;
-  const double north = ends.mNorthLstGeoph - ends.mNorthFstGeoph;
-  mLength = std::sqrt(east * east + north * north);
-  // A line along an axis has no component across it, and one without a length has none at all.
-  mEast = east == 0.0 ? 0.0 : east / mLength;
-  mNorth = north == 0.0 ? 0.0 : north / mLength;
-}
-
-MapPoint LinePlacement::at(double distance) const {
-  return {mFirst.easting + mEast * distance, mFirst.northing + mNorth * distance};
-}
-
-LineOnGlobe::LineOnGlobe(const geographicsCoord& ends)
-    : LineOnGlobe(std::make_shared<const GeoTransformer>(ends.CRS), ends) {}
+LineOnGlobe::LineOnGlobe(const geographicsCoord& ends, std::vector<MapVertex> course)
+    : LineOnGlobe(std::make_shared<const GeoTransformer>(ends.CRS), ends, std::move(course)) {}
 
 LineOnGlobe::LineOnGlobe(std::shared_ptr<const GeoTransformer> transformer,
-                         const geographicsCoord& ends)
-    : mTransformer(std::move(transformer)), mPlacement(ends), mStatus(mTransformer->status()) {
+                         const geographicsCoord& ends, std::vector<MapVertex> course)
+    : mTransformer(std::move(transformer)),
+      mPlacement(ends, std::move(course)),
+      mStatus(mTransformer->status()) {
   if (mStatus.code() == kUnknownSystem || mStatus.code() == kNoTransformation) {
     std::swap(mStatus, mUntransformed);
   }

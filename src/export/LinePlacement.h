@@ -2,11 +2,12 @@
 
 #include "base/Status.h"
 #include "model/GeoTransformer.h"
-#include "model/GeographicsCoord.h"
+#include "model/MapLine.h"
 
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace talvesk {
 
@@ -28,37 +29,14 @@ struct LineEnds {
 /// None without a geophone whose position is known.
 std::optional<LineEnds> lineEnds(const TomoDocument& document);
 
-/// Easting and northing, metres.
-struct MapPoint {
-  double easting = 0.0;
-  double northing = 0.0;
-};
-
-/// The straight line from the first geophone to the last one, on the map.
-class LinePlacement {
- public:
-  explicit LinePlacement(const geographicsCoord& ends);
-
-  double length() const { return mLength; }  ///< between both ends, metres
-  double east() const { return mEast; }      ///< of the unit vector along the line
-  double north() const { return mNorth; }    ///< of the same
-  /// \param distance from the first geophone, metres; may lie before it or beyond the last one
-  MapPoint at(double distance) const;
-
- private:
-  MapPoint mFirst;
-  double mEast = 0.0;  ///< components of the unit vector along the line
-  double mNorth = 0.0;
-  double mLength = 0.0;
-};
-
 /// Where a line lies on the globe, for as long as its export or dialog takes.
 class LineOnGlobe {
  public:
   /// Builds the transformation. Check status() before use.
-  explicit LineOnGlobe(const geographicsCoord& ends);
+  explicit LineOnGlobe(const geographicsCoord& ends, std::vector<MapVertex> course = {});
   /// With the transformation of `ends.CRS` that there is already.
-  LineOnGlobe(std::shared_ptr<const GeoTransformer> transformer, const geographicsCoord& ends);
+  LineOnGlobe(std::shared_ptr<const GeoTransformer> transformer, const geographicsCoord& ends,
+              std::vector<MapVertex> course = {});
 
   /// Why there is none: an unusable reference system, ends that are no numbers or the same, or ends
   /// that the system cannot place. A system that PROJ cannot build is no reason, see below.

@@ -64,8 +64,8 @@ class Drawing {
   }
 
   void text(const Point2D& place, double height, const std::string& words) {
-    mDxf.addText(placed(place), height, words, mMap ? mMap->east() : 1.0,
-                 mMap ? mMap->north() : 0.0);
+    const MapPoint along = mMap ? mMap->direction(place.x) : MapPoint{1.0, 0.0};
+    mDxf.addText(placed(place), height, words, along.easting, along.northing);
   }
 
   void putTitle() {

@@ -142,7 +142,7 @@ Status writeSectionKml(const std::string& path, const TomoDocument& document,
   if (const Message why = whyNot(document, palette, range); !why.empty()) {
     return cannotWrite(path, why);
   }
-  const LineOnGlobe line(document.map->geoCoord);
+  const LineOnGlobe line(document.map->geoCoord, courseOf(document));
   if (!line.status().ok()) return cannotWrite(path, line.status().text());
   tellUntransformed(path, line);
 

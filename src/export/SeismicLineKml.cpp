@@ -43,7 +43,7 @@ Status writeSeismicLineKml(const std::string& path, const TomoDocument& document
   if (!document.map->geoCoord_isSet) return cannotWrite(path, noGeographicCoordinates());
   const std::optional<LineEnds> ends = lineEnds(document);
   if (!ends) return cannotWrite(path, Message::tr("the survey has no geophones"));
-  const LineOnGlobe line(document.map->geoCoord);
+  const LineOnGlobe line(document.map->geoCoord, courseOf(document));
   if (!line.status().ok()) return cannotWrite(path, line.status().text());
   tellUntransformed(path, line);
 

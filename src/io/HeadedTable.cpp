@@ -1,5 +1,7 @@
 #include "io/HeadedTable.h"
 
+#include "io/LatinLetters.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -63,7 +65,7 @@ std::vector<std::string> wordsOf(std::string_view name) {
 TableColumn columnOf(std::string_view told) {
   TableColumn column;
   column.told = trimmed(told);
-  std::vector<std::string> words = wordsOf(told);
+  std::vector<std::string> words = wordsOf(plainLetters(told));
   const bool hasUnit =
       words.size() > 1 && (unitsPerMetre(words.back()) > 0.0 || unitsPerSecond(words.back()) > 0.0);
   if (hasUnit) {
@@ -97,13 +99,22 @@ char separatorOf(std::string_view heading) {
   return ' ';
 }
 
+/// The quote that ends a field; one that is doubled stands for itself.
+std::size_t closingQuote(std::string_view text, std::size_t from) {
+  std::size_t quote = text.find('"', from);
+  while (quote != std::string_view::npos && text.substr(quote + 1, 1) == "\"") {
+    quote = text.find('"', quote + 2);
+  }
+  return quote;
+}
+
 /// Cuts the next field off; one in quotes may hold separators.
 std::string_view takeField(std::string_view& rest, char separator) {
   const std::string_view separators =
       separator == ' ' ? std::string_view(" \t") : std::string_view(&separator, 1);
   const std::size_t first = std::min(rest.find_first_not_of(' '), rest.size());
   const std::size_t quote =
-      rest.substr(first, 1) == "\"" ? rest.find('"', first + 1) : std::string_view::npos;
+      rest.substr(first, 1) == "\"" ? closingQuote(rest, first + 1) : std::string_view::npos;
   const bool quoted = quote != std::string_view::npos;
   const std::size_t end =
       std::min(rest.find_first_of(separators, quoted ? quote : first), rest.size());
@@ -141,7 +152,7 @@ bool HeadedTable::findHeading(const std::function<bool(const Columns&)>& accepts
     if (line.empty()) continue;
     const bool comment = line.front() == '#';
     if (comment) line.remove_prefix(1);
-    mSeparator = separatorOf(line);
+    mSeparator = mGiven != 0 ? mGiven : separatorOf(line);
     split(line, kMostColumns, fields);
     if (mSeparator == ' ') joinBrackets(fields);
     mColumns.clear();
@@ -161,12 +172,13 @@ bool HeadedTable::startAtFirstRow() {
     line = trimmed(line);
   } while (line.empty() || line.front() == '#');
   std::vector<std::string_view> fields;
-  mSeparator = separatorOf(line);
-  if (mSeparator == ',') {
+  mSeparator = mGiven != 0 ? mGiven : separatorOf(line);
+  if (mSeparator == ',' && mGiven == 0) {
     mSeparator = ' ';
     split(line, kMostColumns, fields);
     double ignored = 0.0;
-    const bool numbers = std::all_of(fields.begin(), fields.end(), [&](std::string_view field) {
+    const auto begin = fields.begin() + (fields.size() > 2 ? 1 : 0);  // a name may stand in front
+    const bool numbers = std::all_of(begin, fields.end(), [&](std::string_view field) {
       return number(field, ignored) == NumberError::kNone;
     });
     if (fields.size() < 2 || !numbers) mSeparator = ',';

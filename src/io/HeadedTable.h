@@ -13,7 +13,7 @@ namespace talvesk {
 
 /// A column as the heading of a table tells it.
 struct TableColumn {
-  std::string name;       ///< lower case, letters and digits only, without its unit: "shotx"
+  std::string name;       ///< lower case, plain letters and digits, without its unit: "shotx"
   std::string unit;       ///< lower case, a known one; empty where none is told
   std::string_view told;  ///< as the file has it
 };
@@ -31,7 +31,8 @@ class HeadedTable {
   using Columns = std::vector<TableColumn>;
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-  explicit HeadedTable(TextCursor& text) : mText(text) {}
+  /// \param separator that somebody says it has, tab, ';', ',' or ' '; 0: as told above
+  explicit HeadedTable(TextCursor& text, char separator = 0) : mText(text), mGiven(separator) {}
 
   /// Looks among the first lines for the heading: the first one whose columns are accepted. A "#"
   /// in front of it is none of its words. False when none is; the cursor stands behind the lines
@@ -39,7 +40,7 @@ class HeadedTable {
   bool findHeading(const std::function<bool(const Columns&)>& accepts);
 
   /// For a table without a heading: as many columns without names as its first row has fields.
-  /// False when there is no row. There decimal commas may stand between blanks.
+  /// False when there is no row. There decimal commas may stand between blanks, behind a name.
   bool startAtFirstRow();
 
   const Columns& columns() const { return mColumns; }
@@ -56,6 +57,7 @@ class HeadedTable {
 
   TextCursor& mText;
   Columns mColumns;
+  char mGiven;
   char mSeparator = '\t';
   std::size_t mLinesAbove = 0;
 };

@@ -150,4 +150,30 @@ std::string wellKnownText(std::int32_t epsg) {
   return text;
 }
 
+bool GeoTransformer::project(const LonLat& place, MapPoint& out) const {
+  const bool onGlobe = std::fabs(place.longitude) <= 180.0 && std::fabs(place.latitude) <= 90.0;
+  if (!mTransformation || !onGlobe) return false;
+  const SilentProj silence;
+  proj_errno_reset(mTransformation.get());
+  const PJ_COORD at = proj_trans(mTransformation.get(), PJ_INV,
+                                 proj_coord(place.longitude, place.latitude, 0.0, 0.0));
+  if (!std::isfinite(at.xy.x) || !std::isfinite(at.xy.y)) return false;
+  out = {at.xy.x, at.xy.y};
+  return true;
+}
+
+std::int32_t utmSystemOf(const LonLat& place) {
+  constexpr std::int32_t kNorth = 32600;
+  constexpr std::int32_t kSouth = 32700;
+  const double longitude = place.longitude;
+  const double latitude = place.latitude;
+  if (!(std::fabs(longitude) <= 180.0) || !(std::fabs(latitude) <= 90.0)) return 0;
+  auto zone = static_cast<std::int32_t>(std::floor((longitude + 180.0) / 6.0)) % 60 + 1;
+  const bool norway = latitude >= 56.0 && latitude < 64.0 && longitude >= 3.0 && longitude < 12.0;
+  if (norway) zone = 32;
+  const bool svalbard = latitude >= 72.0 && longitude >= 0.0 && longitude < 42.0;
+  if (svalbard) zone = longitude < 9.0 ? 31 : longitude < 21.0 ? 33 : longitude < 33.0 ? 35 : 37;
+  return (latitude < 0.0 ? kSouth : kNorth) + zone;
+}
+
 }  // namespace talvesk

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "model/MapCourse.h"
 
 #include <cstdint>
 #include <memory>
@@ -53,6 +54,9 @@ class GeoTransformer {
   /// the system cannot place.
   /// \param easting, northing metres
   bool transform(double easting, double northing, LonLat& out) const;
+  /// The way back: false, with `out` as it was, without a transformation and for a place that the
+  /// system does not reach.
+  bool project(const LonLat& place, MapPoint& out) const;
 
  private:
   struct Release {
@@ -71,5 +75,9 @@ class GeoTransformer {
 /// The well-known text (version 1, as OGC 01-009) of a reference system; empty for a code that PROJ
 /// does not know. For one thread of the program at a time.
 std::string wellKnownText(std::int32_t epsg);
+
+/// The EPSG code of the UTM zone of a place, on WGS84; 0 for what is no place on the globe. Zones
+/// are those of the maps, wider about Norway and Svalbard.
+std::int32_t utmSystemOf(const LonLat& place);
 
 }  // namespace talvesk

@@ -165,6 +165,7 @@ bool applyGeometry(const SurveyGeometry& geometry, TomoDocument& document) {
     recordings.waveType = WaveType::S;
   }
   SurveyLine line;
+  line.course = document.line->course;  // it goes with the map position, which stays
   for (const GeophoneString& string : geometry.strings) {
     line.goephonesStringSet.push_back(pointsOf(string));
   }

@@ -26,6 +26,7 @@ const std::vector<EditRule>& editTable() {
       {Edit::kFilter, Message::tr("Filter"), "C..........."},
       {Edit::kGeometry, Message::tr("Geometry"), "..CVV.V.SS.."},
       {Edit::kRecordPairs, Message::tr("S-wave recordings"), "CCCVVCV.SS.."},
+      {Edit::kSurveyedPositions, Message::tr("Surveyed positions"), "..CVV.V.CS.."},
       {Edit::kGrid, Message::tr("Grid"), "...CC......."},
       {Edit::kStartingModel, Message::tr("Define model velocity"), "...CC......."},
       {Edit::kSmoothing, Message::tr("Apply smoothing"), "...CC......."},

@@ -23,6 +23,7 @@ enum class Edit {
   kFilter,
   kGeometry,
   kRecordPairs,
+  kSurveyedPositions,
   kGrid,
   kStartingModel,
   kSmoothing,

@@ -21,6 +21,7 @@ namespace talvesk {
 namespace {
 
 constexpr double kReach = 14.0;       ///< pixels around a click
+constexpr double kPadding = 12.0;     ///< pixels around the line
 constexpr double kLeastHeight = 2.0;  ///< metres of elevation shown for a level line
 constexpr double kFarthest = 1e8;     ///< what lies beyond would squeeze all the rest, metres
 
@@ -73,6 +74,7 @@ QColor faded(const QColor& color, const QColor& background) {
 LinePlan::LinePlan(QWidget* parent)
     : PlotPage(parent),
       mChoose(std::make_unique<BandTool>(gestures(), [this](const QPointF& at) { click(at); })) {
+  setPadding(kPadding);
   auto* legend = new QwtLegend;
   legend->setFrameStyle(QFrame::NoFrame);
   plot().insertLegend(legend, QwtPlot::BottomLegend);
@@ -101,6 +103,10 @@ QSize LinePlan::minimumSizeHint() const {
 void LinePlan::draw() {
   plot().detachItems(QwtPlotItem::Rtti_PlotCurve);
   const TraceColors colors = traceColors(palette(), true);
+  if (const QPolygonF axis = drawable(mScene.axis); axis.size() > 1) {
+    addCurve(plot(), tr("Line"), axis, nullptr, QPen(colors.text, 1.2, Qt::DashLine))
+        ->setLegendAttribute(QwtPlotCurve::LegendShowLine);
+  }
   bool named = false;
   const auto addString = [&](std::size_t s) {
     const bool current = static_cast<int>(s) == mScene.currentString;
@@ -109,11 +115,14 @@ void LinePlan::draw() {
     const QColor color = current ? colors.positive : faded(colors.positive, colors.background);
     auto* triangle = new QwtSymbol(QwtSymbol::DTriangle, QBrush(color),
                                    QPen(current ? colors.text : color, 0.8), QSize(9, 9));
-    const QString title = current ? tr("Geophones of string %1").arg(s + 1)
-                          : named ? QString()
-                                  : tr("Other strings");
+    const bool ofStrings = mAxes == LinePlanAxes::kElevation;
+    const QString title = !ofStrings ? tr("Geophones")
+                          : current  ? tr("Geophones of string %1").arg(s + 1)
+                          : named    ? QString()
+                                     : tr("Other strings");
     named = named || !current;
-    addCurve(plot(), title, points, triangle, QPen(color, current ? 1.4 : 1.0));
+    addCurve(plot(), title, points, triangle,
+             ofStrings ? QPen(color, current ? 1.4 : 1.0) : QPen(Qt::NoPen));
   };
   for (std::size_t s = 0; s < mScene.strings.size(); ++s) {
     if (static_cast<int>(s) != mScene.currentString) addString(s);
@@ -152,13 +161,20 @@ QRectF LinePlan::content() const {
     for (const Point2D& point : string) take(point);
   }
   for (const Point2D& point : mScene.shots) take(point);
+  for (const Point2D& point : mScene.axis) take(point);
   if (low.x > high.x) {  // empty: the axes of any line
     low = {0.0, -5.0};
     high = {100.0, 5.0};
   }
-  const double width = std::max(high.x - low.x, 1.0);
-  const double height = std::max(high.z - low.z, kLeastHeight);
-  return {low.x, 0.5 * (low.z + high.z - height), width, height};
+  double width = std::max(high.x - low.x, 1.0);
+  double height = std::max(high.z - low.z, kLeastHeight);
+  if (mAxes == LinePlanAxes::kMap) {
+    const double shape = std::max(1.0, canvas()->width() - 2.0 * kPadding) /
+                         std::max(1.0, canvas()->height() - 2.0 * kPadding);
+    width = std::max(width, shape * height);
+    height = std::max(height, width / shape);
+  }
+  return {0.5 * (low.x + high.x - width), 0.5 * (low.z + high.z - height), width, height};
 }
 
 std::optional<LinePlan::Target> LinePlan::targetAt(const QPointF& at) const {
@@ -206,15 +222,41 @@ bool LinePlan::event(QEvent* event) {
   const Point2D place = target->string < 0
                             ? mScene.shots[index]
                             : mScene.strings[static_cast<std::size_t>(target->string)][index];
-  const QLocale locale;
-  const QString where = tr("x %1 m, z %2 m")
-                            .arg(locale.toString(place.x, 'f', 2))
-                            .arg(locale.toString(place.z, 'f', 2));
-  const QString who = target->string < 0
-                          ? tr("Shot %1").arg(index + 1)
+  const QString where = placeText(place);
+  const bool ofStrings = mAxes == LinePlanAxes::kElevation;
+  const QString who = target->string < 0 ? tr("Shot %1").arg(index + 1)
+                      : !ofStrings
+                          ? tr("Geophone %1").arg(index + 1)
                           : tr("String %1, geophone %2").arg(target->string + 1).arg(index + 1);
   QToolTip::showText(help.globalPos(), who + QLatin1Char('\n') + where, this);
   return true;
+}
+
+QString LinePlan::placeText(const Point2D& place) const {
+  const QLocale locale;
+  const QString x = locale.toString(place.x, 'f', 2);
+  const QString z = locale.toString(place.z, 'f', 2);
+  if (mAxes == LinePlanAxes::kOffset) return tr("x %1 m, %2 m across").arg(x, z);
+  if (mAxes == LinePlanAxes::kMap) return tr("%1 m east, %2 m north").arg(x, z);
+  return tr("x %1 m, z %2 m").arg(x, z);
+}
+
+void LinePlan::setAxes(LinePlanAxes axes) {
+  mAxes = axes;
+  retranslate();
+}
+
+bool LinePlan::eventFilter(QObject* watched, QEvent* event) {
+  const bool filtered = PlotPage::eventFilter(watched, event);
+  // One scale both ways needs other ends on a canvas of another shape. As numbers at the axes
+  // change the canvas again, once round is enough.
+  const bool shaped = watched == canvas() && event->type() == QEvent::Resize;
+  if (shaped && mAxes == LinePlanAxes::kMap && !mFitting) {
+    mFitting = true;
+    setWhole(content(), false);
+    mFitting = false;
+  }
+  return filtered;
 }
 
 PlotTool* LinePlan::toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys, const QPointF&) {
@@ -229,7 +271,11 @@ void LinePlan::dress() {
 
 void LinePlan::retranslate() {
   setAccessibleName(tr("Plan of the line"));
-  setTexts({}, tr("Distance (m)"), tr("Elevation (m)"));
+  if (mAxes == LinePlanAxes::kElevation) setTexts({}, tr("Distance (m)"), tr("Elevation (m)"));
+  if (mAxes == LinePlanAxes::kOffset) setTexts({}, tr("Distance (m)"), tr("Across the line (m)"));
+  if (mAxes == LinePlanAxes::kMap) {
+    setTexts({}, tr("East of the first geophone (m)"), tr("North of it (m)"));
+  }
   draw();  // the legend speaks, too
 }
 

@@ -10,22 +10,32 @@
 
 namespace talvesk {
 
+/// What the places of a plan are.
+enum class LinePlanAxes {
+  kElevation,  ///< elevation against distance
+  kOffset,     ///< offset across the line against distance
+  kMap         ///< north against east of the first geophone, to one scale
+};
+
 /// What a plan of the line shows. Points that are not finite are left out.
 struct LinePlanScene {
   std::vector<std::vector<Point2D>> strings;  ///< geophones in channel order, metres
   int currentString = -1;                     ///< drawn stronger; -1 none
   std::vector<Point2D> shots;                 ///< metres
   std::vector<Point2D> mistakes;              ///< ringed
+  std::vector<Point2D> axis;                  ///< corners of the line that was laid through
   std::optional<Point2D> current;             ///< the geophone or shot that is edited
 };
 
-/// Geophones and shots of a survey, elevation against distance. A click chooses the geophone of the
-/// current string, else of another one, or the shot that is nearest; a drag zooms to a rectangle.
+/// Geophones and shots of a survey, elevation against distance or from above. A click chooses the
+/// geophone of the current string, else of another one, or the shot that is nearest; a drag zooms
+/// to a rectangle.
 class LinePlan : public PlotPage {
   Q_OBJECT
 
  public:
   explicit LinePlan(QWidget* parent = nullptr);
+  void setAxes(LinePlanAxes axes);
   ~LinePlan() override;
 
   void setScene(LinePlanScene scene);
@@ -45,10 +55,12 @@ class LinePlan : public PlotPage {
   void dress() override;
   void retranslate() override;
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void draw();
   QRectF content() const;
+  QString placeText(const Point2D& place) const;
   void click(const QPointF& at);
 
   /// What a point of the plan belongs to.
@@ -58,6 +70,8 @@ class LinePlan : public PlotPage {
   };
   std::optional<Target> targetAt(const QPointF& at) const;
 
+  LinePlanAxes mAxes = LinePlanAxes::kElevation;
+  bool mFitting = false;
   LinePlanScene mScene;
   std::unique_ptr<PlotTool> mChoose;
 };

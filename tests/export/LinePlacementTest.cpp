@@ -32,6 +32,27 @@ TEST(LinePlacement, walksFromTheFirstGeophoneTowardsTheLast) {
   }
 }
 
+TEST(LinePlacement, followsTheCourseOfALineThatHasOne) {
+  // Ten metres east of which eight are level, then north; longer along the ground than on the map.
+  const std::vector<MapVertex> course = {
+      {0.0, {100.0, 200.0}}, {12.5, {110.0, 200.0}}, {32.5, {110.0, 220.0}}};
+  const LinePlacement line({0, 100.0, 110.0, 200.0, 220.0}, course);
+  EXPECT_EQ(line.length(), 32.5);
+  const struct {
+    double distance, easting, northing;
+  } cases[] = {{0.0, 100.0, 200.0},  {5.0, 104.0, 200.0},  {12.5, 110.0, 200.0},
+               {22.5, 110.0, 210.0}, {32.5, 110.0, 220.0}, {-2.5, 98.0, 200.0},
+               {40.0, 110.0, 227.5}};
+  for (const auto& c : cases) {
+    EXPECT_NEAR(line.at(c.distance).easting, c.easting, 1e-9) << c.distance;
+    EXPECT_NEAR(line.at(c.distance).northing, c.northing, 1e-9) << c.distance;
+  }
+  EXPECT_TRUE(isCourse(course));
+  EXPECT_FALSE(isCourse({{0.0, {}}}));
+  EXPECT_FALSE(isCourse({{0.0, {}}, {0.0, {}}}));
+  EXPECT_FALSE(isCourse({{0.0, {}}, {1.0, {std::numeric_limits<double>::infinity(), 0.0}}}));
+}
+
 TEST(LineEnds, areTheOutermostGeophonesWhateverTheOrderOfChannels) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   TomoDocument document;

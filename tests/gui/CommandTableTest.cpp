@@ -303,6 +303,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionODT",
         "actionWeb_page",
         "actionSet_geography_coordinates",
+        "actionSurveyed_positions",
         "actionGrid",
         "actionAutoPick",
         "actionAutoPick_line",

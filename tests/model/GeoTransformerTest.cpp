@@ -118,5 +118,36 @@ TEST(GeoTransformer, leavesWhatItCannotPlace) {
   }
 }
 
+TEST(GeoTransformer, projectsPlacesBackToWhereTheyCameFrom) {
+  const ConsoleCapture console;
+  const struct {
+    LonLat place;
+    int zone;
+  } cases[] = {{{10.956078145340, 45.802816454347}, 32632},
+               {{-47.93, -21.4}, 32723},
+               {{5.3, 60.4}, 32632},
+               {{15.6, 78.2}, 32633},
+               {{180.0, 10.0}, 32601},
+               {{-179.9, -10.0}, 32701}};
+  for (const auto& c : cases) {
+    ASSERT_EQ(utmSystemOf(c.place), c.zone);
+    const GeoTransformer utm(c.zone);
+    MapPoint point;
+    ASSERT_TRUE(utm.project(c.place, point));
+    LonLat back;
+    ASSERT_TRUE(utm.transform(point.easting, point.northing, back));
+    EXPECT_NEAR(std::remainder(back.longitude - c.place.longitude, 360.0), 0.0, kMillimetre);
+    EXPECT_NEAR(back.latitude, c.place.latitude, kMillimetre);
+  }
+  MapPoint verona;
+  ASSERT_TRUE(GeoTransformer(32632).project({10.956078145340, 45.802816454347}, verona));
+  EXPECT_NEAR(verona.easting, 652000.0, 1e-3);
+  EXPECT_NEAR(verona.northing, 5074000.0, 1e-3);
+  EXPECT_FALSE(GeoTransformer(32632).project({10.0, 91.0}, verona));
+  EXPECT_FALSE(GeoTransformer(32632).project({std::nan(""), 45.0}, verona));
+  EXPECT_FALSE(GeoTransformer(4326).project({10.0, 45.0}, verona));
+  EXPECT_EQ(utmSystemOf({200.0, 45.0}), 0);
+}
+
 }  // namespace
 }  // namespace talvesk

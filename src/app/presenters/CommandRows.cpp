@@ -88,6 +88,8 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
   return {
       // An empty survey, too, can get geophones and S-wave pairs.
       {"actionGeometry", always, [&p](bool) { p.geometry.ask(); }},
+      {"actionSurveyed_positions", &State::line,
+       call(p.surveyed, &SurveyedPositionsPresenter::ask)},
       {"actionSet_geography_coordinates", &State::line,
        call(p.exports, &ExportPresenter::setMapPosition)},
       {"actionGrid", &State::strings, [&p](bool) { p.models.makeGrid(); }},

@@ -23,6 +23,7 @@ Presenters::Presenters(Desk& desk)
       travelTimes(desk, projects),
       survey(desk),
       geometry(desk),
+      surveyed(desk),
       models(desk, geometry),
       residuals(desk),
       secondLook(desk),

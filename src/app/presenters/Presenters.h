@@ -34,6 +34,7 @@
 #include "app/presenters/ShotFilesPresenter.h"
 #include "app/presenters/StylePresenter.h"
 #include "app/presenters/SurveyPresenter.h"
+#include "app/presenters/SurveyedPositionsPresenter.h"
 #include "app/presenters/TraceMendsPresenter.h"
 #include "app/presenters/TraceOptionsPresenter.h"
 #include "app/presenters/TracesPresenter.h"
@@ -69,6 +70,7 @@ struct Presenters {
   TravelTimesPresenter travelTimes;
   SurveyPresenter survey;
   GeometryPresenter geometry;
+  SurveyedPositionsPresenter surveyed;
   ModelPresenter models;
   ResidualsPresenter residuals;
   SecondLookPresenter secondLook;

@@ -4,6 +4,7 @@
 #include "io/MemberFile.h"
 #include "io/project/ProjectAnnotations.h"
 #include "io/project/ProjectCertainty.h"
+#include "io/project/ProjectCourse.h"
 #include "io/project/ProjectFilters.h"
 #include "io/project/ProjectFirstLayer.h"
 #include "io/project/ProjectKnownGround.h"
@@ -243,6 +244,21 @@ const std::vector<OwnMember>& ownMembers() {
        reads([](const TomoDocument&) { return AnnotationsMember(); },
              [](AnnotationsMember member, TomoDocument& document, Interpretation&) {
                return installAnnotations(std::move(member), document);
+             })},
+      {"course.xml", 1, "Course of the line",
+       Message::tr("the line lies straight on the map between its ends"),
+       [](const TomoDocument& document, const Interpretation&) {
+         return document.map->geoCoord_isSet;
+       },
+       [](const TomoDocument& document, const Interpretation&) {
+         return courseMemberOf(document).has_value();
+       },
+       writes([](const TomoDocument& document, const Interpretation&) {
+         return courseMemberOf(document);
+       }),
+       reads([](const TomoDocument&) { return MapCourse(); },
+             [](MapCourse course, TomoDocument& document, Interpretation&) {
+               return installCourse(std::move(course), document);
              })},
       // Behind the result, of which it is part.
       {"certainty.xml", 1, "Certainty", Message::tr("how sure the section is is not known"),

@@ -53,6 +53,19 @@ void describe(V& fields, geographicsCoord& coordinates) {
 }
 
 template <class V>
+void describe(V& fields, MapVertex& vertex) {
+  fields("distance", vertex.distance);
+  fields("easting", vertex.place.easting);
+  fields("northing", vertex.place.northing);
+}
+
+template <class V>
+void describe(V& fields, MapCourse& course) {
+  fields("geoCoord", course.ends);
+  fields("vertices", course.vertices);
+}
+
+template <class V>
 void describe(V& fields, VelocityLayer& layer) {
   fields("initialDepth", layer.initialDepth);
   fields("initialVelocity", layer.initialVelocity);

@@ -1,5 +1,6 @@
 #include "refraction/elastic/ElasticSurveys.h"
 
+#include "model/MapLine.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
@@ -15,12 +16,6 @@ namespace {
 bool isOfS(const TomoDocument& document) {
   return document.recordings->waveType == WaveType::S;
 }
-
-/// A place of a line on the map, metres.
-struct MapPlace {
-  double east;
-  double north;
-};
 
 /// First and last geophone, metres along the line.
 struct Ends {
@@ -40,10 +35,14 @@ Ends endsOf(const TomoDocument& document) {
   return ends;
 }
 
-MapPlace placeAt(const geographicsCoord& map, const Ends& ends, double x) {
+/// By the way of the line, if it is known, else by the share of the distance between its ends.
+MapPoint placeAt(const TomoDocument& document, const Ends& ends, double x) {
+  const geographicsCoord& line = document.map->geoCoord;
+  const std::vector<MapVertex>& course = courseOf(document);
+  if (!course.empty()) return LinePlacement(line, course).at(x - ends.first);
   const double share = (x - ends.first) / (ends.last - ends.first);
-  return {map.mEastFstGeoph + share * (map.mEastLstGeoph - map.mEastFstGeoph),
-          map.mNorthFstGeoph + share * (map.mNorthLstGeoph - map.mNorthFstGeoph)};
+  return {line.mEastFstGeoph + share * (line.mEastLstGeoph - line.mEastFstGeoph),
+          line.mNorthFstGeoph + share * (line.mNorthLstGeoph - line.mNorthFstGeoph)};
 }
 
 /// How far the same distances lie apart on the map at the ends of what both have, metres; not a
@@ -56,9 +55,9 @@ double mapGap(const TomoDocument& p, const TomoDocument& s, double shift) {
   double most = std::numeric_limits<double>::quiet_NaN();
   if (!(first < last)) return most;
   for (const double x : {first, last}) {
-    const MapPlace a = placeAt(p.map->geoCoord, ofP, x);
-    const MapPlace b = placeAt(s.map->geoCoord, ofS, x - shift);
-    most = std::fmax(most, std::hypot(a.east - b.east, a.north - b.north));
+    const MapPoint a = placeAt(p, ofP, x);
+    const MapPoint b = placeAt(s, ofS, x - shift);
+    most = std::fmax(most, std::hypot(a.easting - b.easting, a.northing - b.northing));
   }
   return most;
 }
