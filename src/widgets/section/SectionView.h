@@ -9,6 +9,8 @@
 #include <QWidget>
 #include <memory>
 
+class QAction;
+
 namespace talvesk {
 
 struct SectionCamera;
@@ -29,8 +31,8 @@ class SectionView : public QWidget {
   /// stretch of ground is shown than before.
   void showScene(std::shared_ptr<const SectionScene> scene, const ColorPalette& palette,
                  const SectionViewSettings& settings);
-  /// Shows a text instead, which may be rich.
-  void showText(const QString& text);
+  /// Shows a text instead, which may be rich, and offers commands below it.
+  void showText(const QString& text, const QList<QAction*>& commands = {});
   bool isEmpty() const;  ///< a text is shown
   const SectionScene* scene() const;
 

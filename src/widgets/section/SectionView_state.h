@@ -15,6 +15,8 @@ class QToolButton;
 
 namespace talvesk {
 
+class EmptyPage;
+
 /// Paints the paper over the canvas; it lies in front of it and takes no events.
 class SectionOverlay : public QWidget {
  public:
@@ -43,7 +45,7 @@ struct SectionView::State {
   QToolButton* turn = nullptr;
   QToolButton* reset = nullptr;
   QStackedLayout* pages = nullptr;
-  QLabel* text = nullptr;
+  EmptyPage* empty = nullptr;  ///< shown without a scene
   QWidget* paper = nullptr;
   SectionOverlay* overlay = nullptr;
 
