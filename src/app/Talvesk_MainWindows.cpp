@@ -41,6 +41,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   mUi->menuView->addSeparator();
   mUi->menuView->addAction(mUi->mainToolBar->toggleViewAction());
   mUi->menuView->addAction(mUi->toolBar->toggleViewAction());
+  mUi->menuView->addAction(mPresenters->guidance.toggleAction());
   mUi->showTracesWidget_2->hide();
   mUi->tabWidget->setCurrentIndex(0);
   retranslate();

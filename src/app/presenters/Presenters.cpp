@@ -34,7 +34,8 @@ Presenters::Presenters(Desk& desk)
       exports(desk),
       records(desk),
       reports(desk, layered),
-      help(desk) {
+      help(desk),
+      guidance(desk) {
   settings.changed = [this] { traceOptions.refresh(); };
   projects.fileChanged = [this] { survey.refresh(); };
 }
@@ -47,6 +48,7 @@ void Presenters::retranslate() {
   projects.retranslate();
   section.refresh();
   survey.refresh();
+  guidance.retranslate();
 }
 
 }  // namespace talvesk

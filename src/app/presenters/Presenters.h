@@ -7,6 +7,7 @@
 #include "app/presenters/CurvesPresenter.h"
 #include "app/presenters/ExportPresenter.h"
 #include "app/presenters/GeometryPresenter.h"
+#include "app/presenters/GuidancePresenter.h"
 #include "app/presenters/HelpPresenter.h"
 #include "app/presenters/InversionPresenter.h"
 #include "app/presenters/KnownGroundPresenter.h"
@@ -75,6 +76,7 @@ struct Presenters {
   RecordExportPresenter records;
   ReportPresenter reports;
   HelpPresenter help;
+  GuidancePresenter guidance;
 
   /// All texts that are not in the form.
   void retranslate();
