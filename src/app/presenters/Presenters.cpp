@@ -35,7 +35,8 @@ Presenters::Presenters(Desk& desk)
       records(desk),
       reports(desk, layered),
       help(desk),
-      guidance(desk) {
+      guidance(desk),
+      search(desk) {
   settings.changed = [this] { traceOptions.refresh(); };
   projects.fileChanged = [this] { survey.refresh(); };
 }

@@ -3,6 +3,7 @@
 #include "app/LayeredModel.h"
 #include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
+#include "app/presenters/CommandSearchPresenter.h"
 #include "app/presenters/ContoursPresenter.h"
 #include "app/presenters/CurvesPresenter.h"
 #include "app/presenters/ExportPresenter.h"
@@ -77,6 +78,7 @@ struct Presenters {
   ReportPresenter reports;
   HelpPresenter help;
   GuidancePresenter guidance;
+  CommandSearchPresenter search;
 
   /// All texts that are not in the form.
   void retranslate();
