@@ -2,6 +2,7 @@
 #include "gui/WindowTest.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
@@ -27,6 +28,7 @@ class CommandSearch : public WindowTest {
         popup.close();
       }
     });
+    QApplication::setActiveWindow(window.get());
     QTest::keyClick(window.get(), Qt::Key_K, Qt::ControlModifier);
     QCoreApplication::processEvents();  // the command comes after the search
   }
@@ -38,11 +40,11 @@ class CommandSearch : public WindowTest {
 TEST_F(CommandSearch, givesWhatItHasFound) {
   open();
   EXPECT_FALSE(action("actionTwo_colors").isChecked());
-  search("colors two", Qt::Key_Return, [](QListWidget& list) {
-    EXPECT_EQ(said(list.currentItem()), "Two colors, Traces > Wiggles");
+  search("colours two", Qt::Key_Return, [](QListWidget& list) {
+    EXPECT_EQ(said(list.currentItem()), "Two colours, Traces > Wiggles");
   });
   EXPECT_TRUE(action("actionTwo_colors").isChecked());
-  search("two colors", Qt::Key_Escape);
+  search("two colours", Qt::Key_Escape);
   EXPECT_TRUE(action("actionTwo_colors").isChecked());
 }
 
