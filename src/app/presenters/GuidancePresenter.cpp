@@ -7,6 +7,9 @@
 #include "widgets/TravelTimePlot.h"
 
 #include <QAction>
+#include <QThread>
+#include <exception>
+#include <optional>
 
 namespace talvesk {
 namespace {
@@ -51,6 +54,10 @@ GuidancePresenter::GuidancePresenter(Desk& desk)
   });
 }
 
+GuidancePresenter::~GuidancePresenter() {
+  if (mJudging) mJudging->wait();
+}
+
 /// The section says by itself what is missing.
 void GuidancePresenter::offerInEmptyViews() {
   const Ui::Talvesk_MainWindows& ui = mDesk.ui;
@@ -69,8 +76,35 @@ QAction* GuidancePresenter::toggleAction() const {
   return mStrip->toggleViewAction();
 }
 
+/// The picks of a large survey take longer to judge than a window may be deaf after each of them,
+/// so that is done beside it, on a copy.
 void GuidancePresenter::refresh() {
-  mStrip->show(judgeSteps(mDesk.survey()));
+  if (mJudging) {
+    mAgain = true;
+    return;
+  }
+  if (mDesk.document().ttArray.empty()) return mStrip->show(judgeSteps(mDesk.survey()));
+  const auto judged = std::make_shared<std::optional<StepJudgements>>();
+  mJudging.reset(QThread::create([survey = mDesk.survey(), judged] {
+    try {
+      *judged = judgeSteps(survey);
+    } catch (const std::exception&) {  // out of memory: what was shown stays
+    }
+  }));
+  connect(
+      mJudging.get(), &QThread::finished, this,
+      [this, judged] {
+        mJudging->wait();
+        mJudging.reset();
+        if (mAgain) {
+          mAgain = false;
+          refresh();
+        } else if (*judged) {
+          mStrip->show(**judged);
+        }
+      },
+      Qt::QueuedConnection);
+  mJudging->start();
 }
 
 }  // namespace talvesk

@@ -4,8 +4,10 @@
 
 #include <QObject>
 #include <QTimer>
+#include <memory>
 
 class QAction;
+class QThread;
 
 namespace talvesk {
 
@@ -16,6 +18,7 @@ class GuidanceStrip;
 class GuidancePresenter : public QObject {
  public:
   explicit GuidancePresenter(Desk& desk);
+  ~GuidancePresenter() override;  ///< waits for a judgement under way
 
   void retranslate();
   QAction* toggleAction() const;  ///< shows and hides the strip
@@ -27,6 +30,8 @@ class GuidancePresenter : public QObject {
   Desk& mDesk;
   GuidanceStrip* mStrip;  ///< of the window
   QTimer mDue;
+  std::unique_ptr<QThread> mJudging;  ///< none when no judgement is under way
+  bool mAgain = false;                ///< the survey has changed meanwhile
   Session::Subscription mSubscription;
 };
 
