@@ -2,6 +2,7 @@
 
 #include "app/CommandIcons.h"
 #include "app/CommandIndex.h"
+#include "app/DialogRoom.h"
 #include "app/KeypadArrows.h"
 #include "app/WindowPlace.h"
 #include "app/presenters/CommandTable.h"
@@ -36,6 +37,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   mDesk = std::make_unique<Desk>(*this, *mUi);
   mPresenters = std::make_unique<Presenters>(*mDesk);
   mCommands = std::make_unique<CommandTable>(*mDesk, commandRows(*mDesk, *mPresenters));
+  new DialogRoom(this);
   addKeys();
   connectCommands();
   connectViews();

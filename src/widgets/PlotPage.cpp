@@ -88,6 +88,8 @@ PlotPage::~PlotPage() {
 }
 
 void PlotPage::setTexts(const QString& title, const QString& xTitle, const QString& yTitle) {
+  // A plot without a name of its own is called after its title.
+  if (accessibleName() == mPlot->title().text()) setAccessibleName(title);
   mPlot->setTitle(QwtText(title, QwtText::PlainText));
   setTitle(*mPlot, QwtPlot::xBottom, xTitle, font());
   setTitle(*mPlot, QwtPlot::yLeft, yTitle, font());
