@@ -1,6 +1,8 @@
 #include "app/Talvesk_MainWindows.h"
 
 #include "app/CommandIcons.h"
+#include "app/CommandIndex.h"
+#include "app/DialogRoom.h"
 #include "app/KeypadArrows.h"
 #include "app/WindowPlace.h"
 #include "app/presenters/CommandTable.h"
@@ -31,9 +33,11 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
     : QMainWindow(parent), mUi(std::make_unique<Ui::Talvesk_MainWindows>()) {
   mUi->setupUi(this);
   setCommandIcons(*this);
+  rememberEnglishTexts(*this);
   mDesk = std::make_unique<Desk>(*this, *mUi);
   mPresenters = std::make_unique<Presenters>(*mDesk);
   mCommands = std::make_unique<CommandTable>(*mDesk, commandRows(*mDesk, *mPresenters));
+  new DialogRoom(this);
   addKeys();
   connectCommands();
   connectViews();
@@ -41,6 +45,7 @@ Talvesk_MainWindows::Talvesk_MainWindows(QWidget* parent)
   mUi->menuView->addSeparator();
   mUi->menuView->addAction(mUi->mainToolBar->toggleViewAction());
   mUi->menuView->addAction(mUi->toolBar->toggleViewAction());
+  mUi->menuView->addAction(mPresenters->guidance.toggleAction());
   mUi->showTracesWidget_2->hide();
   mUi->tabWidget->setCurrentIndex(0);
   retranslate();
@@ -160,6 +165,7 @@ void Talvesk_MainWindows::connectPresenters() {
   mPresenters->palettes.maximumTried = [this](int value) { update_palette_max(value); };
   mPresenters->palettes.minimumTried = [this](int value) { update_palette_min(value); };
   mPresenters->palettes.palettesTried = [this] { on_vtk_palette_changed(); };
+  mPresenters->search.rowOf = [this](const QAction& action) { return mCommands->rowOf(action); };
   mPresenters->inversion.stopWanted = [this] { on_tomo_stopped(); };
 }
 

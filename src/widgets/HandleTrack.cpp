@@ -87,6 +87,7 @@ void HandleTrack::setHandles(const std::vector<Handle>& handles, int minimum, in
   while (mSliders.size() < handles.size()) {
     mSliders.push_back(new HandleSlider(this));
     mSliders.back()->setObjectName(QStringLiteral("handle%1").arg(mSliders.size()));
+    mSliders.back()->setAccessibleName(tr("Handle %1").arg(mSliders.size()));
     mLabels.push_back(new QLabel(this));
     mLabels.back()->setAttribute(Qt::WA_TransparentForMouseEvents);
     mLabels.back()->setAlignment(Qt::AlignHCenter | Qt::AlignTop);

@@ -1,5 +1,6 @@
 #include "widgets/PlotPage.h"
 
+#include "widgets/EmptyPage.h"
 #include "widgets/PlotDress.h"
 #include "widgets/PlotOverlay.h"
 #include "widgets/traces/TraceColors.h"
@@ -55,11 +56,8 @@ PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
   mColumn = new QVBoxLayout(page);
   mColumn->setContentsMargins(0, 0, 0, 0);
   mColumn->addWidget(mPlot, 1);
-  mEmpty = new QLabel(this);
-  mEmpty->setAlignment(Qt::AlignCenter);
-  mEmpty->setWordWrap(true);
-  mEmpty->setMargin(16);
-  mEmpty->setTextFormat(Qt::PlainText);
+  mEmpty = new EmptyPage(this);
+  mEmpty->label().setTextFormat(Qt::PlainText);
   mPages = new QStackedLayout(this);
   mPages->addWidget(page);
   mPages->addWidget(mEmpty);
@@ -90,13 +88,19 @@ PlotPage::~PlotPage() {
 }
 
 void PlotPage::setTexts(const QString& title, const QString& xTitle, const QString& yTitle) {
+  // A plot without a name of its own is called after its title.
+  if (accessibleName() == mPlot->title().text()) setAccessibleName(title);
   mPlot->setTitle(QwtText(title, QwtText::PlainText));
   setTitle(*mPlot, QwtPlot::xBottom, xTitle, font());
   setTitle(*mPlot, QwtPlot::yLeft, yTitle, font());
 }
 
 void PlotPage::setEmptyText(const QString& text) {
-  mEmpty->setText(text);
+  mEmpty->label().setText(text);
+}
+
+void PlotPage::setEmptyCommands(const QList<QAction*>& commands) {
+  mEmpty->setCommands(commands);
 }
 
 QWidget* PlotPage::canvas() const {

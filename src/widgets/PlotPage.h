@@ -8,7 +8,7 @@
 #include <QWidget>
 #include <memory>
 
-class QLabel;
+class QAction;
 class QPainter;
 class QStackedLayout;
 class QVBoxLayout;
@@ -17,6 +17,8 @@ class QwtPlotGrid;
 class QwtPlotItem;
 
 namespace talvesk {
+
+class EmptyPage;
 
 /// A plot with distance to the right in the dress of the desktop, which is moved about in by the
 /// gestures of all plots. Without anything to show a text stands in its place.
@@ -29,6 +31,7 @@ class PlotPage : public QWidget, protected PlotSurface {
 
   void setTexts(const QString& title, const QString& xTitle, const QString& yTitle);
   void setEmptyText(const QString& text);
+  void setEmptyCommands(const QList<QAction*>& commands);  ///< offered below that text
 
   QWidget* canvas() const;  ///< the framed part that takes the mouse
   /// Where a place is on the canvas; y in the units of the left axis.
@@ -83,7 +86,7 @@ class PlotPage : public QWidget, protected PlotSurface {
   QVBoxLayout* mColumn = nullptr;
   QwtPlot* mPlot = nullptr;
   QwtPlotGrid* mGrid = nullptr;
-  QLabel* mEmpty = nullptr;
+  EmptyPage* mEmpty = nullptr;
   QWidget* mOverlay = nullptr;
   std::unique_ptr<PlotGestures> mGestures;
   QRectF mContent{0.0, 0.0, 1.0, 1.0};

@@ -260,6 +260,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionLoad_Project",
         "actionSettings",
         "actionExit",
+        "actionFind_command",
         "actionUser_guide",
         "actionHelp",
         "actionAbout",

@@ -44,7 +44,7 @@ CompareLayersDialog::CompareLayersDialog(const TomoDocument& document,
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mUi->table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   mSheet->setObjectName(QStringLiteral("sheet"));
-  mUi->sheetArea->setWidget(mSheet);
+  mSheet->putInto(*mUi->sheetArea);
   mUi->velocityEdit->setRange(static_cast<int>(parameters::kLayerVelocity.limits.least),
                               static_cast<int>(parameters::kLayerVelocity.limits.most));
   const Status status = LayeredProfile::read(mResults, mProfile);

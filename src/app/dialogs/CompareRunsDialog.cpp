@@ -47,7 +47,7 @@ CompareRunsDialog::CompareRunsDialog(const TomoDocument& document, const Section
   mComparison.lockedRange = lockedRange;
   mSheet = new FigureSheetWidget();
   mSheet->setObjectName(QStringLiteral("sheet"));
-  mUi->sheetArea->setWidget(mSheet);
+  mSheet->putInto(*mUi->sheetArea);
   for (QComboBox* box : {mUi->leftBox, mUi->rightBox}) {
     for (const KeptRun& run : mDocument.runs) box->addItem(runTitle(run), run.number);
     connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,

@@ -56,7 +56,7 @@ ElasticDialog::ElasticDialog(ElasticSurvey own, ElasticSurvey other, QWidget* pa
   wrapToolTips(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mSheet->setObjectName(QStringLiteral("sheet"));
-  mUi->sheetArea->setWidget(mSheet);
+  mSheet->putInto(*mUi->sheetArea);
   mUi->shownSplitter->setSizes({width() * 11 / 20, width() * 9 / 20});
   setUpField(*mUi->shiftEdit, parameters::kShiftOfS);
   setUpField(*mUi->toleranceEdit, parameters::kTopTolerance);

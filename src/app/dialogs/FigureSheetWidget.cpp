@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QResizeEvent>
+#include <QScrollArea>
 #include <cmath>
 #include <utility>
 
@@ -18,6 +19,11 @@ constexpr int kLeastWidth = 640;  // two sections side by side with their axes
 
 FigureSheetWidget::FigureSheetWidget(QWidget* parent) : QWidget(parent) {
   setMinimumSize(kLeastWidth, kLeastWidth / 2);
+}
+
+void FigureSheetWidget::putInto(QScrollArea& area) {
+  area.setWidget(this);
+  area.setAccessibleName(tr("Figure"));
 }
 
 void FigureSheetWidget::setFigure(Prepare prepare) {

@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <functional>
 
+class QScrollArea;
+
 namespace talvesk {
 
 /// A figure as wide as the widget, laid out anew for every width, so that its words keep their
@@ -19,6 +21,9 @@ class FigureSheetWidget : public QWidget {
   using Prepare = std::function<Status(double widthMm, FigureDrawing&)>;
 
   explicit FigureSheetWidget(QWidget* parent = nullptr);
+
+  /// The area scrolls it, takes the keys for that, and has its name for screen readers.
+  void putInto(QScrollArea& area);
 
   void setFigure(Prepare prepare);
   /// Says why there is none.

@@ -75,7 +75,7 @@ LayerMethodsDialog::LayerMethodsDialog(LayerPicks picks, QWidget* parent)
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   mSheet->setObjectName(QStringLiteral("sheet"));
-  mUi->sheetArea->setWidget(mSheet);
+  mSheet->putInto(*mUi->sheetArea);
   mUi->splitter->setSizes({325, 285});
   setUpField(*mUi->boundsEdit, parameters::kBounds);
   for (QTableWidget* table : {mUi->summaryTable, mUi->layer2Table, mUi->layer3Table}) {

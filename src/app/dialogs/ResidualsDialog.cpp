@@ -43,7 +43,7 @@ ResidualsDialog::ResidualsDialog(QWidget* parent)
   setModal(false);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mSheet->setObjectName(QStringLiteral("sheet"));
-  mUi->sheetArea->setWidget(mSheet);
+  mSheet->putInto(*mUi->sheetArea);
   mUi->buttonBox->button(QDialogButtonBox::Close)->setAutoDefault(false);
   mUi->map->setTexts(
       [this](const MatrixView::Place& place) { return cellText(place.row, place.column); });

@@ -47,7 +47,7 @@ ResolutionDialog::ResolutionDialog(const TomoDocument& document, QWidget* parent
   mUi->patternBox->addItems({tr("Checkerboard"), tr("Spikes"), tr("Layers")});
   mUi->groundBox->addItems({tr("the section"), tr("its mean at each depth")});
   mSheet->setObjectName(QStringLiteral("sheet"));
-  mUi->sheetArea->setWidget(mSheet);
+  mSheet->putInto(*mUi->sheetArea);
   if (mReady.ok()) {
     proposeSize();
     mSheet->setNothing(tr("Start shows here what was put in, what came back and how they agree."));

@@ -26,7 +26,7 @@ StartLayersDialog::StartLayersDialog(const TomoDocument& document,
       mSheet(new FigureSheetWidget) {
   mUi->setupUi(this);
   wrapToolTips(*this);
-  mUi->sheetArea->setWidget(mSheet);
+  mSheet->putInto(*mUi->sheetArea);
   setUpField(*mUi->thicknessEdit, parameters::kGrading);
   mUi->limitsLabel->setText(limitsOf(*mUi->thicknessEdit));
   connect(mUi->sharpRadio, &QRadioButton::toggled, this, &StartLayersDialog::fill);

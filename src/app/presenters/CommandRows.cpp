@@ -78,6 +78,7 @@ Rows fileRows(Desk& desk, Presenters& p) {
       {"actionODT", &State::records, call(p.reports, &ReportPresenter::writeOdt)},
       {"actionWeb_page", &State::records, call(p.reports, &ReportPresenter::writeWebPage)},
 
+      {"actionFind_command", always, call(p.search, &CommandSearchPresenter::find)},
       {"actionUser_guide", always, call(p.help, &HelpPresenter::openUserGuide)},
       {"actionHelp", always, call(p.help, &HelpPresenter::openOnlineHelp)},
       {"actionAbout", always, call(p.help, &HelpPresenter::showAbout)},

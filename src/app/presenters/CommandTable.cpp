@@ -64,6 +64,12 @@ void CommandTable::run(const std::string& slot) {
   refresh();
 }
 
+const Command* CommandTable::rowOf(const QObject& object) const {
+  const auto found = std::find(mObjects.begin(), mObjects.end(), &object);
+  return found == mObjects.end() ? nullptr
+                                 : &mRows[static_cast<std::size_t>(found - mObjects.begin())];
+}
+
 void CommandTable::refresh() {
   if (mDesk.inversionRuns) return;  // all are locked; they are refreshed when it has ended
   const CommandState state(mDesk);

@@ -37,6 +37,9 @@ class CommandTable {
   const std::vector<Command>& rows() const { return mRows; }
   static std::string slotOf(const Command& command);  ///< "on_actionGrid_triggered"
 
+  /// The row of an object of the form; null where it has none.
+  const Command* rowOf(const QObject& object) const;
+
   /// Tells the log the name of a slot and runs its command.
   void run(const std::string& slot);
   /// What is enabled and checked follows the survey and the view.

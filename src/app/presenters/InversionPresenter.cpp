@@ -138,7 +138,8 @@ void InversionPresenter::beside(BackgroundInversion& inversion, progressTomograp
   mDesk.inversionRuns = true;
   mProgress = &progress;
   {
-    const CommandLock lock(mDesk.window, {mDesk.ui.actionExit}, documentEditors());
+    const CommandLock lock(mDesk.window, {mDesk.ui.actionExit, mDesk.ui.actionFind_command},
+                           documentEditors());
     progress.show();
     mDesk.ui.statusBar->showMessage(tr("An inversion is under way; the survey cannot be edited."));
     work();

@@ -41,7 +41,9 @@ Presenters::Presenters(Desk& desk)
       drawings(desk),
       records(desk),
       reports(desk, layered),
-      help(desk) {
+      help(desk),
+      guidance(desk),
+      search(desk) {
   settings.changed = [this] { traceOptions.refresh(); };
   projects.fileChanged = [this] { survey.refresh(); };
 }
@@ -54,6 +56,7 @@ void Presenters::retranslate() {
   projects.retranslate();
   section.refresh();
   survey.refresh();
+  guidance.retranslate();
 }
 
 }  // namespace talvesk

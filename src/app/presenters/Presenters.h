@@ -4,6 +4,7 @@
 #include "app/presenters/AnnotationsPresenter.h"
 #include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
+#include "app/presenters/CommandSearchPresenter.h"
 #include "app/presenters/ContoursPresenter.h"
 #include "app/presenters/CurvesPresenter.h"
 #include "app/presenters/DepthProfilePresenter.h"
@@ -11,6 +12,7 @@
 #include "app/presenters/ExportPresenter.h"
 #include "app/presenters/FencePresenter.h"
 #include "app/presenters/GeometryPresenter.h"
+#include "app/presenters/GuidancePresenter.h"
 #include "app/presenters/HelpPresenter.h"
 #include "app/presenters/InversionPresenter.h"
 #include "app/presenters/KnownGroundPresenter.h"
@@ -89,6 +91,8 @@ struct Presenters {
   RecordExportPresenter records;
   ReportPresenter reports;
   HelpPresenter help;
+  GuidancePresenter guidance;
+  CommandSearchPresenter search;
 
   /// All texts that are not in the form.
   void retranslate();

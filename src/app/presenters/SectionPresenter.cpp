@@ -158,6 +158,15 @@ QString SectionPresenter::whyNoSection() const {
   return heading.arg(tr("Nothing to draw"), tr("No cell of the grid has a value to show."));
 }
 
+QList<QAction*> SectionPresenter::waysToASection() const {
+  if (mDesk.document().ttArray.empty())
+    return {mDesk.ui.actionOpen_shot_files, mDesk.ui.actionLoad_TT};
+  if (!mDesk.document().model->grid) {
+    return {mDesk.ui.actionGrid, mDesk.ui.actionRun_tomography_inversion};
+  }
+  return {mDesk.ui.actionGrid};
+}
+
 void SectionPresenter::refresh() {
   // A new grid has no information density until it is inverted, and a new section no certainty.
   const SectionQuantity quantity = mDesk.section().quantity;
@@ -173,7 +182,7 @@ void SectionPresenter::refresh() {
   if (built.ok()) {
     mDesk.ui.vtk_widget->showScene(std::move(scene), mDesk.palettes().current(), mDesk.section());
   } else {
-    mDesk.ui.vtk_widget->showText(whyNoSection());
+    mDesk.ui.vtk_widget->showText(whyNoSection(), waysToASection());
   }
 }
 

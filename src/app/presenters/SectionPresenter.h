@@ -35,6 +35,7 @@ class SectionPresenter : public QObject {
   std::vector<SectionLine> refractors() const;
   QString proposedBands() const;
   QString whyNoSection() const;
+  QList<QAction*> waysToASection() const;
   void showCursor(const SectionReading& reading);
 
   Desk& mDesk;

@@ -1,5 +1,6 @@
 #include "widgets/section/SectionView.h"
 
+#include "widgets/EmptyPage.h"
 #include "widgets/section/SectionView_state.h"
 
 #include <QDoubleSpinBox>
@@ -110,18 +111,16 @@ void SectionView::layOutControls() {
   s.paper->setMinimumSize(120, 80);
   s.paper->installEventFilter(this);
   s.overlay = new SectionOverlay(s.paper, s.sheet, s.camera, s.tool);
-  s.text = new QLabel(this);
-  s.text->setObjectName(QStringLiteral("sectionEmptyLabel"));
-  s.text->setTextFormat(Qt::RichText);
-  s.text->setAlignment(Qt::AlignCenter);
-  s.text->setWordWrap(true);
+  s.empty = new EmptyPage(this);
+  s.empty->label().setObjectName(QStringLiteral("sectionEmptyLabel"));
+  s.empty->label().setTextFormat(Qt::RichText);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(s.controls);
   s.pages = new QStackedLayout;
   layout->addLayout(s.pages, 1);
-  s.pages->addWidget(s.text);
+  s.pages->addWidget(s.empty);
   s.pages->addWidget(s.paper);
 
   connect(s.exaggeration, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
@@ -150,11 +149,12 @@ void SectionView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
 }
 
-void SectionView::showText(const QString& text) {
+void SectionView::showText(const QString& text, const QList<QAction*>& commands) {
   State& s = *mState;
   s.sheet.setScene(nullptr, ColorPalette(), s.sheet.settings());
-  s.text->setText(text);
-  s.pages->setCurrentWidget(s.text);
+  s.empty->label().setText(text);
+  s.empty->setCommands(commands);
+  s.pages->setCurrentWidget(s.empty);
   s.controls->hide();
   endTool();
   s.cursor.reset();

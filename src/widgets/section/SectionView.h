@@ -13,6 +13,8 @@
 
 class QHBoxLayout;
 
+class QAction;
+
 namespace talvesk {
 
 class SectionTool;
@@ -35,8 +37,8 @@ class SectionView : public QWidget {
   /// stretch of ground is shown than before.
   void showScene(std::shared_ptr<const SectionScene> scene, const ColorPalette& palette,
                  const SectionViewSettings& settings);
-  /// Shows a text instead, which may be rich.
-  void showText(const QString& text);
+  /// Shows a text instead, which may be rich, and offers commands below it.
+  void showText(const QString& text, const QList<QAction*>& commands = {});
   bool isEmpty() const;  ///< a text is shown
   const SectionScene* scene() const;
 

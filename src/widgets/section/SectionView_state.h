@@ -17,6 +17,8 @@ class QToolButton;
 
 namespace talvesk {
 
+class EmptyPage;
+
 /// Paints the paper over the canvas, and the tool at work over that; it lies in front of it and
 /// takes no events.
 class SectionOverlay : public QWidget {
@@ -52,7 +54,7 @@ struct SectionView::State {
   QToolButton* draw = nullptr;
   std::vector<QAction*> drawActions;  ///< as kAnnotationKinds
   QStackedLayout* pages = nullptr;
-  QLabel* text = nullptr;
+  EmptyPage* empty = nullptr;  ///< shown without a scene
   QWidget* paper = nullptr;
   SectionOverlay* overlay = nullptr;
 

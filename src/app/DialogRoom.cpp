@@ -1,0 +1,32 @@
+#include "app/DialogRoom.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QEvent>
+#include <QScreen>
+
+namespace talvesk {
+namespace {
+
+/// What the desktop lays around a dialog, pixels. It tells its own only when one has been shown.
+constexpr QSize kFrame(10, 30);
+
+}  // namespace
+
+DialogRoom::DialogRoom(QObject* parent) : QObject(parent) {
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool DialogRoom::eventFilter(QObject* watched, QEvent* event) {
+  // It comes before the dialog is on the screen, and before it looks for its place there.
+  if (event->type() == QEvent::Show && !event->spontaneous()) {
+    if (auto* dialog = qobject_cast<QDialog*>(watched)) {
+      const QSize room = dialog->screen()->availableSize() - kFrame;
+      const QSize bounded = dialog->size().boundedTo(room);
+      if (bounded != dialog->size()) dialog->resize(bounded);
+    }
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace talvesk

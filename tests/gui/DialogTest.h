@@ -1,0 +1,205 @@
+#pragma once
+
+#include "app/BackgroundCertainty.h"
+#include "app/FileFolders.h"
+#include "app/Languages.h"
+#include "app/dialogs/CertaintyDialog.h"
+#include "app/dialogs/CheckDialog.h"
+#include "app/dialogs/CommandSearchDialog.h"
+#include "app/dialogs/CompareLayersDialog.h"
+#include "app/dialogs/CompareRunsDialog.h"
+#include "app/dialogs/DialogSetGeometry.h"
+#include "app/dialogs/DrawingDialog.h"
+#include "app/dialogs/ElasticDialog.h"
+#include "app/dialogs/ExportTomoVelData.h"
+#include "app/dialogs/ImagesDialog.h"
+#include "app/dialogs/KnownGroundDialog.h"
+#include "app/dialogs/LayerMethodsDialog.h"
+#include "app/dialogs/MendDialog.h"
+#include "app/dialogs/PaletteDialog.h"
+#include "app/dialogs/ReadingsDialog.h"
+#include "app/dialogs/ReciprocityDialog.h"
+#include "app/dialogs/RecordingDetailsDialog.h"
+#include "app/dialogs/RefractionProcessingDialog.h"
+#include "app/dialogs/ReportDialog.h"
+#include "app/dialogs/ResidualsDialog.h"
+#include "app/dialogs/ResolutionDialog.h"
+#include "app/dialogs/RunsDialog.h"
+#include "app/dialogs/ScreenshotDialog.h"
+#include "app/dialogs/SecondLookDialog.h"
+#include "app/dialogs/SelectCSVDelimiterDialog.h"
+#include "app/dialogs/SettingsDialog.h"
+#include "app/dialogs/StartLayersDialog.h"
+#include "app/dialogs/contourlines_dialog.h"
+#include "app/dialogs/doFilteringDialog.h"
+#include "app/dialogs/gridDialog.h"
+#include "app/dialogs/progressTomographyDialog.h"
+#include "app/dialogs/runTomography_Dialog.h"
+#include "app/dialogs/select_speed_Dialog.h"
+#include "app/dialogs/setGeographyDialog.h"
+#include "app/dialogs/smoothingDialog.h"
+#include "gui/WindowTest.h"
+#include "io/SegyFile.h"
+#include "io/Survey.h"
+#include "model/ChiSquare.h"
+#include "refraction/BuildProfiles.h"
+#include "refraction/ShotArrivals.h"
+#include "refraction/methods/MethodResult.h"
+#include "support/RefractionLines.h"
+#include "support/TestSurveys.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QMenuBar>
+#include <QTabWidget>
+#include <QTest>
+#include <functional>
+#include <memory>
+
+namespace talvesk::testing {
+
+/// Every dialog of the program, of a survey that has something to show in each.
+class DialogTest : public WindowTest {
+ protected:
+  struct Case {
+    const char* name;
+    std::function<std::unique_ptr<QDialog>()> make;
+  };
+
+  template <typename Dialog, typename... Arguments>
+  std::unique_ptr<QDialog> make(Arguments&&... arguments) {
+    return std::make_unique<Dialog>(std::forward<Arguments>(arguments)..., window.get());
+  }
+
+  void openSurvey() {
+    open();
+    loadShots(2);
+    for (TravelTime& record : writable().ttArray.edit()) {
+      for (double& time : record.ttMisurati.edit()) time = 0.01;
+    }
+    putGrid(writable(), 10.0, 1.0);
+  }
+
+  /// A line over two layers with its layered profile, beside the survey of the window.
+  void layOutLayers() {
+    std::vector<refractionDataStructure::layerStruct> marks;
+    mLayered.document = standardDippingLine(twoDippingLayers(), marks);
+    putGrid(mLayered.document, 30.0, 2.0);
+    auto& interpretation = mLayered.interpretation.edit();
+    interpretation.ttLayer = marks;
+    ASSERT_TRUE(buildProfiles(shotArrivals(mLayered.document), interpretation).built);
+  }
+
+  std::vector<Case> cases() {
+    std::vector<Case> all = surveyCases();
+    const std::vector<Case> more = layerCases();
+    all.insert(all.end(), more.begin(), more.end());
+    return all;
+  }
+
+  std::vector<Case> layerCases() {
+    layOutLayers();
+    const TomoDocument& line = mLayered.document;
+    const auto& layers = *mLayered.interpretation;
+    const ElasticSurvey wave{QStringLiteral("line"), line, layers};
+    return {
+        {"check", [&] { return make<CheckDialog>(); }},
+        {"command search",
+         [&] {
+           return make<CommandSearchDialog>(commandsOf(*window->menuBar(), nullptr), QStringList());
+         }},
+        {"known ground", [&] { return make<KnownGroundDialog>(KnownGround(), QString()); }},
+        {"reciprocity", [&] { return make<ReciprocityDialog>(); }},
+        {"residuals", [&] { return make<ResidualsDialog>(); }},
+        {"runs", [&] { return make<RunsDialog>(); }},
+        {"two runs", [&] { return make<CompareRunsDialog>(line, SectionFigureOptions(), false); }},
+        {"second look", [&] { return make<SecondLookDialog>(); }},
+        {"layers and section",
+         [&] {
+           return make<CompareLayersDialog>(line, layers.refractData, SectionFigureOptions());
+         }},
+        {"start from layers",
+         [&] { return make<StartLayersDialog>(line, layers.refractData, SectionFigureOptions()); }},
+        {"methods",
+         [&] { return make<LayerMethodsDialog>(layerPicksOf(line, layers, PickErrorRule())); }},
+        {"P and S", [wave, this] { return make<ElasticDialog>(wave, wave); }}};
+  }
+
+  std::vector<Case> surveyCases() {
+    TomoDocument& document = writable();
+    const SurveyProfile profile = document.surveyProfile();
+    return {
+        {"geometry", [&] { return make<DialogSetGeometry>(document, mSegy, mFolders, mContext); }},
+        {"shift", [&] { return make<ExportTomoVelData>(); }},
+        {"drawing", [&] { return make<DrawingDialog>(DrawingDialog::Start()); }},
+        {"images", [&] { return make<ImagesDialog>(document, mLayers, ImageSetOptions(), 0); }},
+        {"palette",
+         [&] {
+           return make<PaletteDialog>(mPalettes, false, ValueRange{250.0, 900.0}, mFolders);
+         }},
+        {"mend", [&] { return make<MendDialog>(document, 0); }},
+        {"recording", [&] { return make<RecordingDetailsDialog>(document, mFiles, 0); }},
+        {"readings",
+         [&] {
+           return make<ReadingsDialog>(std::vector<ReadingsDialog::File>{{&mReading, &mFuller}});
+         }},
+        {"refraction", [&] { return make<RefractionProcessingDialog>(document, mLayers); }},
+        {"report", [&] { return make<ReportDialog>(ReportOptions(), mBuild); }},
+        {"screenshot", [&] { return make<ScreenshotDialog>(QSize(600, 400)); }},
+        {"separator", [&] { return make<SelectCSVDelimiterDialog>(); }},
+        {"settings", [&] { return make<SettingsDialog>(mLanguages.list(), 0, mSettings); }},
+        {"contours",
+         [&] {
+           return make<contourlines_dialog>(mContours, SectionQuantity::kVelocity,
+                                            ValueRange{250.0, 900.0}, mFolders);
+         }},
+        {"resolution", [&] { return make<ResolutionDialog>(document); }},
+        {"certainty", [&] { return make<CertaintyDialog>(document, mCertainty); }},
+        {"filters",
+         [&] { return make<doFilteringDialog>(document, 0, std::vector<std::int32_t>{1}); }},
+        {"grid",
+         [&, profile] {
+           return make<gridDialog>(document, profile, GridSettings{9.0, 0.5, 6}, 2U);
+         }},
+        {"progress", [&] { return make<progressTomographyDialog>(); }},
+        {"run", [&] { return make<runTomography_Dialog>(250.0, 3500.0); }},
+        {"layers", [&] { return make<select_speed_Dialog>(document); }},
+        {"coordinates",
+         [&] { return make<setGeographyDialog>(std::nullopt, std::optional<LineEnds>()); }},
+        {"smoothing", [&] { return make<smoothingDialog>(SmoothingType::kUniform); }}};
+  }
+
+  static void show(QDialog& dialog) {
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  }
+
+  /// Calls it for every page of the dialog, which may be only one.
+  static void onEveryPage(QDialog& dialog, const std::function<void(int page)>& look) {
+    const auto tabs = dialog.findChildren<QTabWidget*>();
+    const int pages = tabs.isEmpty() ? 1 : tabs.front()->count();
+    for (int page = 0; page < pages; ++page) {
+      if (!tabs.isEmpty()) tabs.front()->setCurrentIndex(page);
+      QCoreApplication::processEvents();
+      look(page);
+    }
+  }
+
+  Survey mLayered;
+  SegyState mSegy;
+  FileFolders mFolders{History(home.file("history.txt"))};
+  DialogSetGeometry::Context mContext;
+  refractionDataStructure::Interpretation mLayers;
+  ColorPaletteList mPalettes;
+  std::vector<RecordingInfo> mFiles;
+  ReadShotFile mReading;
+  FullerReading mFuller;
+  ReportDialog::Build mBuild = [](const ReportOptions&, ReportContent&) { return Status(); };
+  Languages mLanguages;
+  Settings mSettings{home.file("settings.xml")};
+  ContourSettings mContours;
+  BackgroundCertainty mCertainty;
+};
+
+}  // namespace talvesk::testing
