@@ -79,12 +79,12 @@ py::list traceRays(const LineGrid& grid, double source, const GivenArray& receiv
     const py::gil_scoped_release free;
     const GridGeometry& geometry = grid.grid().geometry();
     ShortestPaths paths = searched(grid, source);
-    std::vector<std::uint32_t> receivers;
-    for (const double receiver : places) receivers.push_back(nodeAt(grid, receiver));
+    std::vector<std::uint32_t> nodes;
+    for (const double receiver : places) nodes.push_back(nodeAt(grid, receiver));
     RayTree tree;
-    paths.trace(receivers, tree);
+    paths.trace(nodes, tree);
     std::vector<RayTree::Run> runs;
-    for (std::size_t ray = 0; ray < receivers.size(); ++ray) {
+    for (std::size_t ray = 0; ray < nodes.size(); ++ray) {
       std::vector<Point2D> points;
       for (const std::uint32_t node : tree.nodesOf(ray, runs)) {
         points.push_back({grid.surveyX(geometry.nodeX(node)), -geometry.nodeZ(node)});
