@@ -10,6 +10,7 @@
 #include "io/NamedPositions.h"
 #include "io/SurveyedTable.h"
 #include "model/ElevationProfile.h"
+#include "model/SurveyedPositions.h"
 #include "model/TomoDocument.h"
 
 #include <algorithm>
