@@ -49,6 +49,277 @@
     </message>
 </context>
 <context>
+    <name>talvesk::AnnotationsDialog</name>
+    <message>
+        <source>Annotations</source>
+        <translation>Anotaciones</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground that are drawn on the section. They can be drawn with the mouse as well: Draw, above the section.</source>
+        <translation>Textos, líneas y áreas de terreno que se dibujan en la sección. También se pueden dibujar con el ratón: Dibujar, encima de la sección.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Patrón</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Grosor</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+    <message>
+        <source>Add a text in the middle of the section</source>
+        <translation>Añade un texto en el centro de la sección</translation>
+    </message>
+    <message>
+        <source>Add &amp;text</source>
+        <translation>Añadir &amp;texto</translation>
+    </message>
+    <message>
+        <source>Add a line in the middle of the section</source>
+        <translation>Añade una línea en el centro de la sección</translation>
+    </message>
+    <message>
+        <source>Add &amp;line</source>
+        <translation>Añadir &amp;línea</translation>
+    </message>
+    <message>
+        <source>Add an area in the middle of the section</source>
+        <translation>Añade un área en el centro de la sección</translation>
+    </message>
+    <message>
+        <source>Add &amp;polygon</source>
+        <translation>Añadir &amp;polígono</translation>
+    </message>
+    <message>
+        <source>Remove the annotation that is selected</source>
+        <translation>Quita la anotación seleccionada</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Let those after it be drawn over it</source>
+        <translation>Hace que las siguientes se dibujen encima de ella</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>Points of the annotation that is selected</source>
+        <translation>Puntos de la anotación seleccionada</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distancia [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Cota [m]</translation>
+    </message>
+    <message>
+        <source>Add a point behind the one that is selected</source>
+        <translation>Añade un punto detrás del seleccionado</translation>
+    </message>
+    <message>
+        <source>Add p&amp;oint</source>
+        <translation>Añadir p&amp;unto</translation>
+    </message>
+    <message>
+        <source>Remove the point that is selected</source>
+        <translation>Quita el punto seleccionado</translation>
+    </message>
+    <message>
+        <source>Remove po&amp;int</source>
+        <translation>Quitar pu&amp;nto</translation>
+    </message>
+    <message>
+        <source>Annotations: %1.</source>
+        <translation>Anotaciones: %1.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed?</source>
+        <translation>¿Descartar los cambios?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignPage</name>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>Desajuste RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS misfit [%]</source>
+        <translation>Desajuste RMS [%]</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi cuadrado</translation>
+    </message>
+    <message>
+        <source>Length covered [m]</source>
+        <translation>Longitud cubierta [m]</translation>
+    </message>
+    <message>
+        <source>Depth reached [m]</source>
+        <translation>Profundidad alcanzada [m]</translation>
+    </message>
+    <message>
+        <source>Cells with rays [%]</source>
+        <translation>Celdas con rayos [%]</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>Not inverted yet</source>
+        <translation>Aún sin invertir</translation>
+    </message>
+    <message>
+        <source>The misfit of the section is not known</source>
+        <translation>No se conoce el desajuste de la sección</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion</source>
+        <translation>Los picados han cambiado desde la inversión</translation>
+    </message>
+    <message>
+        <source>Smoothed after the inversion</source>
+        <translation>Suavizada después de la inversión</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Modo oscuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Modo claro</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Emplazamiento</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Lines: %1; with a section: %2; failed: %3</source>
+        <translation>Líneas: %1; con sección: %2; fallidas: %3</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
+        <translation>Las secciones pequeñas se estiran para llenar su sitio; sus colores son los mismos en todas las líneas. Los desajustes son los de las secciones mostradas, con rayos recalculados.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sección</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Picados utilizados</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Fecha de inversión</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Failed:</source>
+        <translation>Fallidas:</translation>
+    </message>
+    <message>
+        <source>Velocity section of %1</source>
+        <translation>Sección de velocidades de %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Map of the lines</source>
+        <translation>Mapa de las líneas</translation>
+    </message>
+    <message>
+        <source>Numbers are those of the table; each stands at the first geophone of its line.</source>
+        <translation>Los números son los de la tabla; cada uno está en el primer geófono de su línea.</translation>
+    </message>
+    <message>
+        <source>Lines whose position is not known: %1</source>
+        <translation>Líneas cuya posición no se conoce: %1</translation>
+    </message>
+    <message>
+        <source>Campaign</source>
+        <translation>Campaña</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Saltar al contenido</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CertaintyDialog</name>
     <message>
         <source>Certainty</source>
@@ -272,6 +543,21 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ColorField</name>
+    <message>
+        <source>Choose another colour</source>
+        <translation>Elegir otro color</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Color %1</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -366,6 +652,145 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source> of %1</source>
         <translation> de %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandReasons</name>
+    <message>
+        <source>There are no shots yet.</source>
+        <translation>Aún no hay disparos.</translation>
+    </message>
+    <message>
+        <source>There are no recordings yet.</source>
+        <translation>Aún no hay registros.</translation>
+    </message>
+    <message>
+        <source>No shot is in view.</source>
+        <translation>No hay ningún disparo a la vista.</translation>
+    </message>
+    <message>
+        <source>No shot with traces is in view.</source>
+        <translation>No hay ningún disparo con trazas a la vista.</translation>
+    </message>
+    <message>
+        <source>Nothing is mended.</source>
+        <translation>No hay nada corregido.</translation>
+    </message>
+    <message>
+        <source>The shot in view has no filtered copy.</source>
+        <translation>El disparo a la vista no tiene copia filtrada.</translation>
+    </message>
+    <message>
+        <source>No recording begins before its shot.</source>
+        <translation>Ningún registro comienza antes de su disparo.</translation>
+    </message>
+    <message>
+        <source>The selected traces have no picks.</source>
+        <translation>Las trazas seleccionadas no tienen picados.</translation>
+    </message>
+    <message>
+        <source>No pick of the selected traces waits for confirmation.</source>
+        <translation>Ningún picado de las trazas seleccionadas espera confirmación.</translation>
+    </message>
+    <message>
+        <source>There are no shots yet, or no picks are shown.</source>
+        <translation>Aún no hay disparos, o no se muestran los picados.</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>No hay vista anterior.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>No hay vista siguiente.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>No hay nada que deshacer.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>No hay nada que rehacer.</translation>
+    </message>
+    <message>
+        <source>There are no geophones and no shots yet.</source>
+        <translation>Aún no hay geófonos ni disparos.</translation>
+    </message>
+    <message>
+        <source>There is nothing to save.</source>
+        <translation>No hay nada que guardar.</translation>
+    </message>
+    <message>
+        <source>There is no grid yet.</source>
+        <translation>Aún no hay malla.</translation>
+    </message>
+    <message>
+        <source>There is no inversion yet.</source>
+        <translation>Aún no hay inversión.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile yet.</source>
+        <translation>Aún no hay perfil de capas.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the ground under the grid.</source>
+        <translation>No se conoce nada del terreno bajo la malla.</translation>
+    </message>
+    <message>
+        <source>There is no section yet.</source>
+        <translation>Aún no hay sección.</translation>
+    </message>
+    <message>
+        <source>There is no line of geophones yet.</source>
+        <translation>Aún no hay línea de geófonos.</translation>
+    </message>
+    <message>
+        <source>There is no grid under a line of geophones yet.</source>
+        <translation>Aún no hay malla bajo una línea de geófonos.</translation>
+    </message>
+    <message>
+        <source>There is nothing to make pictures of yet.</source>
+        <translation>Aún no hay nada de lo que hacer imágenes.</translation>
+    </message>
+    <message>
+        <source>How certain the section is has not been computed.</source>
+        <translation>No se ha calculado la certeza de la sección.</translation>
+    </message>
+    <message>
+        <source>It cannot work yet.</source>
+        <translation>Aún no está disponible.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandSearchDialog</name>
+    <message>
+        <source>Find Command</source>
+        <translation>Buscar comando</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>Palabras del comando</translation>
+    </message>
+    <message>
+        <source>Type words of a command</source>
+        <translation>Escriba palabras de un comando</translation>
+    </message>
+    <message>
+        <source>Commands found</source>
+        <translation>Comandos encontrados</translation>
+    </message>
+    <message>
+        <source>No command has these words.</source>
+        <translation>Ningún comando tiene estas palabras.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>why a command cannot work, its menu</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not now: %1</source>
+        <translation>ahora no: %1</translation>
     </message>
 </context>
 <context>
@@ -526,6 +951,41 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>of all picks as they are %1 ms</source>
         <translation>de todos los picados tal como están, %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DepthProfileDialog</name>
+    <message>
+        <source>Depth profile</source>
+        <translation>Perfil de profundidad</translation>
+    </message>
+    <message>
+        <source>&amp;Distance:</source>
+        <translation>&amp;Distancia:</translation>
+    </message>
+    <message>
+        <source>Where along the line the profile stands</source>
+        <translation>Lugar de la línea en que está el perfil</translation>
+    </message>
+    <message>
+        <source>Show the ground below the mouse as it moves over the section</source>
+        <translation>Muestra el terreno bajo el ratón mientras se mueve por la sección</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the pointer</source>
+        <translation>&amp;Seguir el puntero</translation>
+    </message>
+    <message>
+        <source>Save the profile as PNG, SVG or PDF</source>
+        <translation>Guarda el perfil como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Guardar imagen ...</translation>
+    </message>
+    <message>
+        <source>Velocity, gradient and certainty against depth</source>
+        <translation>Velocidad, gradiente y certeza en función de la profundidad</translation>
     </message>
 </context>
 <context>
@@ -926,6 +1386,29 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
             <numerusform>%n posición queda más allá de sus extremos, de %1 a %2 m, y ha recibido la cota de allí.</numerusform>
             <numerusform>%n posiciones quedan más allá de sus extremos, de %1 a %2 m, y han recibido la cota de allí.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DrawingDialog</name>
+    <message>
+        <source>Lines to be exported</source>
+        <translation>Líneas que se exportan</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines of velocity:</source>
+        <translation>&amp;Isolíneas de velocidad:</translation>
+    </message>
+    <message>
+        <source>Velocities with blanks between them; each becomes lines through the section</source>
+        <translation>Velocidades separadas por espacios; cada una da líneas en la sección</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>&amp;Distance along the line and elevation</source>
+        <translation>&amp;Distancia a lo largo de la línea y cota</translation>
     </message>
 </context>
 <context>
@@ -9227,10 +9710,6 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Errores de los picados</translation>
     </message>
     <message>
-        <source>&amp;Colour shot:</source>
-        <translation>&amp;Resaltar disparo:</translation>
-    </message>
-    <message>
         <source>Whose dots have a colour of their own in the picture over the offset</source>
         <translation>Disparo cuyos puntos tienen color propio en la imagen según la distancia</translation>
     </message>
@@ -13308,10 +13787,6 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>No samples, only picks</source>
         <translation>Sin muestras, solo picados</translation>
-    </message>
-    <message>
-        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
-        <translation>Trazas %1 a %2: C confirma, Supr quita, Esc deselecciona</translation>
     </message>
     <message>
         <source>Open shot files with Ctrl+O or drop them here</source>
