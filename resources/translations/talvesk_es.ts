@@ -1410,6 +1410,34 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>&amp;Distance along the line and elevation</source>
         <translation>&amp;Distancia a lo largo de la línea y cota</translation>
     </message>
+    <message>
+        <source>A flat drawing: x is the distance along the line, y the elevation, in metres</source>
+        <translation>Un dibujo plano: x es la distancia a lo largo de la línea, y la cota, en metros</translation>
+    </message>
+    <message>
+        <source>&amp;Easting, northing and elevation on the map</source>
+        <translation>&amp;Este, norte y cota en el mapa</translation>
+    </message>
+    <message>
+        <source>Lines in space by the geographic coordinates of the line, in metres</source>
+        <translation>Líneas en el espacio según las coordenadas geográficas de la línea, en metros</translation>
+    </message>
+    <message>
+        <source>There is no section yet, and so there are no isolines.</source>
+        <translation>Aún no hay sección y, por tanto, no hay isolíneas.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map. Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>La línea no tiene lugar en el mapa. Indíquelo con Proyecto &gt; Definir coordenadas geográficas ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a velocity.</source>
+        <translation>«%1» no es una velocidad.</translation>
+    </message>
+    <message>
+        <source>A section has %1 isovalues at most.</source>
+        <translation>Una sección tiene %1 isovalores como máximo.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ElasticDialog</name>
@@ -1678,6 +1706,101 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>The Z offset is not a number.</source>
         <translation>El desplazamiento Z no es un número.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceDialog</name>
+    <message>
+        <source>Fence of several lines</source>
+        <translation>Panel de varias líneas</translation>
+    </message>
+    <message>
+        <source>&amp;Lines:</source>
+        <translation>&amp;Líneas:</translation>
+    </message>
+    <message>
+        <source>Stand the sections of other projects beside this one; the projects stay as they are</source>
+        <translation>Coloca las secciones de otros proyectos junto a esta; los proyectos quedan como están</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>&amp;Añadir proyectos ...</translation>
+    </message>
+    <message>
+        <source>Take the line that is selected out of the fence</source>
+        <translation>Quita del panel la línea seleccionada</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>&amp;Exageración vertical:</translation>
+    </message>
+    <message>
+        <source>Save the view as a PNG picture</source>
+        <translation>Guarda la vista como imagen PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Guardar imagen ...</translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation>Ver &amp;todo</translation>
+    </message>
+    <message>
+        <source>Lines that stand in the fence: %1.</source>
+        <translation>Líneas del panel: %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation>Excluidas: %1.</translation>
+    </message>
+    <message>
+        <source>it has no position on the map</source>
+        <translation>no tiene posición en el mapa</translation>
+    </message>
+    <message>
+        <source>its position is in EPSG:%1, that of the others in EPSG:%2</source>
+        <translation>su posición está en EPSG:%1, la de las demás en EPSG:%2</translation>
+    </message>
+    <message>
+        <source>it has no geophones</source>
+        <translation>no tiene geófonos</translation>
+    </message>
+    <message>
+        <source>its first and last geophone are at one place of the map</source>
+        <translation>su primer y su último geófono están en el mismo punto del mapa</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceView</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Sections at their places on the map</source>
+        <translation>Secciones en su lugar del mapa</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureSheetWidget</name>
+    <message>
+        <source>Figure</source>
+        <translation>Figura</translation>
     </message>
 </context>
 <context>
@@ -2234,6 +2357,47 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Layer 1, %1 m/s in the mean</source>
         <translation>Capa 1, %1 m/s de media</translation>
     </message>
+    <message>
+        <source>Vertical gradient [1/s]</source>
+        <translation>Gradiente vertical [1/s]</translation>
+    </message>
+    <message>
+        <source>Uncertainty [%]</source>
+        <translation>Incertidumbre [%]</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distancia %1 m</translation>
+    </message>
+    <message>
+        <source>no section here</source>
+        <translation>aquí no hay sección</translation>
+    </message>
+    <message>
+        <source>surface at %1 m</source>
+        <translation>superficie a %1 m</translation>
+    </message>
+    <message>
+        <source>shaded: 16 to 84 %</source>
+        <translation>sombreado: del 16 al 84 %</translation>
+    </message>
+    <message>
+        <source>%1 with a gain of their own</source>
+        <comment>traces</comment>
+        <translation>%1 con ganancia propia</translation>
+    </message>
+    <message>
+        <source>annotations outside the section: %1</source>
+        <translation>anotaciones fuera de la sección: %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (not reached)</source>
+        <translation>%1 (no se alcanza)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -2376,6 +2540,29 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Hold to known ground</source>
         <translation>Condicionar al terreno conocido</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FkView</name>
+    <message>
+        <source>Spectrum over wavenumber and frequency</source>
+        <translation>Espectro según el número de onda y la frecuencia</translation>
+    </message>
+    <message>
+        <source>No spectrum</source>
+        <translation>Sin espectro</translation>
+    </message>
+    <message>
+        <source>Wavenumber along the line (1/m)</source>
+        <translation>Número de onda a lo largo de la línea (1/m)</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Frecuencia (Hz)</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
     </message>
 </context>
 <context>
@@ -2529,6 +2716,34 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
 </context>
 <context>
+    <name>talvesk::GuidanceStrip</name>
+    <message>
+        <source>Guidance</source>
+        <translation>Guía de pasos</translation>
+    </message>
+    <message>
+        <source>Show the steps from recordings to a section, and how they stand</source>
+        <translation>Muestra los pasos desde los registros hasta la sección y cómo están</translation>
+    </message>
+    <message>
+        <source>A click: %1</source>
+        <translation>Un clic: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>step, how it stands</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1. A click: %2</source>
+        <translation>%1. Un clic: %2</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation>Siguiente: %1</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
@@ -2598,6 +2813,13 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Search</source>
         <translation>Buscar</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::HandleTrack</name>
+    <message>
+        <source>Handle %1</source>
+        <translation>Cursor %1</translation>
     </message>
 </context>
 <context>
@@ -2781,6 +3003,10 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Shot by geophone, and in the section along the rays</source>
         <translation>Disparo por geófono, y en la sección a lo largo de los rayos</translation>
+    </message>
+    <message>
+        <source>Files to be written</source>
+        <translation>Archivos que se escribirán</translation>
     </message>
 </context>
 <context>
@@ -3327,6 +3553,38 @@ respaldo de picados</translation>
         <source>Elevation (m)</source>
         <translation>Cota (m)</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geófono %1</translation>
+    </message>
+    <message>
+        <source>x %1 m, %2 m across</source>
+        <translation>x %1 m, %2 m en transversal</translation>
+    </message>
+    <message>
+        <source>%1 m east, %2 m north</source>
+        <translation>%1 m al este, %2 m al norte</translation>
+    </message>
+    <message>
+        <source>Across the line (m)</source>
+        <translation>Transversal a la línea (m)</translation>
+    </message>
+    <message>
+        <source>East of the first geophone (m)</source>
+        <translation>Al este del primer geófono (m)</translation>
+    </message>
+    <message>
+        <source>North of it (m)</source>
+        <translation>Al norte de él (m)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LossQuestion</name>
@@ -3361,6 +3619,53 @@ respaldo de picados</translation>
     <message>
         <source>The survey changes. This will be removed (Undo brings it back):</source>
         <translation>El levantamiento cambia. Se quitará lo siguiente (Deshacer lo recupera):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MarkedIsolinesDialog</name>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolíneas destacadas</translation>
+    </message>
+    <message>
+        <source>Velocities that mean something, such as 1500 m/s for the water table. Their lines stand out from the section and carry their names.</source>
+        <translation>Velocidades con un significado, como 1500 m/s para el nivel freático. Sus líneas destacan en la sección y llevan su nombre.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Grosor</translation>
+    </message>
+    <message>
+        <source>Mark another velocity</source>
+        <translation>Destaca otra velocidad</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Añadir</translation>
+    </message>
+    <message>
+        <source>Remove the line that is selected</source>
+        <translation>Quita la línea seleccionada</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>water table</source>
+        <translation>nivel freático</translation>
     </message>
 </context>
 <context>
@@ -3441,6 +3746,10 @@ respaldo de picados</translation>
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Ganancia</translation>
     </message>
 </context>
 <context>
@@ -7380,6 +7689,182 @@ Defina la posición de los geófonos
     <message>
         <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
         <translation>En este perfil, la velocidad de la capa 1 varía a lo largo de la línea y con la profundidad; aquí se toma en todas partes su media, %1 m/s.</translation>
+    </message>
+    <message>
+        <source>the first distance must be a number, and the EPSG code a whole number</source>
+        <translation>la primera distancia debe ser un número, y el código EPSG un número entero</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>No se puede escribir %1</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Filtro notch</translation>
+    </message>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtro de velocidad</translation>
+    </message>
+    <message>
+        <source>the line has no place on the map; its geographic coordinates are missing</source>
+        <translation>la línea no tiene lugar en el mapa; faltan sus coordenadas geográficas</translation>
+    </message>
+    <message>
+        <source>two shot files of the survey would both become %1</source>
+        <translation>dos archivos de disparos del levantamiento se convertirían ambos en %1</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey; choose another folder</source>
+        <translation>%1 es uno de los archivos de disparos de este levantamiento; elija otra carpeta</translation>
+    </message>
+    <message>
+        <source>it holds several shots, whose traces may be mixed</source>
+        <translation>contiene varios disparos, cuyas trazas pueden estar mezcladas</translation>
+    </message>
+    <message>
+        <source>its traces are not those of the survey any more</source>
+        <translation>sus trazas ya no son las del levantamiento</translation>
+    </message>
+    <message>
+        <source>miniSEED has no headers for picks</source>
+        <translation>miniSEED no tiene cabeceras para picados</translation>
+    </message>
+    <message>
+        <source>the survey has no shot files</source>
+        <translation>el levantamiento no tiene archivos de disparos</translation>
+    </message>
+    <message>
+        <source>%1 was left out: %2</source>
+        <translation>se ha omitido %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 has no picks</source>
+        <translation>%1 no tiene picados</translation>
+    </message>
+    <message>
+        <source>%1 shots have no shot file of their own and were left out</source>
+        <translation>%1 disparos no tienen archivo de disparo propio y se han omitido</translation>
+    </message>
+    <message>
+        <source>bytes 233 to 236 of %1 trace headers held something else before</source>
+        <translation>los bytes 233 a 236 de %1 cabeceras de traza contenían antes otra cosa</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 cannot be followed</source>
+        <translation>no se puede seguir la cabecera de la traza %1</translation>
+    </message>
+    <message>
+        <source>it has %1 traces, the survey %2 of them</source>
+        <translation>tiene %1 trazas, y el levantamiento %2 de ellas</translation>
+    </message>
+    <message>
+        <source>it would grow too large</source>
+        <translation>crecería demasiado</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 has no room for a pick</source>
+        <translation>en la cabecera de la traza %1 no cabe un picado</translation>
+    </message>
+    <message>
+        <source>it is SEG-Y of revision 2, whose trace headers have no bytes to spare</source>
+        <translation>es SEG-Y de revisión 2, cuyas cabeceras de traza no tienen bytes libres</translation>
+    </message>
+    <message>
+        <source>it is not known by what the filtered copies of its traces were made</source>
+        <translation>no se sabe con qué se hicieron las copias filtradas de sus trazas</translation>
+    </message>
+    <message>
+        <source>marked isolines and what was drawn on its section are lost</source>
+        <translation>se pierden las isolíneas destacadas y lo dibujado en su sección</translation>
+    </message>
+    <message>
+        <source>the line lies straight on the map between its ends</source>
+        <translation>la línea va recta en el mapa entre sus extremos</translation>
+    </message>
+    <message>
+        <source>its vertices are no course of a line</source>
+        <translation>sus vértices no forman el trazado de una línea</translation>
+    </message>
+    <message>
+        <source>it belongs to another map position</source>
+        <translation>corresponde a otra posición en el mapa</translation>
+    </message>
+    <message>
+        <source>it tells of traces that are not there, or of filters that are not known</source>
+        <translation>habla de trazas que no existen, o de filtros desconocidos</translation>
+    </message>
+    <message>
+        <source>%1 is no style file: %2</source>
+        <translation>%1 no es un archivo de estilo: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of Talvesk has written it</source>
+        <translation>lo ha escrito una versión más reciente de Talvesk</translation>
+    </message>
+    <message>
+        <source>the place lies outside of %1</source>
+        <translation>el lugar está fuera de %1</translation>
+    </message>
+    <message>
+        <source>it is not known which columns hold easting and northing, or longitude and latitude</source>
+        <translation>no se sabe qué columnas contienen este y norte, o longitud y latitud</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 rows, which is no table of a line</source>
+        <translation>%1 tiene más de %2 filas, y eso no es la tabla de una línea</translation>
+    </message>
+    <message>
+        <source>its text is too long</source>
+        <translation>su texto es demasiado largo</translation>
+    </message>
+    <message>
+        <source>its colour is none</source>
+        <translation>su color no es válido</translation>
+    </message>
+    <message>
+        <source>a line is %1 to %2 points wide</source>
+        <translation>el grosor de una línea es de %1 a %2 puntos</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polígono</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>Arena</translation>
+    </message>
+    <message>
+        <source>Gravel</source>
+        <translation>Grava</translation>
+    </message>
+    <message>
+        <source>Clay</source>
+        <translation>Arcilla</translation>
+    </message>
+    <message>
+        <source>Silt</source>
+        <translation>Limo</translation>
+    </message>
+    <message>
+        <source>Rock</source>
+        <translation>Roca</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Relleno</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Agua</translation>
     </message>
 </context>
 <context>
