@@ -7866,6 +7866,442 @@ Defina la posición de los geófonos
         <source>Water</source>
         <translation>Agua</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>it is neither text nor line nor polygon</source>
+        <translation>no es texto, línea ni polígono</translation>
+    </message>
+    <message>
+        <source>its pattern is none</source>
+        <translation>su patrón no es válido</translation>
+    </message>
+    <message>
+        <source>it says nothing</source>
+        <translation>no dice nada</translation>
+    </message>
+    <message>
+        <source>a text stands at one point, not at %1</source>
+        <translation>un texto está en un punto, no en %1</translation>
+    </message>
+    <message>
+        <source>it has %1 points and needs %2 at least</source>
+        <translation>tiene %1 puntos y necesita %2 como mínimo</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 m is no place of a section</source>
+        <translation>%1 m, %2 m no es un lugar de una sección</translation>
+    </message>
+    <message>
+        <source>a text is %1 to %2 points high</source>
+        <translation>el tamaño de un texto es de %1 a %2 puntos</translation>
+    </message>
+    <message>
+        <source>a section holds %1 marked isolines and %2 annotations with %3 points at most</source>
+        <translation>una sección tiene como máximo %1 isolíneas destacadas y %2 anotaciones con %3 puntos</translation>
+    </message>
+    <message>
+        <source>marked isoline %1</source>
+        <translation>isolínea destacada %1</translation>
+    </message>
+    <message>
+        <source>annotation %1</source>
+        <translation>anotación %1</translation>
+    </message>
+    <message>
+        <source>band-pass from %1 Hz, order %2, to %3 Hz, order %4</source>
+        <translation>paso banda de %1 Hz, orden %2, a %3 Hz, orden %4</translation>
+    </message>
+    <message>
+        <source>low-pass %1 Hz, order %2</source>
+        <translation>paso bajo %1 Hz, orden %2</translation>
+    </message>
+    <message>
+        <source>high-pass %1 Hz, order %2</source>
+        <translation>paso alto %1 Hz, orden %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s and more</source>
+        <translation>%1 m/s o más</translation>
+    </message>
+    <message>
+        <source>forth along the line</source>
+        <translation>hacia delante en la línea</translation>
+    </message>
+    <message>
+        <source>back along the line</source>
+        <translation>hacia atrás en la línea</translation>
+    </message>
+    <message>
+        <source>both ways</source>
+        <translation>en ambos sentidos</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, pass (taper %3 %)</source>
+        <translation>pasan velocidades de %1, %2 (transición %3 %)</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, are rejected (taper %3 %)</source>
+        <translation>se rechazan velocidades de %1, %2 (transición %3 %)</translation>
+    </message>
+    <message>
+        <source>notches at %1 Hz and multiples, %2 in all, quality %3</source>
+        <translation>notch en %1 Hz y múltiplos, %2 en total, calidad %3</translation>
+    </message>
+    <message>
+        <source>two geophones at least need easting and northing</source>
+        <translation>al menos dos geófonos necesitan coordenadas este y norte</translation>
+    </message>
+    <message>
+        <source>the first and the last geophone are at one place on the map, which gives the line no direction</source>
+        <translation>el primer y el último geófono están en el mismo punto del mapa, y así la línea no tiene dirección</translation>
+    </message>
+    <message>
+        <source>a trace cannot have a gain of %1, only one from %2 to %3</source>
+        <translation>una traza no puede tener una ganancia de %1, solo de %2 a %3</translation>
+    </message>
+    <message>
+        <source>traces with a gain of %1: %2</source>
+        <translation>trazas con ganancia %1: %2</translation>
+    </message>
+    <message>
+        <source>geophone %1</source>
+        <translation>geófono %1</translation>
+    </message>
+    <message>
+        <source>geophones %1</source>
+        <translation>geófonos %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>línea %1</translation>
+    </message>
+    <message>
+        <source>lines %1</source>
+        <translation>líneas %1</translation>
+    </message>
+    <message>
+        <source>lines %1 and %2 more</source>
+        <translation>líneas %1 y %2 más</translation>
+    </message>
+    <message>
+        <source>Not used, for no geophone or shot of the survey is there: %1</source>
+        <translation>No se usan, porque el levantamiento no tiene ese geófono o disparo: %1</translation>
+    </message>
+    <message>
+        <source>Not used, for a row above is of the same geophone or shot: %1</source>
+        <translation>No se usan, porque una fila anterior es del mismo geófono o disparo: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, placed among those that have one by the distances so far: %1</source>
+        <translation>Sin fila, colocados entre los que tienen una según las distancias actuales: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, left where nothing tells how they stand to the others: %1</source>
+        <translation>Sin fila, dejados donde nada indica cómo están respecto a los demás: %1</translation>
+    </message>
+    <message>
+        <source>Without an elevation, raised to the line between the others: %1</source>
+        <translation>Sin cota, elevados a la línea entre los demás: %1</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1 m: %2</source>
+        <translation>A más de la mitad de la separación de %1 m de la línea: %2</translation>
+    </message>
+    <message>
+        <source>Hardly apart from their neighbours: %1</source>
+        <translation>Apenas separados de sus vecinos: %1</translation>
+    </message>
+    <message>
+        <source>The line runs back to %1; an exchanged row or number?</source>
+        <translation>La línea retrocede hasta %1; ¿hay una fila o un número intercambiado?</translation>
+    </message>
+    <message>
+        <source>Not as far from the geophone before as expected: %1</source>
+        <translation>No tan lejos del geófono anterior como se esperaba: %1</translation>
+    </message>
+    <message>
+        <source>fewer than two geophones of the survey have a row in the table</source>
+        <translation>menos de dos geófonos del levantamiento tienen una fila en la tabla</translation>
+    </message>
+    <message>
+        <source>lengths along the ground need the elevation of every geophone; the table lacks %1</source>
+        <translation>las distancias sobre el terreno necesitan la cota de cada geófono; en la tabla falta la de %1</translation>
+    </message>
+    <message>
+        <source>its sample interval is not known</source>
+        <translation>no se conoce su intervalo de muestreo</translation>
+    </message>
+    <message>
+        <source>it has samples that are no numbers</source>
+        <translation>tiene muestras que no son números</translation>
+    </message>
+    <message>
+        <source>a notch needs a frequency, a multiple and a quality above 0</source>
+        <translation>un filtro notch necesita una frecuencia, un múltiplo y una calidad mayores que 0</translation>
+    </message>
+    <message>
+        <source>it is sampled too slowly for %1 Hz</source>
+        <translation>su muestreo es demasiado lento para %1 Hz</translation>
+    </message>
+    <message>
+        <source>it is shorter than one period of %1 Hz</source>
+        <translation>dura menos que un periodo de %1 Hz</translation>
+    </message>
+    <message>
+        <source>trace %1 has another length or sample interval than trace 1</source>
+        <translation>la traza %1 tiene otra longitud u otro intervalo de muestreo que la traza 1</translation>
+    </message>
+    <message>
+        <source>trace %1 has samples that are no numbers</source>
+        <translation>la traza %1 tiene muestras que no son números</translation>
+    </message>
+    <message>
+        <source>it has no samples, or no known sample interval</source>
+        <translation>no tiene muestras, o no se conoce su intervalo de muestreo</translation>
+    </message>
+    <message>
+        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
+        <translation>sus geófonos no están a intervalos regulares: la traza %1, en %2 m, está a %3 m de la anterior; la distancia habitual es de %4 m</translation>
+    </message>
+    <message>
+        <source>it has fewer than %1 traces</source>
+        <translation>tiene menos de %1 trazas</translation>
+    </message>
+    <message>
+        <source>the positions of its geophones are not known</source>
+        <translation>no se conocen las posiciones de sus geófonos</translation>
+    </message>
+    <message>
+        <source>of %1 places along its line %2 have no trace</source>
+        <translation>de %1 puntos de su línea, %2 no tienen traza</translation>
+    </message>
+    <message>
+        <source>shot %1: of %2 places along its line %3 have no trace, or a killed one; they count as zero, beside them the filter is less sharp</source>
+        <translation>disparo %1: de %2 puntos de su línea, %3 no tienen traza o la tienen anulada; cuentan como cero, y junto a ellos el filtro es menos nítido</translation>
+    </message>
+    <message>
+        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
+        <translation>la velocidad mínima, %1 m/s, debe ser mayor que 0 y menor que la máxima, %2 m/s</translation>
+    </message>
+    <message>
+        <source>the taper must be 0 or more and less than 100 percent of a limit</source>
+        <translation>la transición debe ser de 0 o más y de menos del 100 por ciento de un límite</translation>
+    </message>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Posiciones topográficas</translation>
+    </message>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolíneas destacadas</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Anotaciones</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Aplicar estilo</translation>
+    </message>
+    <message>
+        <source>shot %1 has no trace %2</source>
+        <translation>el disparo %1 no tiene la traza %2</translation>
+    </message>
+    <message>
+        <source>no recordings yet</source>
+        <translation>aún no hay registros</translation>
+    </message>
+    <message>
+        <source>times of %1 shots, without recordings</source>
+        <translation>tiempos de %1 disparos, sin registros</translation>
+    </message>
+    <message>
+        <source>recordings that begin before their shot: %1</source>
+        <translation>registros que comienzan antes de su disparo: %1</translation>
+    </message>
+    <message>
+        <source>recordings that were read with warnings: %1</source>
+        <translation>registros que se leyeron con advertencias: %1</translation>
+    </message>
+    <message>
+        <source>shots: %1</source>
+        <translation>disparos: %1</translation>
+    </message>
+    <message>
+        <source>no geophones yet</source>
+        <translation>aún no hay geófonos</translation>
+    </message>
+    <message>
+        <source>positions are missing or cannot be</source>
+        <translation>hay posiciones que faltan o que son imposibles</translation>
+    </message>
+    <message>
+        <source>things that look wrong in the positions: %1</source>
+        <translation>cosas que parecen erróneas en las posiciones: %1</translation>
+    </message>
+    <message>
+        <source>geophones: %1, shots: %2</source>
+        <translation>geófonos: %1, disparos: %2</translation>
+    </message>
+    <message>
+        <source>no picks yet</source>
+        <translation>aún no hay picados</translation>
+    </message>
+    <message>
+        <source>shots without picks: %1</source>
+        <translation>disparos sin picados: %1</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 traces have a pick</source>
+        <translation>solo %1 de %2 trazas tienen un picado</translation>
+    </message>
+    <message>
+        <source>%1 picks on %2 traces</source>
+        <translation>%1 picados en %2 trazas</translation>
+    </message>
+    <message>
+        <source>no picks to check yet</source>
+        <translation>aún no hay picados que revisar</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks that wait for confirmation are doubtful</source>
+        <translation>%1 de %2 picados que esperan confirmación son dudosos</translation>
+    </message>
+    <message>
+        <source>of %1 picks nothing is known that could speak against them</source>
+        <translation>de %1 picados no se sabe nada que pueda contradecirlos</translation>
+    </message>
+    <message>
+        <source>none of the %1 picks that wait for confirmation is doubtful</source>
+        <translation>ninguno de los %1 picados que esperan confirmación es dudoso</translation>
+    </message>
+    <message>
+        <source>no pick waits for confirmation</source>
+        <translation>ningún picado espera confirmación</translation>
+    </message>
+    <message>
+        <source>no grid yet</source>
+        <translation>aún no hay malla</translation>
+    </message>
+    <message>
+        <source>the grid has no cells</source>
+        <translation>la malla no tiene celdas</translation>
+    </message>
+    <message>
+        <source>shots and geophones beyond the grid: %1</source>
+        <translation>disparos y geófonos fuera de la malla: %1</translation>
+    </message>
+    <message>
+        <source>%1 x %2 cells</source>
+        <translation>%1 x %2 celdas</translation>
+    </message>
+    <message>
+        <source>%1, the usual starting model</source>
+        <translation>%1, el modelo inicial habitual</translation>
+    </message>
+    <message>
+        <source>%1, a starting model with layers: %2</source>
+        <translation>%1, un modelo inicial con capas: %2</translation>
+    </message>
+    <message>
+        <source>no inversion yet</source>
+        <translation>aún no hay inversión</translation>
+    </message>
+    <message>
+        <source>the section is older than the picks</source>
+        <translation>la sección es anterior a los picados</translation>
+    </message>
+    <message>
+        <source>the known ground is other than that of the section</source>
+        <translation>el terreno conocido no es el de la sección</translation>
+    </message>
+    <message>
+        <source>it was stopped before its end</source>
+        <translation>se detuvo antes de terminar</translation>
+    </message>
+    <message>
+        <source>chi-square is %1 and not near 1</source>
+        <translation>chi cuadrado es %1 y no está cerca de 1</translation>
+    </message>
+    <message>
+        <source>the section is inverted</source>
+        <translation>la sección está invertida</translation>
+    </message>
+    <message>
+        <source>RMSE %1 ms of %2 picks</source>
+        <translation>RMSE %1 ms de %2 picados</translation>
+    </message>
+    <message>
+        <source>no section yet</source>
+        <translation>aún no hay sección</translation>
+    </message>
+    <message>
+        <source>the layered profile is older than the picks</source>
+        <translation>el perfil de capas es anterior a los picados</translation>
+    </message>
+    <message>
+        <source>the certainty is older than the picks</source>
+        <translation>la certeza es anterior a los picados</translation>
+    </message>
+    <message>
+        <source>the section was smoothed after its inversion</source>
+        <translation>la sección se suavizó después de su inversión</translation>
+    </message>
+    <message>
+        <source>the section lies beyond its certainty</source>
+        <translation>la sección se sale de su certeza</translation>
+    </message>
+    <message>
+        <source>how certain the section is is not known</source>
+        <translation>no se conoce la certeza de la sección</translation>
+    </message>
+    <message>
+        <source>the section and its certainty are there</source>
+        <translation>la sección y su certeza están disponibles</translation>
+    </message>
+    <message>
+        <source>it has no section</source>
+        <translation>no tiene sección</translation>
+    </message>
+    <message>
+        <source>no cell of its section is drawn</source>
+        <translation>no se dibuja ninguna celda de su sección</translation>
+    </message>
+    <message>
+        <source>its line is nowhere on the map</source>
+        <translation>su línea no tiene lugar en el mapa</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Anular trazas</translation>
+    </message>
+    <message>
+        <source>Revive traces</source>
+        <translation>Recuperar trazas</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Invertir polaridad</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Silenciar trazas</translation>
+    </message>
+    <message>
+        <source>Mute traces no more</source>
+        <translation>Dejar de silenciar trazas</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplificar trazas</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Atenuar trazas</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -7956,6 +8392,33 @@ Defina la posición de los geófonos
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::NotchDialog</name>
+    <message>
+        <source>Notch</source>
+        <translation>Filtro notch</translation>
+    </message>
+    <message>
+        <source>Takes the hum of power lines out of the filtered copy. Arrivals stay where they are.</source>
+        <translation>Quita de la copia filtrada el zumbido de la red eléctrica. Las llegadas no se desplazan.</translation>
+    </message>
+    <message>
+        <source>&amp;Power line (Hz):</source>
+        <translation>&amp;Red eléctrica (Hz):</translation>
+    </message>
+    <message>
+        <source>50 Hz in most of the world, 60 Hz in North America; some railways have 16.7 Hz</source>
+        <translation>50 Hz en la mayor parte del mundo, 60 Hz en Norteamérica; algunos ferrocarriles usan 16,7 Hz</translation>
+    </message>
+    <message>
+        <source>&amp;Multiples:</source>
+        <translation>&amp;Múltiplos:</translation>
+    </message>
+    <message>
+        <source>So many multiples are taken out, the frequency itself among them, as far as the record has them</source>
+        <translation>Cuántos múltiplos se quitan, incluida la propia frecuencia, hasta donde llegue el registro</translation>
     </message>
 </context>
 <context>
