@@ -8420,6 +8420,34 @@ Defina la posición de los geófonos
         <source>So many multiples are taken out, the frequency itself among them, as far as the record has them</source>
         <translation>Cuántos múltiplos se quitan, incluida la propia frecuencia, hasta donde llegue el registro</translation>
     </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Calidad:</translation>
+    </message>
+    <message>
+        <source>The frequency over the width of every notch at 3 dB: larger ones take less of the signal, and less of hum that wanders</source>
+        <translation>La frecuencia dividida por el ancho de cada muesca a 3 dB: una calidad mayor quita menos señal, y menos zumbido si este varía</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Aplicar filtro a:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>Ori&amp;ginal</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>&amp;Filtrados</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>El filtro se aplica a todos los disparos.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>El filtro se aplica al disparo %1.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::PaletteDialog</name>
@@ -8703,6 +8731,10 @@ Defina la posición de los geófonos
     <message>
         <source>&amp;Keep the program&apos;s rules</source>
         <translation>&amp;Mantener las reglas del programa</translation>
+    </message>
+    <message>
+        <source>Files and what each reading finds in them</source>
+        <translation>Archivos y lo que cada lectura encuentra en ellos</translation>
     </message>
 </context>
 <context>
@@ -9006,6 +9038,10 @@ Defina la posición de los geófonos
     <message>
         <source>in memory, for %1</source>
         <translation>en memoria, porque %1</translation>
+    </message>
+    <message>
+        <source>Filtered copy by:</source>
+        <translation>Copia filtrada con:</translation>
     </message>
 </context>
 <context>
@@ -10524,6 +10560,22 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
         <translation>Las primeras llegadas se asignaron a capas, y las velocidades y profundidades de los refractores se ajustaron a todas ellas a la vez, de modo que los tiempos directos y refractados calculados a través de las capas, que pueden variar a lo largo de la línea, sean los de los picados.</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtros</translation>
+    </message>
+    <message>
+        <source>These shots have filtered copies beside their recordings, made as listed, one filter after the other.</source>
+        <translation>Estos disparos tienen copias filtradas además de sus registros, hechas como se indica, un filtro tras otro.</translation>
+    </message>
+    <message>
+        <source>Filters of the recordings</source>
+        <translation>Filtros de los registros</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -10804,6 +10856,10 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>The picture cannot be made.</source>
         <translation>No se puede crear la imagen.</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur shot:</source>
+        <translation>&amp;Resaltar disparo:</translation>
     </message>
 </context>
 <context>
@@ -11330,6 +11386,70 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <source>Velocity section</source>
         <translation>Sección de velocidad</translation>
     </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distancia %1 m</translation>
+    </message>
+    <message>
+        <source>Horizontal %1 m</source>
+        <translation>Horizontal %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical %1 m</source>
+        <translation>Vertical %1 m</translation>
+    </message>
+    <message>
+        <source>Slope %1°</source>
+        <translation>Pendiente %1°</translation>
+    </message>
+    <message>
+        <source>Click the next point; Esc ends</source>
+        <translation>Haga clic en el punto siguiente; Esc termina</translation>
+    </message>
+    <message>
+        <source>Double click or Enter ends it, Backspace takes a point back</source>
+        <translation>Doble clic o Intro termina, Retroceso quita un punto</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Medir</translation>
+    </message>
+    <message>
+        <source>Drag between two points: distance, horizontal, vertical and slope; Esc ends</source>
+        <translation>Arrastre entre dos puntos: distancia, horizontal, vertical y pendiente; Esc termina</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Dibujar</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
+        <translation>Dibuje con clics textos, líneas y áreas de terreno en la sección; Esc termina</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Click where a text is to stand on the section</source>
+        <translation>Haga clic donde deba ir un texto en la sección</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Click the points of a line on the section</source>
+        <translation>Haga clic en los puntos de una línea en la sección</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polígono</translation>
+    </message>
+    <message>
+        <source>Click the corners of an area of the section</source>
+        <translation>Haga clic en los vértices de un área de la sección</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SelectCSVDelimiterDialog</name>
@@ -11586,6 +11706,352 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>Los resultados de la última inversión se quitarán (Deshacer los recupera).</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StepTexts</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Registros</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Geometría</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picados</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Revisión</translation>
+    </message>
+    <message>
+        <source>Grid and start</source>
+        <translation>Malla e inicio</translation>
+    </message>
+    <message>
+        <source>Inversion</source>
+        <translation>Inversión</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>hecho</translation>
+    </message>
+    <message>
+        <source>doubtful</source>
+        <translation>dudoso</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>falta</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>desactualizado</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>step, reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPointsTable</name>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geófono %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>row of a table</comment>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <comment>of a table</comment>
+        <translation>Fila</translation>
+    </message>
+    <message>
+        <source>Across
+(m)</source>
+        <translation>Transv.
+(m)</translation>
+    </message>
+    <message>
+        <source>x before
+(m)</source>
+        <translation>x antes
+(m)</translation>
+    </message>
+    <message>
+        <source>x
+(m)</source>
+        <translation>x
+(m)</translation>
+    </message>
+    <message>
+        <source>change
+(m)</source>
+        <translation>cambio
+(m)</translation>
+    </message>
+    <message>
+        <source>z before
+(m)</source>
+        <translation>z antes
+(m)</translation>
+    </message>
+    <message>
+        <source>z
+(m)</source>
+        <translation>z
+(m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPositionsDialog</name>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Posiciones topográficas</translation>
+    </message>
+    <message>
+        <source>&amp;Other table ...</source>
+        <translation>Otra ta&amp;bla ...</translation>
+    </message>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Primeras filas de la tabla</translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation>Columnas de la tabla</translation>
+    </message>
+    <message>
+        <source>S&amp;eparator</source>
+        <translation>Separad&amp;or</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separador</translation>
+    </message>
+    <message>
+        <source>C&amp;oordinates</source>
+        <translation>Coor&amp;denadas</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordenadas</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Nombre</translation>
+    </message>
+    <message>
+        <source>Column of names</source>
+        <translation>Columna de los nombres</translation>
+    </message>
+    <message>
+        <source>Eas&amp;ting</source>
+        <translation>&amp;Este</translation>
+    </message>
+    <message>
+        <source>Column of eastings or longitudes</source>
+        <translation>Columna de coordenadas este o longitudes</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>Ti&amp;po</translation>
+    </message>
+    <message>
+        <source>Column of kinds</source>
+        <translation>Columna de los tipos</translation>
+    </message>
+    <message>
+        <source>No&amp;rthing</source>
+        <translation>No&amp;rte</translation>
+    </message>
+    <message>
+        <source>Column of northings or latitudes</source>
+        <translation>Columna de coordenadas norte o latitudes</translation>
+    </message>
+    <message>
+        <source>Ele&amp;vation</source>
+        <translation>&amp;Cota</translation>
+    </message>
+    <message>
+        <source>Column of elevations</source>
+        <translation>Columna de las cotas</translation>
+    </message>
+    <message>
+        <source>EPS&amp;G code</source>
+        <translation>Códi&amp;go EPSG</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>Código EPSG</translation>
+    </message>
+    <message>
+        <source>The code of the reference system of easting and northing, for example 32632 for UTM zone 32 N. Without it the line gets no place on the map. Longitude and latitude are projected into it, without a code into their UTM zone.</source>
+        <translation>El código del sistema de referencia de las coordenadas este y norte, por ejemplo 32632 para la zona UTM 32 N. Sin él la línea no recibe lugar en el mapa. La longitud y la latitud se proyectan a él; sin código, a su zona UTM.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Línea</translation>
+    </message>
+    <message>
+        <source>Shape of the line</source>
+        <translation>Forma de la línea</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>Dis&amp;tancias</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Distancias a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Names &amp;are</source>
+        <translation>&amp;Qué son los nombres</translation>
+    </message>
+    <message>
+        <source>What names are</source>
+        <translation>Qué son los nombres</translation>
+    </message>
+    <message>
+        <source>First &amp;distance</source>
+        <translation>Pr&amp;imera distancia</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone</source>
+        <translation>Distancia del primer geófono</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
+        <translation>Distancia del primer geófono con coordenadas medidas, en metros. Vacío: como está ahora.</translation>
+    </message>
+    <message>
+        <source>Count from the other &amp;end</source>
+        <translation>Contar desde el otro e&amp;xtremo</translation>
+    </message>
+    <message>
+        <source>&amp;Positions</source>
+        <translation>Po&amp;siciones</translation>
+    </message>
+    <message>
+        <source>Positions before and after</source>
+        <translation>Posiciones antes y después</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mapa</translation>
+    </message>
+    <message>
+        <source>Geophones and shots from above</source>
+        <translation>Geófonos y disparos vistos desde arriba</translation>
+    </message>
+    <message>
+        <source>O&amp;ffsets</source>
+        <translation>Des&amp;víos</translation>
+    </message>
+    <message>
+        <source>Offsets across the line</source>
+        <translation>Desvíos transversales a la línea</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>Por revisar</translation>
+    </message>
+    <message>
+        <source>as in the table</source>
+        <translation>como en la tabla</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>tabulador</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>punto y coma</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>coma</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>espacio</translation>
+    </message>
+    <message>
+        <source>Easting, northing</source>
+        <translation>Este, norte</translation>
+    </message>
+    <message>
+        <source>Longitude, latitude</source>
+        <translation>Longitud, latitud</translation>
+    </message>
+    <message>
+        <source>Straight, fitted to the geophones</source>
+        <translation>Recta, ajustada a los geófonos</translation>
+    </message>
+    <message>
+        <source>Straight, from the first geophone to the last one</source>
+        <translation>Recta, del primer geófono al último</translation>
+    </message>
+    <message>
+        <source>Bent, from geophone to geophone</source>
+        <translation>Quebrada, de geófono a geófono</translation>
+    </message>
+    <message>
+        <source>Horizontal, as on the map</source>
+        <translation>Horizontales, como en el mapa</translation>
+    </message>
+    <message>
+        <source>Along the ground, on slopes</source>
+        <translation>Sobre el terreno, por las pendientes</translation>
+    </message>
+    <message>
+        <source>numbers of geophones and shots, from 1</source>
+        <translation>números de geófonos y disparos, desde 1</translation>
+    </message>
+    <message>
+        <source>without a meaning: rows are in order</source>
+        <translation>sin significado: las filas están en orden</translation>
+    </message>
+    <message>
+        <source>distances along the line as it is now</source>
+        <translation>distancias a lo largo de la línea como está ahora</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>column of a table</comment>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>columna %1</translation>
     </message>
 </context>
 <context>
