@@ -12053,6 +12053,61 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <source>column %1</source>
         <translation>columna %1</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>column, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Longi&amp;tude</source>
+        <translation>Longit&amp;ud</translation>
+    </message>
+    <message>
+        <source>Latit&amp;ude</source>
+        <translation>L&amp;atitud</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of the table have no position and are not used.</source>
+        <translation>
+            <numerusform>%n fila de la tabla no tiene posición y no se usa.</numerusform>
+            <numerusform>%n filas de la tabla no tienen posición y no se usan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
+        <translation>Con fila: %1 de %2 geófonos, %3 de %4 disparos. Los geófonos se desvían %5 m de la línea (RMS), como máximo %6 m (%7); su separación es de %8 m.</translation>
+    </message>
+    <message>
+        <source>No reference system</source>
+        <translation>Sin sistema de referencia</translation>
+    </message>
+    <message>
+        <source>EPSG:%1, %2</source>
+        <translation>EPSG:%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: the zone of the first place</source>
+        <translation>%1: la zona del primer lugar</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the place of the line on the map stays as it is now, where it may not fit any more.</source>
+        <translation>Sin un código EPSG, el lugar de la línea en el mapa queda como está ahora, y puede que ya no sea el correcto.</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the line gets no place on the map.</source>
+        <translation>Sin un código EPSG la línea no recibe lugar en el mapa.</translation>
+    </message>
+    <message>
+        <source>On OK the line lies on the map from the first geophone to the last one, on the line that is shown.</source>
+        <translation>Al aceptar, la línea va en el mapa del primer geófono al último, por la línea que se muestra.</translation>
+    </message>
+    <message numerus="yes">
+        <source>On OK the line lies on the map along %n point(s), and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</source>
+        <translation>
+            <numerusform>Al aceptar, la línea va en el mapa por %n punto, y KML la sigue. Los informes y el diálogo de coordenadas geográficas dan sus dos extremos.</numerusform>
+            <numerusform>Al aceptar, la línea va en el mapa por %n puntos, y KML la sigue. Los informes y el diálogo de coordenadas geográficas dan sus dos extremos.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TableTexts</name>
@@ -14235,6 +14290,310 @@ Do you want to run refraction processing anyway? </source>
         <source>Web page (*.html)</source>
         <translation>Página web (*.html)</translation>
     </message>
+    <message>
+        <source>Mends of the selected traces</source>
+        <translation>Correcciones de las trazas seleccionadas</translation>
+    </message>
+    <message>
+        <source>Marked isolines ...</source>
+        <translation>Isolíneas destacadas ...</translation>
+    </message>
+    <message>
+        <source>Name velocities, such as 1500 m/s for the water table, whose lines stand out from the section</source>
+        <translation>Da nombre a velocidades, como 1500 m/s para el nivel freático, cuyas líneas destacan en la sección</translation>
+    </message>
+    <message>
+        <source>Annotations ...</source>
+        <translation>Anotaciones ...</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground drawn on the section</source>
+        <translation>Textos, líneas y áreas de terreno dibujados en la sección</translation>
+    </message>
+    <message>
+        <source>Depth profile ...</source>
+        <translation>Perfil de profundidad ...</translation>
+    </message>
+    <message>
+        <source>Velocity, its gradient and how sure it is against depth, below the mouse</source>
+        <translation>Velocidad, su gradiente y su certeza en función de la profundidad, bajo el ratón</translation>
+    </message>
+    <message>
+        <source>Fence of several lines ...</source>
+        <translation>Panel de varias líneas ...</translation>
+    </message>
+    <message>
+        <source>Sections of this and other projects at their places on the map, in one view</source>
+        <translation>Secciones de este y otros proyectos en su lugar del mapa, en una sola vista</translation>
+    </message>
+    <message>
+        <source>Save style ...</source>
+        <translation>Guardar estilo ...</translation>
+    </message>
+    <message>
+        <source>Save palette, range, contours, exaggeration, switches and marked isolines for other surveys</source>
+        <translation>Guarda paleta, rango, isolíneas, exageración, opciones de vista e isolíneas destacadas para otros levantamientos</translation>
+    </message>
+    <message>
+        <source>Apply style ...</source>
+        <translation>Aplicar estilo ...</translation>
+    </message>
+    <message>
+        <source>Let this section look as the one whose style was saved</source>
+        <translation>Da a esta sección el aspecto de aquella cuyo estilo se guardó</translation>
+    </message>
+    <message>
+        <source>Show annotations</source>
+        <translation>Mostrar anotaciones</translation>
+    </message>
+    <message>
+        <source>Draw marked isolines, texts, lines and areas of ground over the section</source>
+        <translation>Dibuja isolíneas destacadas, textos, líneas y áreas de terreno sobre la sección</translation>
+    </message>
+    <message>
+        <source>Surveyed positions ...</source>
+        <translation>Posiciones topográficas ...</translation>
+    </message>
+    <message>
+        <source>Make distances along the line and its place on the map of a table of coordinates</source>
+        <translation>Calcula de una tabla de coordenadas las distancias a lo largo de la línea y su lugar en el mapa</translation>
+    </message>
+    <message>
+        <source>Find command...</source>
+        <translation>Buscar comando...</translation>
+    </message>
+    <message>
+        <source>Find any command by its words and give it</source>
+        <translation>Busca cualquier comando por sus palabras y lo ejecuta</translation>
+    </message>
+    <message>
+        <source>Shot files with picks ...</source>
+        <translation>Archivos de disparos con picados ...</translation>
+    </message>
+    <message>
+        <source>Copy the shot files into another folder, with the picks in their trace headers</source>
+        <translation>Copia los archivos de disparos a otra carpeta, con los picados en las cabeceras de traza</translation>
+    </message>
+    <message>
+        <source>Drawing as DXF ...</source>
+        <translation>Dibujo como DXF ...</translation>
+    </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
+        <translation>Exporta superficie, isolíneas, refractores, geófonos y disparos como dibujo para CAD</translation>
+    </message>
+    <message>
+        <source>Section as curtain on the map ...</source>
+        <translation>Sección como cortina en el mapa ...</translation>
+    </message>
+    <message>
+        <source>Export the cells with their velocities where they lie on the map, as a VTK grid or a table</source>
+        <translation>Exporta las celdas con sus velocidades donde están en el mapa, como malla VTK o como tabla</translation>
+    </message>
+    <message>
+        <source>Line and isolines as GeoPackage ...</source>
+        <translation>Línea e isolíneas como GeoPackage ...</translation>
+    </message>
+    <message>
+        <source>Export line, geophones, shots, isolines, refractors and depths of isovalues as layers for maps</source>
+        <translation>Exporta línea, geófonos, disparos, isolíneas, refractores y profundidades de isovalores como capas para mapas</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Anular trazas</translation>
+    </message>
+    <message>
+        <source>The selected traces count for nothing and have no pick, or do again (key K); what was recorded is kept</source>
+        <translation>Las trazas seleccionadas no cuentan ni tienen picado, o vuelven a contar (tecla K); lo registrado se conserva</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Invertir polaridad</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces change their sign (key P)</source>
+        <translation>Cambia el signo de las muestras de las trazas seleccionadas (tecla P)</translation>
+    </message>
+    <message>
+        <source>Mute traces before...</source>
+        <translation>Silenciar trazas antes de...</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces before a time become zero (key U mutes before the mouse, Shift+U no more)</source>
+        <translation>Pone a cero las muestras de las trazas seleccionadas anteriores a un tiempo (la tecla U silencia antes del ratón, Mayús+U deja de silenciar)</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplificar trazas</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become larger, 1.5 or 2 times in turn (key })</source>
+        <translation>Aumenta las muestras de las trazas seleccionadas, 1,5 o 2 veces alternativamente (tecla })</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Atenuar trazas</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become smaller (key {)</source>
+        <translation>Reduce las muestras de las trazas seleccionadas (tecla {)</translation>
+    </message>
+    <message>
+        <source>Notch...</source>
+        <translation>Filtro notch...</translation>
+    </message>
+    <message>
+        <source>Take the hum of power lines, 50 or 60 Hz and multiples, out of the filtered copy</source>
+        <translation>Quita de la copia filtrada el zumbido de la red eléctrica, 50 o 60 Hz y múltiplos</translation>
+    </message>
+    <message>
+        <source>Velocity filter...</source>
+        <translation>Filtro de velocidad...</translation>
+    </message>
+    <message>
+        <source>Keep or take out waves by their apparent velocity, in the filtered copy</source>
+        <translation>Conserva o quita ondas según su velocidad aparente, en la copia filtrada</translation>
+    </message>
+    <message>
+        <source>Annotations wait for the inversion to end.</source>
+        <translation>Las anotaciones esperan a que termine la inversión.</translation>
+    </message>
+    <message>
+        <source>It cannot work now.</source>
+        <translation>No está disponible ahora.</translation>
+    </message>
+    <message>
+        <source>Save depth profile</source>
+        <translation>Guardar perfil de profundidad</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>Imágenes (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the layered profile was built.</source>
+        <translation>Los picados han cambiado desde que se construyó el perfil de capas.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map.</source>
+        <translation>La línea no tiene lugar en el mapa.</translation>
+    </message>
+    <message>
+        <source>Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Indíquelo con Proyecto &gt; Definir coordenadas geográficas ...</translation>
+    </message>
+    <message>
+        <source>Export DXF Drawing</source>
+        <translation>Exportar dibujo DXF</translation>
+    </message>
+    <message>
+        <source>DXF drawing (*.dxf);;All Files (*)</source>
+        <translation>Dibujo DXF (*.dxf);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Export GeoPackage</source>
+        <translation>Exportar GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage (*.gpkg);;All Files (*)</source>
+        <translation>GeoPackage (*.gpkg);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Export Curtain</source>
+        <translation>Exportar cortina</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;Table of cells (*.csv);;All Files (*)</source>
+        <translation>Malla no estructurada VTK (*.vtu);;Tabla de celdas (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>This survey</source>
+        <translation>Este levantamiento</translation>
+    </message>
+    <message>
+        <source>Add projects to the fence</source>
+        <translation>Añadir proyectos al panel</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Proyectos de Talvesk (*.tvsk);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Save picture of the fence</source>
+        <translation>Guardar imagen del panel</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Imágenes (*.png)</translation>
+    </message>
+    <message>
+        <source>Applying notches ...</source>
+        <translation>Aplicando el filtro notch ...</translation>
+    </message>
+    <message>
+        <source>Applying the velocity filter ...</source>
+        <translation>Aplicando el filtro de velocidad ...</translation>
+    </message>
+    <message>
+        <source>Folder for the shot files with picks</source>
+        <translation>Carpeta para los archivos de disparos con picados</translation>
+    </message>
+    <message>
+        <source>In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files it is whole microseconds in bytes 233 to 236 of the trace header. Both count from the shot.</source>
+        <translation>En archivos SEG-2 un picado es FIRST_BREAK en segundos; en archivos SEG-Y y SU son microsegundos enteros en los bytes 233 a 236 de la cabecera de traza. Ambos cuentan desde el disparo.</translation>
+    </message>
+    <message>
+        <source>Shot files with picks</source>
+        <translation>Archivos de disparos con picados</translation>
+    </message>
+    <message>
+        <source>Save style</source>
+        <translation>Guardar estilo</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle)</source>
+        <translation>Estilos de Talvesk (*.tvstyle)</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Aplicar estilo</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle);;All files (*)</source>
+        <translation>Estilos de Talvesk (*.tvstyle);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The section looks as before.</source>
+        <translation>La sección se ve como antes.</translation>
+    </message>
+    <message>
+        <source>Style of %1</source>
+        <translation>Estilo de %1</translation>
+    </message>
+    <message>
+        <source>Geophones and shots stand where they were surveyed.</source>
+        <translation>Los geófonos y disparos están donde indican las posiciones topográficas.</translation>
+    </message>
+    <message>
+        <source>Open surveyed positions</source>
+        <translation>Abrir posiciones topográficas</translation>
+    </message>
+    <message>
+        <source>Tables of coordinates (*.csv *.tsv *.txt *.dat *.xyz *.asc);;All files (*)</source>
+        <translation>Tablas de coordenadas (*.csv *.tsv *.txt *.dat *.xyz *.asc);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The positions cannot be read.</source>
+        <translation>No se pueden leer las posiciones.</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Silenciar trazas</translation>
+    </message>
+    <message>
+        <source>The selected traces are zero before (ms); 0: from nowhere</source>
+        <translation>Las trazas seleccionadas son cero antes de (ms); 0: desde ningún tiempo</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -14404,6 +14763,113 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Layers: %1 ms</source>
         <translation>Capas: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::VelocityFilterDialog</name>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtro de velocidad</translation>
+    </message>
+    <message>
+        <source>Keeps or takes out waves by their apparent velocity along the line, in the filtered copy. Drag the sides of the wedge, or type velocities.</source>
+        <translation>Conserva o quita ondas según su velocidad aparente a lo largo de la línea, en la copia filtrada. Arrastre los lados de la cuña o escriba velocidades.</translation>
+    </message>
+    <message>
+        <source>&amp;Slowest (m/s):</source>
+        <translation>Míni&amp;ma (m/s):</translation>
+    </message>
+    <message>
+        <source>Least apparent velocity of the wedge; the full line in the picture</source>
+        <translation>Velocidad aparente mínima de la cuña; la línea continua de la imagen</translation>
+    </message>
+    <message>
+        <source>&amp;Fastest (m/s):</source>
+        <translation>Má&amp;xima (m/s):</translation>
+    </message>
+    <message>
+        <source>Greatest apparent velocity of the wedge, 0 for no limit; the dashed line in the picture</source>
+        <translation>Velocidad aparente máxima de la cuña, 0 para no limitarla; la línea discontinua de la imagen</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Ondas:</translation>
+    </message>
+    <message>
+        <source>Forth is towards greater distances along the line</source>
+        <translation>Hacia delante es hacia distancias mayores a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Both ways</source>
+        <translation>En ambos sentidos</translation>
+    </message>
+    <message>
+        <source>Forth along the line</source>
+        <translation>Hacia delante en la línea</translation>
+    </message>
+    <message>
+        <source>Back along the line</source>
+        <translation>Hacia atrás en la línea</translation>
+    </message>
+    <message>
+        <source>Wedge:</source>
+        <translation>Cuña:</translation>
+    </message>
+    <message>
+        <source>&amp;Passes</source>
+        <translation>Pa&amp;sa</translation>
+    </message>
+    <message>
+        <source>Is re&amp;jected</source>
+        <translation>Se rec&amp;haza</translation>
+    </message>
+    <message>
+        <source>&amp;Taper (%):</source>
+        <translation>&amp;Transición (%):</translation>
+    </message>
+    <message>
+        <source>How far beside the wedge the filter sets in, in percent of its slowness there</source>
+        <translation>A qué distancia de la cuña empieza a actuar el filtro, en porcentaje de la lentitud en ese lado</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Aplicar filtro a:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>Ori&amp;ginal</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>&amp;Filtrados</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Mostrar:</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>&amp;Antes</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Después</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>El filtro se aplica a todos los disparos.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>El filtro se aplica al disparo %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1 cannot be filtered: %2</source>
+        <translation>No se puede filtrar el disparo %1: %2</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>No se ha aplicado ningún filtro.</translation>
     </message>
 </context>
 <context>
@@ -14768,6 +15234,18 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Open the place in a map service</source>
         <translation>Abrir el lugar en un servicio de mapas</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Anotaciones</translation>
+    </message>
+    <message>
+        <source>Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Teclas: izquierda y derecha van de picado en picado, arriba y abajo de disparo en disparo, + y - amplían y reducen, 0 muestra todo.</translation>
+    </message>
+    <message>
+        <source>Point at a mark to read it. Keys: left and right go from mark to mark, + and - zoom, 0 shows all.</source>
+        <translation>Apunte a una marca para leerla. Teclas: izquierda y derecha van de marca en marca, + y - amplían y reducen, 0 muestra todo.</translation>
     </message>
 </context>
 <context>
@@ -15222,6 +15700,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <source>Error %1 ms</source>
         <translation>Error %1 ms</translation>
     </message>
+    <message>
+        <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
+        <translation>Trazas %1: C confirma, Supr quita, K anula, P invierte, U silencia, Esc deselecciona</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::gridDialog</name>
@@ -15493,6 +15975,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Another fit, from: %1</source>
         <translation>Otro ajuste, a partir de: %1</translation>
+    </message>
+    <message>
+        <source>Iterations and misfits</source>
+        <translation>Iteraciones y desajustes</translation>
     </message>
 </context>
 <context>
