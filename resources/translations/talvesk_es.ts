@@ -8434,7 +8434,7 @@ Defina la posición de los geófonos
     </message>
     <message>
         <source>O&amp;riginal</source>
-        <translation>Ori&amp;ginal</translation>
+        <translation>Ori&amp;ginales</translation>
     </message>
     <message>
         <source>Fi&amp;ltered</source>
@@ -14837,7 +14837,7 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     </message>
     <message>
         <source>O&amp;riginal</source>
-        <translation>Ori&amp;ginal</translation>
+        <translation>Ori&amp;ginales</translation>
     </message>
     <message>
         <source>Fi&amp;ltered</source>
