@@ -49,6 +49,277 @@
     </message>
 </context>
 <context>
+    <name>talvesk::AnnotationsDialog</name>
+    <message>
+        <source>Annotations</source>
+        <translation>Anotaciones</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground that are drawn on the section. They can be drawn with the mouse as well: Draw, above the section.</source>
+        <translation>Textos, líneas y áreas de terreno que se dibujan en la sección. También se pueden dibujar con el ratón: Dibujar, encima de la sección.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Patrón</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Grosor</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+    <message>
+        <source>Add a text in the middle of the section</source>
+        <translation>Añade un texto en el centro de la sección</translation>
+    </message>
+    <message>
+        <source>Add &amp;text</source>
+        <translation>Añadir &amp;texto</translation>
+    </message>
+    <message>
+        <source>Add a line in the middle of the section</source>
+        <translation>Añade una línea en el centro de la sección</translation>
+    </message>
+    <message>
+        <source>Add &amp;line</source>
+        <translation>Añadir &amp;línea</translation>
+    </message>
+    <message>
+        <source>Add an area in the middle of the section</source>
+        <translation>Añade un área en el centro de la sección</translation>
+    </message>
+    <message>
+        <source>Add &amp;polygon</source>
+        <translation>Añadir &amp;polígono</translation>
+    </message>
+    <message>
+        <source>Remove the annotation that is selected</source>
+        <translation>Quita la anotación seleccionada</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Let those after it be drawn over it</source>
+        <translation>Hace que las siguientes se dibujen encima de ella</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>Points of the annotation that is selected</source>
+        <translation>Puntos de la anotación seleccionada</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distancia [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Cota [m]</translation>
+    </message>
+    <message>
+        <source>Add a point behind the one that is selected</source>
+        <translation>Añade un punto detrás del seleccionado</translation>
+    </message>
+    <message>
+        <source>Add p&amp;oint</source>
+        <translation>Añadir p&amp;unto</translation>
+    </message>
+    <message>
+        <source>Remove the point that is selected</source>
+        <translation>Quita el punto seleccionado</translation>
+    </message>
+    <message>
+        <source>Remove po&amp;int</source>
+        <translation>Quitar pu&amp;nto</translation>
+    </message>
+    <message>
+        <source>Annotations: %1.</source>
+        <translation>Anotaciones: %1.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed?</source>
+        <translation>¿Descartar los cambios?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignPage</name>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>Desajuste RMS [ms]</translation>
+    </message>
+    <message>
+        <source>RMS misfit [%]</source>
+        <translation>Desajuste RMS [%]</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi cuadrado</translation>
+    </message>
+    <message>
+        <source>Length covered [m]</source>
+        <translation>Longitud cubierta [m]</translation>
+    </message>
+    <message>
+        <source>Depth reached [m]</source>
+        <translation>Profundidad alcanzada [m]</translation>
+    </message>
+    <message>
+        <source>Cells with rays [%]</source>
+        <translation>Celdas con rayos [%]</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Disparos</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>Not inverted yet</source>
+        <translation>Aún sin invertir</translation>
+    </message>
+    <message>
+        <source>The misfit of the section is not known</source>
+        <translation>No se conoce el desajuste de la sección</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion</source>
+        <translation>Los picados han cambiado desde la inversión</translation>
+    </message>
+    <message>
+        <source>Smoothed after the inversion</source>
+        <translation>Suavizada después de la inversión</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Modo oscuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Modo claro</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Cliente</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Emplazamiento</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Lines: %1; with a section: %2; failed: %3</source>
+        <translation>Líneas: %1; con sección: %2; fallidas: %3</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
+        <translation>Las secciones pequeñas se estiran para llenar su sitio; sus colores son los mismos en todas las líneas. Los desajustes son los de las secciones mostradas, con rayos recalculados.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sección</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Picados utilizados</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Fecha de inversión</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Failed:</source>
+        <translation>Fallidas:</translation>
+    </message>
+    <message>
+        <source>Velocity section of %1</source>
+        <translation>Sección de velocidades de %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Map of the lines</source>
+        <translation>Mapa de las líneas</translation>
+    </message>
+    <message>
+        <source>Numbers are those of the table; each stands at the first geophone of its line.</source>
+        <translation>Los números son los de la tabla; cada uno está en el primer geófono de su línea.</translation>
+    </message>
+    <message>
+        <source>Lines whose position is not known: %1</source>
+        <translation>Líneas cuya posición no se conoce: %1</translation>
+    </message>
+    <message>
+        <source>Campaign</source>
+        <translation>Campaña</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Saltar al contenido</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CertaintyDialog</name>
     <message>
         <source>Certainty</source>
@@ -272,6 +543,21 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ColorField</name>
+    <message>
+        <source>Choose another colour</source>
+        <translation>Elegir otro color</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Color %1</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -366,6 +652,145 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source> of %1</source>
         <translation> de %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandReasons</name>
+    <message>
+        <source>There are no shots yet.</source>
+        <translation>Aún no hay disparos.</translation>
+    </message>
+    <message>
+        <source>There are no recordings yet.</source>
+        <translation>Aún no hay registros.</translation>
+    </message>
+    <message>
+        <source>No shot is in view.</source>
+        <translation>No hay ningún disparo a la vista.</translation>
+    </message>
+    <message>
+        <source>No shot with traces is in view.</source>
+        <translation>No hay ningún disparo con trazas a la vista.</translation>
+    </message>
+    <message>
+        <source>Nothing is mended.</source>
+        <translation>No hay nada corregido.</translation>
+    </message>
+    <message>
+        <source>The shot in view has no filtered copy.</source>
+        <translation>El disparo a la vista no tiene copia filtrada.</translation>
+    </message>
+    <message>
+        <source>No recording begins before its shot.</source>
+        <translation>Ningún registro comienza antes de su disparo.</translation>
+    </message>
+    <message>
+        <source>The selected traces have no picks.</source>
+        <translation>Las trazas seleccionadas no tienen picados.</translation>
+    </message>
+    <message>
+        <source>No pick of the selected traces waits for confirmation.</source>
+        <translation>Ningún picado de las trazas seleccionadas espera confirmación.</translation>
+    </message>
+    <message>
+        <source>There are no shots yet, or no picks are shown.</source>
+        <translation>Aún no hay disparos, o no se muestran los picados.</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>No hay vista anterior.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>No hay vista siguiente.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>No hay nada que deshacer.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>No hay nada que rehacer.</translation>
+    </message>
+    <message>
+        <source>There are no geophones and no shots yet.</source>
+        <translation>Aún no hay geófonos ni disparos.</translation>
+    </message>
+    <message>
+        <source>There is nothing to save.</source>
+        <translation>No hay nada que guardar.</translation>
+    </message>
+    <message>
+        <source>There is no grid yet.</source>
+        <translation>Aún no hay malla.</translation>
+    </message>
+    <message>
+        <source>There is no inversion yet.</source>
+        <translation>Aún no hay inversión.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile yet.</source>
+        <translation>Aún no hay perfil de capas.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the ground under the grid.</source>
+        <translation>No se conoce nada del terreno bajo la malla.</translation>
+    </message>
+    <message>
+        <source>There is no section yet.</source>
+        <translation>Aún no hay sección.</translation>
+    </message>
+    <message>
+        <source>There is no line of geophones yet.</source>
+        <translation>Aún no hay línea de geófonos.</translation>
+    </message>
+    <message>
+        <source>There is no grid under a line of geophones yet.</source>
+        <translation>Aún no hay malla bajo una línea de geófonos.</translation>
+    </message>
+    <message>
+        <source>There is nothing to make pictures of yet.</source>
+        <translation>Aún no hay nada de lo que hacer imágenes.</translation>
+    </message>
+    <message>
+        <source>How certain the section is has not been computed.</source>
+        <translation>No se ha calculado la certeza de la sección.</translation>
+    </message>
+    <message>
+        <source>It cannot work yet.</source>
+        <translation>Aún no está disponible.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandSearchDialog</name>
+    <message>
+        <source>Find Command</source>
+        <translation>Buscar comando</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>Palabras del comando</translation>
+    </message>
+    <message>
+        <source>Type words of a command</source>
+        <translation>Escriba palabras de un comando</translation>
+    </message>
+    <message>
+        <source>Commands found</source>
+        <translation>Comandos encontrados</translation>
+    </message>
+    <message>
+        <source>No command has these words.</source>
+        <translation>Ningún comando tiene estas palabras.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>why a command cannot work, its menu</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not now: %1</source>
+        <translation>ahora no: %1</translation>
     </message>
 </context>
 <context>
@@ -526,6 +951,41 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>of all picks as they are %1 ms</source>
         <translation>de todos los picados tal como están, %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DepthProfileDialog</name>
+    <message>
+        <source>Depth profile</source>
+        <translation>Perfil de profundidad</translation>
+    </message>
+    <message>
+        <source>&amp;Distance:</source>
+        <translation>&amp;Distancia:</translation>
+    </message>
+    <message>
+        <source>Where along the line the profile stands</source>
+        <translation>Lugar de la línea en que está el perfil</translation>
+    </message>
+    <message>
+        <source>Show the ground below the mouse as it moves over the section</source>
+        <translation>Muestra el terreno bajo el ratón mientras se mueve por la sección</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the pointer</source>
+        <translation>&amp;Seguir el puntero</translation>
+    </message>
+    <message>
+        <source>Save the profile as PNG, SVG or PDF</source>
+        <translation>Guarda el perfil como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Guardar imagen ...</translation>
+    </message>
+    <message>
+        <source>Velocity, gradient and certainty against depth</source>
+        <translation>Velocidad, gradiente y certeza en función de la profundidad</translation>
     </message>
 </context>
 <context>
@@ -929,6 +1389,57 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
 </context>
 <context>
+    <name>talvesk::DrawingDialog</name>
+    <message>
+        <source>Lines to be exported</source>
+        <translation>Líneas que se exportan</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines of velocity:</source>
+        <translation>&amp;Isolíneas de velocidad:</translation>
+    </message>
+    <message>
+        <source>Velocities with blanks between them; each becomes lines through the section</source>
+        <translation>Velocidades separadas por espacios; cada una da líneas en la sección</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>&amp;Distance along the line and elevation</source>
+        <translation>&amp;Distancia a lo largo de la línea y cota</translation>
+    </message>
+    <message>
+        <source>A flat drawing: x is the distance along the line, y the elevation, in metres</source>
+        <translation>Un dibujo plano: x es la distancia a lo largo de la línea, y la cota, en metros</translation>
+    </message>
+    <message>
+        <source>&amp;Easting, northing and elevation on the map</source>
+        <translation>&amp;Este, norte y cota en el mapa</translation>
+    </message>
+    <message>
+        <source>Lines in space by the geographic coordinates of the line, in metres</source>
+        <translation>Líneas en el espacio según las coordenadas geográficas de la línea, en metros</translation>
+    </message>
+    <message>
+        <source>There is no section yet, and so there are no isolines.</source>
+        <translation>Aún no hay sección y, por tanto, no hay isolíneas.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map. Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>La línea no tiene lugar en el mapa. Indíquelo con Proyecto &gt; Definir coordenadas geográficas ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a velocity.</source>
+        <translation>«%1» no es una velocidad.</translation>
+    </message>
+    <message>
+        <source>A section has %1 isovalues at most.</source>
+        <translation>Una sección tiene %1 isovalores como máximo.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ElasticDialog</name>
     <message>
         <source>P and S together</source>
@@ -1195,6 +1706,101 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>The Z offset is not a number.</source>
         <translation>El desplazamiento Z no es un número.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceDialog</name>
+    <message>
+        <source>Fence of several lines</source>
+        <translation>Panel de varias líneas</translation>
+    </message>
+    <message>
+        <source>&amp;Lines:</source>
+        <translation>&amp;Líneas:</translation>
+    </message>
+    <message>
+        <source>Stand the sections of other projects beside this one; the projects stay as they are</source>
+        <translation>Coloca las secciones de otros proyectos junto a esta; los proyectos quedan como están</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>&amp;Añadir proyectos ...</translation>
+    </message>
+    <message>
+        <source>Take the line that is selected out of the fence</source>
+        <translation>Quita del panel la línea seleccionada</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>&amp;Exageración vertical:</translation>
+    </message>
+    <message>
+        <source>Save the view as a PNG picture</source>
+        <translation>Guarda la vista como imagen PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Guardar imagen ...</translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation>Ver &amp;todo</translation>
+    </message>
+    <message>
+        <source>Lines that stand in the fence: %1.</source>
+        <translation>Líneas del panel: %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation>Excluidas: %1.</translation>
+    </message>
+    <message>
+        <source>it has no position on the map</source>
+        <translation>no tiene posición en el mapa</translation>
+    </message>
+    <message>
+        <source>its position is in EPSG:%1, that of the others in EPSG:%2</source>
+        <translation>su posición está en EPSG:%1, la de las demás en EPSG:%2</translation>
+    </message>
+    <message>
+        <source>it has no geophones</source>
+        <translation>no tiene geófonos</translation>
+    </message>
+    <message>
+        <source>its first and last geophone are at one place of the map</source>
+        <translation>su primer y su último geófono están en el mismo punto del mapa</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceView</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Sections at their places on the map</source>
+        <translation>Secciones en su lugar del mapa</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureSheetWidget</name>
+    <message>
+        <source>Figure</source>
+        <translation>Figura</translation>
     </message>
 </context>
 <context>
@@ -1751,6 +2357,47 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Layer 1, %1 m/s in the mean</source>
         <translation>Capa 1, %1 m/s de media</translation>
     </message>
+    <message>
+        <source>Vertical gradient [1/s]</source>
+        <translation>Gradiente vertical [1/s]</translation>
+    </message>
+    <message>
+        <source>Uncertainty [%]</source>
+        <translation>Incertidumbre [%]</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distancia %1 m</translation>
+    </message>
+    <message>
+        <source>no section here</source>
+        <translation>aquí no hay sección</translation>
+    </message>
+    <message>
+        <source>surface at %1 m</source>
+        <translation>superficie a %1 m</translation>
+    </message>
+    <message>
+        <source>shaded: 16 to 84 %</source>
+        <translation>sombreado: del 16 al 84 %</translation>
+    </message>
+    <message>
+        <source>%1 with a gain of their own</source>
+        <comment>traces</comment>
+        <translation>%1 con ganancia propia</translation>
+    </message>
+    <message>
+        <source>annotations outside the section: %1</source>
+        <translation>anotaciones fuera de la sección: %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (not reached)</source>
+        <translation>%1 (no se alcanza)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1893,6 +2540,29 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Hold to known ground</source>
         <translation>Condicionar al terreno conocido</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FkView</name>
+    <message>
+        <source>Spectrum over wavenumber and frequency</source>
+        <translation>Espectro según el número de onda y la frecuencia</translation>
+    </message>
+    <message>
+        <source>No spectrum</source>
+        <translation>Sin espectro</translation>
+    </message>
+    <message>
+        <source>Wavenumber along the line (1/m)</source>
+        <translation>Número de onda a lo largo de la línea (1/m)</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Frecuencia (Hz)</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2716,34 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     </message>
 </context>
 <context>
+    <name>talvesk::GuidanceStrip</name>
+    <message>
+        <source>Guidance</source>
+        <translation>Guía de pasos</translation>
+    </message>
+    <message>
+        <source>Show the steps from recordings to a section, and how they stand</source>
+        <translation>Muestra los pasos desde los registros hasta la sección y cómo están</translation>
+    </message>
+    <message>
+        <source>A click: %1</source>
+        <translation>Un clic: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>step, how it stands</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1. A click: %2</source>
+        <translation>%1. Un clic: %2</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation>Siguiente: %1</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
@@ -2115,6 +2813,13 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Search</source>
         <translation>Buscar</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::HandleTrack</name>
+    <message>
+        <source>Handle %1</source>
+        <translation>Cursor %1</translation>
     </message>
 </context>
 <context>
@@ -2298,6 +3003,10 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Shot by geophone, and in the section along the rays</source>
         <translation>Disparo por geófono, y en la sección a lo largo de los rayos</translation>
+    </message>
+    <message>
+        <source>Files to be written</source>
+        <translation>Archivos que se escribirán</translation>
     </message>
 </context>
 <context>
@@ -2844,6 +3553,38 @@ respaldo de picados</translation>
         <source>Elevation (m)</source>
         <translation>Cota (m)</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geófonos</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geófono %1</translation>
+    </message>
+    <message>
+        <source>x %1 m, %2 m across</source>
+        <translation>x %1 m, %2 m en transversal</translation>
+    </message>
+    <message>
+        <source>%1 m east, %2 m north</source>
+        <translation>%1 m al este, %2 m al norte</translation>
+    </message>
+    <message>
+        <source>Across the line (m)</source>
+        <translation>Transversal a la línea (m)</translation>
+    </message>
+    <message>
+        <source>East of the first geophone (m)</source>
+        <translation>Al este del primer geófono (m)</translation>
+    </message>
+    <message>
+        <source>North of it (m)</source>
+        <translation>Al norte de él (m)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LossQuestion</name>
@@ -2878,6 +3619,53 @@ respaldo de picados</translation>
     <message>
         <source>The survey changes. This will be removed (Undo brings it back):</source>
         <translation>El levantamiento cambia. Se quitará lo siguiente (Deshacer lo recupera):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MarkedIsolinesDialog</name>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolíneas destacadas</translation>
+    </message>
+    <message>
+        <source>Velocities that mean something, such as 1500 m/s for the water table. Their lines stand out from the section and carry their names.</source>
+        <translation>Velocidades con un significado, como 1500 m/s para el nivel freático. Sus líneas destacan en la sección y llevan su nombre.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocidad [m/s]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Grosor</translation>
+    </message>
+    <message>
+        <source>Mark another velocity</source>
+        <translation>Destaca otra velocidad</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Añadir</translation>
+    </message>
+    <message>
+        <source>Remove the line that is selected</source>
+        <translation>Quita la línea seleccionada</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>water table</source>
+        <translation>nivel freático</translation>
     </message>
 </context>
 <context>
@@ -2958,6 +3746,10 @@ respaldo de picados</translation>
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Ganancia</translation>
     </message>
 </context>
 <context>
@@ -6898,6 +7690,618 @@ Defina la posición de los geófonos
         <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
         <translation>En este perfil, la velocidad de la capa 1 varía a lo largo de la línea y con la profundidad; aquí se toma en todas partes su media, %1 m/s.</translation>
     </message>
+    <message>
+        <source>the first distance must be a number, and the EPSG code a whole number</source>
+        <translation>la primera distancia debe ser un número, y el código EPSG un número entero</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>No se puede escribir %1</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Filtro notch</translation>
+    </message>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtro de velocidad</translation>
+    </message>
+    <message>
+        <source>the line has no place on the map; its geographic coordinates are missing</source>
+        <translation>la línea no tiene lugar en el mapa; faltan sus coordenadas geográficas</translation>
+    </message>
+    <message>
+        <source>two shot files of the survey would both become %1</source>
+        <translation>dos archivos de disparos del levantamiento se convertirían ambos en %1</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey; choose another folder</source>
+        <translation>%1 es uno de los archivos de disparos de este levantamiento; elija otra carpeta</translation>
+    </message>
+    <message>
+        <source>it holds several shots, whose traces may be mixed</source>
+        <translation>contiene varios disparos, cuyas trazas pueden estar mezcladas</translation>
+    </message>
+    <message>
+        <source>its traces are not those of the survey any more</source>
+        <translation>sus trazas ya no son las del levantamiento</translation>
+    </message>
+    <message>
+        <source>miniSEED has no headers for picks</source>
+        <translation>miniSEED no tiene cabeceras para picados</translation>
+    </message>
+    <message>
+        <source>the survey has no shot files</source>
+        <translation>el levantamiento no tiene archivos de disparos</translation>
+    </message>
+    <message>
+        <source>%1 was left out: %2</source>
+        <translation>se ha omitido %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 has no picks</source>
+        <translation>%1 no tiene picados</translation>
+    </message>
+    <message>
+        <source>%1 shots have no shot file of their own and were left out</source>
+        <translation>%1 disparos no tienen archivo de disparo propio y se han omitido</translation>
+    </message>
+    <message>
+        <source>bytes 233 to 236 of %1 trace headers held something else before</source>
+        <translation>los bytes 233 a 236 de %1 cabeceras de traza contenían antes otra cosa</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 cannot be followed</source>
+        <translation>no se puede seguir la cabecera de la traza %1</translation>
+    </message>
+    <message>
+        <source>it has %1 traces, the survey %2 of them</source>
+        <translation>tiene %1 trazas, y el levantamiento %2 de ellas</translation>
+    </message>
+    <message>
+        <source>it would grow too large</source>
+        <translation>crecería demasiado</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 has no room for a pick</source>
+        <translation>en la cabecera de la traza %1 no cabe un picado</translation>
+    </message>
+    <message>
+        <source>it is SEG-Y of revision 2, whose trace headers have no bytes to spare</source>
+        <translation>es SEG-Y de revisión 2, cuyas cabeceras de traza no tienen bytes libres</translation>
+    </message>
+    <message>
+        <source>it is not known by what the filtered copies of its traces were made</source>
+        <translation>no se sabe con qué se hicieron las copias filtradas de sus trazas</translation>
+    </message>
+    <message>
+        <source>marked isolines and what was drawn on its section are lost</source>
+        <translation>se pierden las isolíneas destacadas y lo dibujado en su sección</translation>
+    </message>
+    <message>
+        <source>the line lies straight on the map between its ends</source>
+        <translation>la línea va recta en el mapa entre sus extremos</translation>
+    </message>
+    <message>
+        <source>its vertices are no course of a line</source>
+        <translation>sus vértices no forman el trazado de una línea</translation>
+    </message>
+    <message>
+        <source>it belongs to another map position</source>
+        <translation>corresponde a otra posición en el mapa</translation>
+    </message>
+    <message>
+        <source>it tells of traces that are not there, or of filters that are not known</source>
+        <translation>habla de trazas que no existen, o de filtros desconocidos</translation>
+    </message>
+    <message>
+        <source>%1 is no style file: %2</source>
+        <translation>%1 no es un archivo de estilo: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of Talvesk has written it</source>
+        <translation>lo ha escrito una versión más reciente de Talvesk</translation>
+    </message>
+    <message>
+        <source>the place lies outside of %1</source>
+        <translation>el lugar está fuera de %1</translation>
+    </message>
+    <message>
+        <source>it is not known which columns hold easting and northing, or longitude and latitude</source>
+        <translation>no se sabe qué columnas contienen este y norte, o longitud y latitud</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 rows, which is no table of a line</source>
+        <translation>%1 tiene más de %2 filas, y eso no es la tabla de una línea</translation>
+    </message>
+    <message>
+        <source>its text is too long</source>
+        <translation>su texto es demasiado largo</translation>
+    </message>
+    <message>
+        <source>its colour is none</source>
+        <translation>su color no es válido</translation>
+    </message>
+    <message>
+        <source>a line is %1 to %2 points wide</source>
+        <translation>el grosor de una línea es de %1 a %2 puntos</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polígono</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>Arena</translation>
+    </message>
+    <message>
+        <source>Gravel</source>
+        <translation>Grava</translation>
+    </message>
+    <message>
+        <source>Clay</source>
+        <translation>Arcilla</translation>
+    </message>
+    <message>
+        <source>Silt</source>
+        <translation>Limo</translation>
+    </message>
+    <message>
+        <source>Rock</source>
+        <translation>Roca</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Relleno</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Agua</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>it is neither text nor line nor polygon</source>
+        <translation>no es texto, línea ni polígono</translation>
+    </message>
+    <message>
+        <source>its pattern is none</source>
+        <translation>su patrón no es válido</translation>
+    </message>
+    <message>
+        <source>it says nothing</source>
+        <translation>no dice nada</translation>
+    </message>
+    <message>
+        <source>a text stands at one point, not at %1</source>
+        <translation>un texto está en un punto, no en %1</translation>
+    </message>
+    <message>
+        <source>it has %1 points and needs %2 at least</source>
+        <translation>tiene %1 puntos y necesita %2 como mínimo</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 m is no place of a section</source>
+        <translation>%1 m, %2 m no es un lugar de una sección</translation>
+    </message>
+    <message>
+        <source>a text is %1 to %2 points high</source>
+        <translation>el tamaño de un texto es de %1 a %2 puntos</translation>
+    </message>
+    <message>
+        <source>a section holds %1 marked isolines and %2 annotations with %3 points at most</source>
+        <translation>una sección tiene como máximo %1 isolíneas destacadas y %2 anotaciones con %3 puntos</translation>
+    </message>
+    <message>
+        <source>marked isoline %1</source>
+        <translation>isolínea destacada %1</translation>
+    </message>
+    <message>
+        <source>annotation %1</source>
+        <translation>anotación %1</translation>
+    </message>
+    <message>
+        <source>band-pass from %1 Hz, order %2, to %3 Hz, order %4</source>
+        <translation>paso banda de %1 Hz, orden %2, a %3 Hz, orden %4</translation>
+    </message>
+    <message>
+        <source>low-pass %1 Hz, order %2</source>
+        <translation>paso bajo %1 Hz, orden %2</translation>
+    </message>
+    <message>
+        <source>high-pass %1 Hz, order %2</source>
+        <translation>paso alto %1 Hz, orden %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s and more</source>
+        <translation>%1 m/s o más</translation>
+    </message>
+    <message>
+        <source>forth along the line</source>
+        <translation>hacia delante en la línea</translation>
+    </message>
+    <message>
+        <source>back along the line</source>
+        <translation>hacia atrás en la línea</translation>
+    </message>
+    <message>
+        <source>both ways</source>
+        <translation>en ambos sentidos</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, pass (taper %3 %)</source>
+        <translation>pasan velocidades de %1, %2 (transición %3 %)</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, are rejected (taper %3 %)</source>
+        <translation>se rechazan velocidades de %1, %2 (transición %3 %)</translation>
+    </message>
+    <message>
+        <source>notches at %1 Hz and multiples, %2 in all, quality %3</source>
+        <translation>notch en %1 Hz y múltiplos, %2 en total, calidad %3</translation>
+    </message>
+    <message>
+        <source>two geophones at least need easting and northing</source>
+        <translation>al menos dos geófonos necesitan coordenadas este y norte</translation>
+    </message>
+    <message>
+        <source>the first and the last geophone are at one place on the map, which gives the line no direction</source>
+        <translation>el primer y el último geófono están en el mismo punto del mapa, y así la línea no tiene dirección</translation>
+    </message>
+    <message>
+        <source>a trace cannot have a gain of %1, only one from %2 to %3</source>
+        <translation>una traza no puede tener una ganancia de %1, solo de %2 a %3</translation>
+    </message>
+    <message>
+        <source>traces with a gain of %1: %2</source>
+        <translation>trazas con ganancia %1: %2</translation>
+    </message>
+    <message>
+        <source>geophone %1</source>
+        <translation>geófono %1</translation>
+    </message>
+    <message>
+        <source>geophones %1</source>
+        <translation>geófonos %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>línea %1</translation>
+    </message>
+    <message>
+        <source>lines %1</source>
+        <translation>líneas %1</translation>
+    </message>
+    <message>
+        <source>lines %1 and %2 more</source>
+        <translation>líneas %1 y %2 más</translation>
+    </message>
+    <message>
+        <source>Not used, for no geophone or shot of the survey is there: %1</source>
+        <translation>No se usan, porque el levantamiento no tiene ese geófono o disparo: %1</translation>
+    </message>
+    <message>
+        <source>Not used, for a row above is of the same geophone or shot: %1</source>
+        <translation>No se usan, porque una fila anterior es del mismo geófono o disparo: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, placed among those that have one by the distances so far: %1</source>
+        <translation>Sin fila, colocados entre los que tienen una según las distancias actuales: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, left where nothing tells how they stand to the others: %1</source>
+        <translation>Sin fila, dejados donde nada indica cómo están respecto a los demás: %1</translation>
+    </message>
+    <message>
+        <source>Without an elevation, raised to the line between the others: %1</source>
+        <translation>Sin cota, elevados a la línea entre los demás: %1</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1 m: %2</source>
+        <translation>A más de la mitad de la separación de %1 m de la línea: %2</translation>
+    </message>
+    <message>
+        <source>Hardly apart from their neighbours: %1</source>
+        <translation>Apenas separados de sus vecinos: %1</translation>
+    </message>
+    <message>
+        <source>The line runs back to %1; an exchanged row or number?</source>
+        <translation>La línea retrocede hasta %1; ¿hay una fila o un número intercambiado?</translation>
+    </message>
+    <message>
+        <source>Not as far from the geophone before as expected: %1</source>
+        <translation>No tan lejos del geófono anterior como se esperaba: %1</translation>
+    </message>
+    <message>
+        <source>fewer than two geophones of the survey have a row in the table</source>
+        <translation>menos de dos geófonos del levantamiento tienen una fila en la tabla</translation>
+    </message>
+    <message>
+        <source>lengths along the ground need the elevation of every geophone; the table lacks %1</source>
+        <translation>las distancias sobre el terreno necesitan la cota de cada geófono; en la tabla falta la de %1</translation>
+    </message>
+    <message>
+        <source>its sample interval is not known</source>
+        <translation>no se conoce su intervalo de muestreo</translation>
+    </message>
+    <message>
+        <source>it has samples that are no numbers</source>
+        <translation>tiene muestras que no son números</translation>
+    </message>
+    <message>
+        <source>a notch needs a frequency, a multiple and a quality above 0</source>
+        <translation>un filtro notch necesita una frecuencia, un múltiplo y una calidad mayores que 0</translation>
+    </message>
+    <message>
+        <source>it is sampled too slowly for %1 Hz</source>
+        <translation>su muestreo es demasiado lento para %1 Hz</translation>
+    </message>
+    <message>
+        <source>it is shorter than one period of %1 Hz</source>
+        <translation>dura menos que un periodo de %1 Hz</translation>
+    </message>
+    <message>
+        <source>trace %1 has another length or sample interval than trace 1</source>
+        <translation>la traza %1 tiene otra longitud u otro intervalo de muestreo que la traza 1</translation>
+    </message>
+    <message>
+        <source>trace %1 has samples that are no numbers</source>
+        <translation>la traza %1 tiene muestras que no son números</translation>
+    </message>
+    <message>
+        <source>it has no samples, or no known sample interval</source>
+        <translation>no tiene muestras, o no se conoce su intervalo de muestreo</translation>
+    </message>
+    <message>
+        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
+        <translation>sus geófonos no están a intervalos regulares: la traza %1, en %2 m, está a %3 m de la anterior; la distancia habitual es de %4 m</translation>
+    </message>
+    <message>
+        <source>it has fewer than %1 traces</source>
+        <translation>tiene menos de %1 trazas</translation>
+    </message>
+    <message>
+        <source>the positions of its geophones are not known</source>
+        <translation>no se conocen las posiciones de sus geófonos</translation>
+    </message>
+    <message>
+        <source>of %1 places along its line %2 have no trace</source>
+        <translation>de %1 puntos de su línea, %2 no tienen traza</translation>
+    </message>
+    <message>
+        <source>shot %1: of %2 places along its line %3 have no trace, or a killed one; they count as zero, beside them the filter is less sharp</source>
+        <translation>disparo %1: de %2 puntos de su línea, %3 no tienen traza o la tienen anulada; cuentan como cero, y junto a ellos el filtro es menos nítido</translation>
+    </message>
+    <message>
+        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
+        <translation>la velocidad mínima, %1 m/s, debe ser mayor que 0 y menor que la máxima, %2 m/s</translation>
+    </message>
+    <message>
+        <source>the taper must be 0 or more and less than 100 percent of a limit</source>
+        <translation>la transición debe ser de 0 o más y de menos del 100 por ciento de un límite</translation>
+    </message>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Posiciones topográficas</translation>
+    </message>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolíneas destacadas</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Anotaciones</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Aplicar estilo</translation>
+    </message>
+    <message>
+        <source>shot %1 has no trace %2</source>
+        <translation>el disparo %1 no tiene la traza %2</translation>
+    </message>
+    <message>
+        <source>no recordings yet</source>
+        <translation>aún no hay registros</translation>
+    </message>
+    <message>
+        <source>times of %1 shots, without recordings</source>
+        <translation>tiempos de %1 disparos, sin registros</translation>
+    </message>
+    <message>
+        <source>recordings that begin before their shot: %1</source>
+        <translation>registros que comienzan antes de su disparo: %1</translation>
+    </message>
+    <message>
+        <source>recordings that were read with warnings: %1</source>
+        <translation>registros que se leyeron con advertencias: %1</translation>
+    </message>
+    <message>
+        <source>shots: %1</source>
+        <translation>disparos: %1</translation>
+    </message>
+    <message>
+        <source>no geophones yet</source>
+        <translation>aún no hay geófonos</translation>
+    </message>
+    <message>
+        <source>positions are missing or cannot be</source>
+        <translation>hay posiciones que faltan o que son imposibles</translation>
+    </message>
+    <message>
+        <source>things that look wrong in the positions: %1</source>
+        <translation>cosas que parecen erróneas en las posiciones: %1</translation>
+    </message>
+    <message>
+        <source>geophones: %1, shots: %2</source>
+        <translation>geófonos: %1, disparos: %2</translation>
+    </message>
+    <message>
+        <source>no picks yet</source>
+        <translation>aún no hay picados</translation>
+    </message>
+    <message>
+        <source>shots without picks: %1</source>
+        <translation>disparos sin picados: %1</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 traces have a pick</source>
+        <translation>solo %1 de %2 trazas tienen un picado</translation>
+    </message>
+    <message>
+        <source>%1 picks on %2 traces</source>
+        <translation>%1 picados en %2 trazas</translation>
+    </message>
+    <message>
+        <source>no picks to check yet</source>
+        <translation>aún no hay picados que revisar</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks that wait for confirmation are doubtful</source>
+        <translation>%1 de %2 picados que esperan confirmación son dudosos</translation>
+    </message>
+    <message>
+        <source>of %1 picks nothing is known that could speak against them</source>
+        <translation>de %1 picados no se sabe nada que pueda contradecirlos</translation>
+    </message>
+    <message>
+        <source>none of the %1 picks that wait for confirmation is doubtful</source>
+        <translation>ninguno de los %1 picados que esperan confirmación es dudoso</translation>
+    </message>
+    <message>
+        <source>no pick waits for confirmation</source>
+        <translation>ningún picado espera confirmación</translation>
+    </message>
+    <message>
+        <source>no grid yet</source>
+        <translation>aún no hay malla</translation>
+    </message>
+    <message>
+        <source>the grid has no cells</source>
+        <translation>la malla no tiene celdas</translation>
+    </message>
+    <message>
+        <source>shots and geophones beyond the grid: %1</source>
+        <translation>disparos y geófonos fuera de la malla: %1</translation>
+    </message>
+    <message>
+        <source>%1 x %2 cells</source>
+        <translation>%1 x %2 celdas</translation>
+    </message>
+    <message>
+        <source>%1, the usual starting model</source>
+        <translation>%1, el modelo inicial habitual</translation>
+    </message>
+    <message>
+        <source>%1, a starting model with layers: %2</source>
+        <translation>%1, un modelo inicial con capas: %2</translation>
+    </message>
+    <message>
+        <source>no inversion yet</source>
+        <translation>aún no hay inversión</translation>
+    </message>
+    <message>
+        <source>the section is older than the picks</source>
+        <translation>la sección es anterior a los picados</translation>
+    </message>
+    <message>
+        <source>the known ground is other than that of the section</source>
+        <translation>el terreno conocido no es el de la sección</translation>
+    </message>
+    <message>
+        <source>it was stopped before its end</source>
+        <translation>se detuvo antes de terminar</translation>
+    </message>
+    <message>
+        <source>chi-square is %1 and not near 1</source>
+        <translation>chi cuadrado es %1 y no está cerca de 1</translation>
+    </message>
+    <message>
+        <source>the section is inverted</source>
+        <translation>la sección está invertida</translation>
+    </message>
+    <message>
+        <source>RMSE %1 ms of %2 picks</source>
+        <translation>RMSE %1 ms de %2 picados</translation>
+    </message>
+    <message>
+        <source>no section yet</source>
+        <translation>aún no hay sección</translation>
+    </message>
+    <message>
+        <source>the layered profile is older than the picks</source>
+        <translation>el perfil de capas es anterior a los picados</translation>
+    </message>
+    <message>
+        <source>the certainty is older than the picks</source>
+        <translation>la certeza es anterior a los picados</translation>
+    </message>
+    <message>
+        <source>the section was smoothed after its inversion</source>
+        <translation>la sección se suavizó después de su inversión</translation>
+    </message>
+    <message>
+        <source>the section lies beyond its certainty</source>
+        <translation>la sección se sale de su certeza</translation>
+    </message>
+    <message>
+        <source>how certain the section is is not known</source>
+        <translation>no se conoce la certeza de la sección</translation>
+    </message>
+    <message>
+        <source>the section and its certainty are there</source>
+        <translation>la sección y su certeza están disponibles</translation>
+    </message>
+    <message>
+        <source>it has no section</source>
+        <translation>no tiene sección</translation>
+    </message>
+    <message>
+        <source>no cell of its section is drawn</source>
+        <translation>no se dibuja ninguna celda de su sección</translation>
+    </message>
+    <message>
+        <source>its line is nowhere on the map</source>
+        <translation>su línea no tiene lugar en el mapa</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Anular trazas</translation>
+    </message>
+    <message>
+        <source>Revive traces</source>
+        <translation>Recuperar trazas</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Invertir polaridad</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Silenciar trazas</translation>
+    </message>
+    <message>
+        <source>Mute traces no more</source>
+        <translation>Dejar de silenciar trazas</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplificar trazas</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Atenuar trazas</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -6988,6 +8392,61 @@ Defina la posición de los geófonos
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::NotchDialog</name>
+    <message>
+        <source>Notch</source>
+        <translation>Filtro notch</translation>
+    </message>
+    <message>
+        <source>Takes the hum of power lines out of the filtered copy. Arrivals stay where they are.</source>
+        <translation>Quita de la copia filtrada el zumbido de la red eléctrica. Las llegadas no se desplazan.</translation>
+    </message>
+    <message>
+        <source>&amp;Power line (Hz):</source>
+        <translation>&amp;Red eléctrica (Hz):</translation>
+    </message>
+    <message>
+        <source>50 Hz in most of the world, 60 Hz in North America; some railways have 16.7 Hz</source>
+        <translation>50 Hz en la mayor parte del mundo, 60 Hz en Norteamérica; algunos ferrocarriles usan 16,7 Hz</translation>
+    </message>
+    <message>
+        <source>&amp;Multiples:</source>
+        <translation>&amp;Múltiplos:</translation>
+    </message>
+    <message>
+        <source>So many multiples are taken out, the frequency itself among them, as far as the record has them</source>
+        <translation>Cuántos múltiplos se quitan, incluida la propia frecuencia, hasta donde llegue el registro</translation>
+    </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Calidad:</translation>
+    </message>
+    <message>
+        <source>The frequency over the width of every notch at 3 dB: larger ones take less of the signal, and less of hum that wanders</source>
+        <translation>La frecuencia dividida por el ancho de cada muesca a 3 dB: una calidad mayor quita menos señal, y menos zumbido si este varía</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Aplicar filtro a:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>Ori&amp;ginales</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>&amp;Filtrados</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>El filtro se aplica a todos los disparos.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>El filtro se aplica al disparo %1.</translation>
     </message>
 </context>
 <context>
@@ -7272,6 +8731,10 @@ Defina la posición de los geófonos
     <message>
         <source>&amp;Keep the program&apos;s rules</source>
         <translation>&amp;Mantener las reglas del programa</translation>
+    </message>
+    <message>
+        <source>Files and what each reading finds in them</source>
+        <translation>Archivos y lo que cada lectura encuentra en ellos</translation>
     </message>
 </context>
 <context>
@@ -7575,6 +9038,10 @@ Defina la posición de los geófonos
     <message>
         <source>in memory, for %1</source>
         <translation>en memoria, porque %1</translation>
+    </message>
+    <message>
+        <source>Filtered copy by:</source>
+        <translation>Copia filtrada con:</translation>
     </message>
 </context>
 <context>
@@ -9093,6 +10560,22 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
         <translation>Las primeras llegadas se asignaron a capas, y las velocidades y profundidades de los refractores se ajustaron a todas ellas a la vez, de modo que los tiempos directos y refractados calculados a través de las capas, que pueden variar a lo largo de la línea, sean los de los picados.</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtros</translation>
+    </message>
+    <message>
+        <source>These shots have filtered copies beside their recordings, made as listed, one filter after the other.</source>
+        <translation>Estos disparos tienen copias filtradas además de sus registros, hechas como se indica, un filtro tras otro.</translation>
+    </message>
+    <message>
+        <source>Filters of the recordings</source>
+        <translation>Filtros de los registros</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -9225,10 +10708,6 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>Errors of the picks</source>
         <translation>Errores de los picados</translation>
-    </message>
-    <message>
-        <source>&amp;Colour shot:</source>
-        <translation>&amp;Resaltar disparo:</translation>
     </message>
     <message>
         <source>Whose dots have a colour of their own in the picture over the offset</source>
@@ -9377,6 +10856,10 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>The picture cannot be made.</source>
         <translation>No se puede crear la imagen.</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur shot:</source>
+        <translation>&amp;Resaltar disparo:</translation>
     </message>
 </context>
 <context>
@@ -9903,6 +11386,70 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <source>Velocity section</source>
         <translation>Sección de velocidad</translation>
     </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distancia %1 m</translation>
+    </message>
+    <message>
+        <source>Horizontal %1 m</source>
+        <translation>Horizontal %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical %1 m</source>
+        <translation>Vertical %1 m</translation>
+    </message>
+    <message>
+        <source>Slope %1°</source>
+        <translation>Pendiente %1°</translation>
+    </message>
+    <message>
+        <source>Click the next point; Esc ends</source>
+        <translation>Haga clic en el punto siguiente; Esc termina</translation>
+    </message>
+    <message>
+        <source>Double click or Enter ends it, Backspace takes a point back</source>
+        <translation>Doble clic o Intro termina, Retroceso quita un punto</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Medir</translation>
+    </message>
+    <message>
+        <source>Drag between two points: distance, horizontal, vertical and slope; Esc ends</source>
+        <translation>Arrastre entre dos puntos: distancia, horizontal, vertical y pendiente; Esc termina</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Dibujar</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
+        <translation>Dibuje con clics textos, líneas y áreas de terreno en la sección; Esc termina</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Click where a text is to stand on the section</source>
+        <translation>Haga clic donde deba ir un texto en la sección</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Click the points of a line on the section</source>
+        <translation>Haga clic en los puntos de una línea en la sección</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polígono</translation>
+    </message>
+    <message>
+        <source>Click the corners of an area of the section</source>
+        <translation>Haga clic en los vértices de un área de la sección</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SelectCSVDelimiterDialog</name>
@@ -10159,6 +11706,407 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>Los resultados de la última inversión se quitarán (Deshacer los recupera).</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StepTexts</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Registros</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Geometría</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picados</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Revisión</translation>
+    </message>
+    <message>
+        <source>Grid and start</source>
+        <translation>Malla e inicio</translation>
+    </message>
+    <message>
+        <source>Inversion</source>
+        <translation>Inversión</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>hecho</translation>
+    </message>
+    <message>
+        <source>doubtful</source>
+        <translation>dudoso</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>falta</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>desactualizado</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>step, reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPointsTable</name>
+    <message>
+        <source>Shot %1</source>
+        <translation>Disparo %1</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geófono %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>row of a table</comment>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <comment>of a table</comment>
+        <translation>Fila</translation>
+    </message>
+    <message>
+        <source>Across
+(m)</source>
+        <translation>Transv.
+(m)</translation>
+    </message>
+    <message>
+        <source>x before
+(m)</source>
+        <translation>x antes
+(m)</translation>
+    </message>
+    <message>
+        <source>x
+(m)</source>
+        <translation>x
+(m)</translation>
+    </message>
+    <message>
+        <source>change
+(m)</source>
+        <translation>cambio
+(m)</translation>
+    </message>
+    <message>
+        <source>z before
+(m)</source>
+        <translation>z antes
+(m)</translation>
+    </message>
+    <message>
+        <source>z
+(m)</source>
+        <translation>z
+(m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPositionsDialog</name>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Posiciones topográficas</translation>
+    </message>
+    <message>
+        <source>&amp;Other table ...</source>
+        <translation>Otra ta&amp;bla ...</translation>
+    </message>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Primeras filas de la tabla</translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation>Columnas de la tabla</translation>
+    </message>
+    <message>
+        <source>S&amp;eparator</source>
+        <translation>Separad&amp;or</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separador</translation>
+    </message>
+    <message>
+        <source>C&amp;oordinates</source>
+        <translation>Coor&amp;denadas</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordenadas</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Nombre</translation>
+    </message>
+    <message>
+        <source>Column of names</source>
+        <translation>Columna de los nombres</translation>
+    </message>
+    <message>
+        <source>Eas&amp;ting</source>
+        <translation>&amp;Este</translation>
+    </message>
+    <message>
+        <source>Column of eastings or longitudes</source>
+        <translation>Columna de coordenadas este o longitudes</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>Ti&amp;po</translation>
+    </message>
+    <message>
+        <source>Column of kinds</source>
+        <translation>Columna de los tipos</translation>
+    </message>
+    <message>
+        <source>No&amp;rthing</source>
+        <translation>No&amp;rte</translation>
+    </message>
+    <message>
+        <source>Column of northings or latitudes</source>
+        <translation>Columna de coordenadas norte o latitudes</translation>
+    </message>
+    <message>
+        <source>Ele&amp;vation</source>
+        <translation>&amp;Cota</translation>
+    </message>
+    <message>
+        <source>Column of elevations</source>
+        <translation>Columna de las cotas</translation>
+    </message>
+    <message>
+        <source>EPS&amp;G code</source>
+        <translation>Códi&amp;go EPSG</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>Código EPSG</translation>
+    </message>
+    <message>
+        <source>The code of the reference system of easting and northing, for example 32632 for UTM zone 32 N. Without it the line gets no place on the map. Longitude and latitude are projected into it, without a code into their UTM zone.</source>
+        <translation>El código del sistema de referencia de las coordenadas este y norte, por ejemplo 32632 para la zona UTM 32 N. Sin él la línea no recibe lugar en el mapa. La longitud y la latitud se proyectan a él; sin código, a su zona UTM.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Línea</translation>
+    </message>
+    <message>
+        <source>Shape of the line</source>
+        <translation>Forma de la línea</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>Dis&amp;tancias</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Distancias a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Names &amp;are</source>
+        <translation>&amp;Qué son los nombres</translation>
+    </message>
+    <message>
+        <source>What names are</source>
+        <translation>Qué son los nombres</translation>
+    </message>
+    <message>
+        <source>First &amp;distance</source>
+        <translation>Pr&amp;imera distancia</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone</source>
+        <translation>Distancia del primer geófono</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
+        <translation>Distancia del primer geófono con coordenadas medidas, en metros. Vacío: como está ahora.</translation>
+    </message>
+    <message>
+        <source>Count from the other &amp;end</source>
+        <translation>Contar desde el otro e&amp;xtremo</translation>
+    </message>
+    <message>
+        <source>&amp;Positions</source>
+        <translation>Po&amp;siciones</translation>
+    </message>
+    <message>
+        <source>Positions before and after</source>
+        <translation>Posiciones antes y después</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mapa</translation>
+    </message>
+    <message>
+        <source>Geophones and shots from above</source>
+        <translation>Geófonos y disparos vistos desde arriba</translation>
+    </message>
+    <message>
+        <source>O&amp;ffsets</source>
+        <translation>Des&amp;víos</translation>
+    </message>
+    <message>
+        <source>Offsets across the line</source>
+        <translation>Desvíos transversales a la línea</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>Por revisar</translation>
+    </message>
+    <message>
+        <source>as in the table</source>
+        <translation>como en la tabla</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>tabulador</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>punto y coma</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>coma</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>espacio</translation>
+    </message>
+    <message>
+        <source>Easting, northing</source>
+        <translation>Este, norte</translation>
+    </message>
+    <message>
+        <source>Longitude, latitude</source>
+        <translation>Longitud, latitud</translation>
+    </message>
+    <message>
+        <source>Straight, fitted to the geophones</source>
+        <translation>Recta, ajustada a los geófonos</translation>
+    </message>
+    <message>
+        <source>Straight, from the first geophone to the last one</source>
+        <translation>Recta, del primer geófono al último</translation>
+    </message>
+    <message>
+        <source>Bent, from geophone to geophone</source>
+        <translation>Quebrada, de geófono a geófono</translation>
+    </message>
+    <message>
+        <source>Horizontal, as on the map</source>
+        <translation>Horizontales, como en el mapa</translation>
+    </message>
+    <message>
+        <source>Along the ground, on slopes</source>
+        <translation>Sobre el terreno, por las pendientes</translation>
+    </message>
+    <message>
+        <source>numbers of geophones and shots, from 1</source>
+        <translation>números de geófonos y disparos, desde 1</translation>
+    </message>
+    <message>
+        <source>without a meaning: rows are in order</source>
+        <translation>sin significado: las filas están en orden</translation>
+    </message>
+    <message>
+        <source>distances along the line as it is now</source>
+        <translation>distancias a lo largo de la línea como está ahora</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>column of a table</comment>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>columna %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>column, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Longi&amp;tude</source>
+        <translation>Longit&amp;ud</translation>
+    </message>
+    <message>
+        <source>Latit&amp;ude</source>
+        <translation>L&amp;atitud</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of the table have no position and are not used.</source>
+        <translation>
+            <numerusform>%n fila de la tabla no tiene posición y no se usa.</numerusform>
+            <numerusform>%n filas de la tabla no tienen posición y no se usan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
+        <translation>Con fila: %1 de %2 geófonos, %3 de %4 disparos. Los geófonos se desvían %5 m de la línea (RMS), como máximo %6 m (%7); su separación es de %8 m.</translation>
+    </message>
+    <message>
+        <source>No reference system</source>
+        <translation>Sin sistema de referencia</translation>
+    </message>
+    <message>
+        <source>EPSG:%1, %2</source>
+        <translation>EPSG:%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: the zone of the first place</source>
+        <translation>%1: la zona del primer lugar</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the place of the line on the map stays as it is now, where it may not fit any more.</source>
+        <translation>Sin un código EPSG, el lugar de la línea en el mapa queda como está ahora, y puede que ya no sea el correcto.</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the line gets no place on the map.</source>
+        <translation>Sin un código EPSG la línea no recibe lugar en el mapa.</translation>
+    </message>
+    <message>
+        <source>On OK the line lies on the map from the first geophone to the last one, on the line that is shown.</source>
+        <translation>Al aceptar, la línea va en el mapa del primer geófono al último, por la línea que se muestra.</translation>
+    </message>
+    <message numerus="yes">
+        <source>On OK the line lies on the map along %n point(s), and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</source>
+        <translation>
+            <numerusform>Al aceptar, la línea va en el mapa por %n punto, y KML la sigue. Los informes y el diálogo de coordenadas geográficas dan sus dos extremos.</numerusform>
+            <numerusform>Al aceptar, la línea va en el mapa por %n puntos, y KML la sigue. Los informes y el diálogo de coordenadas geográficas dan sus dos extremos.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -12342,6 +14290,310 @@ Do you want to run refraction processing anyway? </source>
         <source>Web page (*.html)</source>
         <translation>Página web (*.html)</translation>
     </message>
+    <message>
+        <source>Mends of the selected traces</source>
+        <translation>Correcciones de las trazas seleccionadas</translation>
+    </message>
+    <message>
+        <source>Marked isolines ...</source>
+        <translation>Isolíneas destacadas ...</translation>
+    </message>
+    <message>
+        <source>Name velocities, such as 1500 m/s for the water table, whose lines stand out from the section</source>
+        <translation>Da nombre a velocidades, como 1500 m/s para el nivel freático, cuyas líneas destacan en la sección</translation>
+    </message>
+    <message>
+        <source>Annotations ...</source>
+        <translation>Anotaciones ...</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground drawn on the section</source>
+        <translation>Textos, líneas y áreas de terreno dibujados en la sección</translation>
+    </message>
+    <message>
+        <source>Depth profile ...</source>
+        <translation>Perfil de profundidad ...</translation>
+    </message>
+    <message>
+        <source>Velocity, its gradient and how sure it is against depth, below the mouse</source>
+        <translation>Velocidad, su gradiente y su certeza en función de la profundidad, bajo el ratón</translation>
+    </message>
+    <message>
+        <source>Fence of several lines ...</source>
+        <translation>Panel de varias líneas ...</translation>
+    </message>
+    <message>
+        <source>Sections of this and other projects at their places on the map, in one view</source>
+        <translation>Secciones de este y otros proyectos en su lugar del mapa, en una sola vista</translation>
+    </message>
+    <message>
+        <source>Save style ...</source>
+        <translation>Guardar estilo ...</translation>
+    </message>
+    <message>
+        <source>Save palette, range, contours, exaggeration, switches and marked isolines for other surveys</source>
+        <translation>Guarda paleta, rango, isolíneas, exageración, opciones de vista e isolíneas destacadas para otros levantamientos</translation>
+    </message>
+    <message>
+        <source>Apply style ...</source>
+        <translation>Aplicar estilo ...</translation>
+    </message>
+    <message>
+        <source>Let this section look as the one whose style was saved</source>
+        <translation>Da a esta sección el aspecto de aquella cuyo estilo se guardó</translation>
+    </message>
+    <message>
+        <source>Show annotations</source>
+        <translation>Mostrar anotaciones</translation>
+    </message>
+    <message>
+        <source>Draw marked isolines, texts, lines and areas of ground over the section</source>
+        <translation>Dibuja isolíneas destacadas, textos, líneas y áreas de terreno sobre la sección</translation>
+    </message>
+    <message>
+        <source>Surveyed positions ...</source>
+        <translation>Posiciones topográficas ...</translation>
+    </message>
+    <message>
+        <source>Make distances along the line and its place on the map of a table of coordinates</source>
+        <translation>Calcula de una tabla de coordenadas las distancias a lo largo de la línea y su lugar en el mapa</translation>
+    </message>
+    <message>
+        <source>Find command...</source>
+        <translation>Buscar comando...</translation>
+    </message>
+    <message>
+        <source>Find any command by its words and give it</source>
+        <translation>Busca cualquier comando por sus palabras y lo ejecuta</translation>
+    </message>
+    <message>
+        <source>Shot files with picks ...</source>
+        <translation>Archivos de disparos con picados ...</translation>
+    </message>
+    <message>
+        <source>Copy the shot files into another folder, with the picks in their trace headers</source>
+        <translation>Copia los archivos de disparos a otra carpeta, con los picados en las cabeceras de traza</translation>
+    </message>
+    <message>
+        <source>Drawing as DXF ...</source>
+        <translation>Dibujo como DXF ...</translation>
+    </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
+        <translation>Exporta superficie, isolíneas, refractores, geófonos y disparos como dibujo para CAD</translation>
+    </message>
+    <message>
+        <source>Section as curtain on the map ...</source>
+        <translation>Sección como cortina en el mapa ...</translation>
+    </message>
+    <message>
+        <source>Export the cells with their velocities where they lie on the map, as a VTK grid or a table</source>
+        <translation>Exporta las celdas con sus velocidades donde están en el mapa, como malla VTK o como tabla</translation>
+    </message>
+    <message>
+        <source>Line and isolines as GeoPackage ...</source>
+        <translation>Línea e isolíneas como GeoPackage ...</translation>
+    </message>
+    <message>
+        <source>Export line, geophones, shots, isolines, refractors and depths of isovalues as layers for maps</source>
+        <translation>Exporta línea, geófonos, disparos, isolíneas, refractores y profundidades de isovalores como capas para mapas</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Anular trazas</translation>
+    </message>
+    <message>
+        <source>The selected traces count for nothing and have no pick, or do again (key K); what was recorded is kept</source>
+        <translation>Las trazas seleccionadas no cuentan ni tienen picado, o vuelven a contar (tecla K); lo registrado se conserva</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Invertir polaridad</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces change their sign (key P)</source>
+        <translation>Cambia el signo de las muestras de las trazas seleccionadas (tecla P)</translation>
+    </message>
+    <message>
+        <source>Mute traces before...</source>
+        <translation>Silenciar trazas antes de...</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces before a time become zero (key U mutes before the mouse, Shift+U no more)</source>
+        <translation>Pone a cero las muestras de las trazas seleccionadas anteriores a un tiempo (la tecla U silencia antes del ratón, Mayús+U deja de silenciar)</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplificar trazas</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become larger, 1.5 or 2 times in turn (key })</source>
+        <translation>Aumenta las muestras de las trazas seleccionadas, 1,5 o 2 veces alternativamente (tecla })</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Atenuar trazas</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become smaller (key {)</source>
+        <translation>Reduce las muestras de las trazas seleccionadas (tecla {)</translation>
+    </message>
+    <message>
+        <source>Notch...</source>
+        <translation>Filtro notch...</translation>
+    </message>
+    <message>
+        <source>Take the hum of power lines, 50 or 60 Hz and multiples, out of the filtered copy</source>
+        <translation>Quita de la copia filtrada el zumbido de la red eléctrica, 50 o 60 Hz y múltiplos</translation>
+    </message>
+    <message>
+        <source>Velocity filter...</source>
+        <translation>Filtro de velocidad...</translation>
+    </message>
+    <message>
+        <source>Keep or take out waves by their apparent velocity, in the filtered copy</source>
+        <translation>Conserva o quita ondas según su velocidad aparente, en la copia filtrada</translation>
+    </message>
+    <message>
+        <source>Annotations wait for the inversion to end.</source>
+        <translation>Las anotaciones esperan a que termine la inversión.</translation>
+    </message>
+    <message>
+        <source>It cannot work now.</source>
+        <translation>No está disponible ahora.</translation>
+    </message>
+    <message>
+        <source>Save depth profile</source>
+        <translation>Guardar perfil de profundidad</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>Imágenes (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the layered profile was built.</source>
+        <translation>Los picados han cambiado desde que se construyó el perfil de capas.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map.</source>
+        <translation>La línea no tiene lugar en el mapa.</translation>
+    </message>
+    <message>
+        <source>Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Indíquelo con Proyecto &gt; Definir coordenadas geográficas ...</translation>
+    </message>
+    <message>
+        <source>Export DXF Drawing</source>
+        <translation>Exportar dibujo DXF</translation>
+    </message>
+    <message>
+        <source>DXF drawing (*.dxf);;All Files (*)</source>
+        <translation>Dibujo DXF (*.dxf);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Export GeoPackage</source>
+        <translation>Exportar GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage (*.gpkg);;All Files (*)</source>
+        <translation>GeoPackage (*.gpkg);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Export Curtain</source>
+        <translation>Exportar cortina</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;Table of cells (*.csv);;All Files (*)</source>
+        <translation>Malla no estructurada VTK (*.vtu);;Tabla de celdas (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>This survey</source>
+        <translation>Este levantamiento</translation>
+    </message>
+    <message>
+        <source>Add projects to the fence</source>
+        <translation>Añadir proyectos al panel</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Proyectos de Talvesk (*.tvsk);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Save picture of the fence</source>
+        <translation>Guardar imagen del panel</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Imágenes (*.png)</translation>
+    </message>
+    <message>
+        <source>Applying notches ...</source>
+        <translation>Aplicando el filtro notch ...</translation>
+    </message>
+    <message>
+        <source>Applying the velocity filter ...</source>
+        <translation>Aplicando el filtro de velocidad ...</translation>
+    </message>
+    <message>
+        <source>Folder for the shot files with picks</source>
+        <translation>Carpeta para los archivos de disparos con picados</translation>
+    </message>
+    <message>
+        <source>In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files it is whole microseconds in bytes 233 to 236 of the trace header. Both count from the shot.</source>
+        <translation>En archivos SEG-2 un picado es FIRST_BREAK en segundos; en archivos SEG-Y y SU son microsegundos enteros en los bytes 233 a 236 de la cabecera de traza. Ambos cuentan desde el disparo.</translation>
+    </message>
+    <message>
+        <source>Shot files with picks</source>
+        <translation>Archivos de disparos con picados</translation>
+    </message>
+    <message>
+        <source>Save style</source>
+        <translation>Guardar estilo</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle)</source>
+        <translation>Estilos de Talvesk (*.tvstyle)</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Aplicar estilo</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle);;All files (*)</source>
+        <translation>Estilos de Talvesk (*.tvstyle);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The section looks as before.</source>
+        <translation>La sección se ve como antes.</translation>
+    </message>
+    <message>
+        <source>Style of %1</source>
+        <translation>Estilo de %1</translation>
+    </message>
+    <message>
+        <source>Geophones and shots stand where they were surveyed.</source>
+        <translation>Los geófonos y disparos están donde indican las posiciones topográficas.</translation>
+    </message>
+    <message>
+        <source>Open surveyed positions</source>
+        <translation>Abrir posiciones topográficas</translation>
+    </message>
+    <message>
+        <source>Tables of coordinates (*.csv *.tsv *.txt *.dat *.xyz *.asc);;All files (*)</source>
+        <translation>Tablas de coordenadas (*.csv *.tsv *.txt *.dat *.xyz *.asc);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The positions cannot be read.</source>
+        <translation>No se pueden leer las posiciones.</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Silenciar trazas</translation>
+    </message>
+    <message>
+        <source>The selected traces are zero before (ms); 0: from nowhere</source>
+        <translation>Las trazas seleccionadas son cero antes de (ms); 0: desde ningún tiempo</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -12511,6 +14763,113 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Layers: %1 ms</source>
         <translation>Capas: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::VelocityFilterDialog</name>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtro de velocidad</translation>
+    </message>
+    <message>
+        <source>Keeps or takes out waves by their apparent velocity along the line, in the filtered copy. Drag the sides of the wedge, or type velocities.</source>
+        <translation>Conserva o quita ondas según su velocidad aparente a lo largo de la línea, en la copia filtrada. Arrastre los lados de la cuña o escriba velocidades.</translation>
+    </message>
+    <message>
+        <source>&amp;Slowest (m/s):</source>
+        <translation>Míni&amp;ma (m/s):</translation>
+    </message>
+    <message>
+        <source>Least apparent velocity of the wedge; the full line in the picture</source>
+        <translation>Velocidad aparente mínima de la cuña; la línea continua de la imagen</translation>
+    </message>
+    <message>
+        <source>&amp;Fastest (m/s):</source>
+        <translation>Má&amp;xima (m/s):</translation>
+    </message>
+    <message>
+        <source>Greatest apparent velocity of the wedge, 0 for no limit; the dashed line in the picture</source>
+        <translation>Velocidad aparente máxima de la cuña, 0 para no limitarla; la línea discontinua de la imagen</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Ondas:</translation>
+    </message>
+    <message>
+        <source>Forth is towards greater distances along the line</source>
+        <translation>Hacia delante es hacia distancias mayores a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Both ways</source>
+        <translation>En ambos sentidos</translation>
+    </message>
+    <message>
+        <source>Forth along the line</source>
+        <translation>Hacia delante en la línea</translation>
+    </message>
+    <message>
+        <source>Back along the line</source>
+        <translation>Hacia atrás en la línea</translation>
+    </message>
+    <message>
+        <source>Wedge:</source>
+        <translation>Cuña:</translation>
+    </message>
+    <message>
+        <source>&amp;Passes</source>
+        <translation>Pa&amp;sa</translation>
+    </message>
+    <message>
+        <source>Is re&amp;jected</source>
+        <translation>Se rec&amp;haza</translation>
+    </message>
+    <message>
+        <source>&amp;Taper (%):</source>
+        <translation>&amp;Transición (%):</translation>
+    </message>
+    <message>
+        <source>How far beside the wedge the filter sets in, in percent of its slowness there</source>
+        <translation>A qué distancia de la cuña empieza a actuar el filtro, en porcentaje de la lentitud en ese lado</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Aplicar filtro a:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>Ori&amp;ginales</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>&amp;Filtrados</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Mostrar:</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>&amp;Antes</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Después</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>El filtro se aplica a todos los disparos.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>El filtro se aplica al disparo %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1 cannot be filtered: %2</source>
+        <translation>No se puede filtrar el disparo %1: %2</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>No se ha aplicado ningún filtro.</translation>
     </message>
 </context>
 <context>
@@ -12875,6 +15234,18 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Open the place in a map service</source>
         <translation>Abrir el lugar en un servicio de mapas</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Anotaciones</translation>
+    </message>
+    <message>
+        <source>Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Teclas: izquierda y derecha van de picado en picado, arriba y abajo de disparo en disparo, + y - amplían y reducen, 0 muestra todo.</translation>
+    </message>
+    <message>
+        <source>Point at a mark to read it. Keys: left and right go from mark to mark, + and - zoom, 0 shows all.</source>
+        <translation>Apunte a una marca para leerla. Teclas: izquierda y derecha van de marca en marca, + y - amplían y reducen, 0 muestra todo.</translation>
     </message>
 </context>
 <context>
@@ -13310,10 +15681,6 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Sin muestras, solo picados</translation>
     </message>
     <message>
-        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
-        <translation>Trazas %1 a %2: C confirma, Supr quita, Esc deselecciona</translation>
-    </message>
-    <message>
         <source>Open shot files with Ctrl+O or drop them here</source>
         <translation>Abra archivos de disparos con Ctrl+O o suéltelos aquí</translation>
     </message>
@@ -13332,6 +15699,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Error %1 ms</source>
         <translation>Error %1 ms</translation>
+    </message>
+    <message>
+        <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
+        <translation>Trazas %1: C confirma, Supr quita, K anula, P invierte, U silencia, Esc deselecciona</translation>
     </message>
 </context>
 <context>
@@ -13604,6 +15975,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Another fit, from: %1</source>
         <translation>Otro ajuste, a partir de: %1</translation>
+    </message>
+    <message>
+        <source>Iterations and misfits</source>
+        <translation>Iteraciones y desajustes</translation>
     </message>
 </context>
 <context>
