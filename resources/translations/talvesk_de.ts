@@ -49,6 +49,277 @@
     </message>
 </context>
 <context>
+    <name>talvesk::AnnotationsDialog</name>
+    <message>
+        <source>Annotations</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground that are drawn on the section. They can be drawn with the mouse as well: Draw, above the section.</source>
+        <translation>Texte, Linien und Flächen des Untergrunds, die auf den Schnitt gezeichnet werden. Sie lassen sich auch mit der Maus zeichnen: „Zeichnen“ über dem Schnitt.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source>Add a text in the middle of the section</source>
+        <translation>Fügt einen Text in der Mitte des Schnitts hinzu</translation>
+    </message>
+    <message>
+        <source>Add &amp;text</source>
+        <translation>Te&amp;xt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a line in the middle of the section</source>
+        <translation>Fügt eine Linie in der Mitte des Schnitts hinzu</translation>
+    </message>
+    <message>
+        <source>Add &amp;line</source>
+        <translation>&amp;Linie hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add an area in the middle of the section</source>
+        <translation>Fügt eine Fläche in der Mitte des Schnitts hinzu</translation>
+    </message>
+    <message>
+        <source>Add &amp;polygon</source>
+        <translation>&amp;Polygon hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the annotation that is selected</source>
+        <translation>Entfernt die ausgewählte Anmerkung</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Let those after it be drawn over it</source>
+        <translation>Die folgenden Anmerkungen werden über diese gezeichnet</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Points of the annotation that is selected</source>
+        <translation>Punkte der ausgewählten Anmerkung</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Entfernung [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Höhe [m]</translation>
+    </message>
+    <message>
+        <source>Add a point behind the one that is selected</source>
+        <translation>Fügt hinter dem ausgewählten Punkt einen weiteren hinzu</translation>
+    </message>
+    <message>
+        <source>Add p&amp;oint</source>
+        <translation>P&amp;unkt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the point that is selected</source>
+        <translation>Entfernt den ausgewählten Punkt</translation>
+    </message>
+    <message>
+        <source>Remove po&amp;int</source>
+        <translation>Punkt ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>Annotations: %1.</source>
+        <translation>Anmerkungen: %1.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed?</source>
+        <translation>Änderungen verwerfen?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignPage</name>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>RMS-Abweichung [ms]</translation>
+    </message>
+    <message>
+        <source>RMS misfit [%]</source>
+        <translation>RMS-Abweichung [%]</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi-Quadrat</translation>
+    </message>
+    <message>
+        <source>Length covered [m]</source>
+        <translation>Erfasste Länge [m]</translation>
+    </message>
+    <message>
+        <source>Depth reached [m]</source>
+        <translation>Erreichte Tiefe [m]</translation>
+    </message>
+    <message>
+        <source>Cells with rays [%]</source>
+        <translation>Zellen mit Strahlen [%]</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>Not inverted yet</source>
+        <translation>Noch nicht invertiert</translation>
+    </message>
+    <message>
+        <source>The misfit of the section is not known</source>
+        <translation>Die Abweichung des Schnitts ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion</source>
+        <translation>Picks seit der Inversion geändert</translation>
+    </message>
+    <message>
+        <source>Smoothed after the inversion</source>
+        <translation>Nach der Inversion geglättet</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Auftraggeber</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Bearbeiter</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Lines: %1; with a section: %2; failed: %3</source>
+        <translation>Messlinien: %1; mit Schnitt: %2; fehlgeschlagen: %3</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Messlinien</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
+        <translation>Kleine Schnitte sind auf ihren Platz gestreckt; die Farben gelten für alle Messlinien gleich. Abweichungen sind die der gezeigten Schnitte, entlang neuer Strahlen.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Messlinie</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Verwendete Picks</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Invertiert</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Failed:</source>
+        <translation>Fehlgeschlagen:</translation>
+    </message>
+    <message>
+        <source>Velocity section of %1</source>
+        <translation>Geschwindigkeitsschnitt von %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Map of the lines</source>
+        <translation>Karte der Messlinien</translation>
+    </message>
+    <message>
+        <source>Numbers are those of the table; each stands at the first geophone of its line.</source>
+        <translation>Die Nummern sind die der Tabelle; jede steht am ersten Geophon ihrer Messlinie.</translation>
+    </message>
+    <message>
+        <source>Lines whose position is not known: %1</source>
+        <translation>Messlinien, deren Lage nicht bekannt ist: %1</translation>
+    </message>
+    <message>
+        <source>Campaign</source>
+        <translation>Messkampagne</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Zum Inhalt springen</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CertaintyDialog</name>
     <message>
         <source>Certainty</source>
@@ -272,6 +543,21 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ColorField</name>
+    <message>
+        <source>Choose another colour</source>
+        <translation>Andere Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Farbe %1</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -366,6 +652,145 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source> of %1</source>
         <translation> von %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandReasons</name>
+    <message>
+        <source>There are no shots yet.</source>
+        <translation>Es gibt noch keine Schüsse.</translation>
+    </message>
+    <message>
+        <source>There are no recordings yet.</source>
+        <translation>Es gibt noch keine Aufzeichnungen.</translation>
+    </message>
+    <message>
+        <source>No shot is in view.</source>
+        <translation>Es wird kein Schuss gezeigt.</translation>
+    </message>
+    <message>
+        <source>No shot with traces is in view.</source>
+        <translation>Es wird kein Schuss mit Spuren gezeigt.</translation>
+    </message>
+    <message>
+        <source>Nothing is mended.</source>
+        <translation>Nichts ist korrigiert.</translation>
+    </message>
+    <message>
+        <source>The shot in view has no filtered copy.</source>
+        <translation>Der gezeigte Schuss hat keine gefilterte Kopie.</translation>
+    </message>
+    <message>
+        <source>No recording begins before its shot.</source>
+        <translation>Keine Aufzeichnung beginnt vor ihrem Schuss.</translation>
+    </message>
+    <message>
+        <source>The selected traces have no picks.</source>
+        <translation>Die ausgewählten Spuren haben keine Picks.</translation>
+    </message>
+    <message>
+        <source>No pick of the selected traces waits for confirmation.</source>
+        <translation>Kein Pick der ausgewählten Spuren wartet auf Bestätigung.</translation>
+    </message>
+    <message>
+        <source>There are no shots yet, or no picks are shown.</source>
+        <translation>Es gibt noch keine Schüsse, oder es werden keine Picks gezeigt.</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>Es gibt keine frühere Ansicht.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>Es gibt keine spätere Ansicht.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Es gibt nichts zu wiederholen.</translation>
+    </message>
+    <message>
+        <source>There are no geophones and no shots yet.</source>
+        <translation>Es gibt noch keine Geophone und keine Schüsse.</translation>
+    </message>
+    <message>
+        <source>There is nothing to save.</source>
+        <translation>Es gibt nichts zu speichern.</translation>
+    </message>
+    <message>
+        <source>There is no grid yet.</source>
+        <translation>Es gibt noch kein Gitter.</translation>
+    </message>
+    <message>
+        <source>There is no inversion yet.</source>
+        <translation>Es gibt noch keine Inversion.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile yet.</source>
+        <translation>Es gibt noch kein Schichtprofil.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the ground under the grid.</source>
+        <translation>Über den Untergrund unter dem Gitter ist nichts bekannt.</translation>
+    </message>
+    <message>
+        <source>There is no section yet.</source>
+        <translation>Es gibt noch keinen Schnitt.</translation>
+    </message>
+    <message>
+        <source>There is no line of geophones yet.</source>
+        <translation>Es gibt noch keine Geophonlinie.</translation>
+    </message>
+    <message>
+        <source>There is no grid under a line of geophones yet.</source>
+        <translation>Es gibt noch kein Gitter unter einer Geophonlinie.</translation>
+    </message>
+    <message>
+        <source>There is nothing to make pictures of yet.</source>
+        <translation>Es gibt noch nichts, wovon Bilder erstellt werden könnten.</translation>
+    </message>
+    <message>
+        <source>How certain the section is has not been computed.</source>
+        <translation>Die Zuverlässigkeit des Schnitts wurde nicht berechnet.</translation>
+    </message>
+    <message>
+        <source>It cannot work yet.</source>
+        <translation>Das geht noch nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandSearchDialog</name>
+    <message>
+        <source>Find Command</source>
+        <translation>Befehl suchen</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>Wörter des Befehls</translation>
+    </message>
+    <message>
+        <source>Type words of a command</source>
+        <translation>Wörter eines Befehls eingeben</translation>
+    </message>
+    <message>
+        <source>Commands found</source>
+        <translation>Gefundene Befehle</translation>
+    </message>
+    <message>
+        <source>No command has these words.</source>
+        <translation>Kein Befehl enthält diese Wörter.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>why a command cannot work, its menu</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not now: %1</source>
+        <translation>nicht jetzt: %1</translation>
     </message>
 </context>
 <context>
