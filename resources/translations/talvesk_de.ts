@@ -954,6 +954,41 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::DepthProfileDialog</name>
+    <message>
+        <source>Depth profile</source>
+        <translation>Tiefenprofil</translation>
+    </message>
+    <message>
+        <source>&amp;Distance:</source>
+        <translation>&amp;Entfernung:</translation>
+    </message>
+    <message>
+        <source>Where along the line the profile stands</source>
+        <translation>Stelle des Profils entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Show the ground below the mouse as it moves over the section</source>
+        <translation>Zeigt den Untergrund unter der Maus, während sie sich über den Schnitt bewegt</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the pointer</source>
+        <translation>Der &amp;Maus folgen</translation>
+    </message>
+    <message>
+        <source>Save the profile as PNG, SVG or PDF</source>
+        <translation>Speichert das Profil als PNG, SVG oder PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Bild &amp;speichern ...</translation>
+    </message>
+    <message>
+        <source>Velocity, gradient and certainty against depth</source>
+        <translation>Geschwindigkeit, Gradient und Zuverlässigkeit über der Tiefe</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::DialogSetGeometry</name>
     <message>
         <source>Set survey geometry - Dialog</source>
@@ -1354,6 +1389,57 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::DrawingDialog</name>
+    <message>
+        <source>Lines to be exported</source>
+        <translation>Zu exportierende Linien</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines of velocity:</source>
+        <translation>&amp;Isolinien der Geschwindigkeit:</translation>
+    </message>
+    <message>
+        <source>Velocities with blanks between them; each becomes lines through the section</source>
+        <translation>Geschwindigkeiten, durch Leerzeichen getrennt; jede wird zu Linien durch den Schnitt</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>&amp;Distance along the line and elevation</source>
+        <translation>&amp;Entfernung entlang der Messlinie und Höhe</translation>
+    </message>
+    <message>
+        <source>A flat drawing: x is the distance along the line, y the elevation, in metres</source>
+        <translation>Eine ebene Zeichnung: x ist die Entfernung entlang der Messlinie, y die Höhe, in Metern</translation>
+    </message>
+    <message>
+        <source>&amp;Easting, northing and elevation on the map</source>
+        <translation>&amp;Ostwert, Nordwert und Höhe auf der Karte</translation>
+    </message>
+    <message>
+        <source>Lines in space by the geographic coordinates of the line, in metres</source>
+        <translation>Linien im Raum nach den geographischen Koordinaten der Messlinie, in Metern</translation>
+    </message>
+    <message>
+        <source>There is no section yet, and so there are no isolines.</source>
+        <translation>Es gibt noch keinen Schnitt und daher keine Isolinien.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map. Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Die Messlinie hat keine Lage auf der Karte. Geben Sie sie hier an: Projekt &gt; Geographische Koordinaten ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a velocity.</source>
+        <translation>„%1“ ist keine Geschwindigkeit.</translation>
+    </message>
+    <message>
+        <source>A section has %1 isovalues at most.</source>
+        <translation>Ein Schnitt hat höchstens %1 Isowerte.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ElasticDialog</name>
     <message>
         <source>P and S together</source>
@@ -1620,6 +1706,101 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>The Z offset is not a number.</source>
         <translation>Die Z-Verschiebung ist keine Zahl.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceDialog</name>
+    <message>
+        <source>Fence of several lines</source>
+        <translation>Zaundiagramm mehrerer Messlinien</translation>
+    </message>
+    <message>
+        <source>&amp;Lines:</source>
+        <translation>&amp;Messlinien:</translation>
+    </message>
+    <message>
+        <source>Stand the sections of other projects beside this one; the projects stay as they are</source>
+        <translation>Stellt die Schnitte anderer Projekte neben diesen; die Projekte bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>Projekte &amp;hinzufügen ...</translation>
+    </message>
+    <message>
+        <source>Take the line that is selected out of the fence</source>
+        <translation>Nimmt die ausgewählte Messlinie aus dem Zaundiagramm</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>&amp;Überhöhung:</translation>
+    </message>
+    <message>
+        <source>Save the view as a PNG picture</source>
+        <translation>Speichert die Ansicht als PNG-Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Bild &amp;speichern ...</translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation>&amp;Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Lines that stand in the fence: %1.</source>
+        <translation>Messlinien im Zaundiagramm: %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation>Weggelassen: %1.</translation>
+    </message>
+    <message>
+        <source>it has no position on the map</source>
+        <translation>keine Lage auf der Karte</translation>
+    </message>
+    <message>
+        <source>its position is in EPSG:%1, that of the others in EPSG:%2</source>
+        <translation>die Lage ist in EPSG:%1 angegeben, die der anderen in EPSG:%2</translation>
+    </message>
+    <message>
+        <source>it has no geophones</source>
+        <translation>keine Geophone</translation>
+    </message>
+    <message>
+        <source>its first and last geophone are at one place of the map</source>
+        <translation>das erste und das letzte Geophon liegen an derselben Stelle der Karte</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceView</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Sections at their places on the map</source>
+        <translation>Schnitte an ihrer Stelle auf der Karte</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureSheetWidget</name>
+    <message>
+        <source>Figure</source>
+        <translation>Abbildung</translation>
     </message>
 </context>
 <context>
@@ -2176,6 +2357,47 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Layer 1, %1 m/s in the mean</source>
         <translation>Schicht 1, im Mittel %1 m/s</translation>
     </message>
+    <message>
+        <source>Vertical gradient [1/s]</source>
+        <translation>Vertikaler Gradient [1/s]</translation>
+    </message>
+    <message>
+        <source>Uncertainty [%]</source>
+        <translation>Unsicherheit [%]</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Entfernung %1 m</translation>
+    </message>
+    <message>
+        <source>no section here</source>
+        <translation>kein Schnitt an dieser Stelle</translation>
+    </message>
+    <message>
+        <source>surface at %1 m</source>
+        <translation>Oberfläche bei %1 m</translation>
+    </message>
+    <message>
+        <source>shaded: 16 to 84 %</source>
+        <translation>schattiert: 16 bis 84 %</translation>
+    </message>
+    <message>
+        <source>%1 with a gain of their own</source>
+        <comment>traces</comment>
+        <translation>%1 mit eigener Verstärkung</translation>
+    </message>
+    <message>
+        <source>annotations outside the section: %1</source>
+        <translation>Anmerkungen außerhalb des Schnitts: %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (not reached)</source>
+        <translation>%1 (nicht erreicht)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -2318,6 +2540,29 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Hold to known ground</source>
         <translation>An bekannten Untergrund halten</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FkView</name>
+    <message>
+        <source>Spectrum over wavenumber and frequency</source>
+        <translation>Spektrum über Wellenzahl und Frequenz</translation>
+    </message>
+    <message>
+        <source>No spectrum</source>
+        <translation>Kein Spektrum</translation>
+    </message>
+    <message>
+        <source>Wavenumber along the line (1/m)</source>
+        <translation>Wellenzahl entlang der Messlinie (1/m)</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Frequenz (Hz)</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
     </message>
 </context>
 <context>
@@ -2471,6 +2716,34 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::GuidanceStrip</name>
+    <message>
+        <source>Guidance</source>
+        <translation>Arbeitsschritte</translation>
+    </message>
+    <message>
+        <source>Show the steps from recordings to a section, and how they stand</source>
+        <translation>Zeigt die Schritte von den Aufzeichnungen zum Schnitt und ihren Stand</translation>
+    </message>
+    <message>
+        <source>A click: %1</source>
+        <translation>Klick: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>step, how it stands</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1. A click: %2</source>
+        <translation>%1. Klick: %2</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation>Als Nächstes: %1</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
@@ -2540,6 +2813,13 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Search</source>
         <translation>Suchen</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::HandleTrack</name>
+    <message>
+        <source>Handle %1</source>
+        <translation>Regler %1</translation>
     </message>
 </context>
 <context>
@@ -2723,6 +3003,10 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Shot by geophone, and in the section along the rays</source>
         <translation>Schüsse gegen Geophone, und im Schnitt entlang der Strahlen</translation>
+    </message>
+    <message>
+        <source>Files to be written</source>
+        <translation>Zu schreibende Dateien</translation>
     </message>
 </context>
 <context>
@@ -3269,6 +3553,38 @@ durch Picks belegt</translation>
         <source>Elevation (m)</source>
         <translation>Höhe (m)</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Messlinie</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geophon %1</translation>
+    </message>
+    <message>
+        <source>x %1 m, %2 m across</source>
+        <translation>x %1 m, quer %2 m</translation>
+    </message>
+    <message>
+        <source>%1 m east, %2 m north</source>
+        <translation>%1 m Ost, %2 m Nord</translation>
+    </message>
+    <message>
+        <source>Across the line (m)</source>
+        <translation>Quer zur Messlinie (m)</translation>
+    </message>
+    <message>
+        <source>East of the first geophone (m)</source>
+        <translation>Östlich des ersten Geophons (m)</translation>
+    </message>
+    <message>
+        <source>North of it (m)</source>
+        <translation>Nördlich davon (m)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LossQuestion</name>
@@ -3303,6 +3619,53 @@ durch Picks belegt</translation>
     <message>
         <source>The survey changes. This will be removed (Undo brings it back):</source>
         <translation>Die Messung ändert sich. Entfernt werden („Rückgängig“ bringt es zurück):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MarkedIsolinesDialog</name>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Markierte Isolinien</translation>
+    </message>
+    <message>
+        <source>Velocities that mean something, such as 1500 m/s for the water table. Their lines stand out from the section and carry their names.</source>
+        <translation>Geschwindigkeiten mit einer Bedeutung, etwa 1500 m/s für den Grundwasserspiegel. Ihre Linien heben sich vom Schnitt ab und tragen ihre Namen.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Mark another velocity</source>
+        <translation>Markiert eine weitere Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the line that is selected</source>
+        <translation>Entfernt die ausgewählte Linie</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>water table</source>
+        <translation>Grundwasserspiegel</translation>
     </message>
 </context>
 <context>
@@ -3383,6 +3746,10 @@ durch Picks belegt</translation>
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Verstärkung</translation>
     </message>
 </context>
 <context>
