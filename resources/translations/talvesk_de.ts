@@ -7690,6 +7690,290 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
         <translation>Die Geschwindigkeit von Schicht 1 ändert sich in diesem Profil entlang der Messlinie und mit der Tiefe; hier gilt überall ihr Mittel, %1 m/s.</translation>
     </message>
+    <message>
+        <source>the first distance must be a number, and the EPSG code a whole number</source>
+        <translation>die erste Entfernung muss eine Zahl sein und der EPSG-Code eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Kerbfilter</translation>
+    </message>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Geschwindigkeitsfilter</translation>
+    </message>
+    <message>
+        <source>the line has no place on the map; its geographic coordinates are missing</source>
+        <translation>die Messlinie hat keine Lage auf der Karte; ihre geographischen Koordinaten fehlen</translation>
+    </message>
+    <message>
+        <source>two shot files of the survey would both become %1</source>
+        <translation>zwei Schussdateien der Messung würden beide zu %1</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey; choose another folder</source>
+        <translation>%1 ist eine der Schussdateien dieser Messung; wählen Sie einen anderen Ordner</translation>
+    </message>
+    <message>
+        <source>it holds several shots, whose traces may be mixed</source>
+        <translation>sie enthält mehrere Schüsse, deren Spuren vermischt sein können</translation>
+    </message>
+    <message>
+        <source>its traces are not those of the survey any more</source>
+        <translation>ihre Spuren sind nicht mehr die der Messung</translation>
+    </message>
+    <message>
+        <source>miniSEED has no headers for picks</source>
+        <translation>miniSEED hat keine Header für Picks</translation>
+    </message>
+    <message>
+        <source>the survey has no shot files</source>
+        <translation>die Messung hat keine Schussdateien</translation>
+    </message>
+    <message>
+        <source>%1 was left out: %2</source>
+        <translation>%1 wurde weggelassen: %2</translation>
+    </message>
+    <message>
+        <source>%1 has no picks</source>
+        <translation>%1 hat keine Picks</translation>
+    </message>
+    <message>
+        <source>%1 shots have no shot file of their own and were left out</source>
+        <translation>%1 Schüsse haben keine eigene Schussdatei und wurden weggelassen</translation>
+    </message>
+    <message>
+        <source>bytes 233 to 236 of %1 trace headers held something else before</source>
+        <translation>die Bytes 233 bis 236 von %1 Spurheadern enthielten zuvor etwas anderes</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 cannot be followed</source>
+        <translation>der Header von Spur %1 ist nicht auswertbar</translation>
+    </message>
+    <message>
+        <source>it has %1 traces, the survey %2 of them</source>
+        <translation>sie hat %1 Spuren, die Messung %2 davon</translation>
+    </message>
+    <message>
+        <source>it would grow too large</source>
+        <translation>sie würde zu groß</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 has no room for a pick</source>
+        <translation>der Header von Spur %1 hat keinen Platz für einen Pick</translation>
+    </message>
+    <message>
+        <source>it is SEG-Y of revision 2, whose trace headers have no bytes to spare</source>
+        <translation>sie ist SEG-Y der Revision 2, deren Spurheader keine freien Bytes haben</translation>
+    </message>
+    <message>
+        <source>it is not known by what the filtered copies of its traces were made</source>
+        <translation>es ist nicht bekannt, womit die gefilterten Kopien der Spuren erstellt wurden</translation>
+    </message>
+    <message>
+        <source>marked isolines and what was drawn on its section are lost</source>
+        <translation>markierte Isolinien und auf den Schnitt Gezeichnetes sind verloren</translation>
+    </message>
+    <message>
+        <source>the line lies straight on the map between its ends</source>
+        <translation>die Messlinie liegt auf der Karte gerade zwischen ihren Enden</translation>
+    </message>
+    <message>
+        <source>its vertices are no course of a line</source>
+        <translation>die Stützpunkte ergeben keinen Verlauf einer Messlinie</translation>
+    </message>
+    <message>
+        <source>it belongs to another map position</source>
+        <translation>er gehört zu einer anderen Lage auf der Karte</translation>
+    </message>
+    <message>
+        <source>it tells of traces that are not there, or of filters that are not known</source>
+        <translation>es nennt Spuren, die nicht da sind, oder Filter, die nicht bekannt sind</translation>
+    </message>
+    <message>
+        <source>%1 is no style file: %2</source>
+        <translation>%1 ist keine Stildatei: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of Talvesk has written it</source>
+        <translation>eine neuere Version von Talvesk hat sie geschrieben</translation>
+    </message>
+    <message>
+        <source>the place lies outside of %1</source>
+        <translation>die Stelle liegt außerhalb von %1</translation>
+    </message>
+    <message>
+        <source>it is not known which columns hold easting and northing, or longitude and latitude</source>
+        <translation>es ist nicht bekannt, welche Spalten Ostwert und Nordwert oder Längengrad und Breitengrad enthalten</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 rows, which is no table of a line</source>
+        <translation>%1 hat mehr als %2 Zeilen; das ist keine Tabelle einer Messlinie</translation>
+    </message>
+    <message>
+        <source>its text is too long</source>
+        <translation>der Text ist zu lang</translation>
+    </message>
+    <message>
+        <source>its colour is none</source>
+        <translation>die Farbe ist keine gültige Farbe</translation>
+    </message>
+    <message>
+        <source>a line is %1 to %2 points wide</source>
+        <translation>eine Linie ist %1 bis %2 Punkt breit</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>Sand</translation>
+    </message>
+    <message>
+        <source>Gravel</source>
+        <translation>Kies</translation>
+    </message>
+    <message>
+        <source>Clay</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>Silt</source>
+        <translation>Schluff</translation>
+    </message>
+    <message>
+        <source>Rock</source>
+        <translation>Fels</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Auffüllung</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Wasser</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ohne</translation>
+    </message>
+    <message>
+        <source>it is neither text nor line nor polygon</source>
+        <translation>sie ist weder Text noch Linie noch Polygon</translation>
+    </message>
+    <message>
+        <source>its pattern is none</source>
+        <translation>das Muster ist kein gültiges Muster</translation>
+    </message>
+    <message>
+        <source>it says nothing</source>
+        <translation>sie enthält keinen Text</translation>
+    </message>
+    <message>
+        <source>a text stands at one point, not at %1</source>
+        <translation>ein Text steht an einem Punkt, nicht an %1</translation>
+    </message>
+    <message>
+        <source>it has %1 points and needs %2 at least</source>
+        <translation>sie hat %1 Punkte und braucht mindestens %2</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 m is no place of a section</source>
+        <translation>%1 m, %2 m ist keine Stelle eines Schnitts</translation>
+    </message>
+    <message>
+        <source>a text is %1 to %2 points high</source>
+        <translation>ein Text ist %1 bis %2 Punkt hoch</translation>
+    </message>
+    <message>
+        <source>a section holds %1 marked isolines and %2 annotations with %3 points at most</source>
+        <translation>ein Schnitt fasst höchstens %1 markierte Isolinien und %2 Anmerkungen mit %3 Punkten</translation>
+    </message>
+    <message>
+        <source>marked isoline %1</source>
+        <translation>markierte Isolinie %1</translation>
+    </message>
+    <message>
+        <source>annotation %1</source>
+        <translation>Anmerkung %1</translation>
+    </message>
+    <message>
+        <source>band-pass from %1 Hz, order %2, to %3 Hz, order %4</source>
+        <translation>Bandpass von %1 Hz, Ordnung %2, bis %3 Hz, Ordnung %4</translation>
+    </message>
+    <message>
+        <source>low-pass %1 Hz, order %2</source>
+        <translation>Tiefpass %1 Hz, Ordnung %2</translation>
+    </message>
+    <message>
+        <source>high-pass %1 Hz, order %2</source>
+        <translation>Hochpass %1 Hz, Ordnung %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s and more</source>
+        <translation>%1 m/s und mehr</translation>
+    </message>
+    <message>
+        <source>forth along the line</source>
+        <translation>vorwärts entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>back along the line</source>
+        <translation>rückwärts entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>both ways</source>
+        <translation>in beiden Richtungen</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, pass (taper %3 %)</source>
+        <translation>Geschwindigkeiten von %1, %2, werden durchgelassen (Taper %3 %)</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, are rejected (taper %3 %)</source>
+        <translation>Geschwindigkeiten von %1, %2, werden gesperrt (Taper %3 %)</translation>
+    </message>
+    <message>
+        <source>notches at %1 Hz and multiples, %2 in all, quality %3</source>
+        <translation>Kerben bei %1 Hz und Vielfachen, insgesamt %2, Güte %3</translation>
+    </message>
+    <message>
+        <source>two geophones at least need easting and northing</source>
+        <translation>mindestens zwei Geophone brauchen Ostwert und Nordwert</translation>
+    </message>
+    <message>
+        <source>the first and the last geophone are at one place on the map, which gives the line no direction</source>
+        <translation>das erste und das letzte Geophon liegen an derselben Stelle der Karte; so hat die Messlinie keine Richtung</translation>
+    </message>
+    <message>
+        <source>a trace cannot have a gain of %1, only one from %2 to %3</source>
+        <translation>eine Spur kann keine Verstärkung von %1 haben, nur eine von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>traces with a gain of %1: %2</source>
+        <translation>Spuren mit Verstärkung %1: %2</translation>
+    </message>
+    <message>
+        <source>geophone %1</source>
+        <translation>Geophon %1</translation>
+    </message>
+    <message>
+        <source>geophones %1</source>
+        <translation>Geophone %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
