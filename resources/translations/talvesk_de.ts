@@ -7974,6 +7974,334 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>geophones %1</source>
         <translation>Geophone %1</translation>
     </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>lines %1</source>
+        <translation>Zeilen %1</translation>
+    </message>
+    <message>
+        <source>lines %1 and %2 more</source>
+        <translation>Zeilen %1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Not used, for no geophone or shot of the survey is there: %1</source>
+        <translation>Nicht verwendet, da dort kein Geophon oder Schuss der Messung steht: %1</translation>
+    </message>
+    <message>
+        <source>Not used, for a row above is of the same geophone or shot: %1</source>
+        <translation>Nicht verwendet, da eine Zeile darüber zum selben Geophon oder Schuss gehört: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, placed among those that have one by the distances so far: %1</source>
+        <translation>Ohne Zeile, nach den bisherigen Entfernungen zwischen die mit Zeile gesetzt: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, left where nothing tells how they stand to the others: %1</source>
+        <translation>Ohne Zeile, unverändert, da nichts ihre Lage zu den anderen angibt: %1</translation>
+    </message>
+    <message>
+        <source>Without an elevation, raised to the line between the others: %1</source>
+        <translation>Ohne Höhe, auf die Linie zwischen den anderen gehoben: %1</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1 m: %2</source>
+        <translation>Weiter von der Messlinie entfernt als der halbe Geophonabstand von %1 m: %2</translation>
+    </message>
+    <message>
+        <source>Hardly apart from their neighbours: %1</source>
+        <translation>Kaum von ihren Nachbarn entfernt: %1</translation>
+    </message>
+    <message>
+        <source>The line runs back to %1; an exchanged row or number?</source>
+        <translation>Die Messlinie läuft zurück zu %1; eine vertauschte Zeile oder Nummer?</translation>
+    </message>
+    <message>
+        <source>Not as far from the geophone before as expected: %1</source>
+        <translation>Nicht so weit vom vorigen Geophon entfernt wie erwartet: %1</translation>
+    </message>
+    <message>
+        <source>fewer than two geophones of the survey have a row in the table</source>
+        <translation>weniger als zwei Geophone der Messung haben eine Zeile in der Tabelle</translation>
+    </message>
+    <message>
+        <source>lengths along the ground need the elevation of every geophone; the table lacks %1</source>
+        <translation>Längen entlang des Geländes brauchen die Höhe jedes Geophons; in der Tabelle fehlt %1</translation>
+    </message>
+    <message>
+        <source>its sample interval is not known</source>
+        <translation>das Abtastintervall ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>it has samples that are no numbers</source>
+        <translation>die Spur hat Abtastwerte, die keine Zahlen sind</translation>
+    </message>
+    <message>
+        <source>a notch needs a frequency, a multiple and a quality above 0</source>
+        <translation>ein Kerbfilter braucht eine Frequenz, ein Vielfaches und eine Güte über 0</translation>
+    </message>
+    <message>
+        <source>it is sampled too slowly for %1 Hz</source>
+        <translation>die Abtastung ist zu langsam für %1 Hz</translation>
+    </message>
+    <message>
+        <source>it is shorter than one period of %1 Hz</source>
+        <translation>die Spur ist kürzer als eine Periode von %1 Hz</translation>
+    </message>
+    <message>
+        <source>trace %1 has another length or sample interval than trace 1</source>
+        <translation>Spur %1 hat eine andere Länge oder ein anderes Abtastintervall als Spur 1</translation>
+    </message>
+    <message>
+        <source>trace %1 has samples that are no numbers</source>
+        <translation>Spur %1 hat Abtastwerte, die keine Zahlen sind</translation>
+    </message>
+    <message>
+        <source>it has no samples, or no known sample interval</source>
+        <translation>es gibt keine Abtastwerte oder kein bekanntes Abtastintervall</translation>
+    </message>
+    <message>
+        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
+        <translation>die Geophone stehen nicht in gleichen Abständen: Spur %1 bei %2 m ist %3 m von der vorigen entfernt, üblich sind %4 m</translation>
+    </message>
+    <message>
+        <source>it has fewer than %1 traces</source>
+        <translation>es sind weniger als %1 Spuren</translation>
+    </message>
+    <message>
+        <source>the positions of its geophones are not known</source>
+        <translation>die Positionen der Geophone sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>of %1 places along its line %2 have no trace</source>
+        <translation>von %1 Stellen entlang der Messlinie haben %2 keine Spur</translation>
+    </message>
+    <message>
+        <source>shot %1: of %2 places along its line %3 have no trace, or a killed one; they count as zero, beside them the filter is less sharp</source>
+        <translation>Schuss %1: Von %2 Stellen entlang der Messlinie haben %3 keine Spur oder eine ausgeschaltete; sie zählen als null, neben ihnen ist der Filter weniger scharf</translation>
+    </message>
+    <message>
+        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
+        <translation>die kleinste Geschwindigkeit, %1 m/s, muss über 0 und unter der größten, %2 m/s, liegen</translation>
+    </message>
+    <message>
+        <source>the taper must be 0 or more and less than 100 percent of a limit</source>
+        <translation>der Taper muss mindestens 0 und kleiner als 100 Prozent einer Grenze sein</translation>
+    </message>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Vermessene Positionen</translation>
+    </message>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Markierte Isolinien</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Stil anwenden</translation>
+    </message>
+    <message>
+        <source>shot %1 has no trace %2</source>
+        <translation>Schuss %1 hat keine Spur %2</translation>
+    </message>
+    <message>
+        <source>no recordings yet</source>
+        <translation>noch keine Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>times of %1 shots, without recordings</source>
+        <translation>Zeiten von %1 Schüssen, ohne Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>recordings that begin before their shot: %1</source>
+        <translation>Aufzeichnungen, die vor ihrem Schuss beginnen: %1</translation>
+    </message>
+    <message>
+        <source>recordings that were read with warnings: %1</source>
+        <translation>mit Warnungen gelesene Aufzeichnungen: %1</translation>
+    </message>
+    <message>
+        <source>shots: %1</source>
+        <translation>Schüsse: %1</translation>
+    </message>
+    <message>
+        <source>no geophones yet</source>
+        <translation>noch keine Geophone</translation>
+    </message>
+    <message>
+        <source>positions are missing or cannot be</source>
+        <translation>Positionen fehlen oder sind nicht möglich</translation>
+    </message>
+    <message>
+        <source>things that look wrong in the positions: %1</source>
+        <translation>Auffälligkeiten in den Positionen: %1</translation>
+    </message>
+    <message>
+        <source>geophones: %1, shots: %2</source>
+        <translation>Geophone: %1, Schüsse: %2</translation>
+    </message>
+    <message>
+        <source>no picks yet</source>
+        <translation>noch keine Picks</translation>
+    </message>
+    <message>
+        <source>shots without picks: %1</source>
+        <translation>Schüsse ohne Picks: %1</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 traces have a pick</source>
+        <translation>nur %1 von %2 Spuren haben einen Pick</translation>
+    </message>
+    <message>
+        <source>%1 picks on %2 traces</source>
+        <translation>%1 Picks auf %2 Spuren</translation>
+    </message>
+    <message>
+        <source>no picks to check yet</source>
+        <translation>noch keine Picks zu prüfen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks that wait for confirmation are doubtful</source>
+        <translation>%1 von %2 Picks, die auf Bestätigung warten, sind zweifelhaft</translation>
+    </message>
+    <message>
+        <source>of %1 picks nothing is known that could speak against them</source>
+        <translation>von %1 Picks ist nichts bekannt, was gegen sie spräche</translation>
+    </message>
+    <message>
+        <source>none of the %1 picks that wait for confirmation is doubtful</source>
+        <translation>keiner der %1 Picks, die auf Bestätigung warten, ist zweifelhaft</translation>
+    </message>
+    <message>
+        <source>no pick waits for confirmation</source>
+        <translation>kein Pick wartet auf Bestätigung</translation>
+    </message>
+    <message>
+        <source>no grid yet</source>
+        <translation>noch kein Gitter</translation>
+    </message>
+    <message>
+        <source>the grid has no cells</source>
+        <translation>das Gitter hat keine Zellen</translation>
+    </message>
+    <message>
+        <source>shots and geophones beyond the grid: %1</source>
+        <translation>Schüsse und Geophone außerhalb des Gitters: %1</translation>
+    </message>
+    <message>
+        <source>%1 x %2 cells</source>
+        <translation>%1 x %2 Zellen</translation>
+    </message>
+    <message>
+        <source>%1, the usual starting model</source>
+        <translation>%1, übliches Startmodell</translation>
+    </message>
+    <message>
+        <source>%1, a starting model with layers: %2</source>
+        <translation>%1, Startmodell mit Schichten: %2</translation>
+    </message>
+    <message>
+        <source>no inversion yet</source>
+        <translation>noch keine Inversion</translation>
+    </message>
+    <message>
+        <source>the section is older than the picks</source>
+        <translation>der Schnitt ist älter als die Picks</translation>
+    </message>
+    <message>
+        <source>the known ground is other than that of the section</source>
+        <translation>der bekannte Untergrund ist ein anderer als der des Schnitts</translation>
+    </message>
+    <message>
+        <source>it was stopped before its end</source>
+        <translation>vorzeitig angehalten</translation>
+    </message>
+    <message>
+        <source>chi-square is %1 and not near 1</source>
+        <translation>Chi-Quadrat ist %1 und nicht nahe 1</translation>
+    </message>
+    <message>
+        <source>the section is inverted</source>
+        <translation>der Schnitt ist invertiert</translation>
+    </message>
+    <message>
+        <source>RMSE %1 ms of %2 picks</source>
+        <translation>RMSE %1 ms bei %2 Picks</translation>
+    </message>
+    <message>
+        <source>no section yet</source>
+        <translation>noch kein Schnitt</translation>
+    </message>
+    <message>
+        <source>the layered profile is older than the picks</source>
+        <translation>das Schichtprofil ist älter als die Picks</translation>
+    </message>
+    <message>
+        <source>the certainty is older than the picks</source>
+        <translation>die Zuverlässigkeit ist älter als die Picks</translation>
+    </message>
+    <message>
+        <source>the section was smoothed after its inversion</source>
+        <translation>der Schnitt wurde nach seiner Inversion geglättet</translation>
+    </message>
+    <message>
+        <source>the section lies beyond its certainty</source>
+        <translation>der Schnitt liegt außerhalb seiner Zuverlässigkeit</translation>
+    </message>
+    <message>
+        <source>how certain the section is is not known</source>
+        <translation>die Zuverlässigkeit des Schnitts ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the section and its certainty are there</source>
+        <translation>Schnitt und Zuverlässigkeit liegen vor</translation>
+    </message>
+    <message>
+        <source>it has no section</source>
+        <translation>kein Schnitt vorhanden</translation>
+    </message>
+    <message>
+        <source>no cell of its section is drawn</source>
+        <translation>keine Zelle des Schnitts wird gezeichnet</translation>
+    </message>
+    <message>
+        <source>its line is nowhere on the map</source>
+        <translation>die Messlinie liegt nirgends auf der Karte</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Spuren ausschalten</translation>
+    </message>
+    <message>
+        <source>Revive traces</source>
+        <translation>Spuren wieder einschalten</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Polarität umkehren</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Spuren stummschalten</translation>
+    </message>
+    <message>
+        <source>Mute traces no more</source>
+        <translation>Stummschaltung der Spuren aufheben</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Spuren verstärken</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Spuren abschwächen</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -8064,6 +8392,61 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::NotchDialog</name>
+    <message>
+        <source>Notch</source>
+        <translation>Kerbfilter</translation>
+    </message>
+    <message>
+        <source>Takes the hum of power lines out of the filtered copy. Arrivals stay where they are.</source>
+        <translation>Entfernt das Netzbrummen aus der gefilterten Kopie. Einsätze bleiben, wo sie sind.</translation>
+    </message>
+    <message>
+        <source>&amp;Power line (Hz):</source>
+        <translation>&amp;Netzfrequenz (Hz):</translation>
+    </message>
+    <message>
+        <source>50 Hz in most of the world, 60 Hz in North America; some railways have 16.7 Hz</source>
+        <translation>50 Hz in den meisten Ländern, 60 Hz in Nordamerika; manche Bahnnetze haben 16,7 Hz</translation>
+    </message>
+    <message>
+        <source>&amp;Multiples:</source>
+        <translation>&amp;Vielfache:</translation>
+    </message>
+    <message>
+        <source>So many multiples are taken out, the frequency itself among them, as far as the record has them</source>
+        <translation>So viele Vielfache werden entfernt, die Frequenz selbst eingeschlossen, soweit die Aufzeichnung sie enthält</translation>
+    </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Güte:</translation>
+    </message>
+    <message>
+        <source>The frequency over the width of every notch at 3 dB: larger ones take less of the signal, and less of hum that wanders</source>
+        <translation>Frequenz geteilt durch die Breite jeder Kerbe bei 3 dB: Größere Werte nehmen weniger vom Signal weg, aber auch weniger von einem Brummen, das wandert</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Filter anwenden auf:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>O&amp;riginal</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Gefi&amp;ltert</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Der Filter gilt für alle Schüsse.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Der Filter gilt für Schuss %1.</translation>
     </message>
 </context>
 <context>
@@ -8348,6 +8731,10 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>&amp;Keep the program&apos;s rules</source>
         <translation>Regeln des Programms &amp;beibehalten</translation>
+    </message>
+    <message>
+        <source>Files and what each reading finds in them</source>
+        <translation>Dateien und was jede Lesart in ihnen findet</translation>
     </message>
 </context>
 <context>
@@ -8651,6 +9038,10 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>in memory, for %1</source>
         <translation>im Speicher, denn %1</translation>
+    </message>
+    <message>
+        <source>Filtered copy by:</source>
+        <translation>Gefilterte Kopie durch:</translation>
     </message>
 </context>
 <context>
@@ -10169,6 +10560,22 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
         <translation>Die Ersteinsätze wurden Schichten zugeordnet, und Geschwindigkeiten und Tiefen der Refraktoren wurden an alle zugleich angepasst: so, dass die direkten und refraktierten Zeiten, berechnet durch die Schichten, die sich entlang der Messlinie ändern dürfen, denen der Picks entsprechen.</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>These shots have filtered copies beside their recordings, made as listed, one filter after the other.</source>
+        <translation>Diese Schüsse haben neben ihren Aufzeichnungen gefilterte Kopien, erstellt wie aufgeführt, ein Filter nach dem anderen.</translation>
+    </message>
+    <message>
+        <source>Filters of the recordings</source>
+        <translation>Filter der Aufzeichnungen</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -10301,10 +10708,6 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>Errors of the picks</source>
         <translation>Fehlern der Picks</translation>
-    </message>
-    <message>
-        <source>&amp;Colour shot:</source>
-        <translation>Schuss &amp;farbig:</translation>
     </message>
     <message>
         <source>Whose dots have a colour of their own in the picture over the offset</source>
@@ -10453,6 +10856,10 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>The picture cannot be made.</source>
         <translation>Das Bild kann nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur shot:</source>
+        <translation>Sch&amp;uss farbig:</translation>
     </message>
 </context>
 <context>
@@ -10978,6 +11385,70 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>Velocity section</source>
         <translation>Geschwindigkeitsschnitt</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Entfernung %1 m</translation>
+    </message>
+    <message>
+        <source>Horizontal %1 m</source>
+        <translation>Horizontal %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical %1 m</source>
+        <translation>Vertikal %1 m</translation>
+    </message>
+    <message>
+        <source>Slope %1°</source>
+        <translation>Neigung %1°</translation>
+    </message>
+    <message>
+        <source>Click the next point; Esc ends</source>
+        <translation>Nächsten Punkt anklicken; Esc beendet</translation>
+    </message>
+    <message>
+        <source>Double click or Enter ends it, Backspace takes a point back</source>
+        <translation>Doppelklick oder Eingabe schließt ab, Rücktaste nimmt einen Punkt zurück</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Messen</translation>
+    </message>
+    <message>
+        <source>Drag between two points: distance, horizontal, vertical and slope; Esc ends</source>
+        <translation>Zwischen zwei Punkten ziehen: Abstand, horizontal, vertikal und Neigung; Esc beendet</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Zeichnen</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
+        <translation>Texte, Linien und Flächen des Untergrunds in den Schnitt klicken; Esc beendet</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Click where a text is to stand on the section</source>
+        <translation>Anklicken, wo ein Text auf dem Schnitt stehen soll</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Messlinie</translation>
+    </message>
+    <message>
+        <source>Click the points of a line on the section</source>
+        <translation>Die Punkte einer Linie auf dem Schnitt anklicken</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>Click the corners of an area of the section</source>
+        <translation>Die Ecken einer Fläche des Schnitts anklicken</translation>
     </message>
 </context>
 <context>
