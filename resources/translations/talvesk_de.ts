@@ -11709,6 +11709,407 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     </message>
 </context>
 <context>
+    <name>talvesk::StepTexts</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Geometrie</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>Grid and start</source>
+        <translation>Gitter und Start</translation>
+    </message>
+    <message>
+        <source>Inversion</source>
+        <translation>Inversion</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>fertig</translation>
+    </message>
+    <message>
+        <source>doubtful</source>
+        <translation>zweifelhaft</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>veraltet</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>step, reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPointsTable</name>
+    <message>
+        <source>Shot %1</source>
+        <translation>Schuss %1</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geophon %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>row of a table</comment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <comment>of a table</comment>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Across
+(m)</source>
+        <translation>Quer
+(m)</translation>
+    </message>
+    <message>
+        <source>x before
+(m)</source>
+        <translation>x vorher
+(m)</translation>
+    </message>
+    <message>
+        <source>x
+(m)</source>
+        <translation>x
+(m)</translation>
+    </message>
+    <message>
+        <source>change
+(m)</source>
+        <translation>Änderung
+(m)</translation>
+    </message>
+    <message>
+        <source>z before
+(m)</source>
+        <translation>z vorher
+(m)</translation>
+    </message>
+    <message>
+        <source>z
+(m)</source>
+        <translation>z
+(m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPositionsDialog</name>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Vermessene Positionen</translation>
+    </message>
+    <message>
+        <source>&amp;Other table ...</source>
+        <translation>&amp;Andere Tabelle ...</translation>
+    </message>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Erste Zeilen der Tabelle</translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation>Spalten der Tabelle</translation>
+    </message>
+    <message>
+        <source>S&amp;eparator</source>
+        <translation>T&amp;rennzeichen</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Trennzeichen</translation>
+    </message>
+    <message>
+        <source>C&amp;oordinates</source>
+        <translation>K&amp;oordinaten</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Koordinaten</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>Column of names</source>
+        <translation>Spalte der Namen</translation>
+    </message>
+    <message>
+        <source>Eas&amp;ting</source>
+        <translation>Ost&amp;wert</translation>
+    </message>
+    <message>
+        <source>Column of eastings or longitudes</source>
+        <translation>Spalte der Ostwerte oder Längengrade</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>Ar&amp;t</translation>
+    </message>
+    <message>
+        <source>Column of kinds</source>
+        <translation>Spalte der Arten</translation>
+    </message>
+    <message>
+        <source>No&amp;rthing</source>
+        <translation>Nor&amp;dwert</translation>
+    </message>
+    <message>
+        <source>Column of northings or latitudes</source>
+        <translation>Spalte der Nordwerte oder Breitengrade</translation>
+    </message>
+    <message>
+        <source>Ele&amp;vation</source>
+        <translation>&amp;Höhe</translation>
+    </message>
+    <message>
+        <source>Column of elevations</source>
+        <translation>Spalte der Höhen</translation>
+    </message>
+    <message>
+        <source>EPS&amp;G code</source>
+        <translation>EPSG-&amp;Code</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>EPSG-Code</translation>
+    </message>
+    <message>
+        <source>The code of the reference system of easting and northing, for example 32632 for UTM zone 32 N. Without it the line gets no place on the map. Longitude and latitude are projected into it, without a code into their UTM zone.</source>
+        <translation>Der Code des Referenzsystems von Ostwert und Nordwert, zum Beispiel 32632 für UTM-Zone 32 N. Ohne ihn erhält die Messlinie keine Lage auf der Karte. Längengrad und Breitengrad werden in dieses System projiziert, ohne Code in ihre UTM-Zone.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Messlinie</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Messlinie</translation>
+    </message>
+    <message>
+        <source>Shape of the line</source>
+        <translation>Form der Messlinie</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>Län&amp;ge</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Länge entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Names &amp;are</source>
+        <translation>Namen &amp;sind</translation>
+    </message>
+    <message>
+        <source>What names are</source>
+        <translation>Was die Namen sind</translation>
+    </message>
+    <message>
+        <source>First &amp;distance</source>
+        <translation>Erste &amp;Entfernung</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone</source>
+        <translation>Entfernung des ersten Geophons</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
+        <translation>Entfernung des ersten vermessenen Geophons in Metern. Leer: wie bisher.</translation>
+    </message>
+    <message>
+        <source>Count from the other &amp;end</source>
+        <translation>Vom anderen Ende &amp;zählen</translation>
+    </message>
+    <message>
+        <source>&amp;Positions</source>
+        <translation>&amp;Positionen</translation>
+    </message>
+    <message>
+        <source>Positions before and after</source>
+        <translation>Positionen vorher und nachher</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Karte</translation>
+    </message>
+    <message>
+        <source>Geophones and shots from above</source>
+        <translation>Geophone und Schüsse von oben</translation>
+    </message>
+    <message>
+        <source>O&amp;ffsets</source>
+        <translation>Q&amp;uerabstände</translation>
+    </message>
+    <message>
+        <source>Offsets across the line</source>
+        <translation>Abstände quer zur Messlinie</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>Zu prüfen</translation>
+    </message>
+    <message>
+        <source>as in the table</source>
+        <translation>wie in der Tabelle</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>Tabulator</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>Semikolon</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Easting, northing</source>
+        <translation>Ostwert, Nordwert</translation>
+    </message>
+    <message>
+        <source>Longitude, latitude</source>
+        <translation>Längengrad, Breitengrad</translation>
+    </message>
+    <message>
+        <source>Straight, fitted to the geophones</source>
+        <translation>Gerade, an die Geophone angepasst</translation>
+    </message>
+    <message>
+        <source>Straight, from the first geophone to the last one</source>
+        <translation>Gerade, vom ersten zum letzten Geophon</translation>
+    </message>
+    <message>
+        <source>Bent, from geophone to geophone</source>
+        <translation>Geknickt, von Geophon zu Geophon</translation>
+    </message>
+    <message>
+        <source>Horizontal, as on the map</source>
+        <translation>Horizontal, wie auf der Karte</translation>
+    </message>
+    <message>
+        <source>Along the ground, on slopes</source>
+        <translation>Entlang des Geländes, an Hängen</translation>
+    </message>
+    <message>
+        <source>numbers of geophones and shots, from 1</source>
+        <translation>Nummern der Geophone und Schüsse, ab 1</translation>
+    </message>
+    <message>
+        <source>without a meaning: rows are in order</source>
+        <translation>ohne Bedeutung: Die Zeilen sind geordnet</translation>
+    </message>
+    <message>
+        <source>distances along the line as it is now</source>
+        <translation>Entfernungen entlang der bisherigen Messlinie</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>column of a table</comment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>column, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Longi&amp;tude</source>
+        <translation>&amp;Längengrad</translation>
+    </message>
+    <message>
+        <source>Latit&amp;ude</source>
+        <translation>&amp;Breitengrad</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of the table have no position and are not used.</source>
+        <translation>
+            <numerusform>%n Zeile der Tabelle hat keine Position und wird nicht verwendet.</numerusform>
+            <numerusform>%n Zeilen der Tabelle haben keine Position und werden nicht verwendet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
+        <translation>Mit Zeile: %1 von %2 Geophonen, %3 von %4 Schüssen. Die Geophone stehen %5 m (RMS) neben der Messlinie, höchstens %6 m (%7); ihr Abstand ist %8 m.</translation>
+    </message>
+    <message>
+        <source>No reference system</source>
+        <translation>Kein Referenzsystem</translation>
+    </message>
+    <message>
+        <source>EPSG:%1, %2</source>
+        <translation>EPSG:%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: the zone of the first place</source>
+        <translation>%1: die Zone der ersten Stelle</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the place of the line on the map stays as it is now, where it may not fit any more.</source>
+        <translation>Ohne EPSG-Code bleibt die Lage der Messlinie auf der Karte, wie sie ist; sie passt dann vielleicht nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the line gets no place on the map.</source>
+        <translation>Ohne EPSG-Code erhält die Messlinie keine Lage auf der Karte.</translation>
+    </message>
+    <message>
+        <source>On OK the line lies on the map from the first geophone to the last one, on the line that is shown.</source>
+        <translation>Mit OK liegt die Messlinie auf der Karte vom ersten bis zum letzten Geophon, auf der gezeigten Linie.</translation>
+    </message>
+    <message numerus="yes">
+        <source>On OK the line lies on the map along %n point(s), and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</source>
+        <translation>
+            <numerusform>Mit OK liegt die Messlinie auf der Karte entlang von %n Punkt, und KML folgt ihr. Berichte und der Dialog der geographischen Koordinaten nennen ihre beiden Enden.</numerusform>
+            <numerusform>Mit OK liegt die Messlinie auf der Karte entlang von %n Punkten, und KML folgt ihr. Berichte und der Dialog der geographischen Koordinaten nennen ihre beiden Enden.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::TableTexts</name>
     <message>
         <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
