@@ -14290,6 +14290,310 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Web page (*.html)</source>
         <translation>Webseite (*.html)</translation>
     </message>
+    <message>
+        <source>Mends of the selected traces</source>
+        <translation>Korrekturen der ausgewählten Spuren</translation>
+    </message>
+    <message>
+        <source>Marked isolines ...</source>
+        <translation>Markierte Isolinien ...</translation>
+    </message>
+    <message>
+        <source>Name velocities, such as 1500 m/s for the water table, whose lines stand out from the section</source>
+        <translation>Geschwindigkeiten benennen, etwa 1500 m/s für den Grundwasserspiegel, deren Linien sich vom Schnitt abheben</translation>
+    </message>
+    <message>
+        <source>Annotations ...</source>
+        <translation>Anmerkungen ...</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground drawn on the section</source>
+        <translation>Texte, Linien und Flächen des Untergrunds, auf den Schnitt gezeichnet</translation>
+    </message>
+    <message>
+        <source>Depth profile ...</source>
+        <translation>Tiefenprofil ...</translation>
+    </message>
+    <message>
+        <source>Velocity, its gradient and how sure it is against depth, below the mouse</source>
+        <translation>Geschwindigkeit, ihr Gradient und ihre Zuverlässigkeit über der Tiefe, unter der Maus</translation>
+    </message>
+    <message>
+        <source>Fence of several lines ...</source>
+        <translation>Zaundiagramm mehrerer Messlinien ...</translation>
+    </message>
+    <message>
+        <source>Sections of this and other projects at their places on the map, in one view</source>
+        <translation>Schnitte dieses und anderer Projekte an ihrer Stelle auf der Karte, in einer Ansicht</translation>
+    </message>
+    <message>
+        <source>Save style ...</source>
+        <translation>Stil speichern ...</translation>
+    </message>
+    <message>
+        <source>Save palette, range, contours, exaggeration, switches and marked isolines for other surveys</source>
+        <translation>Palette, Bereich, Isolinien, Überhöhung, Schalter und markierte Isolinien für andere Messungen speichern</translation>
+    </message>
+    <message>
+        <source>Apply style ...</source>
+        <translation>Stil anwenden ...</translation>
+    </message>
+    <message>
+        <source>Let this section look as the one whose style was saved</source>
+        <translation>Diesen Schnitt so darstellen wie den, dessen Stil gespeichert wurde</translation>
+    </message>
+    <message>
+        <source>Show annotations</source>
+        <translation>Anmerkungen anzeigen</translation>
+    </message>
+    <message>
+        <source>Draw marked isolines, texts, lines and areas of ground over the section</source>
+        <translation>Markierte Isolinien, Texte, Linien und Flächen des Untergrunds über den Schnitt zeichnen</translation>
+    </message>
+    <message>
+        <source>Surveyed positions ...</source>
+        <translation>Vermessene Positionen ...</translation>
+    </message>
+    <message>
+        <source>Make distances along the line and its place on the map of a table of coordinates</source>
+        <translation>Aus einer Koordinatentabelle die Entfernungen entlang der Messlinie und ihre Lage auf der Karte bestimmen</translation>
+    </message>
+    <message>
+        <source>Find command...</source>
+        <translation>Befehl suchen...</translation>
+    </message>
+    <message>
+        <source>Find any command by its words and give it</source>
+        <translation>Einen Befehl anhand seiner Wörter suchen und ausführen</translation>
+    </message>
+    <message>
+        <source>Shot files with picks ...</source>
+        <translation>Schussdateien mit Picks ...</translation>
+    </message>
+    <message>
+        <source>Copy the shot files into another folder, with the picks in their trace headers</source>
+        <translation>Die Schussdateien in einen anderen Ordner kopieren, mit den Picks in den Spurheadern</translation>
+    </message>
+    <message>
+        <source>Drawing as DXF ...</source>
+        <translation>Zeichnung als DXF ...</translation>
+    </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
+        <translation>Oberfläche, Isolinien, Refraktoren, Geophone und Schüsse als CAD-Zeichnung exportieren</translation>
+    </message>
+    <message>
+        <source>Section as curtain on the map ...</source>
+        <translation>Schnitt als Vorhang auf der Karte ...</translation>
+    </message>
+    <message>
+        <source>Export the cells with their velocities where they lie on the map, as a VTK grid or a table</source>
+        <translation>Die Zellen mit ihren Geschwindigkeiten an ihrer Stelle auf der Karte exportieren, als VTK-Gitter oder Tabelle</translation>
+    </message>
+    <message>
+        <source>Line and isolines as GeoPackage ...</source>
+        <translation>Messlinie und Isolinien als GeoPackage ...</translation>
+    </message>
+    <message>
+        <source>Export line, geophones, shots, isolines, refractors and depths of isovalues as layers for maps</source>
+        <translation>Messlinie, Geophone, Schüsse, Isolinien, Refraktoren und Tiefen von Isowerten als Kartenebenen exportieren</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Spuren ausschalten</translation>
+    </message>
+    <message>
+        <source>The selected traces count for nothing and have no pick, or do again (key K); what was recorded is kept</source>
+        <translation>Die ausgewählten Spuren zählen nicht und haben keinen Pick, oder wieder doch (Taste K); die Aufzeichnung bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Polarität umkehren</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces change their sign (key P)</source>
+        <translation>Die Abtastwerte der ausgewählten Spuren wechseln das Vorzeichen (Taste P)</translation>
+    </message>
+    <message>
+        <source>Mute traces before...</source>
+        <translation>Spuren stummschalten vor...</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces before a time become zero (key U mutes before the mouse, Shift+U no more)</source>
+        <translation>Die Abtastwerte der ausgewählten Spuren vor einer Zeit werden null (Taste U schaltet vor der Maus stumm, Umschalt+U hebt es auf)</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Spuren verstärken</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become larger, 1.5 or 2 times in turn (key })</source>
+        <translation>Die Abtastwerte der ausgewählten Spuren werden größer, abwechselnd 1,5- oder 2-fach (Taste })</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Spuren abschwächen</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become smaller (key {)</source>
+        <translation>Die Abtastwerte der ausgewählten Spuren werden kleiner (Taste {)</translation>
+    </message>
+    <message>
+        <source>Notch...</source>
+        <translation>Kerbfilter...</translation>
+    </message>
+    <message>
+        <source>Take the hum of power lines, 50 or 60 Hz and multiples, out of the filtered copy</source>
+        <translation>Das Netzbrummen, 50 oder 60 Hz und Vielfache, aus der gefilterten Kopie entfernen</translation>
+    </message>
+    <message>
+        <source>Velocity filter...</source>
+        <translation>Geschwindigkeitsfilter...</translation>
+    </message>
+    <message>
+        <source>Keep or take out waves by their apparent velocity, in the filtered copy</source>
+        <translation>Wellen nach ihrer Scheingeschwindigkeit behalten oder entfernen, in der gefilterten Kopie</translation>
+    </message>
+    <message>
+        <source>Annotations wait for the inversion to end.</source>
+        <translation>Anmerkungen warten, bis die Inversion beendet ist.</translation>
+    </message>
+    <message>
+        <source>It cannot work now.</source>
+        <translation>Das geht jetzt nicht.</translation>
+    </message>
+    <message>
+        <source>Save depth profile</source>
+        <translation>Tiefenprofil speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>Bilder (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the layered profile was built.</source>
+        <translation>Die Picks wurden geändert, seit das Schichtprofil erstellt wurde.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map.</source>
+        <translation>Die Messlinie hat keine Lage auf der Karte.</translation>
+    </message>
+    <message>
+        <source>Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Geben Sie sie hier an: Projekt &gt; Geographische Koordinaten ...</translation>
+    </message>
+    <message>
+        <source>Export DXF Drawing</source>
+        <translation>DXF-Zeichnung exportieren</translation>
+    </message>
+    <message>
+        <source>DXF drawing (*.dxf);;All Files (*)</source>
+        <translation>DXF-Zeichnung (*.dxf);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export GeoPackage</source>
+        <translation>GeoPackage exportieren</translation>
+    </message>
+    <message>
+        <source>GeoPackage (*.gpkg);;All Files (*)</source>
+        <translation>GeoPackage (*.gpkg);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export Curtain</source>
+        <translation>Vorhang exportieren</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;Table of cells (*.csv);;All Files (*)</source>
+        <translation>Unstrukturiertes VTK-Gitter (*.vtu);;Tabelle der Zellen (*.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>This survey</source>
+        <translation>Diese Messung</translation>
+    </message>
+    <message>
+        <source>Add projects to the fence</source>
+        <translation>Projekte zum Zaundiagramm hinzufügen</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Talvesk-Projekte (*.tvsk);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save picture of the fence</source>
+        <translation>Bild des Zaundiagramms speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Bilder (*.png)</translation>
+    </message>
+    <message>
+        <source>Applying notches ...</source>
+        <translation>Kerbfilter werden angewendet ...</translation>
+    </message>
+    <message>
+        <source>Applying the velocity filter ...</source>
+        <translation>Geschwindigkeitsfilter wird angewendet ...</translation>
+    </message>
+    <message>
+        <source>Folder for the shot files with picks</source>
+        <translation>Ordner für die Schussdateien mit Picks</translation>
+    </message>
+    <message>
+        <source>In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files it is whole microseconds in bytes 233 to 236 of the trace header. Both count from the shot.</source>
+        <translation>In SEG-2-Dateien ist ein Pick FIRST_BREAK in Sekunden; in SEG-Y- und SU-Dateien sind es ganze Mikrosekunden in den Bytes 233 bis 236 des Spurheaders. Beide zählen ab dem Schuss.</translation>
+    </message>
+    <message>
+        <source>Shot files with picks</source>
+        <translation>Schussdateien mit Picks</translation>
+    </message>
+    <message>
+        <source>Save style</source>
+        <translation>Stil speichern</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle)</source>
+        <translation>Talvesk-Stile (*.tvstyle)</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Stil anwenden</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle);;All files (*)</source>
+        <translation>Talvesk-Stile (*.tvstyle);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The section looks as before.</source>
+        <translation>Der Schnitt sieht aus wie zuvor.</translation>
+    </message>
+    <message>
+        <source>Style of %1</source>
+        <translation>Stil von %1</translation>
+    </message>
+    <message>
+        <source>Geophones and shots stand where they were surveyed.</source>
+        <translation>Geophone und Schüsse stehen, wo sie vermessen wurden.</translation>
+    </message>
+    <message>
+        <source>Open surveyed positions</source>
+        <translation>Vermessene Positionen öffnen</translation>
+    </message>
+    <message>
+        <source>Tables of coordinates (*.csv *.tsv *.txt *.dat *.xyz *.asc);;All files (*)</source>
+        <translation>Koordinatentabellen (*.csv *.tsv *.txt *.dat *.xyz *.asc);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The positions cannot be read.</source>
+        <translation>Die Positionen können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Spuren stummschalten</translation>
+    </message>
+    <message>
+        <source>The selected traces are zero before (ms); 0: from nowhere</source>
+        <translation>Die ausgewählten Spuren sind null vor (ms); 0: nirgends</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -14459,6 +14763,113 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Layers: %1 ms</source>
         <translation>Schichten: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::VelocityFilterDialog</name>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Geschwindigkeitsfilter</translation>
+    </message>
+    <message>
+        <source>Keeps or takes out waves by their apparent velocity along the line, in the filtered copy. Drag the sides of the wedge, or type velocities.</source>
+        <translation>Behält oder entfernt Wellen nach ihrer Scheingeschwindigkeit entlang der Messlinie, in der gefilterten Kopie. Ziehen Sie die Seiten des Keils oder geben Sie Geschwindigkeiten ein.</translation>
+    </message>
+    <message>
+        <source>&amp;Slowest (m/s):</source>
+        <translation>Langs&amp;amste (m/s):</translation>
+    </message>
+    <message>
+        <source>Least apparent velocity of the wedge; the full line in the picture</source>
+        <translation>Kleinste Scheingeschwindigkeit des Keils; im Bild die durchgezogene Linie</translation>
+    </message>
+    <message>
+        <source>&amp;Fastest (m/s):</source>
+        <translation>&amp;Schnellste (m/s):</translation>
+    </message>
+    <message>
+        <source>Greatest apparent velocity of the wedge, 0 for no limit; the dashed line in the picture</source>
+        <translation>Größte Scheingeschwindigkeit des Keils, 0 für keine Grenze; im Bild die gestrichelte Linie</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Wellen:</translation>
+    </message>
+    <message>
+        <source>Forth is towards greater distances along the line</source>
+        <translation>Vorwärts heißt zu größeren Entfernungen entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Both ways</source>
+        <translation>In beiden Richtungen</translation>
+    </message>
+    <message>
+        <source>Forth along the line</source>
+        <translation>Vorwärts entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Back along the line</source>
+        <translation>Rückwärts entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Wedge:</source>
+        <translation>Keil:</translation>
+    </message>
+    <message>
+        <source>&amp;Passes</source>
+        <translation>Wird &amp;durchgelassen</translation>
+    </message>
+    <message>
+        <source>Is re&amp;jected</source>
+        <translation>Wird &amp;gesperrt</translation>
+    </message>
+    <message>
+        <source>&amp;Taper (%):</source>
+        <translation>&amp;Taper (%):</translation>
+    </message>
+    <message>
+        <source>How far beside the wedge the filter sets in, in percent of its slowness there</source>
+        <translation>Wie weit neben dem Keil der Filter einsetzt, in Prozent der dortigen Langsamkeit</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Filter anwenden auf:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>O&amp;riginal</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Gefi&amp;ltert</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Zeigen:</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>&amp;Vorher</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Nachher</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Der Filter gilt für alle Schüsse.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Der Filter gilt für Schuss %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1 cannot be filtered: %2</source>
+        <translation>Schuss %1 kann nicht gefiltert werden: %2</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>Kein Filter angewendet.</translation>
     </message>
 </context>
 <context>
@@ -14823,6 +15234,18 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Open the place in a map service</source>
         <translation>Die Stelle in einem Kartendienst öffnen</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Tasten: links und rechts gehen von Pick zu Pick, auf und ab von Schuss zu Schuss, + und - zoomen, 0 zeigt alles.</translation>
+    </message>
+    <message>
+        <source>Point at a mark to read it. Keys: left and right go from mark to mark, + and - zoom, 0 shows all.</source>
+        <translation>Zum Ablesen auf eine Marke zeigen. Tasten: links und rechts gehen von Marke zu Marke, + und - zoomen, 0 zeigt alles.</translation>
     </message>
 </context>
 <context>
@@ -15258,10 +15681,6 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Keine Abtastwerte, nur Picks</translation>
     </message>
     <message>
-        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
-        <translation>Spuren %1 bis %2: C bestätigt, Entf entfernt, Esc bricht ab</translation>
-    </message>
-    <message>
         <source>Open shot files with Ctrl+O or drop them here</source>
         <translation>Schussdateien mit Strg+O öffnen oder hierher ziehen</translation>
     </message>
@@ -15280,6 +15699,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Error %1 ms</source>
         <translation>Fehler %1 ms</translation>
+    </message>
+    <message>
+        <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
+        <translation>Spuren %1: C bestätigt, Entf entfernt, K schaltet aus, P kehrt um, U schaltet stumm, Esc bricht ab</translation>
     </message>
 </context>
 <context>
@@ -15552,6 +15975,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Another fit, from: %1</source>
         <translation>Weitere Anpassung, beginnend mit: %1</translation>
+    </message>
+    <message>
+        <source>Iterations and misfits</source>
+        <translation>Iterationen und Abweichungen</translation>
     </message>
 </context>
 <context>
