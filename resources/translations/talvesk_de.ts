@@ -11436,7 +11436,7 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     </message>
     <message>
         <source>Line</source>
-        <translation>Messlinie</translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>Click the points of a line on the section</source>
