@@ -49,6 +49,277 @@
     </message>
 </context>
 <context>
+    <name>talvesk::AnnotationsDialog</name>
+    <message>
+        <source>Annotations</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground that are drawn on the section. They can be drawn with the mouse as well: Draw, above the section.</source>
+        <translation>Texte, Linien und Flächen des Untergrunds, die auf den Schnitt gezeichnet werden. Sie lassen sich auch mit der Maus zeichnen: „Zeichnen“ über dem Schnitt.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source>Add a text in the middle of the section</source>
+        <translation>Fügt einen Text in der Mitte des Schnitts hinzu</translation>
+    </message>
+    <message>
+        <source>Add &amp;text</source>
+        <translation>Te&amp;xt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add a line in the middle of the section</source>
+        <translation>Fügt eine Linie in der Mitte des Schnitts hinzu</translation>
+    </message>
+    <message>
+        <source>Add &amp;line</source>
+        <translation>&amp;Linie hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add an area in the middle of the section</source>
+        <translation>Fügt eine Fläche in der Mitte des Schnitts hinzu</translation>
+    </message>
+    <message>
+        <source>Add &amp;polygon</source>
+        <translation>&amp;Polygon hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the annotation that is selected</source>
+        <translation>Entfernt die ausgewählte Anmerkung</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Let those after it be drawn over it</source>
+        <translation>Die folgenden Anmerkungen werden über diese gezeichnet</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Points of the annotation that is selected</source>
+        <translation>Punkte der ausgewählten Anmerkung</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Entfernung [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Höhe [m]</translation>
+    </message>
+    <message>
+        <source>Add a point behind the one that is selected</source>
+        <translation>Fügt hinter dem ausgewählten Punkt einen weiteren hinzu</translation>
+    </message>
+    <message>
+        <source>Add p&amp;oint</source>
+        <translation>P&amp;unkt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the point that is selected</source>
+        <translation>Entfernt den ausgewählten Punkt</translation>
+    </message>
+    <message>
+        <source>Remove po&amp;int</source>
+        <translation>Punkt ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>Annotations: %1.</source>
+        <translation>Anmerkungen: %1.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed?</source>
+        <translation>Änderungen verwerfen?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignPage</name>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>RMS-Abweichung [ms]</translation>
+    </message>
+    <message>
+        <source>RMS misfit [%]</source>
+        <translation>RMS-Abweichung [%]</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi-Quadrat</translation>
+    </message>
+    <message>
+        <source>Length covered [m]</source>
+        <translation>Erfasste Länge [m]</translation>
+    </message>
+    <message>
+        <source>Depth reached [m]</source>
+        <translation>Erreichte Tiefe [m]</translation>
+    </message>
+    <message>
+        <source>Cells with rays [%]</source>
+        <translation>Zellen mit Strahlen [%]</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Schüsse</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>Not inverted yet</source>
+        <translation>Noch nicht invertiert</translation>
+    </message>
+    <message>
+        <source>The misfit of the section is not known</source>
+        <translation>Die Abweichung des Schnitts ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion</source>
+        <translation>Picks seit der Inversion geändert</translation>
+    </message>
+    <message>
+        <source>Smoothed after the inversion</source>
+        <translation>Nach der Inversion geglättet</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Auftraggeber</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Bearbeiter</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Lines: %1; with a section: %2; failed: %3</source>
+        <translation>Messlinien: %1; mit Schnitt: %2; fehlgeschlagen: %3</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Messlinien</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
+        <translation>Kleine Schnitte sind auf ihren Platz gestreckt; die Farben gelten für alle Messlinien gleich. Abweichungen sind die der gezeigten Schnitte, entlang neuer Strahlen.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Messlinie</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Verwendete Picks</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Invertiert</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Failed:</source>
+        <translation>Fehlgeschlagen:</translation>
+    </message>
+    <message>
+        <source>Velocity section of %1</source>
+        <translation>Geschwindigkeitsschnitt von %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Map of the lines</source>
+        <translation>Karte der Messlinien</translation>
+    </message>
+    <message>
+        <source>Numbers are those of the table; each stands at the first geophone of its line.</source>
+        <translation>Die Nummern sind die der Tabelle; jede steht am ersten Geophon ihrer Messlinie.</translation>
+    </message>
+    <message>
+        <source>Lines whose position is not known: %1</source>
+        <translation>Messlinien, deren Lage nicht bekannt ist: %1</translation>
+    </message>
+    <message>
+        <source>Campaign</source>
+        <translation>Messkampagne</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Zum Inhalt springen</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CertaintyDialog</name>
     <message>
         <source>Certainty</source>
@@ -272,6 +543,21 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ColorField</name>
+    <message>
+        <source>Choose another colour</source>
+        <translation>Andere Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Farbe %1</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -366,6 +652,145 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source> of %1</source>
         <translation> von %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandReasons</name>
+    <message>
+        <source>There are no shots yet.</source>
+        <translation>Es gibt noch keine Schüsse.</translation>
+    </message>
+    <message>
+        <source>There are no recordings yet.</source>
+        <translation>Es gibt noch keine Aufzeichnungen.</translation>
+    </message>
+    <message>
+        <source>No shot is in view.</source>
+        <translation>Es wird kein Schuss gezeigt.</translation>
+    </message>
+    <message>
+        <source>No shot with traces is in view.</source>
+        <translation>Es wird kein Schuss mit Spuren gezeigt.</translation>
+    </message>
+    <message>
+        <source>Nothing is mended.</source>
+        <translation>Nichts ist korrigiert.</translation>
+    </message>
+    <message>
+        <source>The shot in view has no filtered copy.</source>
+        <translation>Der gezeigte Schuss hat keine gefilterte Kopie.</translation>
+    </message>
+    <message>
+        <source>No recording begins before its shot.</source>
+        <translation>Keine Aufzeichnung beginnt vor ihrem Schuss.</translation>
+    </message>
+    <message>
+        <source>The selected traces have no picks.</source>
+        <translation>Die ausgewählten Spuren haben keine Picks.</translation>
+    </message>
+    <message>
+        <source>No pick of the selected traces waits for confirmation.</source>
+        <translation>Kein Pick der ausgewählten Spuren wartet auf Bestätigung.</translation>
+    </message>
+    <message>
+        <source>There are no shots yet, or no picks are shown.</source>
+        <translation>Es gibt noch keine Schüsse, oder es werden keine Picks gezeigt.</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>Es gibt keine frühere Ansicht.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>Es gibt keine spätere Ansicht.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Es gibt nichts zu wiederholen.</translation>
+    </message>
+    <message>
+        <source>There are no geophones and no shots yet.</source>
+        <translation>Es gibt noch keine Geophone und keine Schüsse.</translation>
+    </message>
+    <message>
+        <source>There is nothing to save.</source>
+        <translation>Es gibt nichts zu speichern.</translation>
+    </message>
+    <message>
+        <source>There is no grid yet.</source>
+        <translation>Es gibt noch kein Gitter.</translation>
+    </message>
+    <message>
+        <source>There is no inversion yet.</source>
+        <translation>Es gibt noch keine Inversion.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile yet.</source>
+        <translation>Es gibt noch kein Schichtprofil.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the ground under the grid.</source>
+        <translation>Über den Untergrund unter dem Gitter ist nichts bekannt.</translation>
+    </message>
+    <message>
+        <source>There is no section yet.</source>
+        <translation>Es gibt noch keinen Schnitt.</translation>
+    </message>
+    <message>
+        <source>There is no line of geophones yet.</source>
+        <translation>Es gibt noch keine Geophonlinie.</translation>
+    </message>
+    <message>
+        <source>There is no grid under a line of geophones yet.</source>
+        <translation>Es gibt noch kein Gitter unter einer Geophonlinie.</translation>
+    </message>
+    <message>
+        <source>There is nothing to make pictures of yet.</source>
+        <translation>Es gibt noch nichts, wovon Bilder erstellt werden könnten.</translation>
+    </message>
+    <message>
+        <source>How certain the section is has not been computed.</source>
+        <translation>Die Zuverlässigkeit des Schnitts wurde nicht berechnet.</translation>
+    </message>
+    <message>
+        <source>It cannot work yet.</source>
+        <translation>Das geht noch nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandSearchDialog</name>
+    <message>
+        <source>Find Command</source>
+        <translation>Befehl suchen</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>Wörter des Befehls</translation>
+    </message>
+    <message>
+        <source>Type words of a command</source>
+        <translation>Wörter eines Befehls eingeben</translation>
+    </message>
+    <message>
+        <source>Commands found</source>
+        <translation>Gefundene Befehle</translation>
+    </message>
+    <message>
+        <source>No command has these words.</source>
+        <translation>Kein Befehl enthält diese Wörter.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>why a command cannot work, its menu</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not now: %1</source>
+        <translation>nicht jetzt: %1</translation>
     </message>
 </context>
 <context>
@@ -526,6 +951,41 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>of all picks as they are %1 ms</source>
         <translation>mit allen Picks unverändert %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DepthProfileDialog</name>
+    <message>
+        <source>Depth profile</source>
+        <translation>Tiefenprofil</translation>
+    </message>
+    <message>
+        <source>&amp;Distance:</source>
+        <translation>&amp;Entfernung:</translation>
+    </message>
+    <message>
+        <source>Where along the line the profile stands</source>
+        <translation>Stelle des Profils entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Show the ground below the mouse as it moves over the section</source>
+        <translation>Zeigt den Untergrund unter der Maus, während sie sich über den Schnitt bewegt</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the pointer</source>
+        <translation>Der &amp;Maus folgen</translation>
+    </message>
+    <message>
+        <source>Save the profile as PNG, SVG or PDF</source>
+        <translation>Speichert das Profil als PNG, SVG oder PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Bild &amp;speichern ...</translation>
+    </message>
+    <message>
+        <source>Velocity, gradient and certainty against depth</source>
+        <translation>Geschwindigkeit, Gradient und Zuverlässigkeit über der Tiefe</translation>
     </message>
 </context>
 <context>
@@ -929,6 +1389,57 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::DrawingDialog</name>
+    <message>
+        <source>Lines to be exported</source>
+        <translation>Zu exportierende Linien</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines of velocity:</source>
+        <translation>&amp;Isolinien der Geschwindigkeit:</translation>
+    </message>
+    <message>
+        <source>Velocities with blanks between them; each becomes lines through the section</source>
+        <translation>Geschwindigkeiten, durch Leerzeichen getrennt; jede wird zu Linien durch den Schnitt</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>&amp;Distance along the line and elevation</source>
+        <translation>&amp;Entfernung entlang der Messlinie und Höhe</translation>
+    </message>
+    <message>
+        <source>A flat drawing: x is the distance along the line, y the elevation, in metres</source>
+        <translation>Eine ebene Zeichnung: x ist die Entfernung entlang der Messlinie, y die Höhe, in Metern</translation>
+    </message>
+    <message>
+        <source>&amp;Easting, northing and elevation on the map</source>
+        <translation>&amp;Ostwert, Nordwert und Höhe auf der Karte</translation>
+    </message>
+    <message>
+        <source>Lines in space by the geographic coordinates of the line, in metres</source>
+        <translation>Linien im Raum nach den geographischen Koordinaten der Messlinie, in Metern</translation>
+    </message>
+    <message>
+        <source>There is no section yet, and so there are no isolines.</source>
+        <translation>Es gibt noch keinen Schnitt und daher keine Isolinien.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map. Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Die Messlinie hat keine Lage auf der Karte. Geben Sie sie hier an: Projekt &gt; Geographische Koordinaten ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a velocity.</source>
+        <translation>„%1“ ist keine Geschwindigkeit.</translation>
+    </message>
+    <message>
+        <source>A section has %1 isovalues at most.</source>
+        <translation>Ein Schnitt hat höchstens %1 Isowerte.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ElasticDialog</name>
     <message>
         <source>P and S together</source>
@@ -1195,6 +1706,101 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>The Z offset is not a number.</source>
         <translation>Die Z-Verschiebung ist keine Zahl.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceDialog</name>
+    <message>
+        <source>Fence of several lines</source>
+        <translation>Zaundiagramm mehrerer Messlinien</translation>
+    </message>
+    <message>
+        <source>&amp;Lines:</source>
+        <translation>&amp;Messlinien:</translation>
+    </message>
+    <message>
+        <source>Stand the sections of other projects beside this one; the projects stay as they are</source>
+        <translation>Stellt die Schnitte anderer Projekte neben diesen; die Projekte bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>Projekte &amp;hinzufügen ...</translation>
+    </message>
+    <message>
+        <source>Take the line that is selected out of the fence</source>
+        <translation>Nimmt die ausgewählte Messlinie aus dem Zaundiagramm</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>&amp;Überhöhung:</translation>
+    </message>
+    <message>
+        <source>Save the view as a PNG picture</source>
+        <translation>Speichert die Ansicht als PNG-Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Bild &amp;speichern ...</translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation>&amp;Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Lines that stand in the fence: %1.</source>
+        <translation>Messlinien im Zaundiagramm: %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation>Weggelassen: %1.</translation>
+    </message>
+    <message>
+        <source>it has no position on the map</source>
+        <translation>keine Lage auf der Karte</translation>
+    </message>
+    <message>
+        <source>its position is in EPSG:%1, that of the others in EPSG:%2</source>
+        <translation>die Lage ist in EPSG:%1 angegeben, die der anderen in EPSG:%2</translation>
+    </message>
+    <message>
+        <source>it has no geophones</source>
+        <translation>keine Geophone</translation>
+    </message>
+    <message>
+        <source>its first and last geophone are at one place of the map</source>
+        <translation>das erste und das letzte Geophon liegen an derselben Stelle der Karte</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceView</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Sections at their places on the map</source>
+        <translation>Schnitte an ihrer Stelle auf der Karte</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureSheetWidget</name>
+    <message>
+        <source>Figure</source>
+        <translation>Abbildung</translation>
     </message>
 </context>
 <context>
@@ -1751,6 +2357,47 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Layer 1, %1 m/s in the mean</source>
         <translation>Schicht 1, im Mittel %1 m/s</translation>
     </message>
+    <message>
+        <source>Vertical gradient [1/s]</source>
+        <translation>Vertikaler Gradient [1/s]</translation>
+    </message>
+    <message>
+        <source>Uncertainty [%]</source>
+        <translation>Unsicherheit [%]</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Entfernung %1 m</translation>
+    </message>
+    <message>
+        <source>no section here</source>
+        <translation>kein Schnitt an dieser Stelle</translation>
+    </message>
+    <message>
+        <source>surface at %1 m</source>
+        <translation>Oberfläche bei %1 m</translation>
+    </message>
+    <message>
+        <source>shaded: 16 to 84 %</source>
+        <translation>schattiert: 16 bis 84 %</translation>
+    </message>
+    <message>
+        <source>%1 with a gain of their own</source>
+        <comment>traces</comment>
+        <translation>%1 mit eigener Verstärkung</translation>
+    </message>
+    <message>
+        <source>annotations outside the section: %1</source>
+        <translation>Anmerkungen außerhalb des Schnitts: %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (not reached)</source>
+        <translation>%1 (nicht erreicht)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1893,6 +2540,29 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Hold to known ground</source>
         <translation>An bekannten Untergrund halten</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FkView</name>
+    <message>
+        <source>Spectrum over wavenumber and frequency</source>
+        <translation>Spektrum über Wellenzahl und Frequenz</translation>
+    </message>
+    <message>
+        <source>No spectrum</source>
+        <translation>Kein Spektrum</translation>
+    </message>
+    <message>
+        <source>Wavenumber along the line (1/m)</source>
+        <translation>Wellenzahl entlang der Messlinie (1/m)</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Frequenz (Hz)</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2716,34 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     </message>
 </context>
 <context>
+    <name>talvesk::GuidanceStrip</name>
+    <message>
+        <source>Guidance</source>
+        <translation>Arbeitsschritte</translation>
+    </message>
+    <message>
+        <source>Show the steps from recordings to a section, and how they stand</source>
+        <translation>Zeigt die Schritte von den Aufzeichnungen zum Schnitt und ihren Stand</translation>
+    </message>
+    <message>
+        <source>A click: %1</source>
+        <translation>Klick: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>step, how it stands</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1. A click: %2</source>
+        <translation>%1. Klick: %2</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation>Als Nächstes: %1</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
@@ -2115,6 +2813,13 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Search</source>
         <translation>Suchen</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::HandleTrack</name>
+    <message>
+        <source>Handle %1</source>
+        <translation>Regler %1</translation>
     </message>
 </context>
 <context>
@@ -2298,6 +3003,10 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Shot by geophone, and in the section along the rays</source>
         <translation>Schüsse gegen Geophone, und im Schnitt entlang der Strahlen</translation>
+    </message>
+    <message>
+        <source>Files to be written</source>
+        <translation>Zu schreibende Dateien</translation>
     </message>
 </context>
 <context>
@@ -2844,6 +3553,38 @@ durch Picks belegt</translation>
         <source>Elevation (m)</source>
         <translation>Höhe (m)</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Messlinie</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geophone</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geophon %1</translation>
+    </message>
+    <message>
+        <source>x %1 m, %2 m across</source>
+        <translation>x %1 m, quer %2 m</translation>
+    </message>
+    <message>
+        <source>%1 m east, %2 m north</source>
+        <translation>%1 m Ost, %2 m Nord</translation>
+    </message>
+    <message>
+        <source>Across the line (m)</source>
+        <translation>Quer zur Messlinie (m)</translation>
+    </message>
+    <message>
+        <source>East of the first geophone (m)</source>
+        <translation>Östlich des ersten Geophons (m)</translation>
+    </message>
+    <message>
+        <source>North of it (m)</source>
+        <translation>Nördlich davon (m)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LossQuestion</name>
@@ -2878,6 +3619,53 @@ durch Picks belegt</translation>
     <message>
         <source>The survey changes. This will be removed (Undo brings it back):</source>
         <translation>Die Messung ändert sich. Entfernt werden („Rückgängig“ bringt es zurück):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MarkedIsolinesDialog</name>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Markierte Isolinien</translation>
+    </message>
+    <message>
+        <source>Velocities that mean something, such as 1500 m/s for the water table. Their lines stand out from the section and carry their names.</source>
+        <translation>Geschwindigkeiten mit einer Bedeutung, etwa 1500 m/s für den Grundwasserspiegel. Ihre Linien heben sich vom Schnitt ab und tragen ihre Namen.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Geschwindigkeit [m/s]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Mark another velocity</source>
+        <translation>Markiert eine weitere Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the line that is selected</source>
+        <translation>Entfernt die ausgewählte Linie</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>water table</source>
+        <translation>Grundwasserspiegel</translation>
     </message>
 </context>
 <context>
@@ -2958,6 +3746,10 @@ durch Picks belegt</translation>
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Verstärkung</translation>
     </message>
 </context>
 <context>
@@ -6898,6 +7690,618 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
         <translation>Die Geschwindigkeit von Schicht 1 ändert sich in diesem Profil entlang der Messlinie und mit der Tiefe; hier gilt überall ihr Mittel, %1 m/s.</translation>
     </message>
+    <message>
+        <source>the first distance must be a number, and the EPSG code a whole number</source>
+        <translation>die erste Entfernung muss eine Zahl sein und der EPSG-Code eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Kerbfilter</translation>
+    </message>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Geschwindigkeitsfilter</translation>
+    </message>
+    <message>
+        <source>the line has no place on the map; its geographic coordinates are missing</source>
+        <translation>die Messlinie hat keine Lage auf der Karte; ihre geographischen Koordinaten fehlen</translation>
+    </message>
+    <message>
+        <source>two shot files of the survey would both become %1</source>
+        <translation>zwei Schussdateien der Messung würden beide zu %1</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey; choose another folder</source>
+        <translation>%1 ist eine der Schussdateien dieser Messung; wählen Sie einen anderen Ordner</translation>
+    </message>
+    <message>
+        <source>it holds several shots, whose traces may be mixed</source>
+        <translation>sie enthält mehrere Schüsse, deren Spuren vermischt sein können</translation>
+    </message>
+    <message>
+        <source>its traces are not those of the survey any more</source>
+        <translation>ihre Spuren sind nicht mehr die der Messung</translation>
+    </message>
+    <message>
+        <source>miniSEED has no headers for picks</source>
+        <translation>miniSEED hat keine Header für Picks</translation>
+    </message>
+    <message>
+        <source>the survey has no shot files</source>
+        <translation>die Messung hat keine Schussdateien</translation>
+    </message>
+    <message>
+        <source>%1 was left out: %2</source>
+        <translation>%1 wurde weggelassen: %2</translation>
+    </message>
+    <message>
+        <source>%1 has no picks</source>
+        <translation>%1 hat keine Picks</translation>
+    </message>
+    <message>
+        <source>%1 shots have no shot file of their own and were left out</source>
+        <translation>%1 Schüsse haben keine eigene Schussdatei und wurden weggelassen</translation>
+    </message>
+    <message>
+        <source>bytes 233 to 236 of %1 trace headers held something else before</source>
+        <translation>die Bytes 233 bis 236 von %1 Spurheadern enthielten zuvor etwas anderes</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 cannot be followed</source>
+        <translation>der Header von Spur %1 ist nicht auswertbar</translation>
+    </message>
+    <message>
+        <source>it has %1 traces, the survey %2 of them</source>
+        <translation>sie hat %1 Spuren, die Messung %2 davon</translation>
+    </message>
+    <message>
+        <source>it would grow too large</source>
+        <translation>sie würde zu groß</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 has no room for a pick</source>
+        <translation>der Header von Spur %1 hat keinen Platz für einen Pick</translation>
+    </message>
+    <message>
+        <source>it is SEG-Y of revision 2, whose trace headers have no bytes to spare</source>
+        <translation>sie ist SEG-Y der Revision 2, deren Spurheader keine freien Bytes haben</translation>
+    </message>
+    <message>
+        <source>it is not known by what the filtered copies of its traces were made</source>
+        <translation>es ist nicht bekannt, womit die gefilterten Kopien der Spuren erstellt wurden</translation>
+    </message>
+    <message>
+        <source>marked isolines and what was drawn on its section are lost</source>
+        <translation>markierte Isolinien und auf den Schnitt Gezeichnetes sind verloren</translation>
+    </message>
+    <message>
+        <source>the line lies straight on the map between its ends</source>
+        <translation>die Messlinie liegt auf der Karte gerade zwischen ihren Enden</translation>
+    </message>
+    <message>
+        <source>its vertices are no course of a line</source>
+        <translation>die Stützpunkte ergeben keinen Verlauf einer Messlinie</translation>
+    </message>
+    <message>
+        <source>it belongs to another map position</source>
+        <translation>er gehört zu einer anderen Lage auf der Karte</translation>
+    </message>
+    <message>
+        <source>it tells of traces that are not there, or of filters that are not known</source>
+        <translation>es nennt Spuren, die nicht da sind, oder Filter, die nicht bekannt sind</translation>
+    </message>
+    <message>
+        <source>%1 is no style file: %2</source>
+        <translation>%1 ist keine Stildatei: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of Talvesk has written it</source>
+        <translation>eine neuere Version von Talvesk hat sie geschrieben</translation>
+    </message>
+    <message>
+        <source>the place lies outside of %1</source>
+        <translation>die Stelle liegt außerhalb von %1</translation>
+    </message>
+    <message>
+        <source>it is not known which columns hold easting and northing, or longitude and latitude</source>
+        <translation>es ist nicht bekannt, welche Spalten Ostwert und Nordwert oder Längengrad und Breitengrad enthalten</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 rows, which is no table of a line</source>
+        <translation>%1 hat mehr als %2 Zeilen; das ist keine Tabelle einer Messlinie</translation>
+    </message>
+    <message>
+        <source>its text is too long</source>
+        <translation>der Text ist zu lang</translation>
+    </message>
+    <message>
+        <source>its colour is none</source>
+        <translation>die Farbe ist keine gültige Farbe</translation>
+    </message>
+    <message>
+        <source>a line is %1 to %2 points wide</source>
+        <translation>eine Linie ist %1 bis %2 Punkt breit</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>Sand</translation>
+    </message>
+    <message>
+        <source>Gravel</source>
+        <translation>Kies</translation>
+    </message>
+    <message>
+        <source>Clay</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>Silt</source>
+        <translation>Schluff</translation>
+    </message>
+    <message>
+        <source>Rock</source>
+        <translation>Fels</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Auffüllung</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Wasser</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ohne</translation>
+    </message>
+    <message>
+        <source>it is neither text nor line nor polygon</source>
+        <translation>sie ist weder Text noch Linie noch Polygon</translation>
+    </message>
+    <message>
+        <source>its pattern is none</source>
+        <translation>das Muster ist kein gültiges Muster</translation>
+    </message>
+    <message>
+        <source>it says nothing</source>
+        <translation>sie enthält keinen Text</translation>
+    </message>
+    <message>
+        <source>a text stands at one point, not at %1</source>
+        <translation>ein Text steht an einem Punkt, nicht an %1</translation>
+    </message>
+    <message>
+        <source>it has %1 points and needs %2 at least</source>
+        <translation>sie hat %1 Punkte und braucht mindestens %2</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 m is no place of a section</source>
+        <translation>%1 m, %2 m ist keine Stelle eines Schnitts</translation>
+    </message>
+    <message>
+        <source>a text is %1 to %2 points high</source>
+        <translation>ein Text ist %1 bis %2 Punkt hoch</translation>
+    </message>
+    <message>
+        <source>a section holds %1 marked isolines and %2 annotations with %3 points at most</source>
+        <translation>ein Schnitt fasst höchstens %1 markierte Isolinien und %2 Anmerkungen mit %3 Punkten</translation>
+    </message>
+    <message>
+        <source>marked isoline %1</source>
+        <translation>markierte Isolinie %1</translation>
+    </message>
+    <message>
+        <source>annotation %1</source>
+        <translation>Anmerkung %1</translation>
+    </message>
+    <message>
+        <source>band-pass from %1 Hz, order %2, to %3 Hz, order %4</source>
+        <translation>Bandpass von %1 Hz, Ordnung %2, bis %3 Hz, Ordnung %4</translation>
+    </message>
+    <message>
+        <source>low-pass %1 Hz, order %2</source>
+        <translation>Tiefpass %1 Hz, Ordnung %2</translation>
+    </message>
+    <message>
+        <source>high-pass %1 Hz, order %2</source>
+        <translation>Hochpass %1 Hz, Ordnung %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s and more</source>
+        <translation>%1 m/s und mehr</translation>
+    </message>
+    <message>
+        <source>forth along the line</source>
+        <translation>vorwärts entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>back along the line</source>
+        <translation>rückwärts entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>both ways</source>
+        <translation>in beiden Richtungen</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, pass (taper %3 %)</source>
+        <translation>Geschwindigkeiten von %1, %2, werden durchgelassen (Taper %3 %)</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, are rejected (taper %3 %)</source>
+        <translation>Geschwindigkeiten von %1, %2, werden gesperrt (Taper %3 %)</translation>
+    </message>
+    <message>
+        <source>notches at %1 Hz and multiples, %2 in all, quality %3</source>
+        <translation>Kerben bei %1 Hz und Vielfachen, insgesamt %2, Güte %3</translation>
+    </message>
+    <message>
+        <source>two geophones at least need easting and northing</source>
+        <translation>mindestens zwei Geophone brauchen Ostwert und Nordwert</translation>
+    </message>
+    <message>
+        <source>the first and the last geophone are at one place on the map, which gives the line no direction</source>
+        <translation>das erste und das letzte Geophon liegen an derselben Stelle der Karte; so hat die Messlinie keine Richtung</translation>
+    </message>
+    <message>
+        <source>a trace cannot have a gain of %1, only one from %2 to %3</source>
+        <translation>eine Spur kann keine Verstärkung von %1 haben, nur eine von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>traces with a gain of %1: %2</source>
+        <translation>Spuren mit Verstärkung %1: %2</translation>
+    </message>
+    <message>
+        <source>geophone %1</source>
+        <translation>Geophon %1</translation>
+    </message>
+    <message>
+        <source>geophones %1</source>
+        <translation>Geophone %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>lines %1</source>
+        <translation>Zeilen %1</translation>
+    </message>
+    <message>
+        <source>lines %1 and %2 more</source>
+        <translation>Zeilen %1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Not used, for no geophone or shot of the survey is there: %1</source>
+        <translation>Nicht verwendet, da dort kein Geophon oder Schuss der Messung steht: %1</translation>
+    </message>
+    <message>
+        <source>Not used, for a row above is of the same geophone or shot: %1</source>
+        <translation>Nicht verwendet, da eine Zeile darüber zum selben Geophon oder Schuss gehört: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, placed among those that have one by the distances so far: %1</source>
+        <translation>Ohne Zeile, nach den bisherigen Entfernungen zwischen die mit Zeile gesetzt: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, left where nothing tells how they stand to the others: %1</source>
+        <translation>Ohne Zeile, unverändert, da nichts ihre Lage zu den anderen angibt: %1</translation>
+    </message>
+    <message>
+        <source>Without an elevation, raised to the line between the others: %1</source>
+        <translation>Ohne Höhe, auf die Linie zwischen den anderen gehoben: %1</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1 m: %2</source>
+        <translation>Weiter von der Messlinie entfernt als der halbe Geophonabstand von %1 m: %2</translation>
+    </message>
+    <message>
+        <source>Hardly apart from their neighbours: %1</source>
+        <translation>Kaum von ihren Nachbarn entfernt: %1</translation>
+    </message>
+    <message>
+        <source>The line runs back to %1; an exchanged row or number?</source>
+        <translation>Die Messlinie läuft zurück zu %1; eine vertauschte Zeile oder Nummer?</translation>
+    </message>
+    <message>
+        <source>Not as far from the geophone before as expected: %1</source>
+        <translation>Nicht so weit vom vorigen Geophon entfernt wie erwartet: %1</translation>
+    </message>
+    <message>
+        <source>fewer than two geophones of the survey have a row in the table</source>
+        <translation>weniger als zwei Geophone der Messung haben eine Zeile in der Tabelle</translation>
+    </message>
+    <message>
+        <source>lengths along the ground need the elevation of every geophone; the table lacks %1</source>
+        <translation>Längen entlang des Geländes brauchen die Höhe jedes Geophons; in der Tabelle fehlt %1</translation>
+    </message>
+    <message>
+        <source>its sample interval is not known</source>
+        <translation>das Abtastintervall ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>it has samples that are no numbers</source>
+        <translation>die Spur hat Abtastwerte, die keine Zahlen sind</translation>
+    </message>
+    <message>
+        <source>a notch needs a frequency, a multiple and a quality above 0</source>
+        <translation>ein Kerbfilter braucht eine Frequenz, ein Vielfaches und eine Güte über 0</translation>
+    </message>
+    <message>
+        <source>it is sampled too slowly for %1 Hz</source>
+        <translation>die Abtastung ist zu langsam für %1 Hz</translation>
+    </message>
+    <message>
+        <source>it is shorter than one period of %1 Hz</source>
+        <translation>die Spur ist kürzer als eine Periode von %1 Hz</translation>
+    </message>
+    <message>
+        <source>trace %1 has another length or sample interval than trace 1</source>
+        <translation>Spur %1 hat eine andere Länge oder ein anderes Abtastintervall als Spur 1</translation>
+    </message>
+    <message>
+        <source>trace %1 has samples that are no numbers</source>
+        <translation>Spur %1 hat Abtastwerte, die keine Zahlen sind</translation>
+    </message>
+    <message>
+        <source>it has no samples, or no known sample interval</source>
+        <translation>es gibt keine Abtastwerte oder kein bekanntes Abtastintervall</translation>
+    </message>
+    <message>
+        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
+        <translation>die Geophone stehen nicht in gleichen Abständen: Spur %1 bei %2 m ist %3 m von der vorigen entfernt, üblich sind %4 m</translation>
+    </message>
+    <message>
+        <source>it has fewer than %1 traces</source>
+        <translation>es sind weniger als %1 Spuren</translation>
+    </message>
+    <message>
+        <source>the positions of its geophones are not known</source>
+        <translation>die Positionen der Geophone sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>of %1 places along its line %2 have no trace</source>
+        <translation>von %1 Stellen entlang der Messlinie haben %2 keine Spur</translation>
+    </message>
+    <message>
+        <source>shot %1: of %2 places along its line %3 have no trace, or a killed one; they count as zero, beside them the filter is less sharp</source>
+        <translation>Schuss %1: Von %2 Stellen entlang der Messlinie haben %3 keine Spur oder eine ausgeschaltete; sie zählen als null, neben ihnen ist der Filter weniger scharf</translation>
+    </message>
+    <message>
+        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
+        <translation>die kleinste Geschwindigkeit, %1 m/s, muss über 0 und unter der größten, %2 m/s, liegen</translation>
+    </message>
+    <message>
+        <source>the taper must be 0 or more and less than 100 percent of a limit</source>
+        <translation>der Taper muss mindestens 0 und kleiner als 100 Prozent einer Grenze sein</translation>
+    </message>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Vermessene Positionen</translation>
+    </message>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Markierte Isolinien</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Stil anwenden</translation>
+    </message>
+    <message>
+        <source>shot %1 has no trace %2</source>
+        <translation>Schuss %1 hat keine Spur %2</translation>
+    </message>
+    <message>
+        <source>no recordings yet</source>
+        <translation>noch keine Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>times of %1 shots, without recordings</source>
+        <translation>Zeiten von %1 Schüssen, ohne Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>recordings that begin before their shot: %1</source>
+        <translation>Aufzeichnungen, die vor ihrem Schuss beginnen: %1</translation>
+    </message>
+    <message>
+        <source>recordings that were read with warnings: %1</source>
+        <translation>mit Warnungen gelesene Aufzeichnungen: %1</translation>
+    </message>
+    <message>
+        <source>shots: %1</source>
+        <translation>Schüsse: %1</translation>
+    </message>
+    <message>
+        <source>no geophones yet</source>
+        <translation>noch keine Geophone</translation>
+    </message>
+    <message>
+        <source>positions are missing or cannot be</source>
+        <translation>Positionen fehlen oder sind nicht möglich</translation>
+    </message>
+    <message>
+        <source>things that look wrong in the positions: %1</source>
+        <translation>Auffälligkeiten in den Positionen: %1</translation>
+    </message>
+    <message>
+        <source>geophones: %1, shots: %2</source>
+        <translation>Geophone: %1, Schüsse: %2</translation>
+    </message>
+    <message>
+        <source>no picks yet</source>
+        <translation>noch keine Picks</translation>
+    </message>
+    <message>
+        <source>shots without picks: %1</source>
+        <translation>Schüsse ohne Picks: %1</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 traces have a pick</source>
+        <translation>nur %1 von %2 Spuren haben einen Pick</translation>
+    </message>
+    <message>
+        <source>%1 picks on %2 traces</source>
+        <translation>%1 Picks auf %2 Spuren</translation>
+    </message>
+    <message>
+        <source>no picks to check yet</source>
+        <translation>noch keine Picks zu prüfen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks that wait for confirmation are doubtful</source>
+        <translation>%1 von %2 Picks, die auf Bestätigung warten, sind zweifelhaft</translation>
+    </message>
+    <message>
+        <source>of %1 picks nothing is known that could speak against them</source>
+        <translation>von %1 Picks ist nichts bekannt, was gegen sie spräche</translation>
+    </message>
+    <message>
+        <source>none of the %1 picks that wait for confirmation is doubtful</source>
+        <translation>keiner der %1 Picks, die auf Bestätigung warten, ist zweifelhaft</translation>
+    </message>
+    <message>
+        <source>no pick waits for confirmation</source>
+        <translation>kein Pick wartet auf Bestätigung</translation>
+    </message>
+    <message>
+        <source>no grid yet</source>
+        <translation>noch kein Gitter</translation>
+    </message>
+    <message>
+        <source>the grid has no cells</source>
+        <translation>das Gitter hat keine Zellen</translation>
+    </message>
+    <message>
+        <source>shots and geophones beyond the grid: %1</source>
+        <translation>Schüsse und Geophone außerhalb des Gitters: %1</translation>
+    </message>
+    <message>
+        <source>%1 x %2 cells</source>
+        <translation>%1 x %2 Zellen</translation>
+    </message>
+    <message>
+        <source>%1, the usual starting model</source>
+        <translation>%1, übliches Startmodell</translation>
+    </message>
+    <message>
+        <source>%1, a starting model with layers: %2</source>
+        <translation>%1, Startmodell mit Schichten: %2</translation>
+    </message>
+    <message>
+        <source>no inversion yet</source>
+        <translation>noch keine Inversion</translation>
+    </message>
+    <message>
+        <source>the section is older than the picks</source>
+        <translation>der Schnitt ist älter als die Picks</translation>
+    </message>
+    <message>
+        <source>the known ground is other than that of the section</source>
+        <translation>der bekannte Untergrund ist ein anderer als der des Schnitts</translation>
+    </message>
+    <message>
+        <source>it was stopped before its end</source>
+        <translation>vorzeitig angehalten</translation>
+    </message>
+    <message>
+        <source>chi-square is %1 and not near 1</source>
+        <translation>Chi-Quadrat ist %1 und nicht nahe 1</translation>
+    </message>
+    <message>
+        <source>the section is inverted</source>
+        <translation>der Schnitt ist invertiert</translation>
+    </message>
+    <message>
+        <source>RMSE %1 ms of %2 picks</source>
+        <translation>RMSE %1 ms bei %2 Picks</translation>
+    </message>
+    <message>
+        <source>no section yet</source>
+        <translation>noch kein Schnitt</translation>
+    </message>
+    <message>
+        <source>the layered profile is older than the picks</source>
+        <translation>das Schichtprofil ist älter als die Picks</translation>
+    </message>
+    <message>
+        <source>the certainty is older than the picks</source>
+        <translation>die Zuverlässigkeit ist älter als die Picks</translation>
+    </message>
+    <message>
+        <source>the section was smoothed after its inversion</source>
+        <translation>der Schnitt wurde nach seiner Inversion geglättet</translation>
+    </message>
+    <message>
+        <source>the section lies beyond its certainty</source>
+        <translation>der Schnitt liegt außerhalb seiner Zuverlässigkeit</translation>
+    </message>
+    <message>
+        <source>how certain the section is is not known</source>
+        <translation>die Zuverlässigkeit des Schnitts ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the section and its certainty are there</source>
+        <translation>Schnitt und Zuverlässigkeit liegen vor</translation>
+    </message>
+    <message>
+        <source>it has no section</source>
+        <translation>kein Schnitt vorhanden</translation>
+    </message>
+    <message>
+        <source>no cell of its section is drawn</source>
+        <translation>keine Zelle des Schnitts wird gezeichnet</translation>
+    </message>
+    <message>
+        <source>its line is nowhere on the map</source>
+        <translation>die Messlinie liegt nirgends auf der Karte</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Spuren ausschalten</translation>
+    </message>
+    <message>
+        <source>Revive traces</source>
+        <translation>Spuren wieder einschalten</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Polarität umkehren</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Spuren stummschalten</translation>
+    </message>
+    <message>
+        <source>Mute traces no more</source>
+        <translation>Stummschaltung der Spuren aufheben</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Spuren verstärken</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Spuren abschwächen</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -6988,6 +8392,61 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::NotchDialog</name>
+    <message>
+        <source>Notch</source>
+        <translation>Kerbfilter</translation>
+    </message>
+    <message>
+        <source>Takes the hum of power lines out of the filtered copy. Arrivals stay where they are.</source>
+        <translation>Entfernt das Netzbrummen aus der gefilterten Kopie. Einsätze bleiben, wo sie sind.</translation>
+    </message>
+    <message>
+        <source>&amp;Power line (Hz):</source>
+        <translation>&amp;Netzfrequenz (Hz):</translation>
+    </message>
+    <message>
+        <source>50 Hz in most of the world, 60 Hz in North America; some railways have 16.7 Hz</source>
+        <translation>50 Hz in den meisten Ländern, 60 Hz in Nordamerika; manche Bahnnetze haben 16,7 Hz</translation>
+    </message>
+    <message>
+        <source>&amp;Multiples:</source>
+        <translation>&amp;Vielfache:</translation>
+    </message>
+    <message>
+        <source>So many multiples are taken out, the frequency itself among them, as far as the record has them</source>
+        <translation>So viele Vielfache werden entfernt, die Frequenz selbst eingeschlossen, soweit die Aufzeichnung sie enthält</translation>
+    </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Güte:</translation>
+    </message>
+    <message>
+        <source>The frequency over the width of every notch at 3 dB: larger ones take less of the signal, and less of hum that wanders</source>
+        <translation>Frequenz geteilt durch die Breite jeder Kerbe bei 3 dB: Größere Werte nehmen weniger vom Signal weg, aber auch weniger von einem Brummen, das wandert</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Filter anwenden auf:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>O&amp;riginal</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Gefi&amp;ltert</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Der Filter gilt für alle Schüsse.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Der Filter gilt für Schuss %1.</translation>
     </message>
 </context>
 <context>
@@ -7272,6 +8731,10 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>&amp;Keep the program&apos;s rules</source>
         <translation>Regeln des Programms &amp;beibehalten</translation>
+    </message>
+    <message>
+        <source>Files and what each reading finds in them</source>
+        <translation>Dateien und was jede Lesart in ihnen findet</translation>
     </message>
 </context>
 <context>
@@ -7575,6 +9038,10 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>in memory, for %1</source>
         <translation>im Speicher, denn %1</translation>
+    </message>
+    <message>
+        <source>Filtered copy by:</source>
+        <translation>Gefilterte Kopie durch:</translation>
     </message>
 </context>
 <context>
@@ -9093,6 +10560,22 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
         <translation>Die Ersteinsätze wurden Schichten zugeordnet, und Geschwindigkeiten und Tiefen der Refraktoren wurden an alle zugleich angepasst: so, dass die direkten und refraktierten Zeiten, berechnet durch die Schichten, die sich entlang der Messlinie ändern dürfen, denen der Picks entsprechen.</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>These shots have filtered copies beside their recordings, made as listed, one filter after the other.</source>
+        <translation>Diese Schüsse haben neben ihren Aufzeichnungen gefilterte Kopien, erstellt wie aufgeführt, ein Filter nach dem anderen.</translation>
+    </message>
+    <message>
+        <source>Filters of the recordings</source>
+        <translation>Filter der Aufzeichnungen</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -9225,10 +10708,6 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>Errors of the picks</source>
         <translation>Fehlern der Picks</translation>
-    </message>
-    <message>
-        <source>&amp;Colour shot:</source>
-        <translation>Schuss &amp;farbig:</translation>
     </message>
     <message>
         <source>Whose dots have a colour of their own in the picture over the offset</source>
@@ -9377,6 +10856,10 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>The picture cannot be made.</source>
         <translation>Das Bild kann nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur shot:</source>
+        <translation>Sch&amp;uss farbig:</translation>
     </message>
 </context>
 <context>
@@ -9903,6 +11386,70 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <source>Velocity section</source>
         <translation>Geschwindigkeitsschnitt</translation>
     </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Entfernung %1 m</translation>
+    </message>
+    <message>
+        <source>Horizontal %1 m</source>
+        <translation>Horizontal %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical %1 m</source>
+        <translation>Vertikal %1 m</translation>
+    </message>
+    <message>
+        <source>Slope %1°</source>
+        <translation>Neigung %1°</translation>
+    </message>
+    <message>
+        <source>Click the next point; Esc ends</source>
+        <translation>Nächsten Punkt anklicken; Esc beendet</translation>
+    </message>
+    <message>
+        <source>Double click or Enter ends it, Backspace takes a point back</source>
+        <translation>Doppelklick oder Eingabe schließt ab, Rücktaste nimmt einen Punkt zurück</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Messen</translation>
+    </message>
+    <message>
+        <source>Drag between two points: distance, horizontal, vertical and slope; Esc ends</source>
+        <translation>Zwischen zwei Punkten ziehen: Abstand, horizontal, vertikal und Neigung; Esc beendet</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Zeichnen</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
+        <translation>Texte, Linien und Flächen des Untergrunds in den Schnitt klicken; Esc beendet</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Click where a text is to stand on the section</source>
+        <translation>Anklicken, wo ein Text auf dem Schnitt stehen soll</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Click the points of a line on the section</source>
+        <translation>Die Punkte einer Linie auf dem Schnitt anklicken</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>Click the corners of an area of the section</source>
+        <translation>Die Ecken einer Fläche des Schnitts anklicken</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SelectCSVDelimiterDialog</name>
@@ -10159,6 +11706,407 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>Die Ergebnisse der letzten Inversion werden entfernt („Rückgängig“ bringt sie zurück).</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StepTexts</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Geometrie</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Picks</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>Grid and start</source>
+        <translation>Gitter und Start</translation>
+    </message>
+    <message>
+        <source>Inversion</source>
+        <translation>Inversion</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>fertig</translation>
+    </message>
+    <message>
+        <source>doubtful</source>
+        <translation>zweifelhaft</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>veraltet</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>step, reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPointsTable</name>
+    <message>
+        <source>Shot %1</source>
+        <translation>Schuss %1</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geophon %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>row of a table</comment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <comment>of a table</comment>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Across
+(m)</source>
+        <translation>Quer
+(m)</translation>
+    </message>
+    <message>
+        <source>x before
+(m)</source>
+        <translation>x vorher
+(m)</translation>
+    </message>
+    <message>
+        <source>x
+(m)</source>
+        <translation>x
+(m)</translation>
+    </message>
+    <message>
+        <source>change
+(m)</source>
+        <translation>Änderung
+(m)</translation>
+    </message>
+    <message>
+        <source>z before
+(m)</source>
+        <translation>z vorher
+(m)</translation>
+    </message>
+    <message>
+        <source>z
+(m)</source>
+        <translation>z
+(m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPositionsDialog</name>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Vermessene Positionen</translation>
+    </message>
+    <message>
+        <source>&amp;Other table ...</source>
+        <translation>&amp;Andere Tabelle ...</translation>
+    </message>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Erste Zeilen der Tabelle</translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation>Spalten der Tabelle</translation>
+    </message>
+    <message>
+        <source>S&amp;eparator</source>
+        <translation>T&amp;rennzeichen</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Trennzeichen</translation>
+    </message>
+    <message>
+        <source>C&amp;oordinates</source>
+        <translation>K&amp;oordinaten</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Koordinaten</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>Column of names</source>
+        <translation>Spalte der Namen</translation>
+    </message>
+    <message>
+        <source>Eas&amp;ting</source>
+        <translation>Ost&amp;wert</translation>
+    </message>
+    <message>
+        <source>Column of eastings or longitudes</source>
+        <translation>Spalte der Ostwerte oder Längengrade</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>Ar&amp;t</translation>
+    </message>
+    <message>
+        <source>Column of kinds</source>
+        <translation>Spalte der Arten</translation>
+    </message>
+    <message>
+        <source>No&amp;rthing</source>
+        <translation>Nor&amp;dwert</translation>
+    </message>
+    <message>
+        <source>Column of northings or latitudes</source>
+        <translation>Spalte der Nordwerte oder Breitengrade</translation>
+    </message>
+    <message>
+        <source>Ele&amp;vation</source>
+        <translation>&amp;Höhe</translation>
+    </message>
+    <message>
+        <source>Column of elevations</source>
+        <translation>Spalte der Höhen</translation>
+    </message>
+    <message>
+        <source>EPS&amp;G code</source>
+        <translation>EPSG-&amp;Code</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>EPSG-Code</translation>
+    </message>
+    <message>
+        <source>The code of the reference system of easting and northing, for example 32632 for UTM zone 32 N. Without it the line gets no place on the map. Longitude and latitude are projected into it, without a code into their UTM zone.</source>
+        <translation>Der Code des Referenzsystems von Ostwert und Nordwert, zum Beispiel 32632 für UTM-Zone 32 N. Ohne ihn erhält die Messlinie keine Lage auf der Karte. Längengrad und Breitengrad werden in dieses System projiziert, ohne Code in ihre UTM-Zone.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Messlinie</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Messlinie</translation>
+    </message>
+    <message>
+        <source>Shape of the line</source>
+        <translation>Form der Messlinie</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>Län&amp;ge</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Länge entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Names &amp;are</source>
+        <translation>Namen &amp;sind</translation>
+    </message>
+    <message>
+        <source>What names are</source>
+        <translation>Was die Namen sind</translation>
+    </message>
+    <message>
+        <source>First &amp;distance</source>
+        <translation>Erste &amp;Entfernung</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone</source>
+        <translation>Entfernung des ersten Geophons</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
+        <translation>Entfernung des ersten vermessenen Geophons in Metern. Leer: wie bisher.</translation>
+    </message>
+    <message>
+        <source>Count from the other &amp;end</source>
+        <translation>Vom anderen Ende &amp;zählen</translation>
+    </message>
+    <message>
+        <source>&amp;Positions</source>
+        <translation>&amp;Positionen</translation>
+    </message>
+    <message>
+        <source>Positions before and after</source>
+        <translation>Positionen vorher und nachher</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Karte</translation>
+    </message>
+    <message>
+        <source>Geophones and shots from above</source>
+        <translation>Geophone und Schüsse von oben</translation>
+    </message>
+    <message>
+        <source>O&amp;ffsets</source>
+        <translation>Q&amp;uerabstände</translation>
+    </message>
+    <message>
+        <source>Offsets across the line</source>
+        <translation>Abstände quer zur Messlinie</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>Zu prüfen</translation>
+    </message>
+    <message>
+        <source>as in the table</source>
+        <translation>wie in der Tabelle</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>Tabulator</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>Semikolon</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Easting, northing</source>
+        <translation>Ostwert, Nordwert</translation>
+    </message>
+    <message>
+        <source>Longitude, latitude</source>
+        <translation>Längengrad, Breitengrad</translation>
+    </message>
+    <message>
+        <source>Straight, fitted to the geophones</source>
+        <translation>Gerade, an die Geophone angepasst</translation>
+    </message>
+    <message>
+        <source>Straight, from the first geophone to the last one</source>
+        <translation>Gerade, vom ersten zum letzten Geophon</translation>
+    </message>
+    <message>
+        <source>Bent, from geophone to geophone</source>
+        <translation>Geknickt, von Geophon zu Geophon</translation>
+    </message>
+    <message>
+        <source>Horizontal, as on the map</source>
+        <translation>Horizontal, wie auf der Karte</translation>
+    </message>
+    <message>
+        <source>Along the ground, on slopes</source>
+        <translation>Entlang des Geländes, an Hängen</translation>
+    </message>
+    <message>
+        <source>numbers of geophones and shots, from 1</source>
+        <translation>Nummern der Geophone und Schüsse, ab 1</translation>
+    </message>
+    <message>
+        <source>without a meaning: rows are in order</source>
+        <translation>ohne Bedeutung: Die Zeilen sind geordnet</translation>
+    </message>
+    <message>
+        <source>distances along the line as it is now</source>
+        <translation>Entfernungen entlang der bisherigen Messlinie</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>column of a table</comment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>column, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Longi&amp;tude</source>
+        <translation>&amp;Längengrad</translation>
+    </message>
+    <message>
+        <source>Latit&amp;ude</source>
+        <translation>&amp;Breitengrad</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of the table have no position and are not used.</source>
+        <translation>
+            <numerusform>%n Zeile der Tabelle hat keine Position und wird nicht verwendet.</numerusform>
+            <numerusform>%n Zeilen der Tabelle haben keine Position und werden nicht verwendet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
+        <translation>Mit Zeile: %1 von %2 Geophonen, %3 von %4 Schüssen. Die Geophone stehen %5 m (RMS) neben der Messlinie, höchstens %6 m (%7); ihr Abstand ist %8 m.</translation>
+    </message>
+    <message>
+        <source>No reference system</source>
+        <translation>Kein Referenzsystem</translation>
+    </message>
+    <message>
+        <source>EPSG:%1, %2</source>
+        <translation>EPSG:%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: the zone of the first place</source>
+        <translation>%1: die Zone der ersten Stelle</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the place of the line on the map stays as it is now, where it may not fit any more.</source>
+        <translation>Ohne EPSG-Code bleibt die Lage der Messlinie auf der Karte, wie sie ist; sie passt dann vielleicht nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the line gets no place on the map.</source>
+        <translation>Ohne EPSG-Code erhält die Messlinie keine Lage auf der Karte.</translation>
+    </message>
+    <message>
+        <source>On OK the line lies on the map from the first geophone to the last one, on the line that is shown.</source>
+        <translation>Mit OK liegt die Messlinie auf der Karte vom ersten bis zum letzten Geophon, auf der gezeigten Linie.</translation>
+    </message>
+    <message numerus="yes">
+        <source>On OK the line lies on the map along %n point(s), and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</source>
+        <translation>
+            <numerusform>Mit OK liegt die Messlinie auf der Karte entlang von %n Punkt, und KML folgt ihr. Berichte und der Dialog der geographischen Koordinaten nennen ihre beiden Enden.</numerusform>
+            <numerusform>Mit OK liegt die Messlinie auf der Karte entlang von %n Punkten, und KML folgt ihr. Berichte und der Dialog der geographischen Koordinaten nennen ihre beiden Enden.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -12342,6 +14290,310 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Web page (*.html)</source>
         <translation>Webseite (*.html)</translation>
     </message>
+    <message>
+        <source>Mends of the selected traces</source>
+        <translation>Korrekturen der ausgewählten Spuren</translation>
+    </message>
+    <message>
+        <source>Marked isolines ...</source>
+        <translation>Markierte Isolinien ...</translation>
+    </message>
+    <message>
+        <source>Name velocities, such as 1500 m/s for the water table, whose lines stand out from the section</source>
+        <translation>Geschwindigkeiten benennen, etwa 1500 m/s für den Grundwasserspiegel, deren Linien sich vom Schnitt abheben</translation>
+    </message>
+    <message>
+        <source>Annotations ...</source>
+        <translation>Anmerkungen ...</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground drawn on the section</source>
+        <translation>Texte, Linien und Flächen des Untergrunds, auf den Schnitt gezeichnet</translation>
+    </message>
+    <message>
+        <source>Depth profile ...</source>
+        <translation>Tiefenprofil ...</translation>
+    </message>
+    <message>
+        <source>Velocity, its gradient and how sure it is against depth, below the mouse</source>
+        <translation>Geschwindigkeit, ihr Gradient und ihre Zuverlässigkeit über der Tiefe, unter der Maus</translation>
+    </message>
+    <message>
+        <source>Fence of several lines ...</source>
+        <translation>Zaundiagramm mehrerer Messlinien ...</translation>
+    </message>
+    <message>
+        <source>Sections of this and other projects at their places on the map, in one view</source>
+        <translation>Schnitte dieses und anderer Projekte an ihrer Stelle auf der Karte, in einer Ansicht</translation>
+    </message>
+    <message>
+        <source>Save style ...</source>
+        <translation>Stil speichern ...</translation>
+    </message>
+    <message>
+        <source>Save palette, range, contours, exaggeration, switches and marked isolines for other surveys</source>
+        <translation>Palette, Bereich, Isolinien, Überhöhung, Schalter und markierte Isolinien für andere Messungen speichern</translation>
+    </message>
+    <message>
+        <source>Apply style ...</source>
+        <translation>Stil anwenden ...</translation>
+    </message>
+    <message>
+        <source>Let this section look as the one whose style was saved</source>
+        <translation>Diesen Schnitt so darstellen wie den, dessen Stil gespeichert wurde</translation>
+    </message>
+    <message>
+        <source>Show annotations</source>
+        <translation>Anmerkungen anzeigen</translation>
+    </message>
+    <message>
+        <source>Draw marked isolines, texts, lines and areas of ground over the section</source>
+        <translation>Markierte Isolinien, Texte, Linien und Flächen des Untergrunds über den Schnitt zeichnen</translation>
+    </message>
+    <message>
+        <source>Surveyed positions ...</source>
+        <translation>Vermessene Positionen ...</translation>
+    </message>
+    <message>
+        <source>Make distances along the line and its place on the map of a table of coordinates</source>
+        <translation>Aus einer Koordinatentabelle die Entfernungen entlang der Messlinie und ihre Lage auf der Karte bestimmen</translation>
+    </message>
+    <message>
+        <source>Find command...</source>
+        <translation>Befehl suchen...</translation>
+    </message>
+    <message>
+        <source>Find any command by its words and give it</source>
+        <translation>Einen Befehl anhand seiner Wörter suchen und ausführen</translation>
+    </message>
+    <message>
+        <source>Shot files with picks ...</source>
+        <translation>Schussdateien mit Picks ...</translation>
+    </message>
+    <message>
+        <source>Copy the shot files into another folder, with the picks in their trace headers</source>
+        <translation>Die Schussdateien in einen anderen Ordner kopieren, mit den Picks in den Spurheadern</translation>
+    </message>
+    <message>
+        <source>Drawing as DXF ...</source>
+        <translation>Zeichnung als DXF ...</translation>
+    </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
+        <translation>Oberfläche, Isolinien, Refraktoren, Geophone und Schüsse als CAD-Zeichnung exportieren</translation>
+    </message>
+    <message>
+        <source>Section as curtain on the map ...</source>
+        <translation>Schnitt als Vorhang auf der Karte ...</translation>
+    </message>
+    <message>
+        <source>Export the cells with their velocities where they lie on the map, as a VTK grid or a table</source>
+        <translation>Die Zellen mit ihren Geschwindigkeiten an ihrer Stelle auf der Karte exportieren, als VTK-Gitter oder Tabelle</translation>
+    </message>
+    <message>
+        <source>Line and isolines as GeoPackage ...</source>
+        <translation>Messlinie und Isolinien als GeoPackage ...</translation>
+    </message>
+    <message>
+        <source>Export line, geophones, shots, isolines, refractors and depths of isovalues as layers for maps</source>
+        <translation>Messlinie, Geophone, Schüsse, Isolinien, Refraktoren und Tiefen von Isowerten als Kartenebenen exportieren</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Spuren ausschalten</translation>
+    </message>
+    <message>
+        <source>The selected traces count for nothing and have no pick, or do again (key K); what was recorded is kept</source>
+        <translation>Die ausgewählten Spuren zählen nicht und haben keinen Pick, oder wieder doch (Taste K); die Aufzeichnung bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Polarität umkehren</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces change their sign (key P)</source>
+        <translation>Die Abtastwerte der ausgewählten Spuren wechseln das Vorzeichen (Taste P)</translation>
+    </message>
+    <message>
+        <source>Mute traces before...</source>
+        <translation>Spuren stummschalten vor...</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces before a time become zero (key U mutes before the mouse, Shift+U no more)</source>
+        <translation>Die Abtastwerte der ausgewählten Spuren vor einer Zeit werden null (Taste U schaltet vor der Maus stumm, Umschalt+U hebt es auf)</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Spuren verstärken</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become larger, 1.5 or 2 times in turn (key })</source>
+        <translation>Die Abtastwerte der ausgewählten Spuren werden größer, abwechselnd 1,5- oder 2-fach (Taste })</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Spuren abschwächen</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become smaller (key {)</source>
+        <translation>Die Abtastwerte der ausgewählten Spuren werden kleiner (Taste {)</translation>
+    </message>
+    <message>
+        <source>Notch...</source>
+        <translation>Kerbfilter...</translation>
+    </message>
+    <message>
+        <source>Take the hum of power lines, 50 or 60 Hz and multiples, out of the filtered copy</source>
+        <translation>Das Netzbrummen, 50 oder 60 Hz und Vielfache, aus der gefilterten Kopie entfernen</translation>
+    </message>
+    <message>
+        <source>Velocity filter...</source>
+        <translation>Geschwindigkeitsfilter...</translation>
+    </message>
+    <message>
+        <source>Keep or take out waves by their apparent velocity, in the filtered copy</source>
+        <translation>Wellen nach ihrer Scheingeschwindigkeit behalten oder entfernen, in der gefilterten Kopie</translation>
+    </message>
+    <message>
+        <source>Annotations wait for the inversion to end.</source>
+        <translation>Anmerkungen warten, bis die Inversion beendet ist.</translation>
+    </message>
+    <message>
+        <source>It cannot work now.</source>
+        <translation>Das geht jetzt nicht.</translation>
+    </message>
+    <message>
+        <source>Save depth profile</source>
+        <translation>Tiefenprofil speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>Bilder (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the layered profile was built.</source>
+        <translation>Die Picks wurden geändert, seit das Schichtprofil erstellt wurde.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map.</source>
+        <translation>Die Messlinie hat keine Lage auf der Karte.</translation>
+    </message>
+    <message>
+        <source>Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Geben Sie sie hier an: Projekt &gt; Geographische Koordinaten ...</translation>
+    </message>
+    <message>
+        <source>Export DXF Drawing</source>
+        <translation>DXF-Zeichnung exportieren</translation>
+    </message>
+    <message>
+        <source>DXF drawing (*.dxf);;All Files (*)</source>
+        <translation>DXF-Zeichnung (*.dxf);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export GeoPackage</source>
+        <translation>GeoPackage exportieren</translation>
+    </message>
+    <message>
+        <source>GeoPackage (*.gpkg);;All Files (*)</source>
+        <translation>GeoPackage (*.gpkg);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Export Curtain</source>
+        <translation>Vorhang exportieren</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;Table of cells (*.csv);;All Files (*)</source>
+        <translation>Unstrukturiertes VTK-Gitter (*.vtu);;Tabelle der Zellen (*.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>This survey</source>
+        <translation>Diese Messung</translation>
+    </message>
+    <message>
+        <source>Add projects to the fence</source>
+        <translation>Projekte zum Zaundiagramm hinzufügen</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Talvesk-Projekte (*.tvsk);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save picture of the fence</source>
+        <translation>Bild des Zaundiagramms speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Bilder (*.png)</translation>
+    </message>
+    <message>
+        <source>Applying notches ...</source>
+        <translation>Kerbfilter werden angewendet ...</translation>
+    </message>
+    <message>
+        <source>Applying the velocity filter ...</source>
+        <translation>Geschwindigkeitsfilter wird angewendet ...</translation>
+    </message>
+    <message>
+        <source>Folder for the shot files with picks</source>
+        <translation>Ordner für die Schussdateien mit Picks</translation>
+    </message>
+    <message>
+        <source>In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files it is whole microseconds in bytes 233 to 236 of the trace header. Both count from the shot.</source>
+        <translation>In SEG-2-Dateien ist ein Pick FIRST_BREAK in Sekunden; in SEG-Y- und SU-Dateien sind es ganze Mikrosekunden in den Bytes 233 bis 236 des Spurheaders. Beide zählen ab dem Schuss.</translation>
+    </message>
+    <message>
+        <source>Shot files with picks</source>
+        <translation>Schussdateien mit Picks</translation>
+    </message>
+    <message>
+        <source>Save style</source>
+        <translation>Stil speichern</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle)</source>
+        <translation>Talvesk-Stile (*.tvstyle)</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Stil anwenden</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle);;All files (*)</source>
+        <translation>Talvesk-Stile (*.tvstyle);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The section looks as before.</source>
+        <translation>Der Schnitt sieht aus wie zuvor.</translation>
+    </message>
+    <message>
+        <source>Style of %1</source>
+        <translation>Stil von %1</translation>
+    </message>
+    <message>
+        <source>Geophones and shots stand where they were surveyed.</source>
+        <translation>Geophone und Schüsse stehen, wo sie vermessen wurden.</translation>
+    </message>
+    <message>
+        <source>Open surveyed positions</source>
+        <translation>Vermessene Positionen öffnen</translation>
+    </message>
+    <message>
+        <source>Tables of coordinates (*.csv *.tsv *.txt *.dat *.xyz *.asc);;All files (*)</source>
+        <translation>Koordinatentabellen (*.csv *.tsv *.txt *.dat *.xyz *.asc);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The positions cannot be read.</source>
+        <translation>Die Positionen können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Spuren stummschalten</translation>
+    </message>
+    <message>
+        <source>The selected traces are zero before (ms); 0: from nowhere</source>
+        <translation>Die ausgewählten Spuren sind null vor (ms); 0: nirgends</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -12511,6 +14763,113 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Layers: %1 ms</source>
         <translation>Schichten: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::VelocityFilterDialog</name>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Geschwindigkeitsfilter</translation>
+    </message>
+    <message>
+        <source>Keeps or takes out waves by their apparent velocity along the line, in the filtered copy. Drag the sides of the wedge, or type velocities.</source>
+        <translation>Behält oder entfernt Wellen nach ihrer Scheingeschwindigkeit entlang der Messlinie, in der gefilterten Kopie. Ziehen Sie die Seiten des Keils oder geben Sie Geschwindigkeiten ein.</translation>
+    </message>
+    <message>
+        <source>&amp;Slowest (m/s):</source>
+        <translation>Langs&amp;amste (m/s):</translation>
+    </message>
+    <message>
+        <source>Least apparent velocity of the wedge; the full line in the picture</source>
+        <translation>Kleinste Scheingeschwindigkeit des Keils; im Bild die durchgezogene Linie</translation>
+    </message>
+    <message>
+        <source>&amp;Fastest (m/s):</source>
+        <translation>&amp;Schnellste (m/s):</translation>
+    </message>
+    <message>
+        <source>Greatest apparent velocity of the wedge, 0 for no limit; the dashed line in the picture</source>
+        <translation>Größte Scheingeschwindigkeit des Keils, 0 für keine Grenze; im Bild die gestrichelte Linie</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Wellen:</translation>
+    </message>
+    <message>
+        <source>Forth is towards greater distances along the line</source>
+        <translation>Vorwärts heißt zu größeren Entfernungen entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Both ways</source>
+        <translation>In beiden Richtungen</translation>
+    </message>
+    <message>
+        <source>Forth along the line</source>
+        <translation>Vorwärts entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Back along the line</source>
+        <translation>Rückwärts entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Wedge:</source>
+        <translation>Keil:</translation>
+    </message>
+    <message>
+        <source>&amp;Passes</source>
+        <translation>Wird &amp;durchgelassen</translation>
+    </message>
+    <message>
+        <source>Is re&amp;jected</source>
+        <translation>Wird &amp;gesperrt</translation>
+    </message>
+    <message>
+        <source>&amp;Taper (%):</source>
+        <translation>&amp;Taper (%):</translation>
+    </message>
+    <message>
+        <source>How far beside the wedge the filter sets in, in percent of its slowness there</source>
+        <translation>Wie weit neben dem Keil der Filter einsetzt, in Prozent der dortigen Langsamkeit</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Filter anwenden auf:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>O&amp;riginal</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Gefi&amp;ltert</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Zeigen:</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>&amp;Vorher</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Nachher</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Der Filter gilt für alle Schüsse.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Der Filter gilt für Schuss %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1 cannot be filtered: %2</source>
+        <translation>Schuss %1 kann nicht gefiltert werden: %2</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>Kein Filter angewendet.</translation>
     </message>
 </context>
 <context>
@@ -12875,6 +15234,18 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Open the place in a map service</source>
         <translation>Die Stelle in einem Kartendienst öffnen</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Tasten: links und rechts gehen von Pick zu Pick, auf und ab von Schuss zu Schuss, + und - zoomen, 0 zeigt alles.</translation>
+    </message>
+    <message>
+        <source>Point at a mark to read it. Keys: left and right go from mark to mark, + and - zoom, 0 shows all.</source>
+        <translation>Zum Ablesen auf eine Marke zeigen. Tasten: links und rechts gehen von Marke zu Marke, + und - zoomen, 0 zeigt alles.</translation>
     </message>
 </context>
 <context>
@@ -13310,10 +15681,6 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Keine Abtastwerte, nur Picks</translation>
     </message>
     <message>
-        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
-        <translation>Spuren %1 bis %2: C bestätigt, Entf entfernt, Esc bricht ab</translation>
-    </message>
-    <message>
         <source>Open shot files with Ctrl+O or drop them here</source>
         <translation>Schussdateien mit Strg+O öffnen oder hierher ziehen</translation>
     </message>
@@ -13332,6 +15699,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Error %1 ms</source>
         <translation>Fehler %1 ms</translation>
+    </message>
+    <message>
+        <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
+        <translation>Spuren %1: C bestätigt, Entf entfernt, K schaltet aus, P kehrt um, U schaltet stumm, Esc bricht ab</translation>
     </message>
 </context>
 <context>
@@ -13604,6 +15975,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Another fit, from: %1</source>
         <translation>Weitere Anpassung, beginnend mit: %1</translation>
+    </message>
+    <message>
+        <source>Iterations and misfits</source>
+        <translation>Iterationen und Abweichungen</translation>
     </message>
 </context>
 <context>
