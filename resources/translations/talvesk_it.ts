@@ -49,6 +49,277 @@
     </message>
 </context>
 <context>
+    <name>talvesk::AnnotationsDialog</name>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotazioni</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground that are drawn on the section. They can be drawn with the mouse as well: Draw, above the section.</source>
+        <translation>Testi, linee e aree di terreno disegnati sulla sezione. Si possono disegnare anche con il mouse: Disegna, sopra la sezione.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Retino</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Spessore</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Dimensione del testo</translation>
+    </message>
+    <message>
+        <source>Add a text in the middle of the section</source>
+        <translation>Aggiunge un testo al centro della sezione</translation>
+    </message>
+    <message>
+        <source>Add &amp;text</source>
+        <translation>Aggiungi &amp;testo</translation>
+    </message>
+    <message>
+        <source>Add a line in the middle of the section</source>
+        <translation>Aggiunge una linea al centro della sezione</translation>
+    </message>
+    <message>
+        <source>Add &amp;line</source>
+        <translation>Aggiungi &amp;linea</translation>
+    </message>
+    <message>
+        <source>Add an area in the middle of the section</source>
+        <translation>Aggiunge un&apos;area al centro della sezione</translation>
+    </message>
+    <message>
+        <source>Add &amp;polygon</source>
+        <translation>Aggiungi &amp;poligono</translation>
+    </message>
+    <message>
+        <source>Remove the annotation that is selected</source>
+        <translation>Rimuove l&apos;annotazione selezionata</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>Let those after it be drawn over it</source>
+        <translation>Lascia disegnare sopra di essa quelle che seguono</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Su</translation>
+    </message>
+    <message>
+        <source>Points of the annotation that is selected</source>
+        <translation>Punti dell&apos;annotazione selezionata</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distanza [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Quota [m]</translation>
+    </message>
+    <message>
+        <source>Add a point behind the one that is selected</source>
+        <translation>Aggiunge un punto dopo quello selezionato</translation>
+    </message>
+    <message>
+        <source>Add p&amp;oint</source>
+        <translation>Aggiungi pu&amp;nto</translation>
+    </message>
+    <message>
+        <source>Remove the point that is selected</source>
+        <translation>Rimuove il punto selezionato</translation>
+    </message>
+    <message>
+        <source>Remove po&amp;int</source>
+        <translation>Rimuovi p&amp;unto</translation>
+    </message>
+    <message>
+        <source>Annotations: %1.</source>
+        <translation>Annotazioni: %1.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed?</source>
+        <translation>Abbandonare le modifiche?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignPage</name>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>Scarto quadratico medio [ms]</translation>
+    </message>
+    <message>
+        <source>RMS misfit [%]</source>
+        <translation>Scarto quadratico medio [%]</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi quadrato</translation>
+    </message>
+    <message>
+        <source>Length covered [m]</source>
+        <translation>Lunghezza coperta [m]</translation>
+    </message>
+    <message>
+        <source>Depth reached [m]</source>
+        <translation>Profondità raggiunta [m]</translation>
+    </message>
+    <message>
+        <source>Cells with rays [%]</source>
+        <translation>Celle con raggi [%]</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tiri</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>Not inverted yet</source>
+        <translation>Non ancora invertita</translation>
+    </message>
+    <message>
+        <source>The misfit of the section is not known</source>
+        <translation>Lo scarto della sezione non è noto</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion</source>
+        <translation>I primi arrivi sono cambiati dopo l&apos;inversione</translation>
+    </message>
+    <message>
+        <source>Smoothed after the inversion</source>
+        <translation>Smussata dopo l&apos;inversione</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Tema scuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Tema chiaro</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Committente</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Sito</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autore</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Lines: %1; with a section: %2; failed: %3</source>
+        <translation>Linee: %1; con una sezione: %2; non riuscite: %3</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linee</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
+        <translation>Le sezioni piccole sono stirate per riempire il loro posto; i colori sono gli stessi per tutte le linee. Gli scarti sono quelli delle sezioni mostrate, lungo raggi tracciati di nuovo.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sezione</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Primi arrivi usati</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Invertita</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Failed:</source>
+        <translation>Non riuscite:</translation>
+    </message>
+    <message>
+        <source>Velocity section of %1</source>
+        <translation>Sezione di velocità di %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+    <message>
+        <source>Map of the lines</source>
+        <translation>Mappa delle linee</translation>
+    </message>
+    <message>
+        <source>Numbers are those of the table; each stands at the first geophone of its line.</source>
+        <translation>I numeri sono quelli della tabella; ciascuno sta al primo geofono della sua linea.</translation>
+    </message>
+    <message>
+        <source>Lines whose position is not known: %1</source>
+        <translation>Linee di posizione non nota: %1</translation>
+    </message>
+    <message>
+        <source>Campaign</source>
+        <translation>Campagna</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Vai al contenuto</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CertaintyDialog</name>
     <message>
         <source>Certainty</source>
@@ -272,6 +543,21 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ColorField</name>
+    <message>
+        <source>Choose another colour</source>
+        <translation>Scegli un altro colore</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Colore %1</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Colore</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -366,6 +652,145 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source> of %1</source>
         <translation> di %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandReasons</name>
+    <message>
+        <source>There are no shots yet.</source>
+        <translation>Non ci sono ancora tiri.</translation>
+    </message>
+    <message>
+        <source>There are no recordings yet.</source>
+        <translation>Non ci sono ancora registrazioni.</translation>
+    </message>
+    <message>
+        <source>No shot is in view.</source>
+        <translation>Nessun tiro è in vista.</translation>
+    </message>
+    <message>
+        <source>No shot with traces is in view.</source>
+        <translation>Nessun tiro con tracce è in vista.</translation>
+    </message>
+    <message>
+        <source>Nothing is mended.</source>
+        <translation>Nulla è stato corretto.</translation>
+    </message>
+    <message>
+        <source>The shot in view has no filtered copy.</source>
+        <translation>Il tiro in vista non ha una copia filtrata.</translation>
+    </message>
+    <message>
+        <source>No recording begins before its shot.</source>
+        <translation>Nessuna registrazione comincia prima del suo tiro.</translation>
+    </message>
+    <message>
+        <source>The selected traces have no picks.</source>
+        <translation>Le tracce selezionate non hanno primi arrivi.</translation>
+    </message>
+    <message>
+        <source>No pick of the selected traces waits for confirmation.</source>
+        <translation>Nessun primo arrivo delle tracce selezionate attende conferma.</translation>
+    </message>
+    <message>
+        <source>There are no shots yet, or no picks are shown.</source>
+        <translation>Non ci sono ancora tiri, o i primi arrivi non sono mostrati.</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>Non c&apos;è una vista precedente.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>Non c&apos;è una vista successiva.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Non c&apos;è nulla da annullare.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Non c&apos;è nulla da ripetere.</translation>
+    </message>
+    <message>
+        <source>There are no geophones and no shots yet.</source>
+        <translation>Non ci sono ancora geofoni né tiri.</translation>
+    </message>
+    <message>
+        <source>There is nothing to save.</source>
+        <translation>Non c&apos;è nulla da salvare.</translation>
+    </message>
+    <message>
+        <source>There is no grid yet.</source>
+        <translation>Non c&apos;è ancora una griglia.</translation>
+    </message>
+    <message>
+        <source>There is no inversion yet.</source>
+        <translation>Non c&apos;è ancora un&apos;inversione.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile yet.</source>
+        <translation>Non c&apos;è ancora un profilo a strati.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the ground under the grid.</source>
+        <translation>Nulla è noto del terreno sotto la griglia.</translation>
+    </message>
+    <message>
+        <source>There is no section yet.</source>
+        <translation>Non c&apos;è ancora una sezione.</translation>
+    </message>
+    <message>
+        <source>There is no line of geophones yet.</source>
+        <translation>Non c&apos;è ancora una linea di geofoni.</translation>
+    </message>
+    <message>
+        <source>There is no grid under a line of geophones yet.</source>
+        <translation>Non c&apos;è ancora una griglia sotto una linea di geofoni.</translation>
+    </message>
+    <message>
+        <source>There is nothing to make pictures of yet.</source>
+        <translation>Non c&apos;è ancora nulla di cui fare immagini.</translation>
+    </message>
+    <message>
+        <source>How certain the section is has not been computed.</source>
+        <translation>L&apos;affidabilità della sezione non è stata calcolata.</translation>
+    </message>
+    <message>
+        <source>It cannot work yet.</source>
+        <translation>Non è ancora possibile.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandSearchDialog</name>
+    <message>
+        <source>Find Command</source>
+        <translation>Trova comando</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>Parole del comando</translation>
+    </message>
+    <message>
+        <source>Type words of a command</source>
+        <translation>Scrivere parole di un comando</translation>
+    </message>
+    <message>
+        <source>Commands found</source>
+        <translation>Comandi trovati</translation>
+    </message>
+    <message>
+        <source>No command has these words.</source>
+        <translation>Nessun comando contiene queste parole.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>why a command cannot work, its menu</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not now: %1</source>
+        <translation>non ora: %1</translation>
     </message>
 </context>
 <context>
@@ -526,6 +951,41 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>of all picks as they are %1 ms</source>
         <translation>di tutti i primi arrivi così come sono %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DepthProfileDialog</name>
+    <message>
+        <source>Depth profile</source>
+        <translation>Profilo di profondità</translation>
+    </message>
+    <message>
+        <source>&amp;Distance:</source>
+        <translation>&amp;Distanza:</translation>
+    </message>
+    <message>
+        <source>Where along the line the profile stands</source>
+        <translation>Dove si trova il profilo lungo la linea</translation>
+    </message>
+    <message>
+        <source>Show the ground below the mouse as it moves over the section</source>
+        <translation>Mostra il terreno sotto il mouse mentre si muove sulla sezione</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the pointer</source>
+        <translation>S&amp;egui il puntatore</translation>
+    </message>
+    <message>
+        <source>Save the profile as PNG, SVG or PDF</source>
+        <translation>Salva il profilo in PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Velocity, gradient and certainty against depth</source>
+        <translation>Velocità, gradiente e affidabilità in funzione della profondità</translation>
     </message>
 </context>
 <context>
@@ -929,6 +1389,57 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::DrawingDialog</name>
+    <message>
+        <source>Lines to be exported</source>
+        <translation>Linee da esportare</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines of velocity:</source>
+        <translation>&amp;Isolinee di velocità:</translation>
+    </message>
+    <message>
+        <source>Velocities with blanks between them; each becomes lines through the section</source>
+        <translation>Velocità separate da spazi; ciascuna diventa linee attraverso la sezione</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>&amp;Distance along the line and elevation</source>
+        <translation>&amp;Distanza lungo la linea e quota</translation>
+    </message>
+    <message>
+        <source>A flat drawing: x is the distance along the line, y the elevation, in metres</source>
+        <translation>Un disegno piano: x è la distanza lungo la linea, y la quota, in metri</translation>
+    </message>
+    <message>
+        <source>&amp;Easting, northing and elevation on the map</source>
+        <translation>&amp;Est, nord e quota sulla mappa</translation>
+    </message>
+    <message>
+        <source>Lines in space by the geographic coordinates of the line, in metres</source>
+        <translation>Linee nello spazio secondo le coordinate geografiche della linea, in metri</translation>
+    </message>
+    <message>
+        <source>There is no section yet, and so there are no isolines.</source>
+        <translation>Non c&apos;è ancora una sezione, e quindi non ci sono isolinee.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map. Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>La linea non ha un posto sulla mappa. Impostarlo con Progetto &gt; Coordinate geografiche ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a velocity.</source>
+        <translation>&quot;%1&quot; non è una velocità.</translation>
+    </message>
+    <message>
+        <source>A section has %1 isovalues at most.</source>
+        <translation>Una sezione ha al massimo %1 isovalori.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ElasticDialog</name>
     <message>
         <source>P and S together</source>
@@ -1195,6 +1706,101 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>The Z offset is not a number.</source>
         <translation>Lo spostamento Z non è un numero.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceDialog</name>
+    <message>
+        <source>Fence of several lines</source>
+        <translation>Diagramma a pannelli</translation>
+    </message>
+    <message>
+        <source>&amp;Lines:</source>
+        <translation>&amp;Linee:</translation>
+    </message>
+    <message>
+        <source>Stand the sections of other projects beside this one; the projects stay as they are</source>
+        <translation>Affianca a questa le sezioni di altri progetti; i progetti restano come sono</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>&amp;Aggiungi progetti ...</translation>
+    </message>
+    <message>
+        <source>Take the line that is selected out of the fence</source>
+        <translation>Toglie dal diagramma la linea selezionata</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>&amp;Esagerazione verticale:</translation>
+    </message>
+    <message>
+        <source>Save the view as a PNG picture</source>
+        <translation>Salva la vista come immagine PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation>Mostra &amp;tutto</translation>
+    </message>
+    <message>
+        <source>Lines that stand in the fence: %1.</source>
+        <translation>Linee nel diagramma: %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation>Esclusi: %1.</translation>
+    </message>
+    <message>
+        <source>it has no position on the map</source>
+        <translation>non ha una posizione sulla mappa</translation>
+    </message>
+    <message>
+        <source>its position is in EPSG:%1, that of the others in EPSG:%2</source>
+        <translation>la sua posizione è in EPSG:%1, quella delle altre in EPSG:%2</translation>
+    </message>
+    <message>
+        <source>it has no geophones</source>
+        <translation>non ha geofoni</translation>
+    </message>
+    <message>
+        <source>its first and last geophone are at one place of the map</source>
+        <translation>il primo e l&apos;ultimo geofono sono nello stesso punto della mappa</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceView</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Sections at their places on the map</source>
+        <translation>Sezioni al loro posto sulla mappa</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureSheetWidget</name>
+    <message>
+        <source>Figure</source>
+        <translation>Figura</translation>
     </message>
 </context>
 <context>
@@ -1751,6 +2357,47 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Layer 1, %1 m/s in the mean</source>
         <translation>Strato 1, in media %1 m/s</translation>
     </message>
+    <message>
+        <source>Vertical gradient [1/s]</source>
+        <translation>Gradiente verticale [1/s]</translation>
+    </message>
+    <message>
+        <source>Uncertainty [%]</source>
+        <translation>Incertezza [%]</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distanza %1 m</translation>
+    </message>
+    <message>
+        <source>no section here</source>
+        <translation>qui nessuna sezione</translation>
+    </message>
+    <message>
+        <source>surface at %1 m</source>
+        <translation>superficie a %1 m</translation>
+    </message>
+    <message>
+        <source>shaded: 16 to 84 %</source>
+        <translation>in ombra: dal 16 all&apos;84 %</translation>
+    </message>
+    <message>
+        <source>%1 with a gain of their own</source>
+        <comment>traces</comment>
+        <translation>%1 con un proprio guadagno</translation>
+    </message>
+    <message>
+        <source>annotations outside the section: %1</source>
+        <translation>annotazioni fuori dalla sezione: %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (not reached)</source>
+        <translation>%1 (non raggiunta)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1893,6 +2540,29 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Hold to known ground</source>
         <translation>Vincola al terreno noto</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FkView</name>
+    <message>
+        <source>Spectrum over wavenumber and frequency</source>
+        <translation>Spettro in numero d&apos;onda e frequenza</translation>
+    </message>
+    <message>
+        <source>No spectrum</source>
+        <translation>Nessuno spettro</translation>
+    </message>
+    <message>
+        <source>Wavenumber along the line (1/m)</source>
+        <translation>Numero d&apos;onda lungo la linea (1/m)</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Frequenza (Hz)</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2716,34 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::GuidanceStrip</name>
+    <message>
+        <source>Guidance</source>
+        <translation>Percorso guidato</translation>
+    </message>
+    <message>
+        <source>Show the steps from recordings to a section, and how they stand</source>
+        <translation>Mostra i passi dalle registrazioni alla sezione, e a che punto sono</translation>
+    </message>
+    <message>
+        <source>A click: %1</source>
+        <translation>Un clic: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>step, how it stands</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1. A click: %2</source>
+        <translation>%1. Un clic: %2</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation>Prossimo: %1</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
@@ -2115,6 +2813,13 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Search</source>
         <translation>Cerca</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::HandleTrack</name>
+    <message>
+        <source>Handle %1</source>
+        <translation>Cursore %1</translation>
     </message>
 </context>
 <context>
@@ -2298,6 +3003,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Shot by geophone, and in the section along the rays</source>
         <translation>Tiro per geofono, e nella sezione lungo i raggi</translation>
+    </message>
+    <message>
+        <source>Files to be written</source>
+        <translation>File da scrivere</translation>
     </message>
 </context>
 <context>
@@ -2844,6 +3553,38 @@ da arrivi</translation>
         <source>Elevation (m)</source>
         <translation>Quota (m)</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geofono %1</translation>
+    </message>
+    <message>
+        <source>x %1 m, %2 m across</source>
+        <translation>x %1 m, %2 m di lato</translation>
+    </message>
+    <message>
+        <source>%1 m east, %2 m north</source>
+        <translation>%1 m a est, %2 m a nord</translation>
+    </message>
+    <message>
+        <source>Across the line (m)</source>
+        <translation>Di lato alla linea (m)</translation>
+    </message>
+    <message>
+        <source>East of the first geophone (m)</source>
+        <translation>A est del primo geofono (m)</translation>
+    </message>
+    <message>
+        <source>North of it (m)</source>
+        <translation>A nord di esso (m)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LossQuestion</name>
@@ -2878,6 +3619,53 @@ da arrivi</translation>
     <message>
         <source>The survey changes. This will be removed (Undo brings it back):</source>
         <translation>Il rilievo cambia. Verranno tolti (&quot;Annulla modifica&quot; li ripristina):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MarkedIsolinesDialog</name>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolinee evidenziate</translation>
+    </message>
+    <message>
+        <source>Velocities that mean something, such as 1500 m/s for the water table. Their lines stand out from the section and carry their names.</source>
+        <translation>Velocità che hanno un significato, come 1500 m/s per la falda. Le loro linee risaltano sulla sezione e portano il loro nome.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Spessore</translation>
+    </message>
+    <message>
+        <source>Mark another velocity</source>
+        <translation>Evidenzia un&apos;altra velocità</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Aggiungi</translation>
+    </message>
+    <message>
+        <source>Remove the line that is selected</source>
+        <translation>Rimuove la linea selezionata</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>water table</source>
+        <translation>falda</translation>
     </message>
 </context>
 <context>
@@ -2958,6 +3746,10 @@ da arrivi</translation>
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Guadagno</translation>
     </message>
 </context>
 <context>
