@@ -7690,6 +7690,618 @@ Impostare la posizione dei geofoni
         <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
         <translation>In questo profilo la velocità dello strato 1 cambia lungo la linea e con la profondità; qui è ovunque la sua media, %1 m/s.</translation>
     </message>
+    <message>
+        <source>the first distance must be a number, and the EPSG code a whole number</source>
+        <translation>la prima distanza deve essere un numero, e il codice EPSG un numero intero</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>Impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Filtro notch</translation>
+    </message>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtro di velocità</translation>
+    </message>
+    <message>
+        <source>the line has no place on the map; its geographic coordinates are missing</source>
+        <translation>la linea non ha un posto sulla mappa; mancano le sue coordinate geografiche</translation>
+    </message>
+    <message>
+        <source>two shot files of the survey would both become %1</source>
+        <translation>due file dei tiri del rilievo diventerebbero entrambi %1</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey; choose another folder</source>
+        <translation>%1 è uno dei file dei tiri di questo rilievo; scegliere un&apos;altra cartella</translation>
+    </message>
+    <message>
+        <source>it holds several shots, whose traces may be mixed</source>
+        <translation>contiene più tiri, le cui tracce potrebbero essere mescolate</translation>
+    </message>
+    <message>
+        <source>its traces are not those of the survey any more</source>
+        <translation>le sue tracce non sono più quelle del rilievo</translation>
+    </message>
+    <message>
+        <source>miniSEED has no headers for picks</source>
+        <translation>miniSEED non ha intestazioni per i primi arrivi</translation>
+    </message>
+    <message>
+        <source>the survey has no shot files</source>
+        <translation>il rilievo non ha file dei tiri</translation>
+    </message>
+    <message>
+        <source>%1 was left out: %2</source>
+        <translation>%1 è stato tralasciato: %2</translation>
+    </message>
+    <message>
+        <source>%1 has no picks</source>
+        <translation>%1 non ha primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 shots have no shot file of their own and were left out</source>
+        <translation>%1 tiri non hanno un proprio file e sono stati tralasciati</translation>
+    </message>
+    <message>
+        <source>bytes 233 to 236 of %1 trace headers held something else before</source>
+        <translation>i byte da 233 a 236 di %1 intestazioni di traccia contenevano prima qualcos&apos;altro</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 cannot be followed</source>
+        <translation>l&apos;intestazione della traccia %1 non si può seguire</translation>
+    </message>
+    <message>
+        <source>it has %1 traces, the survey %2 of them</source>
+        <translation>ha %1 tracce, il rilievo ne ha %2</translation>
+    </message>
+    <message>
+        <source>it would grow too large</source>
+        <translation>diventerebbe troppo grande</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 has no room for a pick</source>
+        <translation>l&apos;intestazione della traccia %1 non ha spazio per un primo arrivo</translation>
+    </message>
+    <message>
+        <source>it is SEG-Y of revision 2, whose trace headers have no bytes to spare</source>
+        <translation>è un SEG-Y di revisione 2, le cui intestazioni di traccia non hanno byte liberi</translation>
+    </message>
+    <message>
+        <source>it is not known by what the filtered copies of its traces were made</source>
+        <translation>non si sa con che cosa sono state fatte le copie filtrate delle sue tracce</translation>
+    </message>
+    <message>
+        <source>marked isolines and what was drawn on its section are lost</source>
+        <translation>le isolinee evidenziate e ciò che era disegnato sulla sua sezione sono andati perduti</translation>
+    </message>
+    <message>
+        <source>the line lies straight on the map between its ends</source>
+        <translation>la linea è diritta sulla mappa fra i suoi estremi</translation>
+    </message>
+    <message>
+        <source>its vertices are no course of a line</source>
+        <translation>i suoi vertici non sono il tracciato di una linea</translation>
+    </message>
+    <message>
+        <source>it belongs to another map position</source>
+        <translation>appartiene a un&apos;altra posizione sulla mappa</translation>
+    </message>
+    <message>
+        <source>it tells of traces that are not there, or of filters that are not known</source>
+        <translation>descrive tracce che non ci sono, o filtri che non sono noti</translation>
+    </message>
+    <message>
+        <source>%1 is no style file: %2</source>
+        <translation>%1 non è un file di stile: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of Talvesk has written it</source>
+        <translation>è stato scritto da una versione più recente di Talvesk</translation>
+    </message>
+    <message>
+        <source>the place lies outside of %1</source>
+        <translation>il punto sta fuori da %1</translation>
+    </message>
+    <message>
+        <source>it is not known which columns hold easting and northing, or longitude and latitude</source>
+        <translation>non si sa quali colonne contengano est e nord, o longitudine e latitudine</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 rows, which is no table of a line</source>
+        <translation>%1 ha più di %2 righe: non è la tabella di una linea</translation>
+    </message>
+    <message>
+        <source>its text is too long</source>
+        <translation>il suo testo è troppo lungo</translation>
+    </message>
+    <message>
+        <source>its colour is none</source>
+        <translation>il suo colore non è un colore</translation>
+    </message>
+    <message>
+        <source>a line is %1 to %2 points wide</source>
+        <translation>una linea è spessa da %1 a %2 punti</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Poligono</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>Sabbia</translation>
+    </message>
+    <message>
+        <source>Gravel</source>
+        <translation>Ghiaia</translation>
+    </message>
+    <message>
+        <source>Clay</source>
+        <translation>Argilla</translation>
+    </message>
+    <message>
+        <source>Silt</source>
+        <translation>Limo</translation>
+    </message>
+    <message>
+        <source>Rock</source>
+        <translation>Roccia</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Riporto</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Acqua</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>it is neither text nor line nor polygon</source>
+        <translation>non è né testo, né linea, né poligono</translation>
+    </message>
+    <message>
+        <source>its pattern is none</source>
+        <translation>il suo retino non è un retino</translation>
+    </message>
+    <message>
+        <source>it says nothing</source>
+        <translation>non dice nulla</translation>
+    </message>
+    <message>
+        <source>a text stands at one point, not at %1</source>
+        <translation>un testo sta in un solo punto, non in %1</translation>
+    </message>
+    <message>
+        <source>it has %1 points and needs %2 at least</source>
+        <translation>ha %1 punti e ne servono almeno %2</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 m is no place of a section</source>
+        <translation>%1 m, %2 m non è un punto di una sezione</translation>
+    </message>
+    <message>
+        <source>a text is %1 to %2 points high</source>
+        <translation>un testo è alto da %1 a %2 punti</translation>
+    </message>
+    <message>
+        <source>a section holds %1 marked isolines and %2 annotations with %3 points at most</source>
+        <translation>una sezione contiene al massimo %1 isolinee evidenziate e %2 annotazioni con %3 punti</translation>
+    </message>
+    <message>
+        <source>marked isoline %1</source>
+        <translation>isolinea evidenziata %1</translation>
+    </message>
+    <message>
+        <source>annotation %1</source>
+        <translation>annotazione %1</translation>
+    </message>
+    <message>
+        <source>band-pass from %1 Hz, order %2, to %3 Hz, order %4</source>
+        <translation>passa banda da %1 Hz, ordine %2, a %3 Hz, ordine %4</translation>
+    </message>
+    <message>
+        <source>low-pass %1 Hz, order %2</source>
+        <translation>passa basso %1 Hz, ordine %2</translation>
+    </message>
+    <message>
+        <source>high-pass %1 Hz, order %2</source>
+        <translation>passa alto %1 Hz, ordine %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s and more</source>
+        <translation>%1 m/s e oltre</translation>
+    </message>
+    <message>
+        <source>forth along the line</source>
+        <translation>in avanti lungo la linea</translation>
+    </message>
+    <message>
+        <source>back along the line</source>
+        <translation>all&apos;indietro lungo la linea</translation>
+    </message>
+    <message>
+        <source>both ways</source>
+        <translation>nei due versi</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, pass (taper %3 %)</source>
+        <translation>passano velocità di %1, %2 (taper %3 %)</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, are rejected (taper %3 %)</source>
+        <translation>sono eliminate velocità di %1, %2 (taper %3 %)</translation>
+    </message>
+    <message>
+        <source>notches at %1 Hz and multiples, %2 in all, quality %3</source>
+        <translation>notch a %1 Hz e multipli, %2 in tutto, qualità %3</translation>
+    </message>
+    <message>
+        <source>two geophones at least need easting and northing</source>
+        <translation>almeno due geofoni devono avere est e nord</translation>
+    </message>
+    <message>
+        <source>the first and the last geophone are at one place on the map, which gives the line no direction</source>
+        <translation>il primo e l&apos;ultimo geofono sono nello stesso punto della mappa, il che non dà alcuna direzione alla linea</translation>
+    </message>
+    <message>
+        <source>a trace cannot have a gain of %1, only one from %2 to %3</source>
+        <translation>una traccia non può avere un guadagno di %1, ma solo da %2 a %3</translation>
+    </message>
+    <message>
+        <source>traces with a gain of %1: %2</source>
+        <translation>tracce con un guadagno di %1: %2</translation>
+    </message>
+    <message>
+        <source>geophone %1</source>
+        <translation>geofono %1</translation>
+    </message>
+    <message>
+        <source>geophones %1</source>
+        <translation>geofoni %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>riga %1</translation>
+    </message>
+    <message>
+        <source>lines %1</source>
+        <translation>righe %1</translation>
+    </message>
+    <message>
+        <source>lines %1 and %2 more</source>
+        <translation>righe %1 e altre %2</translation>
+    </message>
+    <message>
+        <source>Not used, for no geophone or shot of the survey is there: %1</source>
+        <translation>Non usate, perché nel rilievo non c&apos;è alcun geofono o tiro corrispondente: %1</translation>
+    </message>
+    <message>
+        <source>Not used, for a row above is of the same geophone or shot: %1</source>
+        <translation>Non usate, perché una riga precedente è dello stesso geofono o tiro: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, placed among those that have one by the distances so far: %1</source>
+        <translation>Senza riga, posti fra quelli che ne hanno una secondo le distanze attuali: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, left where nothing tells how they stand to the others: %1</source>
+        <translation>Senza riga, lasciati dove nulla dice come stanno rispetto agli altri: %1</translation>
+    </message>
+    <message>
+        <source>Without an elevation, raised to the line between the others: %1</source>
+        <translation>Senza quota, portati sulla linea fra gli altri: %1</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1 m: %2</source>
+        <translation>Più lontani dalla linea di metà del passo di %1 m: %2</translation>
+    </message>
+    <message>
+        <source>Hardly apart from their neighbours: %1</source>
+        <translation>Appena distinti dai loro vicini: %1</translation>
+    </message>
+    <message>
+        <source>The line runs back to %1; an exchanged row or number?</source>
+        <translation>La linea torna indietro a %1; una riga o un numero scambiati?</translation>
+    </message>
+    <message>
+        <source>Not as far from the geophone before as expected: %1</source>
+        <translation>Non alla distanza attesa dal geofono precedente: %1</translation>
+    </message>
+    <message>
+        <source>fewer than two geophones of the survey have a row in the table</source>
+        <translation>meno di due geofoni del rilievo hanno una riga nella tabella</translation>
+    </message>
+    <message>
+        <source>lengths along the ground need the elevation of every geophone; the table lacks %1</source>
+        <translation>le lunghezze lungo il terreno richiedono la quota di ogni geofono; nella tabella mancano %1</translation>
+    </message>
+    <message>
+        <source>its sample interval is not known</source>
+        <translation>il suo intervallo di campionamento non è noto</translation>
+    </message>
+    <message>
+        <source>it has samples that are no numbers</source>
+        <translation>ha campioni che non sono numeri</translation>
+    </message>
+    <message>
+        <source>a notch needs a frequency, a multiple and a quality above 0</source>
+        <translation>un filtro notch richiede una frequenza, un multiplo e una qualità maggiori di 0</translation>
+    </message>
+    <message>
+        <source>it is sampled too slowly for %1 Hz</source>
+        <translation>il suo campionamento è troppo rado per %1 Hz</translation>
+    </message>
+    <message>
+        <source>it is shorter than one period of %1 Hz</source>
+        <translation>è più corta di un periodo di %1 Hz</translation>
+    </message>
+    <message>
+        <source>trace %1 has another length or sample interval than trace 1</source>
+        <translation>la traccia %1 ha lunghezza o intervallo di campionamento diversi dalla traccia 1</translation>
+    </message>
+    <message>
+        <source>trace %1 has samples that are no numbers</source>
+        <translation>la traccia %1 ha campioni che non sono numeri</translation>
+    </message>
+    <message>
+        <source>it has no samples, or no known sample interval</source>
+        <translation>non ha campioni, o il suo intervallo di campionamento non è noto</translation>
+    </message>
+    <message>
+        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
+        <translation>i suoi geofoni non sono a passo costante: la traccia %1 a %2 m è a %3 m dalla precedente, la distanza usuale è %4 m</translation>
+    </message>
+    <message>
+        <source>it has fewer than %1 traces</source>
+        <translation>ha meno di %1 tracce</translation>
+    </message>
+    <message>
+        <source>the positions of its geophones are not known</source>
+        <translation>le posizioni dei suoi geofoni non sono note</translation>
+    </message>
+    <message>
+        <source>of %1 places along its line %2 have no trace</source>
+        <translation>di %1 posti lungo la sua linea %2 non hanno traccia</translation>
+    </message>
+    <message>
+        <source>shot %1: of %2 places along its line %3 have no trace, or a killed one; they count as zero, beside them the filter is less sharp</source>
+        <translation>tiro %1: di %2 posti lungo la sua linea %3 non hanno traccia, o ne hanno una esclusa; valgono zero, e accanto a essi il filtro è meno netto</translation>
+    </message>
+    <message>
+        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
+        <translation>la velocità minima, %1 m/s, deve essere maggiore di 0 e minore della massima, %2 m/s</translation>
+    </message>
+    <message>
+        <source>the taper must be 0 or more and less than 100 percent of a limit</source>
+        <translation>il taper deve essere 0 o più e inferiore al 100 per cento di un limite</translation>
+    </message>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Posizioni rilevate</translation>
+    </message>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolinee evidenziate</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotazioni</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Applica stile</translation>
+    </message>
+    <message>
+        <source>shot %1 has no trace %2</source>
+        <translation>il tiro %1 non ha la traccia %2</translation>
+    </message>
+    <message>
+        <source>no recordings yet</source>
+        <translation>ancora nessuna registrazione</translation>
+    </message>
+    <message>
+        <source>times of %1 shots, without recordings</source>
+        <translation>tempi di %1 tiri, senza registrazioni</translation>
+    </message>
+    <message>
+        <source>recordings that begin before their shot: %1</source>
+        <translation>registrazioni che cominciano prima del loro tiro: %1</translation>
+    </message>
+    <message>
+        <source>recordings that were read with warnings: %1</source>
+        <translation>registrazioni lette con avvisi: %1</translation>
+    </message>
+    <message>
+        <source>shots: %1</source>
+        <translation>tiri: %1</translation>
+    </message>
+    <message>
+        <source>no geophones yet</source>
+        <translation>ancora nessun geofono</translation>
+    </message>
+    <message>
+        <source>positions are missing or cannot be</source>
+        <translation>mancano posizioni, o non sono possibili</translation>
+    </message>
+    <message>
+        <source>things that look wrong in the positions: %1</source>
+        <translation>cose che sembrano errate nelle posizioni: %1</translation>
+    </message>
+    <message>
+        <source>geophones: %1, shots: %2</source>
+        <translation>geofoni: %1, tiri: %2</translation>
+    </message>
+    <message>
+        <source>no picks yet</source>
+        <translation>ancora nessun primo arrivo</translation>
+    </message>
+    <message>
+        <source>shots without picks: %1</source>
+        <translation>tiri senza primi arrivi: %1</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 traces have a pick</source>
+        <translation>solo %1 tracce su %2 hanno un primo arrivo</translation>
+    </message>
+    <message>
+        <source>%1 picks on %2 traces</source>
+        <translation>%1 primi arrivi su %2 tracce</translation>
+    </message>
+    <message>
+        <source>no picks to check yet</source>
+        <translation>ancora nessun primo arrivo da controllare</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks that wait for confirmation are doubtful</source>
+        <translation>%1 primi arrivi su %2 che attendono conferma sono dubbi</translation>
+    </message>
+    <message>
+        <source>of %1 picks nothing is known that could speak against them</source>
+        <translation>di %1 primi arrivi non si sa nulla che possa contraddirli</translation>
+    </message>
+    <message>
+        <source>none of the %1 picks that wait for confirmation is doubtful</source>
+        <translation>nessuno dei %1 primi arrivi che attendono conferma è dubbio</translation>
+    </message>
+    <message>
+        <source>no pick waits for confirmation</source>
+        <translation>nessun primo arrivo attende conferma</translation>
+    </message>
+    <message>
+        <source>no grid yet</source>
+        <translation>ancora nessuna griglia</translation>
+    </message>
+    <message>
+        <source>the grid has no cells</source>
+        <translation>la griglia non ha celle</translation>
+    </message>
+    <message>
+        <source>shots and geophones beyond the grid: %1</source>
+        <translation>tiri e geofoni fuori dalla griglia: %1</translation>
+    </message>
+    <message>
+        <source>%1 x %2 cells</source>
+        <translation>%1 x %2 celle</translation>
+    </message>
+    <message>
+        <source>%1, the usual starting model</source>
+        <translation>%1, il modello iniziale usuale</translation>
+    </message>
+    <message>
+        <source>%1, a starting model with layers: %2</source>
+        <translation>%1, un modello iniziale a strati: %2</translation>
+    </message>
+    <message>
+        <source>no inversion yet</source>
+        <translation>ancora nessuna inversione</translation>
+    </message>
+    <message>
+        <source>the section is older than the picks</source>
+        <translation>la sezione è anteriore ai primi arrivi</translation>
+    </message>
+    <message>
+        <source>the known ground is other than that of the section</source>
+        <translation>il terreno noto è diverso da quello della sezione</translation>
+    </message>
+    <message>
+        <source>it was stopped before its end</source>
+        <translation>è stata interrotta prima della fine</translation>
+    </message>
+    <message>
+        <source>chi-square is %1 and not near 1</source>
+        <translation>il chi quadrato è %1 e non vicino a 1</translation>
+    </message>
+    <message>
+        <source>the section is inverted</source>
+        <translation>la sezione è invertita</translation>
+    </message>
+    <message>
+        <source>RMSE %1 ms of %2 picks</source>
+        <translation>RMSE %1 ms di %2 primi arrivi</translation>
+    </message>
+    <message>
+        <source>no section yet</source>
+        <translation>ancora nessuna sezione</translation>
+    </message>
+    <message>
+        <source>the layered profile is older than the picks</source>
+        <translation>il profilo a strati è anteriore ai primi arrivi</translation>
+    </message>
+    <message>
+        <source>the certainty is older than the picks</source>
+        <translation>l&apos;affidabilità è anteriore ai primi arrivi</translation>
+    </message>
+    <message>
+        <source>the section was smoothed after its inversion</source>
+        <translation>la sezione è stata smussata dopo la sua inversione</translation>
+    </message>
+    <message>
+        <source>the section lies beyond its certainty</source>
+        <translation>la sezione sta oltre la sua affidabilità</translation>
+    </message>
+    <message>
+        <source>how certain the section is is not known</source>
+        <translation>l&apos;affidabilità della sezione non è nota</translation>
+    </message>
+    <message>
+        <source>the section and its certainty are there</source>
+        <translation>la sezione e la sua affidabilità ci sono</translation>
+    </message>
+    <message>
+        <source>it has no section</source>
+        <translation>non ha una sezione</translation>
+    </message>
+    <message>
+        <source>no cell of its section is drawn</source>
+        <translation>nessuna cella della sua sezione è disegnata</translation>
+    </message>
+    <message>
+        <source>its line is nowhere on the map</source>
+        <translation>la sua linea non è in alcun punto della mappa</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Escludi tracce</translation>
+    </message>
+    <message>
+        <source>Revive traces</source>
+        <translation>Riammetti tracce</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Inverti polarità</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Azzera l&apos;inizio delle tracce</translation>
+    </message>
+    <message>
+        <source>Mute traces no more</source>
+        <translation>Togli l&apos;azzeramento delle tracce</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplifica tracce</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Attenua tracce</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
