@@ -8395,6 +8395,61 @@ Impostare la posizione dei geofoni
     </message>
 </context>
 <context>
+    <name>talvesk::NotchDialog</name>
+    <message>
+        <source>Notch</source>
+        <translation>Filtro notch</translation>
+    </message>
+    <message>
+        <source>Takes the hum of power lines out of the filtered copy. Arrivals stay where they are.</source>
+        <translation>Toglie dalla copia filtrata il ronzio delle linee elettriche. Gli arrivi restano dove sono.</translation>
+    </message>
+    <message>
+        <source>&amp;Power line (Hz):</source>
+        <translation>Frequenza di &amp;rete (Hz):</translation>
+    </message>
+    <message>
+        <source>50 Hz in most of the world, 60 Hz in North America; some railways have 16.7 Hz</source>
+        <translation>50 Hz in gran parte del mondo, 60 Hz in Nord America; alcune ferrovie usano 16,7 Hz</translation>
+    </message>
+    <message>
+        <source>&amp;Multiples:</source>
+        <translation>&amp;Multipli:</translation>
+    </message>
+    <message>
+        <source>So many multiples are taken out, the frequency itself among them, as far as the record has them</source>
+        <translation>Quanti multipli vengono tolti, compresa la frequenza stessa, fin dove la registrazione ne contiene</translation>
+    </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Qualità:</translation>
+    </message>
+    <message>
+        <source>The frequency over the width of every notch at 3 dB: larger ones take less of the signal, and less of hum that wanders</source>
+        <translation>La frequenza diviso la larghezza di ogni notch a 3 dB: valori maggiori tolgono meno segnale, e meno di un ronzio che oscilla in frequenza</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Applica il filtro a:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>Ori&amp;ginali</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Fi&amp;ltrati</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Il filtro va a tutti i tiri.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Il filtro va al tiro %1.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::PaletteDialog</name>
     <message>
         <source>Palette Settings</source>
@@ -8676,6 +8731,10 @@ Impostare la posizione dei geofoni
     <message>
         <source>&amp;Keep the program&apos;s rules</source>
         <translation>&amp;Mantieni le regole del programma</translation>
+    </message>
+    <message>
+        <source>Files and what each reading finds in them</source>
+        <translation>I file e ciò che ogni lettura vi trova</translation>
     </message>
 </context>
 <context>
@@ -8979,6 +9038,10 @@ Impostare la posizione dei geofoni
     <message>
         <source>in memory, for %1</source>
         <translation>in memoria, perché %1</translation>
+    </message>
+    <message>
+        <source>Filtered copy by:</source>
+        <translation>Copia filtrata con:</translation>
     </message>
 </context>
 <context>
@@ -10497,6 +10560,22 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
         <translation>I primi arrivi sono stati assegnati agli strati, e le velocità e profondità dei rifrattori adattate a tutti insieme: in modo che i tempi diretti e rifratti calcolati attraverso gli strati, che possono cambiare lungo la linea, siano quelli letti.</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtri</translation>
+    </message>
+    <message>
+        <source>These shots have filtered copies beside their recordings, made as listed, one filter after the other.</source>
+        <translation>Questi tiri hanno copie filtrate accanto alle registrazioni, fatte come elencato, un filtro dopo l&apos;altro.</translation>
+    </message>
+    <message>
+        <source>Filters of the recordings</source>
+        <translation>Filtri delle registrazioni</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -10629,10 +10708,6 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>Errors of the picks</source>
         <translation>Errori dei primi arrivi</translation>
-    </message>
-    <message>
-        <source>&amp;Colour shot:</source>
-        <translation>&amp;Colora il tiro:</translation>
     </message>
     <message>
         <source>Whose dots have a colour of their own in the picture over the offset</source>
@@ -10781,6 +10856,10 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>The picture cannot be made.</source>
         <translation>Non è possibile creare l&apos;immagine.</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur shot:</source>
+        <translation>Colo&amp;ra il tiro:</translation>
     </message>
 </context>
 <context>
@@ -11307,6 +11386,70 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <source>Velocity section</source>
         <translation>Sezione di velocità</translation>
     </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distanza %1 m</translation>
+    </message>
+    <message>
+        <source>Horizontal %1 m</source>
+        <translation>Orizzontale %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical %1 m</source>
+        <translation>Verticale %1 m</translation>
+    </message>
+    <message>
+        <source>Slope %1°</source>
+        <translation>Pendenza %1°</translation>
+    </message>
+    <message>
+        <source>Click the next point; Esc ends</source>
+        <translation>Fai clic sul punto successivo; Esc termina</translation>
+    </message>
+    <message>
+        <source>Double click or Enter ends it, Backspace takes a point back</source>
+        <translation>Doppio clic o Invio termina, Backspace toglie un punto</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Misura</translation>
+    </message>
+    <message>
+        <source>Drag between two points: distance, horizontal, vertical and slope; Esc ends</source>
+        <translation>Trascina fra due punti: distanza, orizzontale, verticale e pendenza; Esc termina</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Disegna</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
+        <translation>Mette testi, linee e aree di terreno sulla sezione con clic; Esc termina</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Click where a text is to stand on the section</source>
+        <translation>Fai clic sulla sezione dove deve stare il testo</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Click the points of a line on the section</source>
+        <translation>Fai clic sui punti di una linea sulla sezione</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Poligono</translation>
+    </message>
+    <message>
+        <source>Click the corners of an area of the section</source>
+        <translation>Fai clic sui vertici di un&apos;area della sezione</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SelectCSVDelimiterDialog</name>
@@ -11563,6 +11706,407 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>I risultati dell&apos;ultima inversione verranno tolti (&quot;Annulla modifica&quot; li ripristina).</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StepTexts</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Registrazioni</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Geometria</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Primi arrivi</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Controllo</translation>
+    </message>
+    <message>
+        <source>Grid and start</source>
+        <translation>Griglia e modello</translation>
+    </message>
+    <message>
+        <source>Inversion</source>
+        <translation>Inversione</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>fatto</translation>
+    </message>
+    <message>
+        <source>doubtful</source>
+        <translation>dubbio</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>manca</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>superato</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>step, reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPointsTable</name>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tiro %1</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geofono %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>row of a table</comment>
+        <translation>nessuna</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <comment>of a table</comment>
+        <translation>Riga</translation>
+    </message>
+    <message>
+        <source>Across
+(m)</source>
+        <translation>Di lato
+(m)</translation>
+    </message>
+    <message>
+        <source>x before
+(m)</source>
+        <translation>x prima
+(m)</translation>
+    </message>
+    <message>
+        <source>x
+(m)</source>
+        <translation>x
+(m)</translation>
+    </message>
+    <message>
+        <source>change
+(m)</source>
+        <translation>variazione
+(m)</translation>
+    </message>
+    <message>
+        <source>z before
+(m)</source>
+        <translation>z prima
+(m)</translation>
+    </message>
+    <message>
+        <source>z
+(m)</source>
+        <translation>z
+(m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPositionsDialog</name>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Posizioni rilevate</translation>
+    </message>
+    <message>
+        <source>&amp;Other table ...</source>
+        <translation>Altra ta&amp;bella ...</translation>
+    </message>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Prime righe della tabella</translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation>Colonne della tabella</translation>
+    </message>
+    <message>
+        <source>S&amp;eparator</source>
+        <translation>&amp;Separatore</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separatore</translation>
+    </message>
+    <message>
+        <source>C&amp;oordinates</source>
+        <translation>&amp;Coordinate</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordinate</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Nome</translation>
+    </message>
+    <message>
+        <source>Column of names</source>
+        <translation>Colonna dei nomi</translation>
+    </message>
+    <message>
+        <source>Eas&amp;ting</source>
+        <translation>&amp;Est</translation>
+    </message>
+    <message>
+        <source>Column of eastings or longitudes</source>
+        <translation>Colonna delle coordinate est o delle longitudini</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>&amp;Tipo</translation>
+    </message>
+    <message>
+        <source>Column of kinds</source>
+        <translation>Colonna dei tipi</translation>
+    </message>
+    <message>
+        <source>No&amp;rthing</source>
+        <translation>No&amp;rd</translation>
+    </message>
+    <message>
+        <source>Column of northings or latitudes</source>
+        <translation>Colonna delle coordinate nord o delle latitudini</translation>
+    </message>
+    <message>
+        <source>Ele&amp;vation</source>
+        <translation>&amp;Quota</translation>
+    </message>
+    <message>
+        <source>Column of elevations</source>
+        <translation>Colonna delle quote</translation>
+    </message>
+    <message>
+        <source>EPS&amp;G code</source>
+        <translation>Codice EPS&amp;G</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>Codice EPSG</translation>
+    </message>
+    <message>
+        <source>The code of the reference system of easting and northing, for example 32632 for UTM zone 32 N. Without it the line gets no place on the map. Longitude and latitude are projected into it, without a code into their UTM zone.</source>
+        <translation>Il codice del sistema di riferimento di est e nord, per esempio 32632 per UTM fuso 32 N. Senza di esso la linea non ottiene un posto sulla mappa. Longitudine e latitudine vengono proiettate in esso; senza un codice, nel loro fuso UTM.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Linea</translation>
+    </message>
+    <message>
+        <source>Shape of the line</source>
+        <translation>Forma della linea</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>L&amp;unghezza</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Lunghezza lungo la linea</translation>
+    </message>
+    <message>
+        <source>Names &amp;are</source>
+        <translation>I n&amp;omi sono</translation>
+    </message>
+    <message>
+        <source>What names are</source>
+        <translation>Che cosa sono i nomi</translation>
+    </message>
+    <message>
+        <source>First &amp;distance</source>
+        <translation>Prima &amp;distanza</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone</source>
+        <translation>Distanza del primo geofono</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
+        <translation>Distanza del primo geofono rilevato, in metri. Vuoto: come ora.</translation>
+    </message>
+    <message>
+        <source>Count from the other &amp;end</source>
+        <translation>Cont&amp;a dall&apos;altro estremo</translation>
+    </message>
+    <message>
+        <source>&amp;Positions</source>
+        <translation>&amp;Posizioni</translation>
+    </message>
+    <message>
+        <source>Positions before and after</source>
+        <translation>Posizioni prima e dopo</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mappa</translation>
+    </message>
+    <message>
+        <source>Geophones and shots from above</source>
+        <translation>Geofoni e tiri visti dall&apos;alto</translation>
+    </message>
+    <message>
+        <source>O&amp;ffsets</source>
+        <translation>&amp;Fuori linea</translation>
+    </message>
+    <message>
+        <source>Offsets across the line</source>
+        <translation>Scostamenti dalla linea</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>Da controllare</translation>
+    </message>
+    <message>
+        <source>as in the table</source>
+        <translation>come nella tabella</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>tabulazione</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>punto e virgola</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>virgola</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>spazio</translation>
+    </message>
+    <message>
+        <source>Easting, northing</source>
+        <translation>Est, nord</translation>
+    </message>
+    <message>
+        <source>Longitude, latitude</source>
+        <translation>Longitudine, latitudine</translation>
+    </message>
+    <message>
+        <source>Straight, fitted to the geophones</source>
+        <translation>Diritta, adattata ai geofoni</translation>
+    </message>
+    <message>
+        <source>Straight, from the first geophone to the last one</source>
+        <translation>Diritta, dal primo geofono all&apos;ultimo</translation>
+    </message>
+    <message>
+        <source>Bent, from geophone to geophone</source>
+        <translation>Spezzata, da geofono a geofono</translation>
+    </message>
+    <message>
+        <source>Horizontal, as on the map</source>
+        <translation>Orizzontale, come sulla mappa</translation>
+    </message>
+    <message>
+        <source>Along the ground, on slopes</source>
+        <translation>Lungo il terreno, sui pendii</translation>
+    </message>
+    <message>
+        <source>numbers of geophones and shots, from 1</source>
+        <translation>numeri di geofoni e tiri, da 1</translation>
+    </message>
+    <message>
+        <source>without a meaning: rows are in order</source>
+        <translation>senza significato: le righe sono in ordine</translation>
+    </message>
+    <message>
+        <source>distances along the line as it is now</source>
+        <translation>distanze lungo la linea attuale</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>column of a table</comment>
+        <translation>nessuna</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>colonna %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>column, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Longi&amp;tude</source>
+        <translation>Longitudin&amp;e</translation>
+    </message>
+    <message>
+        <source>Latit&amp;ude</source>
+        <translation>Lat&amp;itudine</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of the table have no position and are not used.</source>
+        <translation>
+            <numerusform>%n riga della tabella non ha posizione e non viene usata.</numerusform>
+            <numerusform>%n righe della tabella non hanno posizione e non vengono usate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
+        <translation>Con una riga: %1 geofoni su %2, %3 tiri su %4. I geofoni stanno a %5 m di lato alla linea (RMS), al massimo a %6 m (%7); il loro passo è %8 m.</translation>
+    </message>
+    <message>
+        <source>No reference system</source>
+        <translation>Nessun sistema di riferimento</translation>
+    </message>
+    <message>
+        <source>EPSG:%1, %2</source>
+        <translation>EPSG:%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: the zone of the first place</source>
+        <translation>%1: il fuso del primo punto</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the place of the line on the map stays as it is now, where it may not fit any more.</source>
+        <translation>Senza un codice EPSG il posto della linea sulla mappa resta quello attuale, che potrebbe non essere più adatto.</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the line gets no place on the map.</source>
+        <translation>Senza un codice EPSG la linea non ottiene un posto sulla mappa.</translation>
+    </message>
+    <message>
+        <source>On OK the line lies on the map from the first geophone to the last one, on the line that is shown.</source>
+        <translation>Con OK la linea va sulla mappa dal primo geofono all&apos;ultimo, sulla linea mostrata.</translation>
+    </message>
+    <message numerus="yes">
+        <source>On OK the line lies on the map along %n point(s), and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</source>
+        <translation>
+            <numerusform>Con OK la linea va sulla mappa per %n punto, e il KML la segue. Le relazioni e la finestra delle coordinate geografiche ne danno i due estremi.</numerusform>
+            <numerusform>Con OK la linea va sulla mappa per %n punti, e il KML la segue. Le relazioni e la finestra delle coordinate geografiche ne danno i due estremi.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
