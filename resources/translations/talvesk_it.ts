@@ -14290,6 +14290,310 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Web page (*.html)</source>
         <translation>Pagina web (*.html)</translation>
     </message>
+    <message>
+        <source>Mends of the selected traces</source>
+        <translation>Correzioni delle tracce selezionate</translation>
+    </message>
+    <message>
+        <source>Marked isolines ...</source>
+        <translation>Isolinee evidenziate ...</translation>
+    </message>
+    <message>
+        <source>Name velocities, such as 1500 m/s for the water table, whose lines stand out from the section</source>
+        <translation>Dà un nome a velocità, come 1500 m/s per la falda, le cui linee risaltano sulla sezione</translation>
+    </message>
+    <message>
+        <source>Annotations ...</source>
+        <translation>Annotazioni ...</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground drawn on the section</source>
+        <translation>Testi, linee e aree di terreno disegnati sulla sezione</translation>
+    </message>
+    <message>
+        <source>Depth profile ...</source>
+        <translation>Profilo di profondità ...</translation>
+    </message>
+    <message>
+        <source>Velocity, its gradient and how sure it is against depth, below the mouse</source>
+        <translation>Velocità, il suo gradiente e quanto è sicura in funzione della profondità, sotto il mouse</translation>
+    </message>
+    <message>
+        <source>Fence of several lines ...</source>
+        <translation>Diagramma a pannelli ...</translation>
+    </message>
+    <message>
+        <source>Sections of this and other projects at their places on the map, in one view</source>
+        <translation>Le sezioni di questo e di altri progetti al loro posto sulla mappa, in un&apos;unica vista</translation>
+    </message>
+    <message>
+        <source>Save style ...</source>
+        <translation>Salva stile ...</translation>
+    </message>
+    <message>
+        <source>Save palette, range, contours, exaggeration, switches and marked isolines for other surveys</source>
+        <translation>Salva tavolozza, intervallo, isolinee, esagerazione, opzioni e isolinee evidenziate per altri rilievi</translation>
+    </message>
+    <message>
+        <source>Apply style ...</source>
+        <translation>Applica stile ...</translation>
+    </message>
+    <message>
+        <source>Let this section look as the one whose style was saved</source>
+        <translation>Dà a questa sezione l&apos;aspetto di quella di cui è stato salvato lo stile</translation>
+    </message>
+    <message>
+        <source>Show annotations</source>
+        <translation>Mostra annotazioni</translation>
+    </message>
+    <message>
+        <source>Draw marked isolines, texts, lines and areas of ground over the section</source>
+        <translation>Disegna isolinee evidenziate, testi, linee e aree di terreno sopra la sezione</translation>
+    </message>
+    <message>
+        <source>Surveyed positions ...</source>
+        <translation>Posizioni rilevate ...</translation>
+    </message>
+    <message>
+        <source>Make distances along the line and its place on the map of a table of coordinates</source>
+        <translation>Ricava da una tabella di coordinate le distanze lungo la linea e il suo posto sulla mappa</translation>
+    </message>
+    <message>
+        <source>Find command...</source>
+        <translation>Trova comando...</translation>
+    </message>
+    <message>
+        <source>Find any command by its words and give it</source>
+        <translation>Trova un comando qualsiasi dalle sue parole e lo esegue</translation>
+    </message>
+    <message>
+        <source>Shot files with picks ...</source>
+        <translation>File dei tiri con primi arrivi ...</translation>
+    </message>
+    <message>
+        <source>Copy the shot files into another folder, with the picks in their trace headers</source>
+        <translation>Copia i file dei tiri in un&apos;altra cartella, con i primi arrivi nelle intestazioni di traccia</translation>
+    </message>
+    <message>
+        <source>Drawing as DXF ...</source>
+        <translation>Disegno in DXF ...</translation>
+    </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
+        <translation>Esporta superficie, isolinee, rifrattori, geofoni e tiri come disegno per CAD</translation>
+    </message>
+    <message>
+        <source>Section as curtain on the map ...</source>
+        <translation>Sezione come cortina sulla mappa ...</translation>
+    </message>
+    <message>
+        <source>Export the cells with their velocities where they lie on the map, as a VTK grid or a table</source>
+        <translation>Esporta le celle con le loro velocità dove stanno sulla mappa, come griglia VTK o tabella</translation>
+    </message>
+    <message>
+        <source>Line and isolines as GeoPackage ...</source>
+        <translation>Linea e isolinee in GeoPackage ...</translation>
+    </message>
+    <message>
+        <source>Export line, geophones, shots, isolines, refractors and depths of isovalues as layers for maps</source>
+        <translation>Esporta linea, geofoni, tiri, isolinee, rifrattori e profondità degli isovalori come layer per mappe</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Escludi tracce</translation>
+    </message>
+    <message>
+        <source>The selected traces count for nothing and have no pick, or do again (key K); what was recorded is kept</source>
+        <translation>Le tracce selezionate non contano e non hanno primo arrivo, o tornano a contare (tasto K); ciò che è stato registrato resta</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Inverti polarità</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces change their sign (key P)</source>
+        <translation>I campioni delle tracce selezionate cambiano segno (tasto P)</translation>
+    </message>
+    <message>
+        <source>Mute traces before...</source>
+        <translation>Azzera tracce prima di...</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces before a time become zero (key U mutes before the mouse, Shift+U no more)</source>
+        <translation>I campioni delle tracce selezionate prima di un tempo diventano zero (il tasto U azzera prima del mouse, Maiusc+U non più)</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplifica tracce</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become larger, 1.5 or 2 times in turn (key })</source>
+        <translation>I campioni delle tracce selezionate diventano più grandi, alternando 1,5 e 2 volte (tasto })</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Attenua tracce</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become smaller (key {)</source>
+        <translation>I campioni delle tracce selezionate diventano più piccoli (tasto {)</translation>
+    </message>
+    <message>
+        <source>Notch...</source>
+        <translation>Filtro notch...</translation>
+    </message>
+    <message>
+        <source>Take the hum of power lines, 50 or 60 Hz and multiples, out of the filtered copy</source>
+        <translation>Toglie dalla copia filtrata il ronzio delle linee elettriche, 50 o 60 Hz e multipli</translation>
+    </message>
+    <message>
+        <source>Velocity filter...</source>
+        <translation>Filtro di velocità...</translation>
+    </message>
+    <message>
+        <source>Keep or take out waves by their apparent velocity, in the filtered copy</source>
+        <translation>Mantiene o toglie onde secondo la loro velocità apparente, nella copia filtrata</translation>
+    </message>
+    <message>
+        <source>Annotations wait for the inversion to end.</source>
+        <translation>Le annotazioni attendono la fine dell&apos;inversione.</translation>
+    </message>
+    <message>
+        <source>It cannot work now.</source>
+        <translation>Ora non è possibile.</translation>
+    </message>
+    <message>
+        <source>Save depth profile</source>
+        <translation>Salva profilo di profondità</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>Immagini (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the layered profile was built.</source>
+        <translation>I primi arrivi sono cambiati dopo la costruzione del profilo a strati.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map.</source>
+        <translation>La linea non ha un posto sulla mappa.</translation>
+    </message>
+    <message>
+        <source>Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Impostarlo con Progetto &gt; Coordinate geografiche ...</translation>
+    </message>
+    <message>
+        <source>Export DXF Drawing</source>
+        <translation>Esporta disegno DXF</translation>
+    </message>
+    <message>
+        <source>DXF drawing (*.dxf);;All Files (*)</source>
+        <translation>Disegno DXF (*.dxf);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Export GeoPackage</source>
+        <translation>Esporta GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage (*.gpkg);;All Files (*)</source>
+        <translation>GeoPackage (*.gpkg);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Export Curtain</source>
+        <translation>Esporta cortina</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;Table of cells (*.csv);;All Files (*)</source>
+        <translation>Griglia non strutturata VTK (*.vtu);;Tabella delle celle (*.csv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>This survey</source>
+        <translation>Questo rilievo</translation>
+    </message>
+    <message>
+        <source>Add projects to the fence</source>
+        <translation>Aggiungi progetti al diagramma</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Progetti di Talvesk (*.tvsk);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Save picture of the fence</source>
+        <translation>Salva immagine del diagramma</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Immagini (*.png)</translation>
+    </message>
+    <message>
+        <source>Applying notches ...</source>
+        <translation>Applicazione del filtro notch ...</translation>
+    </message>
+    <message>
+        <source>Applying the velocity filter ...</source>
+        <translation>Applicazione del filtro di velocità ...</translation>
+    </message>
+    <message>
+        <source>Folder for the shot files with picks</source>
+        <translation>Cartella per i file dei tiri con primi arrivi</translation>
+    </message>
+    <message>
+        <source>In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files it is whole microseconds in bytes 233 to 236 of the trace header. Both count from the shot.</source>
+        <translation>Nei file SEG-2 un primo arrivo è FIRST_BREAK in secondi; nei file SEG-Y e SU è in microsecondi interi nei byte da 233 a 236 dell&apos;intestazione di traccia. Entrambi contano dal tiro.</translation>
+    </message>
+    <message>
+        <source>Shot files with picks</source>
+        <translation>File dei tiri con primi arrivi</translation>
+    </message>
+    <message>
+        <source>Save style</source>
+        <translation>Salva stile</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle)</source>
+        <translation>Stili di Talvesk (*.tvstyle)</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Applica stile</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle);;All files (*)</source>
+        <translation>Stili di Talvesk (*.tvstyle);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>The section looks as before.</source>
+        <translation>La sezione ha l&apos;aspetto di prima.</translation>
+    </message>
+    <message>
+        <source>Style of %1</source>
+        <translation>Stile di %1</translation>
+    </message>
+    <message>
+        <source>Geophones and shots stand where they were surveyed.</source>
+        <translation>Geofoni e tiri stanno dove sono stati rilevati.</translation>
+    </message>
+    <message>
+        <source>Open surveyed positions</source>
+        <translation>Apri posizioni rilevate</translation>
+    </message>
+    <message>
+        <source>Tables of coordinates (*.csv *.tsv *.txt *.dat *.xyz *.asc);;All files (*)</source>
+        <translation>Tabelle di coordinate (*.csv *.tsv *.txt *.dat *.xyz *.asc);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>The positions cannot be read.</source>
+        <translation>Non è possibile leggere le posizioni.</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Azzera l&apos;inizio delle tracce</translation>
+    </message>
+    <message>
+        <source>The selected traces are zero before (ms); 0: from nowhere</source>
+        <translation>Le tracce selezionate sono zero prima di (ms); 0: mai</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -14459,6 +14763,113 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Layers: %1 ms</source>
         <translation>Strati: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::VelocityFilterDialog</name>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtro di velocità</translation>
+    </message>
+    <message>
+        <source>Keeps or takes out waves by their apparent velocity along the line, in the filtered copy. Drag the sides of the wedge, or type velocities.</source>
+        <translation>Mantiene o toglie onde secondo la loro velocità apparente lungo la linea, nella copia filtrata. Trascinare i lati del ventaglio, o scrivere le velocità.</translation>
+    </message>
+    <message>
+        <source>&amp;Slowest (m/s):</source>
+        <translation>&amp;Minima (m/s):</translation>
+    </message>
+    <message>
+        <source>Least apparent velocity of the wedge; the full line in the picture</source>
+        <translation>Velocità apparente minima del ventaglio; la linea continua nell&apos;immagine</translation>
+    </message>
+    <message>
+        <source>&amp;Fastest (m/s):</source>
+        <translation>Ma&amp;ssima (m/s):</translation>
+    </message>
+    <message>
+        <source>Greatest apparent velocity of the wedge, 0 for no limit; the dashed line in the picture</source>
+        <translation>Velocità apparente massima del ventaglio, 0 per nessun limite; la linea tratteggiata nell&apos;immagine</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Onde:</translation>
+    </message>
+    <message>
+        <source>Forth is towards greater distances along the line</source>
+        <translation>In avanti è verso distanze maggiori lungo la linea</translation>
+    </message>
+    <message>
+        <source>Both ways</source>
+        <translation>Nei due versi</translation>
+    </message>
+    <message>
+        <source>Forth along the line</source>
+        <translation>In avanti lungo la linea</translation>
+    </message>
+    <message>
+        <source>Back along the line</source>
+        <translation>All&apos;indietro lungo la linea</translation>
+    </message>
+    <message>
+        <source>Wedge:</source>
+        <translation>Ventaglio:</translation>
+    </message>
+    <message>
+        <source>&amp;Passes</source>
+        <translation>&amp;Passa</translation>
+    </message>
+    <message>
+        <source>Is re&amp;jected</source>
+        <translation>Viene &amp;eliminato</translation>
+    </message>
+    <message>
+        <source>&amp;Taper (%):</source>
+        <translation>&amp;Taper (%):</translation>
+    </message>
+    <message>
+        <source>How far beside the wedge the filter sets in, in percent of its slowness there</source>
+        <translation>A quale distanza dal ventaglio il filtro comincia ad agire, in percento della lentezza in quel punto</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Applica il filtro a:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>Ori&amp;ginali</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Fi&amp;ltrati</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Mostra:</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>P&amp;rima</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Dopo</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Il filtro va a tutti i tiri.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Il filtro va al tiro %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1 cannot be filtered: %2</source>
+        <translation>Il tiro %1 non può essere filtrato: %2</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>Nessun filtro applicato.</translation>
     </message>
 </context>
 <context>
@@ -14823,6 +15234,18 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Open the place in a map service</source>
         <translation>Apri la posizione in un servizio di mappe</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotazioni</translation>
+    </message>
+    <message>
+        <source>Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Tasti: sinistra e destra vanno da un primo arrivo all&apos;altro, su e giù da un tiro all&apos;altro, + e - ingrandiscono e riducono, 0 mostra tutto.</translation>
+    </message>
+    <message>
+        <source>Point at a mark to read it. Keys: left and right go from mark to mark, + and - zoom, 0 shows all.</source>
+        <translation>Puntare un segno per leggerlo. Tasti: sinistra e destra vanno da un segno all&apos;altro, + e - ingrandiscono e riducono, 0 mostra tutto.</translation>
     </message>
 </context>
 <context>
@@ -15258,10 +15681,6 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Nessun campione, solo primi arrivi</translation>
     </message>
     <message>
-        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
-        <translation>Tracce da %1 a %2: C conferma, Canc toglie, Esc lascia</translation>
-    </message>
-    <message>
         <source>Open shot files with Ctrl+O or drop them here</source>
         <translation>Apri i file dei tiri con Ctrl+O o trascinali qui</translation>
     </message>
@@ -15280,6 +15699,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Error %1 ms</source>
         <translation>Errore %1 ms</translation>
+    </message>
+    <message>
+        <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
+        <translation>Tracce %1: C conferma, Canc toglie, K esclude, P inverte, U azzera, Esc lascia</translation>
     </message>
 </context>
 <context>
@@ -15552,6 +15975,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Another fit, from: %1</source>
         <translation>Un altro adattamento, da: %1</translation>
+    </message>
+    <message>
+        <source>Iterations and misfits</source>
+        <translation>Iterazioni e scarti</translation>
     </message>
 </context>
 <context>
