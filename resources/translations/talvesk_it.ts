@@ -2379,7 +2379,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
     <message>
         <source>shaded: 16 to 84 %</source>
-        <translation>in ombra: dal 16 all&apos;84 %</translation>
+        <translation>ombreggiato: dal 16 all&apos;84 %</translation>
     </message>
     <message>
         <source>%1 with a gain of their own</source>
