@@ -260,6 +260,23 @@
     </message>
 </context>
 <context>
+    <name>talvesk::SurveyedPositionsDialog</name>
+    <message numerus="yes">
+        <source>%n row(s) of the table have no position and are not used.</source>
+        <translation>
+            <numerusform>%n row of the table has no position and is not used.</numerusform>
+            <numerusform>%n rows of the table have no position and are not used.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>On OK the line lies on the map along %n point(s), and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</source>
+        <translation>
+            <numerusform>On OK the line lies on the map along %n point, and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</numerusform>
+            <numerusform>On OK the line lies on the map along %n points, and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::TableTexts</name>
     <message numerus="yes">
         <source>and %n more</source>

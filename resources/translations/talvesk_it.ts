@@ -49,6 +49,277 @@
     </message>
 </context>
 <context>
+    <name>talvesk::AnnotationsDialog</name>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotazioni</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground that are drawn on the section. They can be drawn with the mouse as well: Draw, above the section.</source>
+        <translation>Testi, linee e aree di terreno disegnati sulla sezione. Si possono disegnare anche con il mouse: Disegna, sopra la sezione.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Retino</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Spessore</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Dimensione del testo</translation>
+    </message>
+    <message>
+        <source>Add a text in the middle of the section</source>
+        <translation>Aggiunge un testo al centro della sezione</translation>
+    </message>
+    <message>
+        <source>Add &amp;text</source>
+        <translation>Aggiungi &amp;testo</translation>
+    </message>
+    <message>
+        <source>Add a line in the middle of the section</source>
+        <translation>Aggiunge una linea al centro della sezione</translation>
+    </message>
+    <message>
+        <source>Add &amp;line</source>
+        <translation>Aggiungi &amp;linea</translation>
+    </message>
+    <message>
+        <source>Add an area in the middle of the section</source>
+        <translation>Aggiunge un&apos;area al centro della sezione</translation>
+    </message>
+    <message>
+        <source>Add &amp;polygon</source>
+        <translation>Aggiungi &amp;poligono</translation>
+    </message>
+    <message>
+        <source>Remove the annotation that is selected</source>
+        <translation>Rimuove l&apos;annotazione selezionata</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>Let those after it be drawn over it</source>
+        <translation>Lascia disegnare sopra di essa quelle che seguono</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Su</translation>
+    </message>
+    <message>
+        <source>Points of the annotation that is selected</source>
+        <translation>Punti dell&apos;annotazione selezionata</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distanza [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Quota [m]</translation>
+    </message>
+    <message>
+        <source>Add a point behind the one that is selected</source>
+        <translation>Aggiunge un punto dopo quello selezionato</translation>
+    </message>
+    <message>
+        <source>Add p&amp;oint</source>
+        <translation>Aggiungi pu&amp;nto</translation>
+    </message>
+    <message>
+        <source>Remove the point that is selected</source>
+        <translation>Rimuove il punto selezionato</translation>
+    </message>
+    <message>
+        <source>Remove po&amp;int</source>
+        <translation>Rimuovi p&amp;unto</translation>
+    </message>
+    <message>
+        <source>Annotations: %1.</source>
+        <translation>Annotazioni: %1.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed?</source>
+        <translation>Abbandonare le modifiche?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignPage</name>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>Scarto quadratico medio [ms]</translation>
+    </message>
+    <message>
+        <source>RMS misfit [%]</source>
+        <translation>Scarto quadratico medio [%]</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Chi quadrato</translation>
+    </message>
+    <message>
+        <source>Length covered [m]</source>
+        <translation>Lunghezza coperta [m]</translation>
+    </message>
+    <message>
+        <source>Depth reached [m]</source>
+        <translation>Profondità raggiunta [m]</translation>
+    </message>
+    <message>
+        <source>Cells with rays [%]</source>
+        <translation>Celle con raggi [%]</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tiri</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>Not inverted yet</source>
+        <translation>Non ancora invertita</translation>
+    </message>
+    <message>
+        <source>The misfit of the section is not known</source>
+        <translation>Lo scarto della sezione non è noto</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion</source>
+        <translation>I primi arrivi sono cambiati dopo l&apos;inversione</translation>
+    </message>
+    <message>
+        <source>Smoothed after the inversion</source>
+        <translation>Smussata dopo l&apos;inversione</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Tema scuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Tema chiaro</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Committente</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Sito</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autore</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Lines: %1; with a section: %2; failed: %3</source>
+        <translation>Linee: %1; con una sezione: %2; non riuscite: %3</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linee</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
+        <translation>Le sezioni piccole sono stirate per riempire il loro posto; i colori sono gli stessi per tutte le linee. Gli scarti sono quelli delle sezioni mostrate, lungo raggi tracciati di nuovo.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sezione</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Primi arrivi usati</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Invertita</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Failed:</source>
+        <translation>Non riuscite:</translation>
+    </message>
+    <message>
+        <source>Velocity section of %1</source>
+        <translation>Sezione di velocità di %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+    <message>
+        <source>Map of the lines</source>
+        <translation>Mappa delle linee</translation>
+    </message>
+    <message>
+        <source>Numbers are those of the table; each stands at the first geophone of its line.</source>
+        <translation>I numeri sono quelli della tabella; ciascuno sta al primo geofono della sua linea.</translation>
+    </message>
+    <message>
+        <source>Lines whose position is not known: %1</source>
+        <translation>Linee di posizione non nota: %1</translation>
+    </message>
+    <message>
+        <source>Campaign</source>
+        <translation>Campagna</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Vai al contenuto</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CertaintyDialog</name>
     <message>
         <source>Certainty</source>
@@ -272,6 +543,21 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ColorField</name>
+    <message>
+        <source>Choose another colour</source>
+        <translation>Scegli un altro colore</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Colore %1</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Colore</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -366,6 +652,145 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source> of %1</source>
         <translation> di %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandReasons</name>
+    <message>
+        <source>There are no shots yet.</source>
+        <translation>Non ci sono ancora tiri.</translation>
+    </message>
+    <message>
+        <source>There are no recordings yet.</source>
+        <translation>Non ci sono ancora registrazioni.</translation>
+    </message>
+    <message>
+        <source>No shot is in view.</source>
+        <translation>Nessun tiro è in vista.</translation>
+    </message>
+    <message>
+        <source>No shot with traces is in view.</source>
+        <translation>Nessun tiro con tracce è in vista.</translation>
+    </message>
+    <message>
+        <source>Nothing is mended.</source>
+        <translation>Nulla è stato corretto.</translation>
+    </message>
+    <message>
+        <source>The shot in view has no filtered copy.</source>
+        <translation>Il tiro in vista non ha una copia filtrata.</translation>
+    </message>
+    <message>
+        <source>No recording begins before its shot.</source>
+        <translation>Nessuna registrazione comincia prima del suo tiro.</translation>
+    </message>
+    <message>
+        <source>The selected traces have no picks.</source>
+        <translation>Le tracce selezionate non hanno primi arrivi.</translation>
+    </message>
+    <message>
+        <source>No pick of the selected traces waits for confirmation.</source>
+        <translation>Nessun primo arrivo delle tracce selezionate attende conferma.</translation>
+    </message>
+    <message>
+        <source>There are no shots yet, or no picks are shown.</source>
+        <translation>Non ci sono ancora tiri, o i primi arrivi non sono mostrati.</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>Non c&apos;è una vista precedente.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>Non c&apos;è una vista successiva.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Non c&apos;è nulla da annullare.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Non c&apos;è nulla da ripetere.</translation>
+    </message>
+    <message>
+        <source>There are no geophones and no shots yet.</source>
+        <translation>Non ci sono ancora geofoni né tiri.</translation>
+    </message>
+    <message>
+        <source>There is nothing to save.</source>
+        <translation>Non c&apos;è nulla da salvare.</translation>
+    </message>
+    <message>
+        <source>There is no grid yet.</source>
+        <translation>Non c&apos;è ancora una griglia.</translation>
+    </message>
+    <message>
+        <source>There is no inversion yet.</source>
+        <translation>Non c&apos;è ancora un&apos;inversione.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile yet.</source>
+        <translation>Non c&apos;è ancora un profilo a strati.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the ground under the grid.</source>
+        <translation>Nulla è noto del terreno sotto la griglia.</translation>
+    </message>
+    <message>
+        <source>There is no section yet.</source>
+        <translation>Non c&apos;è ancora una sezione.</translation>
+    </message>
+    <message>
+        <source>There is no line of geophones yet.</source>
+        <translation>Non c&apos;è ancora una linea di geofoni.</translation>
+    </message>
+    <message>
+        <source>There is no grid under a line of geophones yet.</source>
+        <translation>Non c&apos;è ancora una griglia sotto una linea di geofoni.</translation>
+    </message>
+    <message>
+        <source>There is nothing to make pictures of yet.</source>
+        <translation>Non c&apos;è ancora nulla di cui fare immagini.</translation>
+    </message>
+    <message>
+        <source>How certain the section is has not been computed.</source>
+        <translation>L&apos;affidabilità della sezione non è stata calcolata.</translation>
+    </message>
+    <message>
+        <source>It cannot work yet.</source>
+        <translation>Non è ancora possibile.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandSearchDialog</name>
+    <message>
+        <source>Find Command</source>
+        <translation>Trova comando</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>Parole del comando</translation>
+    </message>
+    <message>
+        <source>Type words of a command</source>
+        <translation>Scrivere parole di un comando</translation>
+    </message>
+    <message>
+        <source>Commands found</source>
+        <translation>Comandi trovati</translation>
+    </message>
+    <message>
+        <source>No command has these words.</source>
+        <translation>Nessun comando contiene queste parole.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>why a command cannot work, its menu</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not now: %1</source>
+        <translation>non ora: %1</translation>
     </message>
 </context>
 <context>
@@ -526,6 +951,41 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>of all picks as they are %1 ms</source>
         <translation>di tutti i primi arrivi così come sono %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DepthProfileDialog</name>
+    <message>
+        <source>Depth profile</source>
+        <translation>Profilo di profondità</translation>
+    </message>
+    <message>
+        <source>&amp;Distance:</source>
+        <translation>&amp;Distanza:</translation>
+    </message>
+    <message>
+        <source>Where along the line the profile stands</source>
+        <translation>Dove si trova il profilo lungo la linea</translation>
+    </message>
+    <message>
+        <source>Show the ground below the mouse as it moves over the section</source>
+        <translation>Mostra il terreno sotto il mouse mentre si muove sulla sezione</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the pointer</source>
+        <translation>S&amp;egui il puntatore</translation>
+    </message>
+    <message>
+        <source>Save the profile as PNG, SVG or PDF</source>
+        <translation>Salva il profilo in PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Velocity, gradient and certainty against depth</source>
+        <translation>Velocità, gradiente e affidabilità in funzione della profondità</translation>
     </message>
 </context>
 <context>
@@ -929,6 +1389,57 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::DrawingDialog</name>
+    <message>
+        <source>Lines to be exported</source>
+        <translation>Linee da esportare</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines of velocity:</source>
+        <translation>&amp;Isolinee di velocità:</translation>
+    </message>
+    <message>
+        <source>Velocities with blanks between them; each becomes lines through the section</source>
+        <translation>Velocità separate da spazi; ciascuna diventa linee attraverso la sezione</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>&amp;Distance along the line and elevation</source>
+        <translation>&amp;Distanza lungo la linea e quota</translation>
+    </message>
+    <message>
+        <source>A flat drawing: x is the distance along the line, y the elevation, in metres</source>
+        <translation>Un disegno piano: x è la distanza lungo la linea, y la quota, in metri</translation>
+    </message>
+    <message>
+        <source>&amp;Easting, northing and elevation on the map</source>
+        <translation>&amp;Est, nord e quota sulla mappa</translation>
+    </message>
+    <message>
+        <source>Lines in space by the geographic coordinates of the line, in metres</source>
+        <translation>Linee nello spazio secondo le coordinate geografiche della linea, in metri</translation>
+    </message>
+    <message>
+        <source>There is no section yet, and so there are no isolines.</source>
+        <translation>Non c&apos;è ancora una sezione, e quindi non ci sono isolinee.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map. Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>La linea non ha un posto sulla mappa. Impostarlo con Progetto &gt; Coordinate geografiche ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a velocity.</source>
+        <translation>&quot;%1&quot; non è una velocità.</translation>
+    </message>
+    <message>
+        <source>A section has %1 isovalues at most.</source>
+        <translation>Una sezione ha al massimo %1 isovalori.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ElasticDialog</name>
     <message>
         <source>P and S together</source>
@@ -1195,6 +1706,101 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>The Z offset is not a number.</source>
         <translation>Lo spostamento Z non è un numero.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceDialog</name>
+    <message>
+        <source>Fence of several lines</source>
+        <translation>Diagramma a pannelli</translation>
+    </message>
+    <message>
+        <source>&amp;Lines:</source>
+        <translation>&amp;Linee:</translation>
+    </message>
+    <message>
+        <source>Stand the sections of other projects beside this one; the projects stay as they are</source>
+        <translation>Affianca a questa le sezioni di altri progetti; i progetti restano come sono</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>&amp;Aggiungi progetti ...</translation>
+    </message>
+    <message>
+        <source>Take the line that is selected out of the fence</source>
+        <translation>Toglie dal diagramma la linea selezionata</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>&amp;Esagerazione verticale:</translation>
+    </message>
+    <message>
+        <source>Save the view as a PNG picture</source>
+        <translation>Salva la vista come immagine PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation>Mostra &amp;tutto</translation>
+    </message>
+    <message>
+        <source>Lines that stand in the fence: %1.</source>
+        <translation>Linee nel diagramma: %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation>Esclusi: %1.</translation>
+    </message>
+    <message>
+        <source>it has no position on the map</source>
+        <translation>non ha una posizione sulla mappa</translation>
+    </message>
+    <message>
+        <source>its position is in EPSG:%1, that of the others in EPSG:%2</source>
+        <translation>la sua posizione è in EPSG:%1, quella delle altre in EPSG:%2</translation>
+    </message>
+    <message>
+        <source>it has no geophones</source>
+        <translation>non ha geofoni</translation>
+    </message>
+    <message>
+        <source>its first and last geophone are at one place of the map</source>
+        <translation>il primo e l&apos;ultimo geofono sono nello stesso punto della mappa</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceView</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Sections at their places on the map</source>
+        <translation>Sezioni al loro posto sulla mappa</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureSheetWidget</name>
+    <message>
+        <source>Figure</source>
+        <translation>Figura</translation>
     </message>
 </context>
 <context>
@@ -1751,6 +2357,47 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Layer 1, %1 m/s in the mean</source>
         <translation>Strato 1, in media %1 m/s</translation>
     </message>
+    <message>
+        <source>Vertical gradient [1/s]</source>
+        <translation>Gradiente verticale [1/s]</translation>
+    </message>
+    <message>
+        <source>Uncertainty [%]</source>
+        <translation>Incertezza [%]</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distanza %1 m</translation>
+    </message>
+    <message>
+        <source>no section here</source>
+        <translation>qui nessuna sezione</translation>
+    </message>
+    <message>
+        <source>surface at %1 m</source>
+        <translation>superficie a %1 m</translation>
+    </message>
+    <message>
+        <source>shaded: 16 to 84 %</source>
+        <translation>ombreggiato: dal 16 all&apos;84 %</translation>
+    </message>
+    <message>
+        <source>%1 with a gain of their own</source>
+        <comment>traces</comment>
+        <translation>%1 con un proprio guadagno</translation>
+    </message>
+    <message>
+        <source>annotations outside the section: %1</source>
+        <translation>annotazioni fuori dalla sezione: %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (not reached)</source>
+        <translation>%1 (non raggiunta)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1893,6 +2540,29 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Hold to known ground</source>
         <translation>Vincola al terreno noto</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FkView</name>
+    <message>
+        <source>Spectrum over wavenumber and frequency</source>
+        <translation>Spettro in numero d&apos;onda e frequenza</translation>
+    </message>
+    <message>
+        <source>No spectrum</source>
+        <translation>Nessuno spettro</translation>
+    </message>
+    <message>
+        <source>Wavenumber along the line (1/m)</source>
+        <translation>Numero d&apos;onda lungo la linea (1/m)</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Frequenza (Hz)</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2716,34 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     </message>
 </context>
 <context>
+    <name>talvesk::GuidanceStrip</name>
+    <message>
+        <source>Guidance</source>
+        <translation>Percorso guidato</translation>
+    </message>
+    <message>
+        <source>Show the steps from recordings to a section, and how they stand</source>
+        <translation>Mostra i passi dalle registrazioni alla sezione, e a che punto sono</translation>
+    </message>
+    <message>
+        <source>A click: %1</source>
+        <translation>Un clic: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>step, how it stands</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1. A click: %2</source>
+        <translation>%1. Un clic: %2</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation>Prossimo: %1</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
@@ -2115,6 +2813,13 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Search</source>
         <translation>Cerca</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::HandleTrack</name>
+    <message>
+        <source>Handle %1</source>
+        <translation>Cursore %1</translation>
     </message>
 </context>
 <context>
@@ -2298,6 +3003,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Shot by geophone, and in the section along the rays</source>
         <translation>Tiro per geofono, e nella sezione lungo i raggi</translation>
+    </message>
+    <message>
+        <source>Files to be written</source>
+        <translation>File da scrivere</translation>
     </message>
 </context>
 <context>
@@ -2844,6 +3553,38 @@ da arrivi</translation>
         <source>Elevation (m)</source>
         <translation>Quota (m)</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Geofoni</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geofono %1</translation>
+    </message>
+    <message>
+        <source>x %1 m, %2 m across</source>
+        <translation>x %1 m, %2 m di lato</translation>
+    </message>
+    <message>
+        <source>%1 m east, %2 m north</source>
+        <translation>%1 m a est, %2 m a nord</translation>
+    </message>
+    <message>
+        <source>Across the line (m)</source>
+        <translation>Di lato alla linea (m)</translation>
+    </message>
+    <message>
+        <source>East of the first geophone (m)</source>
+        <translation>A est del primo geofono (m)</translation>
+    </message>
+    <message>
+        <source>North of it (m)</source>
+        <translation>A nord di esso (m)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LossQuestion</name>
@@ -2878,6 +3619,53 @@ da arrivi</translation>
     <message>
         <source>The survey changes. This will be removed (Undo brings it back):</source>
         <translation>Il rilievo cambia. Verranno tolti (&quot;Annulla modifica&quot; li ripristina):</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MarkedIsolinesDialog</name>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolinee evidenziate</translation>
+    </message>
+    <message>
+        <source>Velocities that mean something, such as 1500 m/s for the water table. Their lines stand out from the section and carry their names.</source>
+        <translation>Velocità che hanno un significato, come 1500 m/s per la falda. Le loro linee risaltano sulla sezione e portano il loro nome.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Velocità [m/s]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Colore</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Spessore</translation>
+    </message>
+    <message>
+        <source>Mark another velocity</source>
+        <translation>Evidenzia un&apos;altra velocità</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Aggiungi</translation>
+    </message>
+    <message>
+        <source>Remove the line that is selected</source>
+        <translation>Rimuove la linea selezionata</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>water table</source>
+        <translation>falda</translation>
     </message>
 </context>
 <context>
@@ -2958,6 +3746,10 @@ da arrivi</translation>
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Guadagno</translation>
     </message>
 </context>
 <context>
@@ -6898,6 +7690,618 @@ Impostare la posizione dei geofoni
         <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
         <translation>In questo profilo la velocità dello strato 1 cambia lungo la linea e con la profondità; qui è ovunque la sua media, %1 m/s.</translation>
     </message>
+    <message>
+        <source>the first distance must be a number, and the EPSG code a whole number</source>
+        <translation>la prima distanza deve essere un numero, e il codice EPSG un numero intero</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>Impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Filtro notch</translation>
+    </message>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtro di velocità</translation>
+    </message>
+    <message>
+        <source>the line has no place on the map; its geographic coordinates are missing</source>
+        <translation>la linea non ha un posto sulla mappa; mancano le sue coordinate geografiche</translation>
+    </message>
+    <message>
+        <source>two shot files of the survey would both become %1</source>
+        <translation>due file dei tiri del rilievo diventerebbero entrambi %1</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey; choose another folder</source>
+        <translation>%1 è uno dei file dei tiri di questo rilievo; scegliere un&apos;altra cartella</translation>
+    </message>
+    <message>
+        <source>it holds several shots, whose traces may be mixed</source>
+        <translation>contiene più tiri, le cui tracce potrebbero essere mescolate</translation>
+    </message>
+    <message>
+        <source>its traces are not those of the survey any more</source>
+        <translation>le sue tracce non sono più quelle del rilievo</translation>
+    </message>
+    <message>
+        <source>miniSEED has no headers for picks</source>
+        <translation>miniSEED non ha intestazioni per i primi arrivi</translation>
+    </message>
+    <message>
+        <source>the survey has no shot files</source>
+        <translation>il rilievo non ha file dei tiri</translation>
+    </message>
+    <message>
+        <source>%1 was left out: %2</source>
+        <translation>%1 è stato tralasciato: %2</translation>
+    </message>
+    <message>
+        <source>%1 has no picks</source>
+        <translation>%1 non ha primi arrivi</translation>
+    </message>
+    <message>
+        <source>%1 shots have no shot file of their own and were left out</source>
+        <translation>%1 tiri non hanno un proprio file e sono stati tralasciati</translation>
+    </message>
+    <message>
+        <source>bytes 233 to 236 of %1 trace headers held something else before</source>
+        <translation>i byte da 233 a 236 di %1 intestazioni di traccia contenevano prima qualcos&apos;altro</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 cannot be followed</source>
+        <translation>l&apos;intestazione della traccia %1 non si può seguire</translation>
+    </message>
+    <message>
+        <source>it has %1 traces, the survey %2 of them</source>
+        <translation>ha %1 tracce, il rilievo ne ha %2</translation>
+    </message>
+    <message>
+        <source>it would grow too large</source>
+        <translation>diventerebbe troppo grande</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 has no room for a pick</source>
+        <translation>l&apos;intestazione della traccia %1 non ha spazio per un primo arrivo</translation>
+    </message>
+    <message>
+        <source>it is SEG-Y of revision 2, whose trace headers have no bytes to spare</source>
+        <translation>è un SEG-Y di revisione 2, le cui intestazioni di traccia non hanno byte liberi</translation>
+    </message>
+    <message>
+        <source>it is not known by what the filtered copies of its traces were made</source>
+        <translation>non si sa con che cosa sono state fatte le copie filtrate delle sue tracce</translation>
+    </message>
+    <message>
+        <source>marked isolines and what was drawn on its section are lost</source>
+        <translation>le isolinee evidenziate e ciò che era disegnato sulla sua sezione sono andati perduti</translation>
+    </message>
+    <message>
+        <source>the line lies straight on the map between its ends</source>
+        <translation>la linea è diritta sulla mappa fra i suoi estremi</translation>
+    </message>
+    <message>
+        <source>its vertices are no course of a line</source>
+        <translation>i suoi vertici non sono il tracciato di una linea</translation>
+    </message>
+    <message>
+        <source>it belongs to another map position</source>
+        <translation>appartiene a un&apos;altra posizione sulla mappa</translation>
+    </message>
+    <message>
+        <source>it tells of traces that are not there, or of filters that are not known</source>
+        <translation>descrive tracce che non ci sono, o filtri che non sono noti</translation>
+    </message>
+    <message>
+        <source>%1 is no style file: %2</source>
+        <translation>%1 non è un file di stile: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of Talvesk has written it</source>
+        <translation>è stato scritto da una versione più recente di Talvesk</translation>
+    </message>
+    <message>
+        <source>the place lies outside of %1</source>
+        <translation>il punto sta fuori da %1</translation>
+    </message>
+    <message>
+        <source>it is not known which columns hold easting and northing, or longitude and latitude</source>
+        <translation>non si sa quali colonne contengano est e nord, o longitudine e latitudine</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 rows, which is no table of a line</source>
+        <translation>%1 ha più di %2 righe: non è la tabella di una linea</translation>
+    </message>
+    <message>
+        <source>its text is too long</source>
+        <translation>il suo testo è troppo lungo</translation>
+    </message>
+    <message>
+        <source>its colour is none</source>
+        <translation>il suo colore non è un colore</translation>
+    </message>
+    <message>
+        <source>a line is %1 to %2 points wide</source>
+        <translation>una linea è spessa da %1 a %2 punti</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Poligono</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>Sabbia</translation>
+    </message>
+    <message>
+        <source>Gravel</source>
+        <translation>Ghiaia</translation>
+    </message>
+    <message>
+        <source>Clay</source>
+        <translation>Argilla</translation>
+    </message>
+    <message>
+        <source>Silt</source>
+        <translation>Limo</translation>
+    </message>
+    <message>
+        <source>Rock</source>
+        <translation>Roccia</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Riporto</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Acqua</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>it is neither text nor line nor polygon</source>
+        <translation>non è né testo, né linea, né poligono</translation>
+    </message>
+    <message>
+        <source>its pattern is none</source>
+        <translation>il suo retino non è un retino</translation>
+    </message>
+    <message>
+        <source>it says nothing</source>
+        <translation>non dice nulla</translation>
+    </message>
+    <message>
+        <source>a text stands at one point, not at %1</source>
+        <translation>un testo sta in un solo punto, non in %1</translation>
+    </message>
+    <message>
+        <source>it has %1 points and needs %2 at least</source>
+        <translation>ha %1 punti e ne servono almeno %2</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 m is no place of a section</source>
+        <translation>%1 m, %2 m non è un punto di una sezione</translation>
+    </message>
+    <message>
+        <source>a text is %1 to %2 points high</source>
+        <translation>un testo è alto da %1 a %2 punti</translation>
+    </message>
+    <message>
+        <source>a section holds %1 marked isolines and %2 annotations with %3 points at most</source>
+        <translation>una sezione contiene al massimo %1 isolinee evidenziate e %2 annotazioni con %3 punti</translation>
+    </message>
+    <message>
+        <source>marked isoline %1</source>
+        <translation>isolinea evidenziata %1</translation>
+    </message>
+    <message>
+        <source>annotation %1</source>
+        <translation>annotazione %1</translation>
+    </message>
+    <message>
+        <source>band-pass from %1 Hz, order %2, to %3 Hz, order %4</source>
+        <translation>passa banda da %1 Hz, ordine %2, a %3 Hz, ordine %4</translation>
+    </message>
+    <message>
+        <source>low-pass %1 Hz, order %2</source>
+        <translation>passa basso %1 Hz, ordine %2</translation>
+    </message>
+    <message>
+        <source>high-pass %1 Hz, order %2</source>
+        <translation>passa alto %1 Hz, ordine %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s and more</source>
+        <translation>%1 m/s e oltre</translation>
+    </message>
+    <message>
+        <source>forth along the line</source>
+        <translation>in avanti lungo la linea</translation>
+    </message>
+    <message>
+        <source>back along the line</source>
+        <translation>all&apos;indietro lungo la linea</translation>
+    </message>
+    <message>
+        <source>both ways</source>
+        <translation>nei due versi</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, pass (taper %3 %)</source>
+        <translation>passano velocità di %1, %2 (taper %3 %)</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, are rejected (taper %3 %)</source>
+        <translation>sono eliminate velocità di %1, %2 (taper %3 %)</translation>
+    </message>
+    <message>
+        <source>notches at %1 Hz and multiples, %2 in all, quality %3</source>
+        <translation>notch a %1 Hz e multipli, %2 in tutto, qualità %3</translation>
+    </message>
+    <message>
+        <source>two geophones at least need easting and northing</source>
+        <translation>almeno due geofoni devono avere est e nord</translation>
+    </message>
+    <message>
+        <source>the first and the last geophone are at one place on the map, which gives the line no direction</source>
+        <translation>il primo e l&apos;ultimo geofono sono nello stesso punto della mappa, il che non dà alcuna direzione alla linea</translation>
+    </message>
+    <message>
+        <source>a trace cannot have a gain of %1, only one from %2 to %3</source>
+        <translation>una traccia non può avere un guadagno di %1, ma solo da %2 a %3</translation>
+    </message>
+    <message>
+        <source>traces with a gain of %1: %2</source>
+        <translation>tracce con un guadagno di %1: %2</translation>
+    </message>
+    <message>
+        <source>geophone %1</source>
+        <translation>geofono %1</translation>
+    </message>
+    <message>
+        <source>geophones %1</source>
+        <translation>geofoni %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>riga %1</translation>
+    </message>
+    <message>
+        <source>lines %1</source>
+        <translation>righe %1</translation>
+    </message>
+    <message>
+        <source>lines %1 and %2 more</source>
+        <translation>righe %1 e altre %2</translation>
+    </message>
+    <message>
+        <source>Not used, for no geophone or shot of the survey is there: %1</source>
+        <translation>Non usate, perché nel rilievo non c&apos;è alcun geofono o tiro corrispondente: %1</translation>
+    </message>
+    <message>
+        <source>Not used, for a row above is of the same geophone or shot: %1</source>
+        <translation>Non usate, perché una riga precedente è dello stesso geofono o tiro: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, placed among those that have one by the distances so far: %1</source>
+        <translation>Senza riga, posti fra quelli che ne hanno una secondo le distanze attuali: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, left where nothing tells how they stand to the others: %1</source>
+        <translation>Senza riga, lasciati dove nulla dice come stanno rispetto agli altri: %1</translation>
+    </message>
+    <message>
+        <source>Without an elevation, raised to the line between the others: %1</source>
+        <translation>Senza quota, portati sulla linea fra gli altri: %1</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1 m: %2</source>
+        <translation>Più lontani dalla linea di metà del passo di %1 m: %2</translation>
+    </message>
+    <message>
+        <source>Hardly apart from their neighbours: %1</source>
+        <translation>Appena distinti dai loro vicini: %1</translation>
+    </message>
+    <message>
+        <source>The line runs back to %1; an exchanged row or number?</source>
+        <translation>La linea torna indietro a %1; una riga o un numero scambiati?</translation>
+    </message>
+    <message>
+        <source>Not as far from the geophone before as expected: %1</source>
+        <translation>Non alla distanza attesa dal geofono precedente: %1</translation>
+    </message>
+    <message>
+        <source>fewer than two geophones of the survey have a row in the table</source>
+        <translation>meno di due geofoni del rilievo hanno una riga nella tabella</translation>
+    </message>
+    <message>
+        <source>lengths along the ground need the elevation of every geophone; the table lacks %1</source>
+        <translation>le lunghezze lungo il terreno richiedono la quota di ogni geofono; nella tabella mancano %1</translation>
+    </message>
+    <message>
+        <source>its sample interval is not known</source>
+        <translation>il suo intervallo di campionamento non è noto</translation>
+    </message>
+    <message>
+        <source>it has samples that are no numbers</source>
+        <translation>ha campioni che non sono numeri</translation>
+    </message>
+    <message>
+        <source>a notch needs a frequency, a multiple and a quality above 0</source>
+        <translation>un filtro notch richiede una frequenza, un multiplo e una qualità maggiori di 0</translation>
+    </message>
+    <message>
+        <source>it is sampled too slowly for %1 Hz</source>
+        <translation>il suo campionamento è troppo rado per %1 Hz</translation>
+    </message>
+    <message>
+        <source>it is shorter than one period of %1 Hz</source>
+        <translation>è più corta di un periodo di %1 Hz</translation>
+    </message>
+    <message>
+        <source>trace %1 has another length or sample interval than trace 1</source>
+        <translation>la traccia %1 ha lunghezza o intervallo di campionamento diversi dalla traccia 1</translation>
+    </message>
+    <message>
+        <source>trace %1 has samples that are no numbers</source>
+        <translation>la traccia %1 ha campioni che non sono numeri</translation>
+    </message>
+    <message>
+        <source>it has no samples, or no known sample interval</source>
+        <translation>non ha campioni, o il suo intervallo di campionamento non è noto</translation>
+    </message>
+    <message>
+        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
+        <translation>i suoi geofoni non sono a passo costante: la traccia %1 a %2 m è a %3 m dalla precedente, la distanza usuale è %4 m</translation>
+    </message>
+    <message>
+        <source>it has fewer than %1 traces</source>
+        <translation>ha meno di %1 tracce</translation>
+    </message>
+    <message>
+        <source>the positions of its geophones are not known</source>
+        <translation>le posizioni dei suoi geofoni non sono note</translation>
+    </message>
+    <message>
+        <source>of %1 places along its line %2 have no trace</source>
+        <translation>di %1 posti lungo la sua linea %2 non hanno traccia</translation>
+    </message>
+    <message>
+        <source>shot %1: of %2 places along its line %3 have no trace, or a killed one; they count as zero, beside them the filter is less sharp</source>
+        <translation>tiro %1: di %2 posti lungo la sua linea %3 non hanno traccia, o ne hanno una esclusa; valgono zero, e accanto a essi il filtro è meno netto</translation>
+    </message>
+    <message>
+        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
+        <translation>la velocità minima, %1 m/s, deve essere maggiore di 0 e minore della massima, %2 m/s</translation>
+    </message>
+    <message>
+        <source>the taper must be 0 or more and less than 100 percent of a limit</source>
+        <translation>il taper deve essere 0 o più e inferiore al 100 per cento di un limite</translation>
+    </message>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Posizioni rilevate</translation>
+    </message>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolinee evidenziate</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotazioni</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Applica stile</translation>
+    </message>
+    <message>
+        <source>shot %1 has no trace %2</source>
+        <translation>il tiro %1 non ha la traccia %2</translation>
+    </message>
+    <message>
+        <source>no recordings yet</source>
+        <translation>ancora nessuna registrazione</translation>
+    </message>
+    <message>
+        <source>times of %1 shots, without recordings</source>
+        <translation>tempi di %1 tiri, senza registrazioni</translation>
+    </message>
+    <message>
+        <source>recordings that begin before their shot: %1</source>
+        <translation>registrazioni che cominciano prima del loro tiro: %1</translation>
+    </message>
+    <message>
+        <source>recordings that were read with warnings: %1</source>
+        <translation>registrazioni lette con avvisi: %1</translation>
+    </message>
+    <message>
+        <source>shots: %1</source>
+        <translation>tiri: %1</translation>
+    </message>
+    <message>
+        <source>no geophones yet</source>
+        <translation>ancora nessun geofono</translation>
+    </message>
+    <message>
+        <source>positions are missing or cannot be</source>
+        <translation>mancano posizioni, o non sono possibili</translation>
+    </message>
+    <message>
+        <source>things that look wrong in the positions: %1</source>
+        <translation>cose che sembrano errate nelle posizioni: %1</translation>
+    </message>
+    <message>
+        <source>geophones: %1, shots: %2</source>
+        <translation>geofoni: %1, tiri: %2</translation>
+    </message>
+    <message>
+        <source>no picks yet</source>
+        <translation>ancora nessun primo arrivo</translation>
+    </message>
+    <message>
+        <source>shots without picks: %1</source>
+        <translation>tiri senza primi arrivi: %1</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 traces have a pick</source>
+        <translation>solo %1 tracce su %2 hanno un primo arrivo</translation>
+    </message>
+    <message>
+        <source>%1 picks on %2 traces</source>
+        <translation>%1 primi arrivi su %2 tracce</translation>
+    </message>
+    <message>
+        <source>no picks to check yet</source>
+        <translation>ancora nessun primo arrivo da controllare</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks that wait for confirmation are doubtful</source>
+        <translation>%1 primi arrivi su %2 che attendono conferma sono dubbi</translation>
+    </message>
+    <message>
+        <source>of %1 picks nothing is known that could speak against them</source>
+        <translation>di %1 primi arrivi non si sa nulla che possa contraddirli</translation>
+    </message>
+    <message>
+        <source>none of the %1 picks that wait for confirmation is doubtful</source>
+        <translation>nessuno dei %1 primi arrivi che attendono conferma è dubbio</translation>
+    </message>
+    <message>
+        <source>no pick waits for confirmation</source>
+        <translation>nessun primo arrivo attende conferma</translation>
+    </message>
+    <message>
+        <source>no grid yet</source>
+        <translation>ancora nessuna griglia</translation>
+    </message>
+    <message>
+        <source>the grid has no cells</source>
+        <translation>la griglia non ha celle</translation>
+    </message>
+    <message>
+        <source>shots and geophones beyond the grid: %1</source>
+        <translation>tiri e geofoni fuori dalla griglia: %1</translation>
+    </message>
+    <message>
+        <source>%1 x %2 cells</source>
+        <translation>%1 x %2 celle</translation>
+    </message>
+    <message>
+        <source>%1, the usual starting model</source>
+        <translation>%1, il modello iniziale usuale</translation>
+    </message>
+    <message>
+        <source>%1, a starting model with layers: %2</source>
+        <translation>%1, un modello iniziale a strati: %2</translation>
+    </message>
+    <message>
+        <source>no inversion yet</source>
+        <translation>ancora nessuna inversione</translation>
+    </message>
+    <message>
+        <source>the section is older than the picks</source>
+        <translation>la sezione è anteriore ai primi arrivi</translation>
+    </message>
+    <message>
+        <source>the known ground is other than that of the section</source>
+        <translation>il terreno noto è diverso da quello della sezione</translation>
+    </message>
+    <message>
+        <source>it was stopped before its end</source>
+        <translation>è stata interrotta prima della fine</translation>
+    </message>
+    <message>
+        <source>chi-square is %1 and not near 1</source>
+        <translation>il chi quadrato è %1 e non vicino a 1</translation>
+    </message>
+    <message>
+        <source>the section is inverted</source>
+        <translation>la sezione è invertita</translation>
+    </message>
+    <message>
+        <source>RMSE %1 ms of %2 picks</source>
+        <translation>RMSE %1 ms di %2 primi arrivi</translation>
+    </message>
+    <message>
+        <source>no section yet</source>
+        <translation>ancora nessuna sezione</translation>
+    </message>
+    <message>
+        <source>the layered profile is older than the picks</source>
+        <translation>il profilo a strati è anteriore ai primi arrivi</translation>
+    </message>
+    <message>
+        <source>the certainty is older than the picks</source>
+        <translation>l&apos;affidabilità è anteriore ai primi arrivi</translation>
+    </message>
+    <message>
+        <source>the section was smoothed after its inversion</source>
+        <translation>la sezione è stata smussata dopo la sua inversione</translation>
+    </message>
+    <message>
+        <source>the section lies beyond its certainty</source>
+        <translation>la sezione sta oltre la sua affidabilità</translation>
+    </message>
+    <message>
+        <source>how certain the section is is not known</source>
+        <translation>l&apos;affidabilità della sezione non è nota</translation>
+    </message>
+    <message>
+        <source>the section and its certainty are there</source>
+        <translation>la sezione e la sua affidabilità ci sono</translation>
+    </message>
+    <message>
+        <source>it has no section</source>
+        <translation>non ha una sezione</translation>
+    </message>
+    <message>
+        <source>no cell of its section is drawn</source>
+        <translation>nessuna cella della sua sezione è disegnata</translation>
+    </message>
+    <message>
+        <source>its line is nowhere on the map</source>
+        <translation>la sua linea non è in alcun punto della mappa</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Escludi tracce</translation>
+    </message>
+    <message>
+        <source>Revive traces</source>
+        <translation>Riammetti tracce</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Inverti polarità</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Azzera l&apos;inizio delle tracce</translation>
+    </message>
+    <message>
+        <source>Mute traces no more</source>
+        <translation>Togli l&apos;azzeramento delle tracce</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplifica tracce</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Attenua tracce</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -6988,6 +8392,61 @@ Impostare la posizione dei geofoni
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::NotchDialog</name>
+    <message>
+        <source>Notch</source>
+        <translation>Filtro notch</translation>
+    </message>
+    <message>
+        <source>Takes the hum of power lines out of the filtered copy. Arrivals stay where they are.</source>
+        <translation>Toglie dalla copia filtrata il ronzio delle linee elettriche. Gli arrivi restano dove sono.</translation>
+    </message>
+    <message>
+        <source>&amp;Power line (Hz):</source>
+        <translation>Frequenza di &amp;rete (Hz):</translation>
+    </message>
+    <message>
+        <source>50 Hz in most of the world, 60 Hz in North America; some railways have 16.7 Hz</source>
+        <translation>50 Hz in gran parte del mondo, 60 Hz in Nord America; alcune ferrovie usano 16,7 Hz</translation>
+    </message>
+    <message>
+        <source>&amp;Multiples:</source>
+        <translation>&amp;Multipli:</translation>
+    </message>
+    <message>
+        <source>So many multiples are taken out, the frequency itself among them, as far as the record has them</source>
+        <translation>Quanti multipli vengono tolti, compresa la frequenza stessa, fin dove la registrazione ne contiene</translation>
+    </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Qualità:</translation>
+    </message>
+    <message>
+        <source>The frequency over the width of every notch at 3 dB: larger ones take less of the signal, and less of hum that wanders</source>
+        <translation>La frequenza diviso la larghezza di ogni notch a 3 dB: valori maggiori tolgono meno segnale, e meno di un ronzio che oscilla in frequenza</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Applica il filtro a:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>Ori&amp;ginali</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Fi&amp;ltrati</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Il filtro va a tutti i tiri.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Il filtro va al tiro %1.</translation>
     </message>
 </context>
 <context>
@@ -7272,6 +8731,10 @@ Impostare la posizione dei geofoni
     <message>
         <source>&amp;Keep the program&apos;s rules</source>
         <translation>&amp;Mantieni le regole del programma</translation>
+    </message>
+    <message>
+        <source>Files and what each reading finds in them</source>
+        <translation>I file e ciò che ogni lettura vi trova</translation>
     </message>
 </context>
 <context>
@@ -7575,6 +9038,10 @@ Impostare la posizione dei geofoni
     <message>
         <source>in memory, for %1</source>
         <translation>in memoria, perché %1</translation>
+    </message>
+    <message>
+        <source>Filtered copy by:</source>
+        <translation>Copia filtrata con:</translation>
     </message>
 </context>
 <context>
@@ -9093,6 +10560,22 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
         <translation>I primi arrivi sono stati assegnati agli strati, e le velocità e profondità dei rifrattori adattate a tutti insieme: in modo che i tempi diretti e rifratti calcolati attraverso gli strati, che possono cambiare lungo la linea, siano quelli letti.</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtri</translation>
+    </message>
+    <message>
+        <source>These shots have filtered copies beside their recordings, made as listed, one filter after the other.</source>
+        <translation>Questi tiri hanno copie filtrate accanto alle registrazioni, fatte come elencato, un filtro dopo l&apos;altro.</translation>
+    </message>
+    <message>
+        <source>Filters of the recordings</source>
+        <translation>Filtri delle registrazioni</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -9225,10 +10708,6 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>Errors of the picks</source>
         <translation>Errori dei primi arrivi</translation>
-    </message>
-    <message>
-        <source>&amp;Colour shot:</source>
-        <translation>&amp;Colora il tiro:</translation>
     </message>
     <message>
         <source>Whose dots have a colour of their own in the picture over the offset</source>
@@ -9377,6 +10856,10 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>The picture cannot be made.</source>
         <translation>Non è possibile creare l&apos;immagine.</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur shot:</source>
+        <translation>Colo&amp;ra il tiro:</translation>
     </message>
 </context>
 <context>
@@ -9903,6 +11386,70 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <source>Velocity section</source>
         <translation>Sezione di velocità</translation>
     </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distanza %1 m</translation>
+    </message>
+    <message>
+        <source>Horizontal %1 m</source>
+        <translation>Orizzontale %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical %1 m</source>
+        <translation>Verticale %1 m</translation>
+    </message>
+    <message>
+        <source>Slope %1°</source>
+        <translation>Pendenza %1°</translation>
+    </message>
+    <message>
+        <source>Click the next point; Esc ends</source>
+        <translation>Fai clic sul punto successivo; Esc termina</translation>
+    </message>
+    <message>
+        <source>Double click or Enter ends it, Backspace takes a point back</source>
+        <translation>Doppio clic o Invio termina, Backspace toglie un punto</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Misura</translation>
+    </message>
+    <message>
+        <source>Drag between two points: distance, horizontal, vertical and slope; Esc ends</source>
+        <translation>Trascina fra due punti: distanza, orizzontale, verticale e pendenza; Esc termina</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Disegna</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
+        <translation>Mette testi, linee e aree di terreno sulla sezione con clic; Esc termina</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Click where a text is to stand on the section</source>
+        <translation>Fai clic sulla sezione dove deve stare il testo</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Click the points of a line on the section</source>
+        <translation>Fai clic sui punti di una linea sulla sezione</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Poligono</translation>
+    </message>
+    <message>
+        <source>Click the corners of an area of the section</source>
+        <translation>Fai clic sui vertici di un&apos;area della sezione</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SelectCSVDelimiterDialog</name>
@@ -10159,6 +11706,407 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>I risultati dell&apos;ultima inversione verranno tolti (&quot;Annulla modifica&quot; li ripristina).</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StepTexts</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Registrazioni</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Geometria</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Primi arrivi</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Controllo</translation>
+    </message>
+    <message>
+        <source>Grid and start</source>
+        <translation>Griglia e modello</translation>
+    </message>
+    <message>
+        <source>Inversion</source>
+        <translation>Inversione</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>fatto</translation>
+    </message>
+    <message>
+        <source>doubtful</source>
+        <translation>dubbio</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>manca</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>superato</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>step, reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPointsTable</name>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tiro %1</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Geofono %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>row of a table</comment>
+        <translation>nessuna</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <comment>of a table</comment>
+        <translation>Riga</translation>
+    </message>
+    <message>
+        <source>Across
+(m)</source>
+        <translation>Di lato
+(m)</translation>
+    </message>
+    <message>
+        <source>x before
+(m)</source>
+        <translation>x prima
+(m)</translation>
+    </message>
+    <message>
+        <source>x
+(m)</source>
+        <translation>x
+(m)</translation>
+    </message>
+    <message>
+        <source>change
+(m)</source>
+        <translation>variazione
+(m)</translation>
+    </message>
+    <message>
+        <source>z before
+(m)</source>
+        <translation>z prima
+(m)</translation>
+    </message>
+    <message>
+        <source>z
+(m)</source>
+        <translation>z
+(m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPositionsDialog</name>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Posizioni rilevate</translation>
+    </message>
+    <message>
+        <source>&amp;Other table ...</source>
+        <translation>Altra ta&amp;bella ...</translation>
+    </message>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Prime righe della tabella</translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation>Colonne della tabella</translation>
+    </message>
+    <message>
+        <source>S&amp;eparator</source>
+        <translation>&amp;Separatore</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Separatore</translation>
+    </message>
+    <message>
+        <source>C&amp;oordinates</source>
+        <translation>&amp;Coordinate</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordinate</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Nome</translation>
+    </message>
+    <message>
+        <source>Column of names</source>
+        <translation>Colonna dei nomi</translation>
+    </message>
+    <message>
+        <source>Eas&amp;ting</source>
+        <translation>&amp;Est</translation>
+    </message>
+    <message>
+        <source>Column of eastings or longitudes</source>
+        <translation>Colonna delle coordinate est o delle longitudini</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>&amp;Tipo</translation>
+    </message>
+    <message>
+        <source>Column of kinds</source>
+        <translation>Colonna dei tipi</translation>
+    </message>
+    <message>
+        <source>No&amp;rthing</source>
+        <translation>No&amp;rd</translation>
+    </message>
+    <message>
+        <source>Column of northings or latitudes</source>
+        <translation>Colonna delle coordinate nord o delle latitudini</translation>
+    </message>
+    <message>
+        <source>Ele&amp;vation</source>
+        <translation>&amp;Quota</translation>
+    </message>
+    <message>
+        <source>Column of elevations</source>
+        <translation>Colonna delle quote</translation>
+    </message>
+    <message>
+        <source>EPS&amp;G code</source>
+        <translation>Codice EPS&amp;G</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>Codice EPSG</translation>
+    </message>
+    <message>
+        <source>The code of the reference system of easting and northing, for example 32632 for UTM zone 32 N. Without it the line gets no place on the map. Longitude and latitude are projected into it, without a code into their UTM zone.</source>
+        <translation>Il codice del sistema di riferimento di est e nord, per esempio 32632 per UTM fuso 32 N. Senza di esso la linea non ottiene un posto sulla mappa. Longitudine e latitudine vengono proiettate in esso; senza un codice, nel loro fuso UTM.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Linea</translation>
+    </message>
+    <message>
+        <source>Shape of the line</source>
+        <translation>Forma della linea</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>L&amp;unghezza</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Lunghezza lungo la linea</translation>
+    </message>
+    <message>
+        <source>Names &amp;are</source>
+        <translation>I n&amp;omi sono</translation>
+    </message>
+    <message>
+        <source>What names are</source>
+        <translation>Che cosa sono i nomi</translation>
+    </message>
+    <message>
+        <source>First &amp;distance</source>
+        <translation>Prima &amp;distanza</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone</source>
+        <translation>Distanza del primo geofono</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
+        <translation>Distanza del primo geofono rilevato, in metri. Vuoto: come ora.</translation>
+    </message>
+    <message>
+        <source>Count from the other &amp;end</source>
+        <translation>Cont&amp;a dall&apos;altro estremo</translation>
+    </message>
+    <message>
+        <source>&amp;Positions</source>
+        <translation>&amp;Posizioni</translation>
+    </message>
+    <message>
+        <source>Positions before and after</source>
+        <translation>Posizioni prima e dopo</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mappa</translation>
+    </message>
+    <message>
+        <source>Geophones and shots from above</source>
+        <translation>Geofoni e tiri visti dall&apos;alto</translation>
+    </message>
+    <message>
+        <source>O&amp;ffsets</source>
+        <translation>&amp;Fuori linea</translation>
+    </message>
+    <message>
+        <source>Offsets across the line</source>
+        <translation>Scostamenti dalla linea</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>Da controllare</translation>
+    </message>
+    <message>
+        <source>as in the table</source>
+        <translation>come nella tabella</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>tabulazione</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>punto e virgola</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>virgola</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>spazio</translation>
+    </message>
+    <message>
+        <source>Easting, northing</source>
+        <translation>Est, nord</translation>
+    </message>
+    <message>
+        <source>Longitude, latitude</source>
+        <translation>Longitudine, latitudine</translation>
+    </message>
+    <message>
+        <source>Straight, fitted to the geophones</source>
+        <translation>Diritta, adattata ai geofoni</translation>
+    </message>
+    <message>
+        <source>Straight, from the first geophone to the last one</source>
+        <translation>Diritta, dal primo geofono all&apos;ultimo</translation>
+    </message>
+    <message>
+        <source>Bent, from geophone to geophone</source>
+        <translation>Spezzata, da geofono a geofono</translation>
+    </message>
+    <message>
+        <source>Horizontal, as on the map</source>
+        <translation>Orizzontale, come sulla mappa</translation>
+    </message>
+    <message>
+        <source>Along the ground, on slopes</source>
+        <translation>Lungo il terreno, sui pendii</translation>
+    </message>
+    <message>
+        <source>numbers of geophones and shots, from 1</source>
+        <translation>numeri di geofoni e tiri, da 1</translation>
+    </message>
+    <message>
+        <source>without a meaning: rows are in order</source>
+        <translation>senza significato: le righe sono in ordine</translation>
+    </message>
+    <message>
+        <source>distances along the line as it is now</source>
+        <translation>distanze lungo la linea attuale</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>column of a table</comment>
+        <translation>nessuna</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>colonna %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>column, name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Longi&amp;tude</source>
+        <translation>Longitudin&amp;e</translation>
+    </message>
+    <message>
+        <source>Latit&amp;ude</source>
+        <translation>Lat&amp;itudine</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of the table have no position and are not used.</source>
+        <translation>
+            <numerusform>%n riga della tabella non ha posizione e non viene usata.</numerusform>
+            <numerusform>%n righe della tabella non hanno posizione e non vengono usate.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
+        <translation>Con una riga: %1 geofoni su %2, %3 tiri su %4. I geofoni stanno a %5 m di lato alla linea (RMS), al massimo a %6 m (%7); il loro passo è %8 m.</translation>
+    </message>
+    <message>
+        <source>No reference system</source>
+        <translation>Nessun sistema di riferimento</translation>
+    </message>
+    <message>
+        <source>EPSG:%1, %2</source>
+        <translation>EPSG:%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: the zone of the first place</source>
+        <translation>%1: il fuso del primo punto</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the place of the line on the map stays as it is now, where it may not fit any more.</source>
+        <translation>Senza un codice EPSG il posto della linea sulla mappa resta quello attuale, che potrebbe non essere più adatto.</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the line gets no place on the map.</source>
+        <translation>Senza un codice EPSG la linea non ottiene un posto sulla mappa.</translation>
+    </message>
+    <message>
+        <source>On OK the line lies on the map from the first geophone to the last one, on the line that is shown.</source>
+        <translation>Con OK la linea va sulla mappa dal primo geofono all&apos;ultimo, sulla linea mostrata.</translation>
+    </message>
+    <message numerus="yes">
+        <source>On OK the line lies on the map along %n point(s), and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</source>
+        <translation>
+            <numerusform>Con OK la linea va sulla mappa per %n punto, e il KML la segue. Le relazioni e la finestra delle coordinate geografiche ne danno i due estremi.</numerusform>
+            <numerusform>Con OK la linea va sulla mappa per %n punti, e il KML la segue. Le relazioni e la finestra delle coordinate geografiche ne danno i due estremi.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -12342,6 +14290,310 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Web page (*.html)</source>
         <translation>Pagina web (*.html)</translation>
     </message>
+    <message>
+        <source>Mends of the selected traces</source>
+        <translation>Correzioni delle tracce selezionate</translation>
+    </message>
+    <message>
+        <source>Marked isolines ...</source>
+        <translation>Isolinee evidenziate ...</translation>
+    </message>
+    <message>
+        <source>Name velocities, such as 1500 m/s for the water table, whose lines stand out from the section</source>
+        <translation>Dà un nome a velocità, come 1500 m/s per la falda, le cui linee risaltano sulla sezione</translation>
+    </message>
+    <message>
+        <source>Annotations ...</source>
+        <translation>Annotazioni ...</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground drawn on the section</source>
+        <translation>Testi, linee e aree di terreno disegnati sulla sezione</translation>
+    </message>
+    <message>
+        <source>Depth profile ...</source>
+        <translation>Profilo di profondità ...</translation>
+    </message>
+    <message>
+        <source>Velocity, its gradient and how sure it is against depth, below the mouse</source>
+        <translation>Velocità, il suo gradiente e quanto è sicura in funzione della profondità, sotto il mouse</translation>
+    </message>
+    <message>
+        <source>Fence of several lines ...</source>
+        <translation>Diagramma a pannelli ...</translation>
+    </message>
+    <message>
+        <source>Sections of this and other projects at their places on the map, in one view</source>
+        <translation>Le sezioni di questo e di altri progetti al loro posto sulla mappa, in un&apos;unica vista</translation>
+    </message>
+    <message>
+        <source>Save style ...</source>
+        <translation>Salva stile ...</translation>
+    </message>
+    <message>
+        <source>Save palette, range, contours, exaggeration, switches and marked isolines for other surveys</source>
+        <translation>Salva tavolozza, intervallo, isolinee, esagerazione, opzioni e isolinee evidenziate per altri rilievi</translation>
+    </message>
+    <message>
+        <source>Apply style ...</source>
+        <translation>Applica stile ...</translation>
+    </message>
+    <message>
+        <source>Let this section look as the one whose style was saved</source>
+        <translation>Dà a questa sezione l&apos;aspetto di quella di cui è stato salvato lo stile</translation>
+    </message>
+    <message>
+        <source>Show annotations</source>
+        <translation>Mostra annotazioni</translation>
+    </message>
+    <message>
+        <source>Draw marked isolines, texts, lines and areas of ground over the section</source>
+        <translation>Disegna isolinee evidenziate, testi, linee e aree di terreno sopra la sezione</translation>
+    </message>
+    <message>
+        <source>Surveyed positions ...</source>
+        <translation>Posizioni rilevate ...</translation>
+    </message>
+    <message>
+        <source>Make distances along the line and its place on the map of a table of coordinates</source>
+        <translation>Ricava da una tabella di coordinate le distanze lungo la linea e il suo posto sulla mappa</translation>
+    </message>
+    <message>
+        <source>Find command...</source>
+        <translation>Trova comando...</translation>
+    </message>
+    <message>
+        <source>Find any command by its words and give it</source>
+        <translation>Trova un comando qualsiasi dalle sue parole e lo esegue</translation>
+    </message>
+    <message>
+        <source>Shot files with picks ...</source>
+        <translation>File dei tiri con primi arrivi ...</translation>
+    </message>
+    <message>
+        <source>Copy the shot files into another folder, with the picks in their trace headers</source>
+        <translation>Copia i file dei tiri in un&apos;altra cartella, con i primi arrivi nelle intestazioni di traccia</translation>
+    </message>
+    <message>
+        <source>Drawing as DXF ...</source>
+        <translation>Disegno in DXF ...</translation>
+    </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
+        <translation>Esporta superficie, isolinee, rifrattori, geofoni e tiri come disegno per CAD</translation>
+    </message>
+    <message>
+        <source>Section as curtain on the map ...</source>
+        <translation>Sezione come cortina sulla mappa ...</translation>
+    </message>
+    <message>
+        <source>Export the cells with their velocities where they lie on the map, as a VTK grid or a table</source>
+        <translation>Esporta le celle con le loro velocità dove stanno sulla mappa, come griglia VTK o tabella</translation>
+    </message>
+    <message>
+        <source>Line and isolines as GeoPackage ...</source>
+        <translation>Linea e isolinee in GeoPackage ...</translation>
+    </message>
+    <message>
+        <source>Export line, geophones, shots, isolines, refractors and depths of isovalues as layers for maps</source>
+        <translation>Esporta linea, geofoni, tiri, isolinee, rifrattori e profondità degli isovalori come layer per mappe</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Escludi tracce</translation>
+    </message>
+    <message>
+        <source>The selected traces count for nothing and have no pick, or do again (key K); what was recorded is kept</source>
+        <translation>Le tracce selezionate non contano e non hanno primo arrivo, o tornano a contare (tasto K); ciò che è stato registrato resta</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Inverti polarità</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces change their sign (key P)</source>
+        <translation>I campioni delle tracce selezionate cambiano segno (tasto P)</translation>
+    </message>
+    <message>
+        <source>Mute traces before...</source>
+        <translation>Azzera tracce prima di...</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces before a time become zero (key U mutes before the mouse, Shift+U no more)</source>
+        <translation>I campioni delle tracce selezionate prima di un tempo diventano zero (il tasto U azzera prima del mouse, Maiusc+U non più)</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplifica tracce</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become larger, 1.5 or 2 times in turn (key })</source>
+        <translation>I campioni delle tracce selezionate diventano più grandi, alternando 1,5 e 2 volte (tasto })</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Attenua tracce</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become smaller (key {)</source>
+        <translation>I campioni delle tracce selezionate diventano più piccoli (tasto {)</translation>
+    </message>
+    <message>
+        <source>Notch...</source>
+        <translation>Filtro notch...</translation>
+    </message>
+    <message>
+        <source>Take the hum of power lines, 50 or 60 Hz and multiples, out of the filtered copy</source>
+        <translation>Toglie dalla copia filtrata il ronzio delle linee elettriche, 50 o 60 Hz e multipli</translation>
+    </message>
+    <message>
+        <source>Velocity filter...</source>
+        <translation>Filtro di velocità...</translation>
+    </message>
+    <message>
+        <source>Keep or take out waves by their apparent velocity, in the filtered copy</source>
+        <translation>Mantiene o toglie onde secondo la loro velocità apparente, nella copia filtrata</translation>
+    </message>
+    <message>
+        <source>Annotations wait for the inversion to end.</source>
+        <translation>Le annotazioni attendono la fine dell&apos;inversione.</translation>
+    </message>
+    <message>
+        <source>It cannot work now.</source>
+        <translation>Ora non è possibile.</translation>
+    </message>
+    <message>
+        <source>Save depth profile</source>
+        <translation>Salva profilo di profondità</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>Immagini (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the layered profile was built.</source>
+        <translation>I primi arrivi sono cambiati dopo la costruzione del profilo a strati.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map.</source>
+        <translation>La linea non ha un posto sulla mappa.</translation>
+    </message>
+    <message>
+        <source>Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Impostarlo con Progetto &gt; Coordinate geografiche ...</translation>
+    </message>
+    <message>
+        <source>Export DXF Drawing</source>
+        <translation>Esporta disegno DXF</translation>
+    </message>
+    <message>
+        <source>DXF drawing (*.dxf);;All Files (*)</source>
+        <translation>Disegno DXF (*.dxf);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Export GeoPackage</source>
+        <translation>Esporta GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage (*.gpkg);;All Files (*)</source>
+        <translation>GeoPackage (*.gpkg);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Export Curtain</source>
+        <translation>Esporta cortina</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;Table of cells (*.csv);;All Files (*)</source>
+        <translation>Griglia non strutturata VTK (*.vtu);;Tabella delle celle (*.csv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>This survey</source>
+        <translation>Questo rilievo</translation>
+    </message>
+    <message>
+        <source>Add projects to the fence</source>
+        <translation>Aggiungi progetti al diagramma</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Progetti di Talvesk (*.tvsk);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Save picture of the fence</source>
+        <translation>Salva immagine del diagramma</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Immagini (*.png)</translation>
+    </message>
+    <message>
+        <source>Applying notches ...</source>
+        <translation>Applicazione del filtro notch ...</translation>
+    </message>
+    <message>
+        <source>Applying the velocity filter ...</source>
+        <translation>Applicazione del filtro di velocità ...</translation>
+    </message>
+    <message>
+        <source>Folder for the shot files with picks</source>
+        <translation>Cartella per i file dei tiri con primi arrivi</translation>
+    </message>
+    <message>
+        <source>In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files it is whole microseconds in bytes 233 to 236 of the trace header. Both count from the shot.</source>
+        <translation>Nei file SEG-2 un primo arrivo è FIRST_BREAK in secondi; nei file SEG-Y e SU è in microsecondi interi nei byte da 233 a 236 dell&apos;intestazione di traccia. Entrambi contano dal tiro.</translation>
+    </message>
+    <message>
+        <source>Shot files with picks</source>
+        <translation>File dei tiri con primi arrivi</translation>
+    </message>
+    <message>
+        <source>Save style</source>
+        <translation>Salva stile</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle)</source>
+        <translation>Stili di Talvesk (*.tvstyle)</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Applica stile</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle);;All files (*)</source>
+        <translation>Stili di Talvesk (*.tvstyle);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>The section looks as before.</source>
+        <translation>La sezione ha l&apos;aspetto di prima.</translation>
+    </message>
+    <message>
+        <source>Style of %1</source>
+        <translation>Stile di %1</translation>
+    </message>
+    <message>
+        <source>Geophones and shots stand where they were surveyed.</source>
+        <translation>Geofoni e tiri stanno dove sono stati rilevati.</translation>
+    </message>
+    <message>
+        <source>Open surveyed positions</source>
+        <translation>Apri posizioni rilevate</translation>
+    </message>
+    <message>
+        <source>Tables of coordinates (*.csv *.tsv *.txt *.dat *.xyz *.asc);;All files (*)</source>
+        <translation>Tabelle di coordinate (*.csv *.tsv *.txt *.dat *.xyz *.asc);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>The positions cannot be read.</source>
+        <translation>Non è possibile leggere le posizioni.</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Azzera l&apos;inizio delle tracce</translation>
+    </message>
+    <message>
+        <source>The selected traces are zero before (ms); 0: from nowhere</source>
+        <translation>Le tracce selezionate sono zero prima di (ms); 0: mai</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -12511,6 +14763,113 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Layers: %1 ms</source>
         <translation>Strati: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::VelocityFilterDialog</name>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtro di velocità</translation>
+    </message>
+    <message>
+        <source>Keeps or takes out waves by their apparent velocity along the line, in the filtered copy. Drag the sides of the wedge, or type velocities.</source>
+        <translation>Mantiene o toglie onde secondo la loro velocità apparente lungo la linea, nella copia filtrata. Trascinare i lati del ventaglio, o scrivere le velocità.</translation>
+    </message>
+    <message>
+        <source>&amp;Slowest (m/s):</source>
+        <translation>&amp;Minima (m/s):</translation>
+    </message>
+    <message>
+        <source>Least apparent velocity of the wedge; the full line in the picture</source>
+        <translation>Velocità apparente minima del ventaglio; la linea continua nell&apos;immagine</translation>
+    </message>
+    <message>
+        <source>&amp;Fastest (m/s):</source>
+        <translation>Ma&amp;ssima (m/s):</translation>
+    </message>
+    <message>
+        <source>Greatest apparent velocity of the wedge, 0 for no limit; the dashed line in the picture</source>
+        <translation>Velocità apparente massima del ventaglio, 0 per nessun limite; la linea tratteggiata nell&apos;immagine</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Onde:</translation>
+    </message>
+    <message>
+        <source>Forth is towards greater distances along the line</source>
+        <translation>In avanti è verso distanze maggiori lungo la linea</translation>
+    </message>
+    <message>
+        <source>Both ways</source>
+        <translation>Nei due versi</translation>
+    </message>
+    <message>
+        <source>Forth along the line</source>
+        <translation>In avanti lungo la linea</translation>
+    </message>
+    <message>
+        <source>Back along the line</source>
+        <translation>All&apos;indietro lungo la linea</translation>
+    </message>
+    <message>
+        <source>Wedge:</source>
+        <translation>Ventaglio:</translation>
+    </message>
+    <message>
+        <source>&amp;Passes</source>
+        <translation>&amp;Passa</translation>
+    </message>
+    <message>
+        <source>Is re&amp;jected</source>
+        <translation>Viene &amp;eliminato</translation>
+    </message>
+    <message>
+        <source>&amp;Taper (%):</source>
+        <translation>&amp;Taper (%):</translation>
+    </message>
+    <message>
+        <source>How far beside the wedge the filter sets in, in percent of its slowness there</source>
+        <translation>A quale distanza dal ventaglio il filtro comincia ad agire, in percento della lentezza in quel punto</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Applica il filtro a:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>Ori&amp;ginali</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Fi&amp;ltrati</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Mostra:</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>P&amp;rima</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Dopo</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Il filtro va a tutti i tiri.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Il filtro va al tiro %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1 cannot be filtered: %2</source>
+        <translation>Il tiro %1 non può essere filtrato: %2</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>Nessun filtro applicato.</translation>
     </message>
 </context>
 <context>
@@ -12875,6 +15234,18 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Open the place in a map service</source>
         <translation>Apri la posizione in un servizio di mappe</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotazioni</translation>
+    </message>
+    <message>
+        <source>Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Tasti: sinistra e destra vanno da un primo arrivo all&apos;altro, su e giù da un tiro all&apos;altro, + e - ingrandiscono e riducono, 0 mostra tutto.</translation>
+    </message>
+    <message>
+        <source>Point at a mark to read it. Keys: left and right go from mark to mark, + and - zoom, 0 shows all.</source>
+        <translation>Puntare un segno per leggerlo. Tasti: sinistra e destra vanno da un segno all&apos;altro, + e - ingrandiscono e riducono, 0 mostra tutto.</translation>
     </message>
 </context>
 <context>
@@ -13310,10 +15681,6 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Nessun campione, solo primi arrivi</translation>
     </message>
     <message>
-        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
-        <translation>Tracce da %1 a %2: C conferma, Canc toglie, Esc lascia</translation>
-    </message>
-    <message>
         <source>Open shot files with Ctrl+O or drop them here</source>
         <translation>Apri i file dei tiri con Ctrl+O o trascinali qui</translation>
     </message>
@@ -13332,6 +15699,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Error %1 ms</source>
         <translation>Errore %1 ms</translation>
+    </message>
+    <message>
+        <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
+        <translation>Tracce %1: C conferma, Canc toglie, K esclude, P inverte, U azzera, Esc lascia</translation>
     </message>
 </context>
 <context>
@@ -13604,6 +15975,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Another fit, from: %1</source>
         <translation>Un altro adattamento, da: %1</translation>
+    </message>
+    <message>
+        <source>Iterations and misfits</source>
+        <translation>Iterazioni e scarti</translation>
     </message>
 </context>
 <context>
