@@ -49,6 +49,277 @@
     </message>
 </context>
 <context>
+    <name>talvesk::AnnotationsDialog</name>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotations</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground that are drawn on the section. They can be drawn with the mouse as well: Draw, above the section.</source>
+        <translation>Textes, lignes et zones de terrain dessinés sur la coupe. Ils peuvent aussi être dessinés à la souris&#xa0;: Dessiner, au-dessus de la coupe.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Épaisseur</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Taille du texte</translation>
+    </message>
+    <message>
+        <source>Add a text in the middle of the section</source>
+        <translation>Ajouter un texte au milieu de la coupe</translation>
+    </message>
+    <message>
+        <source>Add &amp;text</source>
+        <translation>Ajouter un &amp;texte</translation>
+    </message>
+    <message>
+        <source>Add a line in the middle of the section</source>
+        <translation>Ajouter une ligne au milieu de la coupe</translation>
+    </message>
+    <message>
+        <source>Add &amp;line</source>
+        <translation>Ajouter une &amp;ligne</translation>
+    </message>
+    <message>
+        <source>Add an area in the middle of the section</source>
+        <translation>Ajouter une zone au milieu de la coupe</translation>
+    </message>
+    <message>
+        <source>Add &amp;polygon</source>
+        <translation>Ajouter un &amp;polygone</translation>
+    </message>
+    <message>
+        <source>Remove the annotation that is selected</source>
+        <translation>Supprimer l&apos;annotation sélectionnée</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Let those after it be drawn over it</source>
+        <translation>Laisser les suivantes se dessiner par-dessus</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Points of the annotation that is selected</source>
+        <translation>Points de l&apos;annotation sélectionnée</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distance [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Altitude [m]</translation>
+    </message>
+    <message>
+        <source>Add a point behind the one that is selected</source>
+        <translation>Ajouter un point après celui qui est sélectionné</translation>
+    </message>
+    <message>
+        <source>Add p&amp;oint</source>
+        <translation>Ajouter un p&amp;oint</translation>
+    </message>
+    <message>
+        <source>Remove the point that is selected</source>
+        <translation>Supprimer le point sélectionné</translation>
+    </message>
+    <message>
+        <source>Remove po&amp;int</source>
+        <translation>Supprimer le po&amp;int</translation>
+    </message>
+    <message>
+        <source>Annotations: %1.</source>
+        <translation>Annotations&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed?</source>
+        <translation>Abandonner les modifications&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignPage</name>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>Écart quadratique moyen [ms]</translation>
+    </message>
+    <message>
+        <source>RMS misfit [%]</source>
+        <translation>Écart quadratique moyen [%]</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Khi-deux</translation>
+    </message>
+    <message>
+        <source>Length covered [m]</source>
+        <translation>Longueur couverte [m]</translation>
+    </message>
+    <message>
+        <source>Depth reached [m]</source>
+        <translation>Profondeur atteinte [m]</translation>
+    </message>
+    <message>
+        <source>Cells with rays [%]</source>
+        <translation>Cellules avec rais [%]</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>Not inverted yet</source>
+        <translation>Pas encore inversée</translation>
+    </message>
+    <message>
+        <source>The misfit of the section is not known</source>
+        <translation>L&apos;écart de la coupe n&apos;est pas connu</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion</source>
+        <translation>Les pointés ont changé depuis l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Smoothed after the inversion</source>
+        <translation>Lissée après l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Lines: %1; with a section: %2; failed: %3</source>
+        <translation>Lignes&#xa0;: %1&#xa0;; avec une coupe&#xa0;: %2&#xa0;; en échec&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
+        <translation>Les petites coupes sont étirées pour remplir leur place&#xa0;; leurs couleurs sont les mêmes pour toutes les lignes. Les écarts sont ceux des coupes affichées, le long de nouveaux rais.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Coupe</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Pointés utilisés</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Inversée</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Failed:</source>
+        <translation>En échec&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Velocity section of %1</source>
+        <translation>Coupe de vitesse de %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Map of the lines</source>
+        <translation>Carte des lignes</translation>
+    </message>
+    <message>
+        <source>Numbers are those of the table; each stands at the first geophone of its line.</source>
+        <translation>Les numéros sont ceux du tableau&#xa0;; chacun se trouve au premier géophone de sa ligne.</translation>
+    </message>
+    <message>
+        <source>Lines whose position is not known: %1</source>
+        <translation>Lignes dont la position n&apos;est pas connue&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Campaign</source>
+        <translation>Campagne</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Aller au contenu</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CertaintyDialog</name>
     <message>
         <source>Certainty</source>
@@ -272,6 +543,21 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ColorField</name>
+    <message>
+        <source>Choose another colour</source>
+        <translation>Choisir une autre couleur</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Couleur %1</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -366,6 +652,145 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source> of %1</source>
         <translation> sur %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandReasons</name>
+    <message>
+        <source>There are no shots yet.</source>
+        <translation>Il n&apos;y a pas encore de tirs.</translation>
+    </message>
+    <message>
+        <source>There are no recordings yet.</source>
+        <translation>Il n&apos;y a pas encore d&apos;enregistrements.</translation>
+    </message>
+    <message>
+        <source>No shot is in view.</source>
+        <translation>Aucun tir n&apos;est affiché.</translation>
+    </message>
+    <message>
+        <source>No shot with traces is in view.</source>
+        <translation>Aucun tir avec traces n&apos;est affiché.</translation>
+    </message>
+    <message>
+        <source>Nothing is mended.</source>
+        <translation>Rien n&apos;est corrigé.</translation>
+    </message>
+    <message>
+        <source>The shot in view has no filtered copy.</source>
+        <translation>Le tir affiché n&apos;a pas de copie filtrée.</translation>
+    </message>
+    <message>
+        <source>No recording begins before its shot.</source>
+        <translation>Aucun enregistrement ne commence avant son tir.</translation>
+    </message>
+    <message>
+        <source>The selected traces have no picks.</source>
+        <translation>Les traces sélectionnées n&apos;ont pas de pointés.</translation>
+    </message>
+    <message>
+        <source>No pick of the selected traces waits for confirmation.</source>
+        <translation>Aucun pointé des traces sélectionnées n&apos;attend de confirmation.</translation>
+    </message>
+    <message>
+        <source>There are no shots yet, or no picks are shown.</source>
+        <translation>Il n&apos;y a pas encore de tirs, ou aucun pointé n&apos;est affiché.</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>Il n&apos;y a pas de vue précédente.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>Il n&apos;y a pas de vue suivante.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Il n&apos;y a rien à défaire.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Il n&apos;y a rien à refaire.</translation>
+    </message>
+    <message>
+        <source>There are no geophones and no shots yet.</source>
+        <translation>Il n&apos;y a pas encore de géophones ni de tirs.</translation>
+    </message>
+    <message>
+        <source>There is nothing to save.</source>
+        <translation>Il n&apos;y a rien à enregistrer.</translation>
+    </message>
+    <message>
+        <source>There is no grid yet.</source>
+        <translation>Il n&apos;y a pas encore de grille.</translation>
+    </message>
+    <message>
+        <source>There is no inversion yet.</source>
+        <translation>Il n&apos;y a pas encore d&apos;inversion.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile yet.</source>
+        <translation>Il n&apos;y a pas encore de profil en couches.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the ground under the grid.</source>
+        <translation>On ne sait rien du terrain sous la grille.</translation>
+    </message>
+    <message>
+        <source>There is no section yet.</source>
+        <translation>Il n&apos;y a pas encore de coupe.</translation>
+    </message>
+    <message>
+        <source>There is no line of geophones yet.</source>
+        <translation>Il n&apos;y a pas encore de ligne de géophones.</translation>
+    </message>
+    <message>
+        <source>There is no grid under a line of geophones yet.</source>
+        <translation>Il n&apos;y a pas encore de grille sous une ligne de géophones.</translation>
+    </message>
+    <message>
+        <source>There is nothing to make pictures of yet.</source>
+        <translation>Il n&apos;y a encore rien à mettre en images.</translation>
+    </message>
+    <message>
+        <source>How certain the section is has not been computed.</source>
+        <translation>La certitude de la coupe n&apos;a pas été calculée.</translation>
+    </message>
+    <message>
+        <source>It cannot work yet.</source>
+        <translation>La commande n&apos;est pas encore possible.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandSearchDialog</name>
+    <message>
+        <source>Find Command</source>
+        <translation>Chercher une commande</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>Mots de la commande</translation>
+    </message>
+    <message>
+        <source>Type words of a command</source>
+        <translation>Saisissez des mots d&apos;une commande</translation>
+    </message>
+    <message>
+        <source>Commands found</source>
+        <translation>Commandes trouvées</translation>
+    </message>
+    <message>
+        <source>No command has these words.</source>
+        <translation>Aucune commande ne contient ces mots.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>why a command cannot work, its menu</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not now: %1</source>
+        <translation>pas maintenant&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -526,6 +951,41 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>of all picks as they are %1 ms</source>
         <translation>de tous les pointés tels quels %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DepthProfileDialog</name>
+    <message>
+        <source>Depth profile</source>
+        <translation>Profil de profondeur</translation>
+    </message>
+    <message>
+        <source>&amp;Distance:</source>
+        <translation>&amp;Distance&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Where along the line the profile stands</source>
+        <translation>Où se trouve le profil le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Show the ground below the mouse as it moves over the section</source>
+        <translation>Montrer le terrain sous la souris lorsqu&apos;elle se déplace sur la coupe</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the pointer</source>
+        <translation>&amp;Suivre le pointeur</translation>
+    </message>
+    <message>
+        <source>Save the profile as PNG, SVG or PDF</source>
+        <translation>Enregistrer le profil en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Enregistrer l&apos;image ...</translation>
+    </message>
+    <message>
+        <source>Velocity, gradient and certainty against depth</source>
+        <translation>Vitesse, gradient et certitude en fonction de la profondeur</translation>
     </message>
 </context>
 <context>
