@@ -1389,6 +1389,57 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::DrawingDialog</name>
+    <message>
+        <source>Lines to be exported</source>
+        <translation>Lignes à exporter</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines of velocity:</source>
+        <translation>&amp;Isolignes de vitesse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Velocities with blanks between them; each becomes lines through the section</source>
+        <translation>Vitesses séparées par des espaces&#xa0;; chacune devient des lignes à travers la coupe</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>&amp;Distance along the line and elevation</source>
+        <translation>&amp;Distance le long de la ligne et altitude</translation>
+    </message>
+    <message>
+        <source>A flat drawing: x is the distance along the line, y the elevation, in metres</source>
+        <translation>Un dessin plan&#xa0;: x est la distance le long de la ligne, y l&apos;altitude, en mètres</translation>
+    </message>
+    <message>
+        <source>&amp;Easting, northing and elevation on the map</source>
+        <translation>&amp;Est, nord et altitude sur la carte</translation>
+    </message>
+    <message>
+        <source>Lines in space by the geographic coordinates of the line, in metres</source>
+        <translation>Lignes dans l&apos;espace selon les coordonnées géographiques de la ligne, en mètres</translation>
+    </message>
+    <message>
+        <source>There is no section yet, and so there are no isolines.</source>
+        <translation>Il n&apos;y a pas encore de coupe, donc pas d&apos;isolignes.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map. Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>La ligne n&apos;a pas de place sur la carte. Indiquez-la avec Projet &gt; Définir les coordonnées géographiques ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a velocity.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une vitesse.</translation>
+    </message>
+    <message>
+        <source>A section has %1 isovalues at most.</source>
+        <translation>Une coupe a %1 isovaleurs au plus.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ElasticDialog</name>
     <message>
         <source>P and S together</source>
@@ -1655,6 +1706,101 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>The Z offset is not a number.</source>
         <translation>Le décalage Z n&apos;est pas un nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceDialog</name>
+    <message>
+        <source>Fence of several lines</source>
+        <translation>Panneaux de plusieurs lignes</translation>
+    </message>
+    <message>
+        <source>&amp;Lines:</source>
+        <translation>&amp;Lignes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Stand the sections of other projects beside this one; the projects stay as they are</source>
+        <translation>Placer les coupes d&apos;autres projets à côté de celle-ci&#xa0;; les projets restent inchangés</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>&amp;Ajouter des projets ...</translation>
+    </message>
+    <message>
+        <source>Take the line that is selected out of the fence</source>
+        <translation>Ôter des panneaux la ligne sélectionnée</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>Exagération &amp;verticale&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Save the view as a PNG picture</source>
+        <translation>Enregistrer la vue en image PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Enregistrer l&apos;image ...</translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation>&amp;Tout afficher</translation>
+    </message>
+    <message>
+        <source>Lines that stand in the fence: %1.</source>
+        <translation>Lignes présentes dans les panneaux&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation>Écartées&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>it has no position on the map</source>
+        <translation>elle n&apos;a pas de position sur la carte</translation>
+    </message>
+    <message>
+        <source>its position is in EPSG:%1, that of the others in EPSG:%2</source>
+        <translation>sa position est en EPSG:%1, celle des autres en EPSG:%2</translation>
+    </message>
+    <message>
+        <source>it has no geophones</source>
+        <translation>elle n&apos;a pas de géophones</translation>
+    </message>
+    <message>
+        <source>its first and last geophone are at one place of the map</source>
+        <translation>ses premier et dernier géophones sont au même endroit de la carte</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, why</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceView</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Sections at their places on the map</source>
+        <translation>Coupes à leur place sur la carte</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureSheetWidget</name>
+    <message>
+        <source>Figure</source>
+        <translation>Figure</translation>
     </message>
 </context>
 <context>
@@ -2211,6 +2357,47 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Layer 1, %1 m/s in the mean</source>
         <translation>Couche 1, %1 m/s en moyenne</translation>
     </message>
+    <message>
+        <source>Vertical gradient [1/s]</source>
+        <translation>Gradient vertical [1/s]</translation>
+    </message>
+    <message>
+        <source>Uncertainty [%]</source>
+        <translation>Incertitude [%]</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distance %1 m</translation>
+    </message>
+    <message>
+        <source>no section here</source>
+        <translation>pas de coupe ici</translation>
+    </message>
+    <message>
+        <source>surface at %1 m</source>
+        <translation>surface à %1 m</translation>
+    </message>
+    <message>
+        <source>shaded: 16 to 84 %</source>
+        <translation>ombré&#xa0;: 16 à 84&#xa0;%</translation>
+    </message>
+    <message>
+        <source>%1 with a gain of their own</source>
+        <comment>traces</comment>
+        <translation>%1 avec gain propre</translation>
+    </message>
+    <message>
+        <source>annotations outside the section: %1</source>
+        <translation>annotations hors de la coupe&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (not reached)</source>
+        <translation>%1 (non atteinte)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -2353,6 +2540,29 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Hold to known ground</source>
         <translation>Respecter le terrain connu</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FkView</name>
+    <message>
+        <source>Spectrum over wavenumber and frequency</source>
+        <translation>Spectre selon le nombre d&apos;onde et la fréquence</translation>
+    </message>
+    <message>
+        <source>No spectrum</source>
+        <translation>Pas de spectre</translation>
+    </message>
+    <message>
+        <source>Wavenumber along the line (1/m)</source>
+        <translation>Nombre d&apos;onde le long de la ligne (1/m)</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Fréquence (Hz)</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
     </message>
 </context>
 <context>
@@ -2506,6 +2716,34 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::GuidanceStrip</name>
+    <message>
+        <source>Guidance</source>
+        <translation>Guidage</translation>
+    </message>
+    <message>
+        <source>Show the steps from recordings to a section, and how they stand</source>
+        <translation>Afficher les étapes des enregistrements à la coupe, et leur état</translation>
+    </message>
+    <message>
+        <source>A click: %1</source>
+        <translation>Un clic&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>step, how it stands</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1. A click: %2</source>
+        <translation>%1. Un clic&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation>Ensuite&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
@@ -2575,6 +2813,13 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Search</source>
         <translation>Rechercher</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::HandleTrack</name>
+    <message>
+        <source>Handle %1</source>
+        <translation>Curseur %1</translation>
     </message>
 </context>
 <context>
@@ -2758,6 +3003,10 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Shot by geophone, and in the section along the rays</source>
         <translation>Par tir et géophone, et dans la coupe le long des rais</translation>
+    </message>
+    <message>
+        <source>Files to be written</source>
+        <translation>Fichiers à écrire</translation>
     </message>
 </context>
 <context>
@@ -3304,6 +3553,38 @@ de pointés</translation>
         <source>Elevation (m)</source>
         <translation>Altitude (m)</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Géophone %1</translation>
+    </message>
+    <message>
+        <source>x %1 m, %2 m across</source>
+        <translation>x %1 m, %2 m en travers</translation>
+    </message>
+    <message>
+        <source>%1 m east, %2 m north</source>
+        <translation>%1 m est, %2 m nord</translation>
+    </message>
+    <message>
+        <source>Across the line (m)</source>
+        <translation>En travers de la ligne (m)</translation>
+    </message>
+    <message>
+        <source>East of the first geophone (m)</source>
+        <translation>À l&apos;est du premier géophone (m)</translation>
+    </message>
+    <message>
+        <source>North of it (m)</source>
+        <translation>Au nord de celui-ci (m)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LossQuestion</name>
@@ -3338,6 +3619,53 @@ de pointés</translation>
     <message>
         <source>The survey changes. This will be removed (Undo brings it back):</source>
         <translation>Le levé change. Ceci sera supprimé («&#xa0;Défaire&#xa0;» le rétablit)&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MarkedIsolinesDialog</name>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolignes marquées</translation>
+    </message>
+    <message>
+        <source>Velocities that mean something, such as 1500 m/s for the water table. Their lines stand out from the section and carry their names.</source>
+        <translation>Vitesses qui ont un sens, comme 1500 m/s pour la nappe phréatique. Leurs lignes ressortent de la coupe et portent leur nom.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Épaisseur</translation>
+    </message>
+    <message>
+        <source>Mark another velocity</source>
+        <translation>Marquer une autre vitesse</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>Remove the line that is selected</source>
+        <translation>Supprimer la ligne sélectionnée</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>water table</source>
+        <translation>nappe phréatique</translation>
     </message>
 </context>
 <context>
@@ -3418,6 +3746,10 @@ de pointés</translation>
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Gain</translation>
     </message>
 </context>
 <context>
