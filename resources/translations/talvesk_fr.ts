@@ -7690,6 +7690,310 @@ Veuillez définir la position des géophones
         <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
         <translation>Dans ce profil, la vitesse de la couche 1 varie le long de la ligne et avec la profondeur&#xa0;; ici, c&apos;est partout sa moyenne, %1 m/s.</translation>
     </message>
+    <message>
+        <source>the first distance must be a number, and the EPSG code a whole number</source>
+        <translation>la première distance doit être un nombre, et le code EPSG un nombre entier</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>Impossible d&apos;écrire %1</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Filtre réjecteur</translation>
+    </message>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtre de vitesse</translation>
+    </message>
+    <message>
+        <source>the line has no place on the map; its geographic coordinates are missing</source>
+        <translation>la ligne n&apos;a pas de place sur la carte&#xa0;; ses coordonnées géographiques manquent</translation>
+    </message>
+    <message>
+        <source>two shot files of the survey would both become %1</source>
+        <translation>deux fichiers de tirs du levé deviendraient tous deux %1</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey; choose another folder</source>
+        <translation>%1 est l&apos;un des fichiers de tirs de ce levé&#xa0;; choisissez un autre dossier</translation>
+    </message>
+    <message>
+        <source>it holds several shots, whose traces may be mixed</source>
+        <translation>il contient plusieurs tirs, dont les traces peuvent être mêlées</translation>
+    </message>
+    <message>
+        <source>its traces are not those of the survey any more</source>
+        <translation>ses traces ne sont plus celles du levé</translation>
+    </message>
+    <message>
+        <source>miniSEED has no headers for picks</source>
+        <translation>miniSEED n&apos;a pas d&apos;en-têtes pour les pointés</translation>
+    </message>
+    <message>
+        <source>the survey has no shot files</source>
+        <translation>le levé n&apos;a pas de fichiers de tirs</translation>
+    </message>
+    <message>
+        <source>%1 was left out: %2</source>
+        <translation>%1 a été écarté&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 has no picks</source>
+        <translation>%1 n&apos;a pas de pointés</translation>
+    </message>
+    <message>
+        <source>%1 shots have no shot file of their own and were left out</source>
+        <translation>%1 tirs n&apos;ont pas de fichier de tirs à eux et ont été écartés</translation>
+    </message>
+    <message>
+        <source>bytes 233 to 236 of %1 trace headers held something else before</source>
+        <translation>les octets 233 à 236 de %1 en-têtes de trace contenaient auparavant autre chose</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 cannot be followed</source>
+        <translation>l&apos;en-tête de la trace %1 ne peut pas être suivi</translation>
+    </message>
+    <message>
+        <source>it has %1 traces, the survey %2 of them</source>
+        <translation>il a %1 traces, le levé en a %2</translation>
+    </message>
+    <message>
+        <source>it would grow too large</source>
+        <translation>il deviendrait trop grand</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 has no room for a pick</source>
+        <translation>l&apos;en-tête de la trace %1 n&apos;a pas de place pour un pointé</translation>
+    </message>
+    <message>
+        <source>it is SEG-Y of revision 2, whose trace headers have no bytes to spare</source>
+        <translation>c&apos;est du SEG-Y de révision 2, dont les en-têtes de trace n&apos;ont pas d&apos;octets libres</translation>
+    </message>
+    <message>
+        <source>it is not known by what the filtered copies of its traces were made</source>
+        <translation>on ne sait pas par quoi les copies filtrées de ses traces ont été faites</translation>
+    </message>
+    <message>
+        <source>marked isolines and what was drawn on its section are lost</source>
+        <translation>les isolignes marquées et ce qui a été dessiné sur sa coupe sont perdus</translation>
+    </message>
+    <message>
+        <source>the line lies straight on the map between its ends</source>
+        <translation>la ligne est droite sur la carte entre ses extrémités</translation>
+    </message>
+    <message>
+        <source>its vertices are no course of a line</source>
+        <translation>ses sommets ne forment pas le tracé d&apos;une ligne</translation>
+    </message>
+    <message>
+        <source>it belongs to another map position</source>
+        <translation>il appartient à une autre position sur la carte</translation>
+    </message>
+    <message>
+        <source>it tells of traces that are not there, or of filters that are not known</source>
+        <translation>il parle de traces qui n&apos;existent pas, ou de filtres inconnus</translation>
+    </message>
+    <message>
+        <source>%1 is no style file: %2</source>
+        <translation>%1 n&apos;est pas un fichier de style&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of Talvesk has written it</source>
+        <translation>une version plus récente de Talvesk l&apos;a écrit</translation>
+    </message>
+    <message>
+        <source>the place lies outside of %1</source>
+        <translation>l&apos;endroit est hors du domaine de %1</translation>
+    </message>
+    <message>
+        <source>it is not known which columns hold easting and northing, or longitude and latitude</source>
+        <translation>on ne sait pas quelles colonnes contiennent est et nord, ou longitude et latitude</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 rows, which is no table of a line</source>
+        <translation>%1 a plus de %2 lignes, ce n&apos;est pas un tableau d&apos;une ligne de géophones</translation>
+    </message>
+    <message>
+        <source>its text is too long</source>
+        <translation>son texte est trop long</translation>
+    </message>
+    <message>
+        <source>its colour is none</source>
+        <translation>sa couleur n&apos;en est pas une</translation>
+    </message>
+    <message>
+        <source>a line is %1 to %2 points wide</source>
+        <translation>une ligne a une épaisseur de %1 à %2 points</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygone</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>Sable</translation>
+    </message>
+    <message>
+        <source>Gravel</source>
+        <translation>Gravier</translation>
+    </message>
+    <message>
+        <source>Clay</source>
+        <translation>Argile</translation>
+    </message>
+    <message>
+        <source>Silt</source>
+        <translation>Limon</translation>
+    </message>
+    <message>
+        <source>Rock</source>
+        <translation>Roche</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remblai</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Eau</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>it is neither text nor line nor polygon</source>
+        <translation>ce n&apos;est ni un texte, ni une ligne, ni un polygone</translation>
+    </message>
+    <message>
+        <source>its pattern is none</source>
+        <translation>son motif n&apos;en est pas un</translation>
+    </message>
+    <message>
+        <source>it says nothing</source>
+        <translation>elle ne dit rien</translation>
+    </message>
+    <message>
+        <source>a text stands at one point, not at %1</source>
+        <translation>un texte se trouve en un point, non en %1</translation>
+    </message>
+    <message>
+        <source>it has %1 points and needs %2 at least</source>
+        <translation>elle a %1 points et il en faut %2 au moins</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 m is no place of a section</source>
+        <translation>%1 m, %2 m n&apos;est pas un endroit d&apos;une coupe</translation>
+    </message>
+    <message>
+        <source>a text is %1 to %2 points high</source>
+        <translation>un texte a une hauteur de %1 à %2 points</translation>
+    </message>
+    <message>
+        <source>a section holds %1 marked isolines and %2 annotations with %3 points at most</source>
+        <translation>une coupe contient au plus %1 isolignes marquées et %2 annotations avec %3 points</translation>
+    </message>
+    <message>
+        <source>marked isoline %1</source>
+        <translation>isoligne marquée %1</translation>
+    </message>
+    <message>
+        <source>annotation %1</source>
+        <translation>annotation %1</translation>
+    </message>
+    <message>
+        <source>band-pass from %1 Hz, order %2, to %3 Hz, order %4</source>
+        <translation>passe-bande de %1 Hz, ordre %2, à %3 Hz, ordre %4</translation>
+    </message>
+    <message>
+        <source>low-pass %1 Hz, order %2</source>
+        <translation>passe-bas %1 Hz, ordre %2</translation>
+    </message>
+    <message>
+        <source>high-pass %1 Hz, order %2</source>
+        <translation>passe-haut %1 Hz, ordre %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s and more</source>
+        <translation>%1 m/s et plus</translation>
+    </message>
+    <message>
+        <source>forth along the line</source>
+        <translation>vers l&apos;avant le long de la ligne</translation>
+    </message>
+    <message>
+        <source>back along the line</source>
+        <translation>vers l&apos;arrière le long de la ligne</translation>
+    </message>
+    <message>
+        <source>both ways</source>
+        <translation>dans les deux sens</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, pass (taper %3 %)</source>
+        <translation>les vitesses de %1, %2, passent (apodisation %3&#xa0;%)</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, are rejected (taper %3 %)</source>
+        <translation>les vitesses de %1, %2, sont rejetées (apodisation %3&#xa0;%)</translation>
+    </message>
+    <message>
+        <source>notches at %1 Hz and multiples, %2 in all, quality %3</source>
+        <translation>filtre réjecteur à %1 Hz et multiples, %2 en tout, qualité %3</translation>
+    </message>
+    <message>
+        <source>two geophones at least need easting and northing</source>
+        <translation>il faut les coordonnées est et nord de deux géophones au moins</translation>
+    </message>
+    <message>
+        <source>the first and the last geophone are at one place on the map, which gives the line no direction</source>
+        <translation>le premier et le dernier géophone sont au même endroit de la carte, ce qui ne donne aucune direction à la ligne</translation>
+    </message>
+    <message>
+        <source>a trace cannot have a gain of %1, only one from %2 to %3</source>
+        <translation>une trace ne peut pas avoir un gain de %1, seulement de %2 à %3</translation>
+    </message>
+    <message>
+        <source>traces with a gain of %1: %2</source>
+        <translation>traces avec un gain de %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>geophone %1</source>
+        <translation>géophone %1</translation>
+    </message>
+    <message>
+        <source>geophones %1</source>
+        <translation>géophones %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>ligne %1</translation>
+    </message>
+    <message>
+        <source>lines %1</source>
+        <translation>lignes %1</translation>
+    </message>
+    <message>
+        <source>lines %1 and %2 more</source>
+        <translation>lignes %1 et %2 autres</translation>
+    </message>
+    <message>
+        <source>Not used, for no geophone or shot of the survey is there: %1</source>
+        <translation>Non utilisé, car aucun géophone ni tir du levé ne s&apos;y trouve&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not used, for a row above is of the same geophone or shot: %1</source>
+        <translation>Non utilisé, car une ligne plus haut est du même géophone ou tir&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
