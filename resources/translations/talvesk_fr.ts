@@ -7994,6 +7994,314 @@ Veuillez définir la position des géophones
         <source>Not used, for a row above is of the same geophone or shot: %1</source>
         <translation>Non utilisé, car une ligne plus haut est du même géophone ou tir&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Without a row, placed among those that have one by the distances so far: %1</source>
+        <translation>Sans ligne de tableau, placé parmi ceux qui en ont une selon les distances actuelles&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, left where nothing tells how they stand to the others: %1</source>
+        <translation>Sans ligne de tableau, laissé là où rien ne dit sa place par rapport aux autres&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Without an elevation, raised to the line between the others: %1</source>
+        <translation>Sans altitude, placé sur la droite entre les autres&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1 m: %2</source>
+        <translation>Plus loin de la ligne que la moitié de l&apos;espacement de %1 m&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Hardly apart from their neighbours: %1</source>
+        <translation>À peine distincts de leurs voisins&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The line runs back to %1; an exchanged row or number?</source>
+        <translation>La ligne revient en arrière à %1&#xa0;; une ligne de tableau ou un numéro échangés&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Not as far from the geophone before as expected: %1</source>
+        <translation>Pas à la distance attendue du géophone précédent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>fewer than two geophones of the survey have a row in the table</source>
+        <translation>moins de deux géophones du levé ont une ligne dans le tableau</translation>
+    </message>
+    <message>
+        <source>lengths along the ground need the elevation of every geophone; the table lacks %1</source>
+        <translation>les longueurs le long du terrain exigent l&apos;altitude de chaque géophone&#xa0;; il manque au tableau %1</translation>
+    </message>
+    <message>
+        <source>its sample interval is not known</source>
+        <translation>son pas d&apos;échantillonnage n&apos;est pas connu</translation>
+    </message>
+    <message>
+        <source>it has samples that are no numbers</source>
+        <translation>elle a des échantillons qui ne sont pas des nombres</translation>
+    </message>
+    <message>
+        <source>a notch needs a frequency, a multiple and a quality above 0</source>
+        <translation>un filtre réjecteur exige une fréquence, un multiple et une qualité supérieurs à 0</translation>
+    </message>
+    <message>
+        <source>it is sampled too slowly for %1 Hz</source>
+        <translation>l&apos;échantillonnage est trop lent pour %1 Hz</translation>
+    </message>
+    <message>
+        <source>it is shorter than one period of %1 Hz</source>
+        <translation>elle est plus courte qu&apos;une période de %1 Hz</translation>
+    </message>
+    <message>
+        <source>trace %1 has another length or sample interval than trace 1</source>
+        <translation>la trace %1 a une autre longueur ou un autre pas d&apos;échantillonnage que la trace 1</translation>
+    </message>
+    <message>
+        <source>trace %1 has samples that are no numbers</source>
+        <translation>la trace %1 a des échantillons qui ne sont pas des nombres</translation>
+    </message>
+    <message>
+        <source>it has no samples, or no known sample interval</source>
+        <translation>il n&apos;a pas d&apos;échantillons, ou pas de pas d&apos;échantillonnage connu</translation>
+    </message>
+    <message>
+        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
+        <translation>ses géophones ne sont pas régulièrement espacés&#xa0;: la trace %1 à %2 m est à %3 m de la précédente, la distance habituelle est de %4 m</translation>
+    </message>
+    <message>
+        <source>it has fewer than %1 traces</source>
+        <translation>il a moins de %1 traces</translation>
+    </message>
+    <message>
+        <source>the positions of its geophones are not known</source>
+        <translation>les positions de ses géophones ne sont pas connues</translation>
+    </message>
+    <message>
+        <source>of %1 places along its line %2 have no trace</source>
+        <translation>sur %1 emplacements le long de sa ligne, %2 n&apos;ont pas de trace</translation>
+    </message>
+    <message>
+        <source>shot %1: of %2 places along its line %3 have no trace, or a killed one; they count as zero, beside them the filter is less sharp</source>
+        <translation>tir %1&#xa0;: sur %2 emplacements le long de sa ligne, %3 n&apos;ont pas de trace, ou une trace neutralisée&#xa0;; ils comptent comme nuls, à côté le filtre est moins net</translation>
+    </message>
+    <message>
+        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
+        <translation>la vitesse la plus lente, %1 m/s, doit être supérieure à 0 et inférieure à la plus rapide, %2 m/s</translation>
+    </message>
+    <message>
+        <source>the taper must be 0 or more and less than 100 percent of a limit</source>
+        <translation>l&apos;apodisation doit être d&apos;au moins 0 et de moins de 100 pour cent d&apos;une limite</translation>
+    </message>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Positions levées</translation>
+    </message>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolignes marquées</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotations</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Appliquer un style</translation>
+    </message>
+    <message>
+        <source>shot %1 has no trace %2</source>
+        <translation>le tir %1 n&apos;a pas de trace %2</translation>
+    </message>
+    <message>
+        <source>no recordings yet</source>
+        <translation>pas encore d&apos;enregistrements</translation>
+    </message>
+    <message>
+        <source>times of %1 shots, without recordings</source>
+        <translation>temps de %1 tirs, sans enregistrements</translation>
+    </message>
+    <message>
+        <source>recordings that begin before their shot: %1</source>
+        <translation>enregistrements qui commencent avant leur tir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>recordings that were read with warnings: %1</source>
+        <translation>enregistrements lus avec des avertissements&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>shots: %1</source>
+        <translation>tirs&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no geophones yet</source>
+        <translation>pas encore de géophones</translation>
+    </message>
+    <message>
+        <source>positions are missing or cannot be</source>
+        <translation>des positions manquent ou sont impossibles</translation>
+    </message>
+    <message>
+        <source>things that look wrong in the positions: %1</source>
+        <translation>points qui semblent faux dans les positions&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>geophones: %1, shots: %2</source>
+        <translation>géophones&#xa0;: %1, tirs&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>no picks yet</source>
+        <translation>pas encore de pointés</translation>
+    </message>
+    <message>
+        <source>shots without picks: %1</source>
+        <translation>tirs sans pointés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 traces have a pick</source>
+        <translation>seulement %1 traces sur %2 ont un pointé</translation>
+    </message>
+    <message>
+        <source>%1 picks on %2 traces</source>
+        <translation>%1 pointés sur %2 traces</translation>
+    </message>
+    <message>
+        <source>no picks to check yet</source>
+        <translation>pas encore de pointés à vérifier</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks that wait for confirmation are doubtful</source>
+        <translation>%1 pointés en attente de confirmation sur %2 sont douteux</translation>
+    </message>
+    <message>
+        <source>of %1 picks nothing is known that could speak against them</source>
+        <translation>de %1 pointés, rien n&apos;est connu qui pourrait les contredire</translation>
+    </message>
+    <message>
+        <source>none of the %1 picks that wait for confirmation is doubtful</source>
+        <translation>aucun des %1 pointés en attente de confirmation n&apos;est douteux</translation>
+    </message>
+    <message>
+        <source>no pick waits for confirmation</source>
+        <translation>aucun pointé n&apos;attend de confirmation</translation>
+    </message>
+    <message>
+        <source>no grid yet</source>
+        <translation>pas encore de grille</translation>
+    </message>
+    <message>
+        <source>the grid has no cells</source>
+        <translation>la grille n&apos;a pas de cellules</translation>
+    </message>
+    <message>
+        <source>shots and geophones beyond the grid: %1</source>
+        <translation>tirs et géophones hors de la grille&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 x %2 cells</source>
+        <translation>%1 x %2 cellules</translation>
+    </message>
+    <message>
+        <source>%1, the usual starting model</source>
+        <translation>%1, le modèle initial habituel</translation>
+    </message>
+    <message>
+        <source>%1, a starting model with layers: %2</source>
+        <translation>%1, un modèle initial en couches&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>no inversion yet</source>
+        <translation>pas encore d&apos;inversion</translation>
+    </message>
+    <message>
+        <source>the section is older than the picks</source>
+        <translation>la coupe est antérieure aux pointés</translation>
+    </message>
+    <message>
+        <source>the known ground is other than that of the section</source>
+        <translation>le terrain connu n&apos;est pas celui de la coupe</translation>
+    </message>
+    <message>
+        <source>it was stopped before its end</source>
+        <translation>elle a été arrêtée avant la fin</translation>
+    </message>
+    <message>
+        <source>chi-square is %1 and not near 1</source>
+        <translation>le khi-deux est de %1 et non proche de 1</translation>
+    </message>
+    <message>
+        <source>the section is inverted</source>
+        <translation>la coupe est inversée</translation>
+    </message>
+    <message>
+        <source>RMSE %1 ms of %2 picks</source>
+        <translation>RMSE %1 ms de %2 pointés</translation>
+    </message>
+    <message>
+        <source>no section yet</source>
+        <translation>pas encore de coupe</translation>
+    </message>
+    <message>
+        <source>the layered profile is older than the picks</source>
+        <translation>le profil en couches est antérieur aux pointés</translation>
+    </message>
+    <message>
+        <source>the certainty is older than the picks</source>
+        <translation>la certitude est antérieure aux pointés</translation>
+    </message>
+    <message>
+        <source>the section was smoothed after its inversion</source>
+        <translation>la coupe a été lissée après son inversion</translation>
+    </message>
+    <message>
+        <source>the section lies beyond its certainty</source>
+        <translation>la coupe dépasse sa certitude</translation>
+    </message>
+    <message>
+        <source>how certain the section is is not known</source>
+        <translation>la certitude de la coupe n&apos;est pas connue</translation>
+    </message>
+    <message>
+        <source>the section and its certainty are there</source>
+        <translation>la coupe et sa certitude sont là</translation>
+    </message>
+    <message>
+        <source>it has no section</source>
+        <translation>elle n&apos;a pas de coupe</translation>
+    </message>
+    <message>
+        <source>no cell of its section is drawn</source>
+        <translation>aucune cellule de sa coupe n&apos;est dessinée</translation>
+    </message>
+    <message>
+        <source>its line is nowhere on the map</source>
+        <translation>sa ligne n&apos;est nulle part sur la carte</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Neutraliser les traces</translation>
+    </message>
+    <message>
+        <source>Revive traces</source>
+        <translation>Rétablir les traces</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Inverser la polarité</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Mute des traces</translation>
+    </message>
+    <message>
+        <source>Mute traces no more</source>
+        <translation>Lever le mute des traces</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplifier les traces</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Atténuer les traces</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -8084,6 +8392,61 @@ Veuillez définir la position des géophones
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::NotchDialog</name>
+    <message>
+        <source>Notch</source>
+        <translation>Filtre réjecteur</translation>
+    </message>
+    <message>
+        <source>Takes the hum of power lines out of the filtered copy. Arrivals stay where they are.</source>
+        <translation>Ôte de la copie filtrée le bourdonnement du secteur. Les arrivées restent à leur place.</translation>
+    </message>
+    <message>
+        <source>&amp;Power line (Hz):</source>
+        <translation>&amp;Secteur (Hz)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>50 Hz in most of the world, 60 Hz in North America; some railways have 16.7 Hz</source>
+        <translation>50 Hz presque partout dans le monde, 60 Hz en Amérique du Nord&#xa0;; certains chemins de fer utilisent 16,7 Hz</translation>
+    </message>
+    <message>
+        <source>&amp;Multiples:</source>
+        <translation>&amp;Multiples&#xa0;:</translation>
+    </message>
+    <message>
+        <source>So many multiples are taken out, the frequency itself among them, as far as the record has them</source>
+        <translation>Nombre de multiples ôtés, dont la fréquence elle-même, autant que l&apos;enregistrement en contient</translation>
+    </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Qualité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The frequency over the width of every notch at 3 dB: larger ones take less of the signal, and less of hum that wanders</source>
+        <translation>La fréquence sur la largeur de chaque coupure à 3 dB&#xa0;: plus grande, elle ôte moins de signal, et moins d&apos;un bourdonnement instable</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Appliquer le filtre à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>O&amp;riginales</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Fi&amp;ltrées</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Le filtre s&apos;applique à tous les tirs.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Le filtre s&apos;applique au tir %1.</translation>
     </message>
 </context>
 <context>
@@ -8368,6 +8731,10 @@ Veuillez définir la position des géophones
     <message>
         <source>&amp;Keep the program&apos;s rules</source>
         <translation>&amp;Garder les règles du programme</translation>
+    </message>
+    <message>
+        <source>Files and what each reading finds in them</source>
+        <translation>Fichiers et ce que chaque lecture y trouve</translation>
     </message>
 </context>
 <context>
@@ -8671,6 +9038,10 @@ Veuillez définir la position des géophones
     <message>
         <source>in memory, for %1</source>
         <translation>en mémoire, car %1</translation>
+    </message>
+    <message>
+        <source>Filtered copy by:</source>
+        <translation>Copie filtrée par&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -10189,6 +10560,22 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
         <translation>Les premières arrivées ont été attribuées à des couches, et les vitesses et profondeurs des réfracteurs ajustées à toutes à la fois&#xa0;: de sorte que les temps directs et réfractés calculés à travers les couches, qui peuvent varier le long de la ligne, soient ceux des pointés.</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>These shots have filtered copies beside their recordings, made as listed, one filter after the other.</source>
+        <translation>Ces tirs ont des copies filtrées à côté de leurs enregistrements, faites comme indiqué, un filtre après l&apos;autre.</translation>
+    </message>
+    <message>
+        <source>Filters of the recordings</source>
+        <translation>Filtres des enregistrements</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -10321,10 +10708,6 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>Errors of the picks</source>
         <translation>Erreurs des pointés</translation>
-    </message>
-    <message>
-        <source>&amp;Colour shot:</source>
-        <translation>&amp;Colorer le tir&#xa0;:</translation>
     </message>
     <message>
         <source>Whose dots have a colour of their own in the picture over the offset</source>
@@ -10473,6 +10856,10 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>The picture cannot be made.</source>
         <translation>L&apos;image ne peut pas être produite.</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur shot:</source>
+        <translation>Co&amp;lorer le tir&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -10998,6 +11385,70 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>Velocity section</source>
         <translation>Coupe de vitesse</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distance %1 m</translation>
+    </message>
+    <message>
+        <source>Horizontal %1 m</source>
+        <translation>Horizontale %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical %1 m</source>
+        <translation>Verticale %1 m</translation>
+    </message>
+    <message>
+        <source>Slope %1°</source>
+        <translation>Pente %1°</translation>
+    </message>
+    <message>
+        <source>Click the next point; Esc ends</source>
+        <translation>Cliquez le point suivant&#xa0;; Échap termine</translation>
+    </message>
+    <message>
+        <source>Double click or Enter ends it, Backspace takes a point back</source>
+        <translation>Un double-clic ou Entrée termine, Retour arrière retire un point</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Mesurer</translation>
+    </message>
+    <message>
+        <source>Drag between two points: distance, horizontal, vertical and slope; Esc ends</source>
+        <translation>Glisser entre deux points&#xa0;: distance, horizontale, verticale et pente&#xa0;; Échap termine</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Dessiner</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
+        <translation>Cliquer des textes, des lignes et des zones de terrain sur la coupe&#xa0;; Échap termine</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Click where a text is to stand on the section</source>
+        <translation>Cliquez à l&apos;endroit de la coupe où placer un texte</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Click the points of a line on the section</source>
+        <translation>Cliquez les points d&apos;une ligne sur la coupe</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygone</translation>
+    </message>
+    <message>
+        <source>Click the corners of an area of the section</source>
+        <translation>Cliquez les sommets d&apos;une zone de la coupe</translation>
     </message>
 </context>
 <context>
