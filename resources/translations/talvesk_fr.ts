@@ -11709,6 +11709,407 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     </message>
 </context>
 <context>
+    <name>talvesk::StepTexts</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Enregistrements</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Géométrie</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Pointés</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Contrôle</translation>
+    </message>
+    <message>
+        <source>Grid and start</source>
+        <translation>Grille et départ</translation>
+    </message>
+    <message>
+        <source>Inversion</source>
+        <translation>Inversion</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>fait</translation>
+    </message>
+    <message>
+        <source>doubtful</source>
+        <translation>douteux</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>manquant</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>périmé</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>step, reason</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPointsTable</name>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tir %1</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Géophone %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>row of a table</comment>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, name</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <comment>of a table</comment>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Across
+(m)</source>
+        <translation>En travers
+(m)</translation>
+    </message>
+    <message>
+        <source>x before
+(m)</source>
+        <translation>x avant
+(m)</translation>
+    </message>
+    <message>
+        <source>x
+(m)</source>
+        <translation>x
+(m)</translation>
+    </message>
+    <message>
+        <source>change
+(m)</source>
+        <translation>variation
+(m)</translation>
+    </message>
+    <message>
+        <source>z before
+(m)</source>
+        <translation>z avant
+(m)</translation>
+    </message>
+    <message>
+        <source>z
+(m)</source>
+        <translation>z
+(m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPositionsDialog</name>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Positions levées</translation>
+    </message>
+    <message>
+        <source>&amp;Other table ...</source>
+        <translation>Autre ta&amp;bleau ...</translation>
+    </message>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Premières lignes du tableau</translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation>Colonnes du tableau</translation>
+    </message>
+    <message>
+        <source>S&amp;eparator</source>
+        <translation>&amp;Séparateur</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Séparateur</translation>
+    </message>
+    <message>
+        <source>C&amp;oordinates</source>
+        <translation>&amp;Coordonnées</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordonnées</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Nom</translation>
+    </message>
+    <message>
+        <source>Column of names</source>
+        <translation>Colonne des noms</translation>
+    </message>
+    <message>
+        <source>Eas&amp;ting</source>
+        <translation>Es&amp;t</translation>
+    </message>
+    <message>
+        <source>Column of eastings or longitudes</source>
+        <translation>Colonne des coordonnées est ou des longitudes</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>T&amp;ype</translation>
+    </message>
+    <message>
+        <source>Column of kinds</source>
+        <translation>Colonne des types</translation>
+    </message>
+    <message>
+        <source>No&amp;rthing</source>
+        <translation>Nor&amp;d</translation>
+    </message>
+    <message>
+        <source>Column of northings or latitudes</source>
+        <translation>Colonne des coordonnées nord ou des latitudes</translation>
+    </message>
+    <message>
+        <source>Ele&amp;vation</source>
+        <translation>Alt&amp;itude</translation>
+    </message>
+    <message>
+        <source>Column of elevations</source>
+        <translation>Colonne des altitudes</translation>
+    </message>
+    <message>
+        <source>EPS&amp;G code</source>
+        <translation>Code EPS&amp;G</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>Code EPSG</translation>
+    </message>
+    <message>
+        <source>The code of the reference system of easting and northing, for example 32632 for UTM zone 32 N. Without it the line gets no place on the map. Longitude and latitude are projected into it, without a code into their UTM zone.</source>
+        <translation>Le code du système de référence des coordonnées est et nord, par exemple 32632 pour UTM zone 32 N. Sans lui, la ligne n&apos;a pas de place sur la carte. Longitude et latitude y sont projetées, et sans code dans leur zone UTM.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Ligne</translation>
+    </message>
+    <message>
+        <source>Shape of the line</source>
+        <translation>Forme de la ligne</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>Longue&amp;ur</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Longueur le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Names &amp;are</source>
+        <translation>Les noms s&amp;ont</translation>
+    </message>
+    <message>
+        <source>What names are</source>
+        <translation>Ce que sont les noms</translation>
+    </message>
+    <message>
+        <source>First &amp;distance</source>
+        <translation>Pre&amp;mière distance</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone</source>
+        <translation>Distance du premier géophone</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
+        <translation>Distance du premier géophone levé, en mètres. Vide&#xa0;: celle d&apos;à présent.</translation>
+    </message>
+    <message>
+        <source>Count from the other &amp;end</source>
+        <translation>Compter depuis l&apos;autre e&amp;xtrémité</translation>
+    </message>
+    <message>
+        <source>&amp;Positions</source>
+        <translation>&amp;Positions</translation>
+    </message>
+    <message>
+        <source>Positions before and after</source>
+        <translation>Positions avant et après</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>C&amp;arte</translation>
+    </message>
+    <message>
+        <source>Geophones and shots from above</source>
+        <translation>Géophones et tirs vus de dessus</translation>
+    </message>
+    <message>
+        <source>O&amp;ffsets</source>
+        <translation>Dépo&amp;rts</translation>
+    </message>
+    <message>
+        <source>Offsets across the line</source>
+        <translation>Déports en travers de la ligne</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>À vérifier</translation>
+    </message>
+    <message>
+        <source>as in the table</source>
+        <translation>comme dans le tableau</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>tabulation</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>point-virgule</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>virgule</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>espace</translation>
+    </message>
+    <message>
+        <source>Easting, northing</source>
+        <translation>Est, nord</translation>
+    </message>
+    <message>
+        <source>Longitude, latitude</source>
+        <translation>Longitude, latitude</translation>
+    </message>
+    <message>
+        <source>Straight, fitted to the geophones</source>
+        <translation>Droite, ajustée aux géophones</translation>
+    </message>
+    <message>
+        <source>Straight, from the first geophone to the last one</source>
+        <translation>Droite, du premier au dernier géophone</translation>
+    </message>
+    <message>
+        <source>Bent, from geophone to geophone</source>
+        <translation>Brisée, de géophone en géophone</translation>
+    </message>
+    <message>
+        <source>Horizontal, as on the map</source>
+        <translation>Horizontale, comme sur la carte</translation>
+    </message>
+    <message>
+        <source>Along the ground, on slopes</source>
+        <translation>Le long du terrain, selon la pente</translation>
+    </message>
+    <message>
+        <source>numbers of geophones and shots, from 1</source>
+        <translation>numéros de géophones et de tirs, à partir de 1</translation>
+    </message>
+    <message>
+        <source>without a meaning: rows are in order</source>
+        <translation>sans signification&#xa0;: les lignes sont dans l&apos;ordre</translation>
+    </message>
+    <message>
+        <source>distances along the line as it is now</source>
+        <translation>distances le long de la ligne telle qu&apos;elle est</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>column of a table</comment>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>colonne %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>column, name</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Longi&amp;tude</source>
+        <translation>Longi&amp;tude</translation>
+    </message>
+    <message>
+        <source>Latit&amp;ude</source>
+        <translation>Latitu&amp;de</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of the table have no position and are not used.</source>
+        <translation>
+            <numerusform>%n ligne du tableau n&apos;a pas de position et n&apos;est pas utilisée.</numerusform>
+            <numerusform>%n lignes du tableau n&apos;ont pas de position et ne sont pas utilisées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
+        <translation>Avec une ligne&#xa0;: %1 géophones sur %2, %3 tirs sur %4. Les géophones sont à %5 m en travers de la ligne (RMS), au plus %6 m (%7)&#xa0;; leur espacement est de %8 m.</translation>
+    </message>
+    <message>
+        <source>No reference system</source>
+        <translation>Aucun système de référence</translation>
+    </message>
+    <message>
+        <source>EPSG:%1, %2</source>
+        <translation>EPSG:%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: the zone of the first place</source>
+        <translation>%1&#xa0;: la zone du premier endroit</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the place of the line on the map stays as it is now, where it may not fit any more.</source>
+        <translation>Sans code EPSG, la place de la ligne sur la carte reste celle d&apos;à présent, où elle ne convient peut-être plus.</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the line gets no place on the map.</source>
+        <translation>Sans code EPSG, la ligne n&apos;a pas de place sur la carte.</translation>
+    </message>
+    <message>
+        <source>On OK the line lies on the map from the first geophone to the last one, on the line that is shown.</source>
+        <translation>Avec OK, la ligne est placée sur la carte du premier géophone au dernier, sur la ligne affichée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>On OK the line lies on the map along %n point(s), and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</source>
+        <translation>
+            <numerusform>Avec OK, la ligne est placée sur la carte le long de %n point, et le KML la suit. Les rapports et la boîte de dialogue des coordonnées géographiques donnent ses deux extrémités.</numerusform>
+            <numerusform>Avec OK, la ligne est placée sur la carte le long de %n points, et le KML la suit. Les rapports et la boîte de dialogue des coordonnées géographiques donnent ses deux extrémités.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::TableTexts</name>
     <message>
         <source>The first line, &quot;%1&quot;, was taken for a heading and skipped.</source>
