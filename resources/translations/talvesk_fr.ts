@@ -14290,6 +14290,310 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Web page (*.html)</source>
         <translation>Page web (*.html)</translation>
     </message>
+    <message>
+        <source>Mends of the selected traces</source>
+        <translation>Corrections des traces sélectionnées</translation>
+    </message>
+    <message>
+        <source>Marked isolines ...</source>
+        <translation>Isolignes marquées ...</translation>
+    </message>
+    <message>
+        <source>Name velocities, such as 1500 m/s for the water table, whose lines stand out from the section</source>
+        <translation>Nommer des vitesses, comme 1500 m/s pour la nappe phréatique, dont les lignes ressortent de la coupe</translation>
+    </message>
+    <message>
+        <source>Annotations ...</source>
+        <translation>Annotations ...</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground drawn on the section</source>
+        <translation>Textes, lignes et zones de terrain dessinés sur la coupe</translation>
+    </message>
+    <message>
+        <source>Depth profile ...</source>
+        <translation>Profil de profondeur ...</translation>
+    </message>
+    <message>
+        <source>Velocity, its gradient and how sure it is against depth, below the mouse</source>
+        <translation>Vitesse, gradient et degré de certitude en fonction de la profondeur, sous la souris</translation>
+    </message>
+    <message>
+        <source>Fence of several lines ...</source>
+        <translation>Panneaux de plusieurs lignes ...</translation>
+    </message>
+    <message>
+        <source>Sections of this and other projects at their places on the map, in one view</source>
+        <translation>Coupes de ce projet et d&apos;autres à leur place sur la carte, dans une même vue</translation>
+    </message>
+    <message>
+        <source>Save style ...</source>
+        <translation>Enregistrer le style ...</translation>
+    </message>
+    <message>
+        <source>Save palette, range, contours, exaggeration, switches and marked isolines for other surveys</source>
+        <translation>Enregistrer palette, plage, isolignes, exagération, options d&apos;affichage et isolignes marquées pour d&apos;autres levés</translation>
+    </message>
+    <message>
+        <source>Apply style ...</source>
+        <translation>Appliquer un style ...</translation>
+    </message>
+    <message>
+        <source>Let this section look as the one whose style was saved</source>
+        <translation>Donner à cette coupe l&apos;aspect de celle dont le style a été enregistré</translation>
+    </message>
+    <message>
+        <source>Show annotations</source>
+        <translation>Afficher les annotations</translation>
+    </message>
+    <message>
+        <source>Draw marked isolines, texts, lines and areas of ground over the section</source>
+        <translation>Dessiner isolignes marquées, textes, lignes et zones de terrain sur la coupe</translation>
+    </message>
+    <message>
+        <source>Surveyed positions ...</source>
+        <translation>Positions levées ...</translation>
+    </message>
+    <message>
+        <source>Make distances along the line and its place on the map of a table of coordinates</source>
+        <translation>Tirer d&apos;un tableau de coordonnées les distances le long de la ligne et sa place sur la carte</translation>
+    </message>
+    <message>
+        <source>Find command...</source>
+        <translation>Chercher une commande...</translation>
+    </message>
+    <message>
+        <source>Find any command by its words and give it</source>
+        <translation>Trouver une commande par ses mots et la lancer</translation>
+    </message>
+    <message>
+        <source>Shot files with picks ...</source>
+        <translation>Fichiers de tirs avec pointés ...</translation>
+    </message>
+    <message>
+        <source>Copy the shot files into another folder, with the picks in their trace headers</source>
+        <translation>Copier les fichiers de tirs dans un autre dossier, avec les pointés dans leurs en-têtes de trace</translation>
+    </message>
+    <message>
+        <source>Drawing as DXF ...</source>
+        <translation>Dessin DXF ...</translation>
+    </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
+        <translation>Exporter surface, isolignes, réfracteurs, géophones et tirs en dessin pour la CAO</translation>
+    </message>
+    <message>
+        <source>Section as curtain on the map ...</source>
+        <translation>Coupe en rideau sur la carte ...</translation>
+    </message>
+    <message>
+        <source>Export the cells with their velocities where they lie on the map, as a VTK grid or a table</source>
+        <translation>Exporter les cellules avec leurs vitesses à leur place sur la carte, en grille VTK ou en tableau</translation>
+    </message>
+    <message>
+        <source>Line and isolines as GeoPackage ...</source>
+        <translation>Ligne et isolignes en GeoPackage ...</translation>
+    </message>
+    <message>
+        <source>Export line, geophones, shots, isolines, refractors and depths of isovalues as layers for maps</source>
+        <translation>Exporter ligne, géophones, tirs, isolignes, réfracteurs et profondeurs des isovaleurs en couches cartographiques</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Neutraliser les traces</translation>
+    </message>
+    <message>
+        <source>The selected traces count for nothing and have no pick, or do again (key K); what was recorded is kept</source>
+        <translation>Les traces sélectionnées ne comptent pas et n&apos;ont pas de pointé, ou comptent de nouveau (touche K)&#xa0;; ce qui a été enregistré est conservé</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Inverser la polarité</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces change their sign (key P)</source>
+        <translation>Les échantillons des traces sélectionnées changent de signe (touche P)</translation>
+    </message>
+    <message>
+        <source>Mute traces before...</source>
+        <translation>Mute des traces avant...</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces before a time become zero (key U mutes before the mouse, Shift+U no more)</source>
+        <translation>Les échantillons des traces sélectionnées avant un temps deviennent nuls (touche U&#xa0;: mute avant la souris, Maj+U&#xa0;: sans mute)</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplifier les traces</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become larger, 1.5 or 2 times in turn (key })</source>
+        <translation>Les échantillons des traces sélectionnées sont agrandis, tour à tour de 1,5 ou 2 fois (touche })</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Atténuer les traces</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become smaller (key {)</source>
+        <translation>Les échantillons des traces sélectionnées sont réduits (touche {)</translation>
+    </message>
+    <message>
+        <source>Notch...</source>
+        <translation>Filtre réjecteur...</translation>
+    </message>
+    <message>
+        <source>Take the hum of power lines, 50 or 60 Hz and multiples, out of the filtered copy</source>
+        <translation>Ôter de la copie filtrée le bourdonnement du secteur, 50 ou 60 Hz et multiples</translation>
+    </message>
+    <message>
+        <source>Velocity filter...</source>
+        <translation>Filtre de vitesse...</translation>
+    </message>
+    <message>
+        <source>Keep or take out waves by their apparent velocity, in the filtered copy</source>
+        <translation>Conserver ou ôter des ondes selon leur vitesse apparente, dans la copie filtrée</translation>
+    </message>
+    <message>
+        <source>Annotations wait for the inversion to end.</source>
+        <translation>Les annotations attendent la fin de l&apos;inversion.</translation>
+    </message>
+    <message>
+        <source>It cannot work now.</source>
+        <translation>La commande n&apos;est pas possible maintenant.</translation>
+    </message>
+    <message>
+        <source>Save depth profile</source>
+        <translation>Enregistrer le profil de profondeur</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>Images (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the layered profile was built.</source>
+        <translation>Les pointés ont changé depuis la construction du profil en couches.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map.</source>
+        <translation>La ligne n&apos;a pas de place sur la carte.</translation>
+    </message>
+    <message>
+        <source>Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Indiquez-la avec Projet &gt; Définir les coordonnées géographiques ...</translation>
+    </message>
+    <message>
+        <source>Export DXF Drawing</source>
+        <translation>Exporter le dessin DXF</translation>
+    </message>
+    <message>
+        <source>DXF drawing (*.dxf);;All Files (*)</source>
+        <translation>Dessin DXF (*.dxf);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export GeoPackage</source>
+        <translation>Exporter le GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage (*.gpkg);;All Files (*)</source>
+        <translation>GeoPackage (*.gpkg);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export Curtain</source>
+        <translation>Exporter le rideau</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;Table of cells (*.csv);;All Files (*)</source>
+        <translation>Grille VTK non structurée (*.vtu);;Tableau des cellules (*.csv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>This survey</source>
+        <translation>Ce levé</translation>
+    </message>
+    <message>
+        <source>Add projects to the fence</source>
+        <translation>Ajouter des projets aux panneaux</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Projets Talvesk (*.tvsk);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Save picture of the fence</source>
+        <translation>Enregistrer l&apos;image des panneaux</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Images (*.png)</translation>
+    </message>
+    <message>
+        <source>Applying notches ...</source>
+        <translation>Application du filtre réjecteur ...</translation>
+    </message>
+    <message>
+        <source>Applying the velocity filter ...</source>
+        <translation>Application du filtre de vitesse ...</translation>
+    </message>
+    <message>
+        <source>Folder for the shot files with picks</source>
+        <translation>Dossier des fichiers de tirs avec pointés</translation>
+    </message>
+    <message>
+        <source>In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files it is whole microseconds in bytes 233 to 236 of the trace header. Both count from the shot.</source>
+        <translation>Dans les fichiers SEG-2, un pointé est FIRST_BREAK en secondes&#xa0;; dans les fichiers SEG-Y et SU, ce sont des microsecondes entières dans les octets 233 à 236 de l&apos;en-tête de trace. Les deux comptent à partir du tir.</translation>
+    </message>
+    <message>
+        <source>Shot files with picks</source>
+        <translation>Fichiers de tirs avec pointés</translation>
+    </message>
+    <message>
+        <source>Save style</source>
+        <translation>Enregistrer le style</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle)</source>
+        <translation>Styles Talvesk (*.tvstyle)</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Appliquer un style</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle);;All files (*)</source>
+        <translation>Styles Talvesk (*.tvstyle);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The section looks as before.</source>
+        <translation>La coupe garde son aspect.</translation>
+    </message>
+    <message>
+        <source>Style of %1</source>
+        <translation>Style de %1</translation>
+    </message>
+    <message>
+        <source>Geophones and shots stand where they were surveyed.</source>
+        <translation>Les géophones et les tirs sont là où ils ont été levés.</translation>
+    </message>
+    <message>
+        <source>Open surveyed positions</source>
+        <translation>Ouvrir des positions levées</translation>
+    </message>
+    <message>
+        <source>Tables of coordinates (*.csv *.tsv *.txt *.dat *.xyz *.asc);;All files (*)</source>
+        <translation>Tableaux de coordonnées (*.csv *.tsv *.txt *.dat *.xyz *.asc);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The positions cannot be read.</source>
+        <translation>Les positions ne peuvent pas être lues.</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Mute des traces</translation>
+    </message>
+    <message>
+        <source>The selected traces are zero before (ms); 0: from nowhere</source>
+        <translation>Les traces sélectionnées sont nulles avant (ms)&#xa0;; 0&#xa0;: nulle part</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -14459,6 +14763,113 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Layers: %1 ms</source>
         <translation>Couches&#xa0;: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::VelocityFilterDialog</name>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtre de vitesse</translation>
+    </message>
+    <message>
+        <source>Keeps or takes out waves by their apparent velocity along the line, in the filtered copy. Drag the sides of the wedge, or type velocities.</source>
+        <translation>Conserve ou ôte des ondes selon leur vitesse apparente le long de la ligne, dans la copie filtrée. Faites glisser les côtés de l&apos;éventail, ou saisissez des vitesses.</translation>
+    </message>
+    <message>
+        <source>&amp;Slowest (m/s):</source>
+        <translation>Plus len&amp;te (m/s)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Least apparent velocity of the wedge; the full line in the picture</source>
+        <translation>Plus petite vitesse apparente de l&apos;éventail&#xa0;; la ligne pleine de l&apos;image</translation>
+    </message>
+    <message>
+        <source>&amp;Fastest (m/s):</source>
+        <translation>Plus ra&amp;pide (m/s)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Greatest apparent velocity of the wedge, 0 for no limit; the dashed line in the picture</source>
+        <translation>Plus grande vitesse apparente de l&apos;éventail, 0 pour aucune limite&#xa0;; la ligne en tirets de l&apos;image</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Ondes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Forth is towards greater distances along the line</source>
+        <translation>Vers l&apos;avant, c&apos;est vers les distances croissantes le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Both ways</source>
+        <translation>Dans les deux sens</translation>
+    </message>
+    <message>
+        <source>Forth along the line</source>
+        <translation>Vers l&apos;avant le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Back along the line</source>
+        <translation>Vers l&apos;arrière le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Wedge:</source>
+        <translation>Éventail&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Passes</source>
+        <translation>Pa&amp;sse</translation>
+    </message>
+    <message>
+        <source>Is re&amp;jected</source>
+        <translation>Est re&amp;jeté</translation>
+    </message>
+    <message>
+        <source>&amp;Taper (%):</source>
+        <translation>Apo&amp;disation (%)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How far beside the wedge the filter sets in, in percent of its slowness there</source>
+        <translation>Sur quelle largeur à côté de l&apos;éventail le filtre s&apos;installe, en pour cent de la lenteur à cet endroit</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Appliquer le filtre à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>O&amp;riginales</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Fi&amp;ltrées</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Afficher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>A&amp;vant</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Après</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Le filtre s&apos;applique à tous les tirs.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Le filtre s&apos;applique au tir %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1 cannot be filtered: %2</source>
+        <translation>Le tir %1 ne peut pas être filtré&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>Aucun filtre appliqué.</translation>
     </message>
 </context>
 <context>
@@ -14823,6 +15234,18 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Open the place in a map service</source>
         <translation>Ouvrir le lieu dans un service de cartes</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotations</translation>
+    </message>
+    <message>
+        <source>Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Touches&#xa0;: gauche et droite vont de pointé en pointé, haut et bas de tir en tir, + et - zooment, 0 affiche tout.</translation>
+    </message>
+    <message>
+        <source>Point at a mark to read it. Keys: left and right go from mark to mark, + and - zoom, 0 shows all.</source>
+        <translation>Survolez un repère pour le lire. Touches&#xa0;: gauche et droite vont de repère en repère, + et - zooment, 0 affiche tout.</translation>
     </message>
 </context>
 <context>
@@ -15258,10 +15681,6 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Aucun échantillon, seulement des pointés</translation>
     </message>
     <message>
-        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
-        <translation>Traces %1 à %2&#xa0;: C confirme, Suppr supprime, Échap quitte</translation>
-    </message>
-    <message>
         <source>Open shot files with Ctrl+O or drop them here</source>
         <translation>Ouvrez des fichiers de tirs avec Ctrl+O ou déposez-les ici</translation>
     </message>
@@ -15280,6 +15699,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Error %1 ms</source>
         <translation>Erreur %1 ms</translation>
+    </message>
+    <message>
+        <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
+        <translation>Traces %1&#xa0;: C confirme, Suppr supprime, K neutralise, P inverse, U mute, Échap quitte</translation>
     </message>
 </context>
 <context>
@@ -15552,6 +15975,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Another fit, from: %1</source>
         <translation>Autre ajustement, à partir de&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Iterations and misfits</source>
+        <translation>Itérations et écarts</translation>
     </message>
 </context>
 <context>
