@@ -49,6 +49,277 @@
     </message>
 </context>
 <context>
+    <name>talvesk::AnnotationsDialog</name>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotations</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground that are drawn on the section. They can be drawn with the mouse as well: Draw, above the section.</source>
+        <translation>Textes, lignes et zones de terrain dessinés sur la coupe. Ils peuvent aussi être dessinés à la souris&#xa0;: Dessiner, au-dessus de la coupe.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Épaisseur</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Taille du texte</translation>
+    </message>
+    <message>
+        <source>Add a text in the middle of the section</source>
+        <translation>Ajouter un texte au milieu de la coupe</translation>
+    </message>
+    <message>
+        <source>Add &amp;text</source>
+        <translation>Ajouter un &amp;texte</translation>
+    </message>
+    <message>
+        <source>Add a line in the middle of the section</source>
+        <translation>Ajouter une ligne au milieu de la coupe</translation>
+    </message>
+    <message>
+        <source>Add &amp;line</source>
+        <translation>Ajouter une &amp;ligne</translation>
+    </message>
+    <message>
+        <source>Add an area in the middle of the section</source>
+        <translation>Ajouter une zone au milieu de la coupe</translation>
+    </message>
+    <message>
+        <source>Add &amp;polygon</source>
+        <translation>Ajouter un &amp;polygone</translation>
+    </message>
+    <message>
+        <source>Remove the annotation that is selected</source>
+        <translation>Supprimer l&apos;annotation sélectionnée</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Let those after it be drawn over it</source>
+        <translation>Laisser les suivantes se dessiner par-dessus</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Points of the annotation that is selected</source>
+        <translation>Points de l&apos;annotation sélectionnée</translation>
+    </message>
+    <message>
+        <source>Distance [m]</source>
+        <translation>Distance [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [m]</source>
+        <translation>Altitude [m]</translation>
+    </message>
+    <message>
+        <source>Add a point behind the one that is selected</source>
+        <translation>Ajouter un point après celui qui est sélectionné</translation>
+    </message>
+    <message>
+        <source>Add p&amp;oint</source>
+        <translation>Ajouter un p&amp;oint</translation>
+    </message>
+    <message>
+        <source>Remove the point that is selected</source>
+        <translation>Supprimer le point sélectionné</translation>
+    </message>
+    <message>
+        <source>Remove po&amp;int</source>
+        <translation>Supprimer le po&amp;int</translation>
+    </message>
+    <message>
+        <source>Annotations: %1.</source>
+        <translation>Annotations&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Discard what was changed?</source>
+        <translation>Abandonner les modifications&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignPage</name>
+    <message>
+        <source>RMS misfit [ms]</source>
+        <translation>Écart quadratique moyen [ms]</translation>
+    </message>
+    <message>
+        <source>RMS misfit [%]</source>
+        <translation>Écart quadratique moyen [%]</translation>
+    </message>
+    <message>
+        <source>Chi-square</source>
+        <translation>Khi-deux</translation>
+    </message>
+    <message>
+        <source>Length covered [m]</source>
+        <translation>Longueur couverte [m]</translation>
+    </message>
+    <message>
+        <source>Depth reached [m]</source>
+        <translation>Profondeur atteinte [m]</translation>
+    </message>
+    <message>
+        <source>Cells with rays [%]</source>
+        <translation>Cellules avec rais [%]</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Tirs</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>Not inverted yet</source>
+        <translation>Pas encore inversée</translation>
+    </message>
+    <message>
+        <source>The misfit of the section is not known</source>
+        <translation>L&apos;écart de la coupe n&apos;est pas connu</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the inversion</source>
+        <translation>Les pointés ont changé depuis l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Smoothed after the inversion</source>
+        <translation>Lissée après l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Client</source>
+        <translation>Client</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Lines: %1; with a section: %2; failed: %3</source>
+        <translation>Lignes&#xa0;: %1&#xa0;; avec une coupe&#xa0;: %2&#xa0;; en échec&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
+        <translation>Les petites coupes sont étirées pour remplir leur place&#xa0;; leurs couleurs sont les mêmes pour toutes les lignes. Les écarts sont ceux des coupes affichées, le long de nouveaux rais.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Coupe</translation>
+    </message>
+    <message>
+        <source>Picks used</source>
+        <translation>Pointés utilisés</translation>
+    </message>
+    <message>
+        <source>Inverted</source>
+        <translation>Inversée</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Failed:</source>
+        <translation>En échec&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Velocity section of %1</source>
+        <translation>Coupe de vitesse de %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Map of the lines</source>
+        <translation>Carte des lignes</translation>
+    </message>
+    <message>
+        <source>Numbers are those of the table; each stands at the first geophone of its line.</source>
+        <translation>Les numéros sont ceux du tableau&#xa0;; chacun se trouve au premier géophone de sa ligne.</translation>
+    </message>
+    <message>
+        <source>Lines whose position is not known: %1</source>
+        <translation>Lignes dont la position n&apos;est pas connue&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Campaign</source>
+        <translation>Campagne</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Aller au contenu</translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CertaintyDialog</name>
     <message>
         <source>Certainty</source>
@@ -272,6 +543,21 @@
     </message>
 </context>
 <context>
+    <name>talvesk::ColorField</name>
+    <message>
+        <source>Choose another colour</source>
+        <translation>Choisir une autre couleur</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Couleur %1</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ColorPaletteWidget</name>
     <message>
         <source>Handles of the gradient</source>
@@ -366,6 +652,145 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source> of %1</source>
         <translation> sur %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandReasons</name>
+    <message>
+        <source>There are no shots yet.</source>
+        <translation>Il n&apos;y a pas encore de tirs.</translation>
+    </message>
+    <message>
+        <source>There are no recordings yet.</source>
+        <translation>Il n&apos;y a pas encore d&apos;enregistrements.</translation>
+    </message>
+    <message>
+        <source>No shot is in view.</source>
+        <translation>Aucun tir n&apos;est affiché.</translation>
+    </message>
+    <message>
+        <source>No shot with traces is in view.</source>
+        <translation>Aucun tir avec traces n&apos;est affiché.</translation>
+    </message>
+    <message>
+        <source>Nothing is mended.</source>
+        <translation>Rien n&apos;est corrigé.</translation>
+    </message>
+    <message>
+        <source>The shot in view has no filtered copy.</source>
+        <translation>Le tir affiché n&apos;a pas de copie filtrée.</translation>
+    </message>
+    <message>
+        <source>No recording begins before its shot.</source>
+        <translation>Aucun enregistrement ne commence avant son tir.</translation>
+    </message>
+    <message>
+        <source>The selected traces have no picks.</source>
+        <translation>Les traces sélectionnées n&apos;ont pas de pointés.</translation>
+    </message>
+    <message>
+        <source>No pick of the selected traces waits for confirmation.</source>
+        <translation>Aucun pointé des traces sélectionnées n&apos;attend de confirmation.</translation>
+    </message>
+    <message>
+        <source>There are no shots yet, or no picks are shown.</source>
+        <translation>Il n&apos;y a pas encore de tirs, ou aucun pointé n&apos;est affiché.</translation>
+    </message>
+    <message>
+        <source>There is no earlier view.</source>
+        <translation>Il n&apos;y a pas de vue précédente.</translation>
+    </message>
+    <message>
+        <source>There is no later view.</source>
+        <translation>Il n&apos;y a pas de vue suivante.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Il n&apos;y a rien à défaire.</translation>
+    </message>
+    <message>
+        <source>There is nothing to do again.</source>
+        <translation>Il n&apos;y a rien à refaire.</translation>
+    </message>
+    <message>
+        <source>There are no geophones and no shots yet.</source>
+        <translation>Il n&apos;y a pas encore de géophones ni de tirs.</translation>
+    </message>
+    <message>
+        <source>There is nothing to save.</source>
+        <translation>Il n&apos;y a rien à enregistrer.</translation>
+    </message>
+    <message>
+        <source>There is no grid yet.</source>
+        <translation>Il n&apos;y a pas encore de grille.</translation>
+    </message>
+    <message>
+        <source>There is no inversion yet.</source>
+        <translation>Il n&apos;y a pas encore d&apos;inversion.</translation>
+    </message>
+    <message>
+        <source>There is no layered profile yet.</source>
+        <translation>Il n&apos;y a pas encore de profil en couches.</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the ground under the grid.</source>
+        <translation>On ne sait rien du terrain sous la grille.</translation>
+    </message>
+    <message>
+        <source>There is no section yet.</source>
+        <translation>Il n&apos;y a pas encore de coupe.</translation>
+    </message>
+    <message>
+        <source>There is no line of geophones yet.</source>
+        <translation>Il n&apos;y a pas encore de ligne de géophones.</translation>
+    </message>
+    <message>
+        <source>There is no grid under a line of geophones yet.</source>
+        <translation>Il n&apos;y a pas encore de grille sous une ligne de géophones.</translation>
+    </message>
+    <message>
+        <source>There is nothing to make pictures of yet.</source>
+        <translation>Il n&apos;y a encore rien à mettre en images.</translation>
+    </message>
+    <message>
+        <source>How certain the section is has not been computed.</source>
+        <translation>La certitude de la coupe n&apos;a pas été calculée.</translation>
+    </message>
+    <message>
+        <source>It cannot work yet.</source>
+        <translation>La commande n&apos;est pas encore possible.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CommandSearchDialog</name>
+    <message>
+        <source>Find Command</source>
+        <translation>Chercher une commande</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>Mots de la commande</translation>
+    </message>
+    <message>
+        <source>Type words of a command</source>
+        <translation>Saisissez des mots d&apos;une commande</translation>
+    </message>
+    <message>
+        <source>Commands found</source>
+        <translation>Commandes trouvées</translation>
+    </message>
+    <message>
+        <source>No command has these words.</source>
+        <translation>Aucune commande ne contient ces mots.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>why a command cannot work, its menu</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>not now: %1</source>
+        <translation>pas maintenant&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -526,6 +951,41 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>of all picks as they are %1 ms</source>
         <translation>de tous les pointés tels quels %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::DepthProfileDialog</name>
+    <message>
+        <source>Depth profile</source>
+        <translation>Profil de profondeur</translation>
+    </message>
+    <message>
+        <source>&amp;Distance:</source>
+        <translation>&amp;Distance&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Where along the line the profile stands</source>
+        <translation>Où se trouve le profil le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Show the ground below the mouse as it moves over the section</source>
+        <translation>Montrer le terrain sous la souris lorsqu&apos;elle se déplace sur la coupe</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the pointer</source>
+        <translation>&amp;Suivre le pointeur</translation>
+    </message>
+    <message>
+        <source>Save the profile as PNG, SVG or PDF</source>
+        <translation>Enregistrer le profil en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Enregistrer l&apos;image ...</translation>
+    </message>
+    <message>
+        <source>Velocity, gradient and certainty against depth</source>
+        <translation>Vitesse, gradient et certitude en fonction de la profondeur</translation>
     </message>
 </context>
 <context>
@@ -929,6 +1389,57 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::DrawingDialog</name>
+    <message>
+        <source>Lines to be exported</source>
+        <translation>Lignes à exporter</translation>
+    </message>
+    <message>
+        <source>&amp;Isolines of velocity:</source>
+        <translation>&amp;Isolignes de vitesse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Velocities with blanks between them; each becomes lines through the section</source>
+        <translation>Vitesses séparées par des espaces&#xa0;; chacune devient des lignes à travers la coupe</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>&amp;Distance along the line and elevation</source>
+        <translation>&amp;Distance le long de la ligne et altitude</translation>
+    </message>
+    <message>
+        <source>A flat drawing: x is the distance along the line, y the elevation, in metres</source>
+        <translation>Un dessin plan&#xa0;: x est la distance le long de la ligne, y l&apos;altitude, en mètres</translation>
+    </message>
+    <message>
+        <source>&amp;Easting, northing and elevation on the map</source>
+        <translation>&amp;Est, nord et altitude sur la carte</translation>
+    </message>
+    <message>
+        <source>Lines in space by the geographic coordinates of the line, in metres</source>
+        <translation>Lignes dans l&apos;espace selon les coordonnées géographiques de la ligne, en mètres</translation>
+    </message>
+    <message>
+        <source>There is no section yet, and so there are no isolines.</source>
+        <translation>Il n&apos;y a pas encore de coupe, donc pas d&apos;isolignes.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map. Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>La ligne n&apos;a pas de place sur la carte. Indiquez-la avec Projet &gt; Définir les coordonnées géographiques ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a velocity.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une vitesse.</translation>
+    </message>
+    <message>
+        <source>A section has %1 isovalues at most.</source>
+        <translation>Une coupe a %1 isovaleurs au plus.</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::ElasticDialog</name>
     <message>
         <source>P and S together</source>
@@ -1195,6 +1706,101 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>The Z offset is not a number.</source>
         <translation>Le décalage Z n&apos;est pas un nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceDialog</name>
+    <message>
+        <source>Fence of several lines</source>
+        <translation>Panneaux de plusieurs lignes</translation>
+    </message>
+    <message>
+        <source>&amp;Lines:</source>
+        <translation>&amp;Lignes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Stand the sections of other projects beside this one; the projects stay as they are</source>
+        <translation>Placer les coupes d&apos;autres projets à côté de celle-ci&#xa0;; les projets restent inchangés</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>&amp;Ajouter des projets ...</translation>
+    </message>
+    <message>
+        <source>Take the line that is selected out of the fence</source>
+        <translation>Ôter des panneaux la ligne sélectionnée</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>Exagération &amp;verticale&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Save the view as a PNG picture</source>
+        <translation>Enregistrer la vue en image PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>&amp;Enregistrer l&apos;image ...</translation>
+    </message>
+    <message>
+        <source>Show &amp;all</source>
+        <translation>&amp;Tout afficher</translation>
+    </message>
+    <message>
+        <source>Lines that stand in the fence: %1.</source>
+        <translation>Lignes présentes dans les panneaux&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1.</source>
+        <translation>Écartées&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>it has no position on the map</source>
+        <translation>elle n&apos;a pas de position sur la carte</translation>
+    </message>
+    <message>
+        <source>its position is in EPSG:%1, that of the others in EPSG:%2</source>
+        <translation>sa position est en EPSG:%1, celle des autres en EPSG:%2</translation>
+    </message>
+    <message>
+        <source>it has no geophones</source>
+        <translation>elle n&apos;a pas de géophones</translation>
+    </message>
+    <message>
+        <source>its first and last geophone are at one place of the map</source>
+        <translation>ses premier et dernier géophones sont au même endroit de la carte</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, why</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FenceView</name>
+    <message>
+        <source>N</source>
+        <comment>north</comment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Sections at their places on the map</source>
+        <translation>Coupes à leur place sur la carte</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FigureSheetWidget</name>
+    <message>
+        <source>Figure</source>
+        <translation>Figure</translation>
     </message>
 </context>
 <context>
@@ -1751,6 +2357,47 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Layer 1, %1 m/s in the mean</source>
         <translation>Couche 1, %1 m/s en moyenne</translation>
     </message>
+    <message>
+        <source>Vertical gradient [1/s]</source>
+        <translation>Gradient vertical [1/s]</translation>
+    </message>
+    <message>
+        <source>Uncertainty [%]</source>
+        <translation>Incertitude [%]</translation>
+    </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distance %1 m</translation>
+    </message>
+    <message>
+        <source>no section here</source>
+        <translation>pas de coupe ici</translation>
+    </message>
+    <message>
+        <source>surface at %1 m</source>
+        <translation>surface à %1 m</translation>
+    </message>
+    <message>
+        <source>shaded: 16 to 84 %</source>
+        <translation>ombré&#xa0;: 16 à 84&#xa0;%</translation>
+    </message>
+    <message>
+        <source>%1 with a gain of their own</source>
+        <comment>traces</comment>
+        <translation>%1 avec gain propre</translation>
+    </message>
+    <message>
+        <source>annotations outside the section: %1</source>
+        <translation>annotations hors de la coupe&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 m/s</source>
+        <translation>%1 m/s</translation>
+    </message>
+    <message>
+        <source>%1 (not reached)</source>
+        <translation>%1 (non atteinte)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -1893,6 +2540,29 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Hold to known ground</source>
         <translation>Respecter le terrain connu</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::FkView</name>
+    <message>
+        <source>Spectrum over wavenumber and frequency</source>
+        <translation>Spectre selon le nombre d&apos;onde et la fréquence</translation>
+    </message>
+    <message>
+        <source>No spectrum</source>
+        <translation>Pas de spectre</translation>
+    </message>
+    <message>
+        <source>Wavenumber along the line (1/m)</source>
+        <translation>Nombre d&apos;onde le long de la ligne (1/m)</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>Fréquence (Hz)</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
     </message>
 </context>
 <context>
@@ -2046,6 +2716,34 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     </message>
 </context>
 <context>
+    <name>talvesk::GuidanceStrip</name>
+    <message>
+        <source>Guidance</source>
+        <translation>Guidage</translation>
+    </message>
+    <message>
+        <source>Show the steps from recordings to a section, and how they stand</source>
+        <translation>Afficher les étapes des enregistrements à la coupe, et leur état</translation>
+    </message>
+    <message>
+        <source>A click: %1</source>
+        <translation>Un clic&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>step, how it stands</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1. A click: %2</source>
+        <translation>%1. Un clic&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation>Ensuite&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::GuideWindow</name>
     <message>
         <source>User guide</source>
@@ -2115,6 +2813,13 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Search</source>
         <translation>Rechercher</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::HandleTrack</name>
+    <message>
+        <source>Handle %1</source>
+        <translation>Curseur %1</translation>
     </message>
 </context>
 <context>
@@ -2298,6 +3003,10 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Shot by geophone, and in the section along the rays</source>
         <translation>Par tir et géophone, et dans la coupe le long des rais</translation>
+    </message>
+    <message>
+        <source>Files to be written</source>
+        <translation>Fichiers à écrire</translation>
     </message>
 </context>
 <context>
@@ -2844,6 +3553,38 @@ de pointés</translation>
         <source>Elevation (m)</source>
         <translation>Altitude (m)</translation>
     </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Geophones</source>
+        <translation>Géophones</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Géophone %1</translation>
+    </message>
+    <message>
+        <source>x %1 m, %2 m across</source>
+        <translation>x %1 m, %2 m en travers</translation>
+    </message>
+    <message>
+        <source>%1 m east, %2 m north</source>
+        <translation>%1 m est, %2 m nord</translation>
+    </message>
+    <message>
+        <source>Across the line (m)</source>
+        <translation>En travers de la ligne (m)</translation>
+    </message>
+    <message>
+        <source>East of the first geophone (m)</source>
+        <translation>À l&apos;est du premier géophone (m)</translation>
+    </message>
+    <message>
+        <source>North of it (m)</source>
+        <translation>Au nord de celui-ci (m)</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::LossQuestion</name>
@@ -2878,6 +3619,53 @@ de pointés</translation>
     <message>
         <source>The survey changes. This will be removed (Undo brings it back):</source>
         <translation>Le levé change. Ceci sera supprimé («&#xa0;Défaire&#xa0;» le rétablit)&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::MarkedIsolinesDialog</name>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolignes marquées</translation>
+    </message>
+    <message>
+        <source>Velocities that mean something, such as 1500 m/s for the water table. Their lines stand out from the section and carry their names.</source>
+        <translation>Vitesses qui ont un sens, comme 1500 m/s pour la nappe phréatique. Leurs lignes ressortent de la coupe et portent leur nom.</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Velocity [m/s]</source>
+        <translation>Vitesse [m/s]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Épaisseur</translation>
+    </message>
+    <message>
+        <source>Mark another velocity</source>
+        <translation>Marquer une autre vitesse</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>Remove the line that is selected</source>
+        <translation>Supprimer la ligne sélectionnée</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>water table</source>
+        <translation>nappe phréatique</translation>
     </message>
 </context>
 <context>
@@ -2958,6 +3746,10 @@ de pointés</translation>
         <source>%1: %2</source>
         <comment>shot number, file name</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Gain</translation>
     </message>
 </context>
 <context>
@@ -6898,6 +7690,618 @@ Veuillez définir la position des géophones
         <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
         <translation>Dans ce profil, la vitesse de la couche 1 varie le long de la ligne et avec la profondeur&#xa0;; ici, c&apos;est partout sa moyenne, %1 m/s.</translation>
     </message>
+    <message>
+        <source>the first distance must be a number, and the EPSG code a whole number</source>
+        <translation>la première distance doit être un nombre, et le code EPSG un nombre entier</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>Impossible d&apos;écrire %1</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Filtre réjecteur</translation>
+    </message>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtre de vitesse</translation>
+    </message>
+    <message>
+        <source>the line has no place on the map; its geographic coordinates are missing</source>
+        <translation>la ligne n&apos;a pas de place sur la carte&#xa0;; ses coordonnées géographiques manquent</translation>
+    </message>
+    <message>
+        <source>two shot files of the survey would both become %1</source>
+        <translation>deux fichiers de tirs du levé deviendraient tous deux %1</translation>
+    </message>
+    <message>
+        <source>%1 is one of the shot files of this survey; choose another folder</source>
+        <translation>%1 est l&apos;un des fichiers de tirs de ce levé&#xa0;; choisissez un autre dossier</translation>
+    </message>
+    <message>
+        <source>it holds several shots, whose traces may be mixed</source>
+        <translation>il contient plusieurs tirs, dont les traces peuvent être mêlées</translation>
+    </message>
+    <message>
+        <source>its traces are not those of the survey any more</source>
+        <translation>ses traces ne sont plus celles du levé</translation>
+    </message>
+    <message>
+        <source>miniSEED has no headers for picks</source>
+        <translation>miniSEED n&apos;a pas d&apos;en-têtes pour les pointés</translation>
+    </message>
+    <message>
+        <source>the survey has no shot files</source>
+        <translation>le levé n&apos;a pas de fichiers de tirs</translation>
+    </message>
+    <message>
+        <source>%1 was left out: %2</source>
+        <translation>%1 a été écarté&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 has no picks</source>
+        <translation>%1 n&apos;a pas de pointés</translation>
+    </message>
+    <message>
+        <source>%1 shots have no shot file of their own and were left out</source>
+        <translation>%1 tirs n&apos;ont pas de fichier de tirs à eux et ont été écartés</translation>
+    </message>
+    <message>
+        <source>bytes 233 to 236 of %1 trace headers held something else before</source>
+        <translation>les octets 233 à 236 de %1 en-têtes de trace contenaient auparavant autre chose</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 cannot be followed</source>
+        <translation>l&apos;en-tête de la trace %1 ne peut pas être suivi</translation>
+    </message>
+    <message>
+        <source>it has %1 traces, the survey %2 of them</source>
+        <translation>il a %1 traces, le levé en a %2</translation>
+    </message>
+    <message>
+        <source>it would grow too large</source>
+        <translation>il deviendrait trop grand</translation>
+    </message>
+    <message>
+        <source>the header of trace %1 has no room for a pick</source>
+        <translation>l&apos;en-tête de la trace %1 n&apos;a pas de place pour un pointé</translation>
+    </message>
+    <message>
+        <source>it is SEG-Y of revision 2, whose trace headers have no bytes to spare</source>
+        <translation>c&apos;est du SEG-Y de révision 2, dont les en-têtes de trace n&apos;ont pas d&apos;octets libres</translation>
+    </message>
+    <message>
+        <source>it is not known by what the filtered copies of its traces were made</source>
+        <translation>on ne sait pas par quoi les copies filtrées de ses traces ont été faites</translation>
+    </message>
+    <message>
+        <source>marked isolines and what was drawn on its section are lost</source>
+        <translation>les isolignes marquées et ce qui a été dessiné sur sa coupe sont perdus</translation>
+    </message>
+    <message>
+        <source>the line lies straight on the map between its ends</source>
+        <translation>la ligne est droite sur la carte entre ses extrémités</translation>
+    </message>
+    <message>
+        <source>its vertices are no course of a line</source>
+        <translation>ses sommets ne forment pas le tracé d&apos;une ligne</translation>
+    </message>
+    <message>
+        <source>it belongs to another map position</source>
+        <translation>il appartient à une autre position sur la carte</translation>
+    </message>
+    <message>
+        <source>it tells of traces that are not there, or of filters that are not known</source>
+        <translation>il parle de traces qui n&apos;existent pas, ou de filtres inconnus</translation>
+    </message>
+    <message>
+        <source>%1 is no style file: %2</source>
+        <translation>%1 n&apos;est pas un fichier de style&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>a newer version of Talvesk has written it</source>
+        <translation>une version plus récente de Talvesk l&apos;a écrit</translation>
+    </message>
+    <message>
+        <source>the place lies outside of %1</source>
+        <translation>l&apos;endroit est hors du domaine de %1</translation>
+    </message>
+    <message>
+        <source>it is not known which columns hold easting and northing, or longitude and latitude</source>
+        <translation>on ne sait pas quelles colonnes contiennent est et nord, ou longitude et latitude</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 rows, which is no table of a line</source>
+        <translation>%1 a plus de %2 lignes, ce n&apos;est pas un tableau d&apos;une ligne de géophones</translation>
+    </message>
+    <message>
+        <source>its text is too long</source>
+        <translation>son texte est trop long</translation>
+    </message>
+    <message>
+        <source>its colour is none</source>
+        <translation>sa couleur n&apos;en est pas une</translation>
+    </message>
+    <message>
+        <source>a line is %1 to %2 points wide</source>
+        <translation>une ligne a une épaisseur de %1 à %2 points</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygone</translation>
+    </message>
+    <message>
+        <source>Sand</source>
+        <translation>Sable</translation>
+    </message>
+    <message>
+        <source>Gravel</source>
+        <translation>Gravier</translation>
+    </message>
+    <message>
+        <source>Clay</source>
+        <translation>Argile</translation>
+    </message>
+    <message>
+        <source>Silt</source>
+        <translation>Limon</translation>
+    </message>
+    <message>
+        <source>Rock</source>
+        <translation>Roche</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remblai</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Eau</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>it is neither text nor line nor polygon</source>
+        <translation>ce n&apos;est ni un texte, ni une ligne, ni un polygone</translation>
+    </message>
+    <message>
+        <source>its pattern is none</source>
+        <translation>son motif n&apos;en est pas un</translation>
+    </message>
+    <message>
+        <source>it says nothing</source>
+        <translation>elle ne dit rien</translation>
+    </message>
+    <message>
+        <source>a text stands at one point, not at %1</source>
+        <translation>un texte se trouve en un point, non en %1</translation>
+    </message>
+    <message>
+        <source>it has %1 points and needs %2 at least</source>
+        <translation>elle a %1 points et il en faut %2 au moins</translation>
+    </message>
+    <message>
+        <source>%1 m, %2 m is no place of a section</source>
+        <translation>%1 m, %2 m n&apos;est pas un endroit d&apos;une coupe</translation>
+    </message>
+    <message>
+        <source>a text is %1 to %2 points high</source>
+        <translation>un texte a une hauteur de %1 à %2 points</translation>
+    </message>
+    <message>
+        <source>a section holds %1 marked isolines and %2 annotations with %3 points at most</source>
+        <translation>une coupe contient au plus %1 isolignes marquées et %2 annotations avec %3 points</translation>
+    </message>
+    <message>
+        <source>marked isoline %1</source>
+        <translation>isoligne marquée %1</translation>
+    </message>
+    <message>
+        <source>annotation %1</source>
+        <translation>annotation %1</translation>
+    </message>
+    <message>
+        <source>band-pass from %1 Hz, order %2, to %3 Hz, order %4</source>
+        <translation>passe-bande de %1 Hz, ordre %2, à %3 Hz, ordre %4</translation>
+    </message>
+    <message>
+        <source>low-pass %1 Hz, order %2</source>
+        <translation>passe-bas %1 Hz, ordre %2</translation>
+    </message>
+    <message>
+        <source>high-pass %1 Hz, order %2</source>
+        <translation>passe-haut %1 Hz, ordre %2</translation>
+    </message>
+    <message>
+        <source>%1 m/s and more</source>
+        <translation>%1 m/s et plus</translation>
+    </message>
+    <message>
+        <source>forth along the line</source>
+        <translation>vers l&apos;avant le long de la ligne</translation>
+    </message>
+    <message>
+        <source>back along the line</source>
+        <translation>vers l&apos;arrière le long de la ligne</translation>
+    </message>
+    <message>
+        <source>both ways</source>
+        <translation>dans les deux sens</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, pass (taper %3 %)</source>
+        <translation>les vitesses de %1, %2, passent (apodisation %3&#xa0;%)</translation>
+    </message>
+    <message>
+        <source>velocities of %1, %2, are rejected (taper %3 %)</source>
+        <translation>les vitesses de %1, %2, sont rejetées (apodisation %3&#xa0;%)</translation>
+    </message>
+    <message>
+        <source>notches at %1 Hz and multiples, %2 in all, quality %3</source>
+        <translation>filtre réjecteur à %1 Hz et multiples, %2 en tout, qualité %3</translation>
+    </message>
+    <message>
+        <source>two geophones at least need easting and northing</source>
+        <translation>il faut les coordonnées est et nord de deux géophones au moins</translation>
+    </message>
+    <message>
+        <source>the first and the last geophone are at one place on the map, which gives the line no direction</source>
+        <translation>le premier et le dernier géophone sont au même endroit de la carte, ce qui ne donne aucune direction à la ligne</translation>
+    </message>
+    <message>
+        <source>a trace cannot have a gain of %1, only one from %2 to %3</source>
+        <translation>une trace ne peut pas avoir un gain de %1, seulement de %2 à %3</translation>
+    </message>
+    <message>
+        <source>traces with a gain of %1: %2</source>
+        <translation>traces avec un gain de %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>geophone %1</source>
+        <translation>géophone %1</translation>
+    </message>
+    <message>
+        <source>geophones %1</source>
+        <translation>géophones %1</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>ligne %1</translation>
+    </message>
+    <message>
+        <source>lines %1</source>
+        <translation>lignes %1</translation>
+    </message>
+    <message>
+        <source>lines %1 and %2 more</source>
+        <translation>lignes %1 et %2 autres</translation>
+    </message>
+    <message>
+        <source>Not used, for no geophone or shot of the survey is there: %1</source>
+        <translation>Non utilisé, car aucun géophone ni tir du levé ne s&apos;y trouve&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not used, for a row above is of the same geophone or shot: %1</source>
+        <translation>Non utilisé, car une ligne plus haut est du même géophone ou tir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, placed among those that have one by the distances so far: %1</source>
+        <translation>Sans ligne de tableau, placé parmi ceux qui en ont une selon les distances actuelles&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Without a row, left where nothing tells how they stand to the others: %1</source>
+        <translation>Sans ligne de tableau, laissé là où rien ne dit sa place par rapport aux autres&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Without an elevation, raised to the line between the others: %1</source>
+        <translation>Sans altitude, placé sur la droite entre les autres&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1 m: %2</source>
+        <translation>Plus loin de la ligne que la moitié de l&apos;espacement de %1 m&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Hardly apart from their neighbours: %1</source>
+        <translation>À peine distincts de leurs voisins&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The line runs back to %1; an exchanged row or number?</source>
+        <translation>La ligne revient en arrière à %1&#xa0;; une ligne de tableau ou un numéro échangés&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Not as far from the geophone before as expected: %1</source>
+        <translation>Pas à la distance attendue du géophone précédent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>fewer than two geophones of the survey have a row in the table</source>
+        <translation>moins de deux géophones du levé ont une ligne dans le tableau</translation>
+    </message>
+    <message>
+        <source>lengths along the ground need the elevation of every geophone; the table lacks %1</source>
+        <translation>les longueurs le long du terrain exigent l&apos;altitude de chaque géophone&#xa0;; il manque au tableau %1</translation>
+    </message>
+    <message>
+        <source>its sample interval is not known</source>
+        <translation>son pas d&apos;échantillonnage n&apos;est pas connu</translation>
+    </message>
+    <message>
+        <source>it has samples that are no numbers</source>
+        <translation>elle a des échantillons qui ne sont pas des nombres</translation>
+    </message>
+    <message>
+        <source>a notch needs a frequency, a multiple and a quality above 0</source>
+        <translation>un filtre réjecteur exige une fréquence, un multiple et une qualité supérieurs à 0</translation>
+    </message>
+    <message>
+        <source>it is sampled too slowly for %1 Hz</source>
+        <translation>l&apos;échantillonnage est trop lent pour %1 Hz</translation>
+    </message>
+    <message>
+        <source>it is shorter than one period of %1 Hz</source>
+        <translation>elle est plus courte qu&apos;une période de %1 Hz</translation>
+    </message>
+    <message>
+        <source>trace %1 has another length or sample interval than trace 1</source>
+        <translation>la trace %1 a une autre longueur ou un autre pas d&apos;échantillonnage que la trace 1</translation>
+    </message>
+    <message>
+        <source>trace %1 has samples that are no numbers</source>
+        <translation>la trace %1 a des échantillons qui ne sont pas des nombres</translation>
+    </message>
+    <message>
+        <source>it has no samples, or no known sample interval</source>
+        <translation>il n&apos;a pas d&apos;échantillons, ou pas de pas d&apos;échantillonnage connu</translation>
+    </message>
+    <message>
+        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
+        <translation>ses géophones ne sont pas régulièrement espacés&#xa0;: la trace %1 à %2 m est à %3 m de la précédente, la distance habituelle est de %4 m</translation>
+    </message>
+    <message>
+        <source>it has fewer than %1 traces</source>
+        <translation>il a moins de %1 traces</translation>
+    </message>
+    <message>
+        <source>the positions of its geophones are not known</source>
+        <translation>les positions de ses géophones ne sont pas connues</translation>
+    </message>
+    <message>
+        <source>of %1 places along its line %2 have no trace</source>
+        <translation>sur %1 emplacements le long de sa ligne, %2 n&apos;ont pas de trace</translation>
+    </message>
+    <message>
+        <source>shot %1: of %2 places along its line %3 have no trace, or a killed one; they count as zero, beside them the filter is less sharp</source>
+        <translation>tir %1&#xa0;: sur %2 emplacements le long de sa ligne, %3 n&apos;ont pas de trace, ou une trace neutralisée&#xa0;; ils comptent comme nuls, à côté le filtre est moins net</translation>
+    </message>
+    <message>
+        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
+        <translation>la vitesse la plus lente, %1 m/s, doit être supérieure à 0 et inférieure à la plus rapide, %2 m/s</translation>
+    </message>
+    <message>
+        <source>the taper must be 0 or more and less than 100 percent of a limit</source>
+        <translation>l&apos;apodisation doit être d&apos;au moins 0 et de moins de 100 pour cent d&apos;une limite</translation>
+    </message>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Positions levées</translation>
+    </message>
+    <message>
+        <source>Marked isolines</source>
+        <translation>Isolignes marquées</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotations</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Appliquer un style</translation>
+    </message>
+    <message>
+        <source>shot %1 has no trace %2</source>
+        <translation>le tir %1 n&apos;a pas de trace %2</translation>
+    </message>
+    <message>
+        <source>no recordings yet</source>
+        <translation>pas encore d&apos;enregistrements</translation>
+    </message>
+    <message>
+        <source>times of %1 shots, without recordings</source>
+        <translation>temps de %1 tirs, sans enregistrements</translation>
+    </message>
+    <message>
+        <source>recordings that begin before their shot: %1</source>
+        <translation>enregistrements qui commencent avant leur tir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>recordings that were read with warnings: %1</source>
+        <translation>enregistrements lus avec des avertissements&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>shots: %1</source>
+        <translation>tirs&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no geophones yet</source>
+        <translation>pas encore de géophones</translation>
+    </message>
+    <message>
+        <source>positions are missing or cannot be</source>
+        <translation>des positions manquent ou sont impossibles</translation>
+    </message>
+    <message>
+        <source>things that look wrong in the positions: %1</source>
+        <translation>points qui semblent faux dans les positions&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>geophones: %1, shots: %2</source>
+        <translation>géophones&#xa0;: %1, tirs&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>no picks yet</source>
+        <translation>pas encore de pointés</translation>
+    </message>
+    <message>
+        <source>shots without picks: %1</source>
+        <translation>tirs sans pointés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>only %1 of %2 traces have a pick</source>
+        <translation>seulement %1 traces sur %2 ont un pointé</translation>
+    </message>
+    <message>
+        <source>%1 picks on %2 traces</source>
+        <translation>%1 pointés sur %2 traces</translation>
+    </message>
+    <message>
+        <source>no picks to check yet</source>
+        <translation>pas encore de pointés à vérifier</translation>
+    </message>
+    <message>
+        <source>%1 of %2 picks that wait for confirmation are doubtful</source>
+        <translation>%1 pointés en attente de confirmation sur %2 sont douteux</translation>
+    </message>
+    <message>
+        <source>of %1 picks nothing is known that could speak against them</source>
+        <translation>de %1 pointés, rien n&apos;est connu qui pourrait les contredire</translation>
+    </message>
+    <message>
+        <source>none of the %1 picks that wait for confirmation is doubtful</source>
+        <translation>aucun des %1 pointés en attente de confirmation n&apos;est douteux</translation>
+    </message>
+    <message>
+        <source>no pick waits for confirmation</source>
+        <translation>aucun pointé n&apos;attend de confirmation</translation>
+    </message>
+    <message>
+        <source>no grid yet</source>
+        <translation>pas encore de grille</translation>
+    </message>
+    <message>
+        <source>the grid has no cells</source>
+        <translation>la grille n&apos;a pas de cellules</translation>
+    </message>
+    <message>
+        <source>shots and geophones beyond the grid: %1</source>
+        <translation>tirs et géophones hors de la grille&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 x %2 cells</source>
+        <translation>%1 x %2 cellules</translation>
+    </message>
+    <message>
+        <source>%1, the usual starting model</source>
+        <translation>%1, le modèle initial habituel</translation>
+    </message>
+    <message>
+        <source>%1, a starting model with layers: %2</source>
+        <translation>%1, un modèle initial en couches&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>no inversion yet</source>
+        <translation>pas encore d&apos;inversion</translation>
+    </message>
+    <message>
+        <source>the section is older than the picks</source>
+        <translation>la coupe est antérieure aux pointés</translation>
+    </message>
+    <message>
+        <source>the known ground is other than that of the section</source>
+        <translation>le terrain connu n&apos;est pas celui de la coupe</translation>
+    </message>
+    <message>
+        <source>it was stopped before its end</source>
+        <translation>elle a été arrêtée avant la fin</translation>
+    </message>
+    <message>
+        <source>chi-square is %1 and not near 1</source>
+        <translation>le khi-deux est de %1 et non proche de 1</translation>
+    </message>
+    <message>
+        <source>the section is inverted</source>
+        <translation>la coupe est inversée</translation>
+    </message>
+    <message>
+        <source>RMSE %1 ms of %2 picks</source>
+        <translation>RMSE %1 ms de %2 pointés</translation>
+    </message>
+    <message>
+        <source>no section yet</source>
+        <translation>pas encore de coupe</translation>
+    </message>
+    <message>
+        <source>the layered profile is older than the picks</source>
+        <translation>le profil en couches est antérieur aux pointés</translation>
+    </message>
+    <message>
+        <source>the certainty is older than the picks</source>
+        <translation>la certitude est antérieure aux pointés</translation>
+    </message>
+    <message>
+        <source>the section was smoothed after its inversion</source>
+        <translation>la coupe a été lissée après son inversion</translation>
+    </message>
+    <message>
+        <source>the section lies beyond its certainty</source>
+        <translation>la coupe dépasse sa certitude</translation>
+    </message>
+    <message>
+        <source>how certain the section is is not known</source>
+        <translation>la certitude de la coupe n&apos;est pas connue</translation>
+    </message>
+    <message>
+        <source>the section and its certainty are there</source>
+        <translation>la coupe et sa certitude sont là</translation>
+    </message>
+    <message>
+        <source>it has no section</source>
+        <translation>elle n&apos;a pas de coupe</translation>
+    </message>
+    <message>
+        <source>no cell of its section is drawn</source>
+        <translation>aucune cellule de sa coupe n&apos;est dessinée</translation>
+    </message>
+    <message>
+        <source>its line is nowhere on the map</source>
+        <translation>sa ligne n&apos;est nulle part sur la carte</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Neutraliser les traces</translation>
+    </message>
+    <message>
+        <source>Revive traces</source>
+        <translation>Rétablir les traces</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Inverser la polarité</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Mute des traces</translation>
+    </message>
+    <message>
+        <source>Mute traces no more</source>
+        <translation>Lever le mute des traces</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplifier les traces</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Atténuer les traces</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -6988,6 +8392,61 @@ Veuillez définir la position des géophones
     <message>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::NotchDialog</name>
+    <message>
+        <source>Notch</source>
+        <translation>Filtre réjecteur</translation>
+    </message>
+    <message>
+        <source>Takes the hum of power lines out of the filtered copy. Arrivals stay where they are.</source>
+        <translation>Ôte de la copie filtrée le bourdonnement du secteur. Les arrivées restent à leur place.</translation>
+    </message>
+    <message>
+        <source>&amp;Power line (Hz):</source>
+        <translation>&amp;Secteur (Hz)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>50 Hz in most of the world, 60 Hz in North America; some railways have 16.7 Hz</source>
+        <translation>50 Hz presque partout dans le monde, 60 Hz en Amérique du Nord&#xa0;; certains chemins de fer utilisent 16,7 Hz</translation>
+    </message>
+    <message>
+        <source>&amp;Multiples:</source>
+        <translation>&amp;Multiples&#xa0;:</translation>
+    </message>
+    <message>
+        <source>So many multiples are taken out, the frequency itself among them, as far as the record has them</source>
+        <translation>Nombre de multiples ôtés, dont la fréquence elle-même, autant que l&apos;enregistrement en contient</translation>
+    </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Qualité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The frequency over the width of every notch at 3 dB: larger ones take less of the signal, and less of hum that wanders</source>
+        <translation>La fréquence sur la largeur de chaque coupure à 3 dB&#xa0;: plus grande, elle ôte moins de signal, et moins d&apos;un bourdonnement instable</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Appliquer le filtre à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>O&amp;riginales</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Fi&amp;ltrées</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Le filtre s&apos;applique à tous les tirs.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Le filtre s&apos;applique au tir %1.</translation>
     </message>
 </context>
 <context>
@@ -7272,6 +8731,10 @@ Veuillez définir la position des géophones
     <message>
         <source>&amp;Keep the program&apos;s rules</source>
         <translation>&amp;Garder les règles du programme</translation>
+    </message>
+    <message>
+        <source>Files and what each reading finds in them</source>
+        <translation>Fichiers et ce que chaque lecture y trouve</translation>
     </message>
 </context>
 <context>
@@ -7575,6 +9038,10 @@ Veuillez définir la position des géophones
     <message>
         <source>in memory, for %1</source>
         <translation>en mémoire, car %1</translation>
+    </message>
+    <message>
+        <source>Filtered copy by:</source>
+        <translation>Copie filtrée par&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -9093,6 +10560,22 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <source>First breaks were assigned to layers, and velocities and depths of the refractors were fitted to all of them at once: so that the direct and refracted times computed through the layers, which may change along the line, are those of the picks.</source>
         <translation>Les premières arrivées ont été attribuées à des couches, et les vitesses et profondeurs des réfracteurs ajustées à toutes à la fois&#xa0;: de sorte que les temps directs et réfractés calculés à travers les couches, qui peuvent varier le long de la ligne, soient ceux des pointés.</translation>
     </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>These shots have filtered copies beside their recordings, made as listed, one filter after the other.</source>
+        <translation>Ces tirs ont des copies filtrées à côté de leurs enregistrements, faites comme indiqué, un filtre après l&apos;autre.</translation>
+    </message>
+    <message>
+        <source>Filters of the recordings</source>
+        <translation>Filtres des enregistrements</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ReportDialog</name>
@@ -9225,10 +10708,6 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>Errors of the picks</source>
         <translation>Erreurs des pointés</translation>
-    </message>
-    <message>
-        <source>&amp;Colour shot:</source>
-        <translation>&amp;Colorer le tir&#xa0;:</translation>
     </message>
     <message>
         <source>Whose dots have a colour of their own in the picture over the offset</source>
@@ -9377,6 +10856,10 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>The picture cannot be made.</source>
         <translation>L&apos;image ne peut pas être produite.</translation>
+    </message>
+    <message>
+        <source>Colo&amp;ur shot:</source>
+        <translation>Co&amp;lorer le tir&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -9903,6 +11386,70 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <source>Velocity section</source>
         <translation>Coupe de vitesse</translation>
     </message>
+    <message>
+        <source>Distance %1 m</source>
+        <translation>Distance %1 m</translation>
+    </message>
+    <message>
+        <source>Horizontal %1 m</source>
+        <translation>Horizontale %1 m</translation>
+    </message>
+    <message>
+        <source>Vertical %1 m</source>
+        <translation>Verticale %1 m</translation>
+    </message>
+    <message>
+        <source>Slope %1°</source>
+        <translation>Pente %1°</translation>
+    </message>
+    <message>
+        <source>Click the next point; Esc ends</source>
+        <translation>Cliquez le point suivant&#xa0;; Échap termine</translation>
+    </message>
+    <message>
+        <source>Double click or Enter ends it, Backspace takes a point back</source>
+        <translation>Un double-clic ou Entrée termine, Retour arrière retire un point</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Mesurer</translation>
+    </message>
+    <message>
+        <source>Drag between two points: distance, horizontal, vertical and slope; Esc ends</source>
+        <translation>Glisser entre deux points&#xa0;: distance, horizontale, verticale et pente&#xa0;; Échap termine</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Dessiner</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
+        <translation>Cliquer des textes, des lignes et des zones de terrain sur la coupe&#xa0;; Échap termine</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Click where a text is to stand on the section</source>
+        <translation>Cliquez à l&apos;endroit de la coupe où placer un texte</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Click the points of a line on the section</source>
+        <translation>Cliquez les points d&apos;une ligne sur la coupe</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygone</translation>
+    </message>
+    <message>
+        <source>Click the corners of an area of the section</source>
+        <translation>Cliquez les sommets d&apos;une zone de la coupe</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SelectCSVDelimiterDialog</name>
@@ -10159,6 +11706,407 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
         <translation>Les résultats de la dernière inversion seront supprimés («&#xa0;Défaire&#xa0;» les rétablit).</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StepTexts</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Enregistrements</translation>
+    </message>
+    <message>
+        <source>Geometry</source>
+        <translation>Géométrie</translation>
+    </message>
+    <message>
+        <source>Picks</source>
+        <translation>Pointés</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Contrôle</translation>
+    </message>
+    <message>
+        <source>Grid and start</source>
+        <translation>Grille et départ</translation>
+    </message>
+    <message>
+        <source>Inversion</source>
+        <translation>Inversion</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>fait</translation>
+    </message>
+    <message>
+        <source>doubtful</source>
+        <translation>douteux</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>manquant</translation>
+    </message>
+    <message>
+        <source>out of date</source>
+        <translation>périmé</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>step, reason</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPointsTable</name>
+    <message>
+        <source>Shot %1</source>
+        <translation>Tir %1</translation>
+    </message>
+    <message>
+        <source>Geophone %1</source>
+        <translation>Géophone %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>row of a table</comment>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line, name</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <comment>of a table</comment>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Across
+(m)</source>
+        <translation>En travers
+(m)</translation>
+    </message>
+    <message>
+        <source>x before
+(m)</source>
+        <translation>x avant
+(m)</translation>
+    </message>
+    <message>
+        <source>x
+(m)</source>
+        <translation>x
+(m)</translation>
+    </message>
+    <message>
+        <source>change
+(m)</source>
+        <translation>variation
+(m)</translation>
+    </message>
+    <message>
+        <source>z before
+(m)</source>
+        <translation>z avant
+(m)</translation>
+    </message>
+    <message>
+        <source>z
+(m)</source>
+        <translation>z
+(m)</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::SurveyedPositionsDialog</name>
+    <message>
+        <source>Surveyed positions</source>
+        <translation>Positions levées</translation>
+    </message>
+    <message>
+        <source>&amp;Other table ...</source>
+        <translation>Autre ta&amp;bleau ...</translation>
+    </message>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Premières lignes du tableau</translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation>Colonnes du tableau</translation>
+    </message>
+    <message>
+        <source>S&amp;eparator</source>
+        <translation>&amp;Séparateur</translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation>Séparateur</translation>
+    </message>
+    <message>
+        <source>C&amp;oordinates</source>
+        <translation>&amp;Coordonnées</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>Coordonnées</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Nom</translation>
+    </message>
+    <message>
+        <source>Column of names</source>
+        <translation>Colonne des noms</translation>
+    </message>
+    <message>
+        <source>Eas&amp;ting</source>
+        <translation>Es&amp;t</translation>
+    </message>
+    <message>
+        <source>Column of eastings or longitudes</source>
+        <translation>Colonne des coordonnées est ou des longitudes</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>T&amp;ype</translation>
+    </message>
+    <message>
+        <source>Column of kinds</source>
+        <translation>Colonne des types</translation>
+    </message>
+    <message>
+        <source>No&amp;rthing</source>
+        <translation>Nor&amp;d</translation>
+    </message>
+    <message>
+        <source>Column of northings or latitudes</source>
+        <translation>Colonne des coordonnées nord ou des latitudes</translation>
+    </message>
+    <message>
+        <source>Ele&amp;vation</source>
+        <translation>Alt&amp;itude</translation>
+    </message>
+    <message>
+        <source>Column of elevations</source>
+        <translation>Colonne des altitudes</translation>
+    </message>
+    <message>
+        <source>EPS&amp;G code</source>
+        <translation>Code EPS&amp;G</translation>
+    </message>
+    <message>
+        <source>EPSG code</source>
+        <translation>Code EPSG</translation>
+    </message>
+    <message>
+        <source>The code of the reference system of easting and northing, for example 32632 for UTM zone 32 N. Without it the line gets no place on the map. Longitude and latitude are projected into it, without a code into their UTM zone.</source>
+        <translation>Le code du système de référence des coordonnées est et nord, par exemple 32632 pour UTM zone 32 N. Sans lui, la ligne n&apos;a pas de place sur la carte. Longitude et latitude y sont projetées, et sans code dans leur zone UTM.</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Ligne</translation>
+    </message>
+    <message>
+        <source>Shape of the line</source>
+        <translation>Forme de la ligne</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth</source>
+        <translation>Longue&amp;ur</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Longueur le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Names &amp;are</source>
+        <translation>Les noms s&amp;ont</translation>
+    </message>
+    <message>
+        <source>What names are</source>
+        <translation>Ce que sont les noms</translation>
+    </message>
+    <message>
+        <source>First &amp;distance</source>
+        <translation>Pre&amp;mière distance</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone</source>
+        <translation>Distance du premier géophone</translation>
+    </message>
+    <message>
+        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
+        <translation>Distance du premier géophone levé, en mètres. Vide&#xa0;: celle d&apos;à présent.</translation>
+    </message>
+    <message>
+        <source>Count from the other &amp;end</source>
+        <translation>Compter depuis l&apos;autre e&amp;xtrémité</translation>
+    </message>
+    <message>
+        <source>&amp;Positions</source>
+        <translation>&amp;Positions</translation>
+    </message>
+    <message>
+        <source>Positions before and after</source>
+        <translation>Positions avant et après</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>C&amp;arte</translation>
+    </message>
+    <message>
+        <source>Geophones and shots from above</source>
+        <translation>Géophones et tirs vus de dessus</translation>
+    </message>
+    <message>
+        <source>O&amp;ffsets</source>
+        <translation>Dépo&amp;rts</translation>
+    </message>
+    <message>
+        <source>Offsets across the line</source>
+        <translation>Déports en travers de la ligne</translation>
+    </message>
+    <message>
+        <source>To be looked at</source>
+        <translation>À vérifier</translation>
+    </message>
+    <message>
+        <source>as in the table</source>
+        <translation>comme dans le tableau</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>tabulation</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>point-virgule</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>virgule</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>espace</translation>
+    </message>
+    <message>
+        <source>Easting, northing</source>
+        <translation>Est, nord</translation>
+    </message>
+    <message>
+        <source>Longitude, latitude</source>
+        <translation>Longitude, latitude</translation>
+    </message>
+    <message>
+        <source>Straight, fitted to the geophones</source>
+        <translation>Droite, ajustée aux géophones</translation>
+    </message>
+    <message>
+        <source>Straight, from the first geophone to the last one</source>
+        <translation>Droite, du premier au dernier géophone</translation>
+    </message>
+    <message>
+        <source>Bent, from geophone to geophone</source>
+        <translation>Brisée, de géophone en géophone</translation>
+    </message>
+    <message>
+        <source>Horizontal, as on the map</source>
+        <translation>Horizontale, comme sur la carte</translation>
+    </message>
+    <message>
+        <source>Along the ground, on slopes</source>
+        <translation>Le long du terrain, selon la pente</translation>
+    </message>
+    <message>
+        <source>numbers of geophones and shots, from 1</source>
+        <translation>numéros de géophones et de tirs, à partir de 1</translation>
+    </message>
+    <message>
+        <source>without a meaning: rows are in order</source>
+        <translation>sans signification&#xa0;: les lignes sont dans l&apos;ordre</translation>
+    </message>
+    <message>
+        <source>distances along the line as it is now</source>
+        <translation>distances le long de la ligne telle qu&apos;elle est</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>column of a table</comment>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>colonne %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>column, name</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Longi&amp;tude</source>
+        <translation>Longi&amp;tude</translation>
+    </message>
+    <message>
+        <source>Latit&amp;ude</source>
+        <translation>Latitu&amp;de</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of the table have no position and are not used.</source>
+        <translation>
+            <numerusform>%n ligne du tableau n&apos;a pas de position et n&apos;est pas utilisée.</numerusform>
+            <numerusform>%n lignes du tableau n&apos;ont pas de position et ne sont pas utilisées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
+        <translation>Avec une ligne&#xa0;: %1 géophones sur %2, %3 tirs sur %4. Les géophones sont à %5 m en travers de la ligne (RMS), au plus %6 m (%7)&#xa0;; leur espacement est de %8 m.</translation>
+    </message>
+    <message>
+        <source>No reference system</source>
+        <translation>Aucun système de référence</translation>
+    </message>
+    <message>
+        <source>EPSG:%1, %2</source>
+        <translation>EPSG:%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: the zone of the first place</source>
+        <translation>%1&#xa0;: la zone du premier endroit</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the place of the line on the map stays as it is now, where it may not fit any more.</source>
+        <translation>Sans code EPSG, la place de la ligne sur la carte reste celle d&apos;à présent, où elle ne convient peut-être plus.</translation>
+    </message>
+    <message>
+        <source>Without an EPSG code the line gets no place on the map.</source>
+        <translation>Sans code EPSG, la ligne n&apos;a pas de place sur la carte.</translation>
+    </message>
+    <message>
+        <source>On OK the line lies on the map from the first geophone to the last one, on the line that is shown.</source>
+        <translation>Avec OK, la ligne est placée sur la carte du premier géophone au dernier, sur la ligne affichée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>On OK the line lies on the map along %n point(s), and KML follows it. Reports and the dialog of geographic coordinates give its two ends.</source>
+        <translation>
+            <numerusform>Avec OK, la ligne est placée sur la carte le long de %n point, et le KML la suit. Les rapports et la boîte de dialogue des coordonnées géographiques donnent ses deux extrémités.</numerusform>
+            <numerusform>Avec OK, la ligne est placée sur la carte le long de %n points, et le KML la suit. Les rapports et la boîte de dialogue des coordonnées géographiques donnent ses deux extrémités.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -12342,6 +14290,310 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Web page (*.html)</source>
         <translation>Page web (*.html)</translation>
     </message>
+    <message>
+        <source>Mends of the selected traces</source>
+        <translation>Corrections des traces sélectionnées</translation>
+    </message>
+    <message>
+        <source>Marked isolines ...</source>
+        <translation>Isolignes marquées ...</translation>
+    </message>
+    <message>
+        <source>Name velocities, such as 1500 m/s for the water table, whose lines stand out from the section</source>
+        <translation>Nommer des vitesses, comme 1500 m/s pour la nappe phréatique, dont les lignes ressortent de la coupe</translation>
+    </message>
+    <message>
+        <source>Annotations ...</source>
+        <translation>Annotations ...</translation>
+    </message>
+    <message>
+        <source>Texts, lines and areas of ground drawn on the section</source>
+        <translation>Textes, lignes et zones de terrain dessinés sur la coupe</translation>
+    </message>
+    <message>
+        <source>Depth profile ...</source>
+        <translation>Profil de profondeur ...</translation>
+    </message>
+    <message>
+        <source>Velocity, its gradient and how sure it is against depth, below the mouse</source>
+        <translation>Vitesse, gradient et degré de certitude en fonction de la profondeur, sous la souris</translation>
+    </message>
+    <message>
+        <source>Fence of several lines ...</source>
+        <translation>Panneaux de plusieurs lignes ...</translation>
+    </message>
+    <message>
+        <source>Sections of this and other projects at their places on the map, in one view</source>
+        <translation>Coupes de ce projet et d&apos;autres à leur place sur la carte, dans une même vue</translation>
+    </message>
+    <message>
+        <source>Save style ...</source>
+        <translation>Enregistrer le style ...</translation>
+    </message>
+    <message>
+        <source>Save palette, range, contours, exaggeration, switches and marked isolines for other surveys</source>
+        <translation>Enregistrer palette, plage, isolignes, exagération, options d&apos;affichage et isolignes marquées pour d&apos;autres levés</translation>
+    </message>
+    <message>
+        <source>Apply style ...</source>
+        <translation>Appliquer un style ...</translation>
+    </message>
+    <message>
+        <source>Let this section look as the one whose style was saved</source>
+        <translation>Donner à cette coupe l&apos;aspect de celle dont le style a été enregistré</translation>
+    </message>
+    <message>
+        <source>Show annotations</source>
+        <translation>Afficher les annotations</translation>
+    </message>
+    <message>
+        <source>Draw marked isolines, texts, lines and areas of ground over the section</source>
+        <translation>Dessiner isolignes marquées, textes, lignes et zones de terrain sur la coupe</translation>
+    </message>
+    <message>
+        <source>Surveyed positions ...</source>
+        <translation>Positions levées ...</translation>
+    </message>
+    <message>
+        <source>Make distances along the line and its place on the map of a table of coordinates</source>
+        <translation>Tirer d&apos;un tableau de coordonnées les distances le long de la ligne et sa place sur la carte</translation>
+    </message>
+    <message>
+        <source>Find command...</source>
+        <translation>Chercher une commande...</translation>
+    </message>
+    <message>
+        <source>Find any command by its words and give it</source>
+        <translation>Trouver une commande par ses mots et la lancer</translation>
+    </message>
+    <message>
+        <source>Shot files with picks ...</source>
+        <translation>Fichiers de tirs avec pointés ...</translation>
+    </message>
+    <message>
+        <source>Copy the shot files into another folder, with the picks in their trace headers</source>
+        <translation>Copier les fichiers de tirs dans un autre dossier, avec les pointés dans leurs en-têtes de trace</translation>
+    </message>
+    <message>
+        <source>Drawing as DXF ...</source>
+        <translation>Dessin DXF ...</translation>
+    </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
+        <translation>Exporter surface, isolignes, réfracteurs, géophones et tirs en dessin pour la CAO</translation>
+    </message>
+    <message>
+        <source>Section as curtain on the map ...</source>
+        <translation>Coupe en rideau sur la carte ...</translation>
+    </message>
+    <message>
+        <source>Export the cells with their velocities where they lie on the map, as a VTK grid or a table</source>
+        <translation>Exporter les cellules avec leurs vitesses à leur place sur la carte, en grille VTK ou en tableau</translation>
+    </message>
+    <message>
+        <source>Line and isolines as GeoPackage ...</source>
+        <translation>Ligne et isolignes en GeoPackage ...</translation>
+    </message>
+    <message>
+        <source>Export line, geophones, shots, isolines, refractors and depths of isovalues as layers for maps</source>
+        <translation>Exporter ligne, géophones, tirs, isolignes, réfracteurs et profondeurs des isovaleurs en couches cartographiques</translation>
+    </message>
+    <message>
+        <source>Kill traces</source>
+        <translation>Neutraliser les traces</translation>
+    </message>
+    <message>
+        <source>The selected traces count for nothing and have no pick, or do again (key K); what was recorded is kept</source>
+        <translation>Les traces sélectionnées ne comptent pas et n&apos;ont pas de pointé, ou comptent de nouveau (touche K)&#xa0;; ce qui a été enregistré est conservé</translation>
+    </message>
+    <message>
+        <source>Reverse polarity</source>
+        <translation>Inverser la polarité</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces change their sign (key P)</source>
+        <translation>Les échantillons des traces sélectionnées changent de signe (touche P)</translation>
+    </message>
+    <message>
+        <source>Mute traces before...</source>
+        <translation>Mute des traces avant...</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces before a time become zero (key U mutes before the mouse, Shift+U no more)</source>
+        <translation>Les échantillons des traces sélectionnées avant un temps deviennent nuls (touche U&#xa0;: mute avant la souris, Maj+U&#xa0;: sans mute)</translation>
+    </message>
+    <message>
+        <source>Amplify traces</source>
+        <translation>Amplifier les traces</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become larger, 1.5 or 2 times in turn (key })</source>
+        <translation>Les échantillons des traces sélectionnées sont agrandis, tour à tour de 1,5 ou 2 fois (touche })</translation>
+    </message>
+    <message>
+        <source>Attenuate traces</source>
+        <translation>Atténuer les traces</translation>
+    </message>
+    <message>
+        <source>The samples of the selected traces become smaller (key {)</source>
+        <translation>Les échantillons des traces sélectionnées sont réduits (touche {)</translation>
+    </message>
+    <message>
+        <source>Notch...</source>
+        <translation>Filtre réjecteur...</translation>
+    </message>
+    <message>
+        <source>Take the hum of power lines, 50 or 60 Hz and multiples, out of the filtered copy</source>
+        <translation>Ôter de la copie filtrée le bourdonnement du secteur, 50 ou 60 Hz et multiples</translation>
+    </message>
+    <message>
+        <source>Velocity filter...</source>
+        <translation>Filtre de vitesse...</translation>
+    </message>
+    <message>
+        <source>Keep or take out waves by their apparent velocity, in the filtered copy</source>
+        <translation>Conserver ou ôter des ondes selon leur vitesse apparente, dans la copie filtrée</translation>
+    </message>
+    <message>
+        <source>Annotations wait for the inversion to end.</source>
+        <translation>Les annotations attendent la fin de l&apos;inversion.</translation>
+    </message>
+    <message>
+        <source>It cannot work now.</source>
+        <translation>La commande n&apos;est pas possible maintenant.</translation>
+    </message>
+    <message>
+        <source>Save depth profile</source>
+        <translation>Enregistrer le profil de profondeur</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.svg *.pdf)</source>
+        <translation>Images (*.png *.svg *.pdf)</translation>
+    </message>
+    <message>
+        <source>Picks have changed since the layered profile was built.</source>
+        <translation>Les pointés ont changé depuis la construction du profil en couches.</translation>
+    </message>
+    <message>
+        <source>The line has no place on the map.</source>
+        <translation>La ligne n&apos;a pas de place sur la carte.</translation>
+    </message>
+    <message>
+        <source>Set it with Project &gt; Set geographic coordinates ...</source>
+        <translation>Indiquez-la avec Projet &gt; Définir les coordonnées géographiques ...</translation>
+    </message>
+    <message>
+        <source>Export DXF Drawing</source>
+        <translation>Exporter le dessin DXF</translation>
+    </message>
+    <message>
+        <source>DXF drawing (*.dxf);;All Files (*)</source>
+        <translation>Dessin DXF (*.dxf);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export GeoPackage</source>
+        <translation>Exporter le GeoPackage</translation>
+    </message>
+    <message>
+        <source>GeoPackage (*.gpkg);;All Files (*)</source>
+        <translation>GeoPackage (*.gpkg);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Export Curtain</source>
+        <translation>Exporter le rideau</translation>
+    </message>
+    <message>
+        <source>VTK unstructured grid (*.vtu);;Table of cells (*.csv);;All Files (*)</source>
+        <translation>Grille VTK non structurée (*.vtu);;Tableau des cellules (*.csv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>This survey</source>
+        <translation>Ce levé</translation>
+    </message>
+    <message>
+        <source>Add projects to the fence</source>
+        <translation>Ajouter des projets aux panneaux</translation>
+    </message>
+    <message>
+        <source>Talvesk projects (*.tvsk);;All Files (*)</source>
+        <translation>Projets Talvesk (*.tvsk);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Save picture of the fence</source>
+        <translation>Enregistrer l&apos;image des panneaux</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Images (*.png)</translation>
+    </message>
+    <message>
+        <source>Applying notches ...</source>
+        <translation>Application du filtre réjecteur ...</translation>
+    </message>
+    <message>
+        <source>Applying the velocity filter ...</source>
+        <translation>Application du filtre de vitesse ...</translation>
+    </message>
+    <message>
+        <source>Folder for the shot files with picks</source>
+        <translation>Dossier des fichiers de tirs avec pointés</translation>
+    </message>
+    <message>
+        <source>In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files it is whole microseconds in bytes 233 to 236 of the trace header. Both count from the shot.</source>
+        <translation>Dans les fichiers SEG-2, un pointé est FIRST_BREAK en secondes&#xa0;; dans les fichiers SEG-Y et SU, ce sont des microsecondes entières dans les octets 233 à 236 de l&apos;en-tête de trace. Les deux comptent à partir du tir.</translation>
+    </message>
+    <message>
+        <source>Shot files with picks</source>
+        <translation>Fichiers de tirs avec pointés</translation>
+    </message>
+    <message>
+        <source>Save style</source>
+        <translation>Enregistrer le style</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle)</source>
+        <translation>Styles Talvesk (*.tvstyle)</translation>
+    </message>
+    <message>
+        <source>Apply style</source>
+        <translation>Appliquer un style</translation>
+    </message>
+    <message>
+        <source>Talvesk styles (*.tvstyle);;All files (*)</source>
+        <translation>Styles Talvesk (*.tvstyle);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The section looks as before.</source>
+        <translation>La coupe garde son aspect.</translation>
+    </message>
+    <message>
+        <source>Style of %1</source>
+        <translation>Style de %1</translation>
+    </message>
+    <message>
+        <source>Geophones and shots stand where they were surveyed.</source>
+        <translation>Les géophones et les tirs sont là où ils ont été levés.</translation>
+    </message>
+    <message>
+        <source>Open surveyed positions</source>
+        <translation>Ouvrir des positions levées</translation>
+    </message>
+    <message>
+        <source>Tables of coordinates (*.csv *.tsv *.txt *.dat *.xyz *.asc);;All files (*)</source>
+        <translation>Tableaux de coordonnées (*.csv *.tsv *.txt *.dat *.xyz *.asc);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The positions cannot be read.</source>
+        <translation>Les positions ne peuvent pas être lues.</translation>
+    </message>
+    <message>
+        <source>Mute traces</source>
+        <translation>Mute des traces</translation>
+    </message>
+    <message>
+        <source>The selected traces are zero before (ms); 0: from nowhere</source>
+        <translation>Les traces sélectionnées sont nulles avant (ms)&#xa0;; 0&#xa0;: nulle part</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -12511,6 +14763,113 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Layers: %1 ms</source>
         <translation>Couches&#xa0;: %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::VelocityFilterDialog</name>
+    <message>
+        <source>Velocity filter</source>
+        <translation>Filtre de vitesse</translation>
+    </message>
+    <message>
+        <source>Keeps or takes out waves by their apparent velocity along the line, in the filtered copy. Drag the sides of the wedge, or type velocities.</source>
+        <translation>Conserve ou ôte des ondes selon leur vitesse apparente le long de la ligne, dans la copie filtrée. Faites glisser les côtés de l&apos;éventail, ou saisissez des vitesses.</translation>
+    </message>
+    <message>
+        <source>&amp;Slowest (m/s):</source>
+        <translation>Plus len&amp;te (m/s)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Least apparent velocity of the wedge; the full line in the picture</source>
+        <translation>Plus petite vitesse apparente de l&apos;éventail&#xa0;; la ligne pleine de l&apos;image</translation>
+    </message>
+    <message>
+        <source>&amp;Fastest (m/s):</source>
+        <translation>Plus ra&amp;pide (m/s)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Greatest apparent velocity of the wedge, 0 for no limit; the dashed line in the picture</source>
+        <translation>Plus grande vitesse apparente de l&apos;éventail, 0 pour aucune limite&#xa0;; la ligne en tirets de l&apos;image</translation>
+    </message>
+    <message>
+        <source>&amp;Waves:</source>
+        <translation>&amp;Ondes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Forth is towards greater distances along the line</source>
+        <translation>Vers l&apos;avant, c&apos;est vers les distances croissantes le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Both ways</source>
+        <translation>Dans les deux sens</translation>
+    </message>
+    <message>
+        <source>Forth along the line</source>
+        <translation>Vers l&apos;avant le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Back along the line</source>
+        <translation>Vers l&apos;arrière le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Wedge:</source>
+        <translation>Éventail&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Passes</source>
+        <translation>Pa&amp;sse</translation>
+    </message>
+    <message>
+        <source>Is re&amp;jected</source>
+        <translation>Est re&amp;jeté</translation>
+    </message>
+    <message>
+        <source>&amp;Taper (%):</source>
+        <translation>Apo&amp;disation (%)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How far beside the wedge the filter sets in, in percent of its slowness there</source>
+        <translation>Sur quelle largeur à côté de l&apos;éventail le filtre s&apos;installe, en pour cent de la lenteur à cet endroit</translation>
+    </message>
+    <message>
+        <source>Apply filter to:</source>
+        <translation>Appliquer le filtre à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>O&amp;riginal</source>
+        <translation>O&amp;riginales</translation>
+    </message>
+    <message>
+        <source>Fi&amp;ltered</source>
+        <translation>Fi&amp;ltrées</translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Afficher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Before</source>
+        <translation>A&amp;vant</translation>
+    </message>
+    <message>
+        <source>Aft&amp;er</source>
+        <translation>&amp;Après</translation>
+    </message>
+    <message>
+        <source>The filter goes to all shots.</source>
+        <translation>Le filtre s&apos;applique à tous les tirs.</translation>
+    </message>
+    <message>
+        <source>The filter goes to shot %1.</source>
+        <translation>Le filtre s&apos;applique au tir %1.</translation>
+    </message>
+    <message>
+        <source>Shot %1 cannot be filtered: %2</source>
+        <translation>Le tir %1 ne peut pas être filtré&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>No filter applied.</source>
+        <translation>Aucun filtre appliqué.</translation>
     </message>
 </context>
 <context>
@@ -12875,6 +15234,18 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Open the place in a map service</source>
         <translation>Ouvrir le lieu dans un service de cartes</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotations</translation>
+    </message>
+    <message>
+        <source>Keys: left and right go from pick to pick, up and down from shot to shot, + and - zoom, 0 shows all.</source>
+        <translation>Touches&#xa0;: gauche et droite vont de pointé en pointé, haut et bas de tir en tir, + et - zooment, 0 affiche tout.</translation>
+    </message>
+    <message>
+        <source>Point at a mark to read it. Keys: left and right go from mark to mark, + and - zoom, 0 shows all.</source>
+        <translation>Survolez un repère pour le lire. Touches&#xa0;: gauche et droite vont de repère en repère, + et - zooment, 0 affiche tout.</translation>
     </message>
 </context>
 <context>
@@ -13310,10 +15681,6 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Aucun échantillon, seulement des pointés</translation>
     </message>
     <message>
-        <source>Traces %1 to %2: C confirms, Del removes, Esc leaves</source>
-        <translation>Traces %1 à %2&#xa0;: C confirme, Suppr supprime, Échap quitte</translation>
-    </message>
-    <message>
         <source>Open shot files with Ctrl+O or drop them here</source>
         <translation>Ouvrez des fichiers de tirs avec Ctrl+O ou déposez-les ici</translation>
     </message>
@@ -13332,6 +15699,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Error %1 ms</source>
         <translation>Erreur %1 ms</translation>
+    </message>
+    <message>
+        <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
+        <translation>Traces %1&#xa0;: C confirme, Suppr supprime, K neutralise, P inverse, U mute, Échap quitte</translation>
     </message>
 </context>
 <context>
@@ -13604,6 +15975,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Another fit, from: %1</source>
         <translation>Autre ajustement, à partir de&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Iterations and misfits</source>
+        <translation>Itérations et écarts</translation>
     </message>
 </context>
 <context>
