@@ -72,6 +72,7 @@ Status setUpModel(const InvertOptions& options, Survey& survey, Log& log) {
   if (options.cellSize) settings.cellSize = *options.cellSize;
   if (options.depth) settings.maxDepth = *options.depth;
   settings.nodes = static_cast<std::uint32_t>(options.nodes);
+  settings.searches = searchThreads(options.parameters.singleThread, options.parameters.threads);
   Status status = checkDepth(settings, profile);
   if (!status.ok()) return status;
   status = editSurvey(Edit::kGrid, survey,

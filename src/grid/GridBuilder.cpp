@@ -3,6 +3,7 @@
 #include "base/AvailableMemory.h"
 #include "base/Console.h"
 
+#include <algorithm>
 #include <cmath>
 #include <exception>
 #include <limits>
@@ -10,6 +11,16 @@
 
 namespace talvesk {
 namespace {
+
+/// A time per node; per corner and the two sides that begin at it the bucket of each, and which
+/// nodes of the sides have changed; per cell its latest time and its place among the crossed ones.
+double searchBytes(const GridSize& size) {
+  const double corners = (size.righe + 1.0) * (size.col + 1.0);
+  const double inner = std::max(size.nV, 2U) - 2.0;
+  const double perCorner =
+      (2.0 * inner + 1.0) * 8.0 + 3.0 * 8.0 + 2.0 * std::ceil(inner / 32.0) * 4.0;
+  return corners * perCorner + static_cast<double>(size.righe) * size.col * 12.0;
+}
 
 /// Runs a builder; what it throws becomes a line on the error stream.
 std::unique_ptr<Grid> guarded(const std::function<std::unique_ptr<Grid>()>& build) {
@@ -50,10 +61,8 @@ GridSize gridSizeFor(double arrayLength, double maxDepth, double cellSize, std::
 double estimatedGridBytes(const GridSize& size, unsigned searches) {
   const double cells = static_cast<double>(size.righe) * size.col;
   const double lineNodes = (size.righe + 1.0) * (size.col * (size.nV - 1.0) + 1.0);
-  const double nodes = size.nodesAsNumber();
-  // Line depths and slownesses; per search a distance and a bucket number per node, and the two
-  // accumulators per cell.
-  return lineNodes * 8.0 + cells * 9.0 + searches * (nodes * 12.0 + cells * 16.0);
+  // Line depths and slownesses.
+  return lineNodes * 8.0 + cells * 9.0 + searches * searchBytes(size);
 }
 
 Status checkGridSize(const GridSize& size, unsigned searches) {

@@ -93,7 +93,8 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
   }
   const GridSize size =
       gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);
-  if (const Status status = checkGridSize(size, searchThreads()); !status.ok()) {
+  if (const Status status = checkGridSize(size, searchThreads(false, settings.searches));
+      !status.ok()) {
     return fail(log, status.text());
   }
   log.write("Generating the grid ... ");

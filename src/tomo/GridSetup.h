@@ -19,6 +19,7 @@ struct GridSettings {
   double maxDepth = 0.0;                             ///< metres
   double cellSize = 0.0;                             ///< metres
   std::uint32_t nodes = parameters::kNodes.initial;  ///< per cell side
+  unsigned searches = 0;  ///< at once, to have room beside the grid; 0: one per processor
 };
 
 /// Measures the survey, proposes a cell size (kept in the document's list) and returns what a

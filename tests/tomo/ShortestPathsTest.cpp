@@ -1,3 +1,4 @@
+#include "grid/GridBuilder.h"
 #include "support/ReferenceSearch.h"
 #include "support/TestGrids.h"
 #include "tomo/SearchField.h"
@@ -145,6 +146,18 @@ TEST(ShortestPaths, equalTheReferenceAcrossExtremeContrasts) {
   }
   expectSameAsReference(*grid, 0);
   expectSameAsReference(*grid, 30);
+}
+
+TEST(ShortestPaths, takeTheMemoryThatWasEstimatedForAnyNumberOfNodes) {
+  for (const std::uint32_t nodes : {2U, 3U, 4U, 6U, 10U, 40U}) {
+    SCOPED_TRACE(nodes);
+    const GridSize size{50, 100, nodes, 1.0};
+    const auto grid = testing::roughGrid(size, 0.0);
+    ShortestPaths paths;
+    paths.search(*grid, grid->geometry().lineNodeCount() / 3);
+    const double estimated = estimatedGridBytes(size, 1) - estimatedGridBytes(size, 0);
+    EXPECT_GE(estimated, 0.95 * static_cast<double>(paths.bytes()));
+  }
 }
 
 TEST(ShortestPaths, aReceiverAtTheSourceIsARayOfOneNode) {
