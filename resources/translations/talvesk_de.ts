@@ -737,6 +737,10 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Über den Untergrund unter dem Gitter ist nichts bekannt.</translation>
     </message>
     <message>
+        <source>Nothing is drawn on the section yet.</source>
+        <translation>Auf dem Schnitt ist noch nichts eingezeichnet.</translation>
+    </message>
+    <message>
         <source>There is no section yet.</source>
         <translation>Es gibt noch keinen Schnitt.</translation>
     </message>

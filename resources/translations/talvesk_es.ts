@@ -737,6 +737,10 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>No se conoce nada del terreno bajo la malla.</translation>
     </message>
     <message>
+        <source>Nothing is drawn on the section yet.</source>
+        <translation>Aún no hay nada dibujado en la sección.</translation>
+    </message>
+    <message>
         <source>There is no section yet.</source>
         <translation>Aún no hay sección.</translation>
     </message>

@@ -737,6 +737,10 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>On ne sait rien du terrain sous la grille.</translation>
     </message>
     <message>
+        <source>Nothing is drawn on the section yet.</source>
+        <translation>Rien n&apos;est encore dessiné sur la coupe.</translation>
+    </message>
+    <message>
         <source>There is no section yet.</source>
         <translation>Il n&apos;y a pas encore de coupe.</translation>
     </message>

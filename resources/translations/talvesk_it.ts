@@ -737,6 +737,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Nulla è noto del terreno sotto la griglia.</translation>
     </message>
     <message>
+        <source>Nothing is drawn on the section yet.</source>
+        <translation>Sulla sezione non è ancora disegnato nulla.</translation>
+    </message>
+    <message>
         <source>There is no section yet.</source>
         <translation>Non c&apos;è ancora una sezione.</translation>
     </message>

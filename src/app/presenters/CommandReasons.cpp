@@ -60,6 +60,8 @@ constexpr Reason kReasons[] = {
      QT_TRANSLATE_NOOP("talvesk::CommandReasons", "There is no layered profile yet.")},
     {&CommandState::known, QT_TRANSLATE_NOOP("talvesk::CommandReasons",
                                              "Nothing is known of the ground under the grid.")},
+    {&CommandState::annotations,
+     QT_TRANSLATE_NOOP("talvesk::CommandReasons", "Nothing is drawn on the section yet.")},
     {&CommandState::picture,
      QT_TRANSLATE_NOOP("talvesk::CommandReasons", "There is no section yet.")},
     {&CommandState::line,
