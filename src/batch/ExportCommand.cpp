@@ -18,6 +18,7 @@
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
+#include "figures/PrintSheet.h"
 #include "figures/ProfileLines.h"
 #include "io/PickedCopies.h"
 #include "io/StyleFile.h"
@@ -30,6 +31,7 @@
 #include "tomo/ForwardPass.h"
 
 #include <QDir>
+#include <algorithm>
 #include <ostream>
 
 namespace talvesk {
@@ -45,6 +47,8 @@ std::vector<OutputFile> outputsOf(const ExportOptions& options) {
                                      {"--certainty-table", options.certainty},
                                      {"--kml-line", options.kmlLine},
                                      {"--kml-section", options.kmlSection},
+                                     {"--print", options.print},
+                                     {"--print-curves", options.printCurves},
                                      {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   for (const OutputFile& file : filesOf(options.drawings)) outputs.push_back(file);
@@ -93,6 +97,23 @@ void copyRecords(const ExportOptions& options, const TomoDocument& document,
   });
 }
 
+void writePrints(const ExportOptions& options, const TomoDocument& document,
+                 const SectionFigureOptions& section, OutputAttempts& attempt) {
+  const auto chosen = std::find_if(papers().begin(), papers().end(),
+                                   [&](const Paper& paper) { return paper.name == options.paper; });
+  const PrintSheet sheet = PrintSheet::on(*chosen, !options.portrait, options.scale);
+  attempt(options.print, [&](const auto& path) {
+    FigureDrawing drawing;
+    const Status status = prepareSectionPrint(document, section, sheet, drawing);
+    return status.ok() ? writePrint(drawing, path) : status;
+  });
+  attempt(options.printCurves, [&](const auto& path) {
+    FigureDrawing drawing;
+    const Status status = prepareTravelTimePrint(document, {}, sheet, drawing);
+    return status.ok() ? writePrint(drawing, path) : status;
+  });
+}
+
 int writeFiles(const ExportOptions& options, const LoadedProject& project, const KmlColors& colors,
                std::ostream& summary) {
   const TomoDocument& document = project.document;
@@ -125,6 +146,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) { return writeSectionFigure(document, section, path); });
   }
+  writePrints(options, document, section, attempt);
   writeRefractor(options, project, attempt, summary);
   attempt(options.report, [&](const auto& path) {
     return writeReportFile({document, &*project.interpretation}, options.reportFields, section,
@@ -135,8 +157,8 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
 
 /// Makes ready what figures and residuals need: rays are not in a project.
 Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
-  const bool draws =
-      !options.images.empty() || !options.report.empty() || !options.refractors.empty();
+  const bool draws = !options.images.empty() || !options.refractors.empty() ||
+                     !(options.print + options.printCurves + options.report).empty();
   if (!draws && options.residuals.empty()) return {};
   if (draws) prepareDrawing();
   return traceFreshTimes(document);
@@ -152,9 +174,9 @@ Status layOn(LoadedProject& project, const std::string& file) {
 
 /// Where the layered profile is drawn or told.
 void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project) {
-  const bool shown = !options.report.empty() || !options.refractors.empty() ||
-                     options.drawings.drawsLines() ||
-                     (!options.images.empty() && project.section.refraction);
+  const bool shown =
+      !options.report.empty() || !options.refractors.empty() || options.drawings.drawsLines() ||
+      (project.section.refraction && (!options.images.empty() || !options.print.empty()));
   if (shown && picksChangedSince(project.document, project.interpretation->refractData)) {
     warn("picks have changed since the layered profile was built");
   }

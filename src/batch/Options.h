@@ -283,6 +283,11 @@ struct ExportOptions {
   DrawingExports drawings;
   std::string pickedRecords;        ///< folder for shot files with picks in their headers
   std::vector<std::string> images;  ///< one picture of the section per path
+  std::string print;                ///< the section on a sheet, true to scale
+  std::string printCurves;          ///< travel-time curves on one
+  double scale = 500.0;             ///< of both
+  std::string paper = "A3";
+  bool portrait = false;
   std::string report;
   ReportFields reportFields;
   std::optional<geographicsCoord> geography;  ///< none: the project's
@@ -294,7 +299,7 @@ struct ExportOptions {
   bool anyOutput() const {
     return !images.empty() || !refractors.empty() || drawings.any() || !pickedRecords.empty() ||
            !(gridded + otte + sgt + residuals + vtk + surfer + certainty + kmlLine + kmlSection +
-             report)
+             print + printCurves + report)
                 .empty();
   }
 };

@@ -12,24 +12,6 @@
 #include <utility>
 
 namespace talvesk {
-namespace {
-
-Status checkOptions(const SectionFigureOptions& options) {
-  constexpr auto kRange = parameters::kExaggeration.limits;
-  const double exaggeration = options.verticalExaggeration;
-  if (exaggeration != 0.0 && !(exaggeration >= kRange.least && exaggeration <= kRange.most)) {
-    return Status::failure(
-        Message::tr("The vertical exaggeration must lie between 0.01 and 100, or be 0 to "
-                    "let the picture choose."));
-  }
-  if (options.palette.color_gradient.empty()) {
-    return Status::failure(
-        Message::tr("The palette \"%1\" has no colours.").arg(options.palette.name));
-  }
-  return checkApplication("A section");
-}
-
-}  // namespace
 
 SectionFigureOptions sectionFigureOptions(const SectionViewSettings& settings,
                                           const ColorPalette& palette,
@@ -62,18 +44,13 @@ namespace {
 /// Lays the section out for a file of that format.
 Status layOut(const TomoDocument& document, const SectionFigureOptions& options,
               FigureFormat format, FigureSheet& sheet, std::unique_ptr<SectionPlot>& plot) {
-  SectionScene scene;
-  if (Status status = buildSectionScene(document, options.scene, scene); !status.ok()) {
-    return status;
-  }
-  if (Status status = checkOptions(options); !status.ok()) return status;
+  if (Status status = makeSectionPlot(document, options, plot); !status.ok()) return status;
 
   // Sizes are checked before anything is laid out in them; a height yet to be chosen passes.
   const double heightMm = options.heightMm == 0.0 ? FigureSheet::kMinMm : options.heightMm;
   sheet = {options.widthMm, heightMm, options.dpi, {}};
   if (Status status = sheet.check(format); !status.ok()) return status;
 
-  plot = std::make_unique<SectionPlot>(std::move(scene), options);
   if (Status status = plot->layOut(options.widthMm, options.heightMm); !status.ok()) return status;
   sheet.heightMm = plot->layout().heightMm;
   sheet.title = plot->title();

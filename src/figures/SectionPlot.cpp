@@ -1,10 +1,12 @@
 #include "figures/SectionPlot.h"
 
 #include "figures/FigureFile.h"
+#include "figures/FigureOutput.h"
 #include "figures/FigureWords.h"
 #include "figures/SectionCamera.h"
 #include "figures/SectionItems.h"
 #include "figures/SectionPaper.h"
+#include "model/TomoDocument.h"
 
 #include <QPaintDevice>
 #include <QPainter>
@@ -42,6 +44,21 @@ QString titleOf(const SectionScene& scene, const SectionFigureOptions& options) 
   return title.isEmpty() ? FigureWords::sectionTitle(scene) : title;
 }
 
+Status checkOptions(const SectionFigureOptions& options) {
+  constexpr auto kRange = parameters::kExaggeration.limits;
+  const double exaggeration = options.verticalExaggeration;
+  if (exaggeration != 0.0 && !(exaggeration >= kRange.least && exaggeration <= kRange.most)) {
+    return Status::failure(
+        Message::tr("The vertical exaggeration must lie between 0.01 and 100, or be 0 to "
+                    "let the picture choose."));
+  }
+  if (options.palette.color_gradient.empty()) {
+    return Status::failure(
+        Message::tr("The palette \"%1\" has no colours.").arg(options.palette.name));
+  }
+  return checkApplication("A section");
+}
+
 }  // namespace
 
 struct SectionPlot::Parts {
@@ -53,6 +70,7 @@ struct SectionPlot::Parts {
         title(titleOf(scene, options)),
         paper(scene, extent, colors, dressOf(options, title)) {}
 
+  Status chooseExaggeration();
   QRect plotRect(const QSizeF& size) const { return paper.plotRect(size, camera.exaggeration); }
   SectionFigureLayout place(const QSizeF& size);
   void paintFill(QPainter& painter, const QRect& plot) const;
@@ -64,12 +82,29 @@ struct SectionPlot::Parts {
   QString title;
   SectionPaper paper;
   SectionCamera camera;
+  double metresPerPoint = 0.0;  ///< 0: as large as the sheet has room for
 };
+
+/// By the options or by the section's own shape, which it must have.
+Status SectionPlot::Parts::chooseExaggeration() {
+  const double spanX = extent.high.x - extent.low.x;
+  const double spanZ = extent.high.z - extent.low.z;
+  if (!(spanX > 0.0) || !(spanZ > 0.0) || !std::isfinite(spanX) || !std::isfinite(spanZ)) {
+    return Status::failure(Message::tr("The section has no extent to draw."));
+  }
+  camera.exaggeration = options.verticalExaggeration > 0.0 ? options.verticalExaggeration
+                                                           : legibleExaggeration(spanZ / spanX);
+  return {};
+}
 
 /// Brings the section into a sheet of that size, points.
 SectionFigureLayout SectionPlot::Parts::place(const QSizeF& size) {
   const QRectF plot(plotRect(size));
   paper.fit(camera, plot.size());
+  if (metresPerPoint > 0.0) {
+    camera.zoomAt(QRectF(QPointF(), plot.size()).center(), camera.metresPerPixel / metresPerPoint,
+                  plot.size());
+  }
   const QRectF seen =
       camera.toPicture(plot.size()).inverted().mapRect(QRectF(QPointF(), plot.size()));
   SectionFigureLayout layout;
@@ -113,14 +148,8 @@ SectionPlot::~SectionPlot() = default;
 
 Status SectionPlot::layOut(double widthMm, double heightMm) {
   Parts& parts = *mParts;
-  const double spanX = parts.extent.high.x - parts.extent.low.x;
-  const double spanZ = parts.extent.high.z - parts.extent.low.z;
-  if (!(spanX > 0.0) || !(spanZ > 0.0) || !std::isfinite(spanX) || !std::isfinite(spanZ)) {
-    return Status::failure(Message::tr("The section has no extent to draw."));
-  }
-  parts.camera.exaggeration = parts.options.verticalExaggeration > 0.0
-                                  ? parts.options.verticalExaggeration
-                                  : legibleExaggeration(spanZ / spanX);
+  if (Status status = parts.chooseExaggeration(); !status.ok()) return status;
+  parts.metresPerPoint = 0.0;
 
   QSizeF size = QSizeF(widthMm, heightMm > 0.0 ? heightMm : 0.6 * widthMm) * kPointsPerMm;
   // How wide the numbers of the colour bar are depends on how many its height takes: twice round
@@ -144,6 +173,27 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
   return {};
 }
 
+Status SectionPlot::layOutToScale(double scale) {
+  Parts& parts = *mParts;
+  if (Status status = parts.chooseExaggeration(); !status.ok()) return status;
+  parts.metresPerPoint = 1e-3 * scale / kPointsPerMm;
+  const double along = (parts.extent.high.x - parts.extent.low.x) / parts.metresPerPoint;
+  const double width = std::max(along + 2.0 * SectionCamera::Padding().side, kMinPlotWidth);
+  const double height =
+      std::max(parts.paper.heightToFill(width, parts.camera.exaggeration), kLowPlotHeight);
+  const QSizeF held(std::ceil(width), std::ceil(height));
+  mLayout = {};
+  mLayout.widthMm = held.width() / kPointsPerMm;
+  mLayout.heightMm = held.height() / kPointsPerMm;
+  if (std::max(mLayout.widthMm, mLayout.heightMm) > FigureSheet::kMaxMm) return {};
+  QSizeF size = 1.2 * held;
+  for (int round = 0; round < 2; ++round) {
+    size += held - QSizeF(parts.plotRect(size).size());
+  }
+  mLayout = parts.place(size);
+  return {};
+}
+
 void SectionPlot::paint(QPainter& painter, const QRectF& sheet) {
   Parts& parts = *mParts;
   const double unitsPerPoint = painter.device()->logicalDpiX() / kPointsPerInch;
@@ -156,6 +206,15 @@ void SectionPlot::paint(QPainter& painter, const QRectF& sheet) {
   parts.paintFill(painter, parts.plotRect(size));
   parts.paper.paint(painter, size, parts.camera);
   painter.restore();
+}
+
+Status makeSectionPlot(const TomoDocument& document, const SectionFigureOptions& options,
+                       std::unique_ptr<SectionPlot>& plot) {
+  SectionScene scene;
+  Status status = buildSectionScene(document, options.scene, scene);
+  if (status.ok()) status = checkOptions(options);
+  if (status.ok()) plot = std::make_unique<SectionPlot>(std::move(scene), options);
+  return status;
 }
 
 double legibleExaggeration(double heightOverWidth) {

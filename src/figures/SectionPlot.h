@@ -11,6 +11,8 @@ class QRectF;
 
 namespace talvesk {
 
+class TomoDocument;
+
 /// A section laid out as a plot with axes, colour bar, legend and caption, ready to be painted on
 /// any device. Lives on the thread of the QApplication.
 class SectionPlot {
@@ -23,6 +25,9 @@ class SectionPlot {
   /// Chooses scales and, for a heightMm of 0, the height. Fails when axes and texts leave no room
   /// for the section.
   Status layOut(double widthMm, double heightMm);
+  /// Lays out so that `scale` metres along the line are a metre of the sheet, whose size follows.
+  /// Of a section larger than any sheet (FigureSheet::kMaxMm) only the size is told, without axes.
+  Status layOutToScale(double scale);
   /// As laid out; after paint() as painted.
   const SectionFigureLayout& layout() const { return mLayout; }
   const std::string& title() const { return mTitle; }
@@ -37,6 +42,11 @@ class SectionPlot {
   SectionFigureLayout mLayout;
   std::string mTitle;
 };
+
+/// Makes the plot of a document's section, not yet laid out. Fails without a grid, and for options
+/// that make no picture.
+Status makeSectionPlot(const TomoDocument& document, const SectionFigureOptions& options,
+                       std::unique_ptr<SectionPlot>& plot);
 
 /// The exaggeration at which a section of this height over width is legible: the least of a row of
 /// round numbers, 1 first, that makes it at least a quarter as high as wide.

@@ -11,6 +11,7 @@
 #include <QByteArray>
 #include <QPainter>
 #include <QStringList>
+#include <algorithm>
 #include <memory>
 
 #include <qwt_plot.h>
@@ -33,10 +34,13 @@ class TravelTimeSheet {
   }
 
   const std::string& title() const { return mTitle; }
+  double widthMm() const { return mOptions.widthMm; }
   const TravelTimeFigureLayout& layout() const { return mLayout; }
 
  private:
   void setScales(double width, double height);
+  double span() const { return mCurves.high > mCurves.low ? mCurves.high - mCurves.low : 2.0; }
+  Status fit();
   std::string caption(const TomoDocument& document) const;
 
   TravelTimeFigureOptions mOptions;
@@ -90,9 +94,10 @@ std::string TravelTimeSheet::caption(const TomoDocument& document) const {
 }
 
 void TravelTimeSheet::setScales(double width, double height) {
-  const double span = mCurves.high > mCurves.low ? mCurves.high - mCurves.low : 2.0;
   const double middle = 0.5 * (mCurves.low + mCurves.high);
-  const double side = 0.5 * span * width / (width - 2.0 * kPadding);
+  const double metresPerPoint = mOptions.scale > 0.0 ? 1e-3 * mOptions.scale / mPlot.pointsPerMm()
+                                                     : span() / (width - 2.0 * kPadding);
+  const double side = 0.5 * width * metresPerPoint;
   FigurePlot::Scale x;
   x.from = x.firstTick = middle - side;
   x.to = x.lastTick = middle + side;
@@ -116,6 +121,22 @@ Status TravelTimeSheet::layOut() {
     return Status::failure(Message::tr(
         "There are no travel times to draw: pick first breaks, or load travel times, first."));
   }
+  if (!(mOptions.scale > 0.0)) return fit();
+  const double padding = 2.0 * kPadding / mPlot.pointsPerMm();
+  const double canvas = std::max(1e3 * span() / mOptions.scale + padding,
+                                 kMinCanvasWidth / mPlot.pointsPerMm() + 1.0);
+  mOptions.widthMm = 1.2 * canvas;
+  if (mOptions.widthMm > FigureSheet::kMaxMm) return {};
+  // What axes and texts take beside the canvas shows once they are laid out.
+  Status status = fit();
+  for (int round = 0; round < 2 && status.ok(); ++round) {
+    mOptions.widthMm += canvas - (mLayout.place.rightMm - mLayout.place.leftMm);
+    status = fit();
+  }
+  return status;
+}
+
+Status TravelTimeSheet::fit() {
   mPlot.setTexts(mOptions.showTitle ? mTitle : std::string(), mCaption, mOptions.widthMm);
   const auto scale = [this](double width, double height) { setScales(width, height); };
   return mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight, scale,
@@ -131,6 +152,7 @@ Status layOut(const TomoDocument& document, const TravelTimeFigureOptions& optio
   plot = std::make_unique<TravelTimeSheet>(document, options);
   if (Status status = plot->layOut(); !status.ok()) return status;
   sheet.title = plot->title();
+  sheet.widthMm = plot->widthMm();
   return {};
 }
 

@@ -156,6 +156,25 @@ TEST(Export, drawsAndReportsWithoutADisplay) {
   EXPECT_EQ(folder.fileCount(), 4U);
 }
 
+TEST(Export, printsSectionAndCurvesAtAScaleOrTellsOneThatFits) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  const Outcome printed = runBatch({"export", project, "--print", folder / "s.pdf", "--scale", "50",
+                                    "--paper", "A3", "--print-curves", folder / "c.pdf"},
+                                   {{"DISPLAY", ""}});
+  ASSERT_EQ(printed.code, 0) << printed.err;
+  for (const char* name : {"s.pdf", "c.pdf"}) {
+    // An A3 sheet on its side, in points.
+    EXPECT_THAT(contentsOf(folder / name),
+                AllOf(StartsWith("%PDF-"), HasSubstr("/MediaBox [0 0 1191.000000 842.000000]")));
+  }
+  const Outcome refused = runBatch({"export", project, "--print", folder / "large.pdf", "--scale",
+                                    "20", "--paper", "A4", "--portrait"});
+  EXPECT_EQ(refused.code, 1);
+  EXPECT_THAT(refused.err, HasSubstr("choose 1:"));
+  EXPECT_EQ(folder.fileCount(), 3U);
+}
+
 TEST(Export, writesAPageOfEveryProjectAndOneOnAllOfThem) {
   const Folder folder;
   const std::string project = writeProject(folder);
@@ -327,6 +346,10 @@ TEST(Export, refusesCommandLinesThatMakeNoSense) {
       {{"--kml-section", kml, "--range", "600"}, "is not MIN:MAX"},
       {{"--kml-section", kml, "--palette", "Mauve"}, "'Mauve' is none of 'Silva viridis'"},
       {{"other.tvsk", "--vtk", folder / "s.vtu"}, "other.tvsk"},
+      {{"--vtk", folder / "s.vtu", "--scale", "500"}, "goes with --print or --print-curves"},
+      {{"--print", folder / "s.pdf", "--paper", "A9"}, "A9"},
+      {{"--print", folder / "s.pdf", "--scale", "0"}, "from 1 to 1000000"},
+      {{"--print", folder / "s.png"}, "must end in .pdf"},
       {{"--gridded", project}, "overwrite"},
       {{"--kml-line", kml, "--kml-section", kml}, "same file"},
   };
