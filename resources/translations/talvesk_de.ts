@@ -2402,6 +2402,14 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>%1 (not reached)</source>
         <translation>%1 (nicht erreicht)</translation>
     </message>
+    <message>
+        <source>Scale %1</source>
+        <translation>Maßstab %1</translation>
+    </message>
+    <message>
+        <source>Elevation %1</source>
+        <translation>Höhe %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -8305,6 +8313,18 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Attenuate traces</source>
         <translation>Spuren abschwächen</translation>
+    </message>
+    <message>
+        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet.</source>
+        <translation>Bei 1:%1 braucht die Abbildung %2 x %3 mm, und das Blatt bietet %4 x %5 mm: Wählen Sie 1:%6 oder ein größeres Blatt.</translation>
+    </message>
+    <message>
+        <source>The figure fits this sheet at no scale: choose a larger sheet.</source>
+        <translation>Die Abbildung passt in keinem Maßstab auf dieses Blatt: Wählen Sie ein größeres.</translation>
+    </message>
+    <message>
+        <source>The scale must lie between 1:%1 and 1:%2.</source>
+        <translation>Der Maßstab muss zwischen 1:%1 und 1:%2 liegen.</translation>
     </message>
 </context>
 <context>

@@ -2402,6 +2402,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>%1 (not reached)</source>
         <translation>%1 (no se alcanza)</translation>
     </message>
+    <message>
+        <source>Scale %1</source>
+        <translation>Escala %1</translation>
+    </message>
+    <message>
+        <source>Elevation %1</source>
+        <translation>Elevación %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -8305,6 +8313,18 @@ Defina la posición de los geófonos
     <message>
         <source>Attenuate traces</source>
         <translation>Atenuar trazas</translation>
+    </message>
+    <message>
+        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet.</source>
+        <translation>A 1:%1 la figura ocupa %2 x %3 mm y en la hoja caben %4 x %5 mm: elija 1:%6 o una hoja mayor.</translation>
+    </message>
+    <message>
+        <source>The figure fits this sheet at no scale: choose a larger sheet.</source>
+        <translation>La figura no cabe en esta hoja a ninguna escala: elija una hoja mayor.</translation>
+    </message>
+    <message>
+        <source>The scale must lie between 1:%1 and 1:%2.</source>
+        <translation>La escala debe estar entre 1:%1 y 1:%2.</translation>
     </message>
 </context>
 <context>

@@ -2402,6 +2402,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>%1 (not reached)</source>
         <translation>%1 (non atteinte)</translation>
     </message>
+    <message>
+        <source>Scale %1</source>
+        <translation>Échelle %1</translation>
+    </message>
+    <message>
+        <source>Elevation %1</source>
+        <translation>Altitude %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -8305,6 +8313,18 @@ Veuillez définir la position des géophones
     <message>
         <source>Attenuate traces</source>
         <translation>Atténuer les traces</translation>
+    </message>
+    <message>
+        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet.</source>
+        <translation>À 1:%1, la figure occupe %2 x %3 mm et la feuille offre %4 x %5 mm : choisissez 1:%6 ou une feuille plus grande.</translation>
+    </message>
+    <message>
+        <source>The figure fits this sheet at no scale: choose a larger sheet.</source>
+        <translation>La figure ne tient sur cette feuille à aucune échelle : choisissez une feuille plus grande.</translation>
+    </message>
+    <message>
+        <source>The scale must lie between 1:%1 and 1:%2.</source>
+        <translation>L’échelle doit être comprise entre 1:%1 et 1:%2.</translation>
     </message>
 </context>
 <context>

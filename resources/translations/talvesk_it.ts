@@ -2402,6 +2402,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>%1 (not reached)</source>
         <translation>%1 (non raggiunta)</translation>
     </message>
+    <message>
+        <source>Scale %1</source>
+        <translation>Scala %1</translation>
+    </message>
+    <message>
+        <source>Elevation %1</source>
+        <translation>Quota %1</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -8305,6 +8313,18 @@ Impostare la posizione dei geofoni
     <message>
         <source>Attenuate traces</source>
         <translation>Attenua tracce</translation>
+    </message>
+    <message>
+        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet.</source>
+        <translation>A 1:%1 la figura occupa %2 x %3 mm e il foglio offre %4 x %5 mm: scegliere 1:%6 o un foglio più grande.</translation>
+    </message>
+    <message>
+        <source>The figure fits this sheet at no scale: choose a larger sheet.</source>
+        <translation>La figura non sta su questo foglio in nessuna scala: scegliere un foglio più grande.</translation>
+    </message>
+    <message>
+        <source>The scale must lie between 1:%1 and 1:%2.</source>
+        <translation>La scala deve essere compresa tra 1:%1 e 1:%2.</translation>
     </message>
 </context>
 <context>
