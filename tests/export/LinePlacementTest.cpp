@@ -1,7 +1,9 @@
+#include "export/LineOnMap.h"
 #include "export/LinePlacement.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 
+#include <cmath>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -47,10 +49,32 @@ TEST(LinePlacement, followsTheCourseOfALineThatHasOne) {
     EXPECT_NEAR(line.at(c.distance).easting, c.easting, 1e-9) << c.distance;
     EXPECT_NEAR(line.at(c.distance).northing, c.northing, 1e-9) << c.distance;
   }
+  EXPECT_EQ(line.direction(-2.5).easting, 1.0) << "goes on as it begins";
+  EXPECT_EQ(line.direction(5.0).northing, 0.0);
+  EXPECT_EQ(line.direction(22.5).easting, 0.0);
+  EXPECT_EQ(line.direction(40.0).northing, 1.0);
+  EXPECT_NEAR(LinePlacement({0, 100.0, 130.0, 200.0, 240.0}).direction(7.0).easting, 0.6, 1e-12);
   EXPECT_TRUE(isCourse(course));
   EXPECT_FALSE(isCourse({{0.0, {}}}));
   EXPECT_FALSE(isCourse({{0.0, {}}, {0.0, {}}}));
   EXPECT_FALSE(isCourse({{0.0, {}}, {1.0, {std::numeric_limits<double>::infinity(), 0.0}}}));
+}
+
+TEST(LineOnMap, liesOnTheCourseOfABentLine) {
+  TomoDocument document;
+  const geographicsCoord ends{32632, 100.0, 110.0, 200.0, 220.0};
+  document.map.edit().geoCoord = ends;
+  document.map.edit().geoCoord_isSet = true;
+  document.line.edit().goephonesStringSet = {{{5.0, 0.0}, {37.5, 0.0}}};
+  document.line.edit().course = {
+      ends, {{0.0, {100.0, 200.0}}, {12.5, {110.0, 200.0}}, {32.5, {110.0, 220.0}}}};
+  const LineOnMap map(document);
+  EXPECT_NEAR(map.at(17.5).easting, 110.0, 1e-9) << "the bend, 12.5 m from the first geophone";
+  EXPECT_NEAR(map.at(17.5).northing, 200.0, 1e-9);
+  EXPECT_EQ(map.direction(30.0).northing, 1.0);
+  document.map.edit().geoCoord.mEastLstGeoph = 120.0;
+  EXPECT_NEAR(LineOnMap(document).direction(30.0).easting, std::sqrt(0.5), 1e-12)
+      << "other ends than those of the course";
 }
 
 TEST(LineEnds, areTheOutermostGeophonesWhateverTheOrderOfChannels) {
