@@ -1,5 +1,6 @@
 #include "base/Message.h"
 
+#include "base/LengthUnit.h"
 #include "base/TextNumber.h"
 
 #include <ostream>
@@ -40,6 +41,22 @@ Message Message::number(double value, int significantDigits) {
   return message;
 }
 
+Message Message::measure(Kind kind, double metres, int significantDigits, const char* unit) {
+  Message message(formatDouble(metres, significantDigits) + ' ' + unit);
+  message.mKind = kind;
+  message.mMetres = metres;
+  message.mDigits = significantDigits;
+  return message;
+}
+
+Message Message::length(double metres, int significantDigits) {
+  return measure(Kind::kLength, metres, significantDigits, "m");
+}
+
+Message Message::velocity(double metresPerSecond, int significantDigits) {
+  return measure(Kind::kVelocity, metresPerSecond, significantDigits, "m/s");
+}
+
 Message Message::arg(Message argument) && {
   mArguments.push_back(std::move(argument));
   fill();
@@ -68,6 +85,10 @@ Message Message::without(const std::string& text) const {
 std::string Message::in(const Language& language) const {
   if (mKind == Kind::kPlain) return mEnglish;
   if (mKind == Kind::kNumber) return language.number(mEnglish);
+  if (mKind == Kind::kLength || mKind == Kind::kVelocity) {
+    const char* unit = mKind == Kind::kLength ? lengthUnitName() : velocityUnitName();
+    return language.number(formatDouble(shownLength(mMetres), mDigits)) + ' ' + unit;
+  }
   return filled(language.text(mSource), mArguments.size(),
                 [&](std::size_t i) { return mArguments[i].in(language); });
 }

@@ -26,6 +26,11 @@ class Message {
   static Message tr(const char* source);                           ///< \param source lives forever
   static Message number(double value, int significantDigits = 6);  ///< decimals as users have them
 
+  /// A length with its unit, "12.5 m". Its English, which is what log and console get, is in
+  /// metres; a language shows it in the unit of LengthUnit.h, with as many digits.
+  static Message length(double metres, int significantDigits = 6);
+  static Message velocity(double metresPerSecond, int significantDigits = 6);  ///< "1500 m/s"
+
   /// The same text with what stands for its next placeholder, which may be a text to be translated
   /// itself.
   Message arg(Message argument) &&;
@@ -53,13 +58,16 @@ class Message {
   std::string in(const Language& language) const;
 
  private:
-  enum class Kind { kPlain, kNumber, kTranslated };
+  enum class Kind { kPlain, kNumber, kLength, kVelocity, kTranslated };
 
   Kind mKind = Kind::kPlain;
   const char* mSource = nullptr;    ///< of a text to be translated
   std::vector<Message> mArguments;  ///< in the order of the placeholders
   std::string mEnglish;
+  double mMetres = 0.0;  ///< of a length or a velocity
+  int mDigits = 6;       ///< of these
 
+  static Message measure(Kind kind, double metres, int significantDigits, const char* unit);
   void fill();  ///< the English text with its arguments
 };
 

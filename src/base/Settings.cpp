@@ -89,6 +89,7 @@ void readStages(cereal::XMLInputArchive& archive, Settings& settings) {
   read(archive, "showComputedTimes", settings.showComputedTimes);
   read(archive, "showNeighbour", settings.showNeighbour);
   read(archive, "showReciprocalTimes", settings.showReciprocalTimes);
+  read(archive, "feet", settings.feet);
 }
 
 }  // namespace
@@ -118,7 +119,7 @@ Status Settings::save() const {
             CEREAL_NVP(fillWiggle), CEREAL_NVP(showFiltered), CEREAL_NVP(showAllTraces),
             CEREAL_NVP(savePngHColorbar), CEREAL_NVP(twoColors), CEREAL_NVP(undoMegabytes),
             CEREAL_NVP(errorBars), CEREAL_NVP(showComputedTimes), CEREAL_NVP(showNeighbour),
-            CEREAL_NVP(showReciprocalTimes), CEREAL_NVP(samplesOnDisk));
+            CEREAL_NVP(showReciprocalTimes), CEREAL_NVP(samplesOnDisk), CEREAL_NVP(feet));
   } catch (const std::exception& error) {  // the archive writes its text as it goes out of scope
     return Status::failure(Message::tr("Cannot write %1: %2").arg(mPath).arg(error.what()));
   }

@@ -36,6 +36,7 @@ class Settings {
   static constexpr int kLeastUndo = 16;
   static constexpr int kMostUndo = 65536;
   int samplesOnDisk = 0;  ///< when samples are kept on the disk, a SamplesOnDisk
+  bool feet = false;      ///< lengths and velocities are shown and asked for in feet
 
  private:
   std::string mPath;

@@ -1,3 +1,4 @@
+#include "base/LengthUnit.h"
 #include "base/Message.h"
 #include "base/Status.h"
 
@@ -49,6 +50,19 @@ TEST(Message, speaksEnglishByItselfAndAnyLanguageWhenItIsShown) {
     EXPECT_EQ(c.message.english(), c.english);
     EXPECT_EQ(c.message.in(Backwards()), c.translated);
   }
+}
+
+TEST(Message, showsLengthsInTheUnitAskedForAndLogsMetres) {
+  const Message message = Message::tr("line %1").arg(
+      Message::tr("%1, %2").arg(Message::length(1.5)).arg(Message::velocity(1500.0)));
+  EXPECT_EQ(message.in(Backwards()), "riga 1,5 m, 1500 m/s");
+  setLengthUnit(LengthUnit::kFoot);
+  EXPECT_EQ(message.in(Backwards()), "riga 4,92126 ft, 4921,26 ft/s");
+  EXPECT_EQ(message.english(), "line 1.5 m, 1500 m/s");
+  EXPECT_DOUBLE_EQ(metresOf(shownLength(0.1)), 0.1);
+  setLengthUnit(LengthUnit::kMetre);
+  EXPECT_EQ(shownLength(0.1), 0.1);
+  EXPECT_EQ(metresOf(0.1), 0.1);
 }
 
 TEST(Message, isAStringWhereOneIsWanted) {

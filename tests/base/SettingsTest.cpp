@@ -25,7 +25,7 @@ auto values(const Settings& s) {
   return std::make_tuple(s.language, s.fillWiggle, s.zoomIn, s.cutHorizontal, s.showFiltered,
                          s.showAllTraces, s.twoColors, s.savePngHColorbar, s.undoMegabytes,
                          s.errorBars, s.showComputedTimes, s.showNeighbour, s.showReciprocalTimes,
-                         s.samplesOnDisk);
+                         s.samplesOnDisk, s.feet);
 }
 
 std::string xml(const std::string& content) {
@@ -45,6 +45,7 @@ TEST(Settings, comeBackAsTheyWereSaved) {
   saved.zoomIn = saved.showAllTraces = saved.twoColors = saved.savePngHColorbar = true;
   saved.undoMegabytes = 128;
   saved.samplesOnDisk = 2;
+  saved.feet = true;
   saved.errorBars = false;
   saved.showComputedTimes = saved.showNeighbour = saved.showReciprocalTimes = true;
   ASSERT_TRUE(saved.save().ok());
@@ -94,7 +95,8 @@ TEST(Settings, areWrittenInTheOrderOfTheFile) {
        {"<language>en<", "<zoomIn>false<", "<cutHorizontal>true<", "<fillWiggle>true<",
         "<showFiltered>true<", "<showAllTraces>false<", "<savePngHColorbar>false<",
         "<twoColors>false<", "<undoMegabytes>512<", "<errorBars>true<", "<showComputedTimes>false<",
-        "<showNeighbour>false<", "<showReciprocalTimes>false<", "<samplesOnDisk>0<"}) {
+        "<showNeighbour>false<", "<showReciprocalTimes>false<", "<samplesOnDisk>0<",
+        "<feet>false<"}) {
     const std::size_t at = text.find(element);
     ASSERT_NE(at, std::string::npos) << element << " in\n" << text;
     EXPECT_GT(at, last) << element;
