@@ -134,7 +134,7 @@ TEST_P(SettingsOfOlderVersions, keepWhatTheyHold) {
   EXPECT_TRUE(settings.load());
   EXPECT_EQ(values(settings),
             std::make_tuple(std::string("fr"), false, true, false, false, GetParam().showAllTraces,
-                            false, false, 512, true, false, false, false, 0));
+                            false, false, 512, true, false, false, false, 0, false));
   EXPECT_EQ(console.error(), GetParam().error);
   EXPECT_EQ(console.out(), GetParam().out);
 }
@@ -157,8 +157,9 @@ TEST(Settings, areReadByNameInAnyOrder) {
                           "<showAllTraces>true</showAllTraces>" +
                           kGroupOf2019 + "<language>de</language>")));
   EXPECT_TRUE(settings.load());
-  EXPECT_EQ(values(settings), std::make_tuple(std::string("de"), false, true, false, false, true,
-                                              true, true, 512, true, false, false, false, 0));
+  EXPECT_EQ(values(settings),
+            std::make_tuple(std::string("de"), false, true, false, false, true, true, true, 512,
+                            true, false, false, false, 0, false));
   EXPECT_EQ(console.out() + console.error(), "");
 }
 
