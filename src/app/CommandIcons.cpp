@@ -25,6 +25,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionImages", ":/icons/png.png"},
     {"actionAutoPick", ":/icons/autopickingICO.png"},
     {"actionAutoPick_line", ":/icons/autopick-line.png"},
+    {"actionAutoPick_survey", ":/icons/autopick-survey.png"},
     {"actionGeometry", ":/icons/settings.png"},
     {"actionGrid", ":/icons/grid.png"},
     {"actionPDF", ":/icons/pdf.png"},

@@ -71,7 +71,7 @@ const char* StepTexts::action(StepCommand command) {
     case StepCommand::kImportTimes:
       return "actionLoad_TT";
     case StepCommand::kPickLine:
-      return "actionAutoPick_line";
+      return "actionAutoPick_survey";
     case StepCommand::kReviewDoubtful:
       return "actionNext_doubtful";
     case StepCommand::kCheckRecordings:

@@ -308,6 +308,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionGrid",
         "actionAutoPick",
         "actionAutoPick_line",
+        "actionAutoPick_survey",
         "actionFill_along",
         "actionFilter",
         "actionNotch",

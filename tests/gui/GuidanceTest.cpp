@@ -56,7 +56,7 @@ TEST_F(Guidance, followsTheSurveyThroughEditsUndoAndAnotherSurvey) {
   EXPECT_EQ(next(), "Open shot files...");
   loadShots(2);
   QTRY_COMPARE(QString::fromStdString(states()), QString::fromLatin1(kShots));
-  EXPECT_EQ(next(), "AutoPick along the line");
+  EXPECT_EQ(next(), "AutoPick all shots along the line");
   EXPECT_EQ(child<QLabel>("guidanceReason").text().toStdString(), "Picks: no picks yet");
   pickAndGrid();
   QTRY_COMPARE(QString::fromStdString(states()), QString::fromLatin1(kReady));

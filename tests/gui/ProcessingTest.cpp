@@ -83,6 +83,14 @@ TEST_F(Processing, picksAlongTheLineAndLeavesWhatAPersonPicked) {
   EXPECT_EQ(picksOf(0) + picksOf(2), 0);
 }
 
+TEST_F(Processing, picksEveryShotAlongTheLineWhicheverIsInView) {
+  ASSERT_FALSE(action("actionShow_all_traces").isChecked());
+  action("actionAutoPick_survey").trigger();
+  for (std::size_t shot = 0; shot < 3; ++shot) EXPECT_GT(picksOf(shot), 6) << shot;
+  action("actionUndo").trigger();
+  EXPECT_EQ(picksOf(0) + picksOf(1) + picksOf(2), 0);
+}
+
 TEST_F(Processing, gradesThePicksAlongTheLineByTheirErrors) {
   action("actionAutoPick_line").trigger();
   const PickGrades grades = gradesOf(window->document().ttArray[0]);

@@ -102,6 +102,8 @@ Rows projectRows(Desk& /*desk*/, Presenters& p) {
       {"actionAutoPick", &State::shotInView, call(p.processing, &ProcessingPresenter::autoPick)},
       {"actionAutoPick_line", &State::shotInView,
        call(p.processing, &ProcessingPresenter::autoPickAlongLine)},
+      {"actionAutoPick_survey", &State::traces,
+       call(p.processing, &ProcessingPresenter::autoPickSurvey)},
       {"actionFill_along", &State::shotInView, [&p](bool) { p.processing.fillAlong(); }},
       {"actionFilter", &State::shotInView, call(p.processing, &ProcessingPresenter::filter)},
       {"actionNotch", &State::shotInView, call(p.processing, &ProcessingPresenter::notch)},

@@ -64,7 +64,7 @@ void GuidancePresenter::offerInEmptyViews() {
   const bool shots = !mDesk.document().ttArray.empty();
   for (TravelTimePlot* plot : mDesk.plots()) {
     plot->setEmptyCommands(
-        {shots ? ui.actionAutoPick_line : ui.actionOpen_shot_files, ui.actionLoad_TT});
+        {shots ? ui.actionAutoPick_survey : ui.actionOpen_shot_files, ui.actionLoad_TT});
   }
 }
 

@@ -97,7 +97,14 @@ void ProcessingPresenter::autoPick() {
 }
 
 void ProcessingPresenter::autoPickAlongLine() {
-  const std::vector<std::int32_t> shots = shotsToProcess();
+  pickAlongLine(shotsToProcess());
+}
+
+void ProcessingPresenter::autoPickSurvey() {
+  pickAlongLine(shotList(mDesk.document(), true, 0));
+}
+
+void ProcessingPresenter::pickAlongLine(const std::vector<std::int32_t>& shots) {
   if (shots.empty()) return;
   TomoDocument work = mDesk.document();
   JointPickOptions options;

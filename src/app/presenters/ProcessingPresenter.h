@@ -24,6 +24,7 @@ class ProcessingPresenter : public QObject {
   void autoPick();
   /// By the joint picker; picks that a person made stay.
   void autoPickAlongLine();
+  void autoPickSurvey();  ///< the same for every shot, whichever are in view
   /// By the joint picker through the picks that a person made, of the shot in view only.
   void fillAlong();
   void filter();          ///< by its dialog
@@ -33,6 +34,7 @@ class ProcessingPresenter : public QObject {
   void hushel();
 
  private:
+  void pickAlongLine(const std::vector<std::int32_t>& shots);
   void fillAlong(const GuideLine& guide);
   std::vector<std::int32_t> shotsToProcess() const;
   bool hasTraces(int shot) const;
