@@ -108,8 +108,8 @@ bool isWiredBackwards(const std::vector<const std::vector<Swing>*>& shots, std::
     own.push_back((*shot)[trace].own);
     others.push_back((*shot)[trace].others);
   }
-  return own.size() >= kSeveral && medianOf(own, 0.0) < -kAgainst &&
-         medianOf(others, 0.0) > kAgainst;
+  if (own.size() < kSeveral) return false;
+  return medianOf(std::move(own), 0.0) < -kAgainst && medianOf(std::move(others), 0.0) > kAgainst;
 }
 
 }  // namespace

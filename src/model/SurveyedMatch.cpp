@@ -123,7 +123,8 @@ class Matcher {
       (shot ? shots : stations) = counted(what.number, shot ? mShots.size() : mStations.size());
     } else if (by == StationsBy::kOrder) {
       std::size_t& next = shot ? mNextShot : mNextStation;
-      if (next < (shot ? mShots.size() : mStations.size())) (shot ? shots : stations) = {next++};
+      if (next < (shot ? mShots.size() : mStations.size()))
+        (shot ? shots : stations).push_back(next++);
     } else if (what.number) {
       if (!shot) stations = mStationX.near(*what.number, mReach);
       if (what.kind != SurveyedKind::kGeophone) shots = mShotX.near(*what.number, mReach);
