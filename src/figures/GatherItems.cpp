@@ -20,7 +20,6 @@ namespace {
 
 // Lengths on the sheet, in points of 1/96 inch.
 constexpr double kVectorRow = 0.5;  ///< height of a row of a vector file, an eighth of a millimetre
-constexpr double kLineWidth = 0.5;
 
 /// Points of one wiggle, x counted from its base line.
 class Thinner {
@@ -123,7 +122,7 @@ class WigglePainter {
       if (mStyle.fillPositive) fill(painter, lines);
       painter.setBrush(Qt::NoBrush);
       painter.setPen(
-          QPen(toColor(mStyle.line), kLineWidth, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin));
+          QPen(toColor(mStyle.line), mStyle.width, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin));
       for (const QPolygonF& line : lines) painter.drawPolyline(line);
       painter.restore();
     }

@@ -18,6 +18,7 @@ struct WiggleStyle {
   double clip = 1.0;  ///< swings are cut beyond, in distances between traces
   bool fillPositive = true;
   RgbColor line = {0.0, 0.0, 0.0};
+  double width = 0.5;                     ///< of the line, points of 1/96 inch
   RgbColor fill = {0.235, 0.235, 0.235};  ///< of the positive side
   /// Of a vector file, above which wiggles get coarser: with the fill, five megabytes of SVG at the
   /// worst. Who draws several gathers on a page shares them out.
