@@ -24,7 +24,7 @@ constexpr Page kPages[] = {
     {"RecordingDetailsDialog", "load.html"},
     {"ReadingsDialog", "load.html"},
     {"TraceHeadersDialog", "load.html"},
-    {"ShotPairDialog", "load.html"},
+    {"BlowPairDialog", "load.html"},
     {"ShotFileDialog", "load.html"},
     {"doFilteringDialog", "filter.html"},
     {"gridDialog", "inversion.html"},

@@ -3,6 +3,7 @@
 #include "app/BackgroundCertainty.h"
 #include "app/FileFolders.h"
 #include "app/Languages.h"
+#include "app/dialogs/BlowPairDialog.h"
 #include "app/dialogs/CertaintyDialog.h"
 #include "app/dialogs/CheckDialog.h"
 #include "app/dialogs/CommandSearchDialog.h"
@@ -30,7 +31,6 @@
 #include "app/dialogs/SecondLookDialog.h"
 #include "app/dialogs/SelectCSVDelimiterDialog.h"
 #include "app/dialogs/SettingsDialog.h"
-#include "app/dialogs/ShotPairDialog.h"
 #include "app/dialogs/StartLayersDialog.h"
 #include "app/dialogs/TraceHeadersDialog.h"
 #include "app/dialogs/contourlines_dialog.h"
@@ -150,9 +150,9 @@ class DialogTest : public WindowTest {
          }},
         {"two shots",
          [&] {
-           auto dialog = make<ShotPairDialog>();
-           dynamic_cast<ShotPairDialog&>(*dialog).setSurvey(document);
-           dynamic_cast<ShotPairDialog&>(*dialog).chooseShot(0);
+           auto dialog = make<BlowPairDialog>();
+           dynamic_cast<BlowPairDialog&>(*dialog).setSurvey(document);
+           dynamic_cast<BlowPairDialog&>(*dialog).chooseShot(0);
            return dialog;
          }},
         {"sheet of shots", [&] { return make<GatherSheetDialog>(document); }},

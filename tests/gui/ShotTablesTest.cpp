@@ -141,7 +141,7 @@ TEST_F(ShotTables, twoShotsAreProposedAndTheirDifferenceIsAdded) {
   showWritten();
   window->showFile(0);
   action("actionOverlay_shots").trigger();
-  ASSERT_NE(dialog("ShotPairDialog"), nullptr);
+  ASSERT_NE(dialog("BlowPairDialog"), nullptr);
   EXPECT_EQ(child<QComboBox>("firstCBox").currentIndex(), 0);
   EXPECT_EQ(child<QComboBox>("secondCBox").currentIndex(), 3);
   child<QPushButton>("addButton").click();

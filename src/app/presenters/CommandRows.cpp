@@ -134,7 +134,7 @@ Rows shotRows(Desk& desk, Presenters& p) {
       {"actionPrev_file", &State::records, call(desk.shot, &ShotInView::showPrevious)},
       {"actionRecording_details", &State::traces, call(p.traces, &TracesPresenter::showDetails)},
       {"actionTrace_headers", &State::traces, call(p.headers, &TraceHeadersPresenter::show)},
-      {"actionOverlay_shots", &State::shotInView, call(p.shotPairs, &ShotPairPresenter::show)},
+      {"actionOverlay_shots", &State::shotInView, call(p.blowPairs, &BlowPairPresenter::show)},
       {"actionCheck_recordings", &State::traces, call(p.checks, &CheckPresenter::check)},
       {"actionReciprocity", &State::records, call(p.reciprocity, &ReciprocityPresenter::show)},
       {"actionCount_from_shot", &State::beforeShot, [&desk](bool) { countTimesFromShot(desk); }},

@@ -8,7 +8,7 @@ Presenters::Presenters(Desk& desk)
       traces(desk),
       traceMends(desk),
       headers(desk),
-      shotPairs(desk),
+      blowPairs(desk),
       checks(desk),
       reciprocity(desk),
       traceOptions(desk),
@@ -54,7 +54,7 @@ Presenters::Presenters(Desk& desk)
 void Presenters::retranslate() {
   traces.retranslate();
   headers.retranslate();
-  shotPairs.retranslate();
+  blowPairs.retranslate();
   reciprocity.retranslate();
   residuals.retranslate();
   secondLook.retranslate();

@@ -2,6 +2,7 @@
 
 #include "app/LayeredModel.h"
 #include "app/presenters/AnnotationsPresenter.h"
+#include "app/presenters/BlowPairPresenter.h"
 #include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
 #include "app/presenters/CommandSearchPresenter.h"
@@ -35,7 +36,6 @@
 #include "app/presenters/SectionPresenter.h"
 #include "app/presenters/SettingsPresenter.h"
 #include "app/presenters/ShotFilesPresenter.h"
-#include "app/presenters/ShotPairPresenter.h"
 #include "app/presenters/StylePresenter.h"
 #include "app/presenters/SurveyPresenter.h"
 #include "app/presenters/SurveyedPositionsPresenter.h"
@@ -60,7 +60,7 @@ struct Presenters {
   TracesPresenter traces;
   TraceMendsPresenter traceMends;
   TraceHeadersPresenter headers;
-  ShotPairPresenter shotPairs;
+  BlowPairPresenter blowPairs;
   CheckPresenter checks;
   ReciprocityPresenter reciprocity;
   TraceOptionsPresenter traceOptions;

@@ -1,4 +1,4 @@
-#include "figures/ShotPairFigure.h"
+#include "figures/BlowPairFigure.h"
 
 #include "figures/FigureItem.h"
 #include "figures/FigureOutput.h"
@@ -29,19 +29,19 @@ constexpr RgbColor kSecondPick{0.55, 0.10, 0.0};
 using Scene = std::shared_ptr<GatherScene>;
 
 struct Scenes {
-  std::array<Scene, 4> of;  ///< by ShotPair::Set; null where there is none
+  std::array<Scene, 4> of;  ///< by BlowPair::Set; null where there is none
   TimeWindow window;
 };
 
-Status build(const ShotPair& pair, const GatherFigureOptions& options, Scenes& scenes) {
+Status build(const BlowPair& pair, const GatherFigureOptions& options, Scenes& scenes) {
   const std::size_t sets = pair.hasSum() ? 4 : 2;
   for (std::size_t set = 0; set < sets; ++set) {
     scenes.of[set] = std::make_shared<GatherScene>();
     Status status = buildGatherScene(pair.document, set, options, *scenes.of[set]);
     if (!status.ok()) return status;
   }
-  const TimeWindow& first = scenes.of[ShotPair::kFirst]->window;
-  const TimeWindow& second = scenes.of[ShotPair::kSecond]->window;
+  const TimeWindow& first = scenes.of[BlowPair::kFirst]->window;
+  const TimeWindow& second = scenes.of[BlowPair::kSecond]->window;
   scenes.window = {0.0, std::max(first.endMs, second.endMs)};
   return {};
 }
@@ -50,7 +50,7 @@ Status build(const ShotPair& pair, const GatherFigureOptions& options, Scenes& s
 void scaleAlike(Scenes& scenes, bool trueAmplitudes) {
   std::vector<double> measures;
   double largest = GatherTrace::kFlat;
-  for (const std::size_t set : {ShotPair::kFirst, ShotPair::kSecond}) {
+  for (const std::size_t set : {BlowPair::kFirst, BlowPair::kSecond}) {
     for (const GatherTrace& trace : scenes.of[set]->traces) {
       if (measures.size() <= trace.channel) {
         measures.resize(trace.channel + 1, GatherTrace::kFlat);
@@ -68,7 +68,7 @@ void scaleAlike(Scenes& scenes, bool trueAmplitudes) {
   }
 }
 
-GatherLayer layerOf(const Scene& scene, const ShotPairLook& look, double layers) {
+GatherLayer layerOf(const Scene& scene, const BlowPairLook& look, double layers) {
   GatherLayer layer;
   layer.scene = scene;
   layer.style.gain = look.gain;
@@ -78,14 +78,14 @@ GatherLayer layerOf(const Scene& scene, const ShotPairLook& look, double layers)
   return layer;
 }
 
-GatherPanel overlayOf(const Scenes& scenes, const ShotPairLook& look, double layers) {
+GatherPanel overlayOf(const Scenes& scenes, const BlowPairLook& look, double layers) {
   GatherPanel panel;
   panel.heading = {{look.firstName, toColor(kFirstLine)}, {look.secondName, toColor(kSecondLine)}};
-  GatherLayer first = layerOf(scenes.of[ShotPair::kFirst], look, layers);
+  GatherLayer first = layerOf(scenes.of[BlowPair::kFirst], look, layers);
   first.style.line = kFirstLine;
   first.style.width = kLineWidth;
   first.style.fillPositive = false;
-  GatherLayer second = layerOf(scenes.of[ShotPair::kSecond], look, layers);
+  GatherLayer second = layerOf(scenes.of[BlowPair::kSecond], look, layers);
   second.style.line = kSecondLine;
   second.style.width = kLineWidth;
   second.style.fillPositive = false;
@@ -94,28 +94,28 @@ GatherPanel overlayOf(const Scenes& scenes, const ShotPairLook& look, double lay
   return panel;
 }
 
-GatherPanel resultOf(const Scenes& scenes, ShotPair::Set set, const ShotPairLook& look,
+GatherPanel resultOf(const Scenes& scenes, BlowPair::Set set, const BlowPairLook& look,
                      double layers) {
-  const bool sum = set == ShotPair::kSum;
+  const bool sum = set == BlowPair::kSum;
   GatherPanel panel;
   panel.heading = {{sum ? FigureWords::tr("Sum") : FigureWords::tr("Difference")}};
   panel.layers = {layerOf(scenes.of[set], look, layers)};
   return panel;
 }
 
-std::vector<GatherPanel> panelsOf(const Scenes& scenes, const ShotPairLook& look, bool hasSum) {
+std::vector<GatherPanel> panelsOf(const Scenes& scenes, const BlowPairLook& look, bool hasSum) {
   const double layers =
       (look.overlay ? 2.0 : 0.0) + (look.difference ? 1.0 : 0.0) + (look.sum ? 1.0 : 0.0);
   std::vector<GatherPanel> panels;
   if (look.overlay) panels.push_back(overlayOf(scenes, look, layers));
   if (look.difference && hasSum) {
-    panels.push_back(resultOf(scenes, ShotPair::kDifference, look, layers));
+    panels.push_back(resultOf(scenes, BlowPair::kDifference, look, layers));
   }
-  if (look.sum && hasSum) panels.push_back(resultOf(scenes, ShotPair::kSum, look, layers));
+  if (look.sum && hasSum) panels.push_back(resultOf(scenes, BlowPair::kSum, look, layers));
   return panels;
 }
 
-QString captionOf(const ShotPair& pair, const ShotPairLook& look) {
+QString captionOf(const BlowPair& pair, const BlowPairLook& look) {
   QStringList parts;
   for (const Message& line : describe(pair)) parts << FigureWords::message(line, look.locale);
   parts << (look.trueAmplitudes ? FigureWords::tr("All traces to one maximum, gain %1")
@@ -126,7 +126,7 @@ QString captionOf(const ShotPair& pair, const ShotPairLook& look) {
 
 }  // namespace
 
-Status prepareShotPair(const ShotPair& pair, const ShotPairLook& look, FigureDrawing& drawing,
+Status prepareBlowPair(const BlowPair& pair, const BlowPairLook& look, FigureDrawing& drawing,
                        std::vector<GatherPanelPlace>* places) {
   GatherFigureOptions options;
   options.picks = look.picks;
@@ -158,10 +158,10 @@ Status prepareShotPair(const ShotPair& pair, const ShotPairLook& look, FigureDra
   return {};
 }
 
-Status writeShotPair(const std::string& path, const ShotPair& pair, const ShotPairLook& look) {
+Status writeBlowPair(const std::string& path, const BlowPair& pair, const BlowPairLook& look) {
   return writeFigure(path, [&](FigureFormat format, QByteArray& bytes) {
     FigureDrawing drawing;
-    Status status = prepareShotPair(pair, look, drawing);
+    Status status = prepareBlowPair(pair, look, drawing);
     return status.ok() ? paintFigure(format, drawing.sheet, drawing.paint, bytes) : status;
   });
 }

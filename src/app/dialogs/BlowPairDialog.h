@@ -1,7 +1,7 @@
 #pragma once
 
-#include "figures/ShotPairFigure.h"
-#include "view/ShotPair.h"
+#include "figures/BlowPairFigure.h"
+#include "view/BlowPair.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -15,17 +15,17 @@ class QComboBox;
 namespace talvesk {
 
 namespace Ui {
-class ShotPairDialog;
+class BlowPairDialog;
 }
 
 /// Two shots laid over each other, with their difference and their sum. It stays open beside the
 /// traces, and changes nothing itself.
-class ShotPairDialog : public QDialog {
+class BlowPairDialog : public QDialog {
   Q_OBJECT
 
  public:
-  explicit ShotPairDialog(QWidget* parent = nullptr);
-  ~ShotPairDialog() override;
+  explicit BlowPairDialog(QWidget* parent = nullptr);
+  ~BlowPairDialog() override;
 
   /// Another state of the survey. The shots stay chosen where they still are.
   void setSurvey(const TomoDocument& document);
@@ -33,9 +33,9 @@ class ShotPairDialog : public QDialog {
   void chooseShot(std::size_t shot);
 
   bool hasPair() const { return mHasPair; }
-  const ShotPair& pair() const { return mPair; }
-  ShotPairLook look() const;     ///< of the picture, on the screen
-  ShotPair::Set wanted() const;  ///< difference or sum, to be added or saved
+  const BlowPair& pair() const { return mPair; }
+  BlowPairLook look() const;     ///< of the picture, on the screen
+  BlowPair::Set wanted() const;  ///< difference or sum, to be added or saved
 
   std::function<void()> addWanted;
   std::function<void()> saveShotWanted;
@@ -55,11 +55,11 @@ class ShotPairDialog : public QDialog {
   static std::optional<Blow> chosen(const QComboBox& box, const std::vector<Blow>& blows);
   void choose(QComboBox& box, const Blow& blow);
 
-  std::unique_ptr<Ui::ShotPairDialog> mUi;
+  std::unique_ptr<Ui::BlowPairDialog> mUi;
   Sheet* mSheet;
   TomoDocument mDocument;
   std::vector<Blow> mBlows;
-  ShotPair mPair;
+  BlowPair mPair;
   bool mHasPair = false;
   QTimer mSoon;  ///< computes; who walks through a list by keys waits for the last shot only
 };

@@ -1,4 +1,4 @@
-#include "app/dialogs/ShotPairDialog.h"
+#include "app/dialogs/BlowPairDialog.h"
 
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
@@ -6,7 +6,7 @@
 #include "base/LengthUnit.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
-#include "ui_ShotPairDialog.h"
+#include "ui_BlowPairDialog.h"
 
 #include <QFileInfo>
 #include <QImage>
@@ -25,9 +25,9 @@ constexpr int kSoon = 80;  // milliseconds
 }  // namespace
 
 /// The figure as large as the widget.
-class ShotPairDialog::Sheet : public QWidget {
+class BlowPairDialog::Sheet : public QWidget {
  public:
-  explicit Sheet(const ShotPairDialog& dialog) : mDialog(dialog) {
+  explicit Sheet(const BlowPairDialog& dialog) : mDialog(dialog) {
     setObjectName(QStringLiteral("pairSheet"));
     setMinimumSize(480, 260);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -56,12 +56,12 @@ class ShotPairDialog::Sheet : public QWidget {
 
  private:
   void draw() {
-    ShotPairLook look = mDialog.look();
+    BlowPairLook look = mDialog.look();
     look.locale = QLocale();
     look.widthMm = width() * kMmPerInch / kDotsPerInch;
     look.heightMm = height() * kMmPerInch / kDotsPerInch;
     FigureDrawing drawing;
-    const Status status = prepareShotPair(mDialog.pair(), look, drawing);
+    const Status status = prepareBlowPair(mDialog.pair(), look, drawing);
     if (!status.ok()) {
       mWhyNot = textOf(status.text());
       return;
@@ -77,13 +77,13 @@ class ShotPairDialog::Sheet : public QWidget {
     mPicture.setDevicePixelRatio(ratio);
   }
 
-  const ShotPairDialog& mDialog;
+  const BlowPairDialog& mDialog;
   QPixmap mPicture;  ///< of the present size; null before it is drawn
   QString mWhyNot;
 };
 
-ShotPairDialog::ShotPairDialog(QWidget* parent)
-    : QDialog(parent), mUi(std::make_unique<Ui::ShotPairDialog>()), mSheet(new Sheet(*this)) {
+BlowPairDialog::BlowPairDialog(QWidget* parent)
+    : QDialog(parent), mUi(std::make_unique<Ui::BlowPairDialog>()), mSheet(new Sheet(*this)) {
   mUi->setupUi(this);
   wrapToolTips(*this);
   mSheet->setAccessibleName(tr("Traces of both shots, their difference and their sum"));
@@ -94,10 +94,10 @@ ShotPairDialog::ShotPairDialog(QWidget* parent)
   redraw();
 }
 
-ShotPairDialog::~ShotPairDialog() = default;
+BlowPairDialog::~BlowPairDialog() = default;
 
-void ShotPairDialog::connectAll() {
-  connect(&mSoon, &QTimer::timeout, this, &ShotPairDialog::compute);
+void BlowPairDialog::connectAll() {
+  connect(&mSoon, &QTimer::timeout, this, &BlowPairDialog::compute);
   const auto soon = [this] { mSoon.start(); };
   connect(mUi->firstCBox, QOverload<int>::of(&QComboBox::activated), this, [this] {
     const std::optional<Blow> first = chosen(*mUi->firstCBox, mBlows);
@@ -111,11 +111,11 @@ void ShotPairDialog::connectAll() {
   }
   for (QCheckBox* box :
        {mUi->overlayBox, mUi->differenceBox, mUi->sumBox, mUi->amplitudesBox, mUi->picksBox}) {
-    connect(box, &QCheckBox::toggled, this, &ShotPairDialog::redraw);
+    connect(box, &QCheckBox::toggled, this, &BlowPairDialog::redraw);
   }
-  connect(mUi->endSpin, QOverload<int>::of(&QSpinBox::valueChanged), this, &ShotPairDialog::redraw);
+  connect(mUi->endSpin, QOverload<int>::of(&QSpinBox::valueChanged), this, &BlowPairDialog::redraw);
   connect(mUi->gainSpin, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-          &ShotPairDialog::redraw);
+          &BlowPairDialog::redraw);
   const auto ask = [](const std::function<void()>& wanted) {
     if (wanted) wanted();
   };
@@ -125,7 +125,7 @@ void ShotPairDialog::connectAll() {
           [this, ask] { ask(savePictureWanted); });
 }
 
-QString ShotPairDialog::nameOf(const Blow& blow) const {
+QString BlowPairDialog::nameOf(const Blow& blow) const {
   const TravelTime& record = mDocument.ttArray[blow.shot];
   const Recordings& recordings = *mDocument.recordings;
   const auto set = static_cast<std::size_t>(record.traceSetID);
@@ -143,18 +143,18 @@ QString ShotPairDialog::nameOf(const Blow& blow) const {
   return tr("Shot %1: %2").arg(blow.shot + 1).arg(parts.join(QStringLiteral(", ")));
 }
 
-std::optional<Blow> ShotPairDialog::chosen(const QComboBox& box, const std::vector<Blow>& blows) {
+std::optional<Blow> BlowPairDialog::chosen(const QComboBox& box, const std::vector<Blow>& blows) {
   const int index = box.currentIndex();
   if (index < 0 || static_cast<std::size_t>(index) >= blows.size()) return std::nullopt;
   return blows[static_cast<std::size_t>(index)];
 }
 
-void ShotPairDialog::choose(QComboBox& box, const Blow& blow) {
+void BlowPairDialog::choose(QComboBox& box, const Blow& blow) {
   const auto found = std::find(mBlows.begin(), mBlows.end(), blow);
   if (found != mBlows.end()) box.setCurrentIndex(static_cast<int>(found - mBlows.begin()));
 }
 
-void ShotPairDialog::setSurvey(const TomoDocument& document) {
+void BlowPairDialog::setSurvey(const TomoDocument& document) {
   const std::optional<Blow> first = chosen(*mUi->firstCBox, mBlows);
   const std::optional<Blow> second = chosen(*mUi->secondCBox, mBlows);
   mDocument = document;
@@ -165,7 +165,7 @@ void ShotPairDialog::setSurvey(const TomoDocument& document) {
   compute();
 }
 
-void ShotPairDialog::fillChoosers() {
+void BlowPairDialog::fillChoosers() {
   for (QComboBox* box : {mUi->firstCBox, mUi->secondCBox}) {
     box->clear();
     for (const Blow& blow : mBlows) box->addItem(nameOf(blow));
@@ -173,7 +173,7 @@ void ShotPairDialog::fillChoosers() {
   }
 }
 
-void ShotPairDialog::chooseShot(std::size_t shot) {
+void BlowPairDialog::chooseShot(std::size_t shot) {
   const auto found = std::find_if(mBlows.begin(), mBlows.end(),
                                   [shot](const Blow& blow) { return blow.shot == shot; });
   if (found == mBlows.end()) return;
@@ -182,16 +182,16 @@ void ShotPairDialog::chooseShot(std::size_t shot) {
   compute();
 }
 
-void ShotPairDialog::compute() {
+void BlowPairDialog::compute() {
   mSoon.stop();
   const WaitCursor waiting;
   const std::optional<Blow> first = chosen(*mUi->firstCBox, mBlows);
   const std::optional<Blow> second = chosen(*mUi->secondCBox, mBlows);
   QString whyNot = tr("There are no two recordings to be compared.");
   mHasPair = false;
-  mPair = ShotPair();
+  mPair = BlowPair();
   if (first && second && mBlows.size() > 1) {
-    ShotPairOptions options;
+    BlowPairOptions options;
     options.balanced = mUi->balancedBox->isChecked();
     options.filtered = mUi->filteredBox->isChecked();
     const Status status = *first == *second
@@ -210,12 +210,12 @@ void ShotPairDialog::compute() {
   mUi->savePictureButton->setEnabled(mHasPair);
 }
 
-void ShotPairDialog::redraw() {
+void BlowPairDialog::redraw() {
   mSheet->redraw({});
 }
 
-ShotPairLook ShotPairDialog::look() const {
-  ShotPairLook look;
+BlowPairLook BlowPairDialog::look() const {
+  BlowPairLook look;
   look.overlay = mUi->overlayBox->isChecked();
   look.difference = mUi->differenceBox->isChecked();
   look.sum = mUi->sumBox->isChecked();
@@ -230,11 +230,11 @@ ShotPairLook ShotPairDialog::look() const {
   return look;
 }
 
-ShotPair::Set ShotPairDialog::wanted() const {
-  return mUi->resultCBox->currentIndex() == 1 ? ShotPair::kSum : ShotPair::kDifference;
+BlowPair::Set BlowPairDialog::wanted() const {
+  return mUi->resultCBox->currentIndex() == 1 ? BlowPair::kSum : BlowPair::kDifference;
 }
 
-void ShotPairDialog::changeEvent(QEvent* event) {
+void BlowPairDialog::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) mUi->retranslateUi(this);
   QDialog::changeEvent(event);
 }

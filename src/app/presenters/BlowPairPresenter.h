@@ -8,14 +8,14 @@
 
 namespace talvesk {
 
-class ShotPairDialog;
+class BlowPairDialog;
 
 /// Two shots laid over each other, in a window that stays open beside the traces.
-class ShotPairPresenter : public QObject {
+class BlowPairPresenter : public QObject {
   Q_DECLARE_TR_FUNCTIONS(talvesk::Talvesk_MainWindows)
 
  public:
-  explicit ShotPairPresenter(Desk& desk);
+  explicit BlowPairPresenter(Desk& desk);
 
   void show();         ///< opens the window, or brings it to the front, with the shot in view
   void retranslate();  ///< where it is open
@@ -27,7 +27,7 @@ class ShotPairPresenter : public QObject {
   void savePicture();
 
   Desk& mDesk;
-  QPointer<ShotPairDialog> mDialog;
+  QPointer<BlowPairDialog> mDialog;
   QTimer mSoon;  ///< several picks of one stroke are looked at together
   Session::Subscription mSubscription;
 };

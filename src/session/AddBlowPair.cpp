@@ -1,4 +1,4 @@
-#include "session/AddShotPair.h"
+#include "session/AddBlowPair.h"
 
 #include "io/ShotLoader.h"
 #include "io/Survey.h"
@@ -8,7 +8,7 @@
 
 namespace talvesk {
 
-Status addShotPair(const ShotPair& pair, ShotPair::Set which, Survey& survey) {
+Status addBlowPair(const BlowPair& pair, BlowPair::Set which, Survey& survey) {
   if (!pair.hasSum()) return Status::failure(pair.noSum);
   Status status = checkTakesShots(survey.document);
   if (!status.ok()) return status;

@@ -31,7 +31,7 @@ std::vector<Blow> blowsOf(const TomoDocument& document);
 /// one.
 std::optional<Blow> counterpartOf(const TomoDocument& document, const Blow& blow);
 
-struct ShotPairOptions {
+struct BlowPairOptions {
   /// Metres within which two geophones are at one place.
   double tolerance = 0.1;
   /// The second is made as strong as the first, by the root of the mean square of all that is
@@ -43,7 +43,7 @@ struct ShotPairOptions {
 /// Two blows laid over each other: what they recorded at the same places, on one axis of time, and
 /// their difference and sum. Of blows of opposite sense at one point the difference enhances S
 /// waves, which change their sign, and the sum P waves, which do not.
-struct ShotPair {
+struct BlowPair {
   /// Shots of `document`; the last two only where `noSum` is empty.
   enum Set : std::size_t { kFirst, kSecond, kDifference, kSum };
 
@@ -72,12 +72,12 @@ struct ShotPair {
 /// \return failure where no geophones are at one place, or a blow does not exist; `pair` is as
 /// before then
 Status layOver(const TomoDocument& document, const Blow& first, const Blow& second,
-               const ShotPairOptions& options, ShotPair& pair);
+               const BlowPairOptions& options, BlowPair& pair);
 
 /// One line for each thing that the user must know of how the two go together.
-std::vector<Message> describe(const ShotPair& pair);
+std::vector<Message> describe(const BlowPair& pair);
 
 /// "difference of shots 3 and 5", or the sum.
-Message nameOf(const ShotPair& pair, ShotPair::Set which);
+Message nameOf(const BlowPair& pair, BlowPair::Set which);
 
 }  // namespace talvesk

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
-#include "view/ShotPair.h"
+#include "view/BlowPair.h"
 
 namespace talvesk {
 
@@ -11,6 +11,6 @@ struct Survey;
 /// first, with its geophones, without picks and without a shot file. Of grid and results what
 /// belongs to the line as it was is forgotten, as by any shot that comes.
 /// \return failure where there is no such thing, or the survey takes no shots
-Status addShotPair(const ShotPair& pair, ShotPair::Set which, Survey& survey);
+Status addBlowPair(const BlowPair& pair, BlowPair::Set which, Survey& survey);
 
 }  // namespace talvesk

@@ -1,4 +1,4 @@
-#include "view/ShotPair.h"
+#include "view/BlowPair.h"
 
 #include "model/Mending.h"
 #include "model/Recordings.h"
@@ -101,7 +101,7 @@ double squares(const std::vector<double>& values) {
 /// Lays the traces out, one pair after the other.
 class Overlay {
  public:
-  Overlay(const TomoDocument& document, const ShotPairOptions& options, ShotPair& pair)
+  Overlay(const TomoDocument& document, const BlowPairOptions& options, BlowPair& pair)
       : mDocument(document),
         mOptions(options),
         mPair(pair),
@@ -299,8 +299,8 @@ class Overlay {
   }
 
   const TomoDocument& mDocument;
-  const ShotPairOptions& mOptions;
-  ShotPair& mPair;
+  const BlowPairOptions& mOptions;
+  BlowPair& mPair;
   const TravelTime& mFirst;
   const TravelTime& mSecond;
   const TraceSet& mFirstTraces;
@@ -362,13 +362,13 @@ std::optional<Blow> counterpartOf(const TomoDocument& document, const Blow& blow
 }
 
 Status layOver(const TomoDocument& document, const Blow& first, const Blow& second,
-               const ShotPairOptions& options, ShotPair& pair) {
+               const BlowPairOptions& options, BlowPair& pair) {
   for (const Blow& blow : {first, second}) {
     const TraceSet* traces = tracesOf(document, blow);
     if (traces != nullptr && hasSamples(*traces, blow)) continue;
     return Status::failure(Message::tr("shot %1 has no samples").arg(blow.shot + 1));
   }
-  ShotPair made;
+  BlowPair made;
   made.first = first;
   made.second = second;
   Status status = Overlay(document, options, made).make();
@@ -376,7 +376,7 @@ Status layOver(const TomoDocument& document, const Blow& first, const Blow& seco
   return status;
 }
 
-std::vector<Message> describe(const ShotPair& pair) {
+std::vector<Message> describe(const BlowPair& pair) {
   std::vector<Message> lines = {Message::tr("%1 traces at the same places").arg(pair.matched)};
   const std::size_t a = pair.first.shot + 1;
   const std::size_t b = pair.second.shot + 1;
@@ -415,8 +415,8 @@ std::vector<Message> describe(const ShotPair& pair) {
   return lines;
 }
 
-Message nameOf(const ShotPair& pair, ShotPair::Set which) {
-  const Message text = which == ShotPair::kSum ? Message::tr("sum of shots %1 and %2")
+Message nameOf(const BlowPair& pair, BlowPair::Set which) {
+  const Message text = which == BlowPair::kSum ? Message::tr("sum of shots %1 and %2")
                                                : Message::tr("difference of shots %1 and %2");
   return Message(text).arg(pair.first.shot + 1).arg(pair.second.shot + 1);
 }

@@ -1,7 +1,7 @@
 #include "io/Survey.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
-#include "session/AddShotPair.h"
+#include "session/AddBlowPair.h"
 #include "session/Session.h"
 #include "support/ShotDocument.h"
 
@@ -13,14 +13,14 @@ namespace {
 using ::testing::HasSubstr;
 using testing::shotDocument;
 
-TEST(AddShotPair, isOneStepWithTheGeophonesOfTheFirst) {
+TEST(AddBlowPair, isOneStepWithTheGeophonesOfTheFirst) {
   Session session;
   Survey survey;
   survey.document = shotDocument(2, 4, 80);
   session.open(survey, true);
-  ShotPair pair;
+  BlowPair pair;
   ASSERT_TRUE(layOver(session.document(), {0}, {1}, {}, pair).ok());
-  const auto add = [&](Survey& changed) { return addShotPair(pair, ShotPair::kSum, changed); };
+  const auto add = [&](Survey& changed) { return addBlowPair(pair, BlowPair::kSum, changed); };
   ASSERT_TRUE(session.apply(Edit::kOpenShots, add, Message::tr("Add sum of two shots")).ok());
   const TomoDocument& document = session.document();
   ASSERT_EQ(document.ttArray.size(), 3U);
@@ -38,18 +38,18 @@ TEST(AddShotPair, isOneStepWithTheGeophonesOfTheFirst) {
   EXPECT_FALSE(session.modified());
 }
 
-TEST(AddShotPair, isRefusedByASurveyThatTakesNoShots) {
+TEST(AddBlowPair, isRefusedByASurveyThatTakesNoShots) {
   Survey survey;
   survey.document = shotDocument(2, 4, 80);
-  ShotPair pair;
+  BlowPair pair;
   ASSERT_TRUE(layOver(survey.document, {0}, {1}, {}, pair).ok());
   survey.document.recordings.edit().waveType = WaveType::S;
-  const Status status = addShotPair(pair, ShotPair::kDifference, survey);
+  const Status status = addBlowPair(pair, BlowPair::kDifference, survey);
   EXPECT_THAT(status.message(), HasSubstr("S-wave pairs"));
   EXPECT_EQ(survey.document.ttArray.size(), 2U);
   pair.noSum = Message("no");
   survey.document.recordings.edit().waveType = WaveType::P;
-  EXPECT_FALSE(addShotPair(pair, ShotPair::kDifference, survey).ok());
+  EXPECT_FALSE(addBlowPair(pair, BlowPair::kDifference, survey).ok());
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include "base/Status.h"
 #include "figures/FigureFile.h"
 #include "figures/GatherPanels.h"
-#include "view/ShotPair.h"
+#include "view/BlowPair.h"
 
 #include <QLocale>
 #include <QString>
@@ -15,7 +15,7 @@ namespace talvesk {
 
 /// How two blows are drawn: over each other in two colours, and beside that what is left of one
 /// without the other, and what both have in common.
-struct ShotPairLook {
+struct BlowPairLook {
   double widthMm = 297.0;
   double heightMm = 180.0;
   double dpi = 150.0;  ///< pixels per inch of a PNG
@@ -34,10 +34,10 @@ struct ShotPairLook {
 /// Lays the panels out that are wanted and that there are; difference and sum by the measure of the
 /// blows that they are made of, so that what is small in them looks small. Fails where no panel is
 /// wanted, or the picture is too small.
-Status prepareShotPair(const ShotPair& pair, const ShotPairLook& options, FigureDrawing& drawing,
+Status prepareBlowPair(const BlowPair& pair, const BlowPairLook& options, FigureDrawing& drawing,
                        std::vector<GatherPanelPlace>* places = nullptr);
 
 /// Writes the picture as PNG, SVG or PDF by the suffix of `path`, whole or not at all.
-Status writeShotPair(const std::string& path, const ShotPair& pair, const ShotPairLook& options);
+Status writeBlowPair(const std::string& path, const BlowPair& pair, const BlowPairLook& options);
 
 }  // namespace talvesk

@@ -1,11 +1,11 @@
-#include "app/presenters/ShotPairPresenter.h"
+#include "app/presenters/BlowPairPresenter.h"
 
 #include "app/LossQuestion.h"
-#include "app/dialogs/ShotPairDialog.h"
+#include "app/dialogs/BlowPairDialog.h"
 #include "app/presenters/FileExport.h"
 #include "io/RecordExport.h"
 #include "io/Survey.h"
-#include "session/AddShotPair.h"
+#include "session/AddBlowPair.h"
 
 namespace talvesk {
 namespace {
@@ -14,10 +14,10 @@ constexpr int kSoon = 200;  // milliseconds
 
 }  // namespace
 
-ShotPairPresenter::ShotPairPresenter(Desk& desk) : mDesk(desk) {
+BlowPairPresenter::BlowPairPresenter(Desk& desk) : mDesk(desk) {
   mSoon.setSingleShot(true);
   mSoon.setInterval(kSoon);
-  connect(&mSoon, &QTimer::timeout, this, &ShotPairPresenter::refresh);
+  connect(&mSoon, &QTimer::timeout, this, &BlowPairPresenter::refresh);
   mSubscription = desk.session.subscribe([this](const SurveyChange& change) {
     const auto has = [&change](Part part) { return change.parts.has(part); };
     const bool opened = change.kind == SurveyChange::Kind::kOpened;
@@ -26,9 +26,9 @@ ShotPairPresenter::ShotPairPresenter(Desk& desk) : mDesk(desk) {
   });
 }
 
-void ShotPairPresenter::show() {
+void BlowPairPresenter::show() {
   if (!mDialog) {
-    mDialog = new ShotPairDialog(&mDesk.window);
+    mDialog = new BlowPairDialog(&mDesk.window);
     mDialog->setAttribute(Qt::WA_DeleteOnClose);
     mDialog->addWanted = [this] { add(); };
     mDialog->saveShotWanted = [this] { saveShot(); };
@@ -41,20 +41,20 @@ void ShotPairPresenter::show() {
   mDialog->activateWindow();
 }
 
-void ShotPairPresenter::retranslate() {
+void BlowPairPresenter::retranslate() {
   refresh();
 }
 
-void ShotPairPresenter::refresh() {
+void BlowPairPresenter::refresh() {
   mSoon.stop();
   if (mDialog) mDialog->setSurvey(mDesk.document());
 }
 
-void ShotPairPresenter::add() {
-  const ShotPair pair = mDialog->pair();
-  const ShotPair::Set which = mDialog->wanted();
+void BlowPairPresenter::add() {
+  const BlowPair pair = mDialog->pair();
+  const BlowPair::Set which = mDialog->wanted();
   Survey with = mDesk.survey();
-  const Status possible = addShotPair(pair, which, with);
+  const Status possible = addBlowPair(pair, which, with);
   if (!possible.ok()) {
     return mDesk.tellFailure(tr("The shot has not been added to the survey."), possible);
   }
@@ -62,8 +62,8 @@ void ShotPairPresenter::add() {
   losses.model = modelLoss(mDesk.document(), with.document.surveyProfile());
   if (!mayLose(mDialog, mDesk.document(), losses)) return;
   const Status added = mDesk.session.apply(
-      Edit::kOpenShots, [&](Survey& survey) { return addShotPair(pair, which, survey); },
-      which == ShotPair::kSum ? Message::tr("Add sum of two shots")
+      Edit::kOpenShots, [&](Survey& survey) { return addBlowPair(pair, which, survey); },
+      which == BlowPair::kSum ? Message::tr("Add sum of two shots")
                               : Message::tr("Add difference of two shots"));
   if (!added.ok()) {
     return mDesk.tellFailure(tr("The shot has not been added to the survey."), added);
@@ -73,7 +73,7 @@ void ShotPairPresenter::add() {
   mDesk.tell(tr("Shot %1 is added; Undo takes it away.").arg(shot + 1));
 }
 
-void ShotPairPresenter::saveShot() {
+void BlowPairPresenter::saveShot() {
   const QString file =
       askForExport(mDesk, tr("Save Shot File"), tr("SEG-2 (*.sg2);;SEG-Y (*.sgy)"), "sg2");
   if (file.isEmpty() || !mDialog || !mDialog->hasPair()) return;
@@ -86,12 +86,12 @@ void ShotPairPresenter::saveShot() {
   if (!notes.empty()) mDesk.tellNotes(notes);
 }
 
-void ShotPairPresenter::savePicture() {
+void BlowPairPresenter::savePicture() {
   const QString file = askForExport(mDesk, tr("Save Picture of Two Shots"),
                                     tr("Pictures (*.png *.svg *.pdf)"), "png");
   if (file.isEmpty() || !mDialog || !mDialog->hasPair()) return;
   exportTo(mDesk, file, [this](const std::string& path) {
-    return writeShotPair(path, mDialog->pair(), mDialog->look());
+    return writeBlowPair(path, mDialog->pair(), mDialog->look());
   });
 }
 
