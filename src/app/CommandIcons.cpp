@@ -61,6 +61,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionShow_rays", ":/icons/rays.png"},
     {"actionReset_View", ":/icons/fit.png"},
     {"actionRecording_details", ":/icons/info.png"},
+    {"actionTrace_headers", ":/icons/table.png"},
     {"actionCheck_recordings", ":/icons/check-recordings.png"},
     {"actionReciprocity", ":/icons/reciprocity.png"},
     {"actionSettings", ":/icons/preferences.png"},

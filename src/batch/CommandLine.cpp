@@ -1,14 +1,17 @@
 #include "batch/CommandLine.h"
 
+#include "base/TextNumber.h"
 #include "batch/Failure.h"
 #include "batch/Manual.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
 #include "batch/ProjectFiles.h"
 #include "batch/SurveyedPlaces.h"
+#include "figures/GatherSheet.h"
 #include "io/FileFormats.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace talvesk {
 namespace {
@@ -31,21 +34,50 @@ void addInfo(CLI::App& app, InfoOptions& info) {
       "--list", info.listRuns,
       "List the inversion runs that projects keep, the one that is shown with a star; --json has "
       "them in any case");
+  CLI::Option* headers = mustEndIn(
+      addPath(command, "--headers", info.headers,
+              "Write all that is known of every trace as a table (CSV), with the fields that the "
+              "headers of the shot files name: of shot files, read as --reader says, or of one "
+              "project"),
+      {".csv"}, true);
   addReader(command, info.reader)
       ->description(
           "By what shot files must be readable: rules, as this program always has; standard, by "
           "the "
           "published standard of their format, whatever their suffix (default: rules). What either "
           "makes of a file is told in any case");
-  command.final_callback([&info, list] {
+  command.final_callback([&info, list, headers] {
     const auto isShot = [&info](const std::string& file) { return isShotFile(file, info.reader); };
     if (info.samples && std::none_of(info.files.begin(), info.files.end(), isShot)) {
       throw CLI::ValidationError("--samples", "only shot files have samples to write");
+    }
+    const bool oneProject = info.files.size() == 1 && isProjectFile(info.files.front());
+    const bool shots = std::all_of(info.files.begin(), info.files.end(), isShot);
+    if (headers->count() > 0 && !oneProject && !shots) {
+      throw CLI::ValidationError("--headers", "it takes shot files, or one project");
     }
     if (list->count() > 0 && std::none_of(info.files.begin(), info.files.end(), isProjectFile)) {
       throw CLI::ValidationError("--list", "only projects have inversion runs to list");
     }
   });
+}
+
+/// "2x3".
+void readSheet(const std::string& text, PickOptions& pick) {
+  const std::vector<std::string_view> parts = splitFields(text, 'x');
+  double rows = 0.0;
+  double columns = 0.0;
+  const auto fits = [](double count, std::size_t most) {
+    return count >= 1.0 && count <= static_cast<double>(most) && count == std::floor(count);
+  };
+  const bool read = parts.size() == 2 && parseWholeDouble(parts[0], rows) == NumberError::kNone &&
+                    parseWholeDouble(parts[1], columns) == NumberError::kNone;
+  if (!read || !fits(rows, GatherSheetOptions::kMostRows) ||
+      !fits(columns, GatherSheetOptions::kMostColumns)) {
+    throw CLI::ValidationError("--sheet", "'" + text + "' is no 2x3, at most 10x10");
+  }
+  pick.sheetRows = static_cast<std::size_t>(rows);
+  pick.sheetColumns = static_cast<std::size_t>(columns);
 }
 
 void addPick(CLI::App& app, PickOptions& pick) {
@@ -69,10 +101,20 @@ void addPick(CLI::App& app, PickOptions& pick) {
   addImages(command, pick.images,
             "Draw the traces with their picks: a .pdf with a page per shot, or a .png or .svg per "
             "shot, numbered");
+  CLI::Option* sheet =
+      command
+          .add_option_function<std::string>(
+              "--sheet", [&pick](const std::string& text) { readSheet(text, pick); },
+              "Several shots on each sheet of --image, with one axis of time: ROWSxCOLUMNS, 2x3; "
+              "at most 10x10")
+          ->type_name("ROWSxCOLUMNS");
   CLI::Option* quiet = command.add_flag("--quiet", pick.quiet, kQuietHelp);
   command.add_flag("--verbose", pick.verbose, "Print the messages of the readers and the picker")
       ->excludes(quiet);
-  command.final_callback([shots, &pick] {
+  command.final_callback([shots, sheet, &pick] {
+    if (sheet->count() > 0 && pick.images.empty()) {
+      throw CLI::ValidationError("--sheet", "only --image draws sheets");
+    }
     if ((pick.otte + pick.sgt + pick.project).empty()) {
       throw CLI::RequiredError("--otte, --sgt or --project");
     }

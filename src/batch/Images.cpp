@@ -2,6 +2,7 @@
 
 #include "batch/Failure.h"
 #include "figures/GatherFigure.h"
+#include "figures/GatherSheet.h"
 #include "figures/SectionFigure.h"
 
 #include <QApplication>
@@ -50,6 +51,16 @@ Status drawGathers(const TomoDocument& document, bool filtered, const std::strin
   figure.filtered = filtered;
   std::vector<std::string> written;
   return writeGatherFigures(document, figure, path, written);
+}
+
+Status drawGatherSheets(const TomoDocument& document, bool filtered, std::size_t rows,
+                        std::size_t columns, const std::string& path) {
+  GatherSheetOptions sheets;
+  sheets.rows = rows;
+  sheets.columns = columns;
+  sheets.gather.filtered = filtered;
+  std::vector<std::string> written;
+  return writeGatherSheets(document, sheets, path, written);
 }
 
 }  // namespace talvesk

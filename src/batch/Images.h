@@ -17,4 +17,9 @@ SectionFigureOptions sectionFigure(const InvertOptions& options);
 /// single shot, else one per shot. \param filtered the filtered copies
 Status drawGathers(const TomoDocument& document, bool filtered, const std::string& path);
 
+/// The same with so many shots on each sheet: one file for a PDF or a single sheet, else one per
+/// sheet.
+Status drawGatherSheets(const TomoDocument& document, bool filtered, std::size_t rows,
+                        std::size_t columns, const std::string& path);
+
 }  // namespace talvesk

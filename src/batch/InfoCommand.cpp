@@ -11,6 +11,8 @@
 #include "io/ReadingComparison.h"
 #include "io/SegyFile.h"
 #include "io/ShotFile.h"
+#include "io/ShotLoader.h"
+#include "io/TraceHeaders.h"
 #include "io/TravelTimeFile.h"
 #include "io/project/projectReader.h"
 
@@ -183,10 +185,30 @@ class Inventory {
   int mExitCode = kDone;
 };
 
+/// The table of trace headers. What files could not be read has been told already.
+Status writeHeaders(const InfoOptions& options) {
+  TomoDocument document;
+  LoadedProject project;
+  if (isProjectFile(options.files.front())) {
+    Status status = readProject(options.files.front(), project);
+    if (!status.ok()) return status;
+    document = project.document;
+  } else {
+    ShotLoader().load(options.files, document, options.reader);
+  }
+  TraceHeaders headers(std::move(document));
+  if (headers.rows() == 0) return Status::failure(options.headers + ": there are no traces");
+  std::vector<Message> notes;
+  headers.addFieldsOfFiles(notes);
+  for (const Message& note : notes) warn(note);
+  return writeTraceHeaders(options.headers, headers);
+}
+
 }  // namespace
 
 int run(const InfoOptions& options) {
-  const std::vector<OutputFile> outputs = {{"--json", options.json}};
+  const std::vector<OutputFile> outputs = {{"--json", options.json},
+                                           {"--headers", options.headers}};
   const Channels channels = openChannels(outputs, false);
   const Status places = checkOutputFiles(outputs, options.files);
   if (places.code() == kWrongUsage) return wrongUsage("info", places.message());
@@ -195,9 +217,14 @@ int run(const InfoOptions& options) {
   Inventory inventory(options, *channels.summary);
   for (const std::string& file : options.files) inventory.add(file);
   channels.summary->flush();
-  if (options.json.empty() || !inventory.hasJson()) return inventory.exitCode();
+  int code = inventory.exitCode();
+  if (!options.headers.empty()) {
+    const Status written = writeHeaders(options);
+    if (!written.ok()) code = failed(written.message());
+  }
+  if (options.json.empty() || !inventory.hasJson()) return code;
   const Status written = writeOutput(options.json, inventory.json());
-  return written.ok() ? inventory.exitCode() : failed(written.message());
+  return written.ok() ? code : failed(written.message());
 }
 
 }  // namespace talvesk

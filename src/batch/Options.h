@@ -20,6 +20,7 @@
 #include "tomo/fitted/ResolutionRun.h"
 #include "view/ColorPalette.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <variant>
@@ -40,6 +41,7 @@ struct InfoOptions {
   std::vector<std::string> files;  ///< at least one
   TravelTimeReading picks;
   std::string json;
+  std::string headers;  ///< table of the headers of all traces; of shot files, or of one project
   bool samples = false;
   bool listRuns = false;
   ShotReader reader = ShotReader::kRules;  ///< whose failure is that of the command
@@ -92,6 +94,8 @@ struct PickOptions {
   std::string project;  ///< to save the survey in; it, `otte` or `sgt` is given
   std::string json;
   std::vector<std::string> images;
+  std::size_t sheetRows = 0;  ///< of the pictures, as many shots one above the other; 0: one each
+  std::size_t sheetColumns = 0;
   bool quiet = false;
   bool verbose = false;
 };

@@ -24,8 +24,11 @@ int writeResults(const PickOptions& options, const LoadedProject& project,
     return writeOutput(path, picksJson(document, nameOf(options.shots.filter), reciprocity));
   });
   for (const std::string& image : options.images) {
+    const bool filtered = options.shots.filter != PickFilter::kNone;
     attempt(image, [&](const auto& path) {
-      return drawGathers(document, options.shots.filter != PickFilter::kNone, path);
+      return options.sheetRows == 0 ? drawGathers(document, filtered, path)
+                                    : drawGatherSheets(document, filtered, options.sheetRows,
+                                                       options.sheetColumns, path);
     });
   }
   return attempt.exitCode();

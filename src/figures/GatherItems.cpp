@@ -20,9 +20,6 @@ namespace {
 
 // Lengths on the sheet, in points of 1/96 inch.
 constexpr double kVectorRow = 0.5;  ///< height of a row of a vector file, an eighth of a millimetre
-constexpr double kLineWidth = 0.5;
-/// Of a page of a vector file: with the fill, five megabytes of SVG at the worst.
-constexpr double kMostVectorPoints = 120000.0;
 
 /// Points of one wiggle, x counted from its base line.
 class Thinner {
@@ -124,7 +121,8 @@ class WigglePainter {
       painter.translate(xMap.transform(trace.x), 0.0);
       if (mStyle.fillPositive) fill(painter, lines);
       painter.setBrush(Qt::NoBrush);
-      painter.setPen(QPen(Qt::black, kLineWidth, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin));
+      painter.setPen(
+          QPen(toColor(mStyle.line), mStyle.width, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin));
       for (const QPolygonF& line : lines) painter.drawPolyline(line);
       painter.restore();
     }
@@ -138,7 +136,7 @@ class WigglePainter {
     }
     // Two points in each row of each trace.
     const double traces = static_cast<double>(mScene.traces.size());
-    return std::max(kVectorRow, 2.0 * traces * canvas.height() / kMostVectorPoints);
+    return std::max(kVectorRow, 2.0 * traces * canvas.height() / mStyle.mostVectorPoints);
   }
 
   /// The wiggle of a trace, in more than one piece where samples are no numbers.
@@ -163,13 +161,13 @@ class WigglePainter {
     return lines;
   }
 
-  static void fill(QPainter& painter, const std::vector<QPolygonF>& lines) {
+  void fill(QPainter& painter, const std::vector<QPolygonF>& lines) const {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
     for (const QPolygonF& line : lines) addLobes(line, path);
     if (path.isEmpty()) return;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(60, 60, 60));
+    painter.setBrush(toColor(mStyle.fill));
     painter.drawPath(path);
   }
 

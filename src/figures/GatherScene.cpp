@@ -231,6 +231,22 @@ std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& m
   return FigureWords::joined(parts).toStdString();
 }
 
+/// What stands below a sheet of several shots, too.
+std::string remarksOf(const Counts& counts, std::size_t step, const ShotMends& mends) {
+  QStringList parts;
+  if (step > 1) parts += FigureWords::tr("One of every %1 is drawn").arg(step);
+  if (counts.drawn < counts.looked) {
+    parts +=
+        FigureWords::tr("%1 without samples or sample interval").arg(counts.looked - counts.drawn);
+  }
+  if (counts.hiddenPicks > 0) {
+    parts += FigureWords::tr("%1 outside the times shown", "picks")
+                 .arg(FigureWords::picks(counts.hiddenPicks));
+  }
+  parts += FigureWords::mends(mends);
+  return parts.join(QStringLiteral(", ")).toStdString();
+}
+
 void setAxis(const std::vector<double>& positions, const TravelTime* record, GatherScene& scene) {
   scene.low = scene.high = 1.0;
   if (positions.empty()) return;
@@ -331,6 +347,7 @@ Status buildGatherScene(const TomoDocument& document, std::size_t shot,
   if (options.scaling == GatherScaling::kWholeShot) scaleAlike(made.traces);
   made.hasPicks = counts.picks > 0;
   made.caption = captionOf(counts, made.traceStep, mends, options);
+  made.remarks = remarksOf(counts, made.traceStep, mends);
   scene = std::move(made);
   return {};
 }

@@ -39,6 +39,8 @@ struct GatherTrace {
 struct GatherScene {
   std::string title;    ///< UTF-8
   std::string caption;  ///< UTF-8
+  /// Of the caption, what is left out and what is mended; as a rule empty.
+  std::string remarks;
   bool byChannel = false;
   /// Those with samples or a pick, in channel order; of very many only every `traceStep`-th.
   std::vector<GatherTrace> traces;

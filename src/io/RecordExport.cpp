@@ -138,6 +138,12 @@ void noteWhatRulesMiss(const TomoDocument& document, const std::vector<std::size
   }
 }
 
+void noteRounding(std::size_t rounded, std::vector<Message>& notes) {
+  if (rounded == 0) return;
+  notes.push_back(
+      Message::tr("%1 samples were rounded to the seven digits of a 32-bit float").arg(rounded));
+}
+
 void noteWhatIsLeftOut(const TomoDocument& document, std::size_t written, std::size_t rounded,
                        std::vector<Message>& notes) {
   const std::size_t leftOut = document.ttArray.size() - written;
@@ -155,10 +161,7 @@ void noteWhatIsLeftOut(const TomoDocument& document, std::size_t written, std::s
         Message::tr("%1 traces begin at the shot; what was recorded before is not in the files")
             .arg(shortened));
   }
-  if (rounded > 0) {
-    notes.push_back(
-        Message::tr("%1 samples were rounded to the seven digits of a 32-bit float").arg(rounded));
-  }
+  noteRounding(rounded, notes);
 }
 
 /// Makes the records of some shots one after the other.
@@ -214,6 +217,21 @@ Status writtenShotOf(const TomoDocument& document, std::size_t shot, WrittenShot
                                .arg(i + 1));
   }
   return {};
+}
+
+Status writeRecord(const TomoDocument& document, std::size_t shot, RecordFormat format,
+                   const std::string& path, std::vector<Message>& notes) {
+  WrittenShot written;
+  std::size_t rounded = 0;
+  Status status = writtenShotOf(document, shot, written, rounded);
+  if (status.ok()) status = fits(written, format);
+  if (!status.ok()) return status;
+  const bool seg2 = format == RecordFormat::kSeg2;
+  status = writeFileAtomically(path, seg2 ? formatSeg2(written) : formatSegy({written}));
+  if (!status.ok()) return status;
+  noteRounding(rounded, notes);
+  if (!seg2) noteWhatRulesMiss(document, {shot}, notes);
+  return status;
 }
 
 Status exportRecords(const TomoDocument& document, const RecordExport& wanted,

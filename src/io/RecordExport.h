@@ -45,4 +45,9 @@ Status exportRecords(const TomoDocument& document, const RecordExport& wanted,
                      std::vector<Message>& notes,
                      const std::function<bool(std::size_t)>& progress = {});
 
+/// Writes the record of one shot to a file of any name. Fails as writtenShotOf(), and where the
+/// shot does not fit the format. \param notes out, added to: what was rounded
+Status writeRecord(const TomoDocument& document, std::size_t shot, RecordFormat format,
+                   const std::string& path, std::vector<Message>& notes);
+
 }  // namespace talvesk

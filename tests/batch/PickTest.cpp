@@ -306,6 +306,23 @@ TEST_F(Picking, picturesAreOnePdfOrOneFilePerShot) {
   }
 }
 
+TEST_F(Picking, sheetsHaveSeveralShotsEach) {
+  ASSERT_EQ(pick({"-o", mFolder / "out.otte", "--image", mFolder / "all.pdf", "--image",
+                  mFolder / "two.svg", "--sheet", "1x2", "--quiet"})
+                .code,
+            0);
+  EXPECT_THAT(contentsOf(mFolder / "all.pdf"), HasSubstr("/Count 2"));
+  EXPECT_THAT(contentsOf(mFolder / "two_01.svg"), HasSubstr("<svg"));
+  EXPECT_THAT(contentsOf(mFolder / "two_02.svg"), HasSubstr("<svg"));
+  for (const std::string sheet : {"2", "0x2", "2x11", "2x3x4", "1.5x2", "axb"}) {
+    const Outcome wrong = pick(
+        {"-o", mFolder / "out.otte", "--image", mFolder / "all.pdf", "--sheet", sheet, "--quiet"});
+    EXPECT_EQ(wrong.code, 2) << sheet;
+    EXPECT_THAT(wrong.err, HasSubstr("--sheet")) << sheet;
+  }
+  EXPECT_EQ(pick({"-o", mFolder / "out.otte", "--sheet", "2x2"}).code, 2);
+}
+
 TEST_F(Picking, thePickerIsHeardOnlyOnRequestAndQuietSaysNothing) {
   const Outcome verbose = pick({"-o", mFolder / "out.otte", "--verbose"});
   EXPECT_THAT(verbose.out, HasSubstr("opening seg2 file "));

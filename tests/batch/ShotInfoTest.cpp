@@ -50,6 +50,23 @@ TEST(ShotInfo, tellsTheHeadersOfEveryTraceAndTheSamplesOnDemand) {
   EXPECT_EQ(data.back(), 0.0F);
 }
 
+TEST(ShotInfo, writesTheHeadersOfAllTracesAsATable) {
+  const Folder folder;
+  const std::vector<std::string> shots = writeSmallShots(folder);
+  std::vector<std::string> arguments = {"info", "--headers", folder / "h.csv"};
+  arguments.insert(arguments.end(), shots.begin(), shots.end());
+  const Outcome outcome = runBatch(arguments);
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const std::string table = contentsOf(folder / "h.csv");
+  EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 1 + 3 * 13);
+  EXPECT_EQ(table.substr(0, 16), "shot,trace,file,");
+  EXPECT_THAT(table, HasSubstr(",RECEIVER_LOCATION"));
+  EXPECT_THAT(table, HasSubstr("\n3,13,"));
+  const std::string picks = folder.write("line.otte", smallLine());
+  EXPECT_EQ(runBatch({"info", shots[0], picks, "--headers", folder / "x.csv"}).code, 2);
+  EXPECT_FALSE(folder.holds("x.csv"));
+}
+
 TEST(ShotInfo, suFilesAreReadInTheByteOrderOfTheFileBeforeThem) {
   const Folder folder;
   const std::string segy = folder.write("a.sgy", bigEndianSegy({1.5F, -2.0F, 9.0F}));

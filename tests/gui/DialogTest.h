@@ -3,6 +3,7 @@
 #include "app/BackgroundCertainty.h"
 #include "app/FileFolders.h"
 #include "app/Languages.h"
+#include "app/dialogs/BlowPairDialog.h"
 #include "app/dialogs/CertaintyDialog.h"
 #include "app/dialogs/CheckDialog.h"
 #include "app/dialogs/CommandSearchDialog.h"
@@ -12,6 +13,7 @@
 #include "app/dialogs/DrawingDialog.h"
 #include "app/dialogs/ElasticDialog.h"
 #include "app/dialogs/ExportTomoVelData.h"
+#include "app/dialogs/GatherSheetDialog.h"
 #include "app/dialogs/ImagesDialog.h"
 #include "app/dialogs/KnownGroundDialog.h"
 #include "app/dialogs/LayerMethodsDialog.h"
@@ -30,6 +32,7 @@
 #include "app/dialogs/SelectCSVDelimiterDialog.h"
 #include "app/dialogs/SettingsDialog.h"
 #include "app/dialogs/StartLayersDialog.h"
+#include "app/dialogs/TraceHeadersDialog.h"
 #include "app/dialogs/contourlines_dialog.h"
 #include "app/dialogs/doFilteringDialog.h"
 #include "app/dialogs/gridDialog.h"
@@ -139,6 +142,20 @@ class DialogTest : public WindowTest {
          }},
         {"mend", [&] { return make<MendDialog>(document, 0); }},
         {"recording", [&] { return make<RecordingDetailsDialog>(document, mFiles, 0); }},
+        {"trace headers",
+         [&] {
+           auto dialog = make<TraceHeadersDialog>();
+           dynamic_cast<TraceHeadersDialog&>(*dialog).showHeaders(TraceHeaders(document));
+           return dialog;
+         }},
+        {"two shots",
+         [&] {
+           auto dialog = make<BlowPairDialog>();
+           dynamic_cast<BlowPairDialog&>(*dialog).setSurvey(document);
+           dynamic_cast<BlowPairDialog&>(*dialog).chooseShot(0);
+           return dialog;
+         }},
+        {"sheet of shots", [&] { return make<GatherSheetDialog>(document); }},
         {"readings",
          [&] {
            return make<ReadingsDialog>(std::vector<ReadingsDialog::File>{{&mReading, &mFuller}});

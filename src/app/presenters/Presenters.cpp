@@ -7,6 +7,8 @@ Presenters::Presenters(Desk& desk)
       settings(desk),
       traces(desk),
       traceMends(desk),
+      headers(desk),
+      blowPairs(desk),
       checks(desk),
       reciprocity(desk),
       traceOptions(desk),
@@ -41,6 +43,7 @@ Presenters::Presenters(Desk& desk)
       drawings(desk),
       records(desk),
       reports(desk, layered),
+      sheets(desk),
       help(desk),
       guidance(desk),
       search(desk) {
@@ -50,6 +53,8 @@ Presenters::Presenters(Desk& desk)
 
 void Presenters::retranslate() {
   traces.retranslate();
+  headers.retranslate();
+  blowPairs.retranslate();
   reciprocity.retranslate();
   residuals.retranslate();
   secondLook.retranslate();

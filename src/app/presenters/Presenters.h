@@ -2,6 +2,7 @@
 
 #include "app/LayeredModel.h"
 #include "app/presenters/AnnotationsPresenter.h"
+#include "app/presenters/BlowPairPresenter.h"
 #include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
 #include "app/presenters/CommandSearchPresenter.h"
@@ -11,6 +12,7 @@
 #include "app/presenters/DrawingPresenter.h"
 #include "app/presenters/ExportPresenter.h"
 #include "app/presenters/FencePresenter.h"
+#include "app/presenters/GatherSheetPresenter.h"
 #include "app/presenters/GeometryPresenter.h"
 #include "app/presenters/GuidancePresenter.h"
 #include "app/presenters/HelpPresenter.h"
@@ -37,6 +39,7 @@
 #include "app/presenters/StylePresenter.h"
 #include "app/presenters/SurveyPresenter.h"
 #include "app/presenters/SurveyedPositionsPresenter.h"
+#include "app/presenters/TraceHeadersPresenter.h"
 #include "app/presenters/TraceMendsPresenter.h"
 #include "app/presenters/TraceOptionsPresenter.h"
 #include "app/presenters/TracesPresenter.h"
@@ -56,6 +59,8 @@ struct Presenters {
   SettingsPresenter settings;
   TracesPresenter traces;
   TraceMendsPresenter traceMends;
+  TraceHeadersPresenter headers;
+  BlowPairPresenter blowPairs;
   CheckPresenter checks;
   ReciprocityPresenter reciprocity;
   TraceOptionsPresenter traceOptions;
@@ -90,6 +95,7 @@ struct Presenters {
   DrawingPresenter drawings;
   RecordExportPresenter records;
   ReportPresenter reports;
+  GatherSheetPresenter sheets;
   HelpPresenter help;
   GuidancePresenter guidance;
   CommandSearchPresenter search;

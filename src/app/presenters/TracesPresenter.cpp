@@ -135,8 +135,10 @@ void TracesPresenter::refreshChooser() {
     const std::string file = shotFile(mDesk.document(), i);
     QString name = QFileInfo(QString::fromStdString(file)).fileName();
     const std::string inFile = shotRecord(mDesk.document(), i);
-    if (!inFile.empty()) name += QStringLiteral(" (%1)").arg(QString::fromStdString(inFile));
-    QString text = !file.empty()
+    const QString part = QString::fromStdString(inFile);
+    // A shot that was made of others has no file.
+    if (!part.isEmpty()) name += name.isEmpty() ? part : QStringLiteral(" (%1)").arg(part);
+    QString text = !name.isEmpty()
                        ? tr("%1: %2 at %3", "shot number, file, place").arg(number).arg(name, place)
                        : tr("%1: at %2", "shot number, place").arg(number).arg(place);
     const ShotMends& mends = mendsOfRecord(mDesk.document(), static_cast<std::int32_t>(i));
