@@ -1,5 +1,6 @@
 #include "widgets/traces/TraceAxes.h"
 
+#include "base/LengthUnit.h"
 #include "view/AxisTicks.h"
 #include "widgets/traces/TraceGuides.h"
 #include "widgets/traces/TraceTags.h"
@@ -40,10 +41,11 @@ class Axes {
     paintTimes();
     const double upper = mPlot.top() - kMajor - kGap - 2.0 * mMetrics.height();
     const double lower = upper + mMetrics.height();
-    if (mLayout.isByDistance()) {
+    if (!mLayout.isByChannel()) {
       paintPositions(lower, 0.0);
       paintAtTraces(upper, true);
-      title(lower, tr("x (m)"));
+      title(lower, mLayout.isByOffset() ? tr("Offset (%1)").arg(QLatin1String(lengthUnitName()))
+                                        : tr("x (m)"));
       title(upper, tr("Channel"));
     } else {
       paintPositions(lower, 1.0);
@@ -75,8 +77,19 @@ class Axes {
     mPainter.rotate(-90.0);
     mPainter.drawText(
         QRectF(-0.5 * mPlot.height(), -mMetrics.height(), mPlot.height(), mMetrics.height()),
-        Qt::AlignCenter, tr("Time (ms)"));
+        Qt::AlignCenter, timeTitle());
     mPainter.restore();
+  }
+
+  QString timeTitle() const {
+    const GatherManner& manner = mTraces.mapping().manner();
+    const QString time = manner.reduction > 0.0
+                             ? tr("Reduced time (ms), t - |x|/%1 %2")
+                                   .arg(screenNumber(shownLength(manner.reduction), 0),
+                                        QLatin1String(velocityUnitName()))
+                             : tr("Time (ms)");
+    if (!(manner.timeGain > 0.0)) return time;
+    return tr("%1, gain t^%2", "time axis, exponent").arg(time, exponentText(manner.timeGain));
   }
 
   double timeMark(double time, double length) {
@@ -104,13 +117,17 @@ class Axes {
   void paintPositions(double top, double added) {
     const int most =
         std::clamp(static_cast<int>(mPlot.width() / (5.0 * mMetrics.averageCharWidth())), 2, 60);
-    const AxisTicks ticks = axisTicks(mMapping.window.left + added, mMapping.window.right + added,
-                                      most, !mLayout.isByDistance());
+    const bool inUnit = mLayout.isByOffset();
+    const auto shown = [inUnit](double at) { return inUnit ? shownLength(at) : at; };
+    const auto inMetres = [inUnit](double at) { return inUnit ? metresOf(at) : at; };
+    const AxisTicks ticks =
+        axisTicks(shown(mMapping.window.left) + added, shown(mMapping.window.right) + added, most,
+                  mLayout.isByChannel());
     double rightEnd = -HUGE_VAL;
-    for (const double value : ticks.minor) positionMark(value - added, kMinor);
+    for (const double value : ticks.minor) positionMark(inMetres(value) - added, kMinor);
     for (const double value : ticks.major) {
-      const double x = positionMark(value - added, kMajor);
-      if (!mLayout.isByDistance() && (value < 1.0 || value > mLayout.count())) continue;
+      const double x = positionMark(inMetres(value) - added, kMajor);
+      if (mLayout.isByChannel() && (value < 1.0 || value > mLayout.count())) continue;
       label(x, top, screenNumber(value, ticks.decimals), rightEnd);
     }
   }
