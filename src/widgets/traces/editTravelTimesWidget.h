@@ -112,6 +112,9 @@ class editTravelTimesWidget : public QWidget {
   /// Apparent velocity along the ruler, m/s; none without one, along one trace, or where positions
   /// are not known.
   std::optional<double> rulerVelocity() const;
+  /// The velocity to begin with where somebody asks for one to reduce times by: that of the ruler,
+  /// else the one there is or was, m/s.
+  double proposedReduction() const;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

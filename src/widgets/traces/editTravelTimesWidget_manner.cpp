@@ -23,6 +23,12 @@ std::optional<double> editTravelTimesWidget::State::rulerReduction() const {
   return velocity;
 }
 
+double editTravelTimesWidget::proposedReduction() const {
+  const double last =
+      mState->lastReduction > 0.0 ? mState->lastReduction : parameters::kReduction.initial;
+  return mState->rulerReduction().value_or(last);
+}
+
 void editTravelTimesWidget::setReduction(double velocity) {
   mState->changeManner([velocity](GatherManner& manner) { manner.reduction = velocity; });
 }
