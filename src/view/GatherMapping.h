@@ -32,6 +32,12 @@ inline bool operator!=(const GatherManner& a, const GatherManner& b) {
   return !(a == b);
 }
 
+/// t^n of a true time, seconds; 0 before the shot, 1 without an exponent.
+inline double timeGainAt(double time, double exponent) {
+  if (exponent == 0.0) return 1.0;
+  return time > 0.0 ? std::pow(time, exponent) : 0.0;
+}
+
 /// The same with numbers that are in range; what is none is off.
 GatherManner confined(GatherManner manner);
 
@@ -73,11 +79,8 @@ class GatherMapping {
   /// Geophone minus shot per trace, metres.
   const std::vector<double>& offsets() const { return mOffsets; }
 
-  /// What a swing at a true time is multiplied by; 0 before the shot.
-  double gain(double time) const {
-    if (!amplifies()) return 1.0;
-    return time > 0.0 ? std::pow(time, mManner.timeGain) : 0.0;
-  }
+  /// What a swing at a true time is multiplied by.
+  double gain(double time) const { return timeGainAt(time, mManner.timeGain); }
 
  private:
   GatherManner mManner;
