@@ -7,6 +7,7 @@
 #include "batch/ProjectFiles.h"
 #include "batch/SurveyedPlaces.h"
 #include "io/FileFormats.h"
+#include "model/GatherParameters.h"
 
 #include <algorithm>
 
@@ -48,6 +49,30 @@ void addInfo(CLI::App& app, InfoOptions& info) {
   });
 }
 
+OffsetOrder readOffsetOrder(const std::string& text) {
+  if (text == "signed") return OffsetOrder::kSigned;
+  if (text == "absolute") return OffsetOrder::kAbsolute;
+  throw CLI::ValidationError("--by-offset", "'" + text + "' is none of signed, absolute");
+}
+
+/// How the traces of --image are drawn.
+void addGatherManner(CLI::App& command, GatherManner& manner, CLI::Option* image) {
+  using namespace parameters;
+  const auto add = [image](CLI::Option* option) { option->needs(image); };
+  add(command
+          .add_option_function<std::string>(
+              "--by-offset",
+              [&manner](const std::string& text) { manner.byOffset = readOffsetOrder(text); },
+              "Put the traces of --image by their offset: signed, geophone minus shot; absolute, "
+              "either side over the other")
+          ->type_name("ORDER"));
+  add(addParameter(command, kReduction, "M/S",
+                   std::string("Draw --image in reduced time t - |x|/V. ") + kReduction.help,
+                   [&manner](double velocity) { manner.reduction = velocity; }));
+  add(addParameter(command, kTimeGain, "N", std::string("Of --image only. ") + kTimeGain.help,
+                   [&manner](double exponent) { manner.timeGain = exponent; }));
+}
+
 void addPick(CLI::App& app, PickOptions& pick) {
   CLI::App& command =
       *app.add_subcommand("pick", "Find the first breaks of shot files and drop implausible ones");
@@ -66,9 +91,11 @@ void addPick(CLI::App& app, PickOptions& pick) {
   addPath(command, "--json", pick.json,
           "Write positions (metres) and picks (seconds, -99 is none) as JSON; '-' is standard "
           "output, and then all diagnostics go to standard error");
-  addImages(command, pick.images,
-            "Draw the traces with their picks: a .pdf with a page per shot, or a .png or .svg per "
-            "shot, numbered");
+  CLI::Option* image =
+      addImages(command, pick.images,
+                "Draw the traces with their picks: a .pdf with a page per shot, or a .png or .svg "
+                "per shot, numbered");
+  addGatherManner(command, pick.manner, image);
   CLI::Option* quiet = command.add_flag("--quiet", pick.quiet, kQuietHelp);
   command.add_flag("--verbose", pick.verbose, "Print the messages of the readers and the picker")
       ->excludes(quiet);

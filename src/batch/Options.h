@@ -19,6 +19,7 @@
 #include "tomo/fitted/References.h"
 #include "tomo/fitted/ResolutionRun.h"
 #include "view/ColorPalette.h"
+#include "view/GatherMapping.h"
 
 #include <optional>
 #include <string>
@@ -92,6 +93,7 @@ struct PickOptions {
   std::string project;  ///< to save the survey in; it, `otte` or `sgt` is given
   std::string json;
   std::vector<std::string> images;
+  GatherManner manner;  ///< of the images
   bool quiet = false;
   bool verbose = false;
 };

@@ -23,9 +23,10 @@ int writeResults(const PickOptions& options, const LoadedProject& project,
   attempt(options.json, [&](const auto& path) {
     return writeOutput(path, picksJson(document, nameOf(options.shots.filter), reciprocity));
   });
+  if (!options.images.empty()) warnOfOffsets(document, options.manner);
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) {
-      return drawGathers(document, options.shots.filter != PickFilter::kNone, path);
+      return drawGathers(document, options.shots.filter != PickFilter::kNone, options.manner, path);
     });
   }
   return attempt.exitCode();
