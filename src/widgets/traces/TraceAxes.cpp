@@ -44,8 +44,7 @@ class Axes {
     if (!mLayout.isByChannel()) {
       paintPositions(lower, 0.0);
       paintAtTraces(upper, true);
-      title(lower, mLayout.isByOffset() ? tr("Offset (%1)").arg(QLatin1String(lengthUnitName()))
-                                        : tr("x (m)"));
+      title(lower, positionTitle());
       title(upper, tr("Channel"));
     } else {
       paintPositions(lower, 1.0);
@@ -61,6 +60,19 @@ class Axes {
     const QRectF corner(0.0, top, mPlot.left() - kGap - 2.0, mMetrics.height());
     mPainter.drawText(corner, Qt::AlignRight | Qt::AlignVCenter,
                       mMetrics.elidedText(text, Qt::ElideRight, corner.width()));
+  }
+
+  QString positionTitle() const {
+    const QLatin1String unit(lengthUnitName());
+    switch (mLayout.offsetOrder()) {
+      case OffsetOrder::kSigned:
+        return tr("Offset (%1)").arg(unit);
+      case OffsetOrder::kAbsolute:
+        return tr("|x| (%1)", "absolute offset").arg(unit);
+      case OffsetOrder::kNone:
+        break;
+    }
+    return tr("x (m)");
   }
 
   void paintTimes() {
@@ -132,8 +144,21 @@ class Axes {
     }
   }
 
+  /// The channel of a trace, and those of the other side of the shot that stand at its place.
+  QString channelsAt(int trace) const {
+    QString text = QString::number(trace + 1);
+    if (mLayout.offsetOrder() != OffsetOrder::kAbsolute) return text;
+    const double same = 0.02 * mLayout.spacing();
+    for (int rank = mLayout.rank(trace) + 1; rank < mLayout.count(); ++rank) {
+      const int other = mLayout.order()[static_cast<std::size_t>(rank)];
+      if (mLayout.position(other) - mLayout.position(trace) > same) break;
+      text += QLatin1Char('/') + QString::number(other + 1);
+    }
+    return text;
+  }
+
   QString labelOf(int trace, bool channels) const {
-    if (channels) return QString::number(trace + 1);
+    if (channels) return channelsAt(trace);
     const double metres = mTraces.receiverX(trace);
     if (!std::isfinite(metres)) return {};
     return screenNumber(metres, std::fabs(metres - std::round(metres)) < 0.005 ? 0 : 1);
