@@ -30,8 +30,10 @@ constexpr double kSidePadding = 12.0;  ///< beyond the largest swing
 constexpr double kMinCanvasWidth = 120.0;
 constexpr double kMinCanvasHeight = 80.0;
 
-QString offsetAxis() {
-  return FigureWords::tr("Offset [%1]").arg(QLatin1String(lengthUnitName()));
+QString offsetAxis(OffsetOrder order) {
+  return (order == OffsetOrder::kAbsolute ? FigureWords::tr("Absolute offset [%1]")
+                                          : FigureWords::tr("Offset [%1]"))
+      .arg(QLatin1String(lengthUnitName()));
 }
 
 QString reducedTimeAxis(double reduction) {
@@ -68,7 +70,7 @@ GatherPlot::GatherPlot(GatherScene scene, const GatherFigureOptions& options)
   const GatherManner& manner = mScene.manner;
   mPlot.addAxis(QwtPlot::xBottom, mScene.byChannel ? FigureWords::channelAxis()
                                   : manner.byOffset != OffsetOrder::kNone
-                                      ? offsetAxis()
+                                      ? offsetAxis(manner.byOffset)
                                       : FigureWords::distanceAxis());
   mPlot.addAxis(QwtPlot::yLeft, manner.reduction > 0.0 ? reducedTimeAxis(manner.reduction)
                                                        : FigureWords::timeAxis());

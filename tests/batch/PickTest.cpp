@@ -314,7 +314,7 @@ TEST_F(Picking, picturesMayBeByOffsetReducedAndAmplified) {
             "--reduce", "900", "--time-gain", "1.5"});
   ASSERT_EQ(outcome.code, 0) << outcome.err;
   const std::string drawn = contentsOf(mFolder / "b_02.svg");
-  for (const char* words : {"Offset [m]", "t - |x|/900 m/s", "gain with time t^1.5"}) {
+  for (const char* words : {"Absolute offset [m]", "t - |x|/900 m/s", "gain with time t^1.5"}) {
     EXPECT_THAT(drawn, HasSubstr(words));
     EXPECT_THAT(contentsOf(mFolder / "a_02.svg"), Not(HasSubstr(words)));
   }
