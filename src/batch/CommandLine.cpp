@@ -9,6 +9,7 @@
 #include "batch/SurveyedPlaces.h"
 #include "figures/GatherSheet.h"
 #include "io/FileFormats.h"
+#include "model/GatherParameters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -80,6 +81,30 @@ void readSheet(const std::string& text, PickOptions& pick) {
   pick.sheetColumns = static_cast<std::size_t>(columns);
 }
 
+OffsetOrder readOffsetOrder(const std::string& text) {
+  if (text == "signed") return OffsetOrder::kSigned;
+  if (text == "absolute") return OffsetOrder::kAbsolute;
+  throw CLI::ValidationError("--by-offset", "'" + text + "' is none of signed, absolute");
+}
+
+/// How the traces of --image are drawn.
+void addGatherManner(CLI::App& command, GatherManner& manner, CLI::Option* image) {
+  using namespace parameters;
+  const auto add = [image](CLI::Option* option) { option->needs(image); };
+  add(command
+          .add_option_function<std::string>(
+              "--by-offset",
+              [&manner](const std::string& text) { manner.byOffset = readOffsetOrder(text); },
+              "Put the traces of --image by their offset: signed, geophone minus shot; absolute, "
+              "either side over the other")
+          ->type_name("ORDER"));
+  add(addParameter(command, kReduction, "M/S",
+                   std::string("Draw --image in reduced time t - |x|/V. ") + kReduction.help,
+                   [&manner](double velocity) { manner.reduction = velocity; }));
+  add(addParameter(command, kTimeGain, "N", std::string("Of --image only. ") + kTimeGain.help,
+                   [&manner](double exponent) { manner.timeGain = exponent; }));
+}
+
 void addPick(CLI::App& app, PickOptions& pick) {
   CLI::App& command =
       *app.add_subcommand("pick", "Find the first breaks of shot files and drop implausible ones");
@@ -98,9 +123,10 @@ void addPick(CLI::App& app, PickOptions& pick) {
   addPath(command, "--json", pick.json,
           "Write positions (metres) and picks (seconds, -99 is none) as JSON; '-' is standard "
           "output, and then all diagnostics go to standard error");
-  addImages(command, pick.images,
-            "Draw the traces with their picks: a .pdf with a page per shot, or a .png or .svg per "
-            "shot, numbered");
+  CLI::Option* image =
+      addImages(command, pick.images,
+                "Draw the traces with their picks: a .pdf with a page per shot, or a .png or .svg "
+                "per shot, numbered");
   CLI::Option* sheet =
       command
           .add_option_function<std::string>(
@@ -108,6 +134,7 @@ void addPick(CLI::App& app, PickOptions& pick) {
               "Several shots on each sheet of --image, with one axis of time: ROWSxCOLUMNS, 2x3; "
               "at most 10x10")
           ->type_name("ROWSxCOLUMNS");
+  addGatherManner(command, pick.manner, image);
   CLI::Option* quiet = command.add_flag("--quiet", pick.quiet, kQuietHelp);
   command.add_flag("--verbose", pick.verbose, "Print the messages of the readers and the picker")
       ->excludes(quiet);

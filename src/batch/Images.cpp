@@ -2,6 +2,7 @@
 
 #include "batch/Failure.h"
 #include "figures/GatherFigure.h"
+#include "figures/GatherScene.h"
 #include "figures/GatherSheet.h"
 #include "figures/SectionFigure.h"
 
@@ -46,21 +47,33 @@ SectionFigureOptions sectionFigure(const InvertOptions& options) {
   return figure;
 }
 
-Status drawGathers(const TomoDocument& document, bool filtered, const std::string& path) {
+Status drawGathers(const TomoDocument& document, bool filtered, const GatherManner& manner,
+                   const std::string& path) {
   GatherFigureOptions figure;
+  figure.manner = manner;
   figure.filtered = filtered;
   std::vector<std::string> written;
   return writeGatherFigures(document, figure, path, written);
 }
 
-Status drawGatherSheets(const TomoDocument& document, bool filtered, std::size_t rows,
-                        std::size_t columns, const std::string& path) {
+Status drawGatherSheets(const TomoDocument& document, bool filtered, const GatherManner& manner,
+                        std::size_t rows, std::size_t columns, const std::string& path) {
   GatherSheetOptions sheets;
   sheets.rows = rows;
   sheets.columns = columns;
   sheets.gather.filtered = filtered;
+  sheets.gather.manner = manner;
   std::vector<std::string> written;
   return writeGatherSheets(document, sheets, path, written);
+}
+
+void warnOfOffsets(const TomoDocument& document, const GatherManner& manner) {
+  GatherFigureOptions figure;
+  figure.manner = manner;
+  const std::size_t shots = shotsLackingOffsets(document, figure);
+  if (shots == 0) return;
+  warn("the offsets of " + std::to_string(shots) + (shots == 1 ? " shot" : " shots") +
+       " are not known; the pictures are drawn neither by offset nor in reduced time there");
 }
 
 }  // namespace talvesk

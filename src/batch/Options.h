@@ -19,6 +19,7 @@
 #include "tomo/fitted/References.h"
 #include "tomo/fitted/ResolutionRun.h"
 #include "view/ColorPalette.h"
+#include "view/GatherMapping.h"
 
 #include <cstddef>
 #include <optional>
@@ -96,6 +97,7 @@ struct PickOptions {
   std::vector<std::string> images;
   std::size_t sheetRows = 0;  ///< of the pictures, as many shots one above the other; 0: one each
   std::size_t sheetColumns = 0;
+  GatherManner manner;  ///< of the images
   bool quiet = false;
   bool verbose = false;
 };

@@ -23,12 +23,14 @@ int writeResults(const PickOptions& options, const LoadedProject& project,
   attempt(options.json, [&](const auto& path) {
     return writeOutput(path, picksJson(document, nameOf(options.shots.filter), reciprocity));
   });
+  if (!options.images.empty()) warnOfOffsets(document, options.manner);
   for (const std::string& image : options.images) {
     const bool filtered = options.shots.filter != PickFilter::kNone;
     attempt(image, [&](const auto& path) {
-      return options.sheetRows == 0 ? drawGathers(document, filtered, path)
-                                    : drawGatherSheets(document, filtered, options.sheetRows,
-                                                       options.sheetColumns, path);
+      return options.sheetRows == 0
+                 ? drawGathers(document, filtered, options.manner, path)
+                 : drawGatherSheets(document, filtered, options.manner, options.sheetRows,
+                                    options.sheetColumns, path);
     });
   }
   return attempt.exitCode();

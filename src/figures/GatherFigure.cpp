@@ -1,5 +1,7 @@
 #include "figures/GatherFigure.h"
 
+#include "base/LengthUnit.h"
+#include "base/TextNumber.h"
 #include "figures/FigureItem.h"
 #include "figures/FigureOutput.h"
 #include "figures/FigureWords.h"
@@ -28,6 +30,18 @@ constexpr double kSidePadding = 12.0;  ///< beyond the largest swing
 constexpr double kMinCanvasWidth = 120.0;
 constexpr double kMinCanvasHeight = 80.0;
 
+QString offsetAxis(OffsetOrder order) {
+  return (order == OffsetOrder::kAbsolute ? FigureWords::tr("Absolute offset [%1]")
+                                          : FigureWords::tr("Offset [%1]"))
+      .arg(QLatin1String(lengthUnitName()));
+}
+
+QString reducedTimeAxis(double reduction) {
+  return FigureWords::tr("Reduced time [ms], t - |x|/%1 %2")
+      .arg(QString::fromStdString(formatDouble(std::round(shownLength(reduction)))),
+           QLatin1String(velocityUnitName()));
+}
+
 /// One shot laid out as a plot. The options must outlive it.
 class GatherPlot {
  public:
@@ -53,9 +67,13 @@ class GatherPlot {
 
 GatherPlot::GatherPlot(GatherScene scene, const GatherFigureOptions& options)
     : mOptions(options), mScene(std::move(scene)) {
-  mPlot.addAxis(QwtPlot::xBottom,
-                mScene.byChannel ? FigureWords::channelAxis() : FigureWords::distanceAxis());
-  mPlot.addAxis(QwtPlot::yLeft, FigureWords::timeAxis());
+  const GatherManner& manner = mScene.manner;
+  mPlot.addAxis(QwtPlot::xBottom, mScene.byChannel ? FigureWords::channelAxis()
+                                  : manner.byOffset != OffsetOrder::kNone
+                                      ? offsetAxis(manner.byOffset)
+                                      : FigureWords::distanceAxis());
+  mPlot.addAxis(QwtPlot::yLeft, manner.reduction > 0.0 ? reducedTimeAxis(manner.reduction)
+                                                       : FigureWords::timeAxis());
   mPlot.add(gather_items::wiggles(mScene, {mOptions.gain, mOptions.clip, mOptions.fillPositive}));
   const double top = mScene.window.beginMs;
   if (!mScene.byChannel) {

@@ -15,8 +15,8 @@ namespace talvesk {
 
 class TomoDocument;
 
-/// Where things lie in the picture of one shot. The lower axis of the place is distance (m) or
-/// channel, the left one time (ms).
+/// Where things lie in the picture of one shot. The lower axis of the place is distance or offset
+/// (m) or channel, the left one time (ms), both as drawn.
 struct GatherFigureLayout {
   struct Pick {
     std::size_t trace = 0;  ///< of the set, from 0
@@ -33,10 +33,11 @@ struct GatherFigureLayout {
 
 /// Draws the traces of a document's shots as wiggles against receiver position, time downward, with
 /// their first breaks marked at sample index times interval. Positions are those of the shot's
-/// geophone string, else of the traces' headers, else channel numbers. The suffix of `path`
-/// decides: .pdf is one file with a page for each shot; .png and .svg are a file for each, with the
-/// number of the shot before the suffix ("line.png": "line_01.png", "line_02.png"), or just `path`
-/// when the document has one shot or the options ask for one.
+/// geophone string, else of the traces' headers, else channel numbers; the manner of the options
+/// may put traces by their offset and reduce times. The suffix of `path` decides: .pdf is one file
+/// with a page for each shot; .png and .svg are a file for each, with the number of the shot before
+/// the suffix ("line.png": "line_01.png", "line_02.png"), or just `path` when the document has one
+/// shot or the options ask for one.
 ///
 /// Needs the QApplication and must run on its thread. Every file is replaced whole or not at all. A
 /// failure ends the work; files already complete remain.

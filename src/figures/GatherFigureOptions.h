@@ -1,6 +1,7 @@
 #pragma once
 
 #include "view/ColorPalette.h"
+#include "view/GatherMapping.h"
 
 #include <cstddef>
 #include <optional>
@@ -14,7 +15,7 @@ enum class GatherScaling {
   kWholeShot   ///< the largest swing of all traces: amplitudes can be compared
 };
 
-/// Part of a record, milliseconds from its first sample.
+/// Part of a record, milliseconds from its first sample, or in reduced time.
 struct TimeWindow {
   double beginMs = 0.0;
   double endMs = 0.0;
@@ -40,6 +41,8 @@ struct GatherFigureOptions {
   std::optional<TimeWindow> window;
   /// Channel numbers along the axis even where receiver positions are known.
   bool byChannel = false;
+  /// An order by offset goes before both.
+  GatherManner manner;
 
   bool picks = true;
   bool errorBars = true;  ///< where errors of picks are known

@@ -3,6 +3,7 @@
 #include "base/TextNumber.h"
 #include "figures/DrawableValues.h"
 #include "figures/FigureWords.h"
+#include "figures/GatherWindow.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "model/SurveyLine.h"
@@ -23,12 +24,7 @@ namespace {
 constexpr double kShotReach = 0.35;
 /// More wiggles than this stand too close for any eye; every second or third is drawn then.
 constexpr std::size_t kMostTraces = 600;
-constexpr double kLongestMs = 1e9;
 constexpr double kMaxGain = 1e6;
-
-bool hasInterval(const Trace& trace) {
-  return trace.sampleInterval > 0.0 && trace.sampleInterval <= 1e3;
-}
 
 const TravelTime* recordOf(const TomoDocument& document, std::size_t shot) {
   const auto belongs = [shot](const TravelTime& record) {
@@ -76,6 +72,18 @@ std::vector<double> positionsOf(const TomoDocument& document, const TravelTime* 
   return positions;
 }
 
+/// A shot has no offsets where its own position, or that of a geophone, is not known.
+GatherMapping mappingOf(const TomoDocument& document, const TravelTime* record, const TraceSet& set,
+                        const GatherManner& manner) {
+  std::vector<double> offsets;
+  bool byChannel = false;
+  const std::vector<double> positions = positionsOf(document, record, set, byChannel);
+  if (!byChannel && record != nullptr && isPosition(record->shotPos2d.x)) {
+    for (const double x : positions) offsets.push_back(x - record->shotPos2d.x);
+  }
+  return GatherMapping(manner, std::move(offsets));
+}
+
 /// The level that the trace swings about. Not the mean, which a strong late phase pulls away from
 /// the quiet before the first break.
 double levelOf(Span<double> samples) {
@@ -90,7 +98,8 @@ double levelOf(Span<double> samples) {
 /// What of the samples lies in the window, and how far they swing there.
 void measure(GatherTrace& trace, const TimeWindow& window) {
   const Span<double> samples = trace.samples;
-  const auto index = [&](double ms) {
+  const auto index = [&](double drawnMs) {
+    const double ms = drawnMs + trace.shiftMs;
     return static_cast<std::size_t>(
         std::clamp(ms / trace.intervalMs, 0.0, static_cast<double>(samples.size())));
   };
@@ -104,13 +113,16 @@ void measure(GatherTrace& trace, const TimeWindow& window) {
   trace.scale = GatherTrace::kFlat;
   for (std::size_t i = trace.first; i < trace.end; ++i) {
     if (!std::isfinite(samples[i])) continue;
-    trace.scale = std::max(trace.scale, std::min(std::abs(samples[i] - trace.level),
+    trace.scale = std::max(trace.scale, std::min(std::abs(samples[i] - trace.level) * trace.gain(i),
                                                  std::numeric_limits<double>::max()));
   }
 }
 
-Status checkWindow(const TimeWindow& window) {
-  if (window.beginMs >= 0.0 && window.endMs <= kLongestMs && window.endMs > window.beginMs) {
+/// \param reduced times before the shot are drawn, too
+Status checkWindow(const TimeWindow& window, bool reduced) {
+  const double earliest = reduced ? -kLongestGatherMs : 0.0;
+  if (window.beginMs >= earliest && window.endMs <= kLongestGatherMs &&
+      window.endMs > window.beginMs) {
     return {};
   }
   return Status::failure(Message::tr("The times from %1 to %2 ms cannot be drawn: choose a begin "
@@ -121,7 +133,8 @@ Status checkWindow(const TimeWindow& window) {
 
 Status checkOptions(const GatherFigureOptions& options) {
   if (options.window) {
-    if (Status status = checkWindow(*options.window); !status.ok()) return status;
+    const bool reduced = options.manner.reduction > 0.0;
+    if (Status status = checkWindow(*options.window, reduced); !status.ok()) return status;
   }
   if (!(options.gain > 0.0 && options.gain <= kMaxGain)) {
     return Status::failure(
@@ -132,42 +145,6 @@ Status checkOptions(const GatherFigureOptions& options) {
         Message::tr("Wiggles can be cut at more than 0 and up to 100 trace distances."));
   }
   return {};
-}
-
-/// The least of 1, 1.2, 1.5, 2, 2.5, 3, 4, 5, 6, 8 times a power of ten that is not below `value`.
-double roundUp(double value) {
-  const double power = std::pow(10.0, std::floor(std::log10(value)));
-  for (const double factor : {1.0, 1.2, 1.5, 2.0, 2.5, 3.0, 4.0, 5.0, 6.0, 8.0}) {
-    if (factor * power >= value * (1.0 - 1e-12)) return factor * power;
-  }
-  return 10.0 * power;
-}
-
-TimeWindow windowOf(const TraceSet& set, const TravelTime* record,
-                    const GatherFigureOptions& options) {
-  if (options.window) return *options.window;
-  double recordMs = 0.0;
-  for (const Trace& trace : set) {
-    if (!hasInterval(trace)) continue;
-    const std::size_t samples = std::max(trace.samples.size(), trace.filtered.size());
-    if (samples < 2) continue;
-    recordMs = std::max(recordMs, 1e3 * trace.sampleInterval * static_cast<double>(samples - 1));
-  }
-  double lastPickMs = 0.0;
-  if (record != nullptr) {
-    const std::size_t count = std::min(set.size(), record->ttMisurati.size());
-    for (std::size_t i = 0; i < count; ++i) {
-      const double seconds = record->ttMisurati[i];
-      if (isDrawableTime(seconds)) lastPickMs = std::max(lastPickMs, 1e3 * seconds);
-    }
-  }
-  double endMs = std::min(recordMs, kLongestMs);
-  if (lastPickMs > 0.0) {
-    const double wanted = roundUp(1.5 * lastPickMs);
-    // A pick past the end of its record is an error that must show.
-    endMs = endMs > 0.0 ? std::min(wanted, std::max(endMs, 1.05 * lastPickMs)) : wanted;
-  }
-  return {0.0, endMs > 0.0 ? endMs : 1.0};
 }
 
 std::string titleOf(const TomoDocument& document, std::size_t shot, const TravelTime* record,
@@ -201,8 +178,22 @@ struct Counts {
   std::size_t errors = 0;  ///< bars of picks in the window
 };
 
+/// What of the manner no axis says.
+QStringList mannerWords(const GatherMapping& mapping) {
+  QStringList words;
+  const double exponent = mapping.manner().timeGain;
+  if (exponent > 0.0) {
+    words += FigureWords::tr("gain with time t^%1", "exponent")
+                 .arg(QString::fromStdString(formatDouble(exponent, 3)));
+  }
+  if (mapping.lacksOffsets()) {
+    words += FigureWords::tr("offsets not known: not drawn by offset or reduced as asked");
+  }
+  return words;
+}
+
 std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& mends,
-                      const GatherFigureOptions& options) {
+                      const GatherMapping& mapping, const GatherFigureOptions& options) {
   QString traces = FigureWords::traces(counts.drawn);
   if (counts.filtered > 0) {
     traces = (counts.filtered == counts.drawn ? FigureWords::tr("%1, filtered", "traces")
@@ -219,6 +210,7 @@ std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& m
   parts += (own ? FigureWords::tr("Each trace to its own maximum, gain %1")
                 : FigureWords::tr("All traces to one maximum, gain %1"))
                .arg(QString::fromStdString(formatDouble(options.gain, 3)));
+  parts += mannerWords(mapping);
   if (options.picks) {
     parts += counts.picks == 0 ? FigureWords::tr("no picks") : FigureWords::picks(counts.picks);
   }
@@ -247,17 +239,21 @@ std::string remarksOf(const Counts& counts, std::size_t step, const ShotMends& m
   return parts.join(QStringLiteral(", ")).toStdString();
 }
 
-void setAxis(const std::vector<double>& positions, const TravelTime* record, GatherScene& scene) {
+/// \param positions on the axis
+void setAxis(const std::vector<double>& positions, const TravelTime* record,
+             const GatherMapping& mapping, GatherScene& scene) {
   scene.low = scene.high = 1.0;
   if (positions.empty()) return;
   scene.receivers = positions;
   std::sort(scene.receivers.begin(), scene.receivers.end());
-  scene.spacing = medianGap(scene.receivers);
+  std::vector<double> unfolded = mapping.isByOffset() ? mapping.offsets() : scene.receivers;
+  std::sort(unfolded.begin(), unfolded.end());
+  scene.spacing = medianGap(unfolded);
   scene.low = scene.receivers.front();
   scene.high = scene.receivers.back();
   if (scene.byChannel || record == nullptr || !isPosition(record->shotPos2d.x)) return;
   const double reach = std::max(kShotReach * (scene.high - scene.low), 2.0 * scene.spacing);
-  const double x = record->shotPos2d.x;
+  const double x = mapping.isByOffset() ? 0.0 : record->shotPos2d.x;
   if (x < scene.low - reach || x > scene.high + reach) return;
   scene.shotX = x;
   scene.low = std::min(scene.low, x);
@@ -266,16 +262,18 @@ void setAxis(const std::vector<double>& positions, const TravelTime* record, Gat
 
 /// Adds a trace unless there is nothing of it to draw. \param gain that it was given by a mend
 void addTrace(const TraceSet& set, std::size_t channel, double x, double gain,
-              const TravelTime* record, const GatherFigureOptions& options, GatherScene& scene,
-              Counts& counts) {
+              const TravelTime* record, const GatherMapping& mapping,
+              const GatherFigureOptions& options, GatherScene& scene, Counts& counts) {
   const Trace& source = set[channel];
   GatherTrace trace;
   trace.channel = channel;
   trace.x = x;
+  trace.shiftMs = 1e3 * mapping.shift(channel);
+  trace.timeGain = mapping.manner().timeGain;
   ++counts.looked;
   if (options.picks && record != nullptr && channel < record->ttMisurati.size() &&
       isDrawableTime(record->ttMisurati[channel])) {
-    const double ms = 1e3 * record->ttMisurati[channel];
+    const double ms = 1e3 * record->ttMisurati[channel] - trace.shiftMs;
     const bool inside = ms >= scene.window.beginMs && ms <= scene.window.endMs;
     if (inside) {
       trace.pickMs = ms;
@@ -310,11 +308,15 @@ void scaleAlike(std::vector<GatherTrace>& traces) {
 
 }  // namespace
 
+double GatherTrace::gain(std::size_t sample) const {
+  return timeGainAt(1e-3 * static_cast<double>(sample) * intervalMs, timeGain);
+}
+
 double GatherTrace::swing(std::size_t sample) const {
   const double value = samples[sample];
   if (!std::isfinite(value)) return std::numeric_limits<double>::quiet_NaN();
   if (scale <= kFlat) return 0.0;
-  return std::clamp(value - level, -std::numeric_limits<double>::max(),
+  return std::clamp((value - level) * gain(sample), -std::numeric_limits<double>::max(),
                     std::numeric_limits<double>::max()) /
          scale;
 }
@@ -333,23 +335,40 @@ Status buildGatherScene(const TomoDocument& document, std::size_t shot,
   const TravelTime* record = recordOf(document, shot);
   GatherScene made;
   made.byChannel = options.byChannel;
-  made.window = windowOf(set, record, options);
-  const std::vector<double> positions = positionsOf(document, record, set, made.byChannel);
+  const GatherMapping mapping = mappingOf(document, record, set, options.manner);
+  made.manner = mapping.manner();
+  made.window = options.window.value_or(gatherWindow(set, record, mapping));
+  std::vector<double> positions = positionsOf(document, record, set, made.byChannel);
   made.title = titleOf(document, shot, record, options.byChannel || !made.byChannel, options);
-  setAxis(positions, record, made);
+  if (mapping.isByOffset()) {
+    made.byChannel = false;
+    for (std::size_t i = 0; i < set.size(); ++i) positions[i] = mapping.place(i);
+  }
+  setAxis(positions, record, mapping, made);
 
   made.traceStep = std::max<std::size_t>((set.size() + kMostTraces - 1) / kMostTraces, 1);
   const ShotMends& mends = mendsOf(document.recordings->mends, shot);
   Counts counts;
   for (std::size_t i = 0; i < set.size(); i += made.traceStep) {
-    addTrace(set, i, positions[i], mendOf(mends, i).gain, record, options, made, counts);
+    addTrace(set, i, positions[i], mendOf(mends, i).gain, record, mapping, options, made, counts);
   }
   if (options.scaling == GatherScaling::kWholeShot) scaleAlike(made.traces);
   made.hasPicks = counts.picks > 0;
-  made.caption = captionOf(counts, made.traceStep, mends, options);
+  made.caption = captionOf(counts, made.traceStep, mends, mapping, options);
   made.remarks = remarksOf(counts, made.traceStep, mends);
   scene = std::move(made);
   return {};
+}
+
+std::size_t shotsLackingOffsets(const TomoDocument& document, const GatherFigureOptions& options) {
+  const auto& sets = document.recordings->traceSets;
+  std::size_t lacking = 0;
+  for (std::size_t i = 0; i < sets.size(); ++i) {
+    if (options.shot && *options.shot != i) continue;
+    const TravelTime* record = recordOf(document, i);
+    if (mappingOf(document, record, sets[i], options.manner).lacksOffsets()) ++lacking;
+  }
+  return lacking;
 }
 
 }  // namespace talvesk

@@ -25,11 +25,18 @@ struct GatherTrace {
   std::size_t first = 0;  ///< samples [first, end) lie within the window
   std::size_t end = 0;
   double level = 0.0;            ///< median of all samples
-  double scale = kFlat;          ///< largest distance from the level within the window
-  std::optional<double> pickMs;  ///< within the window
+  double scale = kFlat;          ///< largest distance from the level, with its gain, in the window
+  std::optional<double> pickMs;  ///< as drawn, within the window
   double errorMs = 0.0;          ///< of the pick, one standard deviation; 0: not known
 
-  double timeMs(std::size_t sample) const { return static_cast<double>(sample) * intervalMs; }
+  double shiftMs = 0.0;   ///< what reduced time takes from its times
+  double timeGain = 0.0;  ///< exponent of the gain that its swings have, see GatherMapping
+
+  /// As drawn.
+  double timeMs(std::size_t sample) const {
+    return static_cast<double>(sample) * intervalMs - shiftMs;
+  }
+  double gain(std::size_t sample) const;  ///< with time
   /// From -1 to 1 for a trace scaled by itself, times the gain that it has by a mend; not a number
   /// where the sample is none.
   double swing(std::size_t sample) const;
@@ -42,6 +49,7 @@ struct GatherScene {
   /// Of the caption, what is left out and what is mended; as a rule empty.
   std::string remarks;
   bool byChannel = false;
+  GatherManner manner;  ///< as the offsets of the shot allow; by offset it is not by channel
   /// Those with samples or a pick, in channel order; of very many only every `traceStep`-th.
   std::vector<GatherTrace> traces;
   std::size_t traceStep = 1;
@@ -49,7 +57,7 @@ struct GatherScene {
   double spacing = 1.0;           ///< usual distance between neighbours, on the lower axis
   double low = 0.0;               ///< of the lower axis: receivers, and the shot where it is near
   double high = 0.0;
-  std::optional<double> shotX;  ///< within low and high
+  std::optional<double> shotX;  ///< on the lower axis, within low and high
   TimeWindow window;
   bool hasPicks = false;
 };
@@ -59,5 +67,9 @@ struct GatherScene {
 /// counted in the caption.
 Status buildGatherScene(const TomoDocument& document, std::size_t shot,
                         const GatherFigureOptions& options, GatherScene& scene);
+
+/// How many of the shots to be drawn cannot be drawn in the manner asked for, because their offsets
+/// are not known; their captions say so.
+std::size_t shotsLackingOffsets(const TomoDocument& document, const GatherFigureOptions& options);
 
 }  // namespace talvesk

@@ -51,6 +51,7 @@ class Planner {
       setSize(figure);
       figure.shot = shot;
       figure.filtered = mOptions.filtered;
+      figure.manner = mOptions.gatherManner;
       figure.errorBars = mOptions.errorBars;
       add("shot_" + withZeros(shot + 1, count),
           [&document = mDocument, figure](const std::string& path) {

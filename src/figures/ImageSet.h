@@ -4,6 +4,7 @@
 #include "figures/FigureFile.h"
 #include "figures/SectionFigure.h"
 #include "model/RefractionDataStructure.h"
+#include "view/GatherMapping.h"
 
 #include <cstddef>
 #include <functional>
@@ -21,6 +22,7 @@ struct ImageSetOptions {
   bool gathers = false;
   std::optional<std::size_t> shot;  ///< the one gather to draw, from 0; none: all of them
   bool filtered = false;            ///< the filtered copies of the traces
+  GatherManner gatherManner;        ///< order, time and gain of the traces
   bool travelTimes = false;
   bool errorBars = true;                    ///< over picks whose error is known
   bool section = false;                     ///< of each of the quantities, as the view shows it

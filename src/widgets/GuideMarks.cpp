@@ -23,9 +23,11 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(talvesk::TraceTexts)
 };
 
-QPolygonF toScreen(const std::vector<QPointF>& points, const TraceMapping& mapping) {
+/// \param points of true times
+QPolygonF toScreen(const WiggleScene& scene, const std::vector<QPointF>& points,
+                   const TraceMapping& mapping) {
   QPolygonF line;
-  for (const QPointF& p : points) {
+  for (const QPointF& p : drawnPoints(scene.traces, scene.layout, points)) {
     const QPointF q = mapping.point(p.x(), p.y());
     line.append({std::clamp(q.x(), -kFar, kFar), std::clamp(q.y(), -kFar, kFar)});
   }
@@ -38,7 +40,7 @@ QPen neighbourPen(const TraceColors& colors) {
 
 void paintAirWave(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping) {
   const QPolygonF line =
-      toScreen(airWaveLine(scene.traces, scene.layout, scene.options.airVelocity), mapping);
+      toScreen(scene, airWaveLine(scene.traces, scene.layout, scene.options.airVelocity), mapping);
   if (line.isEmpty()) return;
   painter.setPen(QPen(scene.colors.airWave, 1.5, Qt::DashLine));
   painter.drawPolyline(line);
@@ -46,7 +48,7 @@ void paintAirWave(QPainter& painter, const WiggleScene& scene, const TraceMappin
 
 void paintComputed(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping) {
   for (const auto& piece : computedLines(scene.traces, scene.layout)) {
-    const QPolygonF line = toScreen(piece, mapping);
+    const QPolygonF line = toScreen(scene, piece, mapping);
     painter.setPen(QPen(scene.colors.halo, 3.5));
     painter.drawPolyline(line);
     painter.setPen(QPen(scene.colors.computed, 1.75));
@@ -63,7 +65,8 @@ void paintOtherPicks(QPainter& painter, const WiggleScene& scene, const TraceMap
   const double half =
       std::clamp(0.3 * (mapping.x(scene.layout.spacing()) - mapping.x(0.0)), 2.0, 5.0);
   QVector<QLineF> bars;
-  for (const QPointF& pick : otherPicks(document, scene.traces, scene.layout)) {
+  const std::vector<QPointF> picks = otherPicks(document, scene.traces, scene.layout);
+  for (const QPointF& pick : drawnPoints(scene.traces, scene.layout, picks)) {
     const QPointF p = mapping.point(pick.x(), pick.y());
     if (mapping.plot.contains(p)) bars.append({p.x() - half, p.y(), p.x() + half, p.y()});
   }
@@ -76,7 +79,7 @@ void paintOtherPicks(QPainter& painter, const WiggleScene& scene, const TraceMap
 void paintNeighbour(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                     const TomoDocument& document) {
   for (const auto& piece : nearestCurve(document, scene.traces, scene.layout).lines) {
-    const QPolygonF line = toScreen(piece, mapping);
+    const QPolygonF line = toScreen(scene, piece, mapping);
     painter.setPen(QPen(scene.colors.halo, 3.0));
     painter.drawPolyline(line);
     painter.setPen(neighbourPen(scene.colors));
@@ -95,7 +98,8 @@ void paintDiamond(QPainter& painter, const TraceColors& colors, const QPointF& a
 
 void paintReciprocal(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                      const TomoDocument& document) {
-  for (const QPointF& time : reciprocalTimes(document, scene.traces, scene.layout)) {
+  const std::vector<QPointF> times = reciprocalTimes(document, scene.traces, scene.layout);
+  for (const QPointF& time : drawnPoints(scene.traces, scene.layout, times)) {
     const QPointF at = mapping.point(time.x(), time.y());
     if (mapping.plot.contains(at)) paintDiamond(painter, scene.colors, at);
   }
@@ -209,7 +213,7 @@ void paintLegend(QPainter& painter, const WiggleScene& scene, const QRectF& plot
 
 void paintRuler(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                 const QPointF& from, const QPointF& to) {
-  const QPolygonF line = toScreen({from, to}, mapping);
+  const QPolygonF line = toScreen(scene, {from, to}, mapping);
   painter.save();
   painter.setClipRect(mapping.plot);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -18,7 +18,7 @@ void paintGuides(QPainter& painter, const WiggleScene& scene, const TraceMapping
 void paintLegend(QPainter& painter, const WiggleScene& scene, const QRectF& plot,
                  const TomoDocument& document);
 
-/// A line between two points (positions, seconds) with what it reads.
+/// A line between two points (positions, true seconds) with what it reads.
 void paintRuler(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                 const QPointF& from, const QPointF& to);
 

@@ -323,6 +323,21 @@ TEST_F(Picking, sheetsHaveSeveralShotsEach) {
   EXPECT_EQ(pick({"-o", mFolder / "out.otte", "--sheet", "2x2"}).code, 2);
 }
 
+TEST_F(Picking, picturesMayBeByOffsetReducedAndAmplified) {
+  const std::vector<std::string> plain = {"-o", mFolder / "a.otte", "--image", mFolder / "a.svg"};
+  ASSERT_EQ(pick(plain).code, 0);
+  const Outcome outcome =
+      pick({"-o", mFolder / "b.otte", "--image", mFolder / "b.svg", "--by-offset", "absolute",
+            "--reduce", "900", "--time-gain", "1.5"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  const std::string drawn = contentsOf(mFolder / "b_02.svg");
+  for (const char* words : {"Absolute offset [m]", "t - |x|/900 m/s", "gain with time t^1.5"}) {
+    EXPECT_THAT(drawn, HasSubstr(words));
+    EXPECT_THAT(contentsOf(mFolder / "a_02.svg"), Not(HasSubstr(words)));
+  }
+  EXPECT_EQ(contentsOf(mFolder / "a.otte"), contentsOf(mFolder / "b.otte")) << "picks stay";
+}
+
 TEST_F(Picking, thePickerIsHeardOnlyOnRequestAndQuietSaysNothing) {
   const Outcome verbose = pick({"-o", mFolder / "out.otte", "--verbose"});
   EXPECT_THAT(verbose.out, HasSubstr("opening seg2 file "));

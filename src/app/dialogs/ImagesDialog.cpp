@@ -69,6 +69,8 @@ void ImagesDialog::offerWhatThereIs() {
   offer(mUi->currentGatherBox, mShot >= 0 && static_cast<std::size_t>(mShot) < sets.size());
   offer(mUi->allGathersBox, !sets.empty());
   offer(mUi->filteredBox, std::any_of(sets.begin(), sets.end(), hasFilteredCopy));
+  offer(mUi->mannerBox, !sets.empty() && !mLook.gatherManner.plain());
+  mUi->mannerBox->setChecked(mUi->mannerBox->isEnabled());
   offer(mUi->velocityBox, section);
   for (QCheckBox* box : {mUi->gradientBox, mUi->laplacianBox, mUi->cellsBox, mUi->smoothBox}) {
     offer(box, section);
@@ -103,6 +105,7 @@ ImageSetOptions ImagesDialog::options() const {
     options.shot = static_cast<std::size_t>(mShot);
   }
   options.filtered = mUi->filteredBox->isChecked();
+  if (!mUi->mannerBox->isChecked()) options.gatherManner = {};
   options.travelTimes = mUi->travelTimesBox->isChecked();
   const std::pair<const QCheckBox*, SectionQuantity> quantities[] = {
       {mUi->velocityBox, SectionQuantity::kVelocity},

@@ -22,8 +22,8 @@ class ImagesDialog : public QDialog {
   Q_OBJECT
 
  public:
-  /// \param look how sections are shown: view, palette, refractors and colour bar of it count
-  /// \param shot the current one, from 0; -1 none
+  /// \param look how sections and traces are shown: view, palette, refractors, colour bar and
+  /// manner of it count \param shot the current one, from 0; -1 none
   ImagesDialog(const TomoDocument& document,
                const refractionDataStructure::Interpretation& interpretation,
                const ImageSetOptions& look, int shot, QWidget* parent = nullptr);

@@ -75,6 +75,7 @@ void doFilteringDialog::setTraceOptions(const TraceViewOptions& options) {
   view.showFiltered = mUi->displayFiltered->isChecked();
   view.showOnlyTraces = true;
   view.byDistance = false;
+  view.manner = {};
   view.magnifier = false;
   mUi->tracesWidget->setOptions(view);
 }

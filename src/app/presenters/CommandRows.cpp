@@ -210,6 +210,11 @@ Rows traceViewRows(Desk& desk, Presenters& p) {
                    "snap"};
   };
   editTravelTimesWidget& traces = *desk.ui.showTracesWidget;
+  const auto order = [&traces](const char* object, OffsetOrder what,
+                               void (editTravelTimesWidget::*set)(bool)) {
+    return Command{object, always, turn(traces, set),
+                   [what](const State& state) { return state.traceView.manner.byOffset == what; }};
+  };
   const auto error = [&traces](const char* object, std::size_t key) {
     const double sigma = 1e-3 * kKeyErrors[key];
     return Command{object,
@@ -227,7 +232,20 @@ Rows traceViewRows(Desk& desk, Presenters& p) {
       setting("actionZoom_in", &Settings::zoomIn),
       setting("actionShow_filtered", &Settings::showFiltered),
       setting("actionShow_all_traces", &Settings::showAllTraces),
-      option("actionBy_distance", &Options::byDistance),
+      {"actionBy_distance", always, turn(view, &TraceOptionsPresenter::setByDistance),
+       [](const State& state) {
+         const Options& options = state.traceView;
+         return options.byDistance && options.manner.byOffset == OffsetOrder::kNone;
+       }},
+      order("actionBy_offset", OffsetOrder::kSigned, &editTravelTimesWidget::setByOffset),
+      order("actionBy_absolute_offset", OffsetOrder::kAbsolute,
+            &editTravelTimesWidget::setByAbsoluteOffset),
+      {"actionReduced_time", always, turn(traces, &editTravelTimesWidget::setReduced),
+       [](const State& state) { return state.traceView.manner.reduction > 0.0; }},
+      {"actionReduction_velocity", always, call(view, &TraceOptionsPresenter::askReduction)},
+      {"actionTime_gain", always, turn(traces, &editTravelTimesWidget::setAmplified),
+       [](const State& state) { return state.traceView.manner.timeGain > 0.0; }},
+      {"actionTime_gain_exponent", always, call(view, &TraceOptionsPresenter::askTimeGain)},
       option("actionAir_wave", &Options::airWave),
       option("actionMagnifier", &Options::magnifier),
       {"actionTrue_amplitudes", always, turn(view, &TraceOptionsPresenter::setTrueAmplitudes),

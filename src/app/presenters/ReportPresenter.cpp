@@ -14,6 +14,8 @@
 #include "model/TomoDocument.h"
 #include "ui_Talvesk_MainWindows.h"
 #include "widgets/section/SectionView.h"
+#include "widgets/traces/TraceViewOptions.h"
+#include "widgets/traces/editTravelTimesWidget.h"
 
 #include <QBuffer>
 #include <QDate>
@@ -56,6 +58,7 @@ void ReportPresenter::writePictures() {
   look.refractors = refractors();
   look.horizontalColorBar = mDesk.settings.savePngHColorbar;
   look.errorBars = mDesk.settings.errorBars;
+  look.gatherManner = mDesk.ui.showTracesWidget->options().manner;
   look.profileErrors = mLayered.errors();
   ImagesDialog dialog(mDesk.document(), mDesk.interpretation(), look, mDesk.shot.index(),
                       &mDesk.window);

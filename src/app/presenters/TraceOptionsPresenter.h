@@ -3,11 +3,16 @@
 #include "app/presenters/Desk.h"
 
 #include <QObject>
+#include <functional>
+#include <optional>
+
+class QInputDialog;
 
 namespace talvesk {
 
 enum class PickSnap;
 enum class TraceTool;
+struct GatherManner;
 struct TraceViewOptions;
 
 /// How traces are drawn and picked: settings, choices that last as long as the window, tools.
@@ -21,6 +26,9 @@ class TraceOptionsPresenter : public QObject {
   void setOption(bool TraceViewOptions::*option, bool on);  ///< lasts as long as the window
   void setTrueAmplitudes(bool on);
   void setOnlyTraces(bool on);  ///< neither picks nor curve
+  void setByDistance(bool on);  ///< and no longer by offset
+  void askReduction();          ///< by what velocity times are reduced; the view follows at once
+  void askTimeGain();           ///< by what power of time wiggles are drawn; the same
   void gainUp();
   void gainDown();
   void setSnap(PickSnap snap);
@@ -30,6 +38,10 @@ class TraceOptionsPresenter : public QObject {
 
  private:
   void change(const std::function<void(TraceViewOptions&)>& change);
+  /// Asks for a number that the view follows while it is chosen. The view is as before in the end.
+  /// \return none when nothing was chosen
+  std::optional<double> ask(QInputDialog& box,
+                            const std::function<void(GatherManner&, double)>& change);
 
   Desk& mDesk;
   Session::Subscription mSubscription;

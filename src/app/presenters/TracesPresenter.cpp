@@ -162,6 +162,9 @@ void TracesPresenter::showCursor(const TraceCursor& cursor) {
   if (!cursor.takesPart) parts << tr("disabled or killed");
   if (cursor.offset) parts << tr("Offset %1 m").arg(locale.toString(*cursor.offset, 'f', 1));
   if (cursor.time) parts << tr("Time %1 ms").arg(locale.toString(1000.0 * *cursor.time, 'f', 2));
+  if (cursor.reduced) {
+    parts << tr("Reduced %1 ms").arg(locale.toString(1000.0 * *cursor.reduced, 'f', 2));
+  }
   if (cursor.pick) {
     const QString pick = locale.toString(1000.0 * *cursor.pick, 'f', 2);
     parts << (cursor.pickIsAutomatic ? tr("Pick %1 ms (automatic)").arg(pick)

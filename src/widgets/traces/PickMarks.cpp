@@ -33,7 +33,8 @@ QVector<QLineF> pickBars(const WiggleScene& scene, const TraceMapping& mapping,
   for (int trace = 0; trace < scene.layout.count(); ++trace) {
     const double time = shownPick(scene.traces, draft, trace);
     if (!hasPick(time)) continue;
-    const QPointF p = mapping.point(scene.layout.position(trace), time);
+    const QPointF p =
+        mapping.point(scene.layout.position(trace), scene.traces.drawnTime(trace, time));
     if (!seen.contains(p)) continue;
     bars.append({p.x() - half, p.y(), p.x() + half, p.y()});
   }
@@ -51,8 +52,9 @@ std::vector<ErrorBar> errorBars(const WiggleScene& scene, const TraceMapping& ma
                          : draft.count(trace) > 0 ? scene.options.pickError
                                                   : scene.traces.error(trace);
     if (!(sigma > 0.0) || !hasPick(time)) continue;
-    const ErrorBar bar(mapping.x(scene.layout.position(trace)), mapping.y(time - sigma),
-                       mapping.y(time + sigma), sigma, mapping.plot.top(), mapping.plot.bottom());
+    const double drawn = scene.traces.drawnTime(trace, time);
+    const ErrorBar bar(mapping.x(scene.layout.position(trace)), mapping.y(drawn - sigma),
+                       mapping.y(drawn + sigma), sigma, mapping.plot.top(), mapping.plot.bottom());
     if (bar.x >= left && bar.x <= right) bars.push_back(bar);
   }
   return bars;
@@ -101,7 +103,7 @@ void paintCrosshair(QPainter& painter, const WiggleScene& scene, const TraceMapp
   painter.setPen(QPen(thin, 0.0));
   painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
   const QString channel = QString::number(trace + 1);
-  const double row = scene.layout.isByDistance() ? 2.0 : 1.0;
+  const double row = scene.layout.isByChannel() ? 1.0 : 2.0;
   paintTag(painter, scene.colors,
            {x - 0.5 * metrics.horizontalAdvance(channel) - 4.0,
             plot.top() - 9.0 - row * metrics.height() - 1.0},

@@ -30,11 +30,12 @@ void paintErrorBars(QPainter& painter, const WiggleScene& scene, const TraceMapp
 void paintPicks(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                 const std::map<int, double>& draft);
 
-/// Lines through the cursor, the time at the left side and the channel above.
+/// Lines through the cursor, the time at the left side and the channel above. \param time as drawn
 void paintCrosshair(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                     int trace, double time);
 
-/// A magnified window around a point (position, seconds) with its picks, beside the cursor.
+/// A magnified window around a point (position, seconds as drawn) with its picks, beside the
+/// cursor.
 void paintMagnifier(QPainter& painter, const WiggleScene& scene, const TraceMapping& mapping,
                     const std::map<int, double>& draft, const DraftError& pulled,
                     const QPointF& at);

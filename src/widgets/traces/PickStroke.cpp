@@ -48,6 +48,7 @@ void PickStroke::moveTo(int trace, const Place& place, const TraceLayout& layout
     return set(mTrace, place.time, adjust);
   }
   if (trace < 0) trace = mTrace;
+  if (!layout.sameSide(trace, mTrace)) trace = layout.nearestBeside(mTrace, place.position);
   approach(place, layout);
   if (trace != mTrace || mTimes.size() > 1) {
     set(mTrace, mNearestTime, adjust);
@@ -55,8 +56,10 @@ void PickStroke::moveTo(int trace, const Place& place, const TraceLayout& layout
     set(mTrace, place.time, adjust);
   }
   const int step = layout.rank(trace) < layout.rank(mTrace) ? -1 : 1;
-  while (mTrace != trace) {
-    enter(layout.stepped(mTrace, step));
+  for (int at = mTrace; at != trace;) {
+    at = layout.stepped(at, step);
+    if (!layout.sameSide(at, mTrace)) continue;
+    enter(at);
     approach(place, layout);
     set(mTrace, mNearestTime, adjust);
   }

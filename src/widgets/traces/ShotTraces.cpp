@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -28,6 +29,18 @@ double meanOf(Span<double> samples) {
   return std::isfinite(mean) ? mean : 0.0;
 }
 
+/// As peakOf(), of samples that are drawn with a gain.
+double gainedPeakOf(Span<double> samples, double mean, double interval,
+                    const GatherMapping& mapping) {
+  double peak = 0.0;
+  for (std::size_t i = 0; i < samples.size(); ++i) {
+    const double gain = mapping.gain(static_cast<double>(i) * interval);
+    const double deflection = std::fabs(samples[i] - mean) * gain;
+    if (deflection > peak && std::isfinite(deflection)) peak = deflection;
+  }
+  return peak;
+}
+
 double peakOf(Span<double> samples, double mean) {
   double peak = 0.0;
   for (const double v : samples) {
@@ -44,13 +57,14 @@ double timeAmong(const std::vector<double>& times, int trace) {
 
 }  // namespace
 
-ShotTraces::ShotTraces(const TomoDocument* document, int record, bool showFiltered)
+ShotTraces::ShotTraces(const TomoDocument* document, int record, bool showFiltered,
+                       const GatherManner& manner)
     : mDocument(document), mRecord(record), mShowFiltered(showFiltered) {
   if (times() == nullptr) {
     mRecord = -1;
     return;
   }
-  measure();
+  measure(manner);
 }
 
 const TravelTime* ShotTraces::times() const {
@@ -95,18 +109,23 @@ double ShotTraces::recordEnd(int trace) const {
   return n == 0 ? 0.0 : std::min(static_cast<double>(n - 1) * interval(trace), kLongestEnd);
 }
 
-void ShotTraces::measure() {
+void ShotTraces::measure(const GatherManner& manner) {
   const TraceSet* set = traceSet();
   const std::size_t n = set != nullptr ? set->size() : times()->ttMisurati.size();
   mMean.assign(n, 0.0);
   mPeak.assign(n, 0.0);
   mGain.assign(n, 1.0);
+  std::vector<double> offsets;
+  for (int i = 0; i < count(); ++i) offsets.push_back(offset(i));
+  mMapping = GatherMapping(manner, std::move(offsets));
   const ShotMends& mends = mendsOfRecord(*mDocument, mRecord);
   double end = 0.0;
   double latest = 0.0;
   for (int i = 0; i < count(); ++i) {
     mMean[index(i)] = meanOf(samples(i));
-    mPeak[index(i)] = peakOf(samples(i), mMean[index(i)]);
+    mPeak[index(i)] = mMapping.amplifies()
+                          ? gainedPeakOf(samples(i), mMean[index(i)], interval(i), mMapping)
+                          : peakOf(samples(i), mMean[index(i)]);
     mGain[index(i)] = mendOf(mends, index(i)).gain;
     mShotPeak = std::max(mShotPeak, mPeak[index(i)]);
     end = std::max(end, recordEnd(i));
@@ -115,6 +134,19 @@ void ShotTraces::measure() {
     }
   }
   mTimeEnd = end > 0.0 ? end : std::max(1.2 * latest, kLeastEnd);
+}
+
+double ShotTraces::drawnBegin() const {
+  return mMapping.isReduced() ? -mMapping.longestShift() : 0.0;
+}
+
+double ShotTraces::drawnEnd() const {
+  if (!mMapping.isReduced()) return mTimeEnd;
+  double end = drawnBegin();
+  for (int i = 0; i < count(); ++i) {
+    end = std::max(end, drawnTime(i, recordEnd(i) > 0.0 ? recordEnd(i) : mTimeEnd));
+  }
+  return end;
 }
 
 double ShotTraces::receiverX(int trace) const {

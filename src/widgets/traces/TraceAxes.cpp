@@ -1,5 +1,6 @@
 #include "widgets/traces/TraceAxes.h"
 
+#include "base/LengthUnit.h"
 #include "view/AxisTicks.h"
 #include "widgets/traces/TraceGuides.h"
 #include "widgets/traces/TraceTags.h"
@@ -40,10 +41,10 @@ class Axes {
     paintTimes();
     const double upper = mPlot.top() - kMajor - kGap - 2.0 * mMetrics.height();
     const double lower = upper + mMetrics.height();
-    if (mLayout.isByDistance()) {
+    if (!mLayout.isByChannel()) {
       paintPositions(lower, 0.0);
       paintAtTraces(upper, true);
-      title(lower, tr("x (m)"));
+      title(lower, positionTitle());
       title(upper, tr("Channel"));
     } else {
       paintPositions(lower, 1.0);
@@ -61,6 +62,19 @@ class Axes {
                       mMetrics.elidedText(text, Qt::ElideRight, corner.width()));
   }
 
+  QString positionTitle() const {
+    const QLatin1String unit(lengthUnitName());
+    switch (mLayout.offsetOrder()) {
+      case OffsetOrder::kSigned:
+        return tr("Offset (%1)").arg(unit);
+      case OffsetOrder::kAbsolute:
+        return tr("|x| (%1)", "absolute offset").arg(unit);
+      case OffsetOrder::kNone:
+        break;
+    }
+    return tr("x (m)");
+  }
+
   void paintTimes() {
     const AxisTicks ticks = timeTicks(mMapping, mMetrics.height());
     for (const double ms : ticks.minor) timeMark(1e-3 * ms, kMinor);
@@ -75,8 +89,19 @@ class Axes {
     mPainter.rotate(-90.0);
     mPainter.drawText(
         QRectF(-0.5 * mPlot.height(), -mMetrics.height(), mPlot.height(), mMetrics.height()),
-        Qt::AlignCenter, tr("Time (ms)"));
+        Qt::AlignCenter, timeTitle());
     mPainter.restore();
+  }
+
+  QString timeTitle() const {
+    const GatherManner& manner = mTraces.mapping().manner();
+    const QString time = manner.reduction > 0.0
+                             ? tr("Reduced time (ms), t - |x|/%1 %2")
+                                   .arg(screenNumber(shownLength(manner.reduction), 0),
+                                        QLatin1String(velocityUnitName()))
+                             : tr("Time (ms)");
+    if (!(manner.timeGain > 0.0)) return time;
+    return tr("%1, gain t^%2", "time axis, exponent").arg(time, exponentText(manner.timeGain));
   }
 
   double timeMark(double time, double length) {
@@ -104,19 +129,36 @@ class Axes {
   void paintPositions(double top, double added) {
     const int most =
         std::clamp(static_cast<int>(mPlot.width() / (5.0 * mMetrics.averageCharWidth())), 2, 60);
-    const AxisTicks ticks = axisTicks(mMapping.window.left + added, mMapping.window.right + added,
-                                      most, !mLayout.isByDistance());
+    const bool inUnit = mLayout.isByOffset();
+    const auto shown = [inUnit](double at) { return inUnit ? shownLength(at) : at; };
+    const auto inMetres = [inUnit](double at) { return inUnit ? metresOf(at) : at; };
+    const AxisTicks ticks =
+        axisTicks(shown(mMapping.window.left) + added, shown(mMapping.window.right) + added, most,
+                  mLayout.isByChannel());
     double rightEnd = -HUGE_VAL;
-    for (const double value : ticks.minor) positionMark(value - added, kMinor);
+    for (const double value : ticks.minor) positionMark(inMetres(value) - added, kMinor);
     for (const double value : ticks.major) {
-      const double x = positionMark(value - added, kMajor);
-      if (!mLayout.isByDistance() && (value < 1.0 || value > mLayout.count())) continue;
+      const double x = positionMark(inMetres(value) - added, kMajor);
+      if (mLayout.isByChannel() && (value < 1.0 || value > mLayout.count())) continue;
       label(x, top, screenNumber(value, ticks.decimals), rightEnd);
     }
   }
 
+  /// The channel of a trace, and those of the other side of the shot that stand at its place.
+  QString channelsAt(int trace) const {
+    QString text = QString::number(trace + 1);
+    if (mLayout.offsetOrder() != OffsetOrder::kAbsolute) return text;
+    const double same = 0.02 * mLayout.spacing();
+    for (int rank = mLayout.rank(trace) + 1; rank < mLayout.count(); ++rank) {
+      const int other = mLayout.order()[static_cast<std::size_t>(rank)];
+      if (mLayout.position(other) - mLayout.position(trace) > same) break;
+      text += QLatin1Char('/') + QString::number(other + 1);
+    }
+    return text;
+  }
+
   QString labelOf(int trace, bool channels) const {
-    if (channels) return QString::number(trace + 1);
+    if (channels) return channelsAt(trace);
     const double metres = mTraces.receiverX(trace);
     if (!std::isfinite(metres)) return {};
     return screenNumber(metres, std::fabs(metres - std::round(metres)) < 0.005 ? 0 : 1);

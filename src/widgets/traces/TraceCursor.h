@@ -9,6 +9,7 @@ namespace talvesk {
 struct TraceCursor {
   int trace = -1;                   ///< from 0; -1: the cursor is on no trace
   std::optional<double> time;       ///< seconds
+  std::optional<double> reduced;    ///< the same as drawn, where time is reduced
   std::optional<double> offset;     ///< geophone minus shot, metres
   std::optional<double> distance;   ///< geophone along the line, metres
   std::optional<double> amplitude;  ///< nearest sample, as stored

@@ -54,18 +54,62 @@ double interpolate(const Placed& points, double x) {
 std::optional<double> positionOf(double x, const ShotTraces& traces, const TraceLayout& layout) {
   if (!std::isfinite(x)) return std::nullopt;
   if (layout.isByDistance()) return x;
+  if (layout.isByOffset()) return traces.mapping().placeOf(x - traces.shotX());
   const Placed placed = placedByDistance(traces, layout);
   if (placed.empty()) return std::nullopt;
   return interpolate(placed, x);
 }
 
-/// The times of traces from left to right, in pieces between those that have none.
+/// Metres along the line at positions of a layout.
+class DistanceScale {
+ public:
+  DistanceScale(const ShotTraces& traces, const TraceLayout& layout) : mLayout(layout) {
+    if (layout.isByOffset()) mShot = traces.shotX();
+    if (!layout.isByChannel()) return;
+    mPlaced = placedByDistance(traces, layout);
+    for (auto& [x, where] : mPlaced) std::swap(x, where);
+    std::sort(mPlaced.begin(), mPlaced.end());
+  }
+
+  std::optional<double> at(double position) const {
+    if (!mLayout.isByChannel()) return mShot + position;
+    if (mPlaced.empty()) return std::nullopt;
+    return interpolate(mPlaced, position);
+  }
+
+ private:
+  const TraceLayout& mLayout;
+  double mShot = 0.0;  ///< where positions count from
+  Placed mPlaced;
+};
+
+/// What reduced time takes from times at positions.
+class ShiftScale {
+ public:
+  ShiftScale(const ShotTraces& traces, const TraceLayout& layout)
+      : mTraces(traces), mLayout(layout), mDistances(traces, layout) {}
+
+  double at(double position) const {
+    const std::optional<double> x = mDistances.at(position);
+    if (x) return mTraces.mapping().shiftAt(*x - mTraces.shotX());
+    const int trace = mLayout.nearest(position);
+    return trace < 0 ? 0.0 : mTraces.mapping().shift(static_cast<std::size_t>(trace));
+  }
+
+ private:
+  const ShotTraces& mTraces;
+  const TraceLayout& mLayout;
+  DistanceScale mDistances;
+};
+
+/// The times of traces from left to right, in pieces between those that have none. \param like
+/// a trace of their side of the shot
 template <typename TimeOf, typename IsTime>
-std::vector<std::vector<QPointF>> linesThrough(const TraceLayout& layout, TimeOf timeOf,
-                                               IsTime isTime) {
-  std::vector<std::vector<QPointF>> lines;
+void addLines(const TraceLayout& layout, int like, TimeOf timeOf, IsTime isTime,
+              std::vector<std::vector<QPointF>>& lines) {
   bool open = false;
   for (const int trace : layout.order()) {
+    if (!layout.sameSide(trace, like)) continue;
     const double time = timeOf(trace);
     if (!isTime(time) || !std::isfinite(time)) {
       open = false;
@@ -75,6 +119,19 @@ std::vector<std::vector<QPointF>> linesThrough(const TraceLayout& layout, TimeOf
     open = true;
     lines.back().emplace_back(layout.position(trace), time);
   }
+}
+
+/// The same of all traces; of either side by itself, where one is folded over the other.
+template <typename TimeOf, typename IsTime>
+std::vector<std::vector<QPointF>> linesThrough(const TraceLayout& layout, TimeOf timeOf,
+                                               IsTime isTime) {
+  std::vector<std::vector<QPointF>> lines;
+  if (layout.count() == 0) return lines;
+  const int first = layout.order().front();
+  addLines(layout, first, timeOf, isTime, lines);
+  const auto other = std::find_if(layout.order().begin(), layout.order().end(),
+                                  [&](int trace) { return !layout.sameSide(trace, first); });
+  if (other != layout.order().end()) addLines(layout, *other, timeOf, isTime, lines);
   return lines;
 }
 
@@ -93,12 +150,20 @@ std::optional<double> shotPlace(const ShotTraces& traces, const TraceLayout& lay
 
 std::optional<double> distanceAt(const ShotTraces& traces, const TraceLayout& layout,
                                  double position) {
-  if (layout.isByDistance()) return position;
-  Placed placed = placedByDistance(traces, layout);
-  if (placed.empty()) return std::nullopt;
-  for (auto& [x, where] : placed) std::swap(x, where);
-  std::sort(placed.begin(), placed.end());
-  return interpolate(placed, position);
+  return DistanceScale(traces, layout).at(position);
+}
+
+std::vector<QPointF> drawnPoints(const ShotTraces& traces, const TraceLayout& layout,
+                                 std::vector<QPointF> points) {
+  if (!traces.mapping().isReduced()) return points;
+  const ShiftScale shifts(traces, layout);
+  for (QPointF& point : points) point.ry() -= shifts.at(point.x());
+  return points;
+}
+
+QPointF truePoint(const ShotTraces& traces, const TraceLayout& layout, const QPointF& drawn) {
+  if (!traces.mapping().isReduced()) return drawn;
+  return {drawn.x(), drawn.y() + ShiftScale(traces, layout).at(drawn.x())};
 }
 
 std::vector<QPointF> airWaveLine(const ShotTraces& traces, const TraceLayout& layout,

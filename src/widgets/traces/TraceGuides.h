@@ -15,9 +15,17 @@ namespace talvesk {
 /// positions of shot or geophones are not known.
 std::optional<double> shotPlace(const ShotTraces& traces, const TraceLayout& layout);
 
-/// Metres along the line at a position between or beyond traces; none where not known.
+/// Metres along the line at a position between or beyond traces; none where not known. Folded about
+/// the shot, as if all traces stood beyond it.
 std::optional<double> distanceAt(const ShotTraces& traces, const TraceLayout& layout,
                                  double position);
+
+/// Points of true times as they are drawn: at reduced times where the traces are.
+std::vector<QPointF> drawnPoints(const ShotTraces& traces, const TraceLayout& layout,
+                                 std::vector<QPointF> points);
+
+/// The true time of a point between or beyond traces as it is drawn.
+QPointF truePoint(const ShotTraces& traces, const TraceLayout& layout, const QPointF& drawn);
 
 /// The arrivals of the air wave, from left to right, with the shot's own place among them.
 std::vector<QPointF> airWaveLine(const ShotTraces& traces, const TraceLayout& layout,

@@ -33,17 +33,39 @@ TraceLayout TraceLayout::byDistance(const std::vector<double>& x) {
   return TraceLayout(x, true);
 }
 
+TraceLayout TraceLayout::byOffset(const GatherMapping& mapping) {
+  TraceLayout layout(mapping.offsets(), false);
+  layout.mByOffset = mapping.manner().byOffset;
+  if (layout.mByOffset == OffsetOrder::kAbsolute) layout.foldAboutShot();
+  return layout;
+}
+
+/// Either side keeps the room that its traces have among themselves: of the other's they are no
+/// neighbours.
+void TraceLayout::foldAboutShot() {
+  mLeftOfShot.resize(mPositions.size());
+  for (std::size_t i = 0; i < mPositions.size(); ++i) {
+    mLeftOfShot[i] = mPositions[i] < 0.0;
+    if (!mLeftOfShot[i]) continue;
+    mPositions[i] = -mPositions[i];
+    std::swap(mLeftRoom[i], mRightRoom[i]);
+  }
+  rankByOrder();
+}
+
+void TraceLayout::rankByOrder() {
+  std::stable_sort(mOrder.begin(), mOrder.end(),
+                   [this](int a, int b) { return position(a) < position(b); });
+  mRank.resize(mOrder.size());
+  for (std::size_t i = 0; i < mOrder.size(); ++i) mRank[at(mOrder[i])] = static_cast<int>(i);
+}
+
 TraceLayout::TraceLayout(std::vector<double> positions, bool byDistance)
     : mPositions(std::move(positions)), mOrder(mPositions.size()), mByDistance(byDistance) {
   std::iota(mOrder.begin(), mOrder.end(), 0);
-  std::stable_sort(mOrder.begin(), mOrder.end(),
-                   [this](int a, int b) { return position(a) < position(b); });
+  rankByOrder();
   std::vector<double> ascending;
-  mRank.resize(mOrder.size());
-  for (const int trace : mOrder) {
-    mRank[at(trace)] = static_cast<int>(ascending.size());
-    ascending.push_back(position(trace));
-  }
+  for (const int trace : mOrder) ascending.push_back(position(trace));
   mSpacing = medianGap(ascending);
   mLeftRoom.assign(mOrder.size(), mSpacing);
   mRightRoom.assign(mOrder.size(), mSpacing);
@@ -71,6 +93,16 @@ int TraceLayout::nearest(double where) const {
   if (right == mOrder.end()) return mOrder.back();
   const int left = *(right - 1);
   return where - position(left) <= position(*right) - where ? left : *right;
+}
+
+int TraceLayout::nearestBeside(int trace, double where) const {
+  if (mLeftOfShot.empty()) return nearest(where);
+  int found = trace;
+  for (const int other : mOrder) {
+    const bool nearer = std::abs(where - position(other)) < std::abs(where - position(found));
+    if (nearer && sameSide(trace, other)) found = other;
+  }
+  return found;
 }
 
 int TraceLayout::traceAt(double where) const {

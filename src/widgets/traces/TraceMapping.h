@@ -8,7 +8,7 @@
 namespace talvesk {
 
 /// Straight from positions and seconds to a rectangle of the screen, time downward. Positions are
-/// channels from 0 or metres along the line.
+/// those of a TraceLayout, times are as drawn: ShotTraces::drawnTime().
 struct TraceMapping {
   QRectF plot;  ///< not empty
   ViewWindow window;

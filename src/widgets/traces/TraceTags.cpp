@@ -16,6 +16,14 @@ QString screenNumber(double value, int decimals) {
   return locale.toString(value, 'f', decimals);
 }
 
+QString exponentText(double exponent) {
+  const double hundredths = std::round(100.0 * exponent);
+  const int decimals = std::fmod(hundredths, 100.0) == 0.0  ? 0
+                       : std::fmod(hundredths, 10.0) == 0.0 ? 1
+                                                            : 2;
+  return screenNumber(exponent, decimals);
+}
+
 void paintTag(QPainter& painter, const TraceColors& colors, const QPointF& corner,
               const QString& text, const QRectF& bounds) {
   const QFontMetricsF metrics(painter.font());

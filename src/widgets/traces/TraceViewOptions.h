@@ -1,5 +1,7 @@
 #pragma once
 
+#include "view/GatherMapping.h"
+
 namespace talvesk {
 
 /// What a trace is scaled by before the gain.
@@ -28,6 +30,7 @@ struct TraceViewOptions {
   bool errorBars = true;   ///< how far picks may be off, where that is known
 
   bool byDistance = false;  ///< traces at their distance along the line, else by channel
+  GatherManner manner;      ///< by offset goes before by distance
   double gain = 1.0;        ///< kMinGain to kMaxGain; others are brought within
   TraceNormalise normalise = TraceNormalise::EachTrace;
 
@@ -52,9 +55,9 @@ inline bool operator==(const TraceViewOptions& a, const TraceViewOptions& b) {
   return a.fillWiggle == b.fillWiggle && a.zoomIn == b.zoomIn &&
          a.cutHorizontal == b.cutHorizontal && a.showFiltered == b.showFiltered &&
          a.showAllTraces == b.showAllTraces && a.twoColors == b.twoColors &&
-         a.errorBars == b.errorBars && a.byDistance == b.byDistance && a.gain == b.gain &&
-         a.normalise == b.normalise && a.snap == b.snap && a.snapRadius == b.snapRadius &&
-         a.pickError == b.pickError && a.magnifier == b.magnifier &&
+         a.errorBars == b.errorBars && a.byDistance == b.byDistance && a.manner == b.manner &&
+         a.gain == b.gain && a.normalise == b.normalise && a.snap == b.snap &&
+         a.snapRadius == b.snapRadius && a.pickError == b.pickError && a.magnifier == b.magnifier &&
          a.showAllPicks == b.showAllPicks && a.showComputedTimes == b.showComputedTimes &&
          a.showNeighbour == b.showNeighbour && a.showReciprocal == b.showReciprocal &&
          a.showOnlyTraces == b.showOnlyTraces && a.airWave == b.airWave &&

@@ -114,15 +114,27 @@ class Painter {
     return lane;
   }
 
+  /// Swings about the mean, of rows from a time on.
+  void amplify(double mean, double top, double timeOfRow) {
+    for (std::size_t r = 0; r < mRows.size(); ++r) {
+      if (!mRows[r].known()) continue;
+      const double gain =
+          mScene.traces.mapping().gain(top + (static_cast<double>(r) + 0.5) * timeOfRow);
+      mRows[r].low = mean + (mRows[r].low - mean) * gain;
+      mRows[r].high = mean + (mRows[r].high - mean) * gain;
+    }
+  }
+
   void paint(int trace) {
     Lane lane = laneOf(trace);
     if (lane.right < -1.0 || lane.left > mImage.width() + 1.0) return;
     const ShotTraces& traces = mScene.traces;
     const double interval = traces.interval(trace);
     const double perRow = mMapping.window.height() / mImage.height() / interval;
-    rowExtremes(traces.samples(trace), mMapping.window.top / interval, perRow, mImage.height(),
-                mRows);
+    const double top = traces.trueTime(trace, mMapping.window.top);
+    rowExtremes(traces.samples(trace), top / interval, perRow, mImage.height(), mRows);
     const double mean = traces.mean(trace);
+    if (traces.mapping().amplifies()) amplify(mean, top, perRow * interval);
     double peak = mScene.options.normalise == TraceNormalise::EachTrace
                       ? traces.peak(trace) / traces.gain(trace)
                       : traces.shotPeak();

@@ -24,6 +24,7 @@ TraceViewOptions sane(TraceViewOptions options) {
   options.snapRadius = within(options.snapRadius, 0.0, 10.0, TraceViewOptions().snapRadius);
   options.pickError = within(options.pickError, 0.0, kLargestPickError, 0.0);
   options.airVelocity = within(options.airVelocity, 1.0, 1e5, TraceViewOptions().airVelocity);
+  options.manner = confined(options.manner);
   return options;
 }
 
@@ -92,13 +93,19 @@ void editTravelTimesWidget::setOptions(const TraceViewOptions& options) {
   const TraceViewOptions before = s.options;
   s.options = sane(options);
   if (s.options == before) return;
-  if (s.options.showOnlyTraces) s.cancelDrag();
+  const GatherManner& manner = s.options.manner;
+  const bool otherOrder =
+      s.options.byDistance != before.byDistance || manner.byOffset != before.manner.byOffset;
+  const bool otherTimes = (manner.reduction > 0.0) != (before.manner.reduction > 0.0);
+  if (s.options.showOnlyTraces || manner != before.manner) s.cancelDrag();
   const bool reopen = s.options.zoomIn != before.zoomIn ||
-                      s.options.showAllTraces != before.showAllTraces ||
-                      s.options.byDistance != before.byDistance;
-  if (s.options.byDistance != before.byDistance) s.gestures.viewport().clearHistory();
+                      s.options.showAllTraces != before.showAllTraces || otherOrder || otherTimes;
+  if (otherOrder) s.ruler.reset();  // it stands at positions
+  if (otherOrder || otherTimes) s.gestures.viewport().clearHistory();
   if (reopen) s.gestures.viewport().followHome();
-  if (reopen || s.options.showFiltered != before.showFiltered) s.rebuildShot(false);
+  if (reopen || s.options.showFiltered != before.showFiltered || manner != before.manner) {
+    s.rebuildShot(false);
+  }
   s.redrawAll();
 }
 
@@ -163,7 +170,7 @@ bool editTravelTimesWidget::canZoomForward() const {
 QPointF editTravelTimesWidget::pointOf(int trace, double time) const {
   const State& s = *mState;
   if (trace < 0 || trace >= s.layout.count()) return {};
-  return s.mapping().point(s.layout.position(trace), time);
+  return s.mapping().point(s.layout.position(trace), s.traces.drawnTime(trace, time));
 }
 
 int editTravelTimesWidget::traceAt(const QPointF& point) const {
@@ -171,7 +178,7 @@ int editTravelTimesWidget::traceAt(const QPointF& point) const {
 }
 
 double editTravelTimesWidget::timeAt(const QPointF& point) const {
-  return mState->mapping().timeAt(point.y());
+  return mState->trueTimeAt(point);
 }
 
 std::optional<double> editTravelTimesWidget::rulerVelocity() const {

@@ -46,11 +46,12 @@ inline constexpr std::array<double, 5> kKeyErrors = {0.0, 0.5, 1.0, 2.5, 5.0};
 /// Right walk along the traces (Shift selects), Home and End go to the first and the last; Up and
 /// Down move the pick by a sample (Shift 10 samples, Ctrl 1 ms); Return sets a pick like that of
 /// the neighbour; Delete removes, C confirms; 1 to 4 give the errors of kKeyErrors and 0
-/// takes them away; K kills the selected traces, P turns their polarity, U mutes them before the
-/// cursor and Shift+U no more, { and } change their own gain, all as mends of the recording; [ and
-/// ] change the gain of the view, as the wheel does with Alt; M magnifier, R ruler, G guide line,
-/// Escape gives up. H shows the opening view. A double click with the tool Pick picks twice, and
-/// shows not everything.
+/// takes them away; V draws reduced time by the velocity of the ruler or the one asked for last
+/// (Shift asks), T with a gain in time (Shift asks), X by offset (Shift by absolute offset); K
+/// kills the selected traces, P turns their polarity, U mutes them before the cursor and Shift+U no
+/// more, { and } change their own gain, all as mends of the recording; [ and ] change the gain of
+/// the view, as the wheel does with Alt; M magnifier, R ruler, G guide line, Escape gives up. H
+/// shows the opening view. A double click with the tool Pick picks twice, and shows not everything.
 class editTravelTimesWidget : public QWidget {
   Q_OBJECT
 
@@ -96,20 +97,24 @@ class editTravelTimesWidget : public QWidget {
   /// Those from one to the other as they stand side by side. -1, -1 clears
   void selectTraces(int first, int last);
 
-  /// The part of the shot that is seen: channels from 0 or metres, and seconds.
+  /// The part of the shot that is seen: channels from 0 or metres, and seconds as drawn, from which
+  /// reduced time takes its part.
   const ViewWindow& window() const;
   void setWindow(const ViewWindow& window);  ///< enters the history
   bool canZoomBack() const;
   bool canZoomForward() const;
 
-  /// Where a trace and time are on the widget, and back; none beside the traces.
+  /// Where a trace and its true time are on the widget, and back; none beside the traces.
   QPointF pointOf(int trace, double time) const;
-  int traceAt(const QPointF& point) const;  ///< -1: none
-  double timeAt(const QPointF& point) const;
+  int traceAt(const QPointF& point) const;    ///< -1: none
+  double timeAt(const QPointF& point) const;  ///< on the nearest trace
 
   /// Apparent velocity along the ruler, m/s; none without one, along one trace, or where positions
   /// are not known.
   std::optional<double> rulerVelocity() const;
+  /// The velocity to begin with where somebody asks for one to reduce times by: that of the ruler,
+  /// else the one there is or was, m/s.
+  double proposedReduction() const;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -117,6 +122,15 @@ class editTravelTimesWidget : public QWidget {
  public slots:
   void setMagnifier(bool show);
   void setGain(double gain);
+
+  // The manner of drawing of the options; 0 switches off. What was switched on last comes again
+  // with the keys V and T.
+  void setReduction(double velocity);  ///< of reduced time, m/s
+  void setReduced(bool on);            ///< by the ruler, else as last, else asks for a velocity
+  void setTimeGain(double exponent);
+  void setAmplified(bool on);  ///< by the gain with time of last, at first by t
+  void setByOffset(bool on);   ///< before and beyond the shot
+  void setByAbsoluteOffset(bool on);
 
   void zoomIn();
   void zoomOut();
@@ -148,6 +162,8 @@ class editTravelTimesWidget : public QWidget {
   void mended(const std::vector<talvesk::Message>& notes);
   /// U was pressed where the cursor tells no time to mute before.
   void muteTimeWanted();
+  void reductionWanted();  ///< reduced time is asked for, and no velocity is known
+  void timeGainWanted();   ///< another exponent of the gain with time is
   /// A menu of what can be done with the selected traces. \param at on the screen
   void menuWanted(const QPoint& at);
   void pick_added();            ///< a trace without a pick got one; pick_edited() follows

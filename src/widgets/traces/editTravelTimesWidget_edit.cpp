@@ -34,7 +34,9 @@ double editTravelTimesWidget::State::adjusted(int trace, double time, bool snapp
 }
 
 PickStroke::Adjust editTravelTimesWidget::State::adjuster(bool snapping) const {
-  return [this, snapping](int trace, double time) { return adjusted(trace, time, snapping); };
+  return [this, snapping](int trace, double drawn) {
+    return adjusted(trace, traces.trueTime(trace, drawn), snapping);
+  };
 }
 
 bool editTravelTimesWidget::State::waits(int trace) const {
@@ -133,21 +135,29 @@ void editTravelTimesWidget::State::nudge(double seconds, bool keyHeld) {
   reveal(current);
 }
 
+/// Of the trace so many steps from the current one, when on its side of the shot.
+std::optional<double> editTravelTimesWidget::State::drawnPickBeside(int steps) const {
+  const int trace = layout.stepped(current, steps);
+  const double pick = traces.measured(trace);
+  if (!hasPick(pick) || !layout.sameSide(trace, current)) return std::nullopt;
+  return traces.drawnTime(trace, pick);
+}
+
 void editTravelTimesWidget::State::pickLikeNeighbour() {
   if (!canEdit() || current < 0 || !traces.canPick(current)) return;
   if (hasPick(traces.measured(current))) {
     confirmRange();
     return;
   }
-  double time = 0.5 * (window().top + window().bottom);
+  double drawn = 0.5 * (window().top + window().bottom);
   for (int away = 1; away < layout.count(); ++away) {
-    const double left = traces.measured(layout.stepped(current, -away));
-    const double right = traces.measured(layout.stepped(current, away));
-    if (!hasPick(left) && !hasPick(right)) continue;
-    time = hasPick(left) && hasPick(right) ? 0.5 * (left + right) : hasPick(left) ? left : right;
+    const std::optional<double> left = drawnPickBeside(-away);
+    const std::optional<double> right = drawnPickBeside(away);
+    if (!left && !right) continue;
+    drawn = left && right ? 0.5 * (*left + *right) : left ? *left : *right;
     break;
   }
-  edit(Message::tr("Set pick"), {{current, adjusted(current, time, true)}});
+  edit(Message::tr("Set pick"), {{current, adjuster(true)(current, drawn)}});
 }
 
 void editTravelTimesWidget::State::setCurrent(int trace) {

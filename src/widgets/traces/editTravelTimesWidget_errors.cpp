@@ -85,7 +85,8 @@ class editTravelTimesWidget::State::ErrorTool : public PlotTool {
   void follow(const ToolEvent& event) {
     State& s = mState;
     mAt = event.at;
-    const double away = std::fabs(s.placeAt(event.at).y() - s.traces.measured(s.pulled.trace));
+    const double pick = s.traces.drawnTime(s.pulled.trace, s.traces.measured(s.pulled.trace));
+    const double away = std::fabs(s.placeAt(event.at).y() - pick);
     s.pulled.sigma =
         std::clamp(kPullStep * std::round(away / kPullStep), kPullStep, kLargestPickError);
     s.redrawMarks();

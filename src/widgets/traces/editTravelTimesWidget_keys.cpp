@@ -117,7 +117,7 @@ bool editTravelTimesWidget::State::keyPressed(const QKeyEvent& event) {
       !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
   const bool nudging = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
   if ((plain || nudging) && pickKey(event)) return true;
-  if (plain && mendKey(event)) return true;
+  if (plain && (mendKey(event) || mannerKey(event))) return true;
   return plain && (walkKey(event) || lookKey(event));
 }
 

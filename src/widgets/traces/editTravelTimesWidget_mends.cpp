@@ -25,6 +25,13 @@ void editTravelTimesWidget::State::mend(Message text,
   }
 }
 
+void editTravelTimesWidget::State::muteBeforeDrawn(double time) {
+  const std::vector<int> muted = range();
+  mend(Message::tr("Mute traces"), [this, time, next = muted.begin()](TraceMend& mend) mutable {
+    mend.mutedBefore = std::max(traces.trueTime(*next++, time), 0.0);
+  });
+}
+
 bool editTravelTimesWidget::State::mendKey(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_K:
@@ -37,7 +44,7 @@ bool editTravelTimesWidget::State::mendKey(const QKeyEvent& event) {
       if (event.modifiers() & Qt::ShiftModifier) {
         widget.muteTraces(0.0);
       } else if (hover) {
-        widget.muteTraces(std::max(mapping().timeAt(hover->y()), 0.0));
+        muteBeforeDrawn(mapping().timeAt(hover->y()));
       } else {
         emit widget.muteTimeWanted();
       }

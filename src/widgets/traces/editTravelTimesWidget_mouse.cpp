@@ -17,6 +17,12 @@ QPointF editTravelTimesWidget::State::placeAt(const QPointF& point) const {
   return {map.positionAt(point.x()), map.timeAt(point.y())};
 }
 
+double editTravelTimesWidget::State::trueTimeAt(const QPointF& point) const {
+  const QPointF place = placeAt(point);
+  const int trace = layout.nearest(place.x());
+  return trace < 0 ? place.y() : traces.trueTime(trace, place.y());
+}
+
 int editTravelTimesWidget::State::traceAt(const QPointF& point) const {
   return layout.traceAt(mapping().positionAt(point.x()));
 }
@@ -62,6 +68,7 @@ TraceCursor editTravelTimesWidget::State::cursorFor(int trace, std::optional<dou
   if (std::isfinite(traces.offset(trace))) cursor.offset = traces.offset(trace);
   if (std::isfinite(traces.receiverX(trace))) cursor.distance = traces.receiverX(trace);
   if (time) {
+    if (traces.mapping().isReduced()) cursor.reduced = traces.drawnTime(trace, *time);
     const Span<double> samples = traces.samples(trace);
     const double nearest = std::round(*time / traces.interval(trace));
     if (nearest >= 0.0 && nearest < static_cast<double>(samples.size())) {
@@ -88,7 +95,7 @@ void editTravelTimesWidget::State::hovered(const std::optional<QPointF>& point) 
   if (over || was) {
     tellsCurrent = false;
     emit widget.cursorMoved(
-        cursorFor(trace, over ? std::optional(mapping().timeAt(point->y())) : std::nullopt));
+        cursorFor(trace, over ? std::optional(trueTimeAt(*point)) : std::nullopt));
     widget.update();
   }
 }
@@ -96,7 +103,7 @@ void editTravelTimesWidget::State::hovered(const std::optional<QPointF>& point) 
 /// What was told of a trace is no longer so once its pick, the shot or its samples have changed.
 void editTravelTimesWidget::State::tellAgain() {
   if (tellsCurrent) return tellCurrent();
-  if (hover) emit widget.cursorMoved(cursorFor(traceAt(*hover), mapping().timeAt(hover->y())));
+  if (hover) emit widget.cursorMoved(cursorFor(traceAt(*hover), trueTimeAt(*hover)));
 }
 
 void editTravelTimesWidget::State::tellCurrent() {

@@ -80,10 +80,13 @@ void editTravelTimesWidget::State::paintStill(QPainter& painter) {
     paintTag(painter, colors, plot.bottomRight(), FigureWords::joined(words),
              plot.adjusted(8.0, 8.0, -8.0, -8.0));
   }
+  QPointF corner = plot.topLeft() + QPointF(8.0, 8.0);
   if (!traces.hasSamples()) {
-    paintTag(painter, colors, plot.topLeft() + QPointF(8.0, 8.0),
-             editTravelTimesWidget::tr("No samples, only picks"), plot);
+    paintTag(painter, colors, corner, editTravelTimesWidget::tr("No samples, only picks"), plot);
+    corner.ry() += 28.0;
   }
+  const QString warning = mannerWarning();
+  if (!warning.isEmpty()) paintTag(painter, colors, corner, warning, plot);
 }
 
 void editTravelTimesWidget::State::paintLive(QPainter& painter) {

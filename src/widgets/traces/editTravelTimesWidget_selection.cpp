@@ -141,7 +141,8 @@ void editTravelTimesWidget::contextMenuEvent(QContextMenuEvent* event) {
     return;
   }
   if (byKey) {
-    emit menuWanted(mapToGlobal(pointOf(s.current, s.window().top).toPoint()));
+    const double time = s.traces.trueTime(s.current, s.window().top);
+    emit menuWanted(mapToGlobal(pointOf(s.current, time).toPoint()));
     return;
   }
   const int trace = s.layout.nearest(s.placeAt(at).x());

@@ -30,7 +30,7 @@ struct TraceMend;
 
 /// What the trace view remembers between events. Its functions stand in the file of their purpose:
 /// _view.cpp, _edit.cpp, _selection.cpp, _mends.cpp, _errors.cpp, _mouse.cpp, _keys.cpp,
-/// _paint.cpp, and the tools of the mouse in _tools.cpp.
+/// _manner.cpp, _paint.cpp, and the tools of the mouse in _tools.cpp.
 struct editTravelTimesWidget::State : PlotSurface {
   using Step = Viewport::Step;
   class PickTool;
@@ -71,6 +71,7 @@ struct editTravelTimesWidget::State : PlotSurface {
   void confirmRange();
   void nudge(double seconds, bool keyHeld);
   void pickLikeNeighbour();
+  std::optional<double> drawnPickBeside(int steps) const;
   void setCurrent(int trace);
   void goTo(int trace);              ///< without a selection, in sight, and told
   void select(int first, int last);  ///< all that stand between the two
@@ -82,6 +83,7 @@ struct editTravelTimesWidget::State : PlotSurface {
 
   // --- Mends of traces.
   void mend(Message text, const std::function<void(TraceMend&)>& change);
+  void muteBeforeDrawn(double time);  ///< before what is drawn at one height, seconds
   bool mendKey(const QKeyEvent& event);
 
   // --- Errors of picks.
@@ -93,7 +95,8 @@ struct editTravelTimesWidget::State : PlotSurface {
   // --- Mouse.
   bool hasNothing() const override { return layout.count() == 0; }
   QRectF area() const override { return plot; }
-  QPointF placeAt(const QPointF& point) const override;
+  QPointF placeAt(const QPointF& point) const override;  ///< time as drawn
+  double trueTimeAt(const QPointF& point) const;         ///< on the nearest trace
   void viewMoved() override;
   void repaintLive() override { widget.update(); }
   PlotTool* toolFor(Qt::MouseButton button, Qt::KeyboardModifiers keys,
@@ -109,6 +112,12 @@ struct editTravelTimesWidget::State : PlotSurface {
   void tellAgain();    ///< cursorMoved() once more, of what it told last
   void tellCurrent();  ///< cursorMoved() of the current trace
   void changeGain(double factor);
+
+  // --- Manner of drawing.
+  void changeManner(const std::function<void(GatherManner&)>& change);  ///< and tells of it
+  std::optional<double> rulerReduction() const;  ///< none where it reads no velocity to reduce by
+  bool mannerKey(const QKeyEvent& event);
+  QString mannerWarning() const;  ///< why it is not drawn as asked, empty as a rule
 
   // --- Keys; true: the key was one of these.
   void walk(int steps, bool selecting);
@@ -133,6 +142,8 @@ struct editTravelTimesWidget::State : PlotSurface {
   int shot = -1;
   TraceViewOptions options;
   TraceTool tool = TraceTool::Pick;
+  double lastReduction = 0.0;  ///< m/s, to be switched on again; 0: none yet
+  double lastTimeGain = 0.0;   ///< the same of the gain with time
 
   ShotTraces traces;
   TraceLayout layout;
@@ -154,7 +165,7 @@ struct editTravelTimesWidget::State : PlotSurface {
   DraftError pulled;  ///< of the drag that pulls an error bar
   std::unique_ptr<PlotTool> guideTool;
   PickStroke stroke;                                 ///< of the drag that picks or removes
-  std::optional<std::pair<QPointF, QPointF>> ruler;  ///< positions, seconds
+  std::optional<std::pair<QPointF, QPointF>> ruler;  ///< positions, true seconds
   std::optional<QPointF> hover;                      ///< cursor, when over the plot
   int hoverTrace = -1;
   bool tellsCurrent = false;  ///< cursorMoved() spoke of the current trace last, not of the mouse

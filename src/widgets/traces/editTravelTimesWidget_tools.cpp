@@ -1,5 +1,6 @@
 #include "model/TravelTime.h"
 #include "widgets/PlotGestures_tools.h"
+#include "widgets/traces/TraceGuides.h"
 #include "widgets/traces/editTravelTimesWidget_state.h"
 
 #include <QPainter>
@@ -91,7 +92,9 @@ class editTravelTimesWidget::State::PickTool : public PlotTool {
   }
   bool nearPick() const {
     const double pick = mState.traces.measured(mTrace);
-    return hasPick(pick) && std::fabs(mState.mapping().y(pick) - mFrom.y()) <= kGrab;
+    if (!hasPick(pick)) return false;
+    const double drawn = mState.traces.drawnTime(mTrace, pick);
+    return std::fabs(mState.mapping().y(drawn) - mFrom.y()) <= kGrab;
   }
 
   State& mState;
@@ -107,13 +110,13 @@ class editTravelTimesWidget::State::RulerTool : public PlotTool {
   explicit RulerTool(State& state) : mState(state) {}
 
   bool press(const ToolEvent& event) override {
-    const QPointF place = mState.placeAt(event.at);
+    const QPointF place = placeOf(event.at);
     mState.ruler = {place, place};
     mFrom = event.at;
     return true;
   }
   void move(const ToolEvent& event) override {
-    mState.ruler->second = mState.placeAt(clamped(event.at, mState.plot));
+    mState.ruler->second = placeOf(clamped(event.at, mState.plot));
   }
   void release(const ToolEvent& event) override {
     if (event.at == mFrom) mState.ruler.reset();
@@ -121,6 +124,10 @@ class editTravelTimesWidget::State::RulerTool : public PlotTool {
   void giveUp() override { mState.ruler.reset(); }
 
  private:
+  QPointF placeOf(const QPointF& point) const {
+    return truePoint(mState.traces, mState.layout, mState.placeAt(point));
+  }
+
   State& mState;
   QPointF mFrom;
 };
@@ -157,7 +164,8 @@ class editTravelTimesWidget::State::GuideTool : public PlotTool {
     for (const int trace : mState.layout.order()) {
       const auto at = mLine.times().find(trace);
       if (at == mLine.times().end()) continue;
-      line.append(mState.mapping().point(mState.layout.position(trace), at->second));
+      const double drawn = mState.traces.drawnTime(trace, at->second);
+      line.append(mState.mapping().point(mState.layout.position(trace), drawn));
     }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -24,10 +24,11 @@ std::vector<double> distances(const ShotTraces& traces) {
   return x;
 }
 
-/// Time until which first breaks are to be expected, seconds. A shot that is picked in part must
-/// not hide where the others are: these are expected at the velocity to the farthest pick.
-double firstBreakEnd(const ShotTraces& traces) {
-  constexpr double kRoom = 1.25;
+constexpr double kRoom = 1.25;  ///< about first breaks, as a part of their time
+
+/// The velocity of first breaks that are not picked: that to the farthest pick, m/s. A shot that is
+/// picked in part must not hide where the others are.
+double expectedVelocity(const ShotTraces& traces) {
   double farthest = 0.0;
   double velocity = kSlowest;
   for (int i = 0; i < traces.count(); ++i) {
@@ -36,13 +37,36 @@ double firstBreakEnd(const ShotTraces& traces) {
     farthest = away;
     velocity = std::max(away / (kRoom * traces.measured(i)), kSlowest);
   }
-  double end = 0.0;
+  return velocity;
+}
+
+/// Time as drawn until which first breaks are to be expected, seconds.
+double firstBreakEnd(const ShotTraces& traces) {
+  const double velocity = expectedVelocity(traces);
+  const double begin = traces.drawnBegin();
+  double end = begin;
   for (int i = 0; i < traces.count(); ++i) {
     const double pick = traces.measured(i);
     const double arrival = hasPick(pick) ? kRoom * pick : std::fabs(traces.offset(i)) / velocity;
-    if (std::isfinite(arrival)) end = std::max(end, std::min(arrival, traces.timeEnd()));
+    if (!std::isfinite(arrival)) continue;
+    end = std::max(end, traces.drawnTime(i, std::min(arrival, traces.timeEnd())));
   }
-  return end > 0.0 ? end : 0.25 * traces.timeEnd();
+  return end > begin ? end : begin + 0.25 * (traces.drawnEnd() - begin);
+}
+
+/// Time as drawn from which they are.
+double firstBreakBegin(const ShotTraces& traces) {
+  const double begin = traces.drawnBegin();
+  if (!traces.mapping().isReduced()) return begin;
+  double earliest = 0.0;
+  bool any = false;
+  for (int i = 0; i < traces.count(); ++i) {
+    const double pick = traces.measured(i);
+    if (!hasPick(pick)) continue;
+    earliest = std::min(earliest, traces.drawnTime(i, pick / kRoom));
+    any = true;
+  }
+  return any ? std::max(earliest, begin) : begin;
 }
 
 void setBar(QScrollBar& bar, double from, double to, double low, double high) {
@@ -59,9 +83,10 @@ void setBar(QScrollBar& bar, double from, double to, double low, double high) {
 
 void editTravelTimesWidget::State::rebuildShot(bool newShot) {
   const int countBefore = layout.count();
-  traces = ShotTraces(document, shot, options.showFiltered);
-  layout = options.byDistance ? TraceLayout::byDistance(distances(traces))
-                              : TraceLayout::byChannel(traces.count());
+  traces = ShotTraces(document, shot, options.showFiltered, options.manner);
+  layout = traces.mapping().isByOffset() ? TraceLayout::byOffset(traces.mapping())
+           : options.byDistance          ? TraceLayout::byDistance(distances(traces))
+                                         : TraceLayout::byChannel(traces.count());
   hoverTrace = -1;
   if (newShot) ruler.reset();
   if (current >= layout.count()) current = -1;
@@ -72,7 +97,7 @@ void editTravelTimesWidget::State::rebuildShot(bool newShot) {
   const ViewWindow whole = wholeWindow();
   const bool overlaps = before.left < whole.right && before.right > whole.left;
   const bool lost = !viewport.followsHome() &&
-                    (!overlaps || (!layout.isByDistance() && countBefore != layout.count()));
+                    (!overlaps || (layout.isByChannel() && countBefore != layout.count()));
   viewport.setExtent(extent());
   // The times that were looked at stay, whatever becomes of the traces.
   if (lost) viewport.show({whole.left, whole.right, before.top, before.bottom}, Step::Silent);
@@ -109,12 +134,15 @@ void editTravelTimesWidget::State::viewMoved() {
 
 ViewWindow editTravelTimesWidget::State::wholeWindow() const {
   const double margin = layout.spacing();
-  return {layout.first() - margin, layout.last() + margin, 0.0, traces.timeEnd()};
+  return {layout.first() - margin, layout.last() + margin, traces.drawnBegin(), traces.drawnEnd()};
 }
 
 ViewWindow editTravelTimesWidget::State::openingWindow() const {
   ViewWindow opening = wholeWindow();
-  if (options.zoomIn) opening.bottom = firstBreakEnd(traces);
+  if (options.zoomIn) {
+    opening.top = firstBreakBegin(traces);
+    opening.bottom = firstBreakEnd(traces);
+  }
   if (!options.showAllTraces) {
     const double legible = plot.width() / kLegible * layout.spacing();
     opening.right = std::min(opening.right, opening.left + legible);
@@ -141,8 +169,9 @@ void editTravelTimesWidget::State::reveal(int trace) {
   if (x - margin < window.left) wanted = moved(wanted, x - margin - window.left, 0.0);
   if (x + margin > window.right) wanted = moved(wanted, x + margin - window.right, 0.0);
   const double pick = traces.measured(trace);
-  if (hasPick(pick) && pick < traces.timeEnd() && (pick < window.top || pick > window.bottom)) {
-    wanted = moved(wanted, 0.0, pick - 0.5 * (window.top + window.bottom));
+  const double drawn = traces.drawnTime(trace, pick);
+  if (hasPick(pick) && pick < traces.timeEnd() && (drawn < window.top || drawn > window.bottom)) {
+    wanted = moved(wanted, 0.0, drawn - 0.5 * (window.top + window.bottom));
   }
   gestures.show(wanted, Step::Continuing);
 }
