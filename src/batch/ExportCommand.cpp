@@ -18,7 +18,7 @@
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
-#include "figures/PrintSheet.h"
+#include "figures/print/PrintSheet.h"
 #include "figures/ProfileLines.h"
 #include "io/PickedCopies.h"
 #include "io/StyleFile.h"

@@ -1,7 +1,7 @@
 #include "batch/DrawingExports.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
-#include "figures/PrintSheet.h"
+#include "figures/print/PrintSheet.h"
 
 #include <functional>
 

@@ -1,4 +1,4 @@
-#include "figures/PrintSheet.h"
+#include "figures/print/PrintSheet.h"
 #include "model/SurveyLine.h"
 #include "support/SectionDocument.h"
 #include "support/ShotDocument.h"
