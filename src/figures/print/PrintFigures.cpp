@@ -142,7 +142,7 @@ PrintFigure printedGather(const TomoDocument& document, std::size_t shot,
 
 PrintFigure printedMisfit(const TomoDocument& document, const InversionRecord& record) {
   PrintFigure figure;
-  figure.title = titleAnd(document, FigureWords::tr("misfit in each iteration"));
+  figure.title = titleAnd(document, FigureWords::tr("Misfit in each iteration"));
   figure.layOut = [&record](const PrintSize& size, LaidFigure& laid) {
     laid.drawing.sheet = {size.widthMm, heightOf(size), 150.0, {}};
     return prepareMisfitHistoryFigure(record, size.widthMm, heightOf(size), laid.drawing);
@@ -157,12 +157,12 @@ PrintFigure printedResiduals(const TomoDocument& document, const ResidualTable& 
     const Status shown =
         showResidualsAlongRays(document, table, ResidualUnit::kMilliseconds, section);
     PrintFigure figure = printedSection(document, section);
-    figure.title = titleAnd(document, FigureWords::tr("residuals along the rays"));
+    figure.title = titleAnd(document, FigureWords::tr("Residuals along the rays"));
     if (!shown.ok()) figure.layOut = [shown](const PrintSize&, LaidFigure&) { return shown; };
     return figure;
   }
   PrintFigure figure;
-  figure.title = titleAnd(document, FigureWords::tr("residuals"));
+  figure.title = titleAnd(document, FigureWords::tr("Residuals"));
   figure.layOut = [&document, &table, view](const PrintSize& size, LaidFigure& laid) {
     SectionFigureOptions sheet;
     sheet.widthMm = size.widthMm;
@@ -175,7 +175,7 @@ PrintFigure printedResiduals(const TomoDocument& document, const ResidualTable& 
 PrintFigure printedDepthProfile(const TomoDocument& document, const DepthProfiles& section,
                                 double x) {
   PrintFigure figure;
-  figure.title = titleAnd(document, FigureWords::tr("depth profile"));
+  figure.title = titleAnd(document, FigureWords::tr("Depth profile"));
   figure.layOut = [&section, profile = section.at(x)](const PrintSize& size, LaidFigure& laid) {
     const double high = std::min(size.heightMm, size.widthMm);
     return prepareDepthProfileFigure(profile, section, size.widthMm, high, laid.drawing);

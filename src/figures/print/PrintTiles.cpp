@@ -86,6 +86,7 @@ void PrintTiles::paint(std::size_t page, QPainter& painter, const QRectF& rect,
 
   if (columns * rows > 1) {
     painter.scale(perMm / kUnitsPerMm, perMm / kUnitsPerMm);
+    clearMargins(painter);
     paintPlace(painter, row, column);
   }
   painter.restore();
@@ -117,6 +118,20 @@ void PrintTiles::paintCrosses(QPainter& painter) const {
       cross(left + 2.0 * kCrossInsetMm, y);
       cross(left + room().width() - 2.0 * kCrossInsetMm, y);
     }
+  }
+}
+
+/// Figures clip as they need it, and paint beyond what they were given.
+void PrintTiles::clearMargins(QPainter& painter) const {
+  const double beyond = 1.0;  // whole pixels reach over the edge
+  const double width = mSheet.widthMm;
+  const double height = mSheet.heightMm;
+  for (const QRectF& margin :
+       {inUnits(-beyond, -beyond, kMargin + beyond, height + 2.0 * beyond),
+        inUnits(width - kMargin, -beyond, kMargin + beyond, height + 2.0 * beyond),
+        inUnits(-beyond, -beyond, width + 2.0 * beyond, kMargin + beyond),
+        inUnits(-beyond, height - kMargin, width + 2.0 * beyond, kMargin + beyond)}) {
+    painter.fillRect(margin, Qt::white);
   }
 }
 

@@ -34,6 +34,7 @@ class PrintTiles {
   QSizeF step() const;  ///< from a sheet to the next
   QSizeF whole() const;
   void paintCrosses(QPainter& painter) const;
+  void clearMargins(QPainter& painter) const;
   void paintPlace(QPainter& painter, std::size_t row, std::size_t column) const;
 
   PrintSheet mSheet;
