@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -116,6 +117,37 @@ TEST(PrintPages, geophonesAreAsFarApartOnPaperAsTheScaleHasIt) {
                 1.5 * kMmPerInch / c.dpi)
         << c.scale << " " << c.paper;
   }
+}
+
+/// What a page of a PDF is painted with.
+std::string contentOf(const std::string& pdf) {
+  const std::size_t begin = pdf.find("stream\n") + 7;
+  const std::size_t end = pdf.find("endstream", begin);
+  QByteArray packed("\0\0\x10\0", 4);  // qUncompress() wants a guess at the size
+  packed.append(pdf.data() + begin, static_cast<int>(end - begin));
+  return qUncompress(packed).toStdString();
+}
+
+TEST(PrintPages, inThePdfTenMetresAreTwentyMillimetresAtOneTo500) {
+  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  const TestFolder folder;
+  const PrintPages pages = prepared(printedSection(document, {}), on("A3", true, 500.0));
+  ASSERT_TRUE(writePrint({pages}, folder.file("a.pdf")).ok());
+  const std::string content = contentOf(TestFolder::get(folder.file("a.pdf")));
+  // 1200 units to an inch, and within the figure 96.
+  ASSERT_THAT(content, AllOf(HasSubstr("0.060000000 0 0 -0.060000000 0 842 cm"),
+                             HasSubstr("12.5000000 0 0 12.5000000 ")));
+  // Geophones are triangles of their own colour, which begin at the tip.
+  const std::size_t from = content.find("0.125490196 0.125490196 0.125490196 scn");
+  ASSERT_NE(from, std::string::npos);
+  std::istringstream marks(content.substr(from, content.find("scn", from + 40) - from));
+  std::vector<double> tips;
+  for (std::string line; std::getline(marks, line);) {
+    if (line.size() > 2 && line.substr(line.size() - 2) == " m") tips.push_back(std::stod(line));
+  }
+  ASSERT_EQ(tips.size(), document.line->goephonesStringSet[0].size());
+  const double mm = (tips.back() - tips.front()) / 96.0 * kMmPerInch;
+  EXPECT_NEAR(mm, 2.0 * lengthOf(document), 1e-3);
 }
 
 /// How far colours reach across and down.
@@ -226,8 +258,11 @@ TEST(PrintPages, sheetsPutTogetherAreOneFigureTrueToScale) {
                QImage::Format_RGB32);
   const std::size_t row = 0;
   for (std::size_t column = 0; column < pages.columns; ++column) {
-    const QImage sheet =
-        imageOf(pages, kDpi, row * pages.columns + column).copy(QRect({margin, margin}, room));
+    const QImage all = imageOf(pages, kDpi, row * pages.columns + column);
+    for (int x = 0; x < margin; ++x) {
+      ASSERT_EQ(all.pixel(x, 300), qRgb(255, 255, 255)) << "the margin is blank at " << x;
+    }
+    const QImage sheet = all.copy(QRect({margin, margin}, room));
     const int left = static_cast<int>(column) * step.width();
     if (column > 0) {
       // Above the block, what two sheets have in common is the same, marks and all.

@@ -299,6 +299,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionExportSeismic_line",
         "actionExport_DXF",
         "actionExport_GeoPackage",
+        "actionPrint",
         "actionImages",
         "actionPDF",
         "actionODT",
