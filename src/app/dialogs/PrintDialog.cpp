@@ -8,7 +8,9 @@
 #include "ui_PrintDialog.h"
 
 #include <QAbstractItemView>
+#include <QLineEdit>
 #include <QLocale>
+#include <QPushButton>
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
@@ -54,6 +56,8 @@ PrintDialog::PrintDialog(std::vector<PrintChoice> choices, std::size_t first, QW
   mUi->placeEdit->setSuffix(QLatin1Char(' ') + QLatin1String(lengthUnitName()));
   for (const Paper& paper : papers()) mUi->paperCombo->addItem(QString::fromStdString(paper.name));
   mUi->paperCombo->setCurrentText(QLatin1String(kFirstPaper));
+  // Return ends a scale that is typed, not the dialog.
+  mUi->buttonBox->button(QDialogButtonBox::Close)->setAutoDefault(false);
   fillScales();
   fillFigures(first);
   mSoon.setSingleShot(true);
@@ -65,6 +69,7 @@ PrintDialog::PrintDialog(std::vector<PrintChoice> choices, std::size_t first, QW
     connect(combo, changed, this, &PrintDialog::wait);
   }
   connect(mUi->scaleCombo, &QComboBox::editTextChanged, this, &PrintDialog::wait);
+  connect(mUi->scaleCombo->lineEdit(), &QLineEdit::returnPressed, this, &PrintDialog::refresh);
   connect(mUi->titleEdit, &QLineEdit::textChanged, this, &PrintDialog::wait);
   connect(mUi->tilesBox, &QCheckBox::toggled, this, &PrintDialog::wait);
   const auto set = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
