@@ -17,6 +17,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -177,15 +178,17 @@ TEST(PrintPages, curvesGrowOnPaperAsTheScaleHasIt) {
 
 TEST(PrintPages, timesAreAsHighAsMillisecondsToACentimetreHaveIt) {
   const TomoDocument document = shotDocument(3, 24, 400);
-  for (const PrintFigure& figure : {printedCurves(document, {}), printedGather(document, 0, {})}) {
-    const auto mmAt = [&](double msPerCm) {
+  // From the shot up to the last pick; and from it through the record down to the legend.
+  const std::pair<PrintFigure, double> cases[] = {
+      {printedCurves(document, {}), 1e3 * testing::firstBreak(23)},
+      {printedGather(document, 0, {}), 399 * 0.25}};
+  for (const auto& [figure, lasts] : cases) {
+    const auto mmAt = [&, &drawn = figure](double msPerCm) {
       PrintSettings settings = on("A3", true, 250.0);
       settings.msPerCm = msPerCm;
-      return colouredMm(prepared(figure, settings)).height();
+      return colouredMm(prepared(drawn, settings)).height();
     };
-    // From the shot down to the last pick, or up to it.
-    const double last = 1e3 * testing::firstBreak(23);
-    EXPECT_NEAR(mmAt(5.0) - mmAt(10.0), 10.0 * last * (1.0 / 5.0 - 1.0 / 10.0), 0.4);
+    EXPECT_NEAR(mmAt(5.0) - mmAt(10.0), 10.0 * lasts * (1.0 / 5.0 - 1.0 / 10.0), 0.4);
     PrintSettings high = on("A3", true, 250.0);
     high.msPerCm = 0.5;
     PrintPages pages;
