@@ -22,6 +22,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionPrev_file", ":/icons/back.png"},
     {"actionLoad_Project", ":/icons/open-folder-with-document.png"},
     {"actionSave_Project_As", ":/icons/save.png"},
+    {"actionPrint", ":/icons/print.png"},
     {"actionImages", ":/icons/png.png"},
     {"actionAutoPick", ":/icons/autopickingICO.png"},
     {"actionAutoPick_line", ":/icons/autopick-line.png"},

@@ -6,6 +6,7 @@
 #include "batch/FreshTimes.h"
 #include "batch/Images.h"
 #include "batch/OutputFiles.h"
+#include "batch/PrintExports.h"
 #include "batch/ProjectFiles.h"
 #include "batch/RefractorOutput.h"
 #include "batch/ReportIndex.h"
@@ -18,7 +19,6 @@
 #include "export/SeismicLineKml.h"
 #include "export/SurferGrid.h"
 #include "export/VtkGrid.h"
-#include "figures/PrintSheet.h"
 #include "figures/ProfileLines.h"
 #include "io/PickedCopies.h"
 #include "io/StyleFile.h"
@@ -47,11 +47,10 @@ std::vector<OutputFile> outputsOf(const ExportOptions& options) {
                                      {"--certainty-table", options.certainty},
                                      {"--kml-line", options.kmlLine},
                                      {"--kml-section", options.kmlSection},
-                                     {"--print", options.print},
-                                     {"--print-curves", options.printCurves},
                                      {"--report", options.report}};
   for (const std::string& image : options.images) outputs.push_back({"--image", image});
   for (const OutputFile& file : filesOf(options.drawings)) outputs.push_back(file);
+  for (const OutputFile& file : filesOf(options.prints)) outputs.push_back(file);
   for (const std::string& file : options.refractors) outputs.push_back({"--refractor", file});
   return outputs;
 }
@@ -97,23 +96,6 @@ void copyRecords(const ExportOptions& options, const TomoDocument& document,
   });
 }
 
-void writePrints(const ExportOptions& options, const TomoDocument& document,
-                 const SectionFigureOptions& section, OutputAttempts& attempt) {
-  const auto chosen = std::find_if(papers().begin(), papers().end(),
-                                   [&](const Paper& paper) { return paper.name == options.paper; });
-  const PrintSheet sheet = PrintSheet::on(*chosen, !options.portrait, options.scale);
-  attempt(options.print, [&](const auto& path) {
-    FigureDrawing drawing;
-    const Status status = prepareSectionPrint(document, section, sheet, drawing);
-    return status.ok() ? writePrint(drawing, path) : status;
-  });
-  attempt(options.printCurves, [&](const auto& path) {
-    FigureDrawing drawing;
-    const Status status = prepareTravelTimePrint(document, {}, sheet, drawing);
-    return status.ok() ? writePrint(drawing, path) : status;
-  });
-}
-
 int writeFiles(const ExportOptions& options, const LoadedProject& project, const KmlColors& colors,
                std::ostream& summary) {
   const TomoDocument& document = project.document;
@@ -146,7 +128,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
   for (const std::string& image : options.images) {
     attempt(image, [&](const auto& path) { return writeSectionFigure(document, section, path); });
   }
-  writePrints(options, document, section, attempt);
+  writePrints(options.prints, project, section, attempt);
   writeRefractor(options, project, attempt, summary);
   attempt(options.report, [&](const auto& path) {
     return writeReportFile({document, &*project.interpretation}, options.reportFields, section,
@@ -158,7 +140,7 @@ int writeFiles(const ExportOptions& options, const LoadedProject& project, const
 /// Makes ready what figures and residuals need: rays are not in a project.
 Status prepareFigures(const ExportOptions& options, TomoDocument& document) {
   const bool draws = !options.images.empty() || !options.refractors.empty() ||
-                     !(options.print + options.printCurves + options.report).empty();
+                     options.prints.any() || !options.report.empty();
   if (!draws && options.residuals.empty()) return {};
   if (draws) prepareDrawing();
   return traceFreshTimes(document);
@@ -176,7 +158,8 @@ Status layOn(LoadedProject& project, const std::string& file) {
 void warnOfOldProfile(const ExportOptions& options, const LoadedProject& project) {
   const bool shown =
       !options.report.empty() || !options.refractors.empty() || options.drawings.drawsLines() ||
-      (project.section.refraction && (!options.images.empty() || !options.print.empty()));
+      !options.prints.layers.empty() ||
+      (project.section.refraction && (!options.images.empty() || !options.prints.section.empty()));
   if (shown && picksChangedSince(project.document, project.interpretation->refractData)) {
     warn("picks have changed since the layered profile was built");
   }

@@ -1,7 +1,7 @@
 #include "batch/DrawingExports.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
-#include "figures/PrintSheet.h"
+#include "batch/PrintExports.h"
 
 #include <functional>
 
@@ -108,33 +108,6 @@ void addReportIndex(CLI::App& app, CLI::Option* report, ExportOptions& options) 
   }
 }
 
-void addPrints(CLI::App& app, ExportOptions& options) {
-  std::vector<std::string> names;
-  for (const Paper& paper : papers()) names.push_back(paper.name);
-  CLI::Option* print = addPath(app, "--print", options.print,
-                               "The section as the project shows it on a sheet of paper, along the "
-                               "line true to scale, with title and scale bar, named *.pdf");
-  CLI::Option* curves = addPath(app, "--print-curves", options.printCurves,
-                                "The same of the travel-time curves, named *.pdf");
-  CLI::Option* scale = addNumber(
-      app, "--scale", "N", Range<double>{PrintSheet::kLeastScale, PrintSheet::kMostScale},
-      "Metres along the line to a metre of paper in --print and --print-curves (default: 500)",
-      [&options](double value) { options.scale = value; });
-  CLI::Option* paper =
-      app.add_option("--paper", options.paper, "Paper of --print and --print-curves (default: A3)")
-          ->check(CLI::IsMember(names));
-  CLI::Option* portrait = app.add_flag("--portrait", options.portrait,
-                                       "That paper upright (default: its longer side below)");
-  for (CLI::Option* option : {print, curves}) {
-    mustEndIn(option, {".pdf"}, true)->group(kOutputGroup);
-  }
-  for (CLI::Option* option : {scale, paper, portrait}) {
-    option->group(kOutputGroup)->check([print, curves](const std::string&) -> std::string {
-      return print->count() + curves->count() > 0 ? "" : "goes with --print or --print-curves";
-    });
-  }
-}
-
 /// One project, or an index of many and nothing else.
 void checkProjects(ExportOptions& options) {
   if (!options.index.empty()) {
@@ -183,7 +156,7 @@ void addOutputs(CLI::App& app, ExportOptions& options) {
   addImages(app, options.images,
             "The section as the project shows it: .png, .svg or .pdf; once per picture")
       ->group(kOutputGroup);
-  addPrints(app, options);
+  addPrintExports(app, options.prints, kOutputGroup);
   CLI::Option* report = addReport(app, options.report, options.reportFields);
   addReportIndex(app, report, options);
   const std::vector<CLI::Option*> onMap = addDrawingExports(app, options.drawings);

@@ -266,6 +266,27 @@ struct DrawingExports {
   bool drawsLines() const { return !(dxf + geoPackage).empty(); }
 };
 
+/// What is printed on paper of a project.
+struct PrintExports {
+  std::string section;
+  std::string curves;
+  std::string layers;
+  std::string traces;  ///< of all shots
+  std::string misfit;
+  std::string residuals;  ///< shot by geophone
+  std::string residualSection;
+  double scale = 500.0;  ///< 0: as large as the sheet has room for
+  std::string paper = "A3";
+  bool portrait = false;
+  double exaggeration = 0.0;  ///< 0: as the project shows it
+  double msPerCm = 0.0;       ///< 0: as the sheet has room
+  bool tiles = false;
+
+  bool any() const {
+    return !(section + curves + layers + traces + misfit + residuals + residualSection).empty();
+  }
+};
+
 /// What is written of the section of a project, or of many projects together.
 struct ExportOptions {
   std::vector<std::string> projects;  ///< of `index`
@@ -289,11 +310,7 @@ struct ExportOptions {
   DrawingExports drawings;
   std::string pickedRecords;        ///< folder for shot files with picks in their headers
   std::vector<std::string> images;  ///< one picture of the section per path
-  std::string print;                ///< the section on a sheet, true to scale
-  std::string printCurves;          ///< travel-time curves on one
-  double scale = 500.0;             ///< of both
-  std::string paper = "A3";
-  bool portrait = false;
+  PrintExports prints;
   std::string report;
   ReportFields reportFields;
   std::optional<geographicsCoord> geography;  ///< none: the project's
@@ -303,9 +320,10 @@ struct ExportOptions {
   bool quiet = false;
 
   bool anyOutput() const {
-    return !images.empty() || !refractors.empty() || drawings.any() || !pickedRecords.empty() ||
+    return !images.empty() || !refractors.empty() || drawings.any() || prints.any() ||
+           !pickedRecords.empty() ||
            !(gridded + otte + sgt + residuals + vtk + surfer + certainty + kmlLine + kmlSection +
-             print + printCurves + report)
+             report)
                 .empty();
   }
 };

@@ -221,23 +221,31 @@ void paintDepthProfile(QPainter& painter, const QRectF& sheet, const DepthProfil
   painter.restore();
 }
 
+Status prepareDepthProfileFigure(const DepthProfile& profile, const DepthProfiles& section,
+                                 double widthMm, double heightMm, FigureDrawing& drawing) {
+  if (section.empty()) return Status::failure(Message::tr("There is no section to draw."));
+  drawing.sheet = {widthMm, heightMm, 150.0, "Depth profile"};
+  drawing.paint = [profile, section](QPainter& painter, const QRectF& all) {
+    constexpr double kPointsPerInch = 96.0;
+    const double scale = painter.device()->logicalDpiX() / kPointsPerInch;
+    DepthProfileDress dress;
+    dress.font = figureFont(9.0);
+    dress.font.setPixelSize(12);
+    painter.save();
+    painter.translate(all.topLeft());
+    painter.scale(scale, scale);
+    paintDepthProfile(painter, QRectF(QPointF(), all.size() / scale), profile, section, dress);
+    painter.restore();
+  };
+  return {};
+}
+
 Status writeDepthProfile(const std::string& path, const DepthProfile& profile,
                          const DepthProfiles& section) {
-  constexpr double kPointsPerInch = 96.0;
-  const FigureSheet sheet{180.0, 140.0, 150.0, "Depth profile"};
   return writeFigure(path, [&](FigureFormat format, QByteArray& bytes) {
-    const auto paint = [&](QPainter& painter, const QRectF& all) {
-      const double scale = painter.device()->logicalDpiX() / kPointsPerInch;
-      DepthProfileDress dress;
-      dress.font = figureFont(9.0);
-      dress.font.setPixelSize(12);
-      painter.save();
-      painter.translate(all.topLeft());
-      painter.scale(scale, scale);
-      paintDepthProfile(painter, QRectF(QPointF(), all.size() / scale), profile, section, dress);
-      painter.restore();
-    };
-    return paintFigure(format, sheet, paint, bytes);
+    FigureDrawing drawing;
+    const Status status = prepareDepthProfileFigure(profile, section, 180.0, 140.0, drawing);
+    return status.ok() ? paintFigure(format, drawing.sheet, drawing.paint, bytes) : status;
   });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "figures/FigureFile.h"
 #include "view/DepthProfile.h"
 
 #include <QFont>
@@ -24,6 +25,10 @@ struct DepthProfileDress {
 /// \param sheet in the units of the painter, logical pixels
 void paintDepthProfile(QPainter& painter, const QRectF& sheet, const DepthProfile& profile,
                        const DepthProfiles& section, const DepthProfileDress& dress);
+
+/// The same for who paints it himself. Fails where there is no section.
+Status prepareDepthProfileFigure(const DepthProfile& profile, const DepthProfiles& section,
+                                 double widthMm, double heightMm, FigureDrawing& drawing);
 
 /// The same as a file of 180 x 140 mm, whose suffix decides between PNG, SVG and PDF.
 Status writeDepthProfile(const std::string& path, const DepthProfile& profile,

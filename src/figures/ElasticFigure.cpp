@@ -24,7 +24,7 @@ namespace {
 
 using Quantity = ElasticQuantity;
 
-constexpr double kPanelHeight = 48.0;    ///< millimetres, of axes and curves
+constexpr double kPanelHeight = 48.0;    ///< millimetres, of axes and curves, where there is room
 constexpr double kExtraRow = 12.0;       ///< of a title, or of a caption with the axis of distances
 constexpr double kNumberExtent = 58.0;   ///< points for the numbers at all axes alike
 constexpr double kPadding = 12.0;        ///< inside the axes, points of 1/96 inch
@@ -148,7 +148,9 @@ struct Span {
 };
 
 /// A scale over so many points, with room around the values.
-FigurePlot::Scale scaleOf(Span span, double length, double spacing, bool logarithmic) {
+/// \param perPoint what a point stands for; 0: as much as makes them fill the room
+FigurePlot::Scale scaleOf(Span span, double length, double spacing, bool logarithmic,
+                          double perPoint = 0.0) {
   FigurePlot::Scale scale;
   if (logarithmic) {
     scale.from = span.from / kDecadePadding;
@@ -157,7 +159,9 @@ FigurePlot::Scale scaleOf(Span span, double length, double spacing, bool logarit
     // What does not change has a width, too.
     const double width = std::max({span.to - span.from, 0.02 * std::fabs(span.to), 1e-3});
     const double middle = 0.5 * (span.from + span.to);
-    const double half = 0.5 * width * length / std::max(length - 2.0 * kPadding, 1.0);
+    const double half = perPoint > 0.0
+                            ? 0.5 * length * perPoint
+                            : 0.5 * width * length / std::max(length - 2.0 * kPadding, 1.0);
     scale.from = middle - half;
     scale.to = middle + half;
   }
@@ -172,7 +176,10 @@ FigurePlot::Scale scaleOf(Span span, double length, double spacing, bool logarit
 /// What all plots share.
 struct Common {
   double widthMm = 0.0;
+  double panelMm = kPanelHeight;
+  double scale = 0.0;  ///< metres to a metre of the sheet; 0: to fit
   Span distances;
+  PlotPlace place;  ///< of the plot that was last laid out
 };
 
 /// A plot and how high it is.
@@ -181,12 +188,12 @@ struct Placed {
   double heightMm = 0.0;
 };
 
-Status addPanel(const Panel& panel, const std::vector<PlotSeries>& series, const Common& common,
+Status addPanel(const Panel& panel, const std::vector<PlotSeries>& series, Common& common,
                 const std::string& title, const std::string& caption, bool lowest,
                 std::vector<Placed>& sheet) {
   Placed placed;
   placed.plot = std::make_shared<FigurePlot>();
-  placed.heightMm = kPanelHeight + (title.empty() ? 0.0 : kExtraRow) + (lowest ? kExtraRow : 0.0);
+  placed.heightMm = common.panelMm + (title.empty() ? 0.0 : kExtraRow) + (lowest ? kExtraRow : 0.0);
   FigurePlot& plot = *placed.plot;
   plot.addAxis(QwtPlot::xBottom, lowest ? FigureWords::distanceAxis() : QString());
   plot.addAxis(QwtPlot::yLeft, panel.axis);
@@ -203,17 +210,47 @@ Status addPanel(const Panel& panel, const std::vector<PlotSeries>& series, const
     }
   }
   const bool logarithmic = panel.moduli && values.from > 0.0;
-  PlotPlace place;
+  const double perPoint = 1e-3 * common.scale / plot.pointsPerMm();
   const Status status = plot.fit(
       common.widthMm, placed.heightMm, 80.0, 50.0,
       [&](double width, double height) {
-        plot.setScale(QwtPlot::xBottom, scaleOf(common.distances, width, 60.0, false));
+        plot.setScale(QwtPlot::xBottom, scaleOf(common.distances, width, 60.0, false, perPoint));
         plot.setScale(QwtPlot::yLeft, scaleOf(values, height, 22.0, logarithmic));
         plot.plot().updateAxes();
       },
-      place);
+      common.place);
   if (status.ok()) sheet.push_back(std::move(placed));
   return status;
+}
+
+using FilledPanels = std::vector<std::pair<Panel, std::vector<PlotSeries>>>;
+
+FilledPanels filledPanels(const std::vector<ElasticLayer>& layers) {
+  FilledPanels filled;
+  for (const Panel& panel : panels()) {
+    std::vector<PlotSeries> series = seriesOf(layers, panel);
+    if (!series.empty()) filled.emplace_back(panel, std::move(series));
+  }
+  return filled;
+}
+
+Status addPanels(const FilledPanels& filled, const std::string& title, const std::string& caption,
+                 Common& common, std::vector<Placed>& sheet) {
+  for (std::size_t i = 0; i < filled.size(); ++i) {
+    const bool lowest = i + 1 == filled.size();
+    const Status status =
+        addPanel(filled[i].first, filled[i].second, common, i == 0 ? title : std::string(),
+                 lowest ? caption : std::string(), lowest, sheet);
+    if (!status.ok()) return status;
+  }
+  return {};
+}
+
+CanvasSize wantedCanvas(const Common& common) {
+  if (!(common.scale > 0.0)) return {};
+  const double perMm = FigurePlot().pointsPerMm();
+  const double metres = std::max(common.distances.to - common.distances.from, 1e-3);
+  return {std::max(1e3 * metres / common.scale + 2.0 * kPadding / perMm, 80.0 / perMm + 1.0), 0.0};
 }
 
 std::vector<ElasticLayer> layersShown(const ElasticLine& line, std::uint32_t only) {
@@ -298,31 +335,30 @@ Status prepareElasticFigure(const ElasticLine& line, const ElasticFigureOptions&
                             FigureDrawing& drawing) {
   if (Status status = checkApplication("A figure"); !status.ok()) return status;
   const std::vector<ElasticLayer> layers = layersShown(line, options.layer);
-  std::vector<std::pair<Panel, std::vector<PlotSeries>>> filled;
-  for (const Panel& panel : panels()) {
-    std::vector<PlotSeries> series = seriesOf(layers, panel);
-    if (!series.empty()) filled.emplace_back(panel, std::move(series));
-  }
+  const FilledPanels filled = filledPanels(layers);
   if (filled.empty()) {
     return Status::failure(Message::tr("P and S have no velocity in common to draw."));
   }
   Common common;
   common.widthMm = options.widthMm;
+  common.scale = options.scale;
   for (const ElasticLayer& layer : layers) {
     for (const ElasticPoint& point : layer.points) common.distances.take(point.x);
   }
-  std::vector<Placed> plots;
-  for (std::size_t i = 0; i < filled.size(); ++i) {
-    const bool lowest = i + 1 == filled.size();
-    const Status status =
-        addPanel(filled[i].first, filled[i].second, common, i == 0 ? options.title : std::string(),
-                 lowest ? captionOf(line) : std::string(), lowest, plots);
-    if (!status.ok()) return status;
+  const double extra = kExtraRow + (options.title.empty() ? 0.0 : kExtraRow);
+  if (options.heightMm > 0.0) {
+    common.panelMm =
+        std::min(kPanelHeight, (options.heightMm - extra) / static_cast<double>(filled.size()));
   }
-  double height = 0.0;
-  for (const Placed& placed : plots) height += placed.heightMm;
-  drawing.sheet = {options.widthMm, height, options.dpi, options.title};
-  drawing.paint = [plots, widthMm = options.widthMm](QPainter& painter, const QRectF& sheet) {
+  double height = extra + static_cast<double>(filled.size()) * common.panelMm;
+  std::vector<Placed> plots;
+  const Status status = fitSheet(wantedCanvas(common), common.widthMm, height, common.place, [&] {
+    plots.clear();
+    return addPanels(filled, options.title, captionOf(line), common, plots);
+  });
+  if (!status.ok()) return status;
+  drawing.sheet = {common.widthMm, height, options.dpi, options.title};
+  drawing.paint = [plots, widthMm = common.widthMm](QPainter& painter, const QRectF& sheet) {
     paintSheet(plots, widthMm, painter, sheet);
   };
   return {};

@@ -13,6 +13,9 @@ namespace talvesk {
 struct ElasticFigureOptions {
   double widthMm = 200.0;   ///< the height follows from what is shown
   double dpi = 150.0;       ///< pixels per inch of a PNG
+  double scale = 0.0;       ///< metres along the line to a metre of the sheet, whose width follows;
+                            ///< 0: as wide as the sheet has room for
+  double heightMm = 0.0;    ///< at most; 0: as much as the curves ask for
   std::string title;        ///< UTF-8; may be empty
   std::uint32_t layer = 0;  ///< the only one to be shown, from 1; 0: all
 };

@@ -1,5 +1,6 @@
 #include "figures/FigurePlot.h"
 
+#include "figures/FigureFile.h"
 #include "figures/FigureOutput.h"
 
 #include <QFontMetricsF>
@@ -236,6 +237,22 @@ PlotPlace FigurePlot::paint(QPainter& painter, const QRectF& sheet, double width
   place.widthMm = widthMm;
   place.heightMm = widthMm * sheet.height() / sheet.width();
   return place;
+}
+
+Status fitSheet(const CanvasSize& wanted, double& widthMm, double& heightMm, const PlotPlace& place,
+                const std::function<Status()>& fit) {
+  constexpr double kBesideMm = 40.0;  // about what axes and texts take
+  if (wanted.widthMm > 0.0) widthMm = wanted.widthMm + kBesideMm;
+  if (wanted.heightMm > 0.0) heightMm = wanted.heightMm + kBesideMm;
+  if (!(std::max(widthMm, heightMm) <= FigureSheet::kMaxMm)) return {};
+  Status status = fit();
+  // What they take in fact shows once they are laid out, and depends on the room a little.
+  for (int round = 0; round < 2 && status.ok(); ++round) {
+    if (wanted.widthMm > 0.0) widthMm += wanted.widthMm - (place.rightMm - place.leftMm);
+    if (wanted.heightMm > 0.0) heightMm += wanted.heightMm - (place.bottomMm - place.topMm);
+    status = fit();
+  }
+  return status;
 }
 
 QString figureNumber(double value, int digits) {

@@ -82,6 +82,20 @@ class FigurePlot {
   std::unique_ptr<QwtPlot> mPlot;
 };
 
+/// How large a canvas is to be; 0: what its sheet leaves it.
+struct CanvasSize {
+  double widthMm = 0.0;
+  double heightMm = 0.0;
+};
+
+/// Gives a sheet the size at which its canvas has that wanted. One larger than any sheet
+/// (FigureSheet::kMaxMm) is only measured, about, and not laid out.
+/// \param widthMm, heightMm of the sheet, in and out
+/// \param fit lays the plot out on a sheet of the size that these have
+/// \param place where `fit` leaves the place of the canvas
+Status fitSheet(const CanvasSize& wanted, double& widthMm, double& heightMm, const PlotPlace& place,
+                const std::function<Status()>& fit);
+
 /// Numbers in a file look the same whatever the user's language.
 QString figureNumber(double value, int digits = 10);
 

@@ -15,7 +15,9 @@
 #include <QColor>
 #include <QPainter>
 #include <QString>
+#include <algorithm>
 #include <cmath>
+#include <memory>
 #include <utility>
 
 #include <qwt_plot.h>
@@ -42,7 +44,7 @@ QString reducedTimeAxis(double reduction) {
            QLatin1String(velocityUnitName()));
 }
 
-/// One shot laid out as a plot. The options must outlive it.
+/// One shot laid out as a plot.
 class GatherPlot {
  public:
   GatherPlot(GatherScene scene, const GatherFigureOptions& options);
@@ -53,13 +55,15 @@ class GatherPlot {
     mPlace = mPlot.paint(painter, sheet, mOptions.widthMm);
   }
 
-  const GatherScene& scene() const { return mScene; }
   GatherFigureLayout layout() const;
+  FigureSheet sheet() const;
 
  private:
   void setScales(double width, double height);
+  CanvasSize wantedCanvas() const;
+  double swing() const;
 
-  const GatherFigureOptions& mOptions;
+  GatherFigureOptions mOptions;
   GatherScene mScene;
   PlotPlace mPlace;
   FigurePlot mPlot;  // goes first at the end: its items look at the scene
@@ -89,14 +93,38 @@ GatherPlot::GatherPlot(GatherScene scene, const GatherFigureOptions& options)
   if (mScene.hasPicks) mPlot.add(gather_items::picks(mScene, toColor(mOptions.pickColor)));
 }
 
+/// The outer traces need room for theirs, which are counted in distances between traces.
+double GatherPlot::swing() const {
+  return mOptions.clip * mScene.spacing * static_cast<double>(mScene.traceStep);
+}
+
+/// A channel is no length.
+CanvasSize GatherPlot::wantedCanvas() const {
+  const double perMm = mPlot.pointsPerMm();
+  CanvasSize wanted;
+  if (mOptions.scale > 0.0 && !mScene.byChannel) {
+    const double width = mScene.high - mScene.low + 2.0 * swing();
+    wanted.widthMm = std::max(1e3 * width / mOptions.scale + 2.0 * kSidePadding / perMm,
+                              kMinCanvasWidth / perMm + 1.0);
+  }
+  if (mOptions.msPerCm > 0.0) {
+    const double lasts = mScene.window.endMs - mScene.window.beginMs;
+    wanted.heightMm =
+        std::max(10.0 * lasts / mOptions.msPerCm + (kTopPadding + kBottomPadding) / perMm,
+                 kMinCanvasHeight / perMm + 1.0);
+  }
+  return wanted;
+}
+
 void GatherPlot::setScales(double width, double height) {
-  // The outer traces need room for their swings, which are counted in distances between traces.
-  const double swing = mOptions.clip * mScene.spacing * static_cast<double>(mScene.traceStep);
-  const double perPoint = (mScene.high - mScene.low + 2.0 * swing) / (width - 2.0 * kSidePadding);
-  const double side = swing + kSidePadding * perPoint;
+  const CanvasSize wanted = wantedCanvas();
+  const double perPoint = wanted.widthMm > 0.0 ? 1e-3 * mOptions.scale / mPlot.pointsPerMm()
+                                               : (mScene.high - mScene.low + 2.0 * swing()) /
+                                                     (width - 2.0 * kSidePadding);
+  const double middle = 0.5 * (mScene.low + mScene.high);
   FigurePlot::Scale x;
-  x.from = mScene.low - side;
-  x.to = mScene.high + side;
+  x.from = middle - 0.5 * width * perPoint;
+  x.to = middle + 0.5 * width * perPoint;
   x.firstTick = mScene.byChannel ? mScene.low : x.from;
   x.lastTick = mScene.byChannel ? mScene.high : x.to;
   x.length = width;
@@ -105,11 +133,12 @@ void GatherPlot::setScales(double width, double height) {
   mPlot.setScale(QwtPlot::xBottom, x);
 
   const TimeWindow& window = mScene.window;
-  const double msPerPoint =
-      (window.endMs - window.beginMs) / (height - kTopPadding - kBottomPadding);
+  const double msPerPoint = wanted.heightMm > 0.0 ? 0.1 * mOptions.msPerCm / mPlot.pointsPerMm()
+                                                  : (window.endMs - window.beginMs) /
+                                                        (height - kTopPadding - kBottomPadding);
   FigurePlot::Scale time;
-  time.from = window.endMs + kBottomPadding * msPerPoint;
   time.to = window.beginMs - kTopPadding * msPerPoint;
+  time.from = time.to + height * msPerPoint;
   time.firstTick = window.beginMs;
   time.lastTick = window.endMs;
   time.length = height;
@@ -119,10 +148,17 @@ void GatherPlot::setScales(double width, double height) {
 }
 
 Status GatherPlot::layOut() {
-  mPlot.setTexts(mScene.title, mScene.caption, mOptions.widthMm);
   const auto scale = [this](double width, double height) { setScales(width, height); };
-  return mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight, scale,
-                   mPlace);
+  return fitSheet(wantedCanvas(), mOptions.widthMm, mOptions.heightMm, mPlace, [&] {
+    mPlot.setTexts(mOptions.showTitle ? mScene.title : std::string(), mScene.caption,
+                   mOptions.widthMm);
+    return mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight, scale,
+                     mPlace);
+  });
+}
+
+FigureSheet GatherPlot::sheet() const {
+  return {mOptions.widthMm, mOptions.heightMm, mOptions.dpi, mScene.title};
 }
 
 GatherFigureLayout GatherPlot::layout() const {
@@ -183,6 +219,20 @@ Status writePages(const TomoDocument& document, const GatherFigureOptions& optio
 
 }  // namespace
 
+Status prepareGatherFigure(const TomoDocument& document, std::size_t shot,
+                           const GatherFigureOptions& options, FigureDrawing& drawing) {
+  GatherScene scene;
+  if (Status status = buildGatherScene(document, shot, options, scene); !status.ok()) {
+    return status;
+  }
+  if (Status status = checkDrawing(options, FigureFormat::kPdf); !status.ok()) return status;
+  const auto plot = std::make_shared<GatherPlot>(std::move(scene), options);
+  if (Status status = plot->layOut(); !status.ok()) return status;
+  drawing.sheet = plot->sheet();
+  drawing.paint = [plot](QPainter& painter, const QRectF& rect) { plot->paint(painter, rect); };
+  return {};
+}
+
 Status renderGatherFigure(const TomoDocument& document, std::size_t shot,
                           const GatherFigureOptions& options, FigureFormat format,
                           QByteArray& bytes, GatherFigureLayout* layout) {
@@ -194,8 +244,7 @@ Status renderGatherFigure(const TomoDocument& document, std::size_t shot,
   GatherPlot plot(std::move(scene), options);
   if (Status status = plot.layOut(); !status.ok()) return status;
   const auto paint = [&plot](QPainter& painter, const QRectF& rect) { plot.paint(painter, rect); };
-  const FigureSheet sheet = sheetOf(options, plot.scene().title);
-  if (Status status = paintFigure(format, sheet, paint, bytes); !status.ok()) return status;
+  if (Status status = paintFigure(format, plot.sheet(), paint, bytes); !status.ok()) return status;
   if (layout != nullptr) *layout = plot.layout();
   return {};
 }

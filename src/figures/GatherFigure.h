@@ -45,6 +45,11 @@ struct GatherFigureLayout {
 Status writeGatherFigures(const TomoDocument& document, const GatherFigureOptions& options,
                           const std::string& path, std::vector<std::string>& written);
 
+/// The same of one shot for who paints it himself. The document must outlive the drawing.
+/// \param shot trace set, from 0
+Status prepareGatherFigure(const TomoDocument& document, std::size_t shot,
+                           const GatherFigureOptions& options, FigureDrawing& drawing);
+
 /// One shot into memory. \param shot trace set, from 0 \param layout null when nobody asks
 Status renderGatherFigure(const TomoDocument& document, std::size_t shot,
                           const GatherFigureOptions& options, FigureFormat format,

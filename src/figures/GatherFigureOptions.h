@@ -24,7 +24,11 @@ struct TimeWindow {
 struct GatherFigureOptions {
   double widthMm = 280.0;
   double heightMm = 190.0;
-  double dpi = 150.0;  ///< pixels per inch of a PNG
+  double dpi = 150.0;    ///< pixels per inch of a PNG
+  double scale = 0.0;    ///< metres along the line to a metre of the sheet, whose width follows; 0:
+                         ///< as wide as the sheet has room for, as are channels
+  double msPerCm = 0.0;  ///< times to a centimetre of the sheet, whose height follows; 0: as high
+                         ///< as the sheet has room for
 
   /// The one shot to draw, from 0; none: all of them. Counts in writeGatherFigures() only.
   std::optional<std::size_t> shot;
@@ -47,7 +51,8 @@ struct GatherFigureOptions {
   bool picks = true;
   bool errorBars = true;  ///< where errors of picks are known
   RgbColor pickColor{0.85, 0.05, 0.1};
-  std::string title;  ///< UTF-8, above every shot; empty: the name of the shot's file
+  std::string title;      ///< UTF-8, above every shot; empty: the name of the shot's file
+  bool showTitle = true;  ///< false: the title is for the properties of the file only
 };
 
 }  // namespace talvesk

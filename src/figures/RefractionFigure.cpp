@@ -4,6 +4,7 @@
 #include "figures/FigureWords.h"
 #include "figures/RefractionItems.h"
 #include "figures/SectionItems.h"
+#include "figures/SectionPlot.h"
 #include "model/TomoDocument.h"
 #include "refraction/PicksFingerprint.h"
 
@@ -39,10 +40,17 @@ class RefractionSheet {
   }
   const std::string& title() const { return mTitle; }
   const PlotPlace& place() const { return mPlace; }
+  double widthMm() const { return mOptions.widthMm; }
+  double heightMm() const { return mOptions.heightMm; }
+  double exaggeration() const;  ///< as laid out
 
  private:
   void addLayers();
   void setScales(double width, double height);
+  void chooseExaggeration();
+  CanvasSize wantedCanvas() const;
+  Point2D low() const;  ///< of what is shown inside the padding, metres
+  Point2D high() const;
   std::string caption() const;
 
   RefractionFigureOptions mOptions;
@@ -74,11 +82,38 @@ void RefractionSheet::addLayers() {
   mPlot.add(markers(mScene.shots, FigureWords::tr("Shots"), Marker::kShot));
 }
 
-void RefractionSheet::setScales(double width, double height) {
+Point2D RefractionSheet::low() const {
   const Point2D low = mScene.lowerLeft();
+  return {low.x, low.z - kGroundBelow * std::max(mScene.upperRight().z - low.z, 1e-3)};
+}
+
+Point2D RefractionSheet::high() const {
   const Point2D high = mScene.upperRight();
-  const auto set = [this](int axis, double from, double to, double length, double spacing) {
-    const double padding = (to - from) * kPadding / std::max(length - 2.0 * kPadding, 1.0);
+  return {std::max(high.x, mScene.lowerLeft().x + 1e-3), high.z};
+}
+
+void RefractionSheet::chooseExaggeration() {
+  if (mOptions.verticalExaggeration > 0.0 || !(mOptions.scale > 0.0)) return;
+  mOptions.verticalExaggeration = legibleExaggeration((high().z - low().z) / (high().x - low().x));
+}
+
+CanvasSize RefractionSheet::wantedCanvas() const {
+  if (!(mOptions.scale > 0.0)) return {};
+  const double perMm = mPlot.pointsPerMm();
+  const auto sized = [&](double metres, double factor, double least) {
+    return std::max(1e3 * factor * metres / mOptions.scale + 2.0 * kPadding / perMm,
+                    least / perMm + 1.0);
+  };
+  return {sized(high().x - low().x, 1.0, kMinCanvasWidth),
+          sized(high().z - low().z, mOptions.verticalExaggeration, kMinCanvasHeight)};
+}
+
+void RefractionSheet::setScales(double width, double height) {
+  const double metresPerPoint = 1e-3 * mOptions.scale / mPlot.pointsPerMm();  // 0: to fit
+  const auto set = [this](int axis, double from, double to, double length, double spacing,
+                          double perPoint) {
+    double padding = (to - from) * kPadding / std::max(length - 2.0 * kPadding, 1.0);
+    if (perPoint > 0.0) padding = 0.5 * (length * perPoint - (to - from));
     FigurePlot::Scale scale;
     scale.from = scale.firstTick = from - padding;
     scale.to = scale.lastTick = to + padding;
@@ -86,18 +121,21 @@ void RefractionSheet::setScales(double width, double height) {
     scale.spacing = spacing;
     mPlot.setScale(axis, scale);
   };
-  const double depth = std::max(high.z - low.z, 1e-3);
-  set(QwtPlot::xBottom, low.x, std::max(high.x, low.x + 1e-3), width, 60.0);
-  set(QwtPlot::yLeft, low.z - kGroundBelow * depth, high.z, height, 35.0);
+  set(QwtPlot::xBottom, low().x, high().x, width, 60.0, metresPerPoint);
+  set(QwtPlot::yLeft, low().z, high().z, height, 35.0,
+      metresPerPoint > 0.0 ? metresPerPoint / mOptions.verticalExaggeration : 0.0);
   mPlot.plot().updateAxes();
 }
 
+double RefractionSheet::exaggeration() const {
+  if (mOptions.scale > 0.0) return mOptions.verticalExaggeration;
+  const double perMetreX = (mPlace.rightMm - mPlace.leftMm) / (mPlace.right - mPlace.left);
+  const double perMetreZ = (mPlace.bottomMm - mPlace.topMm) / (mPlace.top - mPlace.bottom);
+  return perMetreZ / perMetreX;
+}
+
 std::string RefractionSheet::caption() const {
-  const double widthMm = mPlace.rightMm - mPlace.leftMm;
-  const double heightMm = mPlace.bottomMm - mPlace.topMm;
-  const double perMetreX = widthMm / (mPlace.right - mPlace.left);
-  const double perMetreZ = heightMm / (mPlace.top - mPlace.bottom);
-  const QString factor = figureNumber(perMetreZ / perMetreX, 2);
+  const QString factor = figureNumber(exaggeration(), mOptions.scale > 0.0 ? 4 : 2);
   QStringList parts = {FigureWords::tr("Velocities of refractors: median"),
                        FigureWords::tr("Vertical exaggeration %1").arg(factor)};
   if (mPicksChanged) parts.prepend(FigureWords::tr("Picks have changed since this was built"));
@@ -114,10 +152,13 @@ Status RefractionSheet::layOut() {
     return mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight, scale,
                      mPlace);
   };
-  // The caption tells the exaggeration, which comes of the layout; any other caption takes the same
-  // room.
-  if (Status status = fitWith("x"); !status.ok()) return status;
-  return fitWith(caption());
+  chooseExaggeration();
+  return fitSheet(wantedCanvas(), mOptions.widthMm, mOptions.heightMm, mPlace, [&] {
+    // The caption tells the exaggeration, which comes of the layout; any other caption takes the
+    // same room.
+    if (Status status = fitWith("x"); !status.ok()) return status;
+    return fitWith(caption());
+  });
 }
 
 Status layOut(const TomoDocument& document, const refractionDataStructure::Interpretation& profile,
@@ -129,6 +170,8 @@ Status layOut(const TomoDocument& document, const refractionDataStructure::Inter
   plot = std::make_unique<RefractionSheet>(document, profile, options);
   if (Status status = plot->layOut(); !status.ok()) return status;
   sheet.title = plot->title();
+  sheet.widthMm = plot->widthMm();
+  sheet.heightMm = plot->heightMm();
   return {};
 }
 
@@ -136,10 +179,12 @@ Status layOut(const TomoDocument& document, const refractionDataStructure::Inter
 
 Status prepareRefractionFigure(const TomoDocument& document,
                                const refractionDataStructure::Interpretation& profile,
-                               const RefractionFigureOptions& options, FigureDrawing& drawing) {
+                               const RefractionFigureOptions& options, FigureDrawing& drawing,
+                               double* exaggeration) {
   std::unique_ptr<RefractionSheet> plot;
   Status status = layOut(document, profile, options, FigureFormat::kPdf, drawing.sheet, plot);
   if (!status.ok()) return status;
+  if (exaggeration != nullptr) *exaggeration = plot->exaggeration();
   drawing.paint = [shared = std::shared_ptr<RefractionSheet>(std::move(plot))](
                       QPainter& painter, const QRectF& rect) { shared->paint(painter, rect); };
   return {};

@@ -18,7 +18,11 @@ struct RefractionFigureOptions {
   double widthMm = 280.0;
   double heightMm = 140.0;
   double dpi = 150.0;  ///< pixels per inch of a PNG
-  std::string title;   ///< UTF-8; empty: the document's title, and without one "Refraction Profile"
+  double scale = 0.0;  ///< metres along the line to a metre of the sheet, whose size follows; 0: as
+                       ///< large as the sheet has room for
+  double verticalExaggeration = 0.0;  ///< height of a metre over its width, at a scale; 0: what
+                                      ///< makes the profile legible
+  std::string title;  ///< UTF-8; empty: the document's title, and without one "Refraction Profile"
   bool showTitle = true;  ///< false: the title is for the properties of the file only
   const ProfileErrors* errors = nullptr;  ///< of the profile, for bands; null for none
 };
@@ -34,10 +38,11 @@ Status writeRefractionFigure(const TomoDocument& document,
                              const refractionDataStructure::Interpretation& profile,
                              const RefractionFigureOptions& options, const std::string& path);
 
-/// The same for who paints it himself.
+/// The same for who paints it himself. \param exaggeration as drawn; null when nobody asks
 Status prepareRefractionFigure(const TomoDocument& document,
                                const refractionDataStructure::Interpretation& profile,
-                               const RefractionFigureOptions& options, FigureDrawing& drawing);
+                               const RefractionFigureOptions& options, FigureDrawing& drawing,
+                               double* exaggeration = nullptr);
 
 /// The same into memory. \param place where the section lies; null when nobody asks
 Status renderRefractionFigure(const TomoDocument& document,

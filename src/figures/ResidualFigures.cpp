@@ -128,21 +128,6 @@ Status prepareGroups(const ResidualTable& table, const ResidualLook& look, Figur
   return status;
 }
 
-Status prepareSection(const TomoDocument& document, const ResidualTable& table,
-                      const ResidualLook& look, SectionFigureOptions section,
-                      FigureDrawing& drawing) {
-  std::optional<CellValues> values = residualsAlongRays(document, table, look.unit);
-  if (!values) return Status::failure(Message::tr("There are no rays of this section."));
-  const double limit = residualLimit(values->values, look.unit);
-  section.scene = SectionSceneOptions();
-  section.scene.coverageLimit = false;
-  section.scene.range = ValueRange{-limit, limit};
-  section.scene.values = std::move(values);
-  section.palette = differencePalette();
-  section.colorBar = ColorBar::kVertical;
-  return prepareSectionFigure(document, section, drawing);
-}
-
 }  // namespace
 
 QString residualAxis(ResidualUnit unit) {
@@ -240,11 +225,29 @@ std::vector<PlotSeries> spreadSeries(const std::vector<ResidualSpread>& spreads,
   return series;
 }
 
+Status showResidualsAlongRays(const TomoDocument& document, const ResidualTable& table,
+                              ResidualUnit unit, SectionFigureOptions& section) {
+  std::optional<CellValues> values = residualsAlongRays(document, table, unit);
+  if (!values) return Status::failure(Message::tr("There are no rays of this section."));
+  const double limit = residualLimit(values->values, unit);
+  section.scene = SectionSceneOptions();
+  section.scene.coverageLimit = false;
+  section.scene.range = ValueRange{-limit, limit};
+  section.scene.values = std::move(values);
+  section.palette = differencePalette();
+  section.colorBar = ColorBar::kVertical;
+  return {};
+}
+
 Status prepareResidualFigure(const TomoDocument& document, const ResidualTable& table,
                              ResidualView view, const ResidualLook& look,
                              const SectionFigureOptions& sheet, FigureDrawing& drawing) {
   if (table.picks.empty()) return Status::failure(Message::tr("There are no residuals to draw."));
-  if (view == ResidualView::kSection) return prepareSection(document, table, look, sheet, drawing);
+  if (view == ResidualView::kSection) {
+    SectionFigureOptions section = sheet;
+    const Status status = showResidualsAlongRays(document, table, look.unit, section);
+    return status.ok() ? prepareSectionFigure(document, section, drawing) : status;
+  }
   FigureSheet size{sheet.widthMm, sheet.heightMm, sheet.dpi, document.title};
   const auto prepare = view == ResidualView::kMap      ? prepareMap
                        : view == ResidualView::kOffset ? prepareOffset

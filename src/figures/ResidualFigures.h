@@ -44,6 +44,11 @@ std::vector<PlotSeries> offsetSeries(const ResidualTable& table, const ResidualL
 std::vector<PlotSeries> spreadSeries(const std::vector<ResidualSpread>& spreads,
                                      const ResidualLook& look);
 
+/// What makes a section show the residuals along the rays. Fails where there are no rays.
+/// \param section look to begin with, and the outcome
+Status showResidualsAlongRays(const TomoDocument& document, const ResidualTable& table,
+                              ResidualUnit unit, SectionFigureOptions& section);
+
 /// A view as a figure. Fails where there is nothing to show, and as prepareSectionFigure() does.
 /// \param sheet its size, and the look of the section in ResidualView::kSection
 Status prepareResidualFigure(const TomoDocument& document, const ResidualTable& table,

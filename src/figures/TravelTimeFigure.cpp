@@ -35,6 +35,7 @@ class TravelTimeSheet {
 
   const std::string& title() const { return mTitle; }
   double widthMm() const { return mOptions.widthMm; }
+  double heightMm() const { return mOptions.heightMm; }
   const TravelTimeFigureLayout& layout() const { return mLayout; }
 
  private:
@@ -105,10 +106,11 @@ void TravelTimeSheet::setScales(double width, double height) {
   x.spacing = 60.0;
   mPlot.setScale(QwtPlot::xBottom, x);
 
-  const double perPoint = mCurves.latestMs / (height - 2.0 * kPadding);
+  const double perPoint = mOptions.msPerCm > 0.0 ? 0.1 * mOptions.msPerCm / mPlot.pointsPerMm()
+                                                 : mCurves.latestMs / (height - 2.0 * kPadding);
   FigurePlot::Scale time;
   time.from = -kPadding * perPoint;
-  time.to = time.lastTick = mCurves.latestMs + kPadding * perPoint;
+  time.to = time.lastTick = (height - kPadding) * perPoint;
   time.firstTick = 0.0;
   time.length = height;
   time.spacing = 40.0;
@@ -121,19 +123,18 @@ Status TravelTimeSheet::layOut() {
     return Status::failure(Message::tr(
         "There are no travel times to draw: pick first breaks, or load travel times, first."));
   }
-  if (!(mOptions.scale > 0.0)) return fit();
   const double padding = 2.0 * kPadding / mPlot.pointsPerMm();
-  const double canvas = std::max(1e3 * span() / mOptions.scale + padding,
-                                 kMinCanvasWidth / mPlot.pointsPerMm() + 1.0);
-  mOptions.widthMm = 1.2 * canvas;
-  if (mOptions.widthMm > FigureSheet::kMaxMm) return {};
-  // What axes and texts take beside the canvas shows once they are laid out.
-  Status status = fit();
-  for (int round = 0; round < 2 && status.ok(); ++round) {
-    mOptions.widthMm += canvas - (mLayout.place.rightMm - mLayout.place.leftMm);
-    status = fit();
+  CanvasSize wanted;
+  if (mOptions.scale > 0.0) {
+    wanted.widthMm = std::max(1e3 * span() / mOptions.scale + padding,
+                              kMinCanvasWidth / mPlot.pointsPerMm() + 1.0);
   }
-  return status;
+  if (mOptions.msPerCm > 0.0) {
+    wanted.heightMm = std::max(10.0 * mCurves.latestMs / mOptions.msPerCm + padding,
+                               kMinCanvasHeight / mPlot.pointsPerMm() + 1.0);
+  }
+  return fitSheet(wanted, mOptions.widthMm, mOptions.heightMm, mLayout.place,
+                  [this] { return fit(); });
 }
 
 Status TravelTimeSheet::fit() {
@@ -153,6 +154,7 @@ Status layOut(const TomoDocument& document, const TravelTimeFigureOptions& optio
   if (Status status = plot->layOut(); !status.ok()) return status;
   sheet.title = plot->title();
   sheet.widthMm = plot->widthMm();
+  sheet.heightMm = plot->heightMm();
   return {};
 }
 

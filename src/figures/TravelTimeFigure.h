@@ -20,6 +20,8 @@ struct TravelTimeFigureOptions {
   double dpi = 150.0;    ///< pixels per inch of a PNG
   double scale = 0.0;    ///< metres along the line to a metre of the sheet, whose width
                          ///< follows; 0: as wide as the sheet has room for
+  double msPerCm = 0.0;  ///< times to a centimetre of the sheet, whose height follows; 0: as high
+                         ///< as the sheet has room for
   bool computed = true;  ///< computed times, where there are any
   /// Times computed through layers, per record and geophone, seconds; empty for none.
   std::vector<std::vector<double>> layered;

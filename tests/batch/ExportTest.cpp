@@ -173,6 +173,34 @@ TEST(Export, printsSectionAndCurvesAtAScaleOrTellsOneThatFits) {
   EXPECT_EQ(refused.code, 1);
   EXPECT_THAT(refused.err, HasSubstr("choose 1:"));
   EXPECT_EQ(folder.fileCount(), 3U);
+  const Outcome split =
+      runBatch({"export", project, "--print", folder / "large.pdf", "--scale", "20", "--paper",
+                "A4", "--portrait", "--tiles", "--exaggeration", "2"},
+               {{"DISPLAY", ""}});
+  ASSERT_EQ(split.code, 0) << split.err;
+  EXPECT_THAT(
+      contentsOf(folder / "large.pdf"),
+      AllOf(HasSubstr("/MediaBox [0 0 595.000000 842.000000]"), Not(HasSubstr("/Count 1"))));
+  const Outcome fitted =
+      runBatch({"export", project, "--print", folder / "fit.pdf", "--scale", "fit"}, {});
+  EXPECT_EQ(fitted.code, 0) << fitted.err;
+}
+
+TEST(Export, printsOnlyWhatTheProjectHas) {
+  const Folder folder;
+  const std::string project = writeProject(folder);
+  const struct {
+    const char* option;
+    const char* reason;
+  } cases[] = {{"--print-traces", "no traces to draw"},
+               {"--print-misfit", "no misfit to draw"},
+               {"--print-layers", "no refractor with a depth"}};
+  for (const auto& c : cases) {
+    const Outcome outcome = runBatch({"export", project, c.option, folder / "x.pdf"});
+    EXPECT_EQ(outcome.code, 1) << c.option;
+    EXPECT_THAT(outcome.err, HasSubstr(c.reason)) << c.option;
+  }
+  EXPECT_EQ(folder.fileCount(), 1U);
 }
 
 TEST(Export, writesAPageOfEveryProjectAndOneOnAllOfThem) {
@@ -346,7 +374,9 @@ TEST(Export, refusesCommandLinesThatMakeNoSense) {
       {{"--kml-section", kml, "--range", "600"}, "is not MIN:MAX"},
       {{"--kml-section", kml, "--palette", "Mauve"}, "'Mauve' is none of 'Silva viridis'"},
       {{"other.tvsk", "--vtk", folder / "s.vtu"}, "other.tvsk"},
-      {{"--vtk", folder / "s.vtu", "--scale", "500"}, "goes with --print or --print-curves"},
+      {{"--vtk", folder / "s.vtu", "--scale", "500"}, "goes with --print or another print"},
+      {{"--vtk", folder / "s.vtu", "--tiles"}, "goes with --print or another print"},
+      {{"--print", folder / "s.pdf", "--ms-per-cm", "0"}, "from 0.01 to 100000"},
       {{"--print", folder / "s.pdf", "--paper", "A9"}, "A9"},
       {{"--print", folder / "s.pdf", "--scale", "0"}, "from 1 to 1000000"},
       {{"--print", folder / "s.png"}, "must end in .pdf"},

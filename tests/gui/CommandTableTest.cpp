@@ -305,6 +305,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionExportSeismic_line",
         "actionExport_DXF",
         "actionExport_GeoPackage",
+        "actionPrint",
         "actionImages",
         "actionShot_sheet",
         "actionPDF",

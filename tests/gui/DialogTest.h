@@ -19,6 +19,7 @@
 #include "app/dialogs/LayerMethodsDialog.h"
 #include "app/dialogs/MendDialog.h"
 #include "app/dialogs/PaletteDialog.h"
+#include "app/dialogs/PrintDialog.h"
 #include "app/dialogs/ReadingsDialog.h"
 #include "app/dialogs/ReciprocityDialog.h"
 #include "app/dialogs/RecordingDetailsDialog.h"
@@ -41,6 +42,7 @@
 #include "app/dialogs/select_speed_Dialog.h"
 #include "app/dialogs/setGeographyDialog.h"
 #include "app/dialogs/smoothingDialog.h"
+#include "figures/print/PrintFigures.h"
 #include "gui/WindowTest.h"
 #include "io/SegyFile.h"
 #include "io/Survey.h"
@@ -140,6 +142,7 @@ class DialogTest : public WindowTest {
          [&] {
            return make<PaletteDialog>(mPalettes, false, ValueRange{250.0, 900.0}, mFolders);
          }},
+        {"print", [&] { return make<PrintDialog>(printChoices(), 0U); }},
         {"mend", [&] { return make<MendDialog>(document, 0); }},
         {"recording", [&] { return make<RecordingDetailsDialog>(document, mFiles, 0); }},
         {"trace headers",
@@ -184,6 +187,18 @@ class DialogTest : public WindowTest {
         {"coordinates",
          [&] { return make<setGeographyDialog>(std::nullopt, std::optional<LineEnds>()); }},
         {"smoothing", [&] { return make<smoothingDialog>(SmoothingType::kUniform); }}};
+  }
+
+  /// All fields are shown for the second.
+  std::vector<PrintChoice> printChoices() {
+    PrintChoice none;
+    none.name = QStringLiteral("Layered profile");
+    none.whyNot = QStringLiteral("there is no layered profile yet");
+    PrintChoice section;
+    section.name = QStringLiteral("Section");
+    section.places = PrintChoice::Places{0.0, 40.0, 20.0};
+    section.make = [this](double) { return printedSection(mLayered.document, {}); };
+    return {none, section};
   }
 
   static void show(QDialog& dialog) {

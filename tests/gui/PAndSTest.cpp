@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTest>
 
 namespace talvesk {
 namespace {
@@ -172,6 +173,19 @@ TEST_F(PAndS, areWrittenAsTableAndPicture) {
   EXPECT_THAT(testing::TestFolder::get(table.toStdString()),
               StartsWith("layer,position_m,elevation_m,top_p_m,top_s_m,vp_m_s,vs_m_s,"));
   EXPECT_THAT(testing::TestFolder::get(picture.toStdString()), HasSubstr("Poisson"));
+}
+
+TEST_F(PAndS, arePrintedFromTheirDialog) {
+  putTogether(s, [&](QWidget& dialog) {
+    dialogs.expect([](QWidget& print) {
+      EXPECT_EQ(part<QComboBox>(print, "figureCombo").currentText(), QStringLiteral("P and S"));
+      part<QComboBox>(print, "scaleCombo").setEditText(QStringLiteral("Fit to the page"));
+      const auto& save = part<QPushButton>(print, "pdfButton");
+      EXPECT_TRUE(QTest::qWaitFor([&save] { return save.isEnabled(); }));
+      print.close();
+    });
+    part<QPushButton>(dialog, "printButton").click();
+  });
 }
 
 TEST_F(PAndS, needTwoProjectsWithLayers) {

@@ -89,6 +89,7 @@ void ElasticDialog::connectAll() {
   connect(mUi->tableButton, &QPushButton::clicked, this, [this] { tableWanted(mLine); });
   connect(mUi->pictureButton, &QPushButton::clicked, this,
           [this] { pictureWanted(mLine, picture()); });
+  connect(mUi->printButton, &QPushButton::clicked, this, [this] { printWanted(mLine, picture()); });
 }
 
 void ElasticDialog::setOther(ElasticSurvey other) {
@@ -167,7 +168,8 @@ void ElasticDialog::match() {
   for (std::size_t i = 0; i < std::size(densities); ++i) {
     densities[i]->setEnabled(constants && (!status.ok() || i < mLine.layers.size()));
   }
-  for (QPushButton* button : {mUi->copyButton, mUi->tableButton, mUi->pictureButton}) {
+  for (QPushButton* button :
+       {mUi->copyButton, mUi->tableButton, mUi->pictureButton, mUi->printButton}) {
     button->setEnabled(status.ok());
   }
   mUi->notesLabel->setText(notes(status));

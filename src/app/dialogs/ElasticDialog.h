@@ -39,9 +39,10 @@ class ElasticDialog : public QDialog {
   /// Takes another survey for the other wave, and guesses anew which of the two is of S.
   void setOther(ElasticSurvey other);
 
-  /// Asked for another survey, and to write what is shown.
+  /// Asked for another survey, and to write or print what is shown.
   std::function<void()> otherWanted;
   std::function<void(const ElasticLine&, const ElasticFigureOptions&)> pictureWanted;
+  std::function<void(const ElasticLine&, const ElasticFigureOptions&)> printWanted;
   std::function<void(const ElasticLine&)> tableWanted;
 
  private:

@@ -72,6 +72,7 @@ Rows fileRows(Desk& desk, Presenters& p) {
       {"actionExportTomographic_profile_2_KML", &State::lineAndGrid,
        call(p.exports, &ExportPresenter::exportSectionKml)},
       {"actionExportSeismic_line", &State::line, call(p.exports, &ExportPresenter::exportLineKml)},
+      {"actionPrint", &State::drawable, call(p.prints, &PrintPresenter::print)},
       {"actionImages", &State::drawable, call(p.reports, &ReportPresenter::writePictures)},
       {"actionShot_sheet", &State::traces, call(p.sheets, &GatherSheetPresenter::ask)},
       {"actionScreenshot", &State::grid, call(p.reports, &ReportPresenter::takeScreenshot)},

@@ -31,6 +31,11 @@ void DepthProfilePresenter::show() {
   mDialog->raise();
 }
 
+std::optional<double> DepthProfilePresenter::place() const {
+  if (mDialog == nullptr) return std::nullopt;
+  return mDialog->profile().x;
+}
+
 void DepthProfilePresenter::refresh() {
   mDialog->setSection(DepthProfiles(mDesk.document()));
 }

@@ -3,6 +3,7 @@
 #include "app/presenters/Desk.h"
 
 #include <QObject>
+#include <optional>
 
 namespace talvesk {
 
@@ -16,6 +17,8 @@ class DepthProfilePresenter : public QObject {
   explicit DepthProfilePresenter(Desk& desk);
 
   void show();
+  /// Of the line, that the window shows or last showed, metres; none where it never did.
+  std::optional<double> place() const;
 
  private:
   void refresh();

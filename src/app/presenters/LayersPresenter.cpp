@@ -7,6 +7,7 @@
 #include "app/dialogs/StartLayersDialog.h"
 #include "app/presenters/FileExport.h"
 #include "app/presenters/ModelPresenter.h"
+#include "app/presenters/PrintPresenter.h"
 #include "app/presenters/ProjectPresenter.h"
 #include "export/ComparisonText.h"
 #include "export/ElasticText.h"
@@ -117,6 +118,9 @@ void LayersPresenter::putWavesTogether() {
     if (file.isEmpty()) return;
     exportTo(mDesk, file,
              [&](const std::string& path) { return writeElasticFigure(line, shown, path); });
+  };
+  dialog.printWanted = [this](const ElasticLine& line, const ElasticFigureOptions& shown) {
+    mPrints.printElastic(line, shown);
   };
   dialog.tableWanted = [this](const ElasticLine& line) {
     const QString file =

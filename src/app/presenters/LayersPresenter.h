@@ -8,6 +8,7 @@
 namespace talvesk {
 
 class ModelPresenter;
+class PrintPresenter;
 class ProjectPresenter;
 struct ElasticSurvey;
 
@@ -16,8 +17,9 @@ class LayersPresenter : public QObject {
   Q_DECLARE_TR_FUNCTIONS(talvesk::Talvesk_MainWindows)
 
  public:
-  LayersPresenter(Desk& desk, ModelPresenter& models, ProjectPresenter& projects)
-      : mDesk(desk), mModels(models), mProjects(projects) {}
+  LayersPresenter(Desk& desk, ModelPresenter& models, ProjectPresenter& projects,
+                  PrintPresenter& prints)
+      : mDesk(desk), mModels(models), mProjects(projects), mPrints(prints) {}
 
   /// Puts the profile into the grid, as the user wants it; without a grid asks for one first.
   void start();
@@ -33,6 +35,7 @@ class LayersPresenter : public QObject {
   Desk& mDesk;
   ModelPresenter& mModels;
   ProjectPresenter& mProjects;
+  PrintPresenter& mPrints;
 };
 
 }  // namespace talvesk

@@ -21,6 +21,7 @@
 #include "app/presenters/LayersPresenter.h"
 #include "app/presenters/ModelPresenter.h"
 #include "app/presenters/PalettePresenter.h"
+#include "app/presenters/PrintPresenter.h"
 #include "app/presenters/ProcessingPresenter.h"
 #include "app/presenters/ProjectPresenter.h"
 #include "app/presenters/ReciprocityPresenter.h"
@@ -89,6 +90,7 @@ struct Presenters {
   ProcessingPresenter processing;
   ReviewPresenter review;
   RefractionPresenter refraction;
+  PrintPresenter prints;
   LayersPresenter layers;
   FencePresenter fence;
   ExportPresenter exports;

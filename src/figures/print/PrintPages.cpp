@@ -1,0 +1,225 @@
+#include "figures/print/PrintPages.h"
+
+#include "figures/FigureOutput.h"
+#include "figures/print/PrintTiles.h"
+#include "figures/print/TitleBlock.h"
+
+#include <QByteArray>
+#include <QPainter>
+#include <QSizeF>
+#include <QString>
+#include <algorithm>
+#include <cmath>
+
+namespace talvesk {
+namespace {
+
+/// Figures without a scale have words made for sheets of this width, and grow with larger ones.
+constexpr double kReadableMm = 280.0;
+
+QSizeF roomOn(const PrintSheet& sheet) {
+  return {sheet.widthMm - 2.0 * PrintSheet::kMarginMm,
+          sheet.heightMm - 2.0 * PrintSheet::kMarginMm - PrintTiles::kBlockGapMm -
+              TitleBlock::kHeightMm};
+}
+
+bool fits(const FigureSheet& figure, const QSizeF& room) {
+  constexpr double kRounding = 1e-6;
+  return figure.widthMm <= room.width() + kRounding && figure.heightMm <= room.height() + kRounding;
+}
+
+Status layOut(const PrintFigure& figure, const PrintSettings& settings, double scale,
+              const QSizeF& room, LaidFigure& laid) {
+  const PrintSize size{scale, room.width(), room.height(), settings.exaggeration, settings.msPerCm};
+  if (figure.alongLine) return figure.layOut(size, laid);
+  const double magnified = std::max(room.width() / kReadableMm, 1.0);
+  PrintSize readable = size;
+  readable.widthMm /= magnified;
+  readable.heightMm /= magnified;
+  Status status = figure.layOut(readable, laid);
+  FigureSheet& sheet = laid.drawing.sheet;
+  const double factor = std::min(room.width() / sheet.widthMm, room.height() / sheet.heightMm);
+  if (!status.ok() || factor == 1.0) return status;
+  sheet.widthMm *= factor;
+  sheet.heightMm *= factor;
+  laid.drawing.paint = [factor, paint = laid.drawing.paint](QPainter& painter, const QRectF& rect) {
+    painter.save();
+    painter.translate(rect.topLeft());
+    painter.scale(factor, factor);
+    paint(painter, QRectF(QPointF(), rect.size() / factor));
+    painter.restore();
+  };
+  return status;
+}
+
+/// The first of ascending scales at which the figure has room; 0: none.
+double firstThatFits(const PrintFigure& figure, const PrintSettings& settings, const QSizeF& room,
+                     const std::vector<double>& scales) {
+  const auto first = std::partition_point(scales.begin(), scales.end(), [&](double scale) {
+    LaidFigure laid;
+    return !layOut(figure, settings, scale, room, laid).ok() || !fits(laid.drawing.sheet, room);
+  });
+  return first == scales.end() ? 0.0 : *first;
+}
+
+/// Those of three digits.
+std::vector<double> finelyGraded() {
+  std::vector<double> scales;
+  for (double unit = 0.01; unit < PrintSheet::kMostScale / 100.0; unit *= 10.0) {
+    for (int digits = 100; digits < 1000; ++digits) scales.push_back(digits * unit);
+  }
+  scales.push_back(PrintSheet::kMostScale);
+  return scales;
+}
+
+void nameLargerPaper(const PrintFigure& figure, const PrintSettings& settings, PrintFit& fit) {
+  const PrintSheet& own = settings.sheet;
+  const bool lies = own.widthMm > own.heightMm;
+  double least = 0.0;
+  for (const Paper& paper : papers()) {
+    const double area = paper.widthMm * paper.heightMm;
+    if (least > 0.0 && area >= least) continue;
+    for (const bool landscape : {lies, !lies}) {
+      const PrintSheet sheet = PrintSheet::on(paper, landscape, own.scale);
+      const QSizeF room = roomOn(sheet);
+      LaidFigure laid;
+      if (!layOut(figure, settings, own.scale, room, laid).ok()) continue;
+      if (!fits(laid.drawing.sheet, room)) continue;
+      fit.paper = paper.name;
+      fit.landscape = landscape;
+      least = area;
+      break;
+    }
+  }
+}
+
+Status check(const PrintFigure& figure, const PrintSettings& settings) {
+  const double scale = settings.sheet.scale;
+  const bool within = scale >= PrintSheet::kLeastScale && scale <= PrintSheet::kMostScale;
+  if (figure.alongLine && !within && scale != PrintSheet::kToFit) {
+    return Status::failure(Message::tr("The scale must lie between 1:%1 and 1:%2.")
+                               .arg(PrintSheet::kLeastScale)
+                               .arg(Message::number(PrintSheet::kMostScale, 10)));
+  }
+  if (const double ms = settings.msPerCm;
+      ms != 0.0 && !(ms >= PrintSettings::kLeastMsPerCm && ms <= PrintSettings::kMostMsPerCm)) {
+    return Status::failure(Message::tr("A centimetre must be %1 to %2 ms.")
+                               .arg(PrintSettings::kLeastMsPerCm)
+                               .arg(Message::number(PrintSettings::kMostMsPerCm, 10)));
+  }
+  return FigureSheet{settings.sheet.widthMm, settings.sheet.heightMm, 150.0, {}}.check(
+      FigureFormat::kPdf);
+}
+
+/// Of one sheet, or of as many as it takes, at the scale that is asked for or that fills it.
+Status layOutOnPaper(const PrintFigure& figure, const PrintSettings& settings, double& scale,
+                     LaidFigure& laid) {
+  if (Status status = check(figure, settings); !status.ok()) return status;
+  const QSizeF room = roomOn(settings.sheet);
+  scale = figure.alongLine ? settings.sheet.scale : 1.0;
+  if (scale == PrintSheet::kToFit) {
+    scale = firstThatFits(figure, settings, room, finelyGraded());
+    if (scale == 0.0) scale = PrintSheet::kMostScale;  // fails, or does not fit, as it should
+  }
+  return layOut(figure, settings, scale, room, laid);
+}
+
+PrintFit fitOf(const PrintSettings& settings, const FigureSheet& figure) {
+  PrintFit fit;
+  const QSizeF room = roomOn(settings.sheet);
+  fit.fits = fits(figure, room);
+  fit.figureWidthMm = figure.widthMm;
+  fit.figureHeightMm = figure.heightMm;
+  fit.roomWidthMm = room.width();
+  fit.roomHeightMm = room.height();
+  const bool drawable = std::max(figure.widthMm, figure.heightMm) <= FigureSheet::kMaxMm;
+  const PrintTiles tiles(settings.sheet, {figure.widthMm, figure.heightMm});
+  if (drawable && tiles.columns * tiles.rows <= kMostPrintPages) {
+    fit.columns = tiles.columns;
+    fit.rows = tiles.rows;
+  }
+  return fit;
+}
+
+void findWays(const PrintFigure& figure, const PrintSettings& settings, PrintFit& fit) {
+  if (fit.fits || !figure.alongLine) return;
+  fit.byTimes = figure.upright == PrintFigure::Upright::kTime && settings.msPerCm > 0.0;
+  const QSizeF room = roomOn(settings.sheet);
+  fit.scale = firstThatFits(figure, settings, room,
+                            roundNumbers(std::max(settings.sheet.scale, PrintSheet::kLeastScale),
+                                         PrintSheet::kMostScale));
+  if (settings.sheet.scale != PrintSheet::kToFit) nameLargerPaper(figure, settings, fit);
+}
+
+/// Says what a figure takes that does not fit, and what would.
+Status refuse(const PrintFit& fit, double scale) {
+  if (fit.scale == 0.0 && fit.byTimes) {
+    return Status::failure(
+        Message::tr("The figure fits this sheet at no scale: choose a larger sheet, or more "
+                    "milliseconds to a centimetre."));
+  }
+  if (fit.scale == 0.0) {
+    return Status::failure(
+        Message::tr("The figure fits this sheet at no scale: choose a larger sheet."));
+  }
+  return Status::failure(
+      Message::tr("At 1:%1 the figure takes %2 x %3 mm, and the sheet has room "
+                  "for %4 x %5 mm: choose 1:%6 or a larger sheet, or have it split.")
+          .arg(scale)
+          .arg(std::ceil(fit.figureWidthMm))
+          .arg(std::ceil(fit.figureHeightMm))
+          .arg(std::floor(fit.roomWidthMm))
+          .arg(std::floor(fit.roomHeightMm))
+          .arg(Message::number(fit.scale, 10)));
+}
+
+}  // namespace
+
+Status preparePrint(const PrintFigure& figure, const PrintSettings& settings, PrintPages& pages,
+                    PrintFit* told) {
+  double scale = 0.0;
+  LaidFigure laid;
+  if (Status status = layOutOnPaper(figure, settings, scale, laid); !status.ok()) return status;
+  PrintFit fit = fitOf(settings, laid.drawing.sheet);
+  const bool split = settings.tiles && figure.alongLine;
+  if (!fit.fits && !(split && fit.columns > 0)) {
+    findWays(figure, settings, fit);
+    if (told != nullptr) *told = fit;
+    return refuse(fit, scale);
+  }
+  if (told != nullptr) *told = fit;
+  PrintTiles tiles(settings.sheet, {fit.figureWidthMm, fit.figureHeightMm});
+  const std::string& title = settings.title.empty() ? figure.title : settings.title;
+  tiles.block.title = QString::fromStdString(title).simplified();
+  if (figure.alongLine) tiles.block.scale = scale;
+  tiles.block.exaggeration = laid.exaggeration;
+  if (figure.upright == PrintFigure::Upright::kTime) tiles.block.msPerCm = settings.msPerCm;
+  pages.sheet = {settings.sheet.widthMm, settings.sheet.heightMm, 150.0, title};
+  pages.columns = tiles.columns;
+  pages.rows = tiles.rows;
+  pages.scale = tiles.block.scale;
+  pages.figureWidthMm = fit.figureWidthMm;
+  pages.figureHeightMm = fit.figureHeightMm;
+  pages.paint = [tiles, paint = laid.drawing.paint](std::size_t page, QPainter& painter,
+                                                    const QRectF& rect) {
+    tiles.paint(page, painter, rect, paint);
+  };
+  return {};
+}
+
+Status writePrint(const std::vector<PrintPages>& sets, const std::string& path) {
+  std::vector<std::pair<const PrintPages*, std::size_t>> all;
+  for (const PrintPages& set : sets) {
+    for (std::size_t page = 0; page < set.count(); ++page) all.emplace_back(&set, page);
+  }
+  const auto paint = [&all](std::size_t page, QPainter& painter, const QRectF& rect) {
+    all[page].first->paint(all[page].second, painter, rect);
+    return Status();
+  };
+  QByteArray bytes;
+  const FigureSheet sheet = sets.empty() ? FigureSheet() : sets.front().sheet;
+  const Status status = paintFigurePages(sheet, all.size(), paint, bytes);
+  return status.ok() ? writeBytes(path, bytes) : status;
+}
+
+}  // namespace talvesk

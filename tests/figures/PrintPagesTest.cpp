@@ -1,0 +1,371 @@
+#include "base/LengthUnit.h"
+#include "figures/print/PrintFigures.h"
+#include "figures/print/PrintPages.h"
+#include "model/InversionRecord.h"
+#include "model/SurveyLine.h"
+#include "support/SectionDocument.h"
+#include "support/ShotDocument.h"
+#include "support/TestFolder.h"
+
+#include <QByteArray>
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace talvesk {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+using testing::sectionDocument;
+using testing::shotDocument;
+using testing::TestFolder;
+
+double layers(std::uint32_t row, std::uint32_t) {
+  return 400.0 + 150.0 * row;
+}
+
+PrintSettings on(const std::string& name, bool landscape, double scale) {
+  for (const Paper& known : papers()) {
+    if (known.name != name) continue;
+    PrintSettings settings;
+    settings.sheet = PrintSheet::on(known, landscape, scale);
+    return settings;
+  }
+  throw std::invalid_argument(name);
+}
+
+PrintPages prepared(const PrintFigure& figure, const PrintSettings& settings) {
+  PrintPages pages;
+  const Status status = preparePrint(figure, settings, pages);
+  EXPECT_TRUE(status.ok()) << status.message();
+  return pages;
+}
+
+/// \param dpi a whole number of pixels
+QImage imageOf(const PrintPages& pages, double dpi, std::size_t page = 0) {
+  const double perMm = dpi / kMmPerInch;
+  QImage image(static_cast<int>(std::lround(pages.sheet.widthMm * perMm)),
+               static_cast<int>(std::lround(pages.sheet.heightMm * perMm)), QImage::Format_RGB32);
+  setResolution(image, dpi);
+  QPainter painter(&image);
+  pages.paint(page, painter, QRectF(image.rect()));
+  return image;
+}
+
+/// Middles of the runs of one colour along a row of pixels.
+std::vector<double> runsOf(const QImage& image, int row, QRgb color) {
+  std::vector<double> middles;
+  int begin = -1;
+  for (int column = 0; column < image.width(); ++column) {
+    const bool same = image.pixel(column, row) == color;
+    if (same && begin < 0) begin = column;
+    if (!same && begin >= 0) {
+      middles.push_back(0.5 * (begin + column - 1));
+      begin = -1;
+    }
+  }
+  return middles;
+}
+
+/// Between the first and the last geophone of level ground, as a ruler on the paper has it.
+double geophonesApartMm(const QImage& image, std::size_t geophones, double dpi) {
+  for (int row = 0; row < image.height(); ++row) {
+    const std::vector<double> middles = runsOf(image, row, qRgb(32, 32, 32));
+    if (middles.size() == geophones) {
+      return (middles.back() - middles.front()) / dpi * kMmPerInch;
+    }
+  }
+  return 0.0;
+}
+
+double lengthOf(const TomoDocument& document) {
+  const std::vector<Point2D>& geophones = document.line->goephonesStringSet[0];
+  return geophones.back().x - geophones.front().x;
+}
+
+TEST(PrintPages, geophonesAreAsFarApartOnPaperAsTheScaleHasIt) {
+  const TomoDocument section = sectionDocument(8, 30, 0.0, layers);
+  const TomoDocument shots = shotDocument(3, 24, 400);
+  const struct {
+    bool traces;
+    double scale;
+    const char* paper;
+    bool landscape;
+    double exaggeration, dpi;
+  } cases[] = {{false, 200.0, "A4", true, 0.0, 300.0},   {false, 250.0, "A4", false, 3.0, 150.0},
+               {false, 125.0, "A3", true, 1.0, 300.0},   {false, 500.0, "A3", true, 2.0, 400.0},
+               {true, 500.0, "Legal", true, 0.0, 300.0}, {true, 333.0, "A4", false, 0.0, 300.0}};
+  for (const auto& c : cases) {
+    PrintSettings settings = on(c.paper, c.landscape, c.scale);
+    settings.exaggeration = c.exaggeration;
+    const TomoDocument& document = c.traces ? shots : section;
+    const PrintFigure figure = c.traces ? printedGather(shots, 0, {}) : printedSection(section, {});
+    const QImage image = imageOf(prepared(figure, settings), c.dpi);
+    const std::size_t geophones = document.line->goephonesStringSet[0].size();
+    EXPECT_NEAR(geophonesApartMm(image, geophones, c.dpi), 1e3 * lengthOf(document) / c.scale,
+                1.5 * kMmPerInch / c.dpi)
+        << c.scale << " " << c.paper;
+  }
+}
+
+/// What a page of a PDF is painted with.
+std::string contentOf(const std::string& pdf) {
+  const std::size_t begin = pdf.find("stream\n") + 7;
+  const std::size_t end = pdf.find("endstream", begin);
+  QByteArray packed("\0\0\x10\0", 4);  // qUncompress() wants a guess at the size
+  packed.append(pdf.data() + begin, static_cast<int>(end - begin));
+  return qUncompress(packed).toStdString();
+}
+
+TEST(PrintPages, inThePdfTenMetresAreTwentyMillimetresAtOneTo500) {
+  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  const TestFolder folder;
+  const PrintPages pages = prepared(printedSection(document, {}), on("A3", true, 500.0));
+  ASSERT_TRUE(writePrint({pages}, folder.file("a.pdf")).ok());
+  const std::string content = contentOf(TestFolder::get(folder.file("a.pdf")));
+  // 1200 units to an inch, and within the figure 96.
+  ASSERT_THAT(content, AllOf(HasSubstr("0.060000000 0 0 -0.060000000 0 842 cm"),
+                             HasSubstr("12.5000000 0 0 12.5000000 ")));
+  // Geophones are triangles of their own colour, which begin at the tip.
+  const std::size_t from = content.find("0.125490196 0.125490196 0.125490196 scn");
+  ASSERT_NE(from, std::string::npos);
+  std::istringstream marks(content.substr(from, content.find("scn", from + 40) - from));
+  std::vector<double> tips;
+  for (std::string line; std::getline(marks, line);) {
+    if (line.size() > 2 && line.substr(line.size() - 2) == " m") tips.push_back(std::stod(line));
+  }
+  ASSERT_EQ(tips.size(), document.line->goephonesStringSet[0].size());
+  const double mm = (tips.back() - tips.front()) / 96.0 * kMmPerInch;
+  EXPECT_NEAR(mm, 2.0 * lengthOf(document), 1e-3);
+}
+
+/// How far colours reach across and down.
+QSizeF colouredMm(const PrintPages& pages) {
+  constexpr double kDpi = 200.0;
+  const QImage image = imageOf(pages, kDpi);
+  QRect reach;
+  for (int row = 0; row < image.height(); ++row) {
+    for (int column = 0; column < image.width(); ++column) {
+      if (image.pixelColor(column, row).saturation() >= 60) reach |= QRect(column, row, 1, 1);
+    }
+  }
+  return QSizeF(reach.size()) / kDpi * kMmPerInch;
+}
+
+TEST(PrintPages, curvesGrowOnPaperAsTheScaleHasIt) {
+  const TomoDocument document = shotDocument(12, 24, 0);
+  const double metres =
+      document.line->goephonesStringSet[0].back().x - document.ttArray[0].shotPos2d.x;
+  const auto mmAt = [&](double scale) {
+    return colouredMm(prepared(printedCurves(document, {}), on("A3", true, scale))).width();
+  };
+  // The symbols at the ends reach beyond their places, equally far at every scale.
+  EXPECT_NEAR(mmAt(200.0) - mmAt(400.0), 1e3 * metres * (1.0 / 200.0 - 1.0 / 400.0), 0.4);
+  EXPECT_NEAR(mmAt(200.0), 1e3 * metres / 200.0, 6.0);
+}
+
+TEST(PrintPages, timesAreAsHighAsMillisecondsToACentimetreHaveIt) {
+  const TomoDocument document = shotDocument(3, 24, 400);
+  // From the shot up to the last pick; and from it through the record down to the legend.
+  const std::pair<PrintFigure, double> cases[] = {
+      {printedCurves(document, {}), 1e3 * testing::firstBreak(23)},
+      {printedGather(document, 0, {}), 399 * 0.25}};
+  for (const auto& [figure, lasts] : cases) {
+    const auto mmAt = [&, &drawn = figure](double msPerCm) {
+      PrintSettings settings = on("A3", true, 250.0);
+      settings.msPerCm = msPerCm;
+      return colouredMm(prepared(drawn, settings)).height();
+    };
+    EXPECT_NEAR(mmAt(5.0) - mmAt(10.0), 10.0 * lasts * (1.0 / 5.0 - 1.0 / 10.0), 0.4);
+    PrintSettings high = on("A3", true, 250.0);
+    high.msPerCm = 0.5;
+    PrintPages pages;
+    EXPECT_THAT(preparePrint(figure, high, pages).message(),
+                HasSubstr("or more milliseconds to a centimetre"));
+  }
+}
+
+TEST(PrintPages, whatDoesNotFitIsRefusedWithAScaleAndAPaperThatDo) {
+  const TomoDocument section = sectionDocument(8, 30, 0.0, layers);
+  const TomoDocument shots = shotDocument(12, 24, 400);
+  const PrintFigure figures[] = {printedSection(section, {}), printedCurves(shots, {}),
+                                 printedGather(shots, 2, {})};
+  for (const PrintFigure& figure : figures) {
+    const PrintSettings tried = on("A4", false, 100.0);
+    PrintPages pages;
+    PrintFit fit;
+    const std::string words = preparePrint(figure, tried, pages, &fit).message();
+    const std::size_t at = words.find("choose 1:");
+    ASSERT_NE(at, std::string::npos) << words;
+    PrintSettings named = tried;
+    named.sheet.scale = std::stod(words.substr(at + 9));
+    EXPECT_GT(named.sheet.scale, 100.0);
+    EXPECT_LE(named.sheet.scale, 500.0) << words;
+    prepared(figure, named);
+
+    EXPECT_FALSE(fit.fits);
+    EXPECT_EQ(fit.scale, named.sheet.scale);
+    ASSERT_FALSE(fit.paper.empty());
+    prepared(figure, on(fit.paper, fit.landscape, 100.0));
+    PrintSettings split = tried;
+    split.tiles = true;
+    const PrintPages sheets = prepared(figure, split);
+    EXPECT_EQ(sheets.columns, fit.columns);
+    EXPECT_EQ(sheets.rows, fit.rows);
+    EXPECT_GT(sheets.count(), 1U);
+  }
+  PrintPages pages;
+  PrintSettings huge = on("A4", false, 1.0);
+  huge.tiles = true;  // larger than any drawing
+  EXPECT_THAT(preparePrint(figures[0], huge, pages).message(), HasSubstr("choose 1:"));
+}
+
+TEST(PrintPages, refusesScalesThatAreNone) {
+  const TomoDocument section = sectionDocument(8, 30, 0.0, layers);
+  PrintPages pages;
+  for (const double scale : {-5.0, 0.5, 1e9, std::nan("")}) {
+    EXPECT_THAT(preparePrint(printedSection(section, {}), on("A3", true, scale), pages).message(),
+                HasSubstr("The scale must lie between 1:1 and 1:1000000"));
+  }
+  PrintSettings settings = on("A3", true, 500.0);
+  settings.msPerCm = -1.0;
+  EXPECT_FALSE(preparePrint(printedCurves(section, {}), settings, pages).ok());
+  settings = on("A3", true, 500.0);
+  settings.exaggeration = 1e9;
+  EXPECT_FALSE(preparePrint(printedSection(section, {}), settings, pages).ok());
+}
+
+TEST(PrintPages, sheetsPutTogetherAreOneFigureTrueToScale) {
+  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  PrintSettings settings = on("A4", true, 40.0);
+  settings.tiles = true;
+  const PrintPages pages = prepared(printedSection(document, {}), settings);
+  ASSERT_GT(pages.columns, 2U);
+  constexpr double kDpi = 254.0;  // ten pixels to a millimetre
+  const int margin = 100;
+  const QSize room(2770, 1900);
+  const QSize step(room.width() - 100, room.height() - 100);
+  QImage whole(step.width() * static_cast<int>(pages.columns) + 100, room.height(),
+               QImage::Format_RGB32);
+  const std::size_t row = 0;
+  for (std::size_t column = 0; column < pages.columns; ++column) {
+    const QImage all = imageOf(pages, kDpi, row * pages.columns + column);
+    for (int x = 0; x < margin; ++x) {
+      ASSERT_EQ(all.pixel(x, 300), qRgb(255, 255, 255)) << "the margin is blank at " << x;
+    }
+    const QImage sheet = all.copy(QRect({margin, margin}, room));
+    const int left = static_cast<int>(column) * step.width();
+    if (column > 0) {
+      // Above the block, what two sheets have in common is the same, marks and all.
+      const QRect common(left, 0, 100, 1600);
+      EXPECT_EQ(whole.copy(common), sheet.copy(QRect(0, 0, 100, 1600))) << column;
+    }
+    QPainter(&whole).drawImage(left, 0, sheet);
+  }
+  EXPECT_NEAR(geophonesApartMm(whole, document.line->goephonesStringSet[0].size(), kDpi),
+              1e3 * lengthOf(document) / 40.0, 0.2);
+}
+
+TEST(PrintPages, toFitIsTheLargestScaleOfThreeDigits) {
+  const TomoDocument section = sectionDocument(8, 30, 0.0, layers);
+  const TomoDocument shots = shotDocument(5, 24, 400);
+  const PrintFigure figures[] = {printedSection(section, {}), printedCurves(shots, {}),
+                                 printedGather(shots, 0, {})};
+  for (const PrintFigure& figure : figures) {
+    for (const bool landscape : {true, false}) {
+      const PrintPages pages = prepared(figure, on("A3", landscape, PrintSheet::kToFit));
+      const double unit = std::pow(10.0, std::floor(std::log10(pages.scale)) - 2.0);
+      EXPECT_NEAR(std::remainder(pages.scale, unit), 0.0, 1e-6 * unit);
+      prepared(figure, on("A3", landscape, pages.scale));
+      PrintPages larger;
+      EXPECT_FALSE(preparePrint(figure, on("A3", landscape, pages.scale - unit), larger).ok())
+          << pages.scale;
+    }
+  }
+}
+
+TEST(PrintPages, figuresWithoutALengthFillTheSheetAtAnyScale) {
+  TomoDocument document;
+  InversionRecord record;
+  for (int i = 0; i < 5; ++i) {
+    SectionMisfit misfit;
+    misfit.rmse = 0.002 / (1 + i);
+    misfit.count = 40;
+    record.sectionHistory.push_back(misfit);
+  }
+  for (const char* paper : {"A4", "A0"}) {
+    const PrintPages pages = prepared(printedMisfit(document, record), on(paper, true, 1.0));
+    EXPECT_EQ(pages.count(), 1U);
+    EXPECT_EQ(pages.scale, 0.0);
+    EXPECT_NEAR(std::max(pages.figureWidthMm / (pages.sheet.widthMm - 20.0),
+                         pages.figureHeightMm / (pages.sheet.heightMm - 39.0)),
+                1.0, 1e-6);
+  }
+}
+
+std::string svgOf(const PrintPages& pages, std::size_t page = 0) {
+  QByteArray bytes;
+  const Status status = paintFigure(
+      FigureFormat::kSvg, pages.sheet,
+      [&](QPainter& painter, const QRectF& rect) { pages.paint(page, painter, rect); }, bytes);
+  EXPECT_TRUE(status.ok()) << status.message();
+  return bytes.toStdString();
+}
+
+TEST(PrintPages, theBlockTellsTitleScalesAndLengthOfTheBar) {
+  TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  document.title = "Dam & toe";
+  SectionFigureOptions options;
+  options.verticalExaggeration = 2.0;
+  const PrintFigure figure = printedSection(document, options);
+  const std::string picture = svgOf(prepared(figure, on("A3", true, 500.0)));
+  for (const char* text : {"Scale 1:500", "Elevation 1:250", "Dam &amp; toe", ">25 m<"}) {
+    EXPECT_THAT(picture, HasSubstr(text));
+  }
+  PrintSettings other = on("A3", true, 500.0);
+  other.title = "Lot 7";
+  other.exaggeration = 1.0;
+  EXPECT_THAT(svgOf(prepared(figure, other)),
+              AllOf(HasSubstr("Lot 7"), Not(HasSubstr("Dam")), Not(HasSubstr("Elevation 1:"))));
+  setLengthUnit(LengthUnit::kFoot);
+  EXPECT_THAT(svgOf(prepared(figure, on("A3", true, 500.0))), HasSubstr(">100 ft<"));
+  setLengthUnit(LengthUnit::kMetre);
+}
+
+TEST(PrintPages, sheetsOfSeveralTellTheirPlace) {
+  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  PrintSettings settings = on("A4", true, 40.0);
+  settings.tiles = true;
+  const PrintPages pages = prepared(printedSection(document, {}), settings);
+  const std::string second = svgOf(pages, 1);
+  EXPECT_THAT(second,
+              HasSubstr("Sheet 2 of " + std::to_string(pages.count()) + ": row 1, column 2"));
+}
+
+TEST(PrintPages, aFileHasAllSheetsOfAllFigures) {
+  const TomoDocument document = shotDocument(3, 24, 400);
+  std::vector<PrintPages> sets;
+  for (std::size_t shot = 0; shot < 3; ++shot) {
+    sets.push_back(prepared(printedGather(document, shot, {}), on("A3", true, 500.0)));
+  }
+  const TestFolder folder;
+  ASSERT_TRUE(writePrint(sets, folder.file("a.pdf")).ok());
+  const std::string pdf = TestFolder::get(folder.file("a.pdf"));
+  EXPECT_THAT(pdf, AllOf(::testing::StartsWith("%PDF-1."), HasSubstr("/Count 3")));
+  EXPECT_FALSE(writePrint({}, folder.file("b.pdf")).ok());
+}
+
+}  // namespace
+}  // namespace talvesk
