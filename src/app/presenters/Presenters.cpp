@@ -41,6 +41,7 @@ Presenters::Presenters(Desk& desk)
       drawings(desk),
       records(desk),
       reports(desk, layered),
+      campaign(desk),
       help(desk),
       guidance(desk),
       search(desk) {

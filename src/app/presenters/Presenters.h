@@ -2,6 +2,7 @@
 
 #include "app/LayeredModel.h"
 #include "app/presenters/AnnotationsPresenter.h"
+#include "app/presenters/CampaignPresenter.h"
 #include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
 #include "app/presenters/CommandSearchPresenter.h"
@@ -90,6 +91,7 @@ struct Presenters {
   DrawingPresenter drawings;
   RecordExportPresenter records;
   ReportPresenter reports;
+  CampaignPresenter campaign;
   HelpPresenter help;
   GuidancePresenter guidance;
   CommandSearchPresenter search;
