@@ -1751,7 +1751,7 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Bild &amp;speichern ...</translation>
     </message>
     <message>
-        <source>Show &amp;all</source>
+        <source>S&amp;how all</source>
         <translation>&amp;Alles zeigen</translation>
     </message>
     <message>
@@ -11869,7 +11869,7 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Spalten der Tabelle</translation>
     </message>
     <message>
-        <source>S&amp;eparator</source>
+        <source>&amp;Separator</source>
         <translation>T&amp;rennzeichen</translation>
     </message>
     <message>
@@ -11877,7 +11877,7 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Trennzeichen</translation>
     </message>
     <message>
-        <source>C&amp;oordinates</source>
+        <source>&amp;Coordinates</source>
         <translation>K&amp;oordinaten</translation>
     </message>
     <message>
@@ -11949,7 +11949,7 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Form der Messlinie</translation>
     </message>
     <message>
-        <source>Len&amp;gth</source>
+        <source>Lengt&amp;h</source>
         <translation>Län&amp;ge</translation>
     </message>
     <message>

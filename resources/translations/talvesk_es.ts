@@ -1751,7 +1751,7 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>&amp;Guardar imagen ...</translation>
     </message>
     <message>
-        <source>Show &amp;all</source>
+        <source>S&amp;how all</source>
         <translation>Ver &amp;todo</translation>
     </message>
     <message>
@@ -11869,7 +11869,7 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Columnas de la tabla</translation>
     </message>
     <message>
-        <source>S&amp;eparator</source>
+        <source>&amp;Separator</source>
         <translation>Separad&amp;or</translation>
     </message>
     <message>
@@ -11877,7 +11877,7 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Separador</translation>
     </message>
     <message>
-        <source>C&amp;oordinates</source>
+        <source>&amp;Coordinates</source>
         <translation>Coor&amp;denadas</translation>
     </message>
     <message>
@@ -11949,7 +11949,7 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Forma de la línea</translation>
     </message>
     <message>
-        <source>Len&amp;gth</source>
+        <source>Lengt&amp;h</source>
         <translation>Dis&amp;tancias</translation>
     </message>
     <message>

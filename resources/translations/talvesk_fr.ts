@@ -1751,7 +1751,7 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>&amp;Enregistrer l&apos;image ...</translation>
     </message>
     <message>
-        <source>Show &amp;all</source>
+        <source>S&amp;how all</source>
         <translation>&amp;Tout afficher</translation>
     </message>
     <message>
@@ -11869,7 +11869,7 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Colonnes du tableau</translation>
     </message>
     <message>
-        <source>S&amp;eparator</source>
+        <source>&amp;Separator</source>
         <translation>&amp;Séparateur</translation>
     </message>
     <message>
@@ -11877,7 +11877,7 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Séparateur</translation>
     </message>
     <message>
-        <source>C&amp;oordinates</source>
+        <source>&amp;Coordinates</source>
         <translation>&amp;Coordonnées</translation>
     </message>
     <message>
@@ -11949,7 +11949,7 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Forme de la ligne</translation>
     </message>
     <message>
-        <source>Len&amp;gth</source>
+        <source>Lengt&amp;h</source>
         <translation>Longue&amp;ur</translation>
     </message>
     <message>

@@ -1751,7 +1751,7 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Salva &amp;immagine ...</translation>
     </message>
     <message>
-        <source>Show &amp;all</source>
+        <source>S&amp;how all</source>
         <translation>Mostra &amp;tutto</translation>
     </message>
     <message>
@@ -11869,7 +11869,7 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Colonne della tabella</translation>
     </message>
     <message>
-        <source>S&amp;eparator</source>
+        <source>&amp;Separator</source>
         <translation>&amp;Separatore</translation>
     </message>
     <message>
@@ -11877,7 +11877,7 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Separatore</translation>
     </message>
     <message>
-        <source>C&amp;oordinates</source>
+        <source>&amp;Coordinates</source>
         <translation>&amp;Coordinate</translation>
     </message>
     <message>
@@ -11949,7 +11949,7 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Forma della linea</translation>
     </message>
     <message>
-        <source>Len&amp;gth</source>
+        <source>Lengt&amp;h</source>
         <translation>L&amp;unghezza</translation>
     </message>
     <message>

@@ -15,15 +15,23 @@ function roundLength(most) {
   return [5, 2, 1].map((factor) => factor * power).find((length) => length <= most / 2);
 }
 
+function extentOf(values) {
+  const least = values.reduce((a, b) => Math.min(a, b));
+  const most = values.reduce((a, b) => Math.max(a, b));
+  return { middle: (least + most) / 2, size: most - least };
+}
+
 function showMap(place, map) {
   const [east0, north0, east1, north1] = map.ends;
-  const size = Math.max(Math.abs(east1 - east0), Math.abs(north1 - north0));
+  const course = map.course ?? [[east0, north0], [east1, north1]];
+  const [east, north] = [0, 1].map((axis) => extentOf(course.map((point) => point[axis])));
+  const size = Math.max(east.size, north.size);
   const scale = 260 / size;
-  const x = (east) => 200 + (east - (east0 + east1) / 2) * scale;
-  const y = (north) => 190 - (north - (north0 + north1) / 2) * scale;
+  const x = (value) => 200 + (value - east.middle) * scale;
+  const y = (value) => 190 - (value - north.middle) * scale;
   const svg = shape('svg', { viewBox: '0 0 400 380', class: 'map', role: 'img', 'aria-label': words.mapText });
   svg.append(
-    shape('line', { x1: x(east0), y1: y(north0), x2: x(east1), y2: y(north1), class: 'line' }),
+    shape('polyline', { points: course.map(([e, n]) => `${x(e)},${y(n)}`).join(' '), class: 'line' }),
     shape('circle', { cx: x(east0), cy: y(north0), r: 6, class: 'first' }),
     shape('circle', { cx: x(east1), cy: y(north1), r: 6, class: 'last' }),
     shape('path', { d: 'M 375 20 l 8 22 l -8 -6 l -8 6 z', class: 'north' }),

@@ -33,6 +33,7 @@ constexpr CommandIcon kIcons[] = {
     {"actionPalette", ":/icons/pantone.png"},
     {"actionODT", ":/icons/odt-document-outlined-interface-symbol.png"},
     {"actionWeb_page", ":/icons/web-page.png"},
+    {"actionCampaign_page", ":/icons/web-page.png"},
     {"actionShow_Contour_Lines", ":/icons/isolines.png"},
     {"actionSave_Project", ":/icons/save-file-option.png"},
     {"actionApply_Hushel", ":/icons/Hushel_Icon.png"},

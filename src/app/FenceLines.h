@@ -15,9 +15,15 @@ struct FenceLine {
   TomoDocument document;
 };
 
-/// Stands lines at their places on the map, straight from the first geophone to the last one, in
-/// the system of the first that has a place.
-/// \param leftOut a line for each that cannot stand there, and why
-FenceScene fenceOf(const std::vector<FenceLine>& lines, QStringList& leftOut);
+/// What users are told of lines that do not stand in a fence as their projects have them, a text
+/// for each.
+struct FenceNotes {
+  QStringList leftOut;    ///< that cannot stand there, and why
+  QStringList converted;  ///< whose places are of another system than that of the fence
+};
+
+/// Stands lines at their places on the map, along the course that they have there, in the system of
+/// the first that has a place.
+FenceScene fenceOf(const std::vector<FenceLine>& lines, FenceNotes& notes);
 
 }  // namespace talvesk

@@ -30,6 +30,7 @@ void addInfo(CLI::App& app, InfoOptions& info) {
               "Write positions (metres) and times (seconds) as JSON; '-' is standard output. "
               "Several files make one array");
   addPickReading(command, info.picks);
+  addSurveyedOptions(command, info.surveyed);
   command.add_flag("--samples", info.samples, "Write the samples of shot files, too")->needs(json);
   CLI::Option* list = command.add_flag(
       "--list", info.listRuns,
@@ -59,6 +60,10 @@ void addInfo(CLI::App& app, InfoOptions& info) {
     }
     if (list->count() > 0 && std::none_of(info.files.begin(), info.files.end(), isProjectFile)) {
       throw CLI::ValidationError("--list", "only projects have inversion runs to list");
+    }
+    const bool oneSurvey = info.files.size() == 1 && !isShot(info.files.front());
+    if (!info.surveyed.table.empty() && !oneSurvey) {
+      throw CLI::ValidationError("--positions", "goes with one travel-time file or project");
     }
   });
 }
@@ -204,6 +209,7 @@ void addConvert(CLI::App& app, ConvertOptions& convert) {
                       "gets .otte")
           ->required(),
       writtenTravelTimeSuffixes(), false, true);
+  addSurveyedOptions(command, convert.surveyed);
   addPickReader(command, convert.picks);
   addPickReading(command, convert.picks);
   command.add_flag("--quiet", convert.quiet, kQuietHelp);

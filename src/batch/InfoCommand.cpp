@@ -6,6 +6,7 @@
 #include "batch/ProjectFiles.h"
 #include "batch/ResultJson.h"
 #include "batch/RunList.h"
+#include "batch/SurveyedPlaces.h"
 #include "grid/SurveyProfile.h"
 #include "io/FileFormats.h"
 #include "io/ReadingComparison.h"
@@ -117,6 +118,13 @@ class Inventory {
   }
 
  private:
+  /// Over which no outcome of the positions is written.
+  std::vector<std::string> inputs() const {
+    std::vector<std::string> all = mOptions.files;
+    all.push_back(mOptions.surveyed.table);
+    return all;
+  }
+
   static Status neitherKind(const std::string& file) {
     return Status::failure(file + ": its suffix is not of a travel-time file (" +
                                travelTimeSuffixes() + ") or a shot file (" + shotSuffixes() +
@@ -128,13 +136,16 @@ class Inventory {
     TravelTimeData data;
     TravelTimeReading reading = mOptions.picks;
     reading.byContent = mOptions.reader == ShotReader::kStandard;
-    const Status status = readPicks(file, reading, data);
+    Status status = readPicks(file, reading, data);
+    Survey survey;
+    if (status.ok()) status = placeBySurvey(mOptions.surveyed, inputs(), mOut, data, survey);
     take(file, status, data, [&] { return travelTimesJson(data); });
   }
 
   void addProject(const std::string& file) {
     LoadedProject project;
-    const Status status = readProject(file, project);
+    Status status = readProject(file, project);
+    if (status.ok()) status = placeBySurvey(mOptions.surveyed, inputs(), mOut, project);
     take(file, status, project, [&] { return projectJson(project); });
     if (status.ok() && mOptions.listRuns && mOptions.json.empty()) listRuns(project.document, mOut);
     if (status.ok() && mOptions.json.empty()) tellSamplesOnDisk(mOut);
@@ -207,8 +218,10 @@ Status writeHeaders(const InfoOptions& options) {
 }  // namespace
 
 int run(const InfoOptions& options) {
-  const std::vector<OutputFile> outputs = {{"--json", options.json},
-                                           {"--headers", options.headers}};
+  std::vector<OutputFile> outputs = {{"--json", options.json}, {"--headers", options.headers}};
+  if (!options.surveyed.json.empty()) {
+    outputs.push_back({"--positions-json", options.surveyed.json});
+  }
   const Channels channels = openChannels(outputs, false);
   const Status places = checkOutputFiles(outputs, options.files);
   if (places.code() == kWrongUsage) return wrongUsage("info", places.message());

@@ -38,6 +38,14 @@ inline constexpr const char* kStandardOutput = "-";
 
 // Paths that were not given are empty.
 
+/// Places of geophones and shots as surveyed.
+struct SurveyedPlaceOptions {
+  std::string table;                   ///< file of places
+  std::optional<StationsBy> stations;  ///< none: what fits best
+  SurveyedOptions placing;             ///< but for the stations
+  std::string json;                    ///< of what became of them
+};
+
 struct InfoOptions {
   std::vector<std::string> files;  ///< at least one
   TravelTimeReading picks;
@@ -46,14 +54,7 @@ struct InfoOptions {
   bool samples = false;
   bool listRuns = false;
   ShotReader reader = ShotReader::kRules;  ///< whose failure is that of the command
-};
-
-/// Places of geophones and shots as surveyed.
-struct SurveyedPlaceOptions {
-  std::string table;                   ///< file of places
-  std::optional<StationsBy> stations;  ///< none: what fits best
-  SurveyedOptions placing;             ///< but for the stations
-  std::string json;                    ///< of what became of them
+  SurveyedPlaceOptions surveyed;           ///< of one travel-time file or project
 };
 
 /// On what the first breaks are picked.
@@ -331,6 +332,7 @@ struct ExportOptions {
 struct ConvertOptions {
   std::string input;
   TravelTimeReading picks;
+  SurveyedPlaceOptions surveyed;
   std::string output;
   bool quiet = false;
 };

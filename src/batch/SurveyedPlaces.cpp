@@ -6,8 +6,8 @@
 #include "batch/OptionParsing.h"
 #include "batch/OutputFiles.h"
 #include "io/Survey.h"
-#include "io/SurveyedTable.h"
-#include "session/TableRules.h"
+#include "io/TravelTimeFile.h"
+#include "session/TakeSurveyed.h"
 
 #include <algorithm>
 #include <cmath>
@@ -90,13 +90,14 @@ Json pointJson(const SurveyedPoint& point, const std::vector<SurveyedRow>& rows)
   return json;
 }
 
-std::string reportOf(const SurveyedPlaceOptions& options, StationsBy stations,
-                     const SurveyedReading& reading, const SurveyedOutcome& outcome) {
+std::string reportOf(const SurveyedPlaceOptions& options, const TakenPositions& taken) {
+  const SurveyedReading& reading = taken.reading;
+  const SurveyedOutcome& outcome = taken.outcome;
   Json json = Json::object();
   json["table"] = options.table;
   json["line"] = wordOf(options.placing.shape, shapes());
   json["length"] = wordOf(options.placing.length, lengths());
-  json["stations"] = wordOf(stations, ways());
+  json["stations"] = wordOf(taken.stations, ways());
   json["epsg"] = reading.epsg > 0 ? Json(reading.epsg) : Json(nullptr);
   json["rms_across"] = outcome.rmsAcross;
   json["spacing"] = outcome.spacing;
@@ -183,31 +184,26 @@ Status placeBySurvey(const SurveyedPlaceOptions& options, const std::vector<std:
   Status status = options.json.empty()
                       ? Status()
                       : checkOutputFiles({{"--positions-json", options.json}}, inputs);
-  SurveyedTable table;
-  if (status.ok()) status = SurveyedTable::open(options.table, table);
-  SurveyedOptions placing = options.placing;
-  // Longitude and latitude go into their zone, not into that of another line's coordinates.
-  const MapPosition& map = *survey.document.map;
-  if (placing.epsg == 0 && map.geoCoord_isSet && !table.proposed().degrees) {
-    placing.epsg = map.geoCoord.CRS;
+  TakenPositions taken;
+  if (status.ok()) {
+    status = takeSurveyed(options.table, options.placing, options.stations, survey, taken);
   }
-  SurveyedReading reading;
-  if (status.ok()) status = table.read(table.proposed(), placing.epsg, reading);
   if (!status.ok()) return status;
-  const SurveyGeometry before = geometryOf(survey.document);
-  placing.epsg = reading.epsg;
-  placing.stations = options.stations.value_or(proposeStations(reading.rows, before));
-  SurveyedOutcome outcome;
-  status = placeSurveyed(reading.rows, placing, before, outcome);
-  if (!status.ok()) return Status::failure(joined(options.table, status.text()));
-  status = editSurvey(Edit::kSurveyedPositions, survey, [&](Survey& next) {
-    applySurveyed(outcome, next.document);
-    return Status();
-  });
-  if (!status.ok()) return status;
-  summarize(options, reading, outcome, out);
+  summarize(options, taken.reading, taken.outcome, out);
   if (options.json.empty()) return {};
-  return writeOutput(options.json, reportOf(options, placing.stations, reading, outcome));
+  return writeOutput(options.json, reportOf(options, taken));
+}
+
+Status placeBySurvey(const SurveyedPlaceOptions& options, const std::vector<std::string>& inputs,
+                     std::ostream& out, TravelTimeData& picks, Survey& survey) {
+  if (options.table.empty()) return {};
+  Status status = importTravelTimes(picks, survey.document);
+  if (status.ok()) status = placeBySurvey(options, inputs, out, survey);
+  if (!status.ok()) return status;
+  TravelTimeData placed = travelTimesOf(survey.document);
+  picks.strings = std::move(placed.strings);
+  picks.records = std::move(placed.records);
+  return status;
 }
 
 }  // namespace talvesk

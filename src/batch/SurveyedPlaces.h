@@ -14,6 +14,7 @@ class App;
 namespace talvesk {
 
 struct Survey;
+struct TravelTimeData;
 
 /// --positions and what goes with it, for every kind of input. `options` must outlive the parsing.
 void addSurveyedOptions(CLI::App& command, SurveyedPlaceOptions& options);
@@ -24,5 +25,11 @@ void addSurveyedOptions(CLI::App& command, SurveyedPlaceOptions& options);
 /// \param inputs of the command, over none of which the offsets are written
 Status placeBySurvey(const SurveyedPlaceOptions& options, const std::vector<std::string>& inputs,
                      std::ostream& out, Survey& survey);
+
+/// The same of a file of picks, whose positions become those that they have there. It has no place
+/// on the map: that is of `survey`.
+/// \param survey gets the picks, too; left empty where no table was given
+Status placeBySurvey(const SurveyedPlaceOptions& options, const std::vector<std::string>& inputs,
+                     std::ostream& out, TravelTimeData& picks, Survey& survey);
 
 }  // namespace talvesk

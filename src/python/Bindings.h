@@ -7,6 +7,7 @@ namespace talvesk::python {
 // What each source of the room adds to the module. A class comes before who takes or returns it.
 void bindSurvey(pybind11::module_& module);
 void bindMends(pybind11::module_& module);
+void bindPositions(pybind11::module_& module);
 void bindGrid(pybind11::module_& module);
 void bindInversion(pybind11::module_& module);
 void bindCertainty(pybind11::module_& module);

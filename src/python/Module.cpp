@@ -19,6 +19,7 @@ PYBIND11_MODULE(_talvesk, module) {
   module.def("_collected_warnings", python::collectedWarnings);
   python::bindSurvey(module);
   python::bindMends(module);
+  python::bindPositions(module);
   python::bindGrid(module);
   python::bindInversion(module);
   python::bindCertainty(module);

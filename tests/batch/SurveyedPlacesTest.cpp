@@ -65,6 +65,50 @@ TEST_F(SurveyedPlaces, leaveTheMapPositionWithoutACode) {
   EXPECT_THAT(contentsOf(in("a.otte")), HasSubstr(";60;"));
 }
 
+TEST_F(SurveyedPlaces, areThoseOfAConvertedFile) {
+  const std::string line = folder.write("line.otte", smallLine());
+  const std::vector<std::string> places = {"--positions", table(), "--length", "slope"};
+  const auto with = [&](std::vector<std::string> arguments) {
+    arguments.insert(arguments.end(), places.begin(), places.end());
+    return run(arguments);
+  };
+  ASSERT_EQ(run({"info", line, "--json", in("before.json")}).code, 0);
+  const Outcome info = with({"info", line, "--json", in("told.json")});
+  ASSERT_EQ(info.code, 0) << info.err;
+  EXPECT_THAT(info.out, HasSubstr("13 geophones, 0 shots"));
+  const Outcome outcome = with({"convert", line, in("placed.sgt"), "--positions-epsg", "32632"});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_THAT(outcome.err, HasSubstr("does not hold the place of the line on the map"));
+  ASSERT_EQ(run({"info", in("placed.sgt"), "--json", in("placed.json")}).code, 0);
+
+  const Json before = jsonOf("before.json");
+  const Json told = jsonOf("told.json");
+  const Json placed = jsonOf("placed.json");
+  EXPECT_EQ(before["strings"][0][12][0], 24.0);
+  for (const Json* each : {&told, &placed}) {
+    EXPECT_EQ((*each)["strings"][0][12], (Json{156.0, 756.0})) << (*each)["strings"].dump();
+    ASSERT_EQ((*each)["shots"].size(), before["shots"].size());
+    EXPECT_EQ((*each)["shots"][1]["times"], before["shots"][1]["times"]) << "the picks stay";
+  }
+  EXPECT_EQ(contentsOf(line), smallLine());
+}
+
+TEST_F(SurveyedPlaces, areOfOneSurvey) {
+  const std::string line = folder.write("line.otte", smallLine());
+  const std::string shot = writeSmallShots(folder).front();
+  for (const std::vector<std::string>& files : {std::vector<std::string>{line, line}, {shot}}) {
+    std::vector<std::string> arguments = {"info", "--positions", table()};
+    arguments.insert(arguments.end(), files.begin(), files.end());
+    const Outcome outcome = run(arguments);
+    EXPECT_EQ(outcome.code, 2);
+    EXPECT_THAT(outcome.err, HasSubstr("goes with one travel-time file or project"));
+  }
+  const Outcome same = run(
+      {"convert", line, in("a.otte"), "--positions", table(), "--positions-json", in("a.otte")});
+  EXPECT_EQ(same.code, 2) << same.err;
+  EXPECT_FALSE(folder.holds("a.otte"));
+}
+
 TEST_F(SurveyedPlaces, areRefusedWhole) {
   const std::string line = folder.write("line.otte", smallLine());
   const std::string wrong = folder.write("wrong.csv", "x,z\n0,1\n5,2\n");

@@ -8,6 +8,7 @@
 #include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/Residuals.h"
+#include "model/SurveyLine.h"
 #include "model/TomographyOutcome.h"
 #include "refraction/PicksFingerprint.h"
 #include "support/ConsoleCapture.h"
@@ -182,6 +183,25 @@ TEST(Report, tellsOfWhatTheSurveyHas) {
     EXPECT_THAT(textsOf(content, Kind::kParagraph), Contains(fact.says));
     EXPECT_THAT(orphans(ReportPages(content)), IsEmpty());
   }
+}
+
+TEST(Report, tellsTheCourseOfALineThatBends) {
+  TomoDocument line = pickedLine();
+  line.map.edit() = {{32632, 600000.0, 600030.0, 5000000.0, 5000040.0}, true};
+  const QString caption = "Course of the line between its ends";
+  EXPECT_THROW(tableOf(reportOn({line}), caption), std::runtime_error) << "straight";
+  // East, north, and a little further on the same way.
+  line.line.edit().course = {line.map->geoCoord,
+                             {{0.0, {600000.0, 5000000.0}},
+                              {30.0, {600030.0, 5000000.0}},
+                              {50.0, {600030.0, 5000020.0}},
+                              {70.5, {600030.0, 5000040.0}}}};
+  const ReportTable table = tableOf(reportOn({line}), caption);
+  std::vector<std::string> values;
+  for (const QStringList& row : table.rows) values.push_back(row[1].toStdString());
+  EXPECT_THAT(values, ElementsAre("4", "1", "70.50 m", "70.00 m", "50.00 m", "24.00 m", "0.00 m"));
+  line.map.edit().geoCoord.mEastLstGeoph += 1.0;
+  EXPECT_THROW(tableOf(reportOn({line}), caption), std::runtime_error) << "of another place";
 }
 
 TEST(Report, tellsHowPicksGoWithEachOtherThereAndBack) {

@@ -105,6 +105,17 @@ TEST(WebPage, allowsItsOwnTwoScriptsAndNothingElse) {
   EXPECT_EQ(scripts, 2);
 }
 
+TEST(WebPage, holdsTheCornersOfALineThatBends) {
+  TomoDocument line = pickedLine();
+  line.map.edit() = {{32632, 612345.0, 612445.0, 5000000.0, 5000050.0}, true};
+  EXPECT_THAT(pageOf(reportOn(line)), Not(HasSubstr("\"course\"")));
+  line.line.edit().course = {line.map->geoCoord,
+                             {{0.0, {612345.0, 5000000.0}},
+                              {90.0, {612435.25, 5000001.5}},
+                              {140.0, {612445.0, 5000050.0}}}};
+  EXPECT_THAT(pageOf(reportOn(line)), HasSubstr("[612435.25,5000001.5]"));
+}
+
 TEST(WebPage, holdsNoPlaceThatIsLeftOut) {
   TomoDocument line = pickedLine();
   line.map.edit().geoCoord_isSet = true;

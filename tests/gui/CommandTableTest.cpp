@@ -258,6 +258,7 @@ const std::map<Stage, std::vector<std::string>>& commandsByStage() {
         "actionOpen_shot_files",
         "actionLoad_TT",
         "actionLoad_Project",
+        "actionCampaign_page",
         "actionSettings",
         "actionExit",
         "actionFind_command",

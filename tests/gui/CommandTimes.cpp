@@ -1,6 +1,10 @@
 #include "app/CommandIndex.h"
 #include "app/Talvesk_MainWindows.h"
+#include "gui/CommandAnswers.h"
+#include "gui/StallWatch.h"
 #include "io/Survey.h"
+#include "model/GeographicsCoord.h"
+#include "session/Session.h"
 #include "support/ShotDocument.h"
 #include "support/ShotFiles.h"
 #include "tomo/GridSetup.h"
@@ -8,19 +12,12 @@
 #include "widgets/section/SectionSurface.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPointer>
-#include <QProgressDialog>
-#include <QPushButton>
 #include <QTest>
 #include <QTextCodec>
 #include <QTimer>
-#include <ctime>
 #include <iomanip>
 #include <iostream>
 
@@ -33,89 +30,13 @@
 namespace talvesk {
 namespace {
 
+using testing::busyMs;
+using testing::CommandAnswers;
+using testing::Stall;
+using testing::StallWatch;
+using testing::wallMs;
+
 constexpr double kBlocked = 100.0;  ///< milliseconds from which a user notices
-
-double wallMs() {
-  timespec now{};
-  clock_gettime(CLOCK_MONOTONIC, &now);
-  return 1e3 * static_cast<double>(now.tv_sec) + 1e-6 * static_cast<double>(now.tv_nsec);
-}
-
-/// What this thread has computed, which does not depend on what else the machine does.
-double busyMs() {
-  timespec now{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-  return 1e3 * static_cast<double>(now.tv_sec) + 1e-6 * static_cast<double>(now.tv_nsec);
-}
-
-/// The longest time in which the event loop did not come round.
-class Heartbeat : public QObject {
- public:
-  Heartbeat() {
-    mTimer.setTimerType(Qt::PreciseTimer);
-    connect(&mTimer, &QTimer::timeout, this, [this] { beat(); });
-    mTimer.start(2);
-  }
-  void restart() {
-    wall = busy = 0.0;
-    mWall = wallMs();
-    mBusy = busyMs();
-  }
-  void beat() {
-    wall = std::max(wall, wallMs() - mWall);
-    busy = std::max(busy, busyMs() - mBusy);
-    mWall = wallMs();
-    mBusy = busyMs();
-  }
-
-  double wall = 0.0;  ///< milliseconds
-  double busy = 0.0;  ///< of them computing
-
- private:
-  QTimer mTimer;
-  double mWall = wallMs();
-  double mBusy = busyMs();
-};
-
-/// Closes every dialog that a command opens, or gives its OK, and leaves progress alone.
-class Answers : public QObject {
- public:
-  Answers() { startTimer(50); }
-  bool accepts = false;
-
- protected:
-  void timerEvent(QTimerEvent*) override {
-    QWidget* dialog = QApplication::activeModalWidget();
-    if (dialog == nullptr) {
-      for (QWidget* each : QApplication::topLevelWidgets()) {
-        if (each->isVisible() && each->windowType() == Qt::Dialog) dialog = each;
-      }
-    }
-    const bool shows = dialog != nullptr && dialog->isVisible();
-    if (!shows || qobject_cast<QProgressDialog*>(dialog) != nullptr ||
-        dialog->objectName().startsWith(QLatin1String("progress"))) {
-      mSeen = 0;
-      return;
-    }
-    if (++mSeen < 6) return;  // it has to be drawn
-    mSeen = 0;
-    auto* buttons = dialog->findChild<QDialogButtonBox*>();
-    QPushButton* ok = buttons != nullptr ? buttons->button(QDialogButtonBox::Ok) : nullptr;
-    if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
-      for (const auto yes : {QMessageBox::Yes, QMessageBox::Ok}) {
-        if (box->button(yes) != nullptr) return box->button(yes)->click();
-      }
-    }
-    const bool again = dialog == mAccepted;  // it has refused what stands in it
-    mAccepted = dialog;
-    if (accepts && !again && ok != nullptr && ok->isEnabled()) return ok->click();
-    dialog->close();
-  }
-
- private:
-  int mSeen = 0;
-  QPointer<QWidget> mAccepted;
-};
 
 /// When traces were drawn for the first time.
 class FirstPaint : public QObject {
@@ -161,60 +82,108 @@ int make(const QString& folder, std::size_t shots, std::size_t traces, std::size
 
 class Walk {
  public:
-  Walk(Talvesk_MainWindows& window, Heartbeat& heart, Answers& answers)
-      : mWindow(window), mHeart(heart), mAnswers(answers) {}
+  Walk(Talvesk_MainWindows& window, StallWatch& watch, CommandAnswers& answers)
+      : mWindow(window), mWatch(watch), mAnswers(answers) {
+    mEdits = window.session().subscribe([this](const SurveyChange& change) {
+      mEdited = change.kind == SurveyChange::Kind::kEdit   ? Edited::kForth
+                : change.kind == SurveyChange::Kind::kRedo ? Edited::kForth
+                : change.kind == SurveyChange::Kind::kUndo ? Edited::kBack
+                                                           : mEdited;
+    });
+  }
 
-  /// Every command on shots alone, the way to a section, and every command again with one.
-  void all() {
-    every();
+  /// Every command on shots alone, the way to a section, and every command again with one: what
+  /// asks is closed first, and then given its OK.
+  void all(const QStringList& shots) {
+    every(false);
+    // Filters and pickers go to all shots, whatever the walk has left.
+    auto* allShots = mWindow.findChild<QAction*>(QStringLiteral("actionShow_all_traces"));
+    if (!allShots->isChecked()) allShots->trigger();
     for (const char* name : {"actionAutoPick_line", "actionGrid", "actionDefine_model_velocity",
                              "actionRun_tomography_inversion", "actionApply_smoothing",
                              "actionFilter", "actionAGC", "actionRefraction"}) {
       auto* action = mWindow.findChild<QAction*>(QLatin1String(name));
       if (action->isEnabled()) give(*action, QLatin1String(name), true);
     }
-    every();
+    // So that exports onto the map have something to write.
+    const Status placed = mWindow.session().apply(Edit::kMapPosition, [](Survey& survey) {
+      survey.document.map.edit() = {{32632, 600000.0, 600094.0, 5000000.0, 5000000.0}, true};
+      return Status();
+    });
+    if (!placed.ok()) std::cout << placed.message() << "\n";
+    every(false);
+    every(true);
+    const QString project = mAnswers.folder + QStringLiteral("/saved.tvsk");
+    open("actionLoad_Project", {project});
+    open("actionNew", shots);
     std::cout << "commands " << mCommands << ", longer than " << kBlocked << " ms " << mLong
-              << ", longest " << mLongest << " ms (" << mSlowest.toStdString() << ")\n";
+              << ", of these without a sign of life " << mSilent << ", longest " << mLongest
+              << " ms (" << mSlowest.toStdString() << ")\n";
   }
 
  private:
+  enum class Edited { kNot, kForth, kBack };
+
   void give(QAction& action, const QString& name, bool accepts) {
     mAnswers.accepts = accepts;
     settle();
-    mHeart.restart();
+    mEdited = Edited::kNot;
+    mWatch.restart();
     action.trigger();
-    mHeart.beat();
     settle();
-    ++mCommands;
-    if (mHeart.busy > mLongest) {
-      mLongest = mHeart.busy;
-      mSlowest = name;
-    }
-    if (mHeart.busy > kBlocked) ++mLong;
-    std::cout << std::fixed << std::setprecision(0) << std::setw(7) << mHeart.busy << std::setw(7)
-              << mHeart.wall << "  " << name.toStdString() << (accepts ? " OK" : "")
-              << (mHeart.busy > kBlocked ? "  <<" : "") << std::endl;
+    tell(mWatch.stall(), name + (accepts ? QStringLiteral(" OK") : QString()));
     mAnswers.accepts = false;
   }
-  static void settle() { QTest::qWait(60); }
 
-  void every() {
+  void open(const char* name, const QStringList& files) {
+    mAnswers.files = files;
+    give(*mWindow.findChild<QAction*>(QLatin1String(name)), QLatin1String(name), true);
+    mAnswers.files.clear();
+  }
+
+  void tell(const Stall& stall, const QString& name) {
+    ++mCommands;
+    if (stall.busy > mLongest) {
+      mLongest = stall.busy;
+      mSlowest = name;
+    }
+    const bool silent = stall.silent > kBlocked;
+    if (stall.busy > kBlocked) ++mLong;
+    if (silent) ++mSilent;
+    std::cout << std::fixed << std::setprecision(0) << std::setw(7) << stall.busy << std::setw(7)
+              << stall.wall << std::setw(7) << stall.silent << "  " << name.toStdString()
+              << (silent ? "  <<" : "") << std::endl;
+  }
+
+  /// Until no dialog is left, and what the command has changed is drawn.
+  void settle() {
+    constexpr int kStep = 60;
+    QTest::qWait(kStep);
+    while (CommandAnswers::isOpen()) QTest::qWait(kStep);
+    QTest::qWait(kStep);
+  }
+
+  void every(bool accepts) {
     for (const IndexedCommand& command : commandsOf(*mWindow.menuBar(), nullptr)) {
       // These end the program, leave it, or take away what the others work on.
       static const QStringList kOut = {"actionExit", "actionHelp", "actionRemove_shot",
                                        "actionRemove_picks", "actionRemove_unconfirmed"};
-      if (!kOut.contains(command.key) && command.action && command.action->isEnabled()) {
-        give(*command.action, command.key, false);
-      }
+      if (kOut.contains(command.key) || !command.action || !command.action->isEnabled()) continue;
+      give(*command.action, command.key, accepts);
+      // The next one finds the survey as it was.
+      if (mEdited == Edited::kForth) mWindow.session().undo();
+      if (mEdited == Edited::kBack) mWindow.session().redo();
     }
   }
 
   Talvesk_MainWindows& mWindow;
-  Heartbeat& mHeart;
-  Answers& mAnswers;
+  StallWatch& mWatch;
+  CommandAnswers& mAnswers;
+  Session::Subscription mEdits;
+  Edited mEdited = Edited::kNot;
   int mCommands = 0;
   int mLong = 0;
+  int mSilent = 0;
   double mLongest = 0.0;
   QString mSlowest;
 };
@@ -235,7 +204,8 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QStringList files;
   for (int i = 1; i < argc; ++i) files << QString::fromLocal8Bit(argv[i]);
-  Answers answers;
+  testing::CommandAnswers answers;
+  answers.folder = QDir::currentPath();
   Talvesk_MainWindows window;
   FirstPaint painted(*window.findChild<QWidget*>(QStringLiteral("showTracesWidget")));
   window.show();
@@ -246,8 +216,8 @@ int main(int argc, char** argv) {
   while (painted.at == 0.0) QTest::qWait(1);
   std::cout << "first wiggles after " << painted.at - begin << " ms, computing " << busyMs()
             << " ms\n";
-  Heartbeat heart;
-  Walk(window, heart, answers).all();
+  testing::StallWatch watch;
+  Walk(window, watch, answers).all(files);
   window.session().markSaved();
   return 0;
 }

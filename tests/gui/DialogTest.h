@@ -3,21 +3,27 @@
 #include "app/BackgroundCertainty.h"
 #include "app/FileFolders.h"
 #include "app/Languages.h"
+#include "app/dialogs/AnnotationsDialog.h"
 #include "app/dialogs/BlowPairDialog.h"
+#include "app/dialogs/CampaignDialog.h"
 #include "app/dialogs/CertaintyDialog.h"
 #include "app/dialogs/CheckDialog.h"
 #include "app/dialogs/CommandSearchDialog.h"
 #include "app/dialogs/CompareLayersDialog.h"
 #include "app/dialogs/CompareRunsDialog.h"
+#include "app/dialogs/DepthProfileDialog.h"
 #include "app/dialogs/DialogSetGeometry.h"
 #include "app/dialogs/DrawingDialog.h"
 #include "app/dialogs/ElasticDialog.h"
 #include "app/dialogs/ExportTomoVelData.h"
+#include "app/dialogs/FenceDialog.h"
 #include "app/dialogs/GatherSheetDialog.h"
 #include "app/dialogs/ImagesDialog.h"
 #include "app/dialogs/KnownGroundDialog.h"
 #include "app/dialogs/LayerMethodsDialog.h"
+#include "app/dialogs/MarkedIsolinesDialog.h"
 #include "app/dialogs/MendDialog.h"
+#include "app/dialogs/NotchDialog.h"
 #include "app/dialogs/PaletteDialog.h"
 #include "app/dialogs/PrintDialog.h"
 #include "app/dialogs/ReadingsDialog.h"
@@ -33,7 +39,9 @@
 #include "app/dialogs/SelectCSVDelimiterDialog.h"
 #include "app/dialogs/SettingsDialog.h"
 #include "app/dialogs/StartLayersDialog.h"
+#include "app/dialogs/SurveyedPositionsDialog.h"
 #include "app/dialogs/TraceHeadersDialog.h"
+#include "app/dialogs/VelocityFilterDialog.h"
 #include "app/dialogs/contourlines_dialog.h"
 #include "app/dialogs/doFilteringDialog.h"
 #include "app/dialogs/gridDialog.h"
@@ -97,9 +105,61 @@ class DialogTest : public WindowTest {
 
   std::vector<Case> cases() {
     std::vector<Case> all = surveyCases();
-    const std::vector<Case> more = layerCases();
-    all.insert(all.end(), more.begin(), more.end());
+    for (const std::vector<Case>& more : {layerCases(), placeCases(), drawingCases()}) {
+      all.insert(all.end(), more.begin(), more.end());
+    }
     return all;
+  }
+
+  /// Of lines on the map.
+  std::vector<Case> placeCases() {
+    return {{"campaign",
+             [&] {
+               auto dialog = std::make_unique<CampaignDialog>(window.get());
+               dialog->add({QStringLiteral("a.tvsk"), QStringLiteral("b.tvsk")});
+               return std::unique_ptr<QDialog>(std::move(dialog));
+             }},
+            {"fence",
+             [&] {
+               return make<FenceDialog>(FenceLine{QStringLiteral("line"), writable()},
+                                        mPalettes.current(), 2.0);
+             }},
+            {"surveyed positions", [&] {
+               auto dialog =
+                   std::make_unique<SurveyedPositionsDialog>(writable(), true, window.get());
+               SurveyedTable table;
+               const std::string text = "Name;East;North;Elevation\nG1;1;2;3\nG2;4;6;3\nG7;9;9;3\n";
+               EXPECT_TRUE(SurveyedTable::parse(text, "points.csv", table).ok());
+               dialog->setTable(std::move(table), QStringLiteral("points.csv"));
+               return std::unique_ptr<QDialog>(std::move(dialog));
+             }}};
+  }
+
+  /// Of what is drawn on the section, and of traces.
+  std::vector<Case> drawingCases() {
+    Annotation text;
+    text.text = "old quarry";
+    text.points = {{1.0, -2.0}};
+    Annotation area;
+    area.kind = AnnotationKind::kPolygon;
+    area.points = {{0.0, 0.0}, {4.0, 0.0}, {2.0, -3.0}};
+    return {{"annotations",
+             [text, area, this] {
+               return make<AnnotationsDialog>(std::vector<Annotation>{text, area},
+                                              Point2D{2.0, -2.0}, Point2D{1.0, 1.0});
+             }},
+            {"marked isolines",
+             [&] {
+               return make<MarkedIsolinesDialog>(std::vector<MarkedIsoline>(2, MarkedIsoline()));
+             }},
+            {"depth profile",
+             [&] {
+               auto dialog = std::make_unique<DepthProfileDialog>(window.get());
+               dialog->setSection(DepthProfiles(mLayered.document));
+               return std::unique_ptr<QDialog>(std::move(dialog));
+             }},
+            {"notch", [&] { return make<NotchDialog>(writable(), 0, 1U); }},
+            {"velocity filter", [&] { return make<VelocityFilterDialog>(writable(), 0, 1U); }}};
   }
 
   std::vector<Case> layerCases() {

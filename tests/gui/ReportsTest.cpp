@@ -1,3 +1,4 @@
+#include "app/dialogs/CampaignDialog.h"
 #include "gui/WindowTest.h"
 #include "support/SectionDocument.h"
 
@@ -20,6 +21,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::StartsWith;
 using testing::TestFolder;
 using testing::WindowTest;
@@ -124,6 +126,50 @@ TEST_F(Reports, areShownBeforeTheyAreWrittenAndRememberWhomTheyAreFor) {
   dialogs.expectFiles("Save web page", {path("report")});
   action("actionWeb_page").trigger();
   EXPECT_THAT(TestFolder::get(home.file("report.html")), StartsWith("<!DOCTYPE html>"));
+}
+
+TEST_F(Reports, standOnThePageOfACampaignWhichNamesWhatFailed) {
+  takeSection();
+  dialogs.expectFiles("Save Project", {path("a.tvsk")});
+  action("actionSave_Project_As").trigger();
+  home.put("broken.tvsk", "no archive");
+  home.put("other.tvsk", TestFolder::get(home.file("a.tvsk")));
+  home.put("other.html", "somebody's");
+  const auto ask = [this](const QStringList& more, const char* page) {
+    dialogs.expect([=](QWidget& widget) {
+      auto* dialog = qobject_cast<CampaignDialog*>(&widget);
+      ASSERT_NE(dialog, nullptr) << widget.windowTitle().toStdString();
+      EXPECT_EQ(dialog->projects(), QStringList{path("a.tvsk")}) << "that of the survey";
+      in<QPushButton>(widget, "addButton").click();
+      EXPECT_EQ(dialog->projects().size(), 3) << "each once";
+      in<QLineEdit>(widget, "titleEdit").setText(QStringLiteral("Valley <2024>"));
+      button(widget, QDialogButtonBox::Save).click();
+    });
+    dialogs.expectFiles("Add projects to the campaign page", more);
+    dialogs.expectFiles("Save campaign page", {path(page)});
+  };
+  ask({path("broken.tvsk"), path("a.tvsk"), path("other.tvsk")}, "index.html");
+  dialogs.expectBox("Warning", "1 file exists already.", "other.html", QMessageBox::Yes);
+  dialogs.expectBox("Warning",
+                    "Some values of the projects cannot be. They were put right or left out.",
+                    "other.tvsk: its information density does not fit", QMessageBox::Ok);
+  dialogs.expectBox("Error occured", "Projects that failed: 2. The campaign page names them.",
+                    "no page of Talvesk", QMessageBox::Ok);
+  action("actionCampaign_page").trigger();
+  EXPECT_TRUE(dialogs.finished());
+  const std::string page = TestFolder::get(home.file("index.html"));
+  EXPECT_THAT(page, HasSubstr("Valley &lt;2024&gt;"));
+  EXPECT_THAT(page, HasSubstr("a.html"));
+  EXPECT_THAT(page, HasSubstr("broken"));
+  EXPECT_THAT(page, Not(HasSubstr(home.path()))) << "nobody's folders";
+  EXPECT_THAT(TestFolder::get(home.file("a.html")), StartsWith("<!DOCTYPE html>"));
+  EXPECT_EQ(TestFolder::get(home.file("other.html")), "somebody's");
+  EXPECT_FALSE(window->isWindowModified());
+
+  ask({path("broken.tvsk"), path("other.tvsk")}, "all");
+  dialogs.expectBox("Warning", "2 files exist already.", "a.html", QMessageBox::No);
+  action("actionCampaign_page").trigger();
+  EXPECT_FALSE(QFile::exists(path("all.html")));
 }
 
 TEST_F(Reports, tellWhereTheyCouldNotBeWritten) {

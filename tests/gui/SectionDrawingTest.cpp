@@ -1,3 +1,4 @@
+#include "app/FenceLines.h"
 #include "app/dialogs/AnnotationsDialog.h"
 #include "app/dialogs/DepthProfileDialog.h"
 #include "app/dialogs/FenceDialog.h"
@@ -7,6 +8,7 @@
 #include "io/Survey.h"
 #include "io/TravelTimeFile.h"
 #include "model/Annotations.h"
+#include "model/GeoTransformer.h"
 #include "support/TestSurveys.h"
 #include "view/SectionScene.h"
 #include "widgets/fence/FenceView.h"
@@ -212,6 +214,40 @@ TEST_F(SectionDrawing, showsTheGroundBelowThePointerUntilItIsHeld) {
   dialogs.expectFiles("Save depth profile", {file});
   part<QPushButton>(*dialog, "saveButton").click();
   EXPECT_THAT(TestFolder::get(file.toStdString()), HasSubstr("Vertical gradient [1/s]"));
+}
+
+TEST_F(SectionDrawing, convertsLinesOfOtherSystemsIntoThatOfTheFence) {
+  openLine();
+  // The same line by the next zone, 6 degrees further: both are at 12 degrees east, 45.15 north.
+  const LonLat first{12.0, 45.15};
+  const LonLat last{12.0005, 45.1502};
+  const auto lineIn = [&](std::int32_t epsg) {
+    const GeoTransformer globe(epsg);
+    MapPoint a;
+    MapPoint b;
+    EXPECT_TRUE(globe.project(first, a) && globe.project(last, b));
+    TomoDocument line = window->document();
+    line.map.edit() = {{epsg, a.easting, b.easting, a.northing, b.northing}, true};
+    return line;
+  };
+  FenceNotes notes;
+  const FenceScene scene = fenceOf({{"own", lineIn(32632)},
+                                    {"next", lineIn(32633)},
+                                    {"feet",
+                                     [&] {
+                                       TomoDocument line = lineIn(32632);
+                                       line.map.edit().geoCoord.CRS = 2272;
+                                       return line;
+                                     }()}},
+                                   notes);
+  ASSERT_EQ(scene.panels.size(), 2U);
+  EXPECT_EQ(notes.converted, QStringList{"next from EPSG:32633 to EPSG:32632"});
+  ASSERT_EQ(notes.leftOut.size(), 1);
+  EXPECT_THAT(notes.leftOut[0].toStdString(), HasSubstr("counts in another unit than the metre"));
+  for (std::size_t i = 0; i < scene.panels[0].corners.size(); ++i) {
+    EXPECT_NEAR(scene.panels[1].corners[i].east, scene.panels[0].corners[i].east, 0.01);
+    EXPECT_NEAR(scene.panels[1].corners[i].north, scene.panels[0].corners[i].north, 0.01);
+  }
 }
 
 TEST_F(SectionDrawing, standsLinesInAFenceAndSaysWhatHasNoPlace) {

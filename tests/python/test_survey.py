@@ -62,6 +62,59 @@ def test_picks_are_set_with_errors_and_removed(picks):
         copy.times(11)
 
 
+def legs(count):
+    """Geophones 5 m apart on two legs at a right angle, on ground that rises by 1 in 5."""
+    step = numpy.arange(count)
+    half = count // 2
+    east = 652000.0 + 5.0 * numpy.minimum(step, half)
+    north = 5074000.0 + 5.0 * numpy.maximum(step - half, 0)
+    return numpy.column_stack([east, north, 100.0 + step])
+
+
+def test_positions_as_surveyed_become_distances(picks, tmp_path):
+    places = legs(len(picks.geophones()))
+    before = picks.geophones()
+    survey = picks.copy()
+    with pytest.warns(UserWarning) as told:
+        said = survey.set_positions(places, line="bent", epsg=32632, first_distance=10)
+    assert any("by the distances so far" in str(one.message) for one in told), "shots have no row"
+    numpy.testing.assert_allclose(survey.geophones()[:, 0], 10.0 + 5.0 * numpy.arange(48))
+    numpy.testing.assert_array_equal(survey.geophones()[:, 1], places[:, 2])
+    numpy.testing.assert_allclose(said["across"], 0.0, atol=1e-9)
+    assert said["epsg"] == 32632 and said["spacing"] == pytest.approx(5.0)
+    numpy.testing.assert_array_equal(survey.times(3), picks.times(3))
+    numpy.testing.assert_array_equal(picks.geophones(), before)
+    survey.save(tmp_path / "line.tvsk")
+    assert batch("info", tmp_path / "line.tvsk", "--json", "-")["crs"] == 32632
+
+    table = tmp_path / "points.csv"
+    rows = [f"G{i + 1};{e};{n};{z}" for i, (e, n, z) in enumerate(places)]
+    table.write_text("Name;East;North;Elevation\n" + "\n".join(rows) + "\n")
+    by_table = picks.copy()
+    with pytest.warns(UserWarning):
+        by_table.set_positions(table, line="bent", epsg=32632, first_distance=10)
+    numpy.testing.assert_array_equal(by_table.geophones(), survey.geophones())
+    numpy.testing.assert_array_equal(by_table.shots, survey.shots)
+
+
+@pytest.mark.parametrize(
+    "places, options, complaint",
+    [
+        (legs(48)[:, :1], {}, "easting, northing and elevation"),
+        (legs(48) * numpy.nan, {}, "finite"),
+        (legs(48), {"line": "crooked"}, "none of straight, ends, bent"),
+        (legs(48), {"stations": "number"}, "in their order"),
+        (legs(48)[:1], {}, "places: "),
+        ("none.csv", {}, "none.csv"),
+    ],
+)
+def test_positions_that_make_no_line_leave_the_survey(picks, places, options, complaint):
+    before = picks.geophones()
+    with pytest.raises(talvesk.Error, match=complaint):
+        picks.set_positions(places, **options)
+    numpy.testing.assert_array_equal(picks.geophones(), before)
+
+
 def test_files_go_and_come(picks, tmp_path):
     picks.set_picks(0, picks.times(0), numpy.full(48, 0.0005))
     picks.title = "Line <7>"

@@ -1,5 +1,6 @@
 #include "app/dialogs/AnnotationsDialog.h"
 
+#include "app/CellWalk.h"
 #include "app/MessageText.h"
 #include "app/NumberText.h"
 #include "app/ToolTips.h"
@@ -116,6 +117,7 @@ void AnnotationsDialog::showItems() {
     mUi->itemsTable->setRowCount(0);
     mUi->itemsTable->setRowCount(static_cast<int>(mItems.size()));
     for (int i = 0; i < static_cast<int>(mItems.size()); ++i) showItem(i);
+    walkCells(*mUi->itemsTable);
     mUi->itemsTable->setCurrentCell(std::min(std::max(row, 0), mUi->itemsTable->rowCount() - 1),
                                     kText);
   }

@@ -26,6 +26,7 @@ FenceDialog::FenceDialog(FenceLine own, const ColorPalette& palette, double exag
   mView = new FenceView(this);
   mView->setObjectName(QStringLiteral("fenceView"));
   mUi->viewLayout->addWidget(mView);
+  setTabOrder(mUi->exaggerationSpin, mView);
   constexpr auto kRange = parameters::kExaggeration.limits;
   mUi->exaggerationSpin->setRange(kRange.least, kRange.most);
   mUi->exaggerationSpin->setValue(exaggeration);
@@ -63,14 +64,19 @@ void FenceDialog::remove() {
 }
 
 void FenceDialog::refresh() {
-  QStringList leftOut;
-  FenceScene scene = fenceOf(mLines, leftOut);
+  FenceNotes notes;
+  FenceScene scene = fenceOf(mLines, notes);
   mUi->saveButton->setEnabled(!scene.panels.empty());
   QString text = tr("Lines that stand in the fence: %1.").arg(scene.panels.size());
-  if (!leftOut.isEmpty()) {
-    text += QLatin1Char('\n') + tr("Left out: %1.").arg(leftOut.join(QStringLiteral("; ")));
+  const bool complete = notes.leftOut.isEmpty();
+  if (!notes.converted.isEmpty()) {
+    text += QLatin1Char('\n') +
+            tr("Converted: %1.", "lines").arg(notes.converted.join(QStringLiteral("; ")));
   }
-  mUi->messageLabel->setStyleSheet(leftOut.isEmpty() ? QString() : QStringLiteral("color: red;"));
+  if (!complete) {
+    text += QLatin1Char('\n') + tr("Left out: %1.").arg(notes.leftOut.join(QStringLiteral("; ")));
+  }
+  mUi->messageLabel->setStyleSheet(complete ? QString() : QStringLiteral("color: red;"));
   mUi->messageLabel->setText(text);
   mView->setScene(std::move(scene), mPalette);
 }

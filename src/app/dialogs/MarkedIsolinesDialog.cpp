@@ -1,5 +1,6 @@
 #include "app/dialogs/MarkedIsolinesDialog.h"
 
+#include "app/CellWalk.h"
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
 #include "app/dialogs/ColorField.h"
@@ -59,6 +60,7 @@ void MarkedIsolinesDialog::addRow(const MarkedIsoline& isoline) {
   table.setCellWidget(row, kVelocity, velocity);
   table.setCellWidget(row, kColor, new ColorField(isoline.color));
   table.setCellWidget(row, kWidth, width);
+  walkCells(table);
 }
 
 void MarkedIsolinesDialog::addNew() {

@@ -79,6 +79,7 @@ Rows fileRows(Desk& desk, Presenters& p) {
       {"actionPDF", &State::records, call(p.reports, &ReportPresenter::writePdf)},
       {"actionODT", &State::records, call(p.reports, &ReportPresenter::writeOdt)},
       {"actionWeb_page", &State::records, call(p.reports, &ReportPresenter::writeWebPage)},
+      {"actionCampaign_page", always, call(p.campaign, &CampaignPresenter::write)},
 
       {"actionFind_command", always, call(p.search, &CommandSearchPresenter::find)},
       {"actionUser_guide", always, call(p.help, &HelpPresenter::openUserGuide)},

@@ -2,6 +2,7 @@
 
 #include "app/MessageText.h"
 #include "app/Outcomes.h"
+#include "app/WaitCursor.h"
 #include "io/Survey.h"
 #include "model/Recordings.h"
 #include "model/SurveyFacts.h"
@@ -90,7 +91,11 @@ std::array<TravelTimePlot*, 2> Desk::plots() const {
 }
 
 void Desk::showSection() {
+  if (ui.tabWidget->currentWidget() == ui.vtk_tab) return;
+  // The first picture takes a tenth of a second and more: it is drawn here, under the cursor.
+  const WaitCursor waiting;
   ui.tabWidget->setCurrentWidget(ui.vtk_tab);
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void Desk::showFresh(int index) {

@@ -45,6 +45,7 @@ Presenters::Presenters(Desk& desk)
       records(desk),
       reports(desk, layered),
       sheets(desk),
+      campaign(desk),
       help(desk),
       guidance(desk),
       search(desk) {

@@ -3,6 +3,7 @@
 #include "app/LayeredModel.h"
 #include "app/presenters/AnnotationsPresenter.h"
 #include "app/presenters/BlowPairPresenter.h"
+#include "app/presenters/CampaignPresenter.h"
 #include "app/presenters/CertaintyPresenter.h"
 #include "app/presenters/CheckPresenter.h"
 #include "app/presenters/CommandSearchPresenter.h"
@@ -98,6 +99,7 @@ struct Presenters {
   RecordExportPresenter records;
   ReportPresenter reports;
   GatherSheetPresenter sheets;
+  CampaignPresenter campaign;
   HelpPresenter help;
   GuidancePresenter guidance;
   CommandSearchPresenter search;

@@ -96,7 +96,8 @@ void ReportPresenter::writeImages(const std::vector<PlannedImage>& images) {
   for (const PlannedImage& image : images) {
     progress.setValue(done);  // lets the window live
     if (progress.wasCanceled()) break;
-    status = image.write();
+    // The bar comes late, or not at all.
+    status = whileWaiting([&image] { return image.write(); });
     if (!status.ok()) break;
     ++done;
   }
@@ -166,13 +167,14 @@ void ReportPresenter::writeReportAs(const QString& title, const QString& filter,
   prepareProgress(progress);
   progress.setValue(0);
   ReportContent content;
-  Status status = build(dialog.options(), content);
-  if (status.ok()) {
-    status = writeReport(content, file.toStdString(), [&progress](double done) {
+  const Status status = whileWaiting([&] {  // the bar comes late, or not at all
+    const Status built = build(dialog.options(), content);
+    if (!built.ok()) return built;
+    return writeReport(content, file.toStdString(), [&progress](double done) {
       progress.setValue(static_cast<int>(done * (kProgressSteps - 1)));
       return !progress.wasCanceled();
     });
-  }
+  });
   progress.close();
   tellReport(status, file);
 }

@@ -17,6 +17,11 @@
 
 namespace talvesk {
 
+QString reportLanguage() {
+  const QString code = QLocale().name().left(2);
+  return code == QLatin1String("C") ? QStringLiteral("en") : code;
+}
+
 Status buildReport(const ReportSource& source, const ReportOptions& options,
                    ReportContent& content) {
   if (Status status = checkApplication("A report"); !status.ok()) return status;
@@ -30,8 +35,7 @@ Status buildReport(const ReportSource& source, const ReportOptions& options,
                    .simplified();
   if (made.title.isEmpty()) made.title = ReportWords::tr("Seismic refraction survey");
   made.author = QString::fromStdString(options.author).simplified();
-  made.language = QLocale().name().left(2);
-  if (made.language == QLatin1String("C")) made.language = QStringLiteral("en");
+  made.language = reportLanguage();
 
   ReportBuilder builder(source, options, made);
   const ReportSections& sections = options.sections;

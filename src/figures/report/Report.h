@@ -16,6 +16,9 @@ using ReportProgress = std::function<bool(double done)>;
 Status buildReport(const ReportSource& source, const ReportOptions& options,
                    ReportContent& content);
 
+/// ISO code of the language that reports are written in: "en".
+QString reportLanguage();
+
 enum class ReportFormat { kPdf, kOdt, kHtml };
 
 /// The format that a file's suffix (".pdf", ".odt", ".html", any case) asks for. Any other suffix

@@ -45,6 +45,7 @@ namespace report {
 void addTitlePage(ReportBuilder& builder);
 void addSurvey(ReportBuilder& builder);
 void addPosition(ReportBuilder& builder);
+void addCourse(ReportBuilder& builder);  ///< nothing where the ends tell it
 Status addTravelTimes(ReportBuilder& builder);
 void addPickErrors(ReportBuilder& builder);  ///< nothing where none is known
 void addReciprocity(ReportBuilder& builder);

@@ -304,6 +304,7 @@ void addPosition(ReportBuilder& builder) {
   builder.table(known ? ReportWords::tr("Ends of the line; longitude and latitude on WGS 84")
                       : ReportWords::tr("Ends of the line"),
                 table, LiveFigure::kMap);
+  addCourse(builder);
 }
 
 }  // namespace talvesk::report

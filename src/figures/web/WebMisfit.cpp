@@ -2,6 +2,7 @@
 #include "figures/web/WebParts.h"
 #include "model/GeoTransformer.h"
 #include "model/GeographicsCoord.h"
+#include "model/MapLine.h"
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
@@ -111,6 +112,11 @@ QJsonObject mapData(const TomoDocument& document) {
       std::all_of(ends.begin(), ends.end(), [](double v) { return std::isfinite(v); });
   if (!numbers || std::hypot(ends[2] - ends[0], ends[3] - ends[1]) <= 0.0) return {};
   QJsonObject json{{QStringLiteral("ends"), rounded(ends, 2)}};
+  QJsonArray course;
+  for (const MapVertex& vertex : courseOf(document)) {
+    course.append(rounded(std::vector<double>{vertex.place.easting, vertex.place.northing}, 2));
+  }
+  if (!course.isEmpty()) json[QStringLiteral("course")] = course;
   const GeoTransformer globe(place.CRS);
   LonLat middle{};
   if (globe.status().ok() &&

@@ -33,6 +33,17 @@ class Survey:
     def set_picks(
         self, shot: int, times: ArrayLike, errors: Optional[ArrayLike] = None
     ) -> None: ...
+    def set_positions(
+        self,
+        places: Union[_Path, ArrayLike],
+        *,
+        line: str = "straight",
+        length: str = "horizontal",
+        stations: Optional[str] = None,
+        epsg: Optional[int] = None,
+        first_distance: Optional[float] = None,
+        from_other_end: bool = False,
+    ) -> Dict[str, Any]: ...
     def pick(
         self,
         method: str = "single",
