@@ -76,11 +76,11 @@ constexpr double kUnits = 100.0;
 
 /// \return its left end
 double TitleBlock::paintBar(QPainter& painter, const QRectF& room) const {
-  const double longest = 1e-3 * kLongestBarMm * scale;  // metres
+  const double longest = shownLength(1e-3 * kLongestBarMm * scale);
   const double length = roundNumbers(0.3 * longest, longest).back();
-  const double mm = 1e3 * length / scale;
+  const double mm = 1e3 * metresOf(length) / scale;
   const QFontMetricsF metrics(painter.font());
-  const QString end = figureNumber(length) + QStringLiteral(" m");
+  const QString end = withLengthUnit(figureNumber(length));
   const double right = room.right() - 0.5 * metrics.horizontalAdvance(end);
   const QRectF bar(right - mm * kUnits, room.bottom() - kBarMm * kUnits, mm * kUnits,
                    kBarMm * kUnits);
