@@ -1,3 +1,4 @@
+#include "base/LengthUnit.h"
 #include "doctor/ReciprocityTable.h"
 #include "figures/web/WebParts.h"
 #include "model/GeoTransformer.h"
@@ -58,7 +59,7 @@ void addResiduals(const TomoDocument& document, QJsonObject& json) {
   QJsonArray perGeophone;
   for (std::size_t i = 0; i < geophones.size(); ++i) {
     if (geophones[i].count > 0 && std::isfinite(table.columns[i].x)) {
-      perGeophone.append(geophones[i].json(table.columns[i].x));
+      perGeophone.append(geophones[i].json(shownLength(table.columns[i].x)));
     }
   }
   json[QStringLiteral("perShot")] = perShot;
@@ -111,6 +112,7 @@ QJsonObject mapData(const TomoDocument& document) {
       std::all_of(ends.begin(), ends.end(), [](double v) { return std::isfinite(v); });
   if (!numbers || std::hypot(ends[2] - ends[0], ends[3] - ends[1]) <= 0.0) return {};
   QJsonObject json{{QStringLiteral("ends"), rounded(ends, 2)}};
+  if (lengthUnit() != LengthUnit::kMetre) json[QStringLiteral("metres")] = metresOf(1.0);
   const GeoTransformer globe(place.CRS);
   LonLat middle{};
   if (globe.status().ok() &&
