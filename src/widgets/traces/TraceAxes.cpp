@@ -1,5 +1,6 @@
 #include "widgets/traces/TraceAxes.h"
 
+#include "figures/ShownLength.h"
 #include "view/AxisTicks.h"
 #include "widgets/traces/TraceGuides.h"
 #include "widgets/traces/TraceTags.h"
@@ -43,12 +44,12 @@ class Axes {
     if (mLayout.isByDistance()) {
       paintPositions(lower, 0.0);
       paintAtTraces(upper, true);
-      title(lower, tr("x (m)"));
+      title(lower, tr("x (%1)").arg(lengthUnitText()));
       title(upper, tr("Channel"));
     } else {
       paintPositions(lower, 1.0);
       title(lower, tr("Channel"));
-      if (paintAtTraces(upper, false)) title(upper, tr("x (m)"));
+      if (paintAtTraces(upper, false)) title(upper, tr("x (%1)").arg(lengthUnitText()));
     }
     paintShot();
     mPainter.drawRect(mPlot);
@@ -104,22 +105,24 @@ class Axes {
   void paintPositions(double top, double added) {
     const int most =
         std::clamp(static_cast<int>(mPlot.width() / (5.0 * mMetrics.averageCharWidth())), 2, 60);
-    const AxisTicks ticks = axisTicks(mMapping.window.left + added, mMapping.window.right + added,
-                                      most, !mLayout.isByDistance());
+    const double from = mMapping.window.left + added;
+    const double to = mMapping.window.right + added;
+    const AxisTicks ticks =
+        mLayout.isByDistance() ? shownTicks(from, to, most, "m") : axisTicks(from, to, most, true);
     double rightEnd = -HUGE_VAL;
     for (const double value : ticks.minor) positionMark(value - added, kMinor);
     for (const double value : ticks.major) {
       const double x = positionMark(value - added, kMajor);
       if (!mLayout.isByDistance() && (value < 1.0 || value > mLayout.count())) continue;
-      label(x, top, screenNumber(value, ticks.decimals), rightEnd);
+      label(x, top, screenNumber(value * ticks.factor, ticks.decimals), rightEnd);
     }
   }
 
   QString labelOf(int trace, bool channels) const {
     if (channels) return QString::number(trace + 1);
-    const double metres = mTraces.receiverX(trace);
-    if (!std::isfinite(metres)) return {};
-    return screenNumber(metres, std::fabs(metres - std::round(metres)) < 0.005 ? 0 : 1);
+    const double x = shownLength(mTraces.receiverX(trace));
+    if (!std::isfinite(x)) return {};
+    return screenNumber(x, std::fabs(x - std::round(x)) < 0.005 ? 0 : 1);
   }
 
   /// Every how many traces there is room for a label.
