@@ -1792,8 +1792,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>N</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Geschwindigkeit [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Geschwindigkeit [%1]</translation>
     </message>
     <message>
         <source>Sections at their places on the map</source>
@@ -1883,12 +1883,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Überhöhung %1</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Entfernung [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Entfernung [%1]</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Höhe [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Höhe [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -1923,9 +1923,9 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Schuss %1</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
+        <source>%1 at %2</source>
         <comment>shot, place</comment>
-        <translation>%1 bei %2 m</translation>
+        <translation>%1 bei %2</translation>
     </message>
     <message>
         <source>%1, filtered</source>
@@ -1987,12 +1987,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Refraktionsprofil</translation>
     </message>
     <message>
-        <source>X (m)</source>
-        <translation>X (m)</translation>
+        <source>X (%1)</source>
+        <translation>X (%1)</translation>
     </message>
     <message>
-        <source>Z (m)</source>
-        <translation>Z (m)</translation>
+        <source>Z (%1)</source>
+        <translation>Z (%1)</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -2011,8 +2011,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>RMS-Abweichung [ms]</translation>
     </message>
     <message>
-        <source>Offset [m]</source>
-        <translation>Offset [m]</translation>
+        <source>Offset [%1]</source>
+        <translation>Offset [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [ms]</source>
@@ -2130,8 +2130,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Rekonstruiert</translation>
     </message>
     <message>
-        <source>[m]</source>
-        <translation>[m]</translation>
+        <source>[%1]</source>
+        <translation>[%1]</translation>
     </message>
     <message>
         <source>Depth of %1, 16 to 84 %</source>
@@ -2162,24 +2162,24 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>%1 weggelassen</translation>
     </message>
     <message>
-        <source>Geophone at [m]</source>
-        <translation>Geophon bei [m]</translation>
+        <source>Geophone at [%1]</source>
+        <translation>Geophon bei [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [pick errors]</source>
         <translation>Berechnet minus gemessen [Pickfehler]</translation>
     </message>
     <message>
-        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
-        <translation>Schuss %1, Geophon %2 bei %3 m, Offset %4 m: gemessen %5 ms, berechnet %6 ms, Residuum %7 ms, Fehler %8 ms (%9 Fehler)</translation>
+        <source>Shot %1, geophone %2 at %3, offset %4: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Schuss %1, Geophon %2 bei %3, Offset %4: gemessen %5 ms, berechnet %6 ms, Residuum %7 ms, Fehler %8 ms (%9 Fehler)</translation>
     </message>
     <message>
         <source>; suspect</source>
         <translation>; verdächtig</translation>
     </message>
     <message>
-        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
-        <translation>Geophon bei [m]; schraffiert: kein Pick, mit Punkt: verdächtig</translation>
+        <source>Geophone at [%1]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geophon bei [%1]; schraffiert: kein Pick, mit Punkt: verdächtig</translation>
     </message>
     <message>
         <source>Shot, along the line</source>
@@ -2210,12 +2210,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Median und eine Standardabweichung</translation>
     </message>
     <message>
-        <source>%1: %2 m/s</source>
-        <translation>%1: %2 m/s</translation>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
     <message>
-        <source>%1 (%2 m beside the line)</source>
-        <translation>%1 (%2 m neben der Messlinie)</translation>
+        <source>%1 (%2 beside the line)</source>
+        <translation>%1 (%2 neben der Messlinie)</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -2230,8 +2230,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Feste Körper</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Geschwindigkeit [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Geschwindigkeit [%1]</translation>
     </message>
     <message>
         <source>Vp/Vs</source>
@@ -2290,10 +2290,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>M</translation>
     </message>
     <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
-    </message>
-    <message>
         <source>kg/m3</source>
         <translation>kg/m³</translation>
     </message>
@@ -2310,12 +2306,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Dichte %1 kg/m³</translation>
     </message>
     <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Schicht %1, %2 m/s</translation>
+        <source>Layer %1, %2</source>
+        <translation>Schicht %1, %2</translation>
     </message>
     <message>
-        <source>Layer %1, %2 ± %3 m/s</source>
-        <translation>Schicht %1, %2 ± %3 m/s</translation>
+        <source>Layer %1, %2 ± %3</source>
+        <translation>Schicht %1, %2 ± %3</translation>
     </message>
     <message>
         <source>Dashed: not carried by picks there</source>
@@ -2326,8 +2322,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Fehler aus den Picks (68 von 100)</translation>
     </message>
     <message>
-        <source>Depth [m]</source>
-        <translation>Tiefe [m]</translation>
+        <source>Depth [%1]</source>
+        <translation>Tiefe [%1]</translation>
     </message>
     <message>
         <source>Depths are below the surface</source>
@@ -2354,12 +2350,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Schichten</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
-        <translation>Schicht 1, im Mittel %1 m/s, mit der Tiefe zunehmend</translation>
+        <source>Layer 1, %1 in the mean, growing with depth</source>
+        <translation>Schicht 1, im Mittel %1, mit der Tiefe zunehmend</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean</source>
-        <translation>Schicht 1, im Mittel %1 m/s</translation>
+        <source>Layer 1, %1 in the mean</source>
+        <translation>Schicht 1, im Mittel %1</translation>
     </message>
     <message>
         <source>Vertical gradient [1/s]</source>
@@ -2370,16 +2366,16 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Unsicherheit [%]</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Entfernung %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Entfernung %1</translation>
     </message>
     <message>
         <source>no section here</source>
         <translation>kein Schnitt an dieser Stelle</translation>
     </message>
     <message>
-        <source>surface at %1 m</source>
-        <translation>Oberfläche bei %1 m</translation>
+        <source>surface at %1</source>
+        <translation>Oberfläche bei %1</translation>
     </message>
     <message>
         <source>shaded: 16 to 84 %</source>
@@ -2393,10 +2389,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>annotations outside the section: %1</source>
         <translation>Anmerkungen außerhalb des Schnitts: %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>%1 (not reached)</source>
@@ -3335,8 +3327,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
 <context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
-        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
-        <translation>Schuss %1, Spur %2: %3 m, %4 ms, %5</translation>
+        <source>Shot %1, trace %2: %3, %4 ms, %5</source>
+        <translation>Schuss %1, Spur %2: %3, %4 ms, %5</translation>
     </message>
     <message>
         <source>no layer</source>
@@ -3542,8 +3534,8 @@ durch Picks belegt</translation>
         <translation>Zu prüfen</translation>
     </message>
     <message>
-        <source>x %1 m, z %2 m</source>
-        <translation>x %1 m, z %2 m</translation>
+        <source>x %1, z %2</source>
+        <translation>x %1, z %2</translation>
     </message>
     <message>
         <source>Shot %1</source>
@@ -3558,12 +3550,12 @@ durch Picks belegt</translation>
         <translation>Plan der Messlinie</translation>
     </message>
     <message>
-        <source>Distance (m)</source>
-        <translation>Entfernung (m)</translation>
+        <source>Distance (%1)</source>
+        <translation>Entfernung (%1)</translation>
     </message>
     <message>
-        <source>Elevation (m)</source>
-        <translation>Höhe (m)</translation>
+        <source>Elevation (%1)</source>
+        <translation>Höhe (%1)</translation>
     </message>
     <message>
         <source>Line</source>
@@ -3578,24 +3570,24 @@ durch Picks belegt</translation>
         <translation>Geophon %1</translation>
     </message>
     <message>
-        <source>x %1 m, %2 m across</source>
-        <translation>x %1 m, quer %2 m</translation>
+        <source>x %1, %2 across</source>
+        <translation>x %1, quer %2</translation>
     </message>
     <message>
-        <source>%1 m east, %2 m north</source>
-        <translation>%1 m Ost, %2 m Nord</translation>
+        <source>%1 east, %2 north</source>
+        <translation>%1 Ost, %2 Nord</translation>
     </message>
     <message>
-        <source>Across the line (m)</source>
-        <translation>Quer zur Messlinie (m)</translation>
+        <source>Across the line (%1)</source>
+        <translation>Quer zur Messlinie (%1)</translation>
     </message>
     <message>
-        <source>East of the first geophone (m)</source>
-        <translation>Östlich des ersten Geophons (m)</translation>
+        <source>East of the first geophone (%1)</source>
+        <translation>Östlich des ersten Geophons (%1)</translation>
     </message>
     <message>
-        <source>North of it (m)</source>
-        <translation>Nördlich davon (m)</translation>
+        <source>North of it (%1)</source>
+        <translation>Nördlich davon (%1)</translation>
     </message>
 </context>
 <context>
@@ -9697,8 +9689,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Schuss</translation>
     </message>
     <message>
-        <source>Position [m]</source>
-        <translation>Position [m]</translation>
+        <source>Position [%1]</source>
+        <translation>Position [%1]</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -9757,10 +9749,6 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Seitenlänge einer Zelle</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>Depth below the surface</source>
         <translation>Tiefe unter der Oberfläche</translation>
     </message>
@@ -9781,20 +9769,20 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Schicht</translation>
     </message>
     <message>
-        <source>Top [m]</source>
-        <translation>Oberkante [m]</translation>
+        <source>Top [%1]</source>
+        <translation>Oberkante [%1]</translation>
     </message>
     <message>
-        <source>Bottom [m]</source>
-        <translation>Unterkante [m]</translation>
+        <source>Bottom [%1]</source>
+        <translation>Unterkante [%1]</translation>
     </message>
     <message>
-        <source>Velocity at top [m/s]</source>
-        <translation>Geschwindigkeit oben [m/s]</translation>
+        <source>Velocity at top [%1]</source>
+        <translation>Geschwindigkeit oben [%1]</translation>
     </message>
     <message>
-        <source>Velocity at bottom [m/s]</source>
-        <translation>Geschwindigkeit unten [m/s]</translation>
+        <source>Velocity at bottom [%1]</source>
+        <translation>Geschwindigkeit unten [%1]</translation>
     </message>
     <message>
         <source>The layers of the starting model, depths below the surface</source>
@@ -9819,10 +9807,6 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>Velocity limits</source>
         <translation>Geschwindigkeitsgrenzen</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>Smoothing</source>
@@ -9925,16 +9909,16 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Residuen der Picks über der Entfernung von ihrem Schuss</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Höhe [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Höhe [%1]</translation>
     </message>
     <message>
-        <source>Depth %1 [m]</source>
-        <translation>Tiefe %1 [m]</translation>
+        <source>Depth %1 [%2]</source>
+        <translation>Tiefe %1 [%2]</translation>
     </message>
     <message>
-        <source>Velocity %1 [m/s]</source>
-        <translation>Geschwindigkeit %1 [m/s]</translation>
+        <source>Velocity %1 [%2]</source>
+        <translation>Geschwindigkeit %1 [%2]</translation>
     </message>
     <message>
         <source>Refraction interpretation</source>
@@ -10025,16 +10009,16 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Geophone</translation>
     </message>
     <message>
-        <source>From [m]</source>
-        <translation>Von [m]</translation>
+        <source>From [%1]</source>
+        <translation>Von [%1]</translation>
     </message>
     <message>
-        <source>To [m]</source>
-        <translation>Bis [m]</translation>
+        <source>To [%1]</source>
+        <translation>Bis [%1]</translation>
     </message>
     <message>
-        <source>Spacing [m]</source>
-        <translation>Abstand [m]</translation>
+        <source>Spacing [%1]</source>
+        <translation>Abstand [%1]</translation>
     </message>
     <message>
         <source>Strings of geophones</source>
@@ -10217,8 +10201,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Die Picks haben sich geändert, seit dieses Profil erstellt wurde: Es ist das der früheren Picks.</translation>
     </message>
     <message>
-        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation>Wo die Zeiten zu einer Geschwindigkeit außerhalb von 50 bis 12 000 m/s führen, ist keine angegeben. Keine Tiefe ist dort angegeben, ferner unter einer Schicht, die schneller ist oder deren Geschwindigkeit oder Tiefe nicht bekannt ist, und wo sich eine Tiefe ergab, die größer ist als die Länge der Messlinie.</translation>
+        <source>No velocity is given where the times lead to one outside %1 to %2. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation>Wo die Zeiten zu einer Geschwindigkeit außerhalb von %1 bis %2 führen, ist keine angegeben. Keine Tiefe ist dort angegeben, ferner unter einer Schicht, die schneller ist oder deren Geschwindigkeit oder Tiefe nicht bekannt ist, und wo sich eine Tiefe ergab, die größer ist als die Länge der Messlinie.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
@@ -10477,12 +10461,12 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Geschwindigkeit</translation>
     </message>
     <message>
-        <source>%1: depth [m]</source>
-        <translation>%1: Tiefe [m]</translation>
+        <source>%1: depth [%2]</source>
+        <translation>%1: Tiefe [%2]</translation>
     </message>
     <message>
-        <source>%1: velocity [m/s]</source>
-        <translation>%1: Geschwindigkeit [m/s]</translation>
+        <source>%1: velocity [%2]</source>
+        <translation>%1: Geschwindigkeit [%2]</translation>
     </message>
     <message>
         <source>Disagree in</source>
@@ -10573,8 +10557,12 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Zunahme ihrer Geschwindigkeit mit der Tiefe</translation>
     </message>
     <message>
-        <source>%1 % of that at the surface per metre, down to %2 m</source>
-        <translation>%1 % des Werts an der Oberfläche je Meter, bis %2 m Tiefe</translation>
+        <source>%1 % of that at the surface per metre, down to %2</source>
+        <translation>%1 % des Werts an der Oberfläche je Meter, bis %2 Tiefe</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per foot, down to %2</source>
+        <translation>%1 % des Werts an der Oberfläche je Fuß, bis %2 Tiefe</translation>
     </message>
     <message>
         <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
@@ -11411,16 +11399,16 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Geschwindigkeitsschnitt</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Entfernung %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Entfernung %1</translation>
     </message>
     <message>
-        <source>Horizontal %1 m</source>
-        <translation>Horizontal %1 m</translation>
+        <source>Horizontal %1</source>
+        <translation>Horizontal %1</translation>
     </message>
     <message>
-        <source>Vertical %1 m</source>
-        <translation>Vertikal %1 m</translation>
+        <source>Vertical %1</source>
+        <translation>Vertikal %1</translation>
     </message>
     <message>
         <source>Slope %1°</source>
@@ -11503,6 +11491,22 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth unit:</source>
+        <translation>Län&amp;geneinheit:</translation>
+    </message>
+    <message>
+        <source>What lengths and velocities are shown and asked for in. Files stay in metres.</source>
+        <translation>Worin Längen und Geschwindigkeiten gezeigt und erfragt werden. Dateien bleiben in Metern.</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>feet (0.3048 m)</source>
+        <translation>Fuß (0,3048 m)</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -14622,8 +14626,8 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
 <context>
     <name>talvesk::TraceAxes</name>
     <message>
-        <source>x (m)</source>
-        <translation>x (m)</translation>
+        <source>x (%1)</source>
+        <translation>x (%1)</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -14641,12 +14645,12 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>%1 m, %2 ms</source>
-        <translation>%1 m, %2 ms</translation>
+        <source>%1, %2 ms</source>
+        <translation>%1, %2 ms</translation>
     </message>
     <message>
-        <source>%1 m/s (%2 m, %3 ms)</source>
-        <translation>%1 m/s (%2 m, %3 ms)</translation>
+        <source>%1 (%2, %3 ms)</source>
+        <translation>%1 (%2, %3 ms)</translation>
     </message>
     <message>
         <source>Other shots</source>
@@ -14657,17 +14661,17 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>Berechnet</translation>
     </message>
     <message>
-        <source>Air %1 m/s</source>
-        <translation>Luft %1 m/s</translation>
+        <source>Air %1</source>
+        <translation>Luft %1</translation>
     </message>
     <message>
         <source>No other shot of the string is picked</source>
         <translation>Kein anderer Schuss der Auslage ist gepickt</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
+        <source>Shot %1 at %2</source>
         <comment>number, place</comment>
-        <translation>Schuss %1 bei %2 m</translation>
+        <translation>Schuss %1 bei %2</translation>
     </message>
     <message>
         <source>No computed times</source>
@@ -14697,8 +14701,8 @@ Pick first breaks in the traces, by hand or with AutoPick, or import travel time
 Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importieren Sie Laufzeiten.</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Entfernung [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Entfernung [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -14733,8 +14737,8 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Speichert die Kurven als PNG, SVG oder PDF</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
-        <translation>Schuss %1 bei %2 m</translation>
+        <source>Shot %1 at %2</source>
+        <translation>Schuss %1 bei %2</translation>
     </message>
     <message>
         <source>Shot %1 has no travel times yet</source>
@@ -14999,40 +15003,40 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Alles zeigen</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Entfernung %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Entfernung %1</translation>
     </message>
     <message>
-        <source>elevation %1 m</source>
-        <translation>Höhe %1 m</translation>
+        <source>elevation %1</source>
+        <translation>Höhe %1</translation>
     </message>
     <message>
-        <source>depth %1 m</source>
-        <translation>Tiefe %1 m</translation>
+        <source>depth %1</source>
+        <translation>Tiefe %1</translation>
     </message>
     <message>
         <source>Vertical profile</source>
         <translation>Vertikalprofil</translation>
     </message>
     <message>
-        <source>Vertical profile at %1 m</source>
-        <translation>Vertikalprofil bei %1 m</translation>
+        <source>Vertical profile at %1</source>
+        <translation>Vertikalprofil bei %1</translation>
     </message>
     <message>
-        <source>Depth from [m]</source>
-        <translation>Tiefe von [m]</translation>
+        <source>Depth from [%1]</source>
+        <translation>Tiefe von [%1]</translation>
     </message>
     <message>
-        <source>Depth to [m]</source>
-        <translation>Tiefe bis [m]</translation>
+        <source>Depth to [%1]</source>
+        <translation>Tiefe bis [%1]</translation>
     </message>
     <message>
-        <source>Depth below ground [m]</source>
-        <translation>Tiefe unter Gelände [m]</translation>
+        <source>Depth below ground [%1]</source>
+        <translation>Tiefe unter Gelände [%1]</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Geschwindigkeit [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Geschwindigkeit [%1]</translation>
     </message>
     <message>
         <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
@@ -15067,8 +15071,8 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Schuss %1</translation>
     </message>
     <message>
-        <source>geophone %1 at %2 m</source>
-        <translation>Geophon %1 bei %2 m</translation>
+        <source>geophone %1 at %2</source>
+        <translation>Geophon %1 bei %2</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -15275,8 +15279,8 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
 <context>
     <name>talvesk::XYCriteria</name>
     <message>
-        <source>XY (m)</source>
-        <translation>XY (m)</translation>
+        <source>XY (%1)</source>
+        <translation>XY (%1)</translation>
     </message>
     <message>
         <source>Roughness of tV</source>
@@ -15670,12 +15674,12 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Geschwindigkeit über der Tiefe</translation>
     </message>
     <message>
-        <source>Velocity (m/s)</source>
-        <translation>Geschwindigkeit (m/s)</translation>
+        <source>Velocity (%1)</source>
+        <translation>Geschwindigkeit (%1)</translation>
     </message>
     <message>
-        <source>Depth below the ground (m)</source>
-        <translation>Tiefe unter Gelände (m)</translation>
+        <source>Depth below the ground (%1)</source>
+        <translation>Tiefe unter Gelände (%1)</translation>
     </message>
     <message>
         <source>Layers</source>
