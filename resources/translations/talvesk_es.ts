@@ -1792,8 +1792,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>N</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocidad [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocidad [%1]</translation>
     </message>
     <message>
         <source>Sections at their places on the map</source>
@@ -1883,12 +1883,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Exageración vertical %1</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distancia [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distancia [%1]</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Cota [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Cota [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -1923,9 +1923,9 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Disparo %1</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
+        <source>%1 at %2</source>
         <comment>shot, place</comment>
-        <translation>%1 en %2 m</translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>%1, filtered</source>
@@ -1987,12 +1987,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Perfil de refracción</translation>
     </message>
     <message>
-        <source>X (m)</source>
-        <translation>X (m)</translation>
+        <source>X (%1)</source>
+        <translation>X (%1)</translation>
     </message>
     <message>
-        <source>Z (m)</source>
-        <translation>Z (m)</translation>
+        <source>Z (%1)</source>
+        <translation>Z (%1)</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -2011,8 +2011,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Desajuste RMS [ms]</translation>
     </message>
     <message>
-        <source>Offset [m]</source>
-        <translation>Distancia al disparo [m]</translation>
+        <source>Offset [%1]</source>
+        <translation>Distancia al disparo [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [ms]</source>
@@ -2130,8 +2130,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Recuperado</translation>
     </message>
     <message>
-        <source>[m]</source>
-        <translation>[m]</translation>
+        <source>[%1]</source>
+        <translation>[%1]</translation>
     </message>
     <message>
         <source>Depth of %1, 16 to 84 %</source>
@@ -2162,24 +2162,24 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>%1 excluidos</translation>
     </message>
     <message>
-        <source>Geophone at [m]</source>
-        <translation>Geófono en [m]</translation>
+        <source>Geophone at [%1]</source>
+        <translation>Geófono en [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [pick errors]</source>
         <translation>Calculado menos medido [errores de los picados]</translation>
     </message>
     <message>
-        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
-        <translation>Disparo %1, geófono %2 en %3 m, distancia al disparo %4 m: medido %5 ms, calculado %6 ms, residuo %7 ms, error %8 ms (%9 errores)</translation>
+        <source>Shot %1, geophone %2 at %3, offset %4: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Disparo %1, geófono %2 en %3, distancia al disparo %4: medido %5 ms, calculado %6 ms, residuo %7 ms, error %8 ms (%9 errores)</translation>
     </message>
     <message>
         <source>; suspect</source>
         <translation>; sospechoso</translation>
     </message>
     <message>
-        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
-        <translation>Geófono en [m]; rayado: sin picado; con punto: sospechoso</translation>
+        <source>Geophone at [%1]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geófono en [%1]; rayado: sin picado; con punto: sospechoso</translation>
     </message>
     <message>
         <source>Shot, along the line</source>
@@ -2210,12 +2210,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Mediana y una desviación estándar</translation>
     </message>
     <message>
-        <source>%1: %2 m/s</source>
-        <translation>%1: %2 m/s</translation>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
     <message>
-        <source>%1 (%2 m beside the line)</source>
-        <translation>%1 (a %2 m de la línea)</translation>
+        <source>%1 (%2 beside the line)</source>
+        <translation>%1 (a %2 de la línea)</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -2230,8 +2230,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Cuerpos fijos</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocidad [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocidad [%1]</translation>
     </message>
     <message>
         <source>Vp/Vs</source>
@@ -2290,10 +2290,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>M</translation>
     </message>
     <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
-    </message>
-    <message>
         <source>kg/m3</source>
         <translation>kg/m3</translation>
     </message>
@@ -2310,12 +2306,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Densidad %1 kg/m3</translation>
     </message>
     <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Capa %1, %2 m/s</translation>
+        <source>Layer %1, %2</source>
+        <translation>Capa %1, %2</translation>
     </message>
     <message>
-        <source>Layer %1, %2 ± %3 m/s</source>
-        <translation>Capa %1, %2 ± %3 m/s</translation>
+        <source>Layer %1, %2 ± %3</source>
+        <translation>Capa %1, %2 ± %3</translation>
     </message>
     <message>
         <source>Dashed: not carried by picks there</source>
@@ -2326,8 +2322,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Error por los picados (68 de 100)</translation>
     </message>
     <message>
-        <source>Depth [m]</source>
-        <translation>Profundidad [m]</translation>
+        <source>Depth [%1]</source>
+        <translation>Profundidad [%1]</translation>
     </message>
     <message>
         <source>Depths are below the surface</source>
@@ -2354,12 +2350,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Capas</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
-        <translation>Capa 1, %1 m/s de media, creciente con la profundidad</translation>
+        <source>Layer 1, %1 in the mean, growing with depth</source>
+        <translation>Capa 1, %1 de media, creciente con la profundidad</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean</source>
-        <translation>Capa 1, %1 m/s de media</translation>
+        <source>Layer 1, %1 in the mean</source>
+        <translation>Capa 1, %1 de media</translation>
     </message>
     <message>
         <source>Vertical gradient [1/s]</source>
@@ -2370,16 +2366,16 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Incertidumbre [%]</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distancia %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distancia %1</translation>
     </message>
     <message>
         <source>no section here</source>
         <translation>aquí no hay sección</translation>
     </message>
     <message>
-        <source>surface at %1 m</source>
-        <translation>superficie a %1 m</translation>
+        <source>surface at %1</source>
+        <translation>superficie a %1</translation>
     </message>
     <message>
         <source>shaded: 16 to 84 %</source>
@@ -2393,10 +2389,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>annotations outside the section: %1</source>
         <translation>anotaciones fuera de la sección: %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>%1 (not reached)</source>
@@ -3335,8 +3327,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
 <context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
-        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
-        <translation>Disparo %1, traza %2: %3 m, %4 ms, %5</translation>
+        <source>Shot %1, trace %2: %3, %4 ms, %5</source>
+        <translation>Disparo %1, traza %2: %3, %4 ms, %5</translation>
     </message>
     <message>
         <source>no layer</source>
@@ -3542,8 +3534,8 @@ respaldo de picados</translation>
         <translation>Por revisar</translation>
     </message>
     <message>
-        <source>x %1 m, z %2 m</source>
-        <translation>x %1 m, z %2 m</translation>
+        <source>x %1, z %2</source>
+        <translation>x %1, z %2</translation>
     </message>
     <message>
         <source>Shot %1</source>
@@ -3558,12 +3550,12 @@ respaldo de picados</translation>
         <translation>Plano de la línea</translation>
     </message>
     <message>
-        <source>Distance (m)</source>
-        <translation>Distancia (m)</translation>
+        <source>Distance (%1)</source>
+        <translation>Distancia (%1)</translation>
     </message>
     <message>
-        <source>Elevation (m)</source>
-        <translation>Cota (m)</translation>
+        <source>Elevation (%1)</source>
+        <translation>Cota (%1)</translation>
     </message>
     <message>
         <source>Line</source>
@@ -3578,24 +3570,24 @@ respaldo de picados</translation>
         <translation>Geófono %1</translation>
     </message>
     <message>
-        <source>x %1 m, %2 m across</source>
-        <translation>x %1 m, %2 m en transversal</translation>
+        <source>x %1, %2 across</source>
+        <translation>x %1, %2 en transversal</translation>
     </message>
     <message>
-        <source>%1 m east, %2 m north</source>
-        <translation>%1 m al este, %2 m al norte</translation>
+        <source>%1 east, %2 north</source>
+        <translation>%1 al este, %2 al norte</translation>
     </message>
     <message>
-        <source>Across the line (m)</source>
-        <translation>Transversal a la línea (m)</translation>
+        <source>Across the line (%1)</source>
+        <translation>Transversal a la línea (%1)</translation>
     </message>
     <message>
-        <source>East of the first geophone (m)</source>
-        <translation>Al este del primer geófono (m)</translation>
+        <source>East of the first geophone (%1)</source>
+        <translation>Al este del primer geófono (%1)</translation>
     </message>
     <message>
-        <source>North of it (m)</source>
-        <translation>Al norte de él (m)</translation>
+        <source>North of it (%1)</source>
+        <translation>Al norte de él (%1)</translation>
     </message>
 </context>
 <context>
@@ -9697,8 +9689,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Disparo</translation>
     </message>
     <message>
-        <source>Position [m]</source>
-        <translation>Posición [m]</translation>
+        <source>Position [%1]</source>
+        <translation>Posición [%1]</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -9757,10 +9749,6 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Lado de una celda</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>Depth below the surface</source>
         <translation>Profundidad bajo la superficie</translation>
     </message>
@@ -9781,20 +9769,20 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Capa</translation>
     </message>
     <message>
-        <source>Top [m]</source>
-        <translation>Techo [m]</translation>
+        <source>Top [%1]</source>
+        <translation>Techo [%1]</translation>
     </message>
     <message>
-        <source>Bottom [m]</source>
-        <translation>Base [m]</translation>
+        <source>Bottom [%1]</source>
+        <translation>Base [%1]</translation>
     </message>
     <message>
-        <source>Velocity at top [m/s]</source>
-        <translation>Velocidad en el techo [m/s]</translation>
+        <source>Velocity at top [%1]</source>
+        <translation>Velocidad en el techo [%1]</translation>
     </message>
     <message>
-        <source>Velocity at bottom [m/s]</source>
-        <translation>Velocidad en la base [m/s]</translation>
+        <source>Velocity at bottom [%1]</source>
+        <translation>Velocidad en la base [%1]</translation>
     </message>
     <message>
         <source>The layers of the starting model, depths below the surface</source>
@@ -9819,10 +9807,6 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>Velocity limits</source>
         <translation>Límites de velocidad</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>Smoothing</source>
@@ -9925,16 +9909,16 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Residuos de los picados en función de la distancia a su disparo</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Cota [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Cota [%1]</translation>
     </message>
     <message>
-        <source>Depth %1 [m]</source>
-        <translation>Profundidad %1 [m]</translation>
+        <source>Depth %1 [%2]</source>
+        <translation>Profundidad %1 [%2]</translation>
     </message>
     <message>
-        <source>Velocity %1 [m/s]</source>
-        <translation>Velocidad %1 [m/s]</translation>
+        <source>Velocity %1 [%2]</source>
+        <translation>Velocidad %1 [%2]</translation>
     </message>
     <message>
         <source>Refraction interpretation</source>
@@ -10025,16 +10009,16 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Geófonos</translation>
     </message>
     <message>
-        <source>From [m]</source>
-        <translation>De [m]</translation>
+        <source>From [%1]</source>
+        <translation>De [%1]</translation>
     </message>
     <message>
-        <source>To [m]</source>
-        <translation>A [m]</translation>
+        <source>To [%1]</source>
+        <translation>A [%1]</translation>
     </message>
     <message>
-        <source>Spacing [m]</source>
-        <translation>Separación [m]</translation>
+        <source>Spacing [%1]</source>
+        <translation>Separación [%1]</translation>
     </message>
     <message>
         <source>Strings of geophones</source>
@@ -10217,8 +10201,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Los picados han cambiado desde que se construyó este perfil: es el de los picados anteriores.</translation>
     </message>
     <message>
-        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation>No se da velocidad donde los tiempos llevarían a una fuera del rango de 50 a 12&#xa0;000 m/s. No se da profundidad en esos puntos, ni por debajo de una capa cuya velocidad o profundidad no se conoce o que es más rápida, ni donde la profundidad calculada supera la longitud de la línea.</translation>
+        <source>No velocity is given where the times lead to one outside %1 to %2. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation>No se da velocidad donde los tiempos llevarían a una fuera del rango de %1 a %2. No se da profundidad en esos puntos, ni por debajo de una capa cuya velocidad o profundidad no se conoce o que es más rápida, ni donde la profundidad calculada supera la longitud de la línea.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
@@ -10477,12 +10461,12 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>velocidad</translation>
     </message>
     <message>
-        <source>%1: depth [m]</source>
-        <translation>%1: profundidad [m]</translation>
+        <source>%1: depth [%2]</source>
+        <translation>%1: profundidad [%2]</translation>
     </message>
     <message>
-        <source>%1: velocity [m/s]</source>
-        <translation>%1: velocidad [m/s]</translation>
+        <source>%1: velocity [%2]</source>
+        <translation>%1: velocidad [%2]</translation>
     </message>
     <message>
         <source>Disagree in</source>
@@ -10573,8 +10557,12 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Aumento de su velocidad con la profundidad</translation>
     </message>
     <message>
-        <source>%1 % of that at the surface per metre, down to %2 m</source>
-        <translation>%1 % de la de superficie por metro, hasta %2 m de profundidad</translation>
+        <source>%1 % of that at the surface per metre, down to %2</source>
+        <translation>%1 % de la de superficie por metro, hasta %2 de profundidad</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per foot, down to %2</source>
+        <translation>%1 % de la de superficie por pie, hasta %2 de profundidad</translation>
     </message>
     <message>
         <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
@@ -11411,16 +11399,16 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Sección de velocidad</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distancia %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distancia %1</translation>
     </message>
     <message>
-        <source>Horizontal %1 m</source>
-        <translation>Horizontal %1 m</translation>
+        <source>Horizontal %1</source>
+        <translation>Horizontal %1</translation>
     </message>
     <message>
-        <source>Vertical %1 m</source>
-        <translation>Vertical %1 m</translation>
+        <source>Vertical %1</source>
+        <translation>Vertical %1</translation>
     </message>
     <message>
         <source>Slope %1°</source>
@@ -11503,6 +11491,22 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Idioma:</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth unit:</source>
+        <translation>&amp;Unidad de longitud:</translation>
+    </message>
+    <message>
+        <source>What lengths and velocities are shown and asked for in. Files stay in metres.</source>
+        <translation>En qué se muestran y se piden longitudes y velocidades. Los archivos siguen en metros.</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation>metros</translation>
+    </message>
+    <message>
+        <source>feet (0.3048 m)</source>
+        <translation>pies (0,3048 m)</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -14622,8 +14626,8 @@ Do you want to run refraction processing anyway? </source>
 <context>
     <name>talvesk::TraceAxes</name>
     <message>
-        <source>x (m)</source>
-        <translation>x (m)</translation>
+        <source>x (%1)</source>
+        <translation>x (%1)</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -14641,12 +14645,12 @@ Do you want to run refraction processing anyway? </source>
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>%1 m, %2 ms</source>
-        <translation>%1 m, %2 ms</translation>
+        <source>%1, %2 ms</source>
+        <translation>%1, %2 ms</translation>
     </message>
     <message>
-        <source>%1 m/s (%2 m, %3 ms)</source>
-        <translation>%1 m/s (%2 m, %3 ms)</translation>
+        <source>%1 (%2, %3 ms)</source>
+        <translation>%1 (%2, %3 ms)</translation>
     </message>
     <message>
         <source>Other shots</source>
@@ -14657,17 +14661,17 @@ Do you want to run refraction processing anyway? </source>
         <translation>Calculados</translation>
     </message>
     <message>
-        <source>Air %1 m/s</source>
-        <translation>Aire %1 m/s</translation>
+        <source>Air %1</source>
+        <translation>Aire %1</translation>
     </message>
     <message>
         <source>No other shot of the string is picked</source>
         <translation>Ningún otro disparo del tendido está picado</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
+        <source>Shot %1 at %2</source>
         <comment>number, place</comment>
-        <translation>Disparo %1 en %2 m</translation>
+        <translation>Disparo %1 en %2</translation>
     </message>
     <message>
         <source>No computed times</source>
@@ -14697,8 +14701,8 @@ Pick first breaks in the traces, by hand or with AutoPick, or import travel time
 Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos de recorrido.</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distancia [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distancia [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -14733,8 +14737,8 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Guarda las dromocronas como PNG, SVG o PDF</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
-        <translation>Disparo %1 en %2 m</translation>
+        <source>Shot %1 at %2</source>
+        <translation>Disparo %1 en %2</translation>
     </message>
     <message>
         <source>Shot %1 has no travel times yet</source>
@@ -14999,40 +15003,40 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Mostrar todo</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distancia %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distancia %1</translation>
     </message>
     <message>
-        <source>elevation %1 m</source>
-        <translation>cota %1 m</translation>
+        <source>elevation %1</source>
+        <translation>cota %1</translation>
     </message>
     <message>
-        <source>depth %1 m</source>
-        <translation>profundidad %1 m</translation>
+        <source>depth %1</source>
+        <translation>profundidad %1</translation>
     </message>
     <message>
         <source>Vertical profile</source>
         <translation>Perfil vertical</translation>
     </message>
     <message>
-        <source>Vertical profile at %1 m</source>
-        <translation>Perfil vertical en %1 m</translation>
+        <source>Vertical profile at %1</source>
+        <translation>Perfil vertical en %1</translation>
     </message>
     <message>
-        <source>Depth from [m]</source>
-        <translation>Profundidad desde [m]</translation>
+        <source>Depth from [%1]</source>
+        <translation>Profundidad desde [%1]</translation>
     </message>
     <message>
-        <source>Depth to [m]</source>
-        <translation>Profundidad hasta [m]</translation>
+        <source>Depth to [%1]</source>
+        <translation>Profundidad hasta [%1]</translation>
     </message>
     <message>
-        <source>Depth below ground [m]</source>
-        <translation>Profundidad bajo el terreno [m]</translation>
+        <source>Depth below ground [%1]</source>
+        <translation>Profundidad bajo el terreno [%1]</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocidad [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocidad [%1]</translation>
     </message>
     <message>
         <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
@@ -15067,8 +15071,8 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Disparo %1</translation>
     </message>
     <message>
-        <source>geophone %1 at %2 m</source>
-        <translation>geófono %1 en %2 m</translation>
+        <source>geophone %1 at %2</source>
+        <translation>geófono %1 en %2</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -15275,8 +15279,8 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
 <context>
     <name>talvesk::XYCriteria</name>
     <message>
-        <source>XY (m)</source>
-        <translation>XY (m)</translation>
+        <source>XY (%1)</source>
+        <translation>XY (%1)</translation>
     </message>
     <message>
         <source>Roughness of tV</source>
@@ -15670,12 +15674,12 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Velocidad en función de la profundidad</translation>
     </message>
     <message>
-        <source>Velocity (m/s)</source>
-        <translation>Velocidad (m/s)</translation>
+        <source>Velocity (%1)</source>
+        <translation>Velocidad (%1)</translation>
     </message>
     <message>
-        <source>Depth below the ground (m)</source>
-        <translation>Profundidad bajo el terreno (m)</translation>
+        <source>Depth below the ground (%1)</source>
+        <translation>Profundidad bajo el terreno (%1)</translation>
     </message>
     <message>
         <source>Layers</source>
