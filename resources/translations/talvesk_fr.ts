@@ -1792,8 +1792,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>N</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Vitesse [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Vitesse [%1]</translation>
     </message>
     <message>
         <source>Sections at their places on the map</source>
@@ -1883,12 +1883,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Exagération verticale %1</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distance [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distance [%1]</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Altitude [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Altitude [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -1923,9 +1923,9 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Tir %1</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
+        <source>%1 at %2</source>
         <comment>shot, place</comment>
-        <translation>%1 à %2 m</translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>%1, filtered</source>
@@ -1987,12 +1987,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Profil de réfraction</translation>
     </message>
     <message>
-        <source>X (m)</source>
-        <translation>X (m)</translation>
+        <source>X (%1)</source>
+        <translation>X (%1)</translation>
     </message>
     <message>
-        <source>Z (m)</source>
-        <translation>Z (m)</translation>
+        <source>Z (%1)</source>
+        <translation>Z (%1)</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -2011,8 +2011,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Écart quadratique moyen [ms]</translation>
     </message>
     <message>
-        <source>Offset [m]</source>
-        <translation>Déport [m]</translation>
+        <source>Offset [%1]</source>
+        <translation>Déport [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [ms]</source>
@@ -2130,8 +2130,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Restitué</translation>
     </message>
     <message>
-        <source>[m]</source>
-        <translation>[m]</translation>
+        <source>[%1]</source>
+        <translation>[%1]</translation>
     </message>
     <message>
         <source>Depth of %1, 16 to 84 %</source>
@@ -2162,24 +2162,24 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>%1 écartés</translation>
     </message>
     <message>
-        <source>Geophone at [m]</source>
-        <translation>Géophone à [m]</translation>
+        <source>Geophone at [%1]</source>
+        <translation>Géophone à [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [pick errors]</source>
         <translation>Calculé moins mesuré [erreurs de pointé]</translation>
     </message>
     <message>
-        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
-        <translation>Tir %1, géophone %2 à %3 m, déport %4 m&#xa0;: mesuré %5 ms, calculé %6 ms, résidu %7 ms, erreur %8 ms (%9 erreurs)</translation>
+        <source>Shot %1, geophone %2 at %3, offset %4: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Tir %1, géophone %2 à %3, déport %4&#xa0;: mesuré %5 ms, calculé %6 ms, résidu %7 ms, erreur %8 ms (%9 erreurs)</translation>
     </message>
     <message>
         <source>; suspect</source>
         <translation>&#xa0;; suspect</translation>
     </message>
     <message>
-        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
-        <translation>Géophone à [m]&#xa0;; hachuré&#xa0;: aucun pointé, avec un point&#xa0;: suspect</translation>
+        <source>Geophone at [%1]; hatched: no pick, with a dot: suspect</source>
+        <translation>Géophone à [%1]&#xa0;; hachuré&#xa0;: aucun pointé, avec un point&#xa0;: suspect</translation>
     </message>
     <message>
         <source>Shot, along the line</source>
@@ -2210,12 +2210,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Médiane et un écart type</translation>
     </message>
     <message>
-        <source>%1: %2 m/s</source>
-        <translation>%1&#xa0;: %2 m/s</translation>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>%1 (%2 m beside the line)</source>
-        <translation>%1 (%2 m à côté de la ligne)</translation>
+        <source>%1 (%2 beside the line)</source>
+        <translation>%1 (%2 à côté de la ligne)</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -2230,8 +2230,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Corps fixes</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Vitesse [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Vitesse [%1]</translation>
     </message>
     <message>
         <source>Vp/Vs</source>
@@ -2290,10 +2290,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>M</translation>
     </message>
     <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
-    </message>
-    <message>
         <source>kg/m3</source>
         <translation>kg/m3</translation>
     </message>
@@ -2310,12 +2306,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Masse volumique %1 kg/m3</translation>
     </message>
     <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Couche %1, %2 m/s</translation>
+        <source>Layer %1, %2</source>
+        <translation>Couche %1, %2</translation>
     </message>
     <message>
-        <source>Layer %1, %2 ± %3 m/s</source>
-        <translation>Couche %1, %2 ± %3 m/s</translation>
+        <source>Layer %1, %2 ± %3</source>
+        <translation>Couche %1, %2 ± %3</translation>
     </message>
     <message>
         <source>Dashed: not carried by picks there</source>
@@ -2326,8 +2322,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Erreur due aux pointés (68 sur 100)</translation>
     </message>
     <message>
-        <source>Depth [m]</source>
-        <translation>Profondeur [m]</translation>
+        <source>Depth [%1]</source>
+        <translation>Profondeur [%1]</translation>
     </message>
     <message>
         <source>Depths are below the surface</source>
@@ -2354,12 +2350,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Couches</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
-        <translation>Couche 1, %1 m/s en moyenne, croissant avec la profondeur</translation>
+        <source>Layer 1, %1 in the mean, growing with depth</source>
+        <translation>Couche 1, %1 en moyenne, croissant avec la profondeur</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean</source>
-        <translation>Couche 1, %1 m/s en moyenne</translation>
+        <source>Layer 1, %1 in the mean</source>
+        <translation>Couche 1, %1 en moyenne</translation>
     </message>
     <message>
         <source>Vertical gradient [1/s]</source>
@@ -2370,16 +2366,16 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Incertitude [%]</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distance %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distance %1</translation>
     </message>
     <message>
         <source>no section here</source>
         <translation>pas de coupe ici</translation>
     </message>
     <message>
-        <source>surface at %1 m</source>
-        <translation>surface à %1 m</translation>
+        <source>surface at %1</source>
+        <translation>surface à %1</translation>
     </message>
     <message>
         <source>shaded: 16 to 84 %</source>
@@ -2393,10 +2389,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>annotations outside the section: %1</source>
         <translation>annotations hors de la coupe&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>%1 (not reached)</source>
@@ -3335,8 +3327,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
 <context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
-        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
-        <translation>Tir %1, trace %2&#xa0;: %3 m, %4 ms, %5</translation>
+        <source>Shot %1, trace %2: %3, %4 ms, %5</source>
+        <translation>Tir %1, trace %2&#xa0;: %3, %4 ms, %5</translation>
     </message>
     <message>
         <source>no layer</source>
@@ -3542,8 +3534,8 @@ de pointés</translation>
         <translation>À vérifier</translation>
     </message>
     <message>
-        <source>x %1 m, z %2 m</source>
-        <translation>x %1 m, z %2 m</translation>
+        <source>x %1, z %2</source>
+        <translation>x %1, z %2</translation>
     </message>
     <message>
         <source>Shot %1</source>
@@ -3558,12 +3550,12 @@ de pointés</translation>
         <translation>Plan de la ligne</translation>
     </message>
     <message>
-        <source>Distance (m)</source>
-        <translation>Distance (m)</translation>
+        <source>Distance (%1)</source>
+        <translation>Distance (%1)</translation>
     </message>
     <message>
-        <source>Elevation (m)</source>
-        <translation>Altitude (m)</translation>
+        <source>Elevation (%1)</source>
+        <translation>Altitude (%1)</translation>
     </message>
     <message>
         <source>Line</source>
@@ -3578,24 +3570,24 @@ de pointés</translation>
         <translation>Géophone %1</translation>
     </message>
     <message>
-        <source>x %1 m, %2 m across</source>
-        <translation>x %1 m, %2 m en travers</translation>
+        <source>x %1, %2 across</source>
+        <translation>x %1, %2 en travers</translation>
     </message>
     <message>
-        <source>%1 m east, %2 m north</source>
-        <translation>%1 m est, %2 m nord</translation>
+        <source>%1 east, %2 north</source>
+        <translation>%1 est, %2 nord</translation>
     </message>
     <message>
-        <source>Across the line (m)</source>
-        <translation>En travers de la ligne (m)</translation>
+        <source>Across the line (%1)</source>
+        <translation>En travers de la ligne (%1)</translation>
     </message>
     <message>
-        <source>East of the first geophone (m)</source>
-        <translation>À l&apos;est du premier géophone (m)</translation>
+        <source>East of the first geophone (%1)</source>
+        <translation>À l&apos;est du premier géophone (%1)</translation>
     </message>
     <message>
-        <source>North of it (m)</source>
-        <translation>Au nord de celui-ci (m)</translation>
+        <source>North of it (%1)</source>
+        <translation>Au nord de celui-ci (%1)</translation>
     </message>
 </context>
 <context>
@@ -9697,8 +9689,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Tir</translation>
     </message>
     <message>
-        <source>Position [m]</source>
-        <translation>Position [m]</translation>
+        <source>Position [%1]</source>
+        <translation>Position [%1]</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -9757,10 +9749,6 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Côté d&apos;une cellule</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>Depth below the surface</source>
         <translation>Profondeur sous la surface</translation>
     </message>
@@ -9781,20 +9769,20 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Couche</translation>
     </message>
     <message>
-        <source>Top [m]</source>
-        <translation>Toit [m]</translation>
+        <source>Top [%1]</source>
+        <translation>Toit [%1]</translation>
     </message>
     <message>
-        <source>Bottom [m]</source>
-        <translation>Base [m]</translation>
+        <source>Bottom [%1]</source>
+        <translation>Base [%1]</translation>
     </message>
     <message>
-        <source>Velocity at top [m/s]</source>
-        <translation>Vitesse au toit [m/s]</translation>
+        <source>Velocity at top [%1]</source>
+        <translation>Vitesse au toit [%1]</translation>
     </message>
     <message>
-        <source>Velocity at bottom [m/s]</source>
-        <translation>Vitesse à la base [m/s]</translation>
+        <source>Velocity at bottom [%1]</source>
+        <translation>Vitesse à la base [%1]</translation>
     </message>
     <message>
         <source>The layers of the starting model, depths below the surface</source>
@@ -9819,10 +9807,6 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>Velocity limits</source>
         <translation>Limites de vitesse</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>Smoothing</source>
@@ -9925,16 +9909,16 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Résidus des pointés en fonction de la distance à leur tir</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Altitude [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Altitude [%1]</translation>
     </message>
     <message>
-        <source>Depth %1 [m]</source>
-        <translation>Profondeur %1 [m]</translation>
+        <source>Depth %1 [%2]</source>
+        <translation>Profondeur %1 [%2]</translation>
     </message>
     <message>
-        <source>Velocity %1 [m/s]</source>
-        <translation>Vitesse %1 [m/s]</translation>
+        <source>Velocity %1 [%2]</source>
+        <translation>Vitesse %1 [%2]</translation>
     </message>
     <message>
         <source>Refraction interpretation</source>
@@ -10025,16 +10009,16 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Géophones</translation>
     </message>
     <message>
-        <source>From [m]</source>
-        <translation>De [m]</translation>
+        <source>From [%1]</source>
+        <translation>De [%1]</translation>
     </message>
     <message>
-        <source>To [m]</source>
-        <translation>À [m]</translation>
+        <source>To [%1]</source>
+        <translation>À [%1]</translation>
     </message>
     <message>
-        <source>Spacing [m]</source>
-        <translation>Espacement [m]</translation>
+        <source>Spacing [%1]</source>
+        <translation>Espacement [%1]</translation>
     </message>
     <message>
         <source>Strings of geophones</source>
@@ -10217,8 +10201,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Les pointés ont changé depuis la construction de ce profil&#xa0;: il est celui des pointés antérieurs.</translation>
     </message>
     <message>
-        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation>Aucune vitesse n&apos;est donnée là où les temps en donneraient une hors de la plage de 50 à 12&#xa0;000 m/s. Aucune profondeur n&apos;est donnée à ces endroits, ni sous une couche dont la vitesse ou la profondeur n&apos;est pas connue ou qui est plus rapide, ni là où la profondeur calculée dépasse la longueur de la ligne.</translation>
+        <source>No velocity is given where the times lead to one outside %1 to %2. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation>Aucune vitesse n&apos;est donnée là où les temps en donneraient une hors de la plage de %1 à %2. Aucune profondeur n&apos;est donnée à ces endroits, ni sous une couche dont la vitesse ou la profondeur n&apos;est pas connue ou qui est plus rapide, ni là où la profondeur calculée dépasse la longueur de la ligne.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
@@ -10477,12 +10461,12 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>vitesse</translation>
     </message>
     <message>
-        <source>%1: depth [m]</source>
-        <translation>%1&#xa0;: profondeur [m]</translation>
+        <source>%1: depth [%2]</source>
+        <translation>%1&#xa0;: profondeur [%2]</translation>
     </message>
     <message>
-        <source>%1: velocity [m/s]</source>
-        <translation>%1&#xa0;: vitesse [m/s]</translation>
+        <source>%1: velocity [%2]</source>
+        <translation>%1&#xa0;: vitesse [%2]</translation>
     </message>
     <message>
         <source>Disagree in</source>
@@ -10573,8 +10557,12 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Croissance de sa vitesse avec la profondeur</translation>
     </message>
     <message>
-        <source>%1 % of that at the surface per metre, down to %2 m</source>
-        <translation>%1&#xa0;% de celle en surface par mètre, jusqu&apos;à %2 m de profondeur</translation>
+        <source>%1 % of that at the surface per metre, down to %2</source>
+        <translation>%1&#xa0;% de celle en surface par mètre, jusqu&apos;à %2 de profondeur</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per foot, down to %2</source>
+        <translation>%1&#xa0;% de celle en surface par pied, jusqu&apos;à %2 de profondeur</translation>
     </message>
     <message>
         <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
@@ -11411,16 +11399,16 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Coupe de vitesse</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distance %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distance %1</translation>
     </message>
     <message>
-        <source>Horizontal %1 m</source>
-        <translation>Horizontale %1 m</translation>
+        <source>Horizontal %1</source>
+        <translation>Horizontale %1</translation>
     </message>
     <message>
-        <source>Vertical %1 m</source>
-        <translation>Verticale %1 m</translation>
+        <source>Vertical %1</source>
+        <translation>Verticale %1</translation>
     </message>
     <message>
         <source>Slope %1°</source>
@@ -11503,6 +11491,22 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Langue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth unit:</source>
+        <translation>&amp;Unité de longueur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What lengths and velocities are shown and asked for in. Files stay in metres.</source>
+        <translation>Unité dans laquelle longueurs et vitesses sont affichées et demandées. Les fichiers restent en mètres.</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation>mètres</translation>
+    </message>
+    <message>
+        <source>feet (0.3048 m)</source>
+        <translation>pieds (0,3048&#xa0;m)</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -14622,8 +14626,8 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
 <context>
     <name>talvesk::TraceAxes</name>
     <message>
-        <source>x (m)</source>
-        <translation>x (m)</translation>
+        <source>x (%1)</source>
+        <translation>x (%1)</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -14641,12 +14645,12 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>%1 m, %2 ms</source>
-        <translation>%1 m, %2 ms</translation>
+        <source>%1, %2 ms</source>
+        <translation>%1, %2 ms</translation>
     </message>
     <message>
-        <source>%1 m/s (%2 m, %3 ms)</source>
-        <translation>%1 m/s (%2 m, %3 ms)</translation>
+        <source>%1 (%2, %3 ms)</source>
+        <translation>%1 (%2, %3 ms)</translation>
     </message>
     <message>
         <source>Other shots</source>
@@ -14657,17 +14661,17 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>Calculés</translation>
     </message>
     <message>
-        <source>Air %1 m/s</source>
-        <translation>Air %1 m/s</translation>
+        <source>Air %1</source>
+        <translation>Air %1</translation>
     </message>
     <message>
         <source>No other shot of the string is picked</source>
         <translation>Aucun autre tir du dispositif n&apos;est pointé</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
+        <source>Shot %1 at %2</source>
         <comment>number, place</comment>
-        <translation>Tir %1 à %2 m</translation>
+        <translation>Tir %1 à %2</translation>
     </message>
     <message>
         <source>No computed times</source>
@@ -14697,8 +14701,8 @@ Pick first breaks in the traces, by hand or with AutoPick, or import travel time
 Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou importez des temps de parcours.</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distance [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distance [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -14733,8 +14737,8 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Enregistrer les courbes en PNG, SVG ou PDF</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
-        <translation>Tir %1 à %2 m</translation>
+        <source>Shot %1 at %2</source>
+        <translation>Tir %1 à %2</translation>
     </message>
     <message>
         <source>Shot %1 has no travel times yet</source>
@@ -14999,40 +15003,40 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Tout afficher</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distance %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distance %1</translation>
     </message>
     <message>
-        <source>elevation %1 m</source>
-        <translation>altitude %1 m</translation>
+        <source>elevation %1</source>
+        <translation>altitude %1</translation>
     </message>
     <message>
-        <source>depth %1 m</source>
-        <translation>profondeur %1 m</translation>
+        <source>depth %1</source>
+        <translation>profondeur %1</translation>
     </message>
     <message>
         <source>Vertical profile</source>
         <translation>Profil vertical</translation>
     </message>
     <message>
-        <source>Vertical profile at %1 m</source>
-        <translation>Profil vertical à %1 m</translation>
+        <source>Vertical profile at %1</source>
+        <translation>Profil vertical à %1</translation>
     </message>
     <message>
-        <source>Depth from [m]</source>
-        <translation>Profondeur de [m]</translation>
+        <source>Depth from [%1]</source>
+        <translation>Profondeur de [%1]</translation>
     </message>
     <message>
-        <source>Depth to [m]</source>
-        <translation>Profondeur à [m]</translation>
+        <source>Depth to [%1]</source>
+        <translation>Profondeur à [%1]</translation>
     </message>
     <message>
-        <source>Depth below ground [m]</source>
-        <translation>Profondeur sous le sol [m]</translation>
+        <source>Depth below ground [%1]</source>
+        <translation>Profondeur sous le sol [%1]</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Vitesse [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Vitesse [%1]</translation>
     </message>
     <message>
         <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
@@ -15067,8 +15071,8 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Tir %1</translation>
     </message>
     <message>
-        <source>geophone %1 at %2 m</source>
-        <translation>géophone %1 à %2 m</translation>
+        <source>geophone %1 at %2</source>
+        <translation>géophone %1 à %2</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -15275,8 +15279,8 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
 <context>
     <name>talvesk::XYCriteria</name>
     <message>
-        <source>XY (m)</source>
-        <translation>XY (m)</translation>
+        <source>XY (%1)</source>
+        <translation>XY (%1)</translation>
     </message>
     <message>
         <source>Roughness of tV</source>
@@ -15670,12 +15674,12 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Vitesse en fonction de la profondeur</translation>
     </message>
     <message>
-        <source>Velocity (m/s)</source>
-        <translation>Vitesse (m/s)</translation>
+        <source>Velocity (%1)</source>
+        <translation>Vitesse (%1)</translation>
     </message>
     <message>
-        <source>Depth below the ground (m)</source>
-        <translation>Profondeur sous le sol (m)</translation>
+        <source>Depth below the ground (%1)</source>
+        <translation>Profondeur sous le sol (%1)</translation>
     </message>
     <message>
         <source>Layers</source>
