@@ -1792,8 +1792,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>N</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocità [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocità [%1]</translation>
     </message>
     <message>
         <source>Sections at their places on the map</source>
@@ -1883,12 +1883,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Esagerazione verticale %1</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distanza [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distanza [%1]</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Quota [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Quota [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -1923,9 +1923,9 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Tiro %1</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
+        <source>%1 at %2</source>
         <comment>shot, place</comment>
-        <translation>%1 a %2 m</translation>
+        <translation>%1 a %2</translation>
     </message>
     <message>
         <source>%1, filtered</source>
@@ -1987,12 +1987,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Profilo a rifrazione</translation>
     </message>
     <message>
-        <source>X (m)</source>
-        <translation>X (m)</translation>
+        <source>X (%1)</source>
+        <translation>X (%1)</translation>
     </message>
     <message>
-        <source>Z (m)</source>
-        <translation>Z (m)</translation>
+        <source>Z (%1)</source>
+        <translation>Z (%1)</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -2011,8 +2011,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Scarto quadratico medio [ms]</translation>
     </message>
     <message>
-        <source>Offset [m]</source>
-        <translation>Distanza dal tiro [m]</translation>
+        <source>Offset [%1]</source>
+        <translation>Distanza dal tiro [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [ms]</source>
@@ -2130,8 +2130,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Ricostruito</translation>
     </message>
     <message>
-        <source>[m]</source>
-        <translation>[m]</translation>
+        <source>[%1]</source>
+        <translation>[%1]</translation>
     </message>
     <message>
         <source>Depth of %1, 16 to 84 %</source>
@@ -2162,24 +2162,24 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>%1 esclusi</translation>
     </message>
     <message>
-        <source>Geophone at [m]</source>
-        <translation>Geofono a [m]</translation>
+        <source>Geophone at [%1]</source>
+        <translation>Geofono a [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [pick errors]</source>
         <translation>Calcolato meno misurato [errori dei primi arrivi]</translation>
     </message>
     <message>
-        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
-        <translation>Tiro %1, geofono %2 a %3 m, distanza %4 m: misurato %5 ms, calcolato %6 ms, residuo %7 ms, errore %8 ms (%9 errori)</translation>
+        <source>Shot %1, geophone %2 at %3, offset %4: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Tiro %1, geofono %2 a %3, distanza %4: misurato %5 ms, calcolato %6 ms, residuo %7 ms, errore %8 ms (%9 errori)</translation>
     </message>
     <message>
         <source>; suspect</source>
         <translation>; sospetto</translation>
     </message>
     <message>
-        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
-        <translation>Geofono a [m]; tratteggiato: nessun primo arrivo, con un punto: sospetto</translation>
+        <source>Geophone at [%1]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geofono a [%1]; tratteggiato: nessun primo arrivo, con un punto: sospetto</translation>
     </message>
     <message>
         <source>Shot, along the line</source>
@@ -2210,12 +2210,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Mediana e una deviazione standard</translation>
     </message>
     <message>
-        <source>%1: %2 m/s</source>
-        <translation>%1: %2 m/s</translation>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
     <message>
-        <source>%1 (%2 m beside the line)</source>
-        <translation>%1 (%2 m di lato alla linea)</translation>
+        <source>%1 (%2 beside the line)</source>
+        <translation>%1 (%2 di lato alla linea)</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -2230,8 +2230,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Corpi fissi</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocità [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocità [%1]</translation>
     </message>
     <message>
         <source>Vp/Vs</source>
@@ -2290,10 +2290,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>M</translation>
     </message>
     <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
-    </message>
-    <message>
         <source>kg/m3</source>
         <translation>kg/m3</translation>
     </message>
@@ -2310,12 +2306,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Densità %1 kg/m3</translation>
     </message>
     <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Strato %1, %2 m/s</translation>
+        <source>Layer %1, %2</source>
+        <translation>Strato %1, %2</translation>
     </message>
     <message>
-        <source>Layer %1, %2 ± %3 m/s</source>
-        <translation>Strato %1, %2 ± %3 m/s</translation>
+        <source>Layer %1, %2 ± %3</source>
+        <translation>Strato %1, %2 ± %3</translation>
     </message>
     <message>
         <source>Dashed: not carried by picks there</source>
@@ -2326,8 +2322,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Errore dei primi arrivi (68 su 100)</translation>
     </message>
     <message>
-        <source>Depth [m]</source>
-        <translation>Profondità [m]</translation>
+        <source>Depth [%1]</source>
+        <translation>Profondità [%1]</translation>
     </message>
     <message>
         <source>Depths are below the surface</source>
@@ -2354,12 +2350,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Strati</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
-        <translation>Strato 1, in media %1 m/s, crescente con la profondità</translation>
+        <source>Layer 1, %1 in the mean, growing with depth</source>
+        <translation>Strato 1, in media %1, crescente con la profondità</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean</source>
-        <translation>Strato 1, in media %1 m/s</translation>
+        <source>Layer 1, %1 in the mean</source>
+        <translation>Strato 1, in media %1</translation>
     </message>
     <message>
         <source>Vertical gradient [1/s]</source>
@@ -2370,16 +2366,16 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Incertezza [%]</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distanza %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distanza %1</translation>
     </message>
     <message>
         <source>no section here</source>
         <translation>qui nessuna sezione</translation>
     </message>
     <message>
-        <source>surface at %1 m</source>
-        <translation>superficie a %1 m</translation>
+        <source>surface at %1</source>
+        <translation>superficie a %1</translation>
     </message>
     <message>
         <source>shaded: 16 to 84 %</source>
@@ -2393,10 +2389,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>annotations outside the section: %1</source>
         <translation>annotazioni fuori dalla sezione: %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>%1 (not reached)</source>
@@ -3335,8 +3327,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
 <context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
-        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
-        <translation>Tiro %1, traccia %2: %3 m, %4 ms, %5</translation>
+        <source>Shot %1, trace %2: %3, %4 ms, %5</source>
+        <translation>Tiro %1, traccia %2: %3, %4 ms, %5</translation>
     </message>
     <message>
         <source>no layer</source>
@@ -3542,8 +3534,8 @@ da arrivi</translation>
         <translation>Da controllare</translation>
     </message>
     <message>
-        <source>x %1 m, z %2 m</source>
-        <translation>x %1 m, z %2 m</translation>
+        <source>x %1, z %2</source>
+        <translation>x %1, z %2</translation>
     </message>
     <message>
         <source>Shot %1</source>
@@ -3558,12 +3550,12 @@ da arrivi</translation>
         <translation>Pianta della linea</translation>
     </message>
     <message>
-        <source>Distance (m)</source>
-        <translation>Distanza (m)</translation>
+        <source>Distance (%1)</source>
+        <translation>Distanza (%1)</translation>
     </message>
     <message>
-        <source>Elevation (m)</source>
-        <translation>Quota (m)</translation>
+        <source>Elevation (%1)</source>
+        <translation>Quota (%1)</translation>
     </message>
     <message>
         <source>Line</source>
@@ -3578,24 +3570,24 @@ da arrivi</translation>
         <translation>Geofono %1</translation>
     </message>
     <message>
-        <source>x %1 m, %2 m across</source>
-        <translation>x %1 m, %2 m di lato</translation>
+        <source>x %1, %2 across</source>
+        <translation>x %1, %2 di lato</translation>
     </message>
     <message>
-        <source>%1 m east, %2 m north</source>
-        <translation>%1 m a est, %2 m a nord</translation>
+        <source>%1 east, %2 north</source>
+        <translation>%1 a est, %2 a nord</translation>
     </message>
     <message>
-        <source>Across the line (m)</source>
-        <translation>Di lato alla linea (m)</translation>
+        <source>Across the line (%1)</source>
+        <translation>Di lato alla linea (%1)</translation>
     </message>
     <message>
-        <source>East of the first geophone (m)</source>
-        <translation>A est del primo geofono (m)</translation>
+        <source>East of the first geophone (%1)</source>
+        <translation>A est del primo geofono (%1)</translation>
     </message>
     <message>
-        <source>North of it (m)</source>
-        <translation>A nord di esso (m)</translation>
+        <source>North of it (%1)</source>
+        <translation>A nord di esso (%1)</translation>
     </message>
 </context>
 <context>
@@ -9697,8 +9689,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Tiro</translation>
     </message>
     <message>
-        <source>Position [m]</source>
-        <translation>Posizione [m]</translation>
+        <source>Position [%1]</source>
+        <translation>Posizione [%1]</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -9757,10 +9749,6 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Lato di una cella</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>Depth below the surface</source>
         <translation>Profondità dalla superficie</translation>
     </message>
@@ -9781,20 +9769,20 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Strato</translation>
     </message>
     <message>
-        <source>Top [m]</source>
-        <translation>Tetto [m]</translation>
+        <source>Top [%1]</source>
+        <translation>Tetto [%1]</translation>
     </message>
     <message>
-        <source>Bottom [m]</source>
-        <translation>Letto [m]</translation>
+        <source>Bottom [%1]</source>
+        <translation>Letto [%1]</translation>
     </message>
     <message>
-        <source>Velocity at top [m/s]</source>
-        <translation>Velocità al tetto [m/s]</translation>
+        <source>Velocity at top [%1]</source>
+        <translation>Velocità al tetto [%1]</translation>
     </message>
     <message>
-        <source>Velocity at bottom [m/s]</source>
-        <translation>Velocità al letto [m/s]</translation>
+        <source>Velocity at bottom [%1]</source>
+        <translation>Velocità al letto [%1]</translation>
     </message>
     <message>
         <source>The layers of the starting model, depths below the surface</source>
@@ -9819,10 +9807,6 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>Velocity limits</source>
         <translation>Limiti di velocità</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>Smoothing</source>
@@ -9925,16 +9909,16 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Residui dei primi arrivi in funzione della distanza dal tiro</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Quota [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Quota [%1]</translation>
     </message>
     <message>
-        <source>Depth %1 [m]</source>
-        <translation>Profondità %1 [m]</translation>
+        <source>Depth %1 [%2]</source>
+        <translation>Profondità %1 [%2]</translation>
     </message>
     <message>
-        <source>Velocity %1 [m/s]</source>
-        <translation>Velocità %1 [m/s]</translation>
+        <source>Velocity %1 [%2]</source>
+        <translation>Velocità %1 [%2]</translation>
     </message>
     <message>
         <source>Refraction interpretation</source>
@@ -10025,16 +10009,16 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Geofoni</translation>
     </message>
     <message>
-        <source>From [m]</source>
-        <translation>Da [m]</translation>
+        <source>From [%1]</source>
+        <translation>Da [%1]</translation>
     </message>
     <message>
-        <source>To [m]</source>
-        <translation>A [m]</translation>
+        <source>To [%1]</source>
+        <translation>A [%1]</translation>
     </message>
     <message>
-        <source>Spacing [m]</source>
-        <translation>Passo [m]</translation>
+        <source>Spacing [%1]</source>
+        <translation>Passo [%1]</translation>
     </message>
     <message>
         <source>Strings of geophones</source>
@@ -10217,8 +10201,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>I primi arrivi sono cambiati dopo la costruzione di questo profilo: è quello degli arrivi precedenti.</translation>
     </message>
     <message>
-        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation>Dove i tempi portano a una velocità fuori dall&apos;intervallo da 50 a 12 000 m/s non se ne dà alcuna. La profondità non è data in quei punti, né sotto uno strato più veloce o di velocità o profondità non note, né dove è risultata maggiore della lunghezza della linea.</translation>
+        <source>No velocity is given where the times lead to one outside %1 to %2. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation>Dove i tempi portano a una velocità fuori dall&apos;intervallo da %1 a %2 non se ne dà alcuna. La profondità non è data in quei punti, né sotto uno strato più veloce o di velocità o profondità non note, né dove è risultata maggiore della lunghezza della linea.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
@@ -10477,12 +10461,12 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>velocità</translation>
     </message>
     <message>
-        <source>%1: depth [m]</source>
-        <translation>%1: profondità [m]</translation>
+        <source>%1: depth [%2]</source>
+        <translation>%1: profondità [%2]</translation>
     </message>
     <message>
-        <source>%1: velocity [m/s]</source>
-        <translation>%1: velocità [m/s]</translation>
+        <source>%1: velocity [%2]</source>
+        <translation>%1: velocità [%2]</translation>
     </message>
     <message>
         <source>Disagree in</source>
@@ -10573,8 +10557,12 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Crescita della sua velocità con la profondità</translation>
     </message>
     <message>
-        <source>%1 % of that at the surface per metre, down to %2 m</source>
-        <translation>%1 % di quella in superficie al metro, fino a %2 m di profondità</translation>
+        <source>%1 % of that at the surface per metre, down to %2</source>
+        <translation>%1 % di quella in superficie al metro, fino a %2 di profondità</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per foot, down to %2</source>
+        <translation>%1 % di quella in superficie al piede, fino a %2 di profondità</translation>
     </message>
     <message>
         <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
@@ -11411,16 +11399,16 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Sezione di velocità</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distanza %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distanza %1</translation>
     </message>
     <message>
-        <source>Horizontal %1 m</source>
-        <translation>Orizzontale %1 m</translation>
+        <source>Horizontal %1</source>
+        <translation>Orizzontale %1</translation>
     </message>
     <message>
-        <source>Vertical %1 m</source>
-        <translation>Verticale %1 m</translation>
+        <source>Vertical %1</source>
+        <translation>Verticale %1</translation>
     </message>
     <message>
         <source>Slope %1°</source>
@@ -11503,6 +11491,22 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Lingua:</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth unit:</source>
+        <translation>&amp;Unità di lunghezza:</translation>
+    </message>
+    <message>
+        <source>What lengths and velocities are shown and asked for in. Files stay in metres.</source>
+        <translation>In che cosa lunghezze e velocità sono mostrate e chieste. I file restano in metri.</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation>metri</translation>
+    </message>
+    <message>
+        <source>feet (0.3048 m)</source>
+        <translation>piedi (0,3048 m)</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -14622,8 +14626,8 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
 <context>
     <name>talvesk::TraceAxes</name>
     <message>
-        <source>x (m)</source>
-        <translation>x (m)</translation>
+        <source>x (%1)</source>
+        <translation>x (%1)</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -14641,12 +14645,12 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>%1 m, %2 ms</source>
-        <translation>%1 m, %2 ms</translation>
+        <source>%1, %2 ms</source>
+        <translation>%1, %2 ms</translation>
     </message>
     <message>
-        <source>%1 m/s (%2 m, %3 ms)</source>
-        <translation>%1 m/s (%2 m, %3 ms)</translation>
+        <source>%1 (%2, %3 ms)</source>
+        <translation>%1 (%2, %3 ms)</translation>
     </message>
     <message>
         <source>Other shots</source>
@@ -14657,17 +14661,17 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>Calcolati</translation>
     </message>
     <message>
-        <source>Air %1 m/s</source>
-        <translation>Aria %1 m/s</translation>
+        <source>Air %1</source>
+        <translation>Aria %1</translation>
     </message>
     <message>
         <source>No other shot of the string is picked</source>
         <translation>Nessun altro tiro della stesa ha primi arrivi</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
+        <source>Shot %1 at %2</source>
         <comment>number, place</comment>
-        <translation>Tiro %1 a %2 m</translation>
+        <translation>Tiro %1 a %2</translation>
     </message>
     <message>
         <source>No computed times</source>
@@ -14697,8 +14701,8 @@ Pick first breaks in the traces, by hand or with AutoPick, or import travel time
 Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi di arrivo.</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distanza [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distanza [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -14733,8 +14737,8 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Salva le dromocrone come PNG, SVG o PDF</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
-        <translation>Tiro %1 a %2 m</translation>
+        <source>Shot %1 at %2</source>
+        <translation>Tiro %1 a %2</translation>
     </message>
     <message>
         <source>Shot %1 has no travel times yet</source>
@@ -14999,40 +15003,40 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Mostra tutto</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distanza %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distanza %1</translation>
     </message>
     <message>
-        <source>elevation %1 m</source>
-        <translation>quota %1 m</translation>
+        <source>elevation %1</source>
+        <translation>quota %1</translation>
     </message>
     <message>
-        <source>depth %1 m</source>
-        <translation>profondità %1 m</translation>
+        <source>depth %1</source>
+        <translation>profondità %1</translation>
     </message>
     <message>
         <source>Vertical profile</source>
         <translation>Profilo verticale</translation>
     </message>
     <message>
-        <source>Vertical profile at %1 m</source>
-        <translation>Profilo verticale a %1 m</translation>
+        <source>Vertical profile at %1</source>
+        <translation>Profilo verticale a %1</translation>
     </message>
     <message>
-        <source>Depth from [m]</source>
-        <translation>Profondità da [m]</translation>
+        <source>Depth from [%1]</source>
+        <translation>Profondità da [%1]</translation>
     </message>
     <message>
-        <source>Depth to [m]</source>
-        <translation>Profondità fino a [m]</translation>
+        <source>Depth to [%1]</source>
+        <translation>Profondità fino a [%1]</translation>
     </message>
     <message>
-        <source>Depth below ground [m]</source>
-        <translation>Profondità dal suolo [m]</translation>
+        <source>Depth below ground [%1]</source>
+        <translation>Profondità dal suolo [%1]</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocità [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocità [%1]</translation>
     </message>
     <message>
         <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
@@ -15067,8 +15071,8 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Tiro %1</translation>
     </message>
     <message>
-        <source>geophone %1 at %2 m</source>
-        <translation>geofono %1 a %2 m</translation>
+        <source>geophone %1 at %2</source>
+        <translation>geofono %1 a %2</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -15275,8 +15279,8 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
 <context>
     <name>talvesk::XYCriteria</name>
     <message>
-        <source>XY (m)</source>
-        <translation>XY (m)</translation>
+        <source>XY (%1)</source>
+        <translation>XY (%1)</translation>
     </message>
     <message>
         <source>Roughness of tV</source>
@@ -15670,12 +15674,12 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Velocità in funzione della profondità</translation>
     </message>
     <message>
-        <source>Velocity (m/s)</source>
-        <translation>Velocità (m/s)</translation>
+        <source>Velocity (%1)</source>
+        <translation>Velocità (%1)</translation>
     </message>
     <message>
-        <source>Depth below the ground (m)</source>
-        <translation>Profondità dal suolo (m)</translation>
+        <source>Depth below the ground (%1)</source>
+        <translation>Profondità dal suolo (%1)</translation>
     </message>
     <message>
         <source>Layers</source>
