@@ -4507,8 +4507,8 @@ durch Picks belegt</translation>
         <translation>%1 Zeilen mit %2 Spalten passen nicht zu %3 Geschwindigkeiten und %4 Sichtbarkeitsangaben</translation>
     </message>
     <message>
-        <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation>Zellen mit %1 Knoten pro Seite und %2 m Seitenlänge sind nicht möglich</translation>
+        <source>cells with %1 nodes per side, %2 long, cannot be</source>
+        <translation>Zellen mit %1 Knoten pro Seite und %2 Seitenlänge sind nicht möglich</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
@@ -5259,8 +5259,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Eine Position der Messung liegt mehr als 100 000 km entfernt; bitte prüfen Sie die Geometrie.</translation>
     </message>
     <message>
-        <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation>Ein Gitter aus Zellen von %1 m mit %2 Knoten pro Seite und %3 m Tiefe kann nicht erstellt werden; wählen Sie eine positive Zellengröße, mindestens zwei Knoten und keine negative Tiefe.</translation>
+        <source>A grid of cells of %1 with %2 nodes per side, %3 deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
+        <translation>Ein Gitter aus Zellen von %1 mit %2 Knoten pro Seite und %3 Tiefe kann nicht erstellt werden; wählen Sie eine positive Zellengröße, mindestens zwei Knoten und keine negative Tiefe.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
@@ -5295,8 +5295,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Iterationen und Glättungsparameter müssen mindestens 1 sein.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation>Die Geschwindigkeitsgrenzen müssen positive Zahlen sein; %1 m/s ist keine.</translation>
+        <source>The velocity limits must be positive numbers; %1 is none.</source>
+        <translation>Die Geschwindigkeitsgrenzen müssen positive Zahlen sein; %1 ist keine.</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
@@ -5351,8 +5351,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Geschwindigkeit</translation>
     </message>
     <message>
-        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
-        <translation>Die Schichten ergeben in %2 m Tiefe eine Geschwindigkeit von %1 m/s, die es im Untergrund nicht gibt. Lassen Sie die Schichten die ganze Tiefe des Gitters abdecken, oder machen Sie den Übergang zwischen ihnen sanfter.</translation>
+        <source>The layers give a velocity of %1 at a depth of %2, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Die Schichten ergeben in %2 Tiefe eine Geschwindigkeit von %1, die es im Untergrund nicht gibt. Lassen Sie die Schichten die ganze Tiefe des Gitters abdecken, oder machen Sie den Übergang zwischen ihnen sanfter.</translation>
     </message>
     <message>
         <source>a number is out of range or not finite</source>
@@ -5751,8 +5751,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Kanäle vom letzten zum ersten lesen</translation>
     </message>
     <message>
-        <source>put the shot at %1 m</source>
-        <translation>den Schuss auf %1 m setzen</translation>
+        <source>put the shot at %1</source>
+        <translation>den Schuss auf %1 setzen</translation>
     </message>
     <message>
         <source>put the %1 geophones of its string at %2 to %3 m</source>
@@ -5771,56 +5771,56 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>vertauscht: über alle Schüsse gehören die Einsätze von Spur %1 an die Stelle von Spur %2 und umgekehrt</translation>
     </message>
     <message>
-        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
-        <translation>abseits: Geophon %1 soll bei %2 m stehen; von beiden Seiten sind seine Einsätze die von %3 m</translation>
+        <source>off the line: geophone %1 is said to be at %2; from both sides its arrivals are those of %3</source>
+        <translation>abseits: Geophon %1 soll bei %2 stehen; von beiden Seiten sind seine Einsätze die von %3</translation>
     </message>
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 Geophone sollen an nur %2 Stellen stehen</translation>
     </message>
     <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
-        <translation>%1; über %2 Schüsse wandern die kürzesten Zeiten um %3 Kanäle je Meter des Schusses, also steht Geophon 1 bei %4 m und das letzte bei %5 m</translation>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1; über %2 Schüsse wandern die kürzesten Zeiten um %3 Kanäle je Meter des Schusses, also steht Geophon 1 bei %4 und das letzte bei %5</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>der Schuss soll bei %1 m liegen; der Dateiname sagt %2 m, und die kürzesten Zeiten der Messung folgen den Namen</translation>
+        <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>der Schuss soll bei %1 liegen; der Dateiname sagt %2, und die kürzesten Zeiten der Messung folgen den Namen</translation>
     </message>
     <message>
-        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
-        <translation>der Schuss soll auf einer Höhe von %1 m liegen, und die Geophone haben keine Höhen, die ihre sein könnten</translation>
+        <source>the shot is said to be at an elevation of %1, and the geophones have none that could be theirs</source>
+        <translation>der Schuss soll auf einer Höhe von %1 liegen, und die Geophone haben keine Höhen, die ihre sein könnten</translation>
     </message>
     <message>
         <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
         <translation>die Kanäle laufen gegen die Geophone: die kürzesten Zeiten von %1 von %2 Schüssen liegen nur dann neben dem Schuss, wenn die Auslage vom letzten zum ersten Geophon gelesen wird</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>alle Schüsse sollen bei %1 m liegen; der Dateiname sagt %2 m, und die kürzesten Zeiten der Messung folgen den Namen</translation>
+        <source>all shots are said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>alle Schüsse sollen bei %1 liegen; der Dateiname sagt %2, und die kürzesten Zeiten der Messung folgen den Namen</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
-        <translation>alle Schüsse sollen bei %1 m liegen; die Zeiten dieses Schusses sind bei %2 m am kürzesten</translation>
+        <source>all shots are said to be at %1; the times of this one are least at %2</source>
+        <translation>alle Schüsse sollen bei %1 liegen; die Zeiten dieses Schusses sind bei %2 am kürzesten</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
-        <translation>alle Schüsse sollen bei %1 m liegen; dieser lag an einem Ende der Geophone oder außerhalb</translation>
+        <source>all shots are said to be at %1; this one was at an end of the geophones or beyond</source>
+        <translation>alle Schüsse sollen bei %1 liegen; dieser lag an einem Ende der Geophone oder außerhalb</translation>
     </message>
     <message>
-        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
-        <translation>die Kanäle dieser Aufzeichnung laufen gegen die Geophone: vom letzten zum ersten gelesen sind die Zeiten neben dem Schuss bei %1 m am kürzesten</translation>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1</source>
+        <translation>die Kanäle dieser Aufzeichnung laufen gegen die Geophone: vom letzten zum ersten gelesen sind die Zeiten neben dem Schuss bei %1 am kürzesten</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
-        <translation>der Schuss soll bei %1 m liegen, aber die Zeiten wachsen ab %2 m über alle Geophone hinweg: er lag an diesem Ende der Geophone oder außerhalb</translation>
+        <source>the shot is said to be at %1, but times grow from %2 on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>der Schuss soll bei %1 liegen, aber die Zeiten wachsen ab %2 über alle Geophone hinweg: er lag an diesem Ende der Geophone oder außerhalb</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
-        <translation>der Schuss soll bei %1 m liegen, aber die Zeiten sind bei %2 m am kürzesten, neben Geophon %3, und wachsen nach beiden Seiten</translation>
+        <source>the shot is said to be at %1, but times are least at %2, beside geophone %3, and grow on both sides of it</source>
+        <translation>der Schuss soll bei %1 liegen, aber die Zeiten sind bei %2 am kürzesten, neben Geophon %3, und wachsen nach beiden Seiten</translation>
     </message>
     <message>
-        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
-        <translation>%1; oder die Geophone stehen %2 m statt %3 m auseinander, was kein anderer Schuss entscheiden kann</translation>
+        <source>%1; or the geophones stand %2 apart and not %3, which no other shot can decide</source>
+        <translation>%1; oder die Geophone stehen %2 statt %3 auseinander, was kein anderer Schuss entscheiden kann</translation>
     </message>
     <message>
         <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
@@ -5831,12 +5831,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>umgekehrt: die ersten Ausschläge von %1 laufen denen der Nachbarn entgegen, die untereinander übereinstimmen (Korrelation mindestens -%2)</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
-        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2 m, mit dem %3-fachen Signal-Rausch-Verhältnis</translation>
+        <source>shot %1 was recorded at the same point, at %2, with %3 times the signal to noise of this one</source>
+        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2, mit dem %3-fachen Signal-Rausch-Verhältnis</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
-        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2 m; seine Einsätze kommen %3 ms später</translation>
+        <source>shot %1 was recorded at the same point, at %2; its arrivals are %3 ms later</source>
+        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2; seine Einsätze kommen %3 ms später</translation>
     </message>
     <message>
         <source>the record is that of shot %1 once more, sample for sample</source>
@@ -5859,20 +5859,20 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>zwischen %1 und %2 m steht kein Geophon: der Untergrund dort wird von keiner Seite gesehen, sofern nicht Schüsse darüber hinwegreichen</translation>
     </message>
     <message>
-        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
-        <translation>die Auslagen %1 und %2 überlappen sich und haben an %3 Stellen verschiedene Höhen, um bis zu %4 m bei %5 m</translation>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
+        <translation>die Auslagen %1 und %2 überlappen sich und haben an %3 Stellen verschiedene Höhen, um bis zu %4 bei %5</translation>
     </message>
     <message>
-        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
-        <translation>keine Höhen: alle Schüsse und Geophone liegen auf %1 m; ist das Gelände nicht eben, lesen Sie die Höhen in der Geometrie der Messung aus einer Tabelle</translation>
+        <source>no elevations: all shots and geophones are at %1; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>keine Höhen: alle Schüsse und Geophone liegen auf %1; ist das Gelände nicht eben, lesen Sie die Höhen in der Geometrie der Messung aus einer Tabelle</translation>
     </message>
     <message>
-        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
-        <translation>die Position %1 des Schusses zählt Stationen: über %2 Schüsse wandern die kürzesten Zeiten um %3 m je 1 in der Position</translation>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
+        <translation>die Position %1 des Schusses zählt Stationen: über %2 Schüsse wandern die kürzesten Zeiten um %3 je 1 in der Position</translation>
     </message>
     <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
-        <translation>die Positionen der Geophone sind keine Meter: über %1 Schüsse wandern die kürzesten Zeiten um %2 je Meter des Schusses; mit Geophonen im Abstand von %3 m ab %4 m liegen sie neben den Schüssen</translation>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>die Positionen der Geophone sind keine Meter: über %1 Schüsse wandern die kürzesten Zeiten um %2 je Meter des Schusses; mit Geophonen im Abstand von %3 ab %4 liegen sie neben den Schüssen</translation>
     </message>
     <message>
         <source>late</source>
@@ -6017,10 +6017,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>es betrifft andere Schussdateien als die des Projekts</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 to %2 m</source>
@@ -6243,12 +6239,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Geophone unterscheiden sich in y, aber nicht in x; y wurde als Position entlang der Messlinie genommen</translation>
     </message>
     <message>
-        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
-        <translation>alle Geophone stehen bei x = %1 m; geben Sie der Messung ihre Geometrie</translation>
+        <source>all its geophones are at x = %1; give the survey its geometry</source>
+        <translation>alle Geophone stehen bei x = %1; geben Sie der Messung ihre Geometrie</translation>
     </message>
     <message>
-        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
-        <translation>die Geophone unterscheiden sich um bis zu %1 m in y, das nicht verwendet wird; Positionen entlang der Messlinie sind x</translation>
+        <source>its geophones differ by up to %1 in y, which is not used; positions along the line are x</source>
+        <translation>die Geophone unterscheiden sich um bis zu %1 in y, das nicht verwendet wird; Positionen entlang der Messlinie sind x</translation>
     </message>
     <message>
         <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
@@ -6343,20 +6339,20 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Koordinaten unterscheiden die Geophone nicht; sie wurden nach ihren Entfernungen vom Schuss (Bytes 37 bis 40) gesetzt</translation>
     </message>
     <message>
-        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
-        <translation>die Header nennen keine Positionen; Schüsse und Geophone stehen alle bei %1 m, laden Sie also eine Geometriedatei</translation>
+        <source>its headers tell no positions; shots and geophones all stand at %1, so load a geometry file</source>
+        <translation>die Header nennen keine Positionen; Schüsse und Geophone stehen alle bei %1, laden Sie also eine Geometriedatei</translation>
     </message>
     <message>
-        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
-        <translation>nach den Headern stehen die Geophone aller Spuren bei %1 m; laden Sie eine Geometriedatei, wenn es mehr als eines gab</translation>
+        <source>its headers put the geophones of all traces at %1; load a geometry file if there was more than one</source>
+        <translation>nach den Headern stehen die Geophone aller Spuren bei %1; laden Sie eine Geometriedatei, wenn es mehr als eines gab</translation>
     </message>
     <message>
-        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
-        <translation>Schüsse liegen bis zu %1 m neben der Linie der Geophone; x wird unverändert genommen</translation>
+        <source>shots stand up to %1 beside the line of geophones; x is taken as it stands</source>
+        <translation>Schüsse liegen bis zu %1 neben der Linie der Geophone; x wird unverändert genommen</translation>
     </message>
     <message>
-        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
-        <translation>die Koordinaten liegen nicht entlang x; Entfernungen sind die entlang der Geraden durch die Geophone ab dem ersten Geophon dieser Datei, das bei x %1, y %2 steht; Geophone stehen bis zu %3 m daneben, Schüsse bis zu %4 m</translation>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
+        <translation>die Koordinaten liegen nicht entlang x; Entfernungen sind die entlang der Geraden durch die Geophone ab dem ersten Geophon dieser Datei, das bei x %1, y %2 steht; Geophone stehen bis zu %3 daneben, Schüsse bis zu %4</translation>
     </message>
     <message>
         <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
@@ -6367,8 +6363,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Höhen oder Schusstiefen von %1 liegen jenseits jedes Geländes; die Höhen der Datei wurden als 0 genommen</translation>
     </message>
     <message>
-        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
-        <translation>Schüsse liegen bis zu %1 m unter Gelände; ihre Höhen sind die der Schüsse, nicht die des Geländes darüber</translation>
+        <source>shots lie up to %1 below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>Schüsse liegen bis zu %1 unter Gelände; ihre Höhen sind die der Schüsse, nicht die des Geländes darüber</translation>
     </message>
     <message>
         <source>the shot depth of %1 is negative and was taken as 0</source>
@@ -6763,8 +6759,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>nur %1 Picks gehören sicher zu Wellen entlang Refraktor %2; nötig sind %3</translation>
     </message>
     <message>
-        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
-        <translation>Wellen entlang der Oberfläche sind mit %1 m/s langsamer, als die Grenzen zulassen</translation>
+        <source>waves along the surface at %1 are slower than the bounds allow</source>
+        <translation>Wellen entlang der Oberfläche sind mit %1 langsamer, als die Grenzen zulassen</translation>
     </message>
     <message>
         <source>the times of a refractor grow too little with offset for the bounds</source>
@@ -6955,12 +6951,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Der Auflösungstest ist fehlgeschlagen: %1</translation>
     </message>
     <message>
-        <source>The size of the pattern must be positive; %1 m is not.</source>
-        <translation>Die Größe des Musters muss positiv sein; %1 m ist es nicht.</translation>
+        <source>The size of the pattern must be positive; %1 is not.</source>
+        <translation>Die Größe des Musters muss positiv sein; %1 ist es nicht.</translation>
     </message>
     <message>
-        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
-        <translation>Das Muster hat %1 m, weniger als eine Zelle des Gitters mit %2 m; wählen Sie ein größeres.</translation>
+        <source>The pattern has %1, less than a cell of the grid, which has %2; choose a larger one.</source>
+        <translation>Das Muster hat %1, weniger als eine Zelle des Gitters mit %2; wählen Sie ein größeres.</translation>
     </message>
     <message>
         <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
@@ -7071,8 +7067,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>%1 m ist keine Tiefe unter der Oberfläche (0 bis %2)</translation>
     </message>
     <message>
-        <source>%1 m is no position along the line</source>
-        <translation>%1 m ist keine Position entlang der Messlinie</translation>
+        <source>%1 is no position along the line</source>
+        <translation>%1 ist keine Position entlang der Messlinie</translation>
     </message>
     <message>
         <source>it has no name</source>
@@ -7091,12 +7087,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Schichten fehlen</translation>
     </message>
     <message>
-        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
-        <translation>die Schicht ab %1 m beginnt über der Unterkante der vorigen, %2 m</translation>
+        <source>the layer from %1 begins above the bottom of the one before, %2</source>
+        <translation>die Schicht ab %1 beginnt über der Unterkante der vorigen, %2</translation>
     </message>
     <message>
-        <source>%1 m is no error of a depth</source>
-        <translation>%1 m ist kein Fehler einer Tiefe</translation>
+        <source>%1 is no error of a depth</source>
+        <translation>%1 ist kein Fehler einer Tiefe</translation>
     </message>
     <message>
         <source>refractors have the numbers 1 to %1</source>
@@ -7263,12 +7259,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>%1 enthält keine Zelle des Gitters: zu klein oder außerhalb davon.</translation>
     </message>
     <message>
-        <source>%1 at %2 m stands beyond the grid.</source>
-        <translation>%1 bei %2 m steht außerhalb des Gitters.</translation>
+        <source>%1 at %2 stands beyond the grid.</source>
+        <translation>%1 bei %2 steht außerhalb des Gitters.</translation>
     </message>
     <message>
-        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
-        <translation>%1 reicht %2 m hinab, bis unter das Gitter; was unter %3 m liegt, zählt nicht.</translation>
+        <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
+        <translation>%1 reicht %2 hinab, bis unter das Gitter; was unter %3 liegt, zählt nicht.</translation>
     </message>
     <message>
         <source>%1, %2 to %3 m</source>
@@ -7279,20 +7275,20 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>%1: Keine Zelle liegt überwiegend in dieser Schicht; sie zählt mit ihrem Anteil an Zellen oder liegt in einem festen Körper.</translation>
     </message>
     <message>
-        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
-        <translation>%1 (%2 m entlang der Messlinie, %3 m tief) liegt außerhalb des Gitters oder näher an dessen Rand als der eigene Fehler oder eine Zelle.</translation>
+        <source>%1 (%2 along the line, %3 deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (%2 entlang der Messlinie, %3 tief) liegt außerhalb des Gitters oder näher an dessen Rand als der eigene Fehler oder eine Zelle.</translation>
     </message>
     <message>
-        <source>%1, %2 m/s at %3 m</source>
-        <translation>%1, %2 m/s bei %3 m</translation>
+        <source>%1, %2 at %3</source>
+        <translation>%1, %2 bei %3</translation>
     </message>
     <message>
-        <source>%1, %2 m/s above</source>
-        <translation>%1, %2 m/s darüber</translation>
+        <source>%1, %2 above</source>
+        <translation>%1, %2 darüber</translation>
     </message>
     <message>
-        <source>%1, %2 m/s below</source>
-        <translation>%1, %2 m/s darunter</translation>
+        <source>%1, %2 below</source>
+        <translation>%1, %2 darunter</translation>
     </message>
     <message>
         <source>Layered interpretation</source>
@@ -7319,12 +7315,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Mit Schichten beginnen</translation>
     </message>
     <message>
-        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
-        <translation>Eine Schicht hat eine Geschwindigkeit von %1 m/s; das ist keine Geschwindigkeit des Untergrunds.</translation>
+        <source>A layer has a velocity of %1, which is no velocity of the ground.</source>
+        <translation>Eine Schicht hat eine Geschwindigkeit von %1; das ist keine Geschwindigkeit des Untergrunds.</translation>
     </message>
     <message>
-        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
-        <translation>Die Schicht, die bei %1 m beginnt, überlappt eine andere; ordnen Sie die Schichten nach der Tiefe, ohne Überlappung.</translation>
+        <source>The layer that begins at %1 lies over another; order the layers by depth, without overlap.</source>
+        <translation>Die Schicht, die bei %1 beginnt, überlappt eine andere; ordnen Sie die Schichten nach der Tiefe, ohne Überlappung.</translation>
     </message>
     <message>
         <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
@@ -7411,8 +7407,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Schnitt, steilster Gradient</translation>
     </message>
     <message>
-        <source>Section, %1 m/s</source>
-        <translation>Schnitt, %1 m/s</translation>
+        <source>Section, %1</source>
+        <translation>Schnitt, %1</translation>
     </message>
     <message>
         <source>The methods could not be compared: %1</source>
@@ -7475,8 +7471,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Dichte %1 kg/m³, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
     <message>
-        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
-        <translation>Schicht %1: an %2 von %3 Stellen unterscheiden sich die Tiefen ihrer Oberkante aus P und aus S um mehr als %4 % (Median dort %5 m aus P, %6 m aus S). P-Wellen sehen oft den Grundwasserspiegel, S-Wellen nicht: Dieselbe Nummer kann verschiedener Untergrund sein.</translation>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 by P, %6 by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Schicht %1: an %2 von %3 Stellen unterscheiden sich die Tiefen ihrer Oberkante aus P und aus S um mehr als %4 % (Median dort %5 aus P, %6 aus S). P-Wellen sehen oft den Grundwasserspiegel, S-Wellen nicht: Dieselbe Nummer kann verschiedener Untergrund sein.</translation>
     </message>
     <message>
         <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
@@ -7495,8 +7491,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Die Gardner-Beziehung wurde für Gesteine gefunden, die schneller als 1500 m/s sind; an %1 von %2 Stellen ist Vp kleiner und die Dichte eine Vermutung.</translation>
     </message>
     <message>
-        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
-        <translation>Die Geländeoberflächen von P und S liegen bis zu %1 m auseinander, bei %2 m: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
+        <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
+        <translation>Die Geländeoberflächen von P und S liegen bis zu %1 auseinander, bei %2: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
     </message>
     <message>
         <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
@@ -7511,8 +7507,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Die Lage von P und S auf der Karte ist in verschiedenen Systemen angegeben (EPSG:%1 und EPSG:%2) und wurde nicht verglichen.</translation>
     </message>
     <message>
-        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
-        <translation>Dieselben Entfernungen von P und S liegen auf der Karte bis zu %1 m auseinander: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
+        <source>The same distances of P and S lie up to %1 apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Dieselben Entfernungen von P und S liegen auf der Karte bis zu %1 auseinander: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
     </message>
     <message>
         <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
@@ -7639,8 +7635,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>In %1 von %2 Zellen liegt Vp/Vs unter 1,41 und ist die Poissonzahl negativ, was es bei Boden und Fels nicht gibt.</translation>
     </message>
     <message>
-        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
-        <translation>Die Geländeoberflächen der Schnitte von P und S liegen bis zu %1 m auseinander, bei %2 m; Zellen werden nach ihrer Tiefe darunter einander zugeordnet.</translation>
+        <source>The surfaces of the sections of P and S lie up to %1 apart, at %2; cells are matched by their depths below them.</source>
+        <translation>Die Geländeoberflächen der Schnitte von P und S liegen bis zu %1 auseinander, bei %2; Zellen werden nach ihrer Tiefe darunter einander zugeordnet.</translation>
     </message>
     <message>
         <source>A section has no layers: all of it has the first density.</source>
@@ -7691,8 +7687,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>S: Das Profil wurde an alle Picks angepasst und erhält keine Fehler. Eines nach der Reziprokmethode erhält sie.</translation>
     </message>
     <message>
-        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
-        <translation>Die Geschwindigkeit von Schicht 1 ändert sich in diesem Profil entlang der Messlinie und mit der Tiefe; hier gilt überall ihr Mittel, %1 m/s.</translation>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1, everywhere.</source>
+        <translation>Die Geschwindigkeit von Schicht 1 ändert sich in diesem Profil entlang der Messlinie und mit der Tiefe; hier gilt überall ihr Mittel, %1.</translation>
     </message>
     <message>
         <source>the first distance must be a number, and the EPSG code a whole number</source>
@@ -7895,8 +7891,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>sie hat %1 Punkte und braucht mindestens %2</translation>
     </message>
     <message>
-        <source>%1 m, %2 m is no place of a section</source>
-        <translation>%1 m, %2 m ist keine Stelle eines Schnitts</translation>
+        <source>%1, %2 is no place of a section</source>
+        <translation>%1, %2 ist keine Stelle eines Schnitts</translation>
     </message>
     <message>
         <source>a text is %1 to %2 points high</source>
@@ -7927,8 +7923,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Hochpass %1 Hz, Ordnung %2</translation>
     </message>
     <message>
-        <source>%1 m/s and more</source>
-        <translation>%1 m/s und mehr</translation>
+        <source>%1 and more</source>
+        <translation>%1 und mehr</translation>
     </message>
     <message>
         <source>forth along the line</source>
@@ -8067,8 +8063,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>es gibt keine Abtastwerte oder kein bekanntes Abtastintervall</translation>
     </message>
     <message>
-        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
-        <translation>die Geophone stehen nicht in gleichen Abständen: Spur %1 bei %2 m ist %3 m von der vorigen entfernt, üblich sind %4 m</translation>
+        <source>its geophones are not evenly spaced: trace %1 at %2 is %3 from the one before, the usual distance is %4</source>
+        <translation>die Geophone stehen nicht in gleichen Abständen: Spur %1 bei %2 ist %3 von der vorigen entfernt, üblich sind %4</translation>
     </message>
     <message>
         <source>it has fewer than %1 traces</source>
@@ -8087,8 +8083,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Schuss %1: Von %2 Stellen entlang der Messlinie haben %3 keine Spur oder eine ausgeschaltete; sie zählen als null, neben ihnen ist der Filter weniger scharf</translation>
     </message>
     <message>
-        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
-        <translation>die kleinste Geschwindigkeit, %1 m/s, muss über 0 und unter der größten, %2 m/s, liegen</translation>
+        <source>the slowest velocity, %1, must be above 0 and below the fastest, %2</source>
+        <translation>die kleinste Geschwindigkeit, %1, muss über 0 und unter der größten, %2, liegen</translation>
     </message>
     <message>
         <source>the taper must be 0 or more and less than 100 percent of a limit</source>
