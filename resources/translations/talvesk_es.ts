@@ -4507,8 +4507,8 @@ respaldo de picados</translation>
         <translation>%1 filas de %2 columnas no concuerdan con %3 velocidades y %4 marcas de dibujo</translation>
     </message>
     <message>
-        <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation>son imposibles celdas con %1 nodos por lado y %2 m de longitud</translation>
+        <source>cells with %1 nodes per side, %2 long, cannot be</source>
+        <translation>son imposibles celdas con %1 nodos por lado y %2 de longitud</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
@@ -5259,8 +5259,8 @@ Defina la posición de los geófonos
         <translation>Una posición del levantamiento está a más de 100&#xa0;000 km; compruebe la geometría.</translation>
     </message>
     <message>
-        <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation>No se puede construir una malla de celdas de %1 m con %2 nodos por lado y %3 m de profundidad; elija un tamaño de celda positivo, al menos dos nodos y una profundidad no negativa.</translation>
+        <source>A grid of cells of %1 with %2 nodes per side, %3 deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
+        <translation>No se puede construir una malla de celdas de %1 con %2 nodos por lado y %3 de profundidad; elija un tamaño de celda positivo, al menos dos nodos y una profundidad no negativa.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
@@ -5295,8 +5295,8 @@ Defina la posición de los geófonos
         <translation>Las iteraciones y el parámetro de suavizado deben ser 1 como mínimo.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation>Los límites de velocidad deben ser números positivos; %1 m/s no lo es.</translation>
+        <source>The velocity limits must be positive numbers; %1 is none.</source>
+        <translation>Los límites de velocidad deben ser números positivos; %1 no lo es.</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
@@ -5351,8 +5351,8 @@ Defina la posición de los geófonos
         <translation>Velocidad</translation>
     </message>
     <message>
-        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
-        <translation>Las capas dan una velocidad de %1 m/s a %2 m de profundidad, que no es una velocidad del terreno. Haga que las capas cubran toda la profundidad de la malla, o suavice el paso de una a otra.</translation>
+        <source>The layers give a velocity of %1 at a depth of %2, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Las capas dan una velocidad de %1 a %2 de profundidad, que no es una velocidad del terreno. Haga que las capas cubran toda la profundidad de la malla, o suavice el paso de una a otra.</translation>
     </message>
     <message>
         <source>a number is out of range or not finite</source>
@@ -5751,8 +5751,8 @@ Defina la posición de los geófonos
         <translation>leer los canales del último al primero</translation>
     </message>
     <message>
-        <source>put the shot at %1 m</source>
-        <translation>situar el disparo en %1 m</translation>
+        <source>put the shot at %1</source>
+        <translation>situar el disparo en %1</translation>
     </message>
     <message>
         <source>put the %1 geophones of its string at %2 to %3 m</source>
@@ -5771,56 +5771,56 @@ Defina la posición de los geófonos
         <translation>intercambiadas: en todos los disparos las llegadas de la traza %1 corresponden al lugar de la traza %2, y viceversa</translation>
     </message>
     <message>
-        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
-        <translation>fuera de la línea: el geófono %1 figura en %2 m; desde ambos lados sus llegadas son las de %3 m</translation>
+        <source>off the line: geophone %1 is said to be at %2; from both sides its arrivals are those of %3</source>
+        <translation>fuera de la línea: el geófono %1 figura en %2; desde ambos lados sus llegadas son las de %3</translation>
     </message>
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 geófonos figuran en solo %2 lugares</translation>
     </message>
     <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
-        <translation>%1; en %2 disparos los tiempos mínimos se desplazan %3 canales por cada metro del disparo, así que el geófono 1 está en %4 m y el último en %5 m</translation>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1; en %2 disparos los tiempos mínimos se desplazan %3 canales por cada metro del disparo, así que el geófono 1 está en %4 y el último en %5</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>el disparo figura en %1 m; el nombre del archivo dice %2 m, y los tiempos mínimos del levantamiento siguen los nombres</translation>
+        <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>el disparo figura en %1; el nombre del archivo dice %2, y los tiempos mínimos del levantamiento siguen los nombres</translation>
     </message>
     <message>
-        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
-        <translation>el disparo figura a una cota de %1 m, y los geófonos no tienen ninguna que pueda ser la suya</translation>
+        <source>the shot is said to be at an elevation of %1, and the geophones have none that could be theirs</source>
+        <translation>el disparo figura a una cota de %1, y los geófonos no tienen ninguna que pueda ser la suya</translation>
     </message>
     <message>
         <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
         <translation>los canales van contra los geófonos: los tiempos mínimos de %1 de %2 disparos quedan junto al disparo solo si el tendido se lee del último geófono al primero</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>todos los disparos figuran en %1 m; el nombre del archivo dice %2 m, y los tiempos mínimos del levantamiento siguen los nombres</translation>
+        <source>all shots are said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>todos los disparos figuran en %1; el nombre del archivo dice %2, y los tiempos mínimos del levantamiento siguen los nombres</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
-        <translation>todos los disparos figuran en %1 m; los tiempos de este son mínimos en %2 m</translation>
+        <source>all shots are said to be at %1; the times of this one are least at %2</source>
+        <translation>todos los disparos figuran en %1; los tiempos de este son mínimos en %2</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
-        <translation>todos los disparos figuran en %1 m; este estaba en un extremo de los geófonos o más allá</translation>
+        <source>all shots are said to be at %1; this one was at an end of the geophones or beyond</source>
+        <translation>todos los disparos figuran en %1; este estaba en un extremo de los geófonos o más allá</translation>
     </message>
     <message>
-        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
-        <translation>los canales de este registro van contra los geófonos: leídos del último al primero, los tiempos son mínimos junto al disparo, en %1 m</translation>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1</source>
+        <translation>los canales de este registro van contra los geófonos: leídos del último al primero, los tiempos son mínimos junto al disparo, en %1</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
-        <translation>el disparo figura en %1 m, pero los tiempos crecen desde %2 m a lo largo de todos los geófonos: estaba en ese extremo o más allá</translation>
+        <source>the shot is said to be at %1, but times grow from %2 on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>el disparo figura en %1, pero los tiempos crecen desde %2 a lo largo de todos los geófonos: estaba en ese extremo o más allá</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
-        <translation>el disparo figura en %1 m, pero los tiempos son mínimos en %2 m, junto al geófono %3, y crecen a ambos lados de él</translation>
+        <source>the shot is said to be at %1, but times are least at %2, beside geophone %3, and grow on both sides of it</source>
+        <translation>el disparo figura en %1, pero los tiempos son mínimos en %2, junto al geófono %3, y crecen a ambos lados de él</translation>
     </message>
     <message>
-        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
-        <translation>%1; o bien los geófonos están separados %2 m y no %3 m, lo que ningún otro disparo puede decidir</translation>
+        <source>%1; or the geophones stand %2 apart and not %3, which no other shot can decide</source>
+        <translation>%1; o bien los geófonos están separados %2 y no %3, lo que ningún otro disparo puede decidir</translation>
     </message>
     <message>
         <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
@@ -5831,12 +5831,12 @@ Defina la posición de los geófonos
         <translation>polaridad invertida: las primeras oscilaciones de %1 van contra las de las vecinas, que concuerdan entre sí (correlación -%2 como mínimo)</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
-        <translation>el disparo %1 se registró en el mismo punto, en %2 m, con una relación señal/ruido %3 veces la de este</translation>
+        <source>shot %1 was recorded at the same point, at %2, with %3 times the signal to noise of this one</source>
+        <translation>el disparo %1 se registró en el mismo punto, en %2, con una relación señal/ruido %3 veces la de este</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
-        <translation>el disparo %1 se registró en el mismo punto, en %2 m; sus llegadas son %3 ms posteriores</translation>
+        <source>shot %1 was recorded at the same point, at %2; its arrivals are %3 ms later</source>
+        <translation>el disparo %1 se registró en el mismo punto, en %2; sus llegadas son %3 ms posteriores</translation>
     </message>
     <message>
         <source>the record is that of shot %1 once more, sample for sample</source>
@@ -5859,20 +5859,20 @@ Defina la posición de los geófonos
         <translation>no hay ningún geófono entre %1 y %2 m: el terreno de ahí no se ve desde ningún lado, salvo que haya disparos que lo rebasen</translation>
     </message>
     <message>
-        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
-        <translation>los tendidos %1 y %2 se solapan y sus cotas difieren en %3 lugares, hasta %4 m en %5 m</translation>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
+        <translation>los tendidos %1 y %2 se solapan y sus cotas difieren en %3 lugares, hasta %4 en %5</translation>
     </message>
     <message>
-        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
-        <translation>sin cotas: todos los disparos y geófonos están a %1 m; si el terreno no es llano, léalas de una tabla en la geometría del levantamiento</translation>
+        <source>no elevations: all shots and geophones are at %1; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>sin cotas: todos los disparos y geófonos están a %1; si el terreno no es llano, léalas de una tabla en la geometría del levantamiento</translation>
     </message>
     <message>
-        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
-        <translation>la posición del disparo, %1, cuenta estaciones: en %2 disparos los tiempos mínimos se desplazan %3 m por cada 1 de la posición</translation>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
+        <translation>la posición del disparo, %1, cuenta estaciones: en %2 disparos los tiempos mínimos se desplazan %3 por cada 1 de la posición</translation>
     </message>
     <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
-        <translation>las posiciones de los geófonos no son metros: en %1 disparos los tiempos mínimos se desplazan %2 por cada metro del disparo; con geófonos cada %3 m a partir de %4 m quedan junto a los disparos</translation>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>las posiciones de los geófonos no son metros: en %1 disparos los tiempos mínimos se desplazan %2 por cada metro del disparo; con geófonos cada %3 a partir de %4 quedan junto a los disparos</translation>
     </message>
     <message>
         <source>late</source>
@@ -6017,10 +6017,6 @@ Defina la posición de los geófonos
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>se refiere a archivos de disparos distintos de los del proyecto</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 to %2 m</source>
@@ -6243,12 +6239,12 @@ Defina la posición de los geófonos
         <translation>sus geófonos difieren en y pero no en x; se ha tomado y como posición a lo largo de la línea</translation>
     </message>
     <message>
-        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
-        <translation>todos sus geófonos están en x = %1 m; dé su geometría al levantamiento</translation>
+        <source>all its geophones are at x = %1; give the survey its geometry</source>
+        <translation>todos sus geófonos están en x = %1; dé su geometría al levantamiento</translation>
     </message>
     <message>
-        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
-        <translation>sus geófonos difieren hasta %1 m en y, que no se usa; las posiciones a lo largo de la línea son x</translation>
+        <source>its geophones differ by up to %1 in y, which is not used; positions along the line are x</source>
+        <translation>sus geófonos difieren hasta %1 en y, que no se usa; las posiciones a lo largo de la línea son x</translation>
     </message>
     <message>
         <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
@@ -6343,20 +6339,20 @@ Defina la posición de los geófonos
         <translation>sus coordenadas no distinguen los geófonos; se han situado por sus distancias al disparo (bytes 37 a 40)</translation>
     </message>
     <message>
-        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
-        <translation>sus cabeceras no indican posiciones; todos los disparos y geófonos están en %1 m, así que cargue un archivo de geometría</translation>
+        <source>its headers tell no positions; shots and geophones all stand at %1, so load a geometry file</source>
+        <translation>sus cabeceras no indican posiciones; todos los disparos y geófonos están en %1, así que cargue un archivo de geometría</translation>
     </message>
     <message>
-        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
-        <translation>sus cabeceras sitúan los geófonos de todas las trazas en %1 m; cargue un archivo de geometría si había más de uno</translation>
+        <source>its headers put the geophones of all traces at %1; load a geometry file if there was more than one</source>
+        <translation>sus cabeceras sitúan los geófonos de todas las trazas en %1; cargue un archivo de geometría si había más de uno</translation>
     </message>
     <message>
-        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
-        <translation>hay disparos hasta a %1 m a un lado de la línea de geófonos; x se toma tal cual</translation>
+        <source>shots stand up to %1 beside the line of geophones; x is taken as it stands</source>
+        <translation>hay disparos hasta a %1 a un lado de la línea de geófonos; x se toma tal cual</translation>
     </message>
     <message>
-        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
-        <translation>sus coordenadas no siguen x; las distancias son las medidas a lo largo de la recta que pasa por los geófonos, desde el primer geófono de este archivo, que está en x %1, y %2; los geófonos quedan hasta a %3 m de ella y los disparos hasta a %4 m</translation>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
+        <translation>sus coordenadas no siguen x; las distancias son las medidas a lo largo de la recta que pasa por los geófonos, desde el primer geófono de este archivo, que está en x %1, y %2; los geófonos quedan hasta a %3 de ella y los disparos hasta a %4</translation>
     </message>
     <message>
         <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
@@ -6367,8 +6363,8 @@ Defina la posición de los geófonos
         <translation>no pueden corresponder a ningún terreno las cotas o profundidades de disparo de %1; las cotas del archivo se han tomado como 0</translation>
     </message>
     <message>
-        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
-        <translation>hay disparos hasta a %1 m bajo el terreno; sus cotas son las de los disparos, no las del terreno sobre ellos</translation>
+        <source>shots lie up to %1 below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>hay disparos hasta a %1 bajo el terreno; sus cotas son las de los disparos, no las del terreno sobre ellos</translation>
     </message>
     <message>
         <source>the shot depth of %1 is negative and was taken as 0</source>
@@ -6763,8 +6759,8 @@ Defina la posición de los geófonos
         <translation>solo %1 picados son con seguridad de ondas que viajan por el refractor %2; se necesitan %3</translation>
     </message>
     <message>
-        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
-        <translation>las ondas directas, a %1 m/s, son más lentas de lo que permiten los límites</translation>
+        <source>waves along the surface at %1 are slower than the bounds allow</source>
+        <translation>las ondas directas, a %1, son más lentas de lo que permiten los límites</translation>
     </message>
     <message>
         <source>the times of a refractor grow too little with offset for the bounds</source>
@@ -6955,12 +6951,12 @@ Defina la posición de los geófonos
         <translation>La prueba de resolución ha fallado: %1</translation>
     </message>
     <message>
-        <source>The size of the pattern must be positive; %1 m is not.</source>
-        <translation>El tamaño del patrón debe ser positivo; %1 m no lo es.</translation>
+        <source>The size of the pattern must be positive; %1 is not.</source>
+        <translation>El tamaño del patrón debe ser positivo; %1 no lo es.</translation>
     </message>
     <message>
-        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
-        <translation>El patrón tiene %1 m, menos que una celda de la malla, que tiene %2 m; elija uno mayor.</translation>
+        <source>The pattern has %1, less than a cell of the grid, which has %2; choose a larger one.</source>
+        <translation>El patrón tiene %1, menos que una celda de la malla, que tiene %2; elija uno mayor.</translation>
     </message>
     <message>
         <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
@@ -7071,8 +7067,8 @@ Defina la posición de los geófonos
         <translation>%1 m no es una profundidad bajo la superficie (de 0 a %2)</translation>
     </message>
     <message>
-        <source>%1 m is no position along the line</source>
-        <translation>%1 m no es una posición a lo largo de la línea</translation>
+        <source>%1 is no position along the line</source>
+        <translation>%1 no es una posición a lo largo de la línea</translation>
     </message>
     <message>
         <source>it has no name</source>
@@ -7091,12 +7087,12 @@ Defina la posición de los geófonos
         <translation>no tiene ninguna capa</translation>
     </message>
     <message>
-        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
-        <translation>la capa desde %1 m empieza por encima de la base de la anterior, %2 m</translation>
+        <source>the layer from %1 begins above the bottom of the one before, %2</source>
+        <translation>la capa desde %1 empieza por encima de la base de la anterior, %2</translation>
     </message>
     <message>
-        <source>%1 m is no error of a depth</source>
-        <translation>%1 m no es un error de una profundidad</translation>
+        <source>%1 is no error of a depth</source>
+        <translation>%1 no es un error de una profundidad</translation>
     </message>
     <message>
         <source>refractors have the numbers 1 to %1</source>
@@ -7263,12 +7259,12 @@ Defina la posición de los geófonos
         <translation>%1 no contiene ninguna celda de la malla: es demasiado pequeño o está fuera de ella.</translation>
     </message>
     <message>
-        <source>%1 at %2 m stands beyond the grid.</source>
-        <translation>%1, en %2 m, está fuera de la malla.</translation>
+        <source>%1 at %2 stands beyond the grid.</source>
+        <translation>%1, en %2, está fuera de la malla.</translation>
     </message>
     <message>
-        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
-        <translation>%1 llega a %2 m de profundidad, por debajo de la malla; lo que está por debajo de %3 m no cuenta.</translation>
+        <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
+        <translation>%1 llega a %2 de profundidad, por debajo de la malla; lo que está por debajo de %3 no cuenta.</translation>
     </message>
     <message>
         <source>%1, %2 to %3 m</source>
@@ -7279,20 +7275,20 @@ Defina la posición de los geófonos
         <translation>%1: ninguna celda es en su mayor parte de esta capa; cuenta por su parte de las celdas, o está dentro de un cuerpo fijo.</translation>
     </message>
     <message>
-        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
-        <translation>%1 (a %2 m a lo largo de la línea y %3 m de profundidad) está fuera de la malla, o más cerca de su borde que su error o una celda.</translation>
+        <source>%1 (%2 along the line, %3 deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (a %2 a lo largo de la línea y %3 de profundidad) está fuera de la malla, o más cerca de su borde que su error o una celda.</translation>
     </message>
     <message>
-        <source>%1, %2 m/s at %3 m</source>
-        <translation>%1, %2 m/s en %3 m</translation>
+        <source>%1, %2 at %3</source>
+        <translation>%1, %2 en %3</translation>
     </message>
     <message>
-        <source>%1, %2 m/s above</source>
-        <translation>%1, %2 m/s por encima</translation>
+        <source>%1, %2 above</source>
+        <translation>%1, %2 por encima</translation>
     </message>
     <message>
-        <source>%1, %2 m/s below</source>
-        <translation>%1, %2 m/s por debajo</translation>
+        <source>%1, %2 below</source>
+        <translation>%1, %2 por debajo</translation>
     </message>
     <message>
         <source>Layered interpretation</source>
@@ -7319,12 +7315,12 @@ Defina la posición de los geófonos
         <translation>Partir de las capas</translation>
     </message>
     <message>
-        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
-        <translation>Una capa tiene una velocidad de %1 m/s, que no es propia de ningún terreno.</translation>
+        <source>A layer has a velocity of %1, which is no velocity of the ground.</source>
+        <translation>Una capa tiene una velocidad de %1, que no es propia de ningún terreno.</translation>
     </message>
     <message>
-        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
-        <translation>La capa que empieza a %1 m se solapa con otra; ordene las capas por profundidad, sin solapes.</translation>
+        <source>The layer that begins at %1 lies over another; order the layers by depth, without overlap.</source>
+        <translation>La capa que empieza a %1 se solapa con otra; ordene las capas por profundidad, sin solapes.</translation>
     </message>
     <message>
         <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
@@ -7411,8 +7407,8 @@ Defina la posición de los geófonos
         <translation>Sección, gradiente máximo</translation>
     </message>
     <message>
-        <source>Section, %1 m/s</source>
-        <translation>Sección, %1 m/s</translation>
+        <source>Section, %1</source>
+        <translation>Sección, %1</translation>
     </message>
     <message>
         <source>The methods could not be compared: %1</source>
@@ -7475,8 +7471,8 @@ Defina la posición de los geófonos
         <translation>densidad %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
     <message>
-        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
-        <translation>Capa %1: en %2 de %3 puntos las profundidades de su techo según P y según S difieren en más de un %4 % (mediana ahí: %5 m según P, %6 m según S). Las ondas P suelen ver el nivel freático y las ondas S no: el mismo número puede ser un terreno distinto.</translation>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 by P, %6 by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Capa %1: en %2 de %3 puntos las profundidades de su techo según P y según S difieren en más de un %4 % (mediana ahí: %5 según P, %6 según S). Las ondas P suelen ver el nivel freático y las ondas S no: el mismo número puede ser un terreno distinto.</translation>
     </message>
     <message>
         <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
@@ -7495,8 +7491,8 @@ Defina la posición de los geófonos
         <translation>La relación de Gardner se halló para rocas de más de 1500 m/s; en %1 de %2 puntos Vp es menor, y la densidad, una conjetura.</translation>
     </message>
     <message>
-        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
-        <translation>Las superficies de P y S distan hasta %1 m, en %2 m: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
+        <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
+        <translation>Las superficies de P y S distan hasta %1, en %2: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
     </message>
     <message>
         <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
@@ -7511,8 +7507,8 @@ Defina la posición de los geófonos
         <translation>Las posiciones de P y S en el mapa están en sistemas distintos (EPSG:%1 y EPSG:%2) y no se han comparado.</translation>
     </message>
     <message>
-        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
-        <translation>Las mismas distancias de P y S distan hasta %1 m en el mapa: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
+        <source>The same distances of P and S lie up to %1 apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Las mismas distancias de P y S distan hasta %1 en el mapa: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
     </message>
     <message>
         <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
@@ -7639,8 +7635,8 @@ Defina la posición de los geófonos
         <translation>En %1 de %2 celdas Vp/Vs es menor que 1,41 y el coeficiente de Poisson negativo, lo que no ocurre en suelos ni rocas.</translation>
     </message>
     <message>
-        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
-        <translation>Las superficies de las secciones de P y S distan hasta %1 m, en %2 m; las celdas se emparejan por su profundidad bajo ellas.</translation>
+        <source>The surfaces of the sections of P and S lie up to %1 apart, at %2; cells are matched by their depths below them.</source>
+        <translation>Las superficies de las secciones de P y S distan hasta %1, en %2; las celdas se emparejan por su profundidad bajo ellas.</translation>
     </message>
     <message>
         <source>A section has no layers: all of it has the first density.</source>
@@ -7691,8 +7687,8 @@ Defina la posición de los geófonos
         <translation>S: su perfil se ajustó a todos los picados y no recibe errores. Uno por el método recíproco sí los recibe.</translation>
     </message>
     <message>
-        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
-        <translation>En este perfil, la velocidad de la capa 1 varía a lo largo de la línea y con la profundidad; aquí se toma en todas partes su media, %1 m/s.</translation>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1, everywhere.</source>
+        <translation>En este perfil, la velocidad de la capa 1 varía a lo largo de la línea y con la profundidad; aquí se toma en todas partes su media, %1.</translation>
     </message>
     <message>
         <source>the first distance must be a number, and the EPSG code a whole number</source>
@@ -7895,8 +7891,8 @@ Defina la posición de los geófonos
         <translation>tiene %1 puntos y necesita %2 como mínimo</translation>
     </message>
     <message>
-        <source>%1 m, %2 m is no place of a section</source>
-        <translation>%1 m, %2 m no es un lugar de una sección</translation>
+        <source>%1, %2 is no place of a section</source>
+        <translation>%1, %2 no es un lugar de una sección</translation>
     </message>
     <message>
         <source>a text is %1 to %2 points high</source>
@@ -7927,8 +7923,8 @@ Defina la posición de los geófonos
         <translation>paso alto %1 Hz, orden %2</translation>
     </message>
     <message>
-        <source>%1 m/s and more</source>
-        <translation>%1 m/s o más</translation>
+        <source>%1 and more</source>
+        <translation>%1 o más</translation>
     </message>
     <message>
         <source>forth along the line</source>
@@ -8067,8 +8063,8 @@ Defina la posición de los geófonos
         <translation>no tiene muestras, o no se conoce su intervalo de muestreo</translation>
     </message>
     <message>
-        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
-        <translation>sus geófonos no están a intervalos regulares: la traza %1, en %2 m, está a %3 m de la anterior; la distancia habitual es de %4 m</translation>
+        <source>its geophones are not evenly spaced: trace %1 at %2 is %3 from the one before, the usual distance is %4</source>
+        <translation>sus geófonos no están a intervalos regulares: la traza %1, en %2, está a %3 de la anterior; la distancia habitual es de %4</translation>
     </message>
     <message>
         <source>it has fewer than %1 traces</source>
@@ -8087,8 +8083,8 @@ Defina la posición de los geófonos
         <translation>disparo %1: de %2 puntos de su línea, %3 no tienen traza o la tienen anulada; cuentan como cero, y junto a ellos el filtro es menos nítido</translation>
     </message>
     <message>
-        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
-        <translation>la velocidad mínima, %1 m/s, debe ser mayor que 0 y menor que la máxima, %2 m/s</translation>
+        <source>the slowest velocity, %1, must be above 0 and below the fastest, %2</source>
+        <translation>la velocidad mínima, %1, debe ser mayor que 0 y menor que la máxima, %2</translation>
     </message>
     <message>
         <source>the taper must be 0 or more and less than 100 percent of a limit</source>
