@@ -4507,8 +4507,8 @@ de pointés</translation>
         <translation>%1 lignes de %2 colonnes ne correspondent pas à %3 vitesses et %4 indicateurs de dessin</translation>
     </message>
     <message>
-        <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation>des cellules de %2 m avec %1 nœuds par côté sont impossibles</translation>
+        <source>cells with %1 nodes per side, %2 long, cannot be</source>
+        <translation>des cellules de %2 avec %1 nœuds par côté sont impossibles</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
@@ -5259,8 +5259,8 @@ Veuillez définir la position des géophones
         <translation>Une position du levé est à plus de 100&#xa0;000 km&#xa0;; veuillez vérifier la géométrie.</translation>
     </message>
     <message>
-        <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation>Une grille de cellules de %1 m avec %2 nœuds par côté et une profondeur de %3 m ne peut pas être construite&#xa0;; choisissez une taille de cellule positive, au moins deux nœuds et une profondeur non négative.</translation>
+        <source>A grid of cells of %1 with %2 nodes per side, %3 deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
+        <translation>Une grille de cellules de %1 avec %2 nœuds par côté et une profondeur de %3 ne peut pas être construite&#xa0;; choisissez une taille de cellule positive, au moins deux nœuds et une profondeur non négative.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
@@ -5295,8 +5295,8 @@ Veuillez définir la position des géophones
         <translation>Le nombre d&apos;itérations et le paramètre de lissage doivent être au moins égaux à 1.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation>Les limites de vitesse doivent être des nombres positifs&#xa0;; %1 m/s n&apos;en est pas un.</translation>
+        <source>The velocity limits must be positive numbers; %1 is none.</source>
+        <translation>Les limites de vitesse doivent être des nombres positifs&#xa0;; %1 n&apos;en est pas un.</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
@@ -5351,8 +5351,8 @@ Veuillez définir la position des géophones
         <translation>Vitesse</translation>
     </message>
     <message>
-        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
-        <translation>Les couches donnent une vitesse de %1 m/s à %2 m de profondeur, ce qui n&apos;est pas une vitesse du sol. Faites couvrir aux couches toute la profondeur de la grille, ou adoucissez le passage de l&apos;une à l&apos;autre.</translation>
+        <source>The layers give a velocity of %1 at a depth of %2, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Les couches donnent une vitesse de %1 à %2 de profondeur, ce qui n&apos;est pas une vitesse du sol. Faites couvrir aux couches toute la profondeur de la grille, ou adoucissez le passage de l&apos;une à l&apos;autre.</translation>
     </message>
     <message>
         <source>a number is out of range or not finite</source>
@@ -5751,8 +5751,8 @@ Veuillez définir la position des géophones
         <translation>lire les canaux du dernier au premier</translation>
     </message>
     <message>
-        <source>put the shot at %1 m</source>
-        <translation>placer le tir à %1 m</translation>
+        <source>put the shot at %1</source>
+        <translation>placer le tir à %1</translation>
     </message>
     <message>
         <source>put the %1 geophones of its string at %2 to %3 m</source>
@@ -5771,56 +5771,56 @@ Veuillez définir la position des géophones
         <translation>traces échangées&#xa0;: sur tous les tirs, les arrivées de la trace %1 appartiennent à la place de la trace %2, et inversement</translation>
     </message>
     <message>
-        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
-        <translation>hors de la ligne&#xa0;: le géophone %1 est indiqué à %2 m&#xa0;; des deux côtés, ses arrivées sont celles de %3 m</translation>
+        <source>off the line: geophone %1 is said to be at %2; from both sides its arrivals are those of %3</source>
+        <translation>hors de la ligne&#xa0;: le géophone %1 est indiqué à %2&#xa0;; des deux côtés, ses arrivées sont celles de %3</translation>
     </message>
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 géophones sont indiqués à %2 positions seulement</translation>
     </message>
     <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
-        <translation>%1&#xa0;; sur %2 tirs, les temps minimaux se déplacent de %3 canaux pour chaque mètre du tir&#xa0;: le géophone 1 est donc à %4 m et le dernier à %5 m</translation>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1&#xa0;; sur %2 tirs, les temps minimaux se déplacent de %3 canaux pour chaque mètre du tir&#xa0;: le géophone 1 est donc à %4 et le dernier à %5</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>le tir est indiqué à %1 m&#xa0;; le nom du fichier dit %2 m, et les temps minimaux du levé suivent les noms</translation>
+        <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>le tir est indiqué à %1&#xa0;; le nom du fichier dit %2, et les temps minimaux du levé suivent les noms</translation>
     </message>
     <message>
-        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
-        <translation>le tir est indiqué à une altitude de %1 m, et aucune altitude des géophones ne peut être la sienne</translation>
+        <source>the shot is said to be at an elevation of %1, and the geophones have none that could be theirs</source>
+        <translation>le tir est indiqué à une altitude de %1, et aucune altitude des géophones ne peut être la sienne</translation>
     </message>
     <message>
         <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
         <translation>les canaux vont à rebours des géophones&#xa0;: pour %1 tirs sur %2, les temps ne sont minimaux à côté du tir que si le dispositif est lu du dernier géophone au premier</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>tous les tirs sont indiqués à %1 m&#xa0;; le nom du fichier dit %2 m, et les temps minimaux du levé suivent les noms</translation>
+        <source>all shots are said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>tous les tirs sont indiqués à %1&#xa0;; le nom du fichier dit %2, et les temps minimaux du levé suivent les noms</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
-        <translation>tous les tirs sont indiqués à %1 m&#xa0;; les temps de celui-ci sont minimaux à %2 m</translation>
+        <source>all shots are said to be at %1; the times of this one are least at %2</source>
+        <translation>tous les tirs sont indiqués à %1&#xa0;; les temps de celui-ci sont minimaux à %2</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
-        <translation>tous les tirs sont indiqués à %1 m&#xa0;; celui-ci était à une extrémité des géophones ou au-delà</translation>
+        <source>all shots are said to be at %1; this one was at an end of the geophones or beyond</source>
+        <translation>tous les tirs sont indiqués à %1&#xa0;; celui-ci était à une extrémité des géophones ou au-delà</translation>
     </message>
     <message>
-        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
-        <translation>les canaux de cet enregistrement vont à rebours des géophones&#xa0;: lus du dernier au premier, les temps sont minimaux à côté du tir, à %1 m</translation>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1</source>
+        <translation>les canaux de cet enregistrement vont à rebours des géophones&#xa0;: lus du dernier au premier, les temps sont minimaux à côté du tir, à %1</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
-        <translation>le tir est indiqué à %1 m, mais les temps croissent à partir de %2 m tout au long des géophones&#xa0;: il était à cette extrémité ou au-delà</translation>
+        <source>the shot is said to be at %1, but times grow from %2 on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>le tir est indiqué à %1, mais les temps croissent à partir de %2 tout au long des géophones&#xa0;: il était à cette extrémité ou au-delà</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
-        <translation>le tir est indiqué à %1 m, mais les temps sont minimaux à %2 m, à côté du géophone %3, et croissent de part et d&apos;autre</translation>
+        <source>the shot is said to be at %1, but times are least at %2, beside geophone %3, and grow on both sides of it</source>
+        <translation>le tir est indiqué à %1, mais les temps sont minimaux à %2, à côté du géophone %3, et croissent de part et d&apos;autre</translation>
     </message>
     <message>
-        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
-        <translation>%1&#xa0;; ou bien les géophones sont espacés de %2 m et non de %3 m, ce qu&apos;aucun autre tir ne permet de trancher</translation>
+        <source>%1; or the geophones stand %2 apart and not %3, which no other shot can decide</source>
+        <translation>%1&#xa0;; ou bien les géophones sont espacés de %2 et non de %3, ce qu&apos;aucun autre tir ne permet de trancher</translation>
     </message>
     <message>
         <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
@@ -5831,12 +5831,12 @@ Veuillez définir la position des géophones
         <translation>polarité inversée (%1)&#xa0;: les premières oscillations vont à l&apos;encontre de celles des voisines, qui concordent entre elles (corrélation d&apos;au moins -%2)</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
-        <translation>le tir %1 a été enregistré au même point, à %2 m, avec %3 fois le rapport signal sur bruit de celui-ci</translation>
+        <source>shot %1 was recorded at the same point, at %2, with %3 times the signal to noise of this one</source>
+        <translation>le tir %1 a été enregistré au même point, à %2, avec %3 fois le rapport signal sur bruit de celui-ci</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
-        <translation>le tir %1 a été enregistré au même point, à %2 m&#xa0;; ses arrivées sont plus tardives de %3 ms</translation>
+        <source>shot %1 was recorded at the same point, at %2; its arrivals are %3 ms later</source>
+        <translation>le tir %1 a été enregistré au même point, à %2&#xa0;; ses arrivées sont plus tardives de %3 ms</translation>
     </message>
     <message>
         <source>the record is that of shot %1 once more, sample for sample</source>
@@ -5859,20 +5859,20 @@ Veuillez définir la position des géophones
         <translation>aucun géophone entre %1 et %2 m&#xa0;: le terrain n&apos;y est vu d&apos;aucun côté, sauf si des tirs portent au-delà</translation>
     </message>
     <message>
-        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
-        <translation>les dispositifs %1 et %2 se recouvrent et ont des altitudes différentes en %3 endroits, de %4 m au plus, à %5 m</translation>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
+        <translation>les dispositifs %1 et %2 se recouvrent et ont des altitudes différentes en %3 endroits, de %4 au plus, à %5</translation>
     </message>
     <message>
-        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
-        <translation>aucune altitude&#xa0;: tous les tirs et géophones sont à %1 m&#xa0;; si le terrain n&apos;est pas plat, lisez-les dans un tableau, dans la géométrie du levé</translation>
+        <source>no elevations: all shots and geophones are at %1; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>aucune altitude&#xa0;: tous les tirs et géophones sont à %1&#xa0;; si le terrain n&apos;est pas plat, lisez-les dans un tableau, dans la géométrie du levé</translation>
     </message>
     <message>
-        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
-        <translation>la position %1 du tir compte des stations&#xa0;: sur %2 tirs, les temps minimaux se déplacent de %3 m pour chaque unité de la position</translation>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
+        <translation>la position %1 du tir compte des stations&#xa0;: sur %2 tirs, les temps minimaux se déplacent de %3 pour chaque unité de la position</translation>
     </message>
     <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
-        <translation>les positions des géophones ne sont pas des mètres&#xa0;: sur %1 tirs, les temps minimaux se déplacent de %2 pour chaque mètre du tir&#xa0;; des géophones espacés de %3 m à partir de %4 m les ont à côté des tirs</translation>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>les positions des géophones ne sont pas des mètres&#xa0;: sur %1 tirs, les temps minimaux se déplacent de %2 pour chaque mètre du tir&#xa0;; des géophones espacés de %3 à partir de %4 les ont à côté des tirs</translation>
     </message>
     <message>
         <source>late</source>
@@ -6017,10 +6017,6 @@ Veuillez définir la position des géophones
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>il porte sur d&apos;autres fichiers de tirs que ceux du projet</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 to %2 m</source>
@@ -6243,12 +6239,12 @@ Veuillez définir la position des géophones
         <translation>ses géophones diffèrent en y mais pas en x&#xa0;; y a été pris comme position le long de la ligne</translation>
     </message>
     <message>
-        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
-        <translation>tous ses géophones sont à x = %1 m&#xa0;; donnez au levé sa géométrie</translation>
+        <source>all its geophones are at x = %1; give the survey its geometry</source>
+        <translation>tous ses géophones sont à x = %1&#xa0;; donnez au levé sa géométrie</translation>
     </message>
     <message>
-        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
-        <translation>ses géophones diffèrent jusqu&apos;à %1 m en y, qui n&apos;est pas utilisé&#xa0;; les positions le long de la ligne sont x</translation>
+        <source>its geophones differ by up to %1 in y, which is not used; positions along the line are x</source>
+        <translation>ses géophones diffèrent jusqu&apos;à %1 en y, qui n&apos;est pas utilisé&#xa0;; les positions le long de la ligne sont x</translation>
     </message>
     <message>
         <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
@@ -6343,20 +6339,20 @@ Veuillez définir la position des géophones
         <translation>ses coordonnées ne distinguent pas les géophones&#xa0;; ils ont été placés d&apos;après leur déport (octets 37 à 40) par rapport au tir</translation>
     </message>
     <message>
-        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
-        <translation>ses en-têtes n&apos;indiquent aucune position&#xa0;; tirs et géophones sont tous à %1 m, chargez donc un fichier de géométrie</translation>
+        <source>its headers tell no positions; shots and geophones all stand at %1, so load a geometry file</source>
+        <translation>ses en-têtes n&apos;indiquent aucune position&#xa0;; tirs et géophones sont tous à %1, chargez donc un fichier de géométrie</translation>
     </message>
     <message>
-        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
-        <translation>ses en-têtes placent les géophones de toutes les traces à %1 m&#xa0;; chargez un fichier de géométrie s&apos;il y en avait plus d&apos;un</translation>
+        <source>its headers put the geophones of all traces at %1; load a geometry file if there was more than one</source>
+        <translation>ses en-têtes placent les géophones de toutes les traces à %1&#xa0;; chargez un fichier de géométrie s&apos;il y en avait plus d&apos;un</translation>
     </message>
     <message>
-        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
-        <translation>des tirs sont jusqu&apos;à %1 m à côté de la ligne des géophones&#xa0;; x est pris tel quel</translation>
+        <source>shots stand up to %1 beside the line of geophones; x is taken as it stands</source>
+        <translation>des tirs sont jusqu&apos;à %1 à côté de la ligne des géophones&#xa0;; x est pris tel quel</translation>
     </message>
     <message>
-        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
-        <translation>ses coordonnées ne suivent pas x&#xa0;; les distances sont celles le long de la droite passant par les géophones, depuis le premier géophone de ce fichier, qui est à x %1, y %2&#xa0;; des géophones s&apos;en écartent jusqu&apos;à %3 m, des tirs jusqu&apos;à %4 m</translation>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
+        <translation>ses coordonnées ne suivent pas x&#xa0;; les distances sont celles le long de la droite passant par les géophones, depuis le premier géophone de ce fichier, qui est à x %1, y %2&#xa0;; des géophones s&apos;en écartent jusqu&apos;à %3, des tirs jusqu&apos;à %4</translation>
     </message>
     <message>
         <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
@@ -6367,8 +6363,8 @@ Veuillez définir la position des géophones
         <translation>les altitudes ou les profondeurs de tir sont hors de tout terrain possible (%1)&#xa0;; les altitudes du fichier ont été prises égales à 0</translation>
     </message>
     <message>
-        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
-        <translation>des tirs sont jusqu&apos;à %1 m sous le sol&#xa0;; leurs altitudes sont celles des tirs, pas celles du sol au-dessus</translation>
+        <source>shots lie up to %1 below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>des tirs sont jusqu&apos;à %1 sous le sol&#xa0;; leurs altitudes sont celles des tirs, pas celles du sol au-dessus</translation>
     </message>
     <message>
         <source>the shot depth of %1 is negative and was taken as 0</source>
@@ -6763,8 +6759,8 @@ Veuillez définir la position des géophones
         <translation>seuls %1 pointés sont avec certitude d&apos;ondes réfractées par le réfracteur %2&#xa0;; il en faut %3</translation>
     </message>
     <message>
-        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
-        <translation>les ondes directes, à %1 m/s, sont plus lentes que les limites ne le permettent</translation>
+        <source>waves along the surface at %1 are slower than the bounds allow</source>
+        <translation>les ondes directes, à %1, sont plus lentes que les limites ne le permettent</translation>
     </message>
     <message>
         <source>the times of a refractor grow too little with offset for the bounds</source>
@@ -6955,12 +6951,12 @@ Veuillez définir la position des géophones
         <translation>Le test de résolution a échoué&#xa0;: %1</translation>
     </message>
     <message>
-        <source>The size of the pattern must be positive; %1 m is not.</source>
-        <translation>La taille du motif doit être positive&#xa0;; %1 m ne l&apos;est pas.</translation>
+        <source>The size of the pattern must be positive; %1 is not.</source>
+        <translation>La taille du motif doit être positive&#xa0;; %1 ne l&apos;est pas.</translation>
     </message>
     <message>
-        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
-        <translation>Le motif a %1 m, moins qu&apos;une cellule de la grille, qui en a %2 m&#xa0;; choisissez-en un plus grand.</translation>
+        <source>The pattern has %1, less than a cell of the grid, which has %2; choose a larger one.</source>
+        <translation>Le motif a %1, moins qu&apos;une cellule de la grille, qui en a %2&#xa0;; choisissez-en un plus grand.</translation>
     </message>
     <message>
         <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
@@ -7071,8 +7067,8 @@ Veuillez définir la position des géophones
         <translation>%1 m n&apos;est pas une profondeur sous la surface (0 à %2)</translation>
     </message>
     <message>
-        <source>%1 m is no position along the line</source>
-        <translation>%1 m n&apos;est pas une position le long de la ligne</translation>
+        <source>%1 is no position along the line</source>
+        <translation>%1 n&apos;est pas une position le long de la ligne</translation>
     </message>
     <message>
         <source>it has no name</source>
@@ -7091,12 +7087,12 @@ Veuillez définir la position des géophones
         <translation>il n&apos;a pas de couche</translation>
     </message>
     <message>
-        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
-        <translation>la couche à partir de %1 m commence au-dessus de la base de la précédente, %2 m</translation>
+        <source>the layer from %1 begins above the bottom of the one before, %2</source>
+        <translation>la couche à partir de %1 commence au-dessus de la base de la précédente, %2</translation>
     </message>
     <message>
-        <source>%1 m is no error of a depth</source>
-        <translation>%1 m n&apos;est pas une erreur de profondeur</translation>
+        <source>%1 is no error of a depth</source>
+        <translation>%1 n&apos;est pas une erreur de profondeur</translation>
     </message>
     <message>
         <source>refractors have the numbers 1 to %1</source>
@@ -7263,12 +7259,12 @@ Veuillez définir la position des géophones
         <translation>%1 ne contient aucune cellule de la grille&#xa0;: trop petit, ou hors de celle-ci.</translation>
     </message>
     <message>
-        <source>%1 at %2 m stands beyond the grid.</source>
-        <translation>%1, à %2 m, est hors de la grille.</translation>
+        <source>%1 at %2 stands beyond the grid.</source>
+        <translation>%1, à %2, est hors de la grille.</translation>
     </message>
     <message>
-        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
-        <translation>%1 descend à %2 m, sous la grille&#xa0;; ce qui est au-dessous de %3 m ne compte pas.</translation>
+        <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
+        <translation>%1 descend à %2, sous la grille&#xa0;; ce qui est au-dessous de %3 ne compte pas.</translation>
     </message>
     <message>
         <source>%1, %2 to %3 m</source>
@@ -7279,20 +7275,20 @@ Veuillez définir la position des géophones
         <translation>%1&#xa0;: aucune cellule n&apos;est en majeure partie de cette couche&#xa0;; elle compte selon sa part des cellules, ou se trouve dans un corps fixe.</translation>
     </message>
     <message>
-        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
-        <translation>%1 (à %2 m le long de la ligne, à %3 m de profondeur) est hors de la grille, ou plus près de son bord que son erreur ou qu&apos;une cellule.</translation>
+        <source>%1 (%2 along the line, %3 deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (à %2 le long de la ligne, à %3 de profondeur) est hors de la grille, ou plus près de son bord que son erreur ou qu&apos;une cellule.</translation>
     </message>
     <message>
-        <source>%1, %2 m/s at %3 m</source>
-        <translation>%1, %2 m/s à %3 m</translation>
+        <source>%1, %2 at %3</source>
+        <translation>%1, %2 à %3</translation>
     </message>
     <message>
-        <source>%1, %2 m/s above</source>
-        <translation>%1, %2 m/s au-dessus</translation>
+        <source>%1, %2 above</source>
+        <translation>%1, %2 au-dessus</translation>
     </message>
     <message>
-        <source>%1, %2 m/s below</source>
-        <translation>%1, %2 m/s au-dessous</translation>
+        <source>%1, %2 below</source>
+        <translation>%1, %2 au-dessous</translation>
     </message>
     <message>
         <source>Layered interpretation</source>
@@ -7319,12 +7315,12 @@ Veuillez définir la position des géophones
         <translation>Partir des couches</translation>
     </message>
     <message>
-        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
-        <translation>Une couche a une vitesse de %1 m/s, ce qui n&apos;est pas une vitesse du sol.</translation>
+        <source>A layer has a velocity of %1, which is no velocity of the ground.</source>
+        <translation>Une couche a une vitesse de %1, ce qui n&apos;est pas une vitesse du sol.</translation>
     </message>
     <message>
-        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
-        <translation>La couche qui commence à %1 m en chevauche une autre&#xa0;; classez les couches par profondeur, sans chevauchement.</translation>
+        <source>The layer that begins at %1 lies over another; order the layers by depth, without overlap.</source>
+        <translation>La couche qui commence à %1 en chevauche une autre&#xa0;; classez les couches par profondeur, sans chevauchement.</translation>
     </message>
     <message>
         <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
@@ -7411,8 +7407,8 @@ Veuillez définir la position des géophones
         <translation>Coupe, plus fort gradient</translation>
     </message>
     <message>
-        <source>Section, %1 m/s</source>
-        <translation>Coupe, %1 m/s</translation>
+        <source>Section, %1</source>
+        <translation>Coupe, %1</translation>
     </message>
     <message>
         <source>The methods could not be compared: %1</source>
@@ -7475,8 +7471,8 @@ Veuillez définir la position des géophones
         <translation>masse volumique %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
     <message>
-        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
-        <translation>Couche %1&#xa0;: en %2 points sur %3, les profondeurs de son toit selon P et selon S diffèrent de plus de %4&#xa0;% (leur médiane y est de %5 m selon P, %6 m selon S). Les ondes P voient souvent la nappe, les ondes S non&#xa0;: le même numéro peut désigner des terrains différents.</translation>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 by P, %6 by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, les profondeurs de son toit selon P et selon S diffèrent de plus de %4&#xa0;% (leur médiane y est de %5 selon P, %6 selon S). Les ondes P voient souvent la nappe, les ondes S non&#xa0;: le même numéro peut désigner des terrains différents.</translation>
     </message>
     <message>
         <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
@@ -7495,8 +7491,8 @@ Veuillez définir la position des géophones
         <translation>La relation de Gardner a été établie pour des roches plus rapides que 1500 m/s&#xa0;; en %1 points sur %2, Vp est inférieure et la masse volumique approximative.</translation>
     </message>
     <message>
-        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
-        <translation>Les surfaces de P et de S sont distantes de %1 m au plus, à %2 m&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
+        <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
+        <translation>Les surfaces de P et de S sont distantes de %1 au plus, à %2&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
     </message>
     <message>
         <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
@@ -7511,8 +7507,8 @@ Veuillez définir la position des géophones
         <translation>Les positions de P et de S sur la carte sont données dans des systèmes différents (EPSG:%1 et EPSG:%2) et n&apos;ont pas été comparées.</translation>
     </message>
     <message>
-        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
-        <translation>Les mêmes distances de P et de S sont éloignées de %1 m au plus sur la carte&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
+        <source>The same distances of P and S lie up to %1 apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Les mêmes distances de P et de S sont éloignées de %1 au plus sur la carte&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
     </message>
     <message>
         <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
@@ -7639,8 +7635,8 @@ Veuillez définir la position des géophones
         <translation>Dans %1 cellules sur %2, Vp/Vs est inférieur à 1,41 et le coefficient de Poisson négatif, ce qui n&apos;est le cas ni des sols ni des roches.</translation>
     </message>
     <message>
-        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
-        <translation>Les surfaces des coupes de P et de S sont distantes de %1 m au plus, à %2 m&#xa0;; les cellules sont appariées selon leur profondeur sous elles.</translation>
+        <source>The surfaces of the sections of P and S lie up to %1 apart, at %2; cells are matched by their depths below them.</source>
+        <translation>Les surfaces des coupes de P et de S sont distantes de %1 au plus, à %2&#xa0;; les cellules sont appariées selon leur profondeur sous elles.</translation>
     </message>
     <message>
         <source>A section has no layers: all of it has the first density.</source>
@@ -7691,8 +7687,8 @@ Veuillez définir la position des géophones
         <translation>S&#xa0;: son profil a été ajusté à tous les pointés et ne reçoit pas d&apos;erreurs. Un profil par la méthode réciproque en reçoit.</translation>
     </message>
     <message>
-        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
-        <translation>Dans ce profil, la vitesse de la couche 1 varie le long de la ligne et avec la profondeur&#xa0;; ici, c&apos;est partout sa moyenne, %1 m/s.</translation>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1, everywhere.</source>
+        <translation>Dans ce profil, la vitesse de la couche 1 varie le long de la ligne et avec la profondeur&#xa0;; ici, c&apos;est partout sa moyenne, %1.</translation>
     </message>
     <message>
         <source>the first distance must be a number, and the EPSG code a whole number</source>
@@ -7895,8 +7891,8 @@ Veuillez définir la position des géophones
         <translation>elle a %1 points et il en faut %2 au moins</translation>
     </message>
     <message>
-        <source>%1 m, %2 m is no place of a section</source>
-        <translation>%1 m, %2 m n&apos;est pas un endroit d&apos;une coupe</translation>
+        <source>%1, %2 is no place of a section</source>
+        <translation>%1, %2 n&apos;est pas un endroit d&apos;une coupe</translation>
     </message>
     <message>
         <source>a text is %1 to %2 points high</source>
@@ -7927,8 +7923,8 @@ Veuillez définir la position des géophones
         <translation>passe-haut %1 Hz, ordre %2</translation>
     </message>
     <message>
-        <source>%1 m/s and more</source>
-        <translation>%1 m/s et plus</translation>
+        <source>%1 and more</source>
+        <translation>%1 et plus</translation>
     </message>
     <message>
         <source>forth along the line</source>
@@ -8067,8 +8063,8 @@ Veuillez définir la position des géophones
         <translation>il n&apos;a pas d&apos;échantillons, ou pas de pas d&apos;échantillonnage connu</translation>
     </message>
     <message>
-        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
-        <translation>ses géophones ne sont pas régulièrement espacés&#xa0;: la trace %1 à %2 m est à %3 m de la précédente, la distance habituelle est de %4 m</translation>
+        <source>its geophones are not evenly spaced: trace %1 at %2 is %3 from the one before, the usual distance is %4</source>
+        <translation>ses géophones ne sont pas régulièrement espacés&#xa0;: la trace %1 à %2 est à %3 de la précédente, la distance habituelle est de %4</translation>
     </message>
     <message>
         <source>it has fewer than %1 traces</source>
@@ -8087,8 +8083,8 @@ Veuillez définir la position des géophones
         <translation>tir %1&#xa0;: sur %2 emplacements le long de sa ligne, %3 n&apos;ont pas de trace, ou une trace neutralisée&#xa0;; ils comptent comme nuls, à côté le filtre est moins net</translation>
     </message>
     <message>
-        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
-        <translation>la vitesse la plus lente, %1 m/s, doit être supérieure à 0 et inférieure à la plus rapide, %2 m/s</translation>
+        <source>the slowest velocity, %1, must be above 0 and below the fastest, %2</source>
+        <translation>la vitesse la plus lente, %1, doit être supérieure à 0 et inférieure à la plus rapide, %2</translation>
     </message>
     <message>
         <source>the taper must be 0 or more and less than 100 percent of a limit</source>
