@@ -2557,8 +2557,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Kein Spektrum</translation>
     </message>
     <message>
-        <source>Wavenumber along the line (1/m)</source>
-        <translation>Wellenzahl entlang der Messlinie (1/m)</translation>
+        <source>Wavenumber along the line (1/%1)</source>
+        <translation>Wellenzahl entlang der Messlinie (1/%1)</translation>
     </message>
     <message>
         <source>Frequency (Hz)</source>

@@ -2557,8 +2557,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Sin espectro</translation>
     </message>
     <message>
-        <source>Wavenumber along the line (1/m)</source>
-        <translation>Número de onda a lo largo de la línea (1/m)</translation>
+        <source>Wavenumber along the line (1/%1)</source>
+        <translation>Número de onda a lo largo de la línea (1/%1)</translation>
     </message>
     <message>
         <source>Frequency (Hz)</source>

@@ -2557,8 +2557,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Pas de spectre</translation>
     </message>
     <message>
-        <source>Wavenumber along the line (1/m)</source>
-        <translation>Nombre d&apos;onde le long de la ligne (1/m)</translation>
+        <source>Wavenumber along the line (1/%1)</source>
+        <translation>Nombre d&apos;onde le long de la ligne (1/%1)</translation>
     </message>
     <message>
         <source>Frequency (Hz)</source>

@@ -2557,8 +2557,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Nessuno spettro</translation>
     </message>
     <message>
-        <source>Wavenumber along the line (1/m)</source>
-        <translation>Numero d&apos;onda lungo la linea (1/m)</translation>
+        <source>Wavenumber along the line (1/%1)</source>
+        <translation>Numero d&apos;onda lungo la linea (1/%1)</translation>
     </message>
     <message>
         <source>Frequency (Hz)</source>

@@ -31,6 +31,7 @@ TEST(ShownUnit, isTheFootOfWhateverHasALength) {
                {"m/s", "ft/s", 1.0 / 0.3048},
                {quantityUnit(SectionQuantity::kLaplacian), "1/(ft\xC2\xB7s)", 0.3048},
                {quantityUnit(SectionQuantity::kVerticalGradient), "1/s", 1.0},
+               {"1/m", "1/ft", 0.3048},
                {"MPa", "MPa", 1.0},
                {"%", "%", 1.0},
                {"ms", "ms", 1.0},
