@@ -4,10 +4,13 @@
 
 namespace talvesk::testing {
 
-/// Lengths are shown in feet as long as it lives.
-struct InFeet {
+/// Feet are shown as long as it lives.
+class InFeet {
+ public:
   InFeet() { setLengthUnit(LengthUnit::kFoot); }
   ~InFeet() { setLengthUnit(LengthUnit::kMetre); }
+  InFeet(const InFeet&) = delete;
+  InFeet& operator=(const InFeet&) = delete;
 };
 
 }  // namespace talvesk::testing
