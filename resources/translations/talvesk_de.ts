@@ -174,12 +174,12 @@
         <translation>Chi-Quadrat</translation>
     </message>
     <message>
-        <source>Length covered [m]</source>
-        <translation>Erfasste Länge [m]</translation>
+        <source>Length covered [%1]</source>
+        <translation>Erfasste Länge [%1]</translation>
     </message>
     <message>
-        <source>Depth reached [m]</source>
-        <translation>Erreichte Tiefe [m]</translation>
+        <source>Depth reached [%1]</source>
+        <translation>Erreichte Tiefe [%1]</translation>
     </message>
     <message>
         <source>Cells with rays [%]</source>
@@ -242,8 +242,8 @@
         <translation>Messlinien</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Geschwindigkeit [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Geschwindigkeit [%1]</translation>
     </message>
     <message>
         <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
@@ -304,10 +304,6 @@
     <message>
         <source>Skip to the content</source>
         <translation>Zum Inhalt springen</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 km</source>

@@ -174,12 +174,12 @@
         <translation>Chi cuadrado</translation>
     </message>
     <message>
-        <source>Length covered [m]</source>
-        <translation>Longitud cubierta [m]</translation>
+        <source>Length covered [%1]</source>
+        <translation>Longitud cubierta [%1]</translation>
     </message>
     <message>
-        <source>Depth reached [m]</source>
-        <translation>Profundidad alcanzada [m]</translation>
+        <source>Depth reached [%1]</source>
+        <translation>Profundidad alcanzada [%1]</translation>
     </message>
     <message>
         <source>Cells with rays [%]</source>
@@ -242,8 +242,8 @@
         <translation>Líneas</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocidad [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocidad [%1]</translation>
     </message>
     <message>
         <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
@@ -304,10 +304,6 @@
     <message>
         <source>Skip to the content</source>
         <translation>Saltar al contenido</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 km</source>

@@ -174,12 +174,12 @@
         <translation>Chi quadrato</translation>
     </message>
     <message>
-        <source>Length covered [m]</source>
-        <translation>Lunghezza coperta [m]</translation>
+        <source>Length covered [%1]</source>
+        <translation>Lunghezza coperta [%1]</translation>
     </message>
     <message>
-        <source>Depth reached [m]</source>
-        <translation>Profondità raggiunta [m]</translation>
+        <source>Depth reached [%1]</source>
+        <translation>Profondità raggiunta [%1]</translation>
     </message>
     <message>
         <source>Cells with rays [%]</source>
@@ -242,8 +242,8 @@
         <translation>Linee</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocità [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocità [%1]</translation>
     </message>
     <message>
         <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
@@ -304,10 +304,6 @@
     <message>
         <source>Skip to the content</source>
         <translation>Vai al contenuto</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 km</source>
