@@ -174,12 +174,12 @@
         <translation>Chi-Quadrat</translation>
     </message>
     <message>
-        <source>Length covered [m]</source>
-        <translation>Erfasste Länge [m]</translation>
+        <source>Length covered [%1]</source>
+        <translation>Erfasste Länge [%1]</translation>
     </message>
     <message>
-        <source>Depth reached [m]</source>
-        <translation>Erreichte Tiefe [m]</translation>
+        <source>Depth reached [%1]</source>
+        <translation>Erreichte Tiefe [%1]</translation>
     </message>
     <message>
         <source>Cells with rays [%]</source>
@@ -242,8 +242,8 @@
         <translation>Messlinien</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Geschwindigkeit [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Geschwindigkeit [%1]</translation>
     </message>
     <message>
         <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
@@ -304,10 +304,6 @@
     <message>
         <source>Skip to the content</source>
         <translation>Zum Inhalt springen</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 km</source>
@@ -1792,8 +1788,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>N</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Geschwindigkeit [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Geschwindigkeit [%1]</translation>
     </message>
     <message>
         <source>Sections at their places on the map</source>
@@ -1883,12 +1879,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Überhöhung %1</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Entfernung [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Entfernung [%1]</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Höhe [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Höhe [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -1923,9 +1919,9 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Schuss %1</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
+        <source>%1 at %2</source>
         <comment>shot, place</comment>
-        <translation>%1 bei %2 m</translation>
+        <translation>%1 bei %2</translation>
     </message>
     <message>
         <source>%1, filtered</source>
@@ -1987,12 +1983,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Refraktionsprofil</translation>
     </message>
     <message>
-        <source>X (m)</source>
-        <translation>X (m)</translation>
+        <source>X (%1)</source>
+        <translation>X (%1)</translation>
     </message>
     <message>
-        <source>Z (m)</source>
-        <translation>Z (m)</translation>
+        <source>Z (%1)</source>
+        <translation>Z (%1)</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -2011,8 +2007,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>RMS-Abweichung [ms]</translation>
     </message>
     <message>
-        <source>Offset [m]</source>
-        <translation>Offset [m]</translation>
+        <source>Offset [%1]</source>
+        <translation>Offset [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [ms]</source>
@@ -2130,8 +2126,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Rekonstruiert</translation>
     </message>
     <message>
-        <source>[m]</source>
-        <translation>[m]</translation>
+        <source>[%1]</source>
+        <translation>[%1]</translation>
     </message>
     <message>
         <source>Depth of %1, 16 to 84 %</source>
@@ -2162,24 +2158,24 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>%1 weggelassen</translation>
     </message>
     <message>
-        <source>Geophone at [m]</source>
-        <translation>Geophon bei [m]</translation>
+        <source>Geophone at [%1]</source>
+        <translation>Geophon bei [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [pick errors]</source>
         <translation>Berechnet minus gemessen [Pickfehler]</translation>
     </message>
     <message>
-        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
-        <translation>Schuss %1, Geophon %2 bei %3 m, Offset %4 m: gemessen %5 ms, berechnet %6 ms, Residuum %7 ms, Fehler %8 ms (%9 Fehler)</translation>
+        <source>Shot %1, geophone %2 at %3, offset %4: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Schuss %1, Geophon %2 bei %3, Offset %4: gemessen %5 ms, berechnet %6 ms, Residuum %7 ms, Fehler %8 ms (%9 Fehler)</translation>
     </message>
     <message>
         <source>; suspect</source>
         <translation>; verdächtig</translation>
     </message>
     <message>
-        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
-        <translation>Geophon bei [m]; schraffiert: kein Pick, mit Punkt: verdächtig</translation>
+        <source>Geophone at [%1]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geophon bei [%1]; schraffiert: kein Pick, mit Punkt: verdächtig</translation>
     </message>
     <message>
         <source>Shot, along the line</source>
@@ -2210,12 +2206,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Median und eine Standardabweichung</translation>
     </message>
     <message>
-        <source>%1: %2 m/s</source>
-        <translation>%1: %2 m/s</translation>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
     <message>
-        <source>%1 (%2 m beside the line)</source>
-        <translation>%1 (%2 m neben der Messlinie)</translation>
+        <source>%1 (%2 beside the line)</source>
+        <translation>%1 (%2 neben der Messlinie)</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -2230,8 +2226,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Feste Körper</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Geschwindigkeit [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Geschwindigkeit [%1]</translation>
     </message>
     <message>
         <source>Vp/Vs</source>
@@ -2290,10 +2286,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>M</translation>
     </message>
     <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
-    </message>
-    <message>
         <source>kg/m3</source>
         <translation>kg/m³</translation>
     </message>
@@ -2310,12 +2302,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Dichte %1 kg/m³</translation>
     </message>
     <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Schicht %1, %2 m/s</translation>
+        <source>Layer %1, %2</source>
+        <translation>Schicht %1, %2</translation>
     </message>
     <message>
-        <source>Layer %1, %2 ± %3 m/s</source>
-        <translation>Schicht %1, %2 ± %3 m/s</translation>
+        <source>Layer %1, %2 ± %3</source>
+        <translation>Schicht %1, %2 ± %3</translation>
     </message>
     <message>
         <source>Dashed: not carried by picks there</source>
@@ -2326,8 +2318,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Fehler aus den Picks (68 von 100)</translation>
     </message>
     <message>
-        <source>Depth [m]</source>
-        <translation>Tiefe [m]</translation>
+        <source>Depth [%1]</source>
+        <translation>Tiefe [%1]</translation>
     </message>
     <message>
         <source>Depths are below the surface</source>
@@ -2354,12 +2346,12 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Schichten</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
-        <translation>Schicht 1, im Mittel %1 m/s, mit der Tiefe zunehmend</translation>
+        <source>Layer 1, %1 in the mean, growing with depth</source>
+        <translation>Schicht 1, im Mittel %1, mit der Tiefe zunehmend</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean</source>
-        <translation>Schicht 1, im Mittel %1 m/s</translation>
+        <source>Layer 1, %1 in the mean</source>
+        <translation>Schicht 1, im Mittel %1</translation>
     </message>
     <message>
         <source>Vertical gradient [1/s]</source>
@@ -2370,16 +2362,16 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Unsicherheit [%]</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Entfernung %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Entfernung %1</translation>
     </message>
     <message>
         <source>no section here</source>
         <translation>kein Schnitt an dieser Stelle</translation>
     </message>
     <message>
-        <source>surface at %1 m</source>
-        <translation>Oberfläche bei %1 m</translation>
+        <source>surface at %1</source>
+        <translation>Oberfläche bei %1</translation>
     </message>
     <message>
         <source>shaded: 16 to 84 %</source>
@@ -2393,10 +2385,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>annotations outside the section: %1</source>
         <translation>Anmerkungen außerhalb des Schnitts: %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>%1 (not reached)</source>
@@ -2565,8 +2553,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Kein Spektrum</translation>
     </message>
     <message>
-        <source>Wavenumber along the line (1/m)</source>
-        <translation>Wellenzahl entlang der Messlinie (1/m)</translation>
+        <source>Wavenumber along the line (1/%1)</source>
+        <translation>Wellenzahl entlang der Messlinie (1/%1)</translation>
     </message>
     <message>
         <source>Frequency (Hz)</source>
@@ -3335,8 +3323,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
 <context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
-        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
-        <translation>Schuss %1, Spur %2: %3 m, %4 ms, %5</translation>
+        <source>Shot %1, trace %2: %3, %4 ms, %5</source>
+        <translation>Schuss %1, Spur %2: %3, %4 ms, %5</translation>
     </message>
     <message>
         <source>no layer</source>
@@ -3542,8 +3530,8 @@ durch Picks belegt</translation>
         <translation>Zu prüfen</translation>
     </message>
     <message>
-        <source>x %1 m, z %2 m</source>
-        <translation>x %1 m, z %2 m</translation>
+        <source>x %1, z %2</source>
+        <translation>x %1, z %2</translation>
     </message>
     <message>
         <source>Shot %1</source>
@@ -3558,12 +3546,12 @@ durch Picks belegt</translation>
         <translation>Plan der Messlinie</translation>
     </message>
     <message>
-        <source>Distance (m)</source>
-        <translation>Entfernung (m)</translation>
+        <source>Distance (%1)</source>
+        <translation>Entfernung (%1)</translation>
     </message>
     <message>
-        <source>Elevation (m)</source>
-        <translation>Höhe (m)</translation>
+        <source>Elevation (%1)</source>
+        <translation>Höhe (%1)</translation>
     </message>
     <message>
         <source>Line</source>
@@ -3578,24 +3566,24 @@ durch Picks belegt</translation>
         <translation>Geophon %1</translation>
     </message>
     <message>
-        <source>x %1 m, %2 m across</source>
-        <translation>x %1 m, quer %2 m</translation>
+        <source>x %1, %2 across</source>
+        <translation>x %1, quer %2</translation>
     </message>
     <message>
-        <source>%1 m east, %2 m north</source>
-        <translation>%1 m Ost, %2 m Nord</translation>
+        <source>%1 east, %2 north</source>
+        <translation>%1 Ost, %2 Nord</translation>
     </message>
     <message>
-        <source>Across the line (m)</source>
-        <translation>Quer zur Messlinie (m)</translation>
+        <source>Across the line (%1)</source>
+        <translation>Quer zur Messlinie (%1)</translation>
     </message>
     <message>
-        <source>East of the first geophone (m)</source>
-        <translation>Östlich des ersten Geophons (m)</translation>
+        <source>East of the first geophone (%1)</source>
+        <translation>Östlich des ersten Geophons (%1)</translation>
     </message>
     <message>
-        <source>North of it (m)</source>
-        <translation>Nördlich davon (m)</translation>
+        <source>North of it (%1)</source>
+        <translation>Nördlich davon (%1)</translation>
     </message>
 </context>
 <context>
@@ -4515,8 +4503,8 @@ durch Picks belegt</translation>
         <translation>%1 Zeilen mit %2 Spalten passen nicht zu %3 Geschwindigkeiten und %4 Sichtbarkeitsangaben</translation>
     </message>
     <message>
-        <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation>Zellen mit %1 Knoten pro Seite und %2 m Seitenlänge sind nicht möglich</translation>
+        <source>cells with %1 nodes per side, %2 long, cannot be</source>
+        <translation>Zellen mit %1 Knoten pro Seite und %2 Seitenlänge sind nicht möglich</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
@@ -5267,8 +5255,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Eine Position der Messung liegt mehr als 100 000 km entfernt; bitte prüfen Sie die Geometrie.</translation>
     </message>
     <message>
-        <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation>Ein Gitter aus Zellen von %1 m mit %2 Knoten pro Seite und %3 m Tiefe kann nicht erstellt werden; wählen Sie eine positive Zellengröße, mindestens zwei Knoten und keine negative Tiefe.</translation>
+        <source>A grid of cells of %1 with %2 nodes per side, %3 deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
+        <translation>Ein Gitter aus Zellen von %1 mit %2 Knoten pro Seite und %3 Tiefe kann nicht erstellt werden; wählen Sie eine positive Zellengröße, mindestens zwei Knoten und keine negative Tiefe.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
@@ -5303,8 +5291,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Iterationen und Glättungsparameter müssen mindestens 1 sein.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation>Die Geschwindigkeitsgrenzen müssen positive Zahlen sein; %1 m/s ist keine.</translation>
+        <source>The velocity limits must be positive numbers; %1 is none.</source>
+        <translation>Die Geschwindigkeitsgrenzen müssen positive Zahlen sein; %1 ist keine.</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
@@ -5359,8 +5347,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Geschwindigkeit</translation>
     </message>
     <message>
-        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
-        <translation>Die Schichten ergeben in %2 m Tiefe eine Geschwindigkeit von %1 m/s, die es im Untergrund nicht gibt. Lassen Sie die Schichten die ganze Tiefe des Gitters abdecken, oder machen Sie den Übergang zwischen ihnen sanfter.</translation>
+        <source>The layers give a velocity of %1 at a depth of %2, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Die Schichten ergeben in %2 Tiefe eine Geschwindigkeit von %1, die es im Untergrund nicht gibt. Lassen Sie die Schichten die ganze Tiefe des Gitters abdecken, oder machen Sie den Übergang zwischen ihnen sanfter.</translation>
     </message>
     <message>
         <source>a number is out of range or not finite</source>
@@ -5759,8 +5747,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Kanäle vom letzten zum ersten lesen</translation>
     </message>
     <message>
-        <source>put the shot at %1 m</source>
-        <translation>den Schuss auf %1 m setzen</translation>
+        <source>put the shot at %1</source>
+        <translation>den Schuss auf %1 setzen</translation>
     </message>
     <message>
         <source>put the %1 geophones of its string at %2 to %3 m</source>
@@ -5779,56 +5767,56 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>vertauscht: über alle Schüsse gehören die Einsätze von Spur %1 an die Stelle von Spur %2 und umgekehrt</translation>
     </message>
     <message>
-        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
-        <translation>abseits: Geophon %1 soll bei %2 m stehen; von beiden Seiten sind seine Einsätze die von %3 m</translation>
+        <source>off the line: geophone %1 is said to be at %2; from both sides its arrivals are those of %3</source>
+        <translation>abseits: Geophon %1 soll bei %2 stehen; von beiden Seiten sind seine Einsätze die von %3</translation>
     </message>
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 Geophone sollen an nur %2 Stellen stehen</translation>
     </message>
     <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
-        <translation>%1; über %2 Schüsse wandern die kürzesten Zeiten um %3 Kanäle je Meter des Schusses, also steht Geophon 1 bei %4 m und das letzte bei %5 m</translation>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1; über %2 Schüsse wandern die kürzesten Zeiten um %3 Kanäle je Meter des Schusses, also steht Geophon 1 bei %4 und das letzte bei %5</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>der Schuss soll bei %1 m liegen; der Dateiname sagt %2 m, und die kürzesten Zeiten der Messung folgen den Namen</translation>
+        <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>der Schuss soll bei %1 liegen; der Dateiname sagt %2, und die kürzesten Zeiten der Messung folgen den Namen</translation>
     </message>
     <message>
-        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
-        <translation>der Schuss soll auf einer Höhe von %1 m liegen, und die Geophone haben keine Höhen, die ihre sein könnten</translation>
+        <source>the shot is said to be at an elevation of %1, and the geophones have none that could be theirs</source>
+        <translation>der Schuss soll auf einer Höhe von %1 liegen, und die Geophone haben keine Höhen, die ihre sein könnten</translation>
     </message>
     <message>
         <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
         <translation>die Kanäle laufen gegen die Geophone: die kürzesten Zeiten von %1 von %2 Schüssen liegen nur dann neben dem Schuss, wenn die Auslage vom letzten zum ersten Geophon gelesen wird</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>alle Schüsse sollen bei %1 m liegen; der Dateiname sagt %2 m, und die kürzesten Zeiten der Messung folgen den Namen</translation>
+        <source>all shots are said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>alle Schüsse sollen bei %1 liegen; der Dateiname sagt %2, und die kürzesten Zeiten der Messung folgen den Namen</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
-        <translation>alle Schüsse sollen bei %1 m liegen; die Zeiten dieses Schusses sind bei %2 m am kürzesten</translation>
+        <source>all shots are said to be at %1; the times of this one are least at %2</source>
+        <translation>alle Schüsse sollen bei %1 liegen; die Zeiten dieses Schusses sind bei %2 am kürzesten</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
-        <translation>alle Schüsse sollen bei %1 m liegen; dieser lag an einem Ende der Geophone oder außerhalb</translation>
+        <source>all shots are said to be at %1; this one was at an end of the geophones or beyond</source>
+        <translation>alle Schüsse sollen bei %1 liegen; dieser lag an einem Ende der Geophone oder außerhalb</translation>
     </message>
     <message>
-        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
-        <translation>die Kanäle dieser Aufzeichnung laufen gegen die Geophone: vom letzten zum ersten gelesen sind die Zeiten neben dem Schuss bei %1 m am kürzesten</translation>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1</source>
+        <translation>die Kanäle dieser Aufzeichnung laufen gegen die Geophone: vom letzten zum ersten gelesen sind die Zeiten neben dem Schuss bei %1 am kürzesten</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
-        <translation>der Schuss soll bei %1 m liegen, aber die Zeiten wachsen ab %2 m über alle Geophone hinweg: er lag an diesem Ende der Geophone oder außerhalb</translation>
+        <source>the shot is said to be at %1, but times grow from %2 on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>der Schuss soll bei %1 liegen, aber die Zeiten wachsen ab %2 über alle Geophone hinweg: er lag an diesem Ende der Geophone oder außerhalb</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
-        <translation>der Schuss soll bei %1 m liegen, aber die Zeiten sind bei %2 m am kürzesten, neben Geophon %3, und wachsen nach beiden Seiten</translation>
+        <source>the shot is said to be at %1, but times are least at %2, beside geophone %3, and grow on both sides of it</source>
+        <translation>der Schuss soll bei %1 liegen, aber die Zeiten sind bei %2 am kürzesten, neben Geophon %3, und wachsen nach beiden Seiten</translation>
     </message>
     <message>
-        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
-        <translation>%1; oder die Geophone stehen %2 m statt %3 m auseinander, was kein anderer Schuss entscheiden kann</translation>
+        <source>%1; or the geophones stand %2 apart and not %3, which no other shot can decide</source>
+        <translation>%1; oder die Geophone stehen %2 statt %3 auseinander, was kein anderer Schuss entscheiden kann</translation>
     </message>
     <message>
         <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
@@ -5839,12 +5827,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>umgekehrt: die ersten Ausschläge von %1 laufen denen der Nachbarn entgegen, die untereinander übereinstimmen (Korrelation mindestens -%2)</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
-        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2 m, mit dem %3-fachen Signal-Rausch-Verhältnis</translation>
+        <source>shot %1 was recorded at the same point, at %2, with %3 times the signal to noise of this one</source>
+        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2, mit dem %3-fachen Signal-Rausch-Verhältnis</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
-        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2 m; seine Einsätze kommen %3 ms später</translation>
+        <source>shot %1 was recorded at the same point, at %2; its arrivals are %3 ms later</source>
+        <translation>Schuss %1 wurde am selben Punkt aufgezeichnet, bei %2; seine Einsätze kommen %3 ms später</translation>
     </message>
     <message>
         <source>the record is that of shot %1 once more, sample for sample</source>
@@ -5867,20 +5855,20 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>zwischen %1 und %2 m steht kein Geophon: der Untergrund dort wird von keiner Seite gesehen, sofern nicht Schüsse darüber hinwegreichen</translation>
     </message>
     <message>
-        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
-        <translation>die Auslagen %1 und %2 überlappen sich und haben an %3 Stellen verschiedene Höhen, um bis zu %4 m bei %5 m</translation>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
+        <translation>die Auslagen %1 und %2 überlappen sich und haben an %3 Stellen verschiedene Höhen, um bis zu %4 bei %5</translation>
     </message>
     <message>
-        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
-        <translation>keine Höhen: alle Schüsse und Geophone liegen auf %1 m; ist das Gelände nicht eben, lesen Sie die Höhen in der Geometrie der Messung aus einer Tabelle</translation>
+        <source>no elevations: all shots and geophones are at %1; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>keine Höhen: alle Schüsse und Geophone liegen auf %1; ist das Gelände nicht eben, lesen Sie die Höhen in der Geometrie der Messung aus einer Tabelle</translation>
     </message>
     <message>
-        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
-        <translation>die Position %1 des Schusses zählt Stationen: über %2 Schüsse wandern die kürzesten Zeiten um %3 m je 1 in der Position</translation>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
+        <translation>die Position %1 des Schusses zählt Stationen: über %2 Schüsse wandern die kürzesten Zeiten um %3 je 1 in der Position</translation>
     </message>
     <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
-        <translation>die Positionen der Geophone sind keine Meter: über %1 Schüsse wandern die kürzesten Zeiten um %2 je Meter des Schusses; mit Geophonen im Abstand von %3 m ab %4 m liegen sie neben den Schüssen</translation>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>die Positionen der Geophone sind keine Meter: über %1 Schüsse wandern die kürzesten Zeiten um %2 je Meter des Schusses; mit Geophonen im Abstand von %3 ab %4 liegen sie neben den Schüssen</translation>
     </message>
     <message>
         <source>late</source>
@@ -6025,10 +6013,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>es betrifft andere Schussdateien als die des Projekts</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 to %2 m</source>
@@ -6251,12 +6235,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Geophone unterscheiden sich in y, aber nicht in x; y wurde als Position entlang der Messlinie genommen</translation>
     </message>
     <message>
-        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
-        <translation>alle Geophone stehen bei x = %1 m; geben Sie der Messung ihre Geometrie</translation>
+        <source>all its geophones are at x = %1; give the survey its geometry</source>
+        <translation>alle Geophone stehen bei x = %1; geben Sie der Messung ihre Geometrie</translation>
     </message>
     <message>
-        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
-        <translation>die Geophone unterscheiden sich um bis zu %1 m in y, das nicht verwendet wird; Positionen entlang der Messlinie sind x</translation>
+        <source>its geophones differ by up to %1 in y, which is not used; positions along the line are x</source>
+        <translation>die Geophone unterscheiden sich um bis zu %1 in y, das nicht verwendet wird; Positionen entlang der Messlinie sind x</translation>
     </message>
     <message>
         <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
@@ -6351,20 +6335,20 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Koordinaten unterscheiden die Geophone nicht; sie wurden nach ihren Entfernungen vom Schuss (Bytes 37 bis 40) gesetzt</translation>
     </message>
     <message>
-        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
-        <translation>die Header nennen keine Positionen; Schüsse und Geophone stehen alle bei %1 m, laden Sie also eine Geometriedatei</translation>
+        <source>its headers tell no positions; shots and geophones all stand at %1, so load a geometry file</source>
+        <translation>die Header nennen keine Positionen; Schüsse und Geophone stehen alle bei %1, laden Sie also eine Geometriedatei</translation>
     </message>
     <message>
-        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
-        <translation>nach den Headern stehen die Geophone aller Spuren bei %1 m; laden Sie eine Geometriedatei, wenn es mehr als eines gab</translation>
+        <source>its headers put the geophones of all traces at %1; load a geometry file if there was more than one</source>
+        <translation>nach den Headern stehen die Geophone aller Spuren bei %1; laden Sie eine Geometriedatei, wenn es mehr als eines gab</translation>
     </message>
     <message>
-        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
-        <translation>Schüsse liegen bis zu %1 m neben der Linie der Geophone; x wird unverändert genommen</translation>
+        <source>shots stand up to %1 beside the line of geophones; x is taken as it stands</source>
+        <translation>Schüsse liegen bis zu %1 neben der Linie der Geophone; x wird unverändert genommen</translation>
     </message>
     <message>
-        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
-        <translation>die Koordinaten liegen nicht entlang x; Entfernungen sind die entlang der Geraden durch die Geophone ab dem ersten Geophon dieser Datei, das bei x %1, y %2 steht; Geophone stehen bis zu %3 m daneben, Schüsse bis zu %4 m</translation>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
+        <translation>die Koordinaten liegen nicht entlang x; Entfernungen sind die entlang der Geraden durch die Geophone ab dem ersten Geophon dieser Datei, das bei x %1, y %2 steht; Geophone stehen bis zu %3 daneben, Schüsse bis zu %4</translation>
     </message>
     <message>
         <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
@@ -6375,8 +6359,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Höhen oder Schusstiefen von %1 liegen jenseits jedes Geländes; die Höhen der Datei wurden als 0 genommen</translation>
     </message>
     <message>
-        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
-        <translation>Schüsse liegen bis zu %1 m unter Gelände; ihre Höhen sind die der Schüsse, nicht die des Geländes darüber</translation>
+        <source>shots lie up to %1 below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>Schüsse liegen bis zu %1 unter Gelände; ihre Höhen sind die der Schüsse, nicht die des Geländes darüber</translation>
     </message>
     <message>
         <source>the shot depth of %1 is negative and was taken as 0</source>
@@ -6771,8 +6755,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>nur %1 Picks gehören sicher zu Wellen entlang Refraktor %2; nötig sind %3</translation>
     </message>
     <message>
-        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
-        <translation>Wellen entlang der Oberfläche sind mit %1 m/s langsamer, als die Grenzen zulassen</translation>
+        <source>waves along the surface at %1 are slower than the bounds allow</source>
+        <translation>Wellen entlang der Oberfläche sind mit %1 langsamer, als die Grenzen zulassen</translation>
     </message>
     <message>
         <source>the times of a refractor grow too little with offset for the bounds</source>
@@ -6963,12 +6947,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Der Auflösungstest ist fehlgeschlagen: %1</translation>
     </message>
     <message>
-        <source>The size of the pattern must be positive; %1 m is not.</source>
-        <translation>Die Größe des Musters muss positiv sein; %1 m ist es nicht.</translation>
+        <source>The size of the pattern must be positive; %1 is not.</source>
+        <translation>Die Größe des Musters muss positiv sein; %1 ist es nicht.</translation>
     </message>
     <message>
-        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
-        <translation>Das Muster hat %1 m, weniger als eine Zelle des Gitters mit %2 m; wählen Sie ein größeres.</translation>
+        <source>The pattern has %1, less than a cell of the grid, which has %2; choose a larger one.</source>
+        <translation>Das Muster hat %1, weniger als eine Zelle des Gitters mit %2; wählen Sie ein größeres.</translation>
     </message>
     <message>
         <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
@@ -7079,8 +7063,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>%1 m ist keine Tiefe unter der Oberfläche (0 bis %2)</translation>
     </message>
     <message>
-        <source>%1 m is no position along the line</source>
-        <translation>%1 m ist keine Position entlang der Messlinie</translation>
+        <source>%1 is no position along the line</source>
+        <translation>%1 ist keine Position entlang der Messlinie</translation>
     </message>
     <message>
         <source>it has no name</source>
@@ -7099,12 +7083,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Schichten fehlen</translation>
     </message>
     <message>
-        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
-        <translation>die Schicht ab %1 m beginnt über der Unterkante der vorigen, %2 m</translation>
+        <source>the layer from %1 begins above the bottom of the one before, %2</source>
+        <translation>die Schicht ab %1 beginnt über der Unterkante der vorigen, %2</translation>
     </message>
     <message>
-        <source>%1 m is no error of a depth</source>
-        <translation>%1 m ist kein Fehler einer Tiefe</translation>
+        <source>%1 is no error of a depth</source>
+        <translation>%1 ist kein Fehler einer Tiefe</translation>
     </message>
     <message>
         <source>refractors have the numbers 1 to %1</source>
@@ -7271,12 +7255,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>%1 enthält keine Zelle des Gitters: zu klein oder außerhalb davon.</translation>
     </message>
     <message>
-        <source>%1 at %2 m stands beyond the grid.</source>
-        <translation>%1 bei %2 m steht außerhalb des Gitters.</translation>
+        <source>%1 at %2 stands beyond the grid.</source>
+        <translation>%1 bei %2 steht außerhalb des Gitters.</translation>
     </message>
     <message>
-        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
-        <translation>%1 reicht %2 m hinab, bis unter das Gitter; was unter %3 m liegt, zählt nicht.</translation>
+        <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
+        <translation>%1 reicht %2 hinab, bis unter das Gitter; was unter %3 liegt, zählt nicht.</translation>
     </message>
     <message>
         <source>%1, %2 to %3 m</source>
@@ -7287,20 +7271,20 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>%1: Keine Zelle liegt überwiegend in dieser Schicht; sie zählt mit ihrem Anteil an Zellen oder liegt in einem festen Körper.</translation>
     </message>
     <message>
-        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
-        <translation>%1 (%2 m entlang der Messlinie, %3 m tief) liegt außerhalb des Gitters oder näher an dessen Rand als der eigene Fehler oder eine Zelle.</translation>
+        <source>%1 (%2 along the line, %3 deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (%2 entlang der Messlinie, %3 tief) liegt außerhalb des Gitters oder näher an dessen Rand als der eigene Fehler oder eine Zelle.</translation>
     </message>
     <message>
-        <source>%1, %2 m/s at %3 m</source>
-        <translation>%1, %2 m/s bei %3 m</translation>
+        <source>%1, %2 at %3</source>
+        <translation>%1, %2 bei %3</translation>
     </message>
     <message>
-        <source>%1, %2 m/s above</source>
-        <translation>%1, %2 m/s darüber</translation>
+        <source>%1, %2 above</source>
+        <translation>%1, %2 darüber</translation>
     </message>
     <message>
-        <source>%1, %2 m/s below</source>
-        <translation>%1, %2 m/s darunter</translation>
+        <source>%1, %2 below</source>
+        <translation>%1, %2 darunter</translation>
     </message>
     <message>
         <source>Layered interpretation</source>
@@ -7327,12 +7311,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Mit Schichten beginnen</translation>
     </message>
     <message>
-        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
-        <translation>Eine Schicht hat eine Geschwindigkeit von %1 m/s; das ist keine Geschwindigkeit des Untergrunds.</translation>
+        <source>A layer has a velocity of %1, which is no velocity of the ground.</source>
+        <translation>Eine Schicht hat eine Geschwindigkeit von %1; das ist keine Geschwindigkeit des Untergrunds.</translation>
     </message>
     <message>
-        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
-        <translation>Die Schicht, die bei %1 m beginnt, überlappt eine andere; ordnen Sie die Schichten nach der Tiefe, ohne Überlappung.</translation>
+        <source>The layer that begins at %1 lies over another; order the layers by depth, without overlap.</source>
+        <translation>Die Schicht, die bei %1 beginnt, überlappt eine andere; ordnen Sie die Schichten nach der Tiefe, ohne Überlappung.</translation>
     </message>
     <message>
         <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
@@ -7419,8 +7403,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Schnitt, steilster Gradient</translation>
     </message>
     <message>
-        <source>Section, %1 m/s</source>
-        <translation>Schnitt, %1 m/s</translation>
+        <source>Section, %1</source>
+        <translation>Schnitt, %1</translation>
     </message>
     <message>
         <source>The methods could not be compared: %1</source>
@@ -7483,8 +7467,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Dichte %1 kg/m³, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
     <message>
-        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
-        <translation>Schicht %1: an %2 von %3 Stellen unterscheiden sich die Tiefen ihrer Oberkante aus P und aus S um mehr als %4 % (Median dort %5 m aus P, %6 m aus S). P-Wellen sehen oft den Grundwasserspiegel, S-Wellen nicht: Dieselbe Nummer kann verschiedener Untergrund sein.</translation>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 by P, %6 by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Schicht %1: an %2 von %3 Stellen unterscheiden sich die Tiefen ihrer Oberkante aus P und aus S um mehr als %4 % (Median dort %5 aus P, %6 aus S). P-Wellen sehen oft den Grundwasserspiegel, S-Wellen nicht: Dieselbe Nummer kann verschiedener Untergrund sein.</translation>
     </message>
     <message>
         <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
@@ -7503,8 +7487,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Die Gardner-Beziehung wurde für Gesteine gefunden, die schneller als 1500 m/s sind; an %1 von %2 Stellen ist Vp kleiner und die Dichte eine Vermutung.</translation>
     </message>
     <message>
-        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
-        <translation>Die Geländeoberflächen von P und S liegen bis zu %1 m auseinander, bei %2 m: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
+        <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
+        <translation>Die Geländeoberflächen von P und S liegen bis zu %1 auseinander, bei %2: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
     </message>
     <message>
         <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
@@ -7519,8 +7503,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Die Lage von P und S auf der Karte ist in verschiedenen Systemen angegeben (EPSG:%1 und EPSG:%2) und wurde nicht verglichen.</translation>
     </message>
     <message>
-        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
-        <translation>Dieselben Entfernungen von P und S liegen auf der Karte bis zu %1 m auseinander: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
+        <source>The same distances of P and S lie up to %1 apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Dieselben Entfernungen von P und S liegen auf der Karte bis zu %1 auseinander: Es ist vielleicht nicht dieselbe Messlinie, oder sie beginnen nicht an derselben Stelle.</translation>
     </message>
     <message>
         <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
@@ -7647,8 +7631,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>In %1 von %2 Zellen liegt Vp/Vs unter 1,41 und ist die Poissonzahl negativ, was es bei Boden und Fels nicht gibt.</translation>
     </message>
     <message>
-        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
-        <translation>Die Geländeoberflächen der Schnitte von P und S liegen bis zu %1 m auseinander, bei %2 m; Zellen werden nach ihrer Tiefe darunter einander zugeordnet.</translation>
+        <source>The surfaces of the sections of P and S lie up to %1 apart, at %2; cells are matched by their depths below them.</source>
+        <translation>Die Geländeoberflächen der Schnitte von P und S liegen bis zu %1 auseinander, bei %2; Zellen werden nach ihrer Tiefe darunter einander zugeordnet.</translation>
     </message>
     <message>
         <source>A section has no layers: all of it has the first density.</source>
@@ -7699,8 +7683,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>S: Das Profil wurde an alle Picks angepasst und erhält keine Fehler. Eines nach der Reziprokmethode erhält sie.</translation>
     </message>
     <message>
-        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
-        <translation>Die Geschwindigkeit von Schicht 1 ändert sich in diesem Profil entlang der Messlinie und mit der Tiefe; hier gilt überall ihr Mittel, %1 m/s.</translation>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1, everywhere.</source>
+        <translation>Die Geschwindigkeit von Schicht 1 ändert sich in diesem Profil entlang der Messlinie und mit der Tiefe; hier gilt überall ihr Mittel, %1.</translation>
     </message>
     <message>
         <source>the first distance must be a number, and the EPSG code a whole number</source>
@@ -7903,8 +7887,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>sie hat %1 Punkte und braucht mindestens %2</translation>
     </message>
     <message>
-        <source>%1 m, %2 m is no place of a section</source>
-        <translation>%1 m, %2 m ist keine Stelle eines Schnitts</translation>
+        <source>%1, %2 is no place of a section</source>
+        <translation>%1, %2 ist keine Stelle eines Schnitts</translation>
     </message>
     <message>
         <source>a text is %1 to %2 points high</source>
@@ -7935,8 +7919,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Hochpass %1 Hz, Ordnung %2</translation>
     </message>
     <message>
-        <source>%1 m/s and more</source>
-        <translation>%1 m/s und mehr</translation>
+        <source>%1 and more</source>
+        <translation>%1 und mehr</translation>
     </message>
     <message>
         <source>forth along the line</source>
@@ -8075,8 +8059,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>es gibt keine Abtastwerte oder kein bekanntes Abtastintervall</translation>
     </message>
     <message>
-        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
-        <translation>die Geophone stehen nicht in gleichen Abständen: Spur %1 bei %2 m ist %3 m von der vorigen entfernt, üblich sind %4 m</translation>
+        <source>its geophones are not evenly spaced: trace %1 at %2 is %3 from the one before, the usual distance is %4</source>
+        <translation>die Geophone stehen nicht in gleichen Abständen: Spur %1 bei %2 ist %3 von der vorigen entfernt, üblich sind %4</translation>
     </message>
     <message>
         <source>it has fewer than %1 traces</source>
@@ -8095,8 +8079,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Schuss %1: Von %2 Stellen entlang der Messlinie haben %3 keine Spur oder eine ausgeschaltete; sie zählen als null, neben ihnen ist der Filter weniger scharf</translation>
     </message>
     <message>
-        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
-        <translation>die kleinste Geschwindigkeit, %1 m/s, muss über 0 und unter der größten, %2 m/s, liegen</translation>
+        <source>the slowest velocity, %1, must be above 0 and below the fastest, %2</source>
+        <translation>die kleinste Geschwindigkeit, %1, muss über 0 und unter der größten, %2, liegen</translation>
     </message>
     <message>
         <source>the taper must be 0 or more and less than 100 percent of a limit</source>
@@ -9697,8 +9681,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Schuss</translation>
     </message>
     <message>
-        <source>Position [m]</source>
-        <translation>Position [m]</translation>
+        <source>Position [%1]</source>
+        <translation>Position [%1]</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -9757,10 +9741,6 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Seitenlänge einer Zelle</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>Depth below the surface</source>
         <translation>Tiefe unter der Oberfläche</translation>
     </message>
@@ -9781,20 +9761,20 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Schicht</translation>
     </message>
     <message>
-        <source>Top [m]</source>
-        <translation>Oberkante [m]</translation>
+        <source>Top [%1]</source>
+        <translation>Oberkante [%1]</translation>
     </message>
     <message>
-        <source>Bottom [m]</source>
-        <translation>Unterkante [m]</translation>
+        <source>Bottom [%1]</source>
+        <translation>Unterkante [%1]</translation>
     </message>
     <message>
-        <source>Velocity at top [m/s]</source>
-        <translation>Geschwindigkeit oben [m/s]</translation>
+        <source>Velocity at top [%1]</source>
+        <translation>Geschwindigkeit oben [%1]</translation>
     </message>
     <message>
-        <source>Velocity at bottom [m/s]</source>
-        <translation>Geschwindigkeit unten [m/s]</translation>
+        <source>Velocity at bottom [%1]</source>
+        <translation>Geschwindigkeit unten [%1]</translation>
     </message>
     <message>
         <source>The layers of the starting model, depths below the surface</source>
@@ -9819,10 +9799,6 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>Velocity limits</source>
         <translation>Geschwindigkeitsgrenzen</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>Smoothing</source>
@@ -9925,16 +9901,16 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Residuen der Picks über der Entfernung von ihrem Schuss</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Höhe [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Höhe [%1]</translation>
     </message>
     <message>
-        <source>Depth %1 [m]</source>
-        <translation>Tiefe %1 [m]</translation>
+        <source>Depth %1 [%2]</source>
+        <translation>Tiefe %1 [%2]</translation>
     </message>
     <message>
-        <source>Velocity %1 [m/s]</source>
-        <translation>Geschwindigkeit %1 [m/s]</translation>
+        <source>Velocity %1 [%2]</source>
+        <translation>Geschwindigkeit %1 [%2]</translation>
     </message>
     <message>
         <source>Refraction interpretation</source>
@@ -10025,16 +10001,16 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Geophone</translation>
     </message>
     <message>
-        <source>From [m]</source>
-        <translation>Von [m]</translation>
+        <source>From [%1]</source>
+        <translation>Von [%1]</translation>
     </message>
     <message>
-        <source>To [m]</source>
-        <translation>Bis [m]</translation>
+        <source>To [%1]</source>
+        <translation>Bis [%1]</translation>
     </message>
     <message>
-        <source>Spacing [m]</source>
-        <translation>Abstand [m]</translation>
+        <source>Spacing [%1]</source>
+        <translation>Abstand [%1]</translation>
     </message>
     <message>
         <source>Strings of geophones</source>
@@ -10217,8 +10193,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Die Picks haben sich geändert, seit dieses Profil erstellt wurde: Es ist das der früheren Picks.</translation>
     </message>
     <message>
-        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation>Wo die Zeiten zu einer Geschwindigkeit außerhalb von 50 bis 12 000 m/s führen, ist keine angegeben. Keine Tiefe ist dort angegeben, ferner unter einer Schicht, die schneller ist oder deren Geschwindigkeit oder Tiefe nicht bekannt ist, und wo sich eine Tiefe ergab, die größer ist als die Länge der Messlinie.</translation>
+        <source>No velocity is given where the times lead to one outside %1 to %2. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation>Wo die Zeiten zu einer Geschwindigkeit außerhalb von %1 bis %2 führen, ist keine angegeben. Keine Tiefe ist dort angegeben, ferner unter einer Schicht, die schneller ist oder deren Geschwindigkeit oder Tiefe nicht bekannt ist, und wo sich eine Tiefe ergab, die größer ist als die Länge der Messlinie.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
@@ -10477,12 +10453,12 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Geschwindigkeit</translation>
     </message>
     <message>
-        <source>%1: depth [m]</source>
-        <translation>%1: Tiefe [m]</translation>
+        <source>%1: depth [%2]</source>
+        <translation>%1: Tiefe [%2]</translation>
     </message>
     <message>
-        <source>%1: velocity [m/s]</source>
-        <translation>%1: Geschwindigkeit [m/s]</translation>
+        <source>%1: velocity [%2]</source>
+        <translation>%1: Geschwindigkeit [%2]</translation>
     </message>
     <message>
         <source>Disagree in</source>
@@ -10573,8 +10549,12 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Zunahme ihrer Geschwindigkeit mit der Tiefe</translation>
     </message>
     <message>
-        <source>%1 % of that at the surface per metre, down to %2 m</source>
-        <translation>%1 % des Werts an der Oberfläche je Meter, bis %2 m Tiefe</translation>
+        <source>%1 % of that at the surface per metre, down to %2</source>
+        <translation>%1 % des Werts an der Oberfläche je Meter, bis %2 Tiefe</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per foot, down to %2</source>
+        <translation>%1 % des Werts an der Oberfläche je Fuß, bis %2 Tiefe</translation>
     </message>
     <message>
         <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
@@ -11411,16 +11391,16 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Geschwindigkeitsschnitt</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Entfernung %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Entfernung %1</translation>
     </message>
     <message>
-        <source>Horizontal %1 m</source>
-        <translation>Horizontal %1 m</translation>
+        <source>Horizontal %1</source>
+        <translation>Horizontal %1</translation>
     </message>
     <message>
-        <source>Vertical %1 m</source>
-        <translation>Vertikal %1 m</translation>
+        <source>Vertical %1</source>
+        <translation>Vertikal %1</translation>
     </message>
     <message>
         <source>Slope %1°</source>
@@ -11503,6 +11483,22 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth unit:</source>
+        <translation>Län&amp;geneinheit:</translation>
+    </message>
+    <message>
+        <source>What lengths and velocities are shown and asked for in. Files stay in metres.</source>
+        <translation>Worin Längen und Geschwindigkeiten gezeigt und erfragt werden. Dateien bleiben in Metern.</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>feet (0.3048 m)</source>
+        <translation>Fuß (0,3048 m)</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -14622,8 +14618,8 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
 <context>
     <name>talvesk::TraceAxes</name>
     <message>
-        <source>x (m)</source>
-        <translation>x (m)</translation>
+        <source>x (%1)</source>
+        <translation>x (%1)</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -14641,12 +14637,12 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>%1 m, %2 ms</source>
-        <translation>%1 m, %2 ms</translation>
+        <source>%1, %2 ms</source>
+        <translation>%1, %2 ms</translation>
     </message>
     <message>
-        <source>%1 m/s (%2 m, %3 ms)</source>
-        <translation>%1 m/s (%2 m, %3 ms)</translation>
+        <source>%1 (%2, %3 ms)</source>
+        <translation>%1 (%2, %3 ms)</translation>
     </message>
     <message>
         <source>Other shots</source>
@@ -14657,17 +14653,17 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>Berechnet</translation>
     </message>
     <message>
-        <source>Air %1 m/s</source>
-        <translation>Luft %1 m/s</translation>
+        <source>Air %1</source>
+        <translation>Luft %1</translation>
     </message>
     <message>
         <source>No other shot of the string is picked</source>
         <translation>Kein anderer Schuss der Auslage ist gepickt</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
+        <source>Shot %1 at %2</source>
         <comment>number, place</comment>
-        <translation>Schuss %1 bei %2 m</translation>
+        <translation>Schuss %1 bei %2</translation>
     </message>
     <message>
         <source>No computed times</source>
@@ -14697,8 +14693,8 @@ Pick first breaks in the traces, by hand or with AutoPick, or import travel time
 Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importieren Sie Laufzeiten.</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Entfernung [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Entfernung [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -14733,8 +14729,8 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Speichert die Kurven als PNG, SVG oder PDF</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
-        <translation>Schuss %1 bei %2 m</translation>
+        <source>Shot %1 at %2</source>
+        <translation>Schuss %1 bei %2</translation>
     </message>
     <message>
         <source>Shot %1 has no travel times yet</source>
@@ -14999,40 +14995,40 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Alles zeigen</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Entfernung %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Entfernung %1</translation>
     </message>
     <message>
-        <source>elevation %1 m</source>
-        <translation>Höhe %1 m</translation>
+        <source>elevation %1</source>
+        <translation>Höhe %1</translation>
     </message>
     <message>
-        <source>depth %1 m</source>
-        <translation>Tiefe %1 m</translation>
+        <source>depth %1</source>
+        <translation>Tiefe %1</translation>
     </message>
     <message>
         <source>Vertical profile</source>
         <translation>Vertikalprofil</translation>
     </message>
     <message>
-        <source>Vertical profile at %1 m</source>
-        <translation>Vertikalprofil bei %1 m</translation>
+        <source>Vertical profile at %1</source>
+        <translation>Vertikalprofil bei %1</translation>
     </message>
     <message>
-        <source>Depth from [m]</source>
-        <translation>Tiefe von [m]</translation>
+        <source>Depth from [%1]</source>
+        <translation>Tiefe von [%1]</translation>
     </message>
     <message>
-        <source>Depth to [m]</source>
-        <translation>Tiefe bis [m]</translation>
+        <source>Depth to [%1]</source>
+        <translation>Tiefe bis [%1]</translation>
     </message>
     <message>
-        <source>Depth below ground [m]</source>
-        <translation>Tiefe unter Gelände [m]</translation>
+        <source>Depth below ground [%1]</source>
+        <translation>Tiefe unter Gelände [%1]</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Geschwindigkeit [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Geschwindigkeit [%1]</translation>
     </message>
     <message>
         <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
@@ -15067,8 +15063,8 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Schuss %1</translation>
     </message>
     <message>
-        <source>geophone %1 at %2 m</source>
-        <translation>Geophon %1 bei %2 m</translation>
+        <source>geophone %1 at %2</source>
+        <translation>Geophon %1 bei %2</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -15275,8 +15271,8 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
 <context>
     <name>talvesk::XYCriteria</name>
     <message>
-        <source>XY (m)</source>
-        <translation>XY (m)</translation>
+        <source>XY (%1)</source>
+        <translation>XY (%1)</translation>
     </message>
     <message>
         <source>Roughness of tV</source>
@@ -15670,12 +15666,12 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Geschwindigkeit über der Tiefe</translation>
     </message>
     <message>
-        <source>Velocity (m/s)</source>
-        <translation>Geschwindigkeit (m/s)</translation>
+        <source>Velocity (%1)</source>
+        <translation>Geschwindigkeit (%1)</translation>
     </message>
     <message>
-        <source>Depth below the ground (m)</source>
-        <translation>Tiefe unter Gelände (m)</translation>
+        <source>Depth below the ground (%1)</source>
+        <translation>Tiefe unter Gelände (%1)</translation>
     </message>
     <message>
         <source>Layers</source>

@@ -174,12 +174,12 @@
         <translation>Chi cuadrado</translation>
     </message>
     <message>
-        <source>Length covered [m]</source>
-        <translation>Longitud cubierta [m]</translation>
+        <source>Length covered [%1]</source>
+        <translation>Longitud cubierta [%1]</translation>
     </message>
     <message>
-        <source>Depth reached [m]</source>
-        <translation>Profundidad alcanzada [m]</translation>
+        <source>Depth reached [%1]</source>
+        <translation>Profundidad alcanzada [%1]</translation>
     </message>
     <message>
         <source>Cells with rays [%]</source>
@@ -242,8 +242,8 @@
         <translation>Líneas</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocidad [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocidad [%1]</translation>
     </message>
     <message>
         <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
@@ -304,10 +304,6 @@
     <message>
         <source>Skip to the content</source>
         <translation>Saltar al contenido</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 km</source>
@@ -1792,8 +1788,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>N</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocidad [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocidad [%1]</translation>
     </message>
     <message>
         <source>Sections at their places on the map</source>
@@ -1883,12 +1879,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Exageración vertical %1</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distancia [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distancia [%1]</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Cota [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Cota [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -1923,9 +1919,9 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Disparo %1</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
+        <source>%1 at %2</source>
         <comment>shot, place</comment>
-        <translation>%1 en %2 m</translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>%1, filtered</source>
@@ -1987,12 +1983,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Perfil de refracción</translation>
     </message>
     <message>
-        <source>X (m)</source>
-        <translation>X (m)</translation>
+        <source>X (%1)</source>
+        <translation>X (%1)</translation>
     </message>
     <message>
-        <source>Z (m)</source>
-        <translation>Z (m)</translation>
+        <source>Z (%1)</source>
+        <translation>Z (%1)</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -2011,8 +2007,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Desajuste RMS [ms]</translation>
     </message>
     <message>
-        <source>Offset [m]</source>
-        <translation>Distancia al disparo [m]</translation>
+        <source>Offset [%1]</source>
+        <translation>Distancia al disparo [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [ms]</source>
@@ -2130,8 +2126,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Recuperado</translation>
     </message>
     <message>
-        <source>[m]</source>
-        <translation>[m]</translation>
+        <source>[%1]</source>
+        <translation>[%1]</translation>
     </message>
     <message>
         <source>Depth of %1, 16 to 84 %</source>
@@ -2162,24 +2158,24 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>%1 excluidos</translation>
     </message>
     <message>
-        <source>Geophone at [m]</source>
-        <translation>Geófono en [m]</translation>
+        <source>Geophone at [%1]</source>
+        <translation>Geófono en [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [pick errors]</source>
         <translation>Calculado menos medido [errores de los picados]</translation>
     </message>
     <message>
-        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
-        <translation>Disparo %1, geófono %2 en %3 m, distancia al disparo %4 m: medido %5 ms, calculado %6 ms, residuo %7 ms, error %8 ms (%9 errores)</translation>
+        <source>Shot %1, geophone %2 at %3, offset %4: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Disparo %1, geófono %2 en %3, distancia al disparo %4: medido %5 ms, calculado %6 ms, residuo %7 ms, error %8 ms (%9 errores)</translation>
     </message>
     <message>
         <source>; suspect</source>
         <translation>; sospechoso</translation>
     </message>
     <message>
-        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
-        <translation>Geófono en [m]; rayado: sin picado; con punto: sospechoso</translation>
+        <source>Geophone at [%1]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geófono en [%1]; rayado: sin picado; con punto: sospechoso</translation>
     </message>
     <message>
         <source>Shot, along the line</source>
@@ -2210,12 +2206,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Mediana y una desviación estándar</translation>
     </message>
     <message>
-        <source>%1: %2 m/s</source>
-        <translation>%1: %2 m/s</translation>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
     <message>
-        <source>%1 (%2 m beside the line)</source>
-        <translation>%1 (a %2 m de la línea)</translation>
+        <source>%1 (%2 beside the line)</source>
+        <translation>%1 (a %2 de la línea)</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -2230,8 +2226,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Cuerpos fijos</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocidad [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocidad [%1]</translation>
     </message>
     <message>
         <source>Vp/Vs</source>
@@ -2290,10 +2286,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>M</translation>
     </message>
     <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
-    </message>
-    <message>
         <source>kg/m3</source>
         <translation>kg/m3</translation>
     </message>
@@ -2310,12 +2302,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Densidad %1 kg/m3</translation>
     </message>
     <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Capa %1, %2 m/s</translation>
+        <source>Layer %1, %2</source>
+        <translation>Capa %1, %2</translation>
     </message>
     <message>
-        <source>Layer %1, %2 ± %3 m/s</source>
-        <translation>Capa %1, %2 ± %3 m/s</translation>
+        <source>Layer %1, %2 ± %3</source>
+        <translation>Capa %1, %2 ± %3</translation>
     </message>
     <message>
         <source>Dashed: not carried by picks there</source>
@@ -2326,8 +2318,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Error por los picados (68 de 100)</translation>
     </message>
     <message>
-        <source>Depth [m]</source>
-        <translation>Profundidad [m]</translation>
+        <source>Depth [%1]</source>
+        <translation>Profundidad [%1]</translation>
     </message>
     <message>
         <source>Depths are below the surface</source>
@@ -2354,12 +2346,12 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Capas</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
-        <translation>Capa 1, %1 m/s de media, creciente con la profundidad</translation>
+        <source>Layer 1, %1 in the mean, growing with depth</source>
+        <translation>Capa 1, %1 de media, creciente con la profundidad</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean</source>
-        <translation>Capa 1, %1 m/s de media</translation>
+        <source>Layer 1, %1 in the mean</source>
+        <translation>Capa 1, %1 de media</translation>
     </message>
     <message>
         <source>Vertical gradient [1/s]</source>
@@ -2370,16 +2362,16 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Incertidumbre [%]</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distancia %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distancia %1</translation>
     </message>
     <message>
         <source>no section here</source>
         <translation>aquí no hay sección</translation>
     </message>
     <message>
-        <source>surface at %1 m</source>
-        <translation>superficie a %1 m</translation>
+        <source>surface at %1</source>
+        <translation>superficie a %1</translation>
     </message>
     <message>
         <source>shaded: 16 to 84 %</source>
@@ -2393,10 +2385,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>annotations outside the section: %1</source>
         <translation>anotaciones fuera de la sección: %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>%1 (not reached)</source>
@@ -2565,8 +2553,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Sin espectro</translation>
     </message>
     <message>
-        <source>Wavenumber along the line (1/m)</source>
-        <translation>Número de onda a lo largo de la línea (1/m)</translation>
+        <source>Wavenumber along the line (1/%1)</source>
+        <translation>Número de onda a lo largo de la línea (1/%1)</translation>
     </message>
     <message>
         <source>Frequency (Hz)</source>
@@ -3335,8 +3323,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
 <context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
-        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
-        <translation>Disparo %1, traza %2: %3 m, %4 ms, %5</translation>
+        <source>Shot %1, trace %2: %3, %4 ms, %5</source>
+        <translation>Disparo %1, traza %2: %3, %4 ms, %5</translation>
     </message>
     <message>
         <source>no layer</source>
@@ -3542,8 +3530,8 @@ respaldo de picados</translation>
         <translation>Por revisar</translation>
     </message>
     <message>
-        <source>x %1 m, z %2 m</source>
-        <translation>x %1 m, z %2 m</translation>
+        <source>x %1, z %2</source>
+        <translation>x %1, z %2</translation>
     </message>
     <message>
         <source>Shot %1</source>
@@ -3558,12 +3546,12 @@ respaldo de picados</translation>
         <translation>Plano de la línea</translation>
     </message>
     <message>
-        <source>Distance (m)</source>
-        <translation>Distancia (m)</translation>
+        <source>Distance (%1)</source>
+        <translation>Distancia (%1)</translation>
     </message>
     <message>
-        <source>Elevation (m)</source>
-        <translation>Cota (m)</translation>
+        <source>Elevation (%1)</source>
+        <translation>Cota (%1)</translation>
     </message>
     <message>
         <source>Line</source>
@@ -3578,24 +3566,24 @@ respaldo de picados</translation>
         <translation>Geófono %1</translation>
     </message>
     <message>
-        <source>x %1 m, %2 m across</source>
-        <translation>x %1 m, %2 m en transversal</translation>
+        <source>x %1, %2 across</source>
+        <translation>x %1, %2 en transversal</translation>
     </message>
     <message>
-        <source>%1 m east, %2 m north</source>
-        <translation>%1 m al este, %2 m al norte</translation>
+        <source>%1 east, %2 north</source>
+        <translation>%1 al este, %2 al norte</translation>
     </message>
     <message>
-        <source>Across the line (m)</source>
-        <translation>Transversal a la línea (m)</translation>
+        <source>Across the line (%1)</source>
+        <translation>Transversal a la línea (%1)</translation>
     </message>
     <message>
-        <source>East of the first geophone (m)</source>
-        <translation>Al este del primer geófono (m)</translation>
+        <source>East of the first geophone (%1)</source>
+        <translation>Al este del primer geófono (%1)</translation>
     </message>
     <message>
-        <source>North of it (m)</source>
-        <translation>Al norte de él (m)</translation>
+        <source>North of it (%1)</source>
+        <translation>Al norte de él (%1)</translation>
     </message>
 </context>
 <context>
@@ -4515,8 +4503,8 @@ respaldo de picados</translation>
         <translation>%1 filas de %2 columnas no concuerdan con %3 velocidades y %4 marcas de dibujo</translation>
     </message>
     <message>
-        <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation>son imposibles celdas con %1 nodos por lado y %2 m de longitud</translation>
+        <source>cells with %1 nodes per side, %2 long, cannot be</source>
+        <translation>son imposibles celdas con %1 nodos por lado y %2 de longitud</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
@@ -5267,8 +5255,8 @@ Defina la posición de los geófonos
         <translation>Una posición del levantamiento está a más de 100&#xa0;000 km; compruebe la geometría.</translation>
     </message>
     <message>
-        <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation>No se puede construir una malla de celdas de %1 m con %2 nodos por lado y %3 m de profundidad; elija un tamaño de celda positivo, al menos dos nodos y una profundidad no negativa.</translation>
+        <source>A grid of cells of %1 with %2 nodes per side, %3 deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
+        <translation>No se puede construir una malla de celdas de %1 con %2 nodos por lado y %3 de profundidad; elija un tamaño de celda positivo, al menos dos nodos y una profundidad no negativa.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
@@ -5303,8 +5291,8 @@ Defina la posición de los geófonos
         <translation>Las iteraciones y el parámetro de suavizado deben ser 1 como mínimo.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation>Los límites de velocidad deben ser números positivos; %1 m/s no lo es.</translation>
+        <source>The velocity limits must be positive numbers; %1 is none.</source>
+        <translation>Los límites de velocidad deben ser números positivos; %1 no lo es.</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
@@ -5359,8 +5347,8 @@ Defina la posición de los geófonos
         <translation>Velocidad</translation>
     </message>
     <message>
-        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
-        <translation>Las capas dan una velocidad de %1 m/s a %2 m de profundidad, que no es una velocidad del terreno. Haga que las capas cubran toda la profundidad de la malla, o suavice el paso de una a otra.</translation>
+        <source>The layers give a velocity of %1 at a depth of %2, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Las capas dan una velocidad de %1 a %2 de profundidad, que no es una velocidad del terreno. Haga que las capas cubran toda la profundidad de la malla, o suavice el paso de una a otra.</translation>
     </message>
     <message>
         <source>a number is out of range or not finite</source>
@@ -5759,8 +5747,8 @@ Defina la posición de los geófonos
         <translation>leer los canales del último al primero</translation>
     </message>
     <message>
-        <source>put the shot at %1 m</source>
-        <translation>situar el disparo en %1 m</translation>
+        <source>put the shot at %1</source>
+        <translation>situar el disparo en %1</translation>
     </message>
     <message>
         <source>put the %1 geophones of its string at %2 to %3 m</source>
@@ -5779,56 +5767,56 @@ Defina la posición de los geófonos
         <translation>intercambiadas: en todos los disparos las llegadas de la traza %1 corresponden al lugar de la traza %2, y viceversa</translation>
     </message>
     <message>
-        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
-        <translation>fuera de la línea: el geófono %1 figura en %2 m; desde ambos lados sus llegadas son las de %3 m</translation>
+        <source>off the line: geophone %1 is said to be at %2; from both sides its arrivals are those of %3</source>
+        <translation>fuera de la línea: el geófono %1 figura en %2; desde ambos lados sus llegadas son las de %3</translation>
     </message>
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 geófonos figuran en solo %2 lugares</translation>
     </message>
     <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
-        <translation>%1; en %2 disparos los tiempos mínimos se desplazan %3 canales por cada metro del disparo, así que el geófono 1 está en %4 m y el último en %5 m</translation>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1; en %2 disparos los tiempos mínimos se desplazan %3 canales por cada metro del disparo, así que el geófono 1 está en %4 y el último en %5</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>el disparo figura en %1 m; el nombre del archivo dice %2 m, y los tiempos mínimos del levantamiento siguen los nombres</translation>
+        <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>el disparo figura en %1; el nombre del archivo dice %2, y los tiempos mínimos del levantamiento siguen los nombres</translation>
     </message>
     <message>
-        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
-        <translation>el disparo figura a una cota de %1 m, y los geófonos no tienen ninguna que pueda ser la suya</translation>
+        <source>the shot is said to be at an elevation of %1, and the geophones have none that could be theirs</source>
+        <translation>el disparo figura a una cota de %1, y los geófonos no tienen ninguna que pueda ser la suya</translation>
     </message>
     <message>
         <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
         <translation>los canales van contra los geófonos: los tiempos mínimos de %1 de %2 disparos quedan junto al disparo solo si el tendido se lee del último geófono al primero</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>todos los disparos figuran en %1 m; el nombre del archivo dice %2 m, y los tiempos mínimos del levantamiento siguen los nombres</translation>
+        <source>all shots are said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>todos los disparos figuran en %1; el nombre del archivo dice %2, y los tiempos mínimos del levantamiento siguen los nombres</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
-        <translation>todos los disparos figuran en %1 m; los tiempos de este son mínimos en %2 m</translation>
+        <source>all shots are said to be at %1; the times of this one are least at %2</source>
+        <translation>todos los disparos figuran en %1; los tiempos de este son mínimos en %2</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
-        <translation>todos los disparos figuran en %1 m; este estaba en un extremo de los geófonos o más allá</translation>
+        <source>all shots are said to be at %1; this one was at an end of the geophones or beyond</source>
+        <translation>todos los disparos figuran en %1; este estaba en un extremo de los geófonos o más allá</translation>
     </message>
     <message>
-        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
-        <translation>los canales de este registro van contra los geófonos: leídos del último al primero, los tiempos son mínimos junto al disparo, en %1 m</translation>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1</source>
+        <translation>los canales de este registro van contra los geófonos: leídos del último al primero, los tiempos son mínimos junto al disparo, en %1</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
-        <translation>el disparo figura en %1 m, pero los tiempos crecen desde %2 m a lo largo de todos los geófonos: estaba en ese extremo o más allá</translation>
+        <source>the shot is said to be at %1, but times grow from %2 on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>el disparo figura en %1, pero los tiempos crecen desde %2 a lo largo de todos los geófonos: estaba en ese extremo o más allá</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
-        <translation>el disparo figura en %1 m, pero los tiempos son mínimos en %2 m, junto al geófono %3, y crecen a ambos lados de él</translation>
+        <source>the shot is said to be at %1, but times are least at %2, beside geophone %3, and grow on both sides of it</source>
+        <translation>el disparo figura en %1, pero los tiempos son mínimos en %2, junto al geófono %3, y crecen a ambos lados de él</translation>
     </message>
     <message>
-        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
-        <translation>%1; o bien los geófonos están separados %2 m y no %3 m, lo que ningún otro disparo puede decidir</translation>
+        <source>%1; or the geophones stand %2 apart and not %3, which no other shot can decide</source>
+        <translation>%1; o bien los geófonos están separados %2 y no %3, lo que ningún otro disparo puede decidir</translation>
     </message>
     <message>
         <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
@@ -5839,12 +5827,12 @@ Defina la posición de los geófonos
         <translation>polaridad invertida: las primeras oscilaciones de %1 van contra las de las vecinas, que concuerdan entre sí (correlación -%2 como mínimo)</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
-        <translation>el disparo %1 se registró en el mismo punto, en %2 m, con una relación señal/ruido %3 veces la de este</translation>
+        <source>shot %1 was recorded at the same point, at %2, with %3 times the signal to noise of this one</source>
+        <translation>el disparo %1 se registró en el mismo punto, en %2, con una relación señal/ruido %3 veces la de este</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
-        <translation>el disparo %1 se registró en el mismo punto, en %2 m; sus llegadas son %3 ms posteriores</translation>
+        <source>shot %1 was recorded at the same point, at %2; its arrivals are %3 ms later</source>
+        <translation>el disparo %1 se registró en el mismo punto, en %2; sus llegadas son %3 ms posteriores</translation>
     </message>
     <message>
         <source>the record is that of shot %1 once more, sample for sample</source>
@@ -5867,20 +5855,20 @@ Defina la posición de los geófonos
         <translation>no hay ningún geófono entre %1 y %2 m: el terreno de ahí no se ve desde ningún lado, salvo que haya disparos que lo rebasen</translation>
     </message>
     <message>
-        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
-        <translation>los tendidos %1 y %2 se solapan y sus cotas difieren en %3 lugares, hasta %4 m en %5 m</translation>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
+        <translation>los tendidos %1 y %2 se solapan y sus cotas difieren en %3 lugares, hasta %4 en %5</translation>
     </message>
     <message>
-        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
-        <translation>sin cotas: todos los disparos y geófonos están a %1 m; si el terreno no es llano, léalas de una tabla en la geometría del levantamiento</translation>
+        <source>no elevations: all shots and geophones are at %1; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>sin cotas: todos los disparos y geófonos están a %1; si el terreno no es llano, léalas de una tabla en la geometría del levantamiento</translation>
     </message>
     <message>
-        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
-        <translation>la posición del disparo, %1, cuenta estaciones: en %2 disparos los tiempos mínimos se desplazan %3 m por cada 1 de la posición</translation>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
+        <translation>la posición del disparo, %1, cuenta estaciones: en %2 disparos los tiempos mínimos se desplazan %3 por cada 1 de la posición</translation>
     </message>
     <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
-        <translation>las posiciones de los geófonos no son metros: en %1 disparos los tiempos mínimos se desplazan %2 por cada metro del disparo; con geófonos cada %3 m a partir de %4 m quedan junto a los disparos</translation>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>las posiciones de los geófonos no son metros: en %1 disparos los tiempos mínimos se desplazan %2 por cada metro del disparo; con geófonos cada %3 a partir de %4 quedan junto a los disparos</translation>
     </message>
     <message>
         <source>late</source>
@@ -6025,10 +6013,6 @@ Defina la posición de los geófonos
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>se refiere a archivos de disparos distintos de los del proyecto</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 to %2 m</source>
@@ -6251,12 +6235,12 @@ Defina la posición de los geófonos
         <translation>sus geófonos difieren en y pero no en x; se ha tomado y como posición a lo largo de la línea</translation>
     </message>
     <message>
-        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
-        <translation>todos sus geófonos están en x = %1 m; dé su geometría al levantamiento</translation>
+        <source>all its geophones are at x = %1; give the survey its geometry</source>
+        <translation>todos sus geófonos están en x = %1; dé su geometría al levantamiento</translation>
     </message>
     <message>
-        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
-        <translation>sus geófonos difieren hasta %1 m en y, que no se usa; las posiciones a lo largo de la línea son x</translation>
+        <source>its geophones differ by up to %1 in y, which is not used; positions along the line are x</source>
+        <translation>sus geófonos difieren hasta %1 en y, que no se usa; las posiciones a lo largo de la línea son x</translation>
     </message>
     <message>
         <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
@@ -6351,20 +6335,20 @@ Defina la posición de los geófonos
         <translation>sus coordenadas no distinguen los geófonos; se han situado por sus distancias al disparo (bytes 37 a 40)</translation>
     </message>
     <message>
-        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
-        <translation>sus cabeceras no indican posiciones; todos los disparos y geófonos están en %1 m, así que cargue un archivo de geometría</translation>
+        <source>its headers tell no positions; shots and geophones all stand at %1, so load a geometry file</source>
+        <translation>sus cabeceras no indican posiciones; todos los disparos y geófonos están en %1, así que cargue un archivo de geometría</translation>
     </message>
     <message>
-        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
-        <translation>sus cabeceras sitúan los geófonos de todas las trazas en %1 m; cargue un archivo de geometría si había más de uno</translation>
+        <source>its headers put the geophones of all traces at %1; load a geometry file if there was more than one</source>
+        <translation>sus cabeceras sitúan los geófonos de todas las trazas en %1; cargue un archivo de geometría si había más de uno</translation>
     </message>
     <message>
-        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
-        <translation>hay disparos hasta a %1 m a un lado de la línea de geófonos; x se toma tal cual</translation>
+        <source>shots stand up to %1 beside the line of geophones; x is taken as it stands</source>
+        <translation>hay disparos hasta a %1 a un lado de la línea de geófonos; x se toma tal cual</translation>
     </message>
     <message>
-        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
-        <translation>sus coordenadas no siguen x; las distancias son las medidas a lo largo de la recta que pasa por los geófonos, desde el primer geófono de este archivo, que está en x %1, y %2; los geófonos quedan hasta a %3 m de ella y los disparos hasta a %4 m</translation>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
+        <translation>sus coordenadas no siguen x; las distancias son las medidas a lo largo de la recta que pasa por los geófonos, desde el primer geófono de este archivo, que está en x %1, y %2; los geófonos quedan hasta a %3 de ella y los disparos hasta a %4</translation>
     </message>
     <message>
         <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
@@ -6375,8 +6359,8 @@ Defina la posición de los geófonos
         <translation>no pueden corresponder a ningún terreno las cotas o profundidades de disparo de %1; las cotas del archivo se han tomado como 0</translation>
     </message>
     <message>
-        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
-        <translation>hay disparos hasta a %1 m bajo el terreno; sus cotas son las de los disparos, no las del terreno sobre ellos</translation>
+        <source>shots lie up to %1 below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>hay disparos hasta a %1 bajo el terreno; sus cotas son las de los disparos, no las del terreno sobre ellos</translation>
     </message>
     <message>
         <source>the shot depth of %1 is negative and was taken as 0</source>
@@ -6771,8 +6755,8 @@ Defina la posición de los geófonos
         <translation>solo %1 picados son con seguridad de ondas que viajan por el refractor %2; se necesitan %3</translation>
     </message>
     <message>
-        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
-        <translation>las ondas directas, a %1 m/s, son más lentas de lo que permiten los límites</translation>
+        <source>waves along the surface at %1 are slower than the bounds allow</source>
+        <translation>las ondas directas, a %1, son más lentas de lo que permiten los límites</translation>
     </message>
     <message>
         <source>the times of a refractor grow too little with offset for the bounds</source>
@@ -6963,12 +6947,12 @@ Defina la posición de los geófonos
         <translation>La prueba de resolución ha fallado: %1</translation>
     </message>
     <message>
-        <source>The size of the pattern must be positive; %1 m is not.</source>
-        <translation>El tamaño del patrón debe ser positivo; %1 m no lo es.</translation>
+        <source>The size of the pattern must be positive; %1 is not.</source>
+        <translation>El tamaño del patrón debe ser positivo; %1 no lo es.</translation>
     </message>
     <message>
-        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
-        <translation>El patrón tiene %1 m, menos que una celda de la malla, que tiene %2 m; elija uno mayor.</translation>
+        <source>The pattern has %1, less than a cell of the grid, which has %2; choose a larger one.</source>
+        <translation>El patrón tiene %1, menos que una celda de la malla, que tiene %2; elija uno mayor.</translation>
     </message>
     <message>
         <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
@@ -7079,8 +7063,8 @@ Defina la posición de los geófonos
         <translation>%1 m no es una profundidad bajo la superficie (de 0 a %2)</translation>
     </message>
     <message>
-        <source>%1 m is no position along the line</source>
-        <translation>%1 m no es una posición a lo largo de la línea</translation>
+        <source>%1 is no position along the line</source>
+        <translation>%1 no es una posición a lo largo de la línea</translation>
     </message>
     <message>
         <source>it has no name</source>
@@ -7099,12 +7083,12 @@ Defina la posición de los geófonos
         <translation>no tiene ninguna capa</translation>
     </message>
     <message>
-        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
-        <translation>la capa desde %1 m empieza por encima de la base de la anterior, %2 m</translation>
+        <source>the layer from %1 begins above the bottom of the one before, %2</source>
+        <translation>la capa desde %1 empieza por encima de la base de la anterior, %2</translation>
     </message>
     <message>
-        <source>%1 m is no error of a depth</source>
-        <translation>%1 m no es un error de una profundidad</translation>
+        <source>%1 is no error of a depth</source>
+        <translation>%1 no es un error de una profundidad</translation>
     </message>
     <message>
         <source>refractors have the numbers 1 to %1</source>
@@ -7271,12 +7255,12 @@ Defina la posición de los geófonos
         <translation>%1 no contiene ninguna celda de la malla: es demasiado pequeño o está fuera de ella.</translation>
     </message>
     <message>
-        <source>%1 at %2 m stands beyond the grid.</source>
-        <translation>%1, en %2 m, está fuera de la malla.</translation>
+        <source>%1 at %2 stands beyond the grid.</source>
+        <translation>%1, en %2, está fuera de la malla.</translation>
     </message>
     <message>
-        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
-        <translation>%1 llega a %2 m de profundidad, por debajo de la malla; lo que está por debajo de %3 m no cuenta.</translation>
+        <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
+        <translation>%1 llega a %2 de profundidad, por debajo de la malla; lo que está por debajo de %3 no cuenta.</translation>
     </message>
     <message>
         <source>%1, %2 to %3 m</source>
@@ -7287,20 +7271,20 @@ Defina la posición de los geófonos
         <translation>%1: ninguna celda es en su mayor parte de esta capa; cuenta por su parte de las celdas, o está dentro de un cuerpo fijo.</translation>
     </message>
     <message>
-        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
-        <translation>%1 (a %2 m a lo largo de la línea y %3 m de profundidad) está fuera de la malla, o más cerca de su borde que su error o una celda.</translation>
+        <source>%1 (%2 along the line, %3 deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (a %2 a lo largo de la línea y %3 de profundidad) está fuera de la malla, o más cerca de su borde que su error o una celda.</translation>
     </message>
     <message>
-        <source>%1, %2 m/s at %3 m</source>
-        <translation>%1, %2 m/s en %3 m</translation>
+        <source>%1, %2 at %3</source>
+        <translation>%1, %2 en %3</translation>
     </message>
     <message>
-        <source>%1, %2 m/s above</source>
-        <translation>%1, %2 m/s por encima</translation>
+        <source>%1, %2 above</source>
+        <translation>%1, %2 por encima</translation>
     </message>
     <message>
-        <source>%1, %2 m/s below</source>
-        <translation>%1, %2 m/s por debajo</translation>
+        <source>%1, %2 below</source>
+        <translation>%1, %2 por debajo</translation>
     </message>
     <message>
         <source>Layered interpretation</source>
@@ -7327,12 +7311,12 @@ Defina la posición de los geófonos
         <translation>Partir de las capas</translation>
     </message>
     <message>
-        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
-        <translation>Una capa tiene una velocidad de %1 m/s, que no es propia de ningún terreno.</translation>
+        <source>A layer has a velocity of %1, which is no velocity of the ground.</source>
+        <translation>Una capa tiene una velocidad de %1, que no es propia de ningún terreno.</translation>
     </message>
     <message>
-        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
-        <translation>La capa que empieza a %1 m se solapa con otra; ordene las capas por profundidad, sin solapes.</translation>
+        <source>The layer that begins at %1 lies over another; order the layers by depth, without overlap.</source>
+        <translation>La capa que empieza a %1 se solapa con otra; ordene las capas por profundidad, sin solapes.</translation>
     </message>
     <message>
         <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
@@ -7419,8 +7403,8 @@ Defina la posición de los geófonos
         <translation>Sección, gradiente máximo</translation>
     </message>
     <message>
-        <source>Section, %1 m/s</source>
-        <translation>Sección, %1 m/s</translation>
+        <source>Section, %1</source>
+        <translation>Sección, %1</translation>
     </message>
     <message>
         <source>The methods could not be compared: %1</source>
@@ -7483,8 +7467,8 @@ Defina la posición de los geófonos
         <translation>densidad %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
     <message>
-        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
-        <translation>Capa %1: en %2 de %3 puntos las profundidades de su techo según P y según S difieren en más de un %4 % (mediana ahí: %5 m según P, %6 m según S). Las ondas P suelen ver el nivel freático y las ondas S no: el mismo número puede ser un terreno distinto.</translation>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 by P, %6 by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Capa %1: en %2 de %3 puntos las profundidades de su techo según P y según S difieren en más de un %4 % (mediana ahí: %5 según P, %6 según S). Las ondas P suelen ver el nivel freático y las ondas S no: el mismo número puede ser un terreno distinto.</translation>
     </message>
     <message>
         <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
@@ -7503,8 +7487,8 @@ Defina la posición de los geófonos
         <translation>La relación de Gardner se halló para rocas de más de 1500 m/s; en %1 de %2 puntos Vp es menor, y la densidad, una conjetura.</translation>
     </message>
     <message>
-        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
-        <translation>Las superficies de P y S distan hasta %1 m, en %2 m: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
+        <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
+        <translation>Las superficies de P y S distan hasta %1, en %2: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
     </message>
     <message>
         <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
@@ -7519,8 +7503,8 @@ Defina la posición de los geófonos
         <translation>Las posiciones de P y S en el mapa están en sistemas distintos (EPSG:%1 y EPSG:%2) y no se han comparado.</translation>
     </message>
     <message>
-        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
-        <translation>Las mismas distancias de P y S distan hasta %1 m en el mapa: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
+        <source>The same distances of P and S lie up to %1 apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Las mismas distancias de P y S distan hasta %1 en el mapa: quizá no sean la misma línea o no empiecen en el mismo punto.</translation>
     </message>
     <message>
         <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
@@ -7647,8 +7631,8 @@ Defina la posición de los geófonos
         <translation>En %1 de %2 celdas Vp/Vs es menor que 1,41 y el coeficiente de Poisson negativo, lo que no ocurre en suelos ni rocas.</translation>
     </message>
     <message>
-        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
-        <translation>Las superficies de las secciones de P y S distan hasta %1 m, en %2 m; las celdas se emparejan por su profundidad bajo ellas.</translation>
+        <source>The surfaces of the sections of P and S lie up to %1 apart, at %2; cells are matched by their depths below them.</source>
+        <translation>Las superficies de las secciones de P y S distan hasta %1, en %2; las celdas se emparejan por su profundidad bajo ellas.</translation>
     </message>
     <message>
         <source>A section has no layers: all of it has the first density.</source>
@@ -7699,8 +7683,8 @@ Defina la posición de los geófonos
         <translation>S: su perfil se ajustó a todos los picados y no recibe errores. Uno por el método recíproco sí los recibe.</translation>
     </message>
     <message>
-        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
-        <translation>En este perfil, la velocidad de la capa 1 varía a lo largo de la línea y con la profundidad; aquí se toma en todas partes su media, %1 m/s.</translation>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1, everywhere.</source>
+        <translation>En este perfil, la velocidad de la capa 1 varía a lo largo de la línea y con la profundidad; aquí se toma en todas partes su media, %1.</translation>
     </message>
     <message>
         <source>the first distance must be a number, and the EPSG code a whole number</source>
@@ -7903,8 +7887,8 @@ Defina la posición de los geófonos
         <translation>tiene %1 puntos y necesita %2 como mínimo</translation>
     </message>
     <message>
-        <source>%1 m, %2 m is no place of a section</source>
-        <translation>%1 m, %2 m no es un lugar de una sección</translation>
+        <source>%1, %2 is no place of a section</source>
+        <translation>%1, %2 no es un lugar de una sección</translation>
     </message>
     <message>
         <source>a text is %1 to %2 points high</source>
@@ -7935,8 +7919,8 @@ Defina la posición de los geófonos
         <translation>paso alto %1 Hz, orden %2</translation>
     </message>
     <message>
-        <source>%1 m/s and more</source>
-        <translation>%1 m/s o más</translation>
+        <source>%1 and more</source>
+        <translation>%1 o más</translation>
     </message>
     <message>
         <source>forth along the line</source>
@@ -8075,8 +8059,8 @@ Defina la posición de los geófonos
         <translation>no tiene muestras, o no se conoce su intervalo de muestreo</translation>
     </message>
     <message>
-        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
-        <translation>sus geófonos no están a intervalos regulares: la traza %1, en %2 m, está a %3 m de la anterior; la distancia habitual es de %4 m</translation>
+        <source>its geophones are not evenly spaced: trace %1 at %2 is %3 from the one before, the usual distance is %4</source>
+        <translation>sus geófonos no están a intervalos regulares: la traza %1, en %2, está a %3 de la anterior; la distancia habitual es de %4</translation>
     </message>
     <message>
         <source>it has fewer than %1 traces</source>
@@ -8095,8 +8079,8 @@ Defina la posición de los geófonos
         <translation>disparo %1: de %2 puntos de su línea, %3 no tienen traza o la tienen anulada; cuentan como cero, y junto a ellos el filtro es menos nítido</translation>
     </message>
     <message>
-        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
-        <translation>la velocidad mínima, %1 m/s, debe ser mayor que 0 y menor que la máxima, %2 m/s</translation>
+        <source>the slowest velocity, %1, must be above 0 and below the fastest, %2</source>
+        <translation>la velocidad mínima, %1, debe ser mayor que 0 y menor que la máxima, %2</translation>
     </message>
     <message>
         <source>the taper must be 0 or more and less than 100 percent of a limit</source>
@@ -9697,8 +9681,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Disparo</translation>
     </message>
     <message>
-        <source>Position [m]</source>
-        <translation>Posición [m]</translation>
+        <source>Position [%1]</source>
+        <translation>Posición [%1]</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -9757,10 +9741,6 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Lado de una celda</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>Depth below the surface</source>
         <translation>Profundidad bajo la superficie</translation>
     </message>
@@ -9781,20 +9761,20 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Capa</translation>
     </message>
     <message>
-        <source>Top [m]</source>
-        <translation>Techo [m]</translation>
+        <source>Top [%1]</source>
+        <translation>Techo [%1]</translation>
     </message>
     <message>
-        <source>Bottom [m]</source>
-        <translation>Base [m]</translation>
+        <source>Bottom [%1]</source>
+        <translation>Base [%1]</translation>
     </message>
     <message>
-        <source>Velocity at top [m/s]</source>
-        <translation>Velocidad en el techo [m/s]</translation>
+        <source>Velocity at top [%1]</source>
+        <translation>Velocidad en el techo [%1]</translation>
     </message>
     <message>
-        <source>Velocity at bottom [m/s]</source>
-        <translation>Velocidad en la base [m/s]</translation>
+        <source>Velocity at bottom [%1]</source>
+        <translation>Velocidad en la base [%1]</translation>
     </message>
     <message>
         <source>The layers of the starting model, depths below the surface</source>
@@ -9819,10 +9799,6 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>Velocity limits</source>
         <translation>Límites de velocidad</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>Smoothing</source>
@@ -9925,16 +9901,16 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Residuos de los picados en función de la distancia a su disparo</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Cota [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Cota [%1]</translation>
     </message>
     <message>
-        <source>Depth %1 [m]</source>
-        <translation>Profundidad %1 [m]</translation>
+        <source>Depth %1 [%2]</source>
+        <translation>Profundidad %1 [%2]</translation>
     </message>
     <message>
-        <source>Velocity %1 [m/s]</source>
-        <translation>Velocidad %1 [m/s]</translation>
+        <source>Velocity %1 [%2]</source>
+        <translation>Velocidad %1 [%2]</translation>
     </message>
     <message>
         <source>Refraction interpretation</source>
@@ -10025,16 +10001,16 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Geófonos</translation>
     </message>
     <message>
-        <source>From [m]</source>
-        <translation>De [m]</translation>
+        <source>From [%1]</source>
+        <translation>De [%1]</translation>
     </message>
     <message>
-        <source>To [m]</source>
-        <translation>A [m]</translation>
+        <source>To [%1]</source>
+        <translation>A [%1]</translation>
     </message>
     <message>
-        <source>Spacing [m]</source>
-        <translation>Separación [m]</translation>
+        <source>Spacing [%1]</source>
+        <translation>Separación [%1]</translation>
     </message>
     <message>
         <source>Strings of geophones</source>
@@ -10217,8 +10193,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Los picados han cambiado desde que se construyó este perfil: es el de los picados anteriores.</translation>
     </message>
     <message>
-        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation>No se da velocidad donde los tiempos llevarían a una fuera del rango de 50 a 12&#xa0;000 m/s. No se da profundidad en esos puntos, ni por debajo de una capa cuya velocidad o profundidad no se conoce o que es más rápida, ni donde la profundidad calculada supera la longitud de la línea.</translation>
+        <source>No velocity is given where the times lead to one outside %1 to %2. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation>No se da velocidad donde los tiempos llevarían a una fuera del rango de %1 a %2. No se da profundidad en esos puntos, ni por debajo de una capa cuya velocidad o profundidad no se conoce o que es más rápida, ni donde la profundidad calculada supera la longitud de la línea.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
@@ -10477,12 +10453,12 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>velocidad</translation>
     </message>
     <message>
-        <source>%1: depth [m]</source>
-        <translation>%1: profundidad [m]</translation>
+        <source>%1: depth [%2]</source>
+        <translation>%1: profundidad [%2]</translation>
     </message>
     <message>
-        <source>%1: velocity [m/s]</source>
-        <translation>%1: velocidad [m/s]</translation>
+        <source>%1: velocity [%2]</source>
+        <translation>%1: velocidad [%2]</translation>
     </message>
     <message>
         <source>Disagree in</source>
@@ -10573,8 +10549,12 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Aumento de su velocidad con la profundidad</translation>
     </message>
     <message>
-        <source>%1 % of that at the surface per metre, down to %2 m</source>
-        <translation>%1 % de la de superficie por metro, hasta %2 m de profundidad</translation>
+        <source>%1 % of that at the surface per metre, down to %2</source>
+        <translation>%1 % de la de superficie por metro, hasta %2 de profundidad</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per foot, down to %2</source>
+        <translation>%1 % de la de superficie por pie, hasta %2 de profundidad</translation>
     </message>
     <message>
         <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
@@ -11411,16 +11391,16 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Sección de velocidad</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distancia %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distancia %1</translation>
     </message>
     <message>
-        <source>Horizontal %1 m</source>
-        <translation>Horizontal %1 m</translation>
+        <source>Horizontal %1</source>
+        <translation>Horizontal %1</translation>
     </message>
     <message>
-        <source>Vertical %1 m</source>
-        <translation>Vertical %1 m</translation>
+        <source>Vertical %1</source>
+        <translation>Vertical %1</translation>
     </message>
     <message>
         <source>Slope %1°</source>
@@ -11503,6 +11483,22 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Idioma:</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth unit:</source>
+        <translation>&amp;Unidad de longitud:</translation>
+    </message>
+    <message>
+        <source>What lengths and velocities are shown and asked for in. Files stay in metres.</source>
+        <translation>En qué se muestran y se piden longitudes y velocidades. Los archivos siguen en metros.</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation>metros</translation>
+    </message>
+    <message>
+        <source>feet (0.3048 m)</source>
+        <translation>pies (0,3048 m)</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -14622,8 +14618,8 @@ Do you want to run refraction processing anyway? </source>
 <context>
     <name>talvesk::TraceAxes</name>
     <message>
-        <source>x (m)</source>
-        <translation>x (m)</translation>
+        <source>x (%1)</source>
+        <translation>x (%1)</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -14641,12 +14637,12 @@ Do you want to run refraction processing anyway? </source>
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>%1 m, %2 ms</source>
-        <translation>%1 m, %2 ms</translation>
+        <source>%1, %2 ms</source>
+        <translation>%1, %2 ms</translation>
     </message>
     <message>
-        <source>%1 m/s (%2 m, %3 ms)</source>
-        <translation>%1 m/s (%2 m, %3 ms)</translation>
+        <source>%1 (%2, %3 ms)</source>
+        <translation>%1 (%2, %3 ms)</translation>
     </message>
     <message>
         <source>Other shots</source>
@@ -14657,17 +14653,17 @@ Do you want to run refraction processing anyway? </source>
         <translation>Calculados</translation>
     </message>
     <message>
-        <source>Air %1 m/s</source>
-        <translation>Aire %1 m/s</translation>
+        <source>Air %1</source>
+        <translation>Aire %1</translation>
     </message>
     <message>
         <source>No other shot of the string is picked</source>
         <translation>Ningún otro disparo del tendido está picado</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
+        <source>Shot %1 at %2</source>
         <comment>number, place</comment>
-        <translation>Disparo %1 en %2 m</translation>
+        <translation>Disparo %1 en %2</translation>
     </message>
     <message>
         <source>No computed times</source>
@@ -14697,8 +14693,8 @@ Pick first breaks in the traces, by hand or with AutoPick, or import travel time
 Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos de recorrido.</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distancia [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distancia [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -14733,8 +14729,8 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Guarda las dromocronas como PNG, SVG o PDF</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
-        <translation>Disparo %1 en %2 m</translation>
+        <source>Shot %1 at %2</source>
+        <translation>Disparo %1 en %2</translation>
     </message>
     <message>
         <source>Shot %1 has no travel times yet</source>
@@ -14999,40 +14995,40 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Mostrar todo</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distancia %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distancia %1</translation>
     </message>
     <message>
-        <source>elevation %1 m</source>
-        <translation>cota %1 m</translation>
+        <source>elevation %1</source>
+        <translation>cota %1</translation>
     </message>
     <message>
-        <source>depth %1 m</source>
-        <translation>profundidad %1 m</translation>
+        <source>depth %1</source>
+        <translation>profundidad %1</translation>
     </message>
     <message>
         <source>Vertical profile</source>
         <translation>Perfil vertical</translation>
     </message>
     <message>
-        <source>Vertical profile at %1 m</source>
-        <translation>Perfil vertical en %1 m</translation>
+        <source>Vertical profile at %1</source>
+        <translation>Perfil vertical en %1</translation>
     </message>
     <message>
-        <source>Depth from [m]</source>
-        <translation>Profundidad desde [m]</translation>
+        <source>Depth from [%1]</source>
+        <translation>Profundidad desde [%1]</translation>
     </message>
     <message>
-        <source>Depth to [m]</source>
-        <translation>Profundidad hasta [m]</translation>
+        <source>Depth to [%1]</source>
+        <translation>Profundidad hasta [%1]</translation>
     </message>
     <message>
-        <source>Depth below ground [m]</source>
-        <translation>Profundidad bajo el terreno [m]</translation>
+        <source>Depth below ground [%1]</source>
+        <translation>Profundidad bajo el terreno [%1]</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocidad [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocidad [%1]</translation>
     </message>
     <message>
         <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
@@ -15067,8 +15063,8 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Disparo %1</translation>
     </message>
     <message>
-        <source>geophone %1 at %2 m</source>
-        <translation>geófono %1 en %2 m</translation>
+        <source>geophone %1 at %2</source>
+        <translation>geófono %1 en %2</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -15275,8 +15271,8 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
 <context>
     <name>talvesk::XYCriteria</name>
     <message>
-        <source>XY (m)</source>
-        <translation>XY (m)</translation>
+        <source>XY (%1)</source>
+        <translation>XY (%1)</translation>
     </message>
     <message>
         <source>Roughness of tV</source>
@@ -15670,12 +15666,12 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Velocidad en función de la profundidad</translation>
     </message>
     <message>
-        <source>Velocity (m/s)</source>
-        <translation>Velocidad (m/s)</translation>
+        <source>Velocity (%1)</source>
+        <translation>Velocidad (%1)</translation>
     </message>
     <message>
-        <source>Depth below the ground (m)</source>
-        <translation>Profundidad bajo el terreno (m)</translation>
+        <source>Depth below the ground (%1)</source>
+        <translation>Profundidad bajo el terreno (%1)</translation>
     </message>
     <message>
         <source>Layers</source>

@@ -174,12 +174,12 @@
         <translation>Khi-deux</translation>
     </message>
     <message>
-        <source>Length covered [m]</source>
-        <translation>Longueur couverte [m]</translation>
+        <source>Length covered [%1]</source>
+        <translation>Longueur couverte [%1]</translation>
     </message>
     <message>
-        <source>Depth reached [m]</source>
-        <translation>Profondeur atteinte [m]</translation>
+        <source>Depth reached [%1]</source>
+        <translation>Profondeur atteinte [%1]</translation>
     </message>
     <message>
         <source>Cells with rays [%]</source>
@@ -242,8 +242,8 @@
         <translation>Lignes</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Vitesse [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Vitesse [%1]</translation>
     </message>
     <message>
         <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
@@ -304,10 +304,6 @@
     <message>
         <source>Skip to the content</source>
         <translation>Aller au contenu</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 km</source>
@@ -1792,8 +1788,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>N</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Vitesse [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Vitesse [%1]</translation>
     </message>
     <message>
         <source>Sections at their places on the map</source>
@@ -1883,12 +1879,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Exagération verticale %1</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distance [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distance [%1]</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Altitude [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Altitude [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -1923,9 +1919,9 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Tir %1</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
+        <source>%1 at %2</source>
         <comment>shot, place</comment>
-        <translation>%1 à %2 m</translation>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>%1, filtered</source>
@@ -1987,12 +1983,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Profil de réfraction</translation>
     </message>
     <message>
-        <source>X (m)</source>
-        <translation>X (m)</translation>
+        <source>X (%1)</source>
+        <translation>X (%1)</translation>
     </message>
     <message>
-        <source>Z (m)</source>
-        <translation>Z (m)</translation>
+        <source>Z (%1)</source>
+        <translation>Z (%1)</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -2011,8 +2007,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Écart quadratique moyen [ms]</translation>
     </message>
     <message>
-        <source>Offset [m]</source>
-        <translation>Déport [m]</translation>
+        <source>Offset [%1]</source>
+        <translation>Déport [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [ms]</source>
@@ -2130,8 +2126,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Restitué</translation>
     </message>
     <message>
-        <source>[m]</source>
-        <translation>[m]</translation>
+        <source>[%1]</source>
+        <translation>[%1]</translation>
     </message>
     <message>
         <source>Depth of %1, 16 to 84 %</source>
@@ -2162,24 +2158,24 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>%1 écartés</translation>
     </message>
     <message>
-        <source>Geophone at [m]</source>
-        <translation>Géophone à [m]</translation>
+        <source>Geophone at [%1]</source>
+        <translation>Géophone à [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [pick errors]</source>
         <translation>Calculé moins mesuré [erreurs de pointé]</translation>
     </message>
     <message>
-        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
-        <translation>Tir %1, géophone %2 à %3 m, déport %4 m&#xa0;: mesuré %5 ms, calculé %6 ms, résidu %7 ms, erreur %8 ms (%9 erreurs)</translation>
+        <source>Shot %1, geophone %2 at %3, offset %4: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Tir %1, géophone %2 à %3, déport %4&#xa0;: mesuré %5 ms, calculé %6 ms, résidu %7 ms, erreur %8 ms (%9 erreurs)</translation>
     </message>
     <message>
         <source>; suspect</source>
         <translation>&#xa0;; suspect</translation>
     </message>
     <message>
-        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
-        <translation>Géophone à [m]&#xa0;; hachuré&#xa0;: aucun pointé, avec un point&#xa0;: suspect</translation>
+        <source>Geophone at [%1]; hatched: no pick, with a dot: suspect</source>
+        <translation>Géophone à [%1]&#xa0;; hachuré&#xa0;: aucun pointé, avec un point&#xa0;: suspect</translation>
     </message>
     <message>
         <source>Shot, along the line</source>
@@ -2210,12 +2206,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Médiane et un écart type</translation>
     </message>
     <message>
-        <source>%1: %2 m/s</source>
-        <translation>%1&#xa0;: %2 m/s</translation>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>%1 (%2 m beside the line)</source>
-        <translation>%1 (%2 m à côté de la ligne)</translation>
+        <source>%1 (%2 beside the line)</source>
+        <translation>%1 (%2 à côté de la ligne)</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -2230,8 +2226,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Corps fixes</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Vitesse [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Vitesse [%1]</translation>
     </message>
     <message>
         <source>Vp/Vs</source>
@@ -2290,10 +2286,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>M</translation>
     </message>
     <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
-    </message>
-    <message>
         <source>kg/m3</source>
         <translation>kg/m3</translation>
     </message>
@@ -2310,12 +2302,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Masse volumique %1 kg/m3</translation>
     </message>
     <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Couche %1, %2 m/s</translation>
+        <source>Layer %1, %2</source>
+        <translation>Couche %1, %2</translation>
     </message>
     <message>
-        <source>Layer %1, %2 ± %3 m/s</source>
-        <translation>Couche %1, %2 ± %3 m/s</translation>
+        <source>Layer %1, %2 ± %3</source>
+        <translation>Couche %1, %2 ± %3</translation>
     </message>
     <message>
         <source>Dashed: not carried by picks there</source>
@@ -2326,8 +2318,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Erreur due aux pointés (68 sur 100)</translation>
     </message>
     <message>
-        <source>Depth [m]</source>
-        <translation>Profondeur [m]</translation>
+        <source>Depth [%1]</source>
+        <translation>Profondeur [%1]</translation>
     </message>
     <message>
         <source>Depths are below the surface</source>
@@ -2354,12 +2346,12 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Couches</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
-        <translation>Couche 1, %1 m/s en moyenne, croissant avec la profondeur</translation>
+        <source>Layer 1, %1 in the mean, growing with depth</source>
+        <translation>Couche 1, %1 en moyenne, croissant avec la profondeur</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean</source>
-        <translation>Couche 1, %1 m/s en moyenne</translation>
+        <source>Layer 1, %1 in the mean</source>
+        <translation>Couche 1, %1 en moyenne</translation>
     </message>
     <message>
         <source>Vertical gradient [1/s]</source>
@@ -2370,16 +2362,16 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Incertitude [%]</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distance %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distance %1</translation>
     </message>
     <message>
         <source>no section here</source>
         <translation>pas de coupe ici</translation>
     </message>
     <message>
-        <source>surface at %1 m</source>
-        <translation>surface à %1 m</translation>
+        <source>surface at %1</source>
+        <translation>surface à %1</translation>
     </message>
     <message>
         <source>shaded: 16 to 84 %</source>
@@ -2393,10 +2385,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>annotations outside the section: %1</source>
         <translation>annotations hors de la coupe&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>%1 (not reached)</source>
@@ -2565,8 +2553,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Pas de spectre</translation>
     </message>
     <message>
-        <source>Wavenumber along the line (1/m)</source>
-        <translation>Nombre d&apos;onde le long de la ligne (1/m)</translation>
+        <source>Wavenumber along the line (1/%1)</source>
+        <translation>Nombre d&apos;onde le long de la ligne (1/%1)</translation>
     </message>
     <message>
         <source>Frequency (Hz)</source>
@@ -3335,8 +3323,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
 <context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
-        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
-        <translation>Tir %1, trace %2&#xa0;: %3 m, %4 ms, %5</translation>
+        <source>Shot %1, trace %2: %3, %4 ms, %5</source>
+        <translation>Tir %1, trace %2&#xa0;: %3, %4 ms, %5</translation>
     </message>
     <message>
         <source>no layer</source>
@@ -3542,8 +3530,8 @@ de pointés</translation>
         <translation>À vérifier</translation>
     </message>
     <message>
-        <source>x %1 m, z %2 m</source>
-        <translation>x %1 m, z %2 m</translation>
+        <source>x %1, z %2</source>
+        <translation>x %1, z %2</translation>
     </message>
     <message>
         <source>Shot %1</source>
@@ -3558,12 +3546,12 @@ de pointés</translation>
         <translation>Plan de la ligne</translation>
     </message>
     <message>
-        <source>Distance (m)</source>
-        <translation>Distance (m)</translation>
+        <source>Distance (%1)</source>
+        <translation>Distance (%1)</translation>
     </message>
     <message>
-        <source>Elevation (m)</source>
-        <translation>Altitude (m)</translation>
+        <source>Elevation (%1)</source>
+        <translation>Altitude (%1)</translation>
     </message>
     <message>
         <source>Line</source>
@@ -3578,24 +3566,24 @@ de pointés</translation>
         <translation>Géophone %1</translation>
     </message>
     <message>
-        <source>x %1 m, %2 m across</source>
-        <translation>x %1 m, %2 m en travers</translation>
+        <source>x %1, %2 across</source>
+        <translation>x %1, %2 en travers</translation>
     </message>
     <message>
-        <source>%1 m east, %2 m north</source>
-        <translation>%1 m est, %2 m nord</translation>
+        <source>%1 east, %2 north</source>
+        <translation>%1 est, %2 nord</translation>
     </message>
     <message>
-        <source>Across the line (m)</source>
-        <translation>En travers de la ligne (m)</translation>
+        <source>Across the line (%1)</source>
+        <translation>En travers de la ligne (%1)</translation>
     </message>
     <message>
-        <source>East of the first geophone (m)</source>
-        <translation>À l&apos;est du premier géophone (m)</translation>
+        <source>East of the first geophone (%1)</source>
+        <translation>À l&apos;est du premier géophone (%1)</translation>
     </message>
     <message>
-        <source>North of it (m)</source>
-        <translation>Au nord de celui-ci (m)</translation>
+        <source>North of it (%1)</source>
+        <translation>Au nord de celui-ci (%1)</translation>
     </message>
 </context>
 <context>
@@ -4515,8 +4503,8 @@ de pointés</translation>
         <translation>%1 lignes de %2 colonnes ne correspondent pas à %3 vitesses et %4 indicateurs de dessin</translation>
     </message>
     <message>
-        <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation>des cellules de %2 m avec %1 nœuds par côté sont impossibles</translation>
+        <source>cells with %1 nodes per side, %2 long, cannot be</source>
+        <translation>des cellules de %2 avec %1 nœuds par côté sont impossibles</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
@@ -5267,8 +5255,8 @@ Veuillez définir la position des géophones
         <translation>Une position du levé est à plus de 100&#xa0;000 km&#xa0;; veuillez vérifier la géométrie.</translation>
     </message>
     <message>
-        <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation>Une grille de cellules de %1 m avec %2 nœuds par côté et une profondeur de %3 m ne peut pas être construite&#xa0;; choisissez une taille de cellule positive, au moins deux nœuds et une profondeur non négative.</translation>
+        <source>A grid of cells of %1 with %2 nodes per side, %3 deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
+        <translation>Une grille de cellules de %1 avec %2 nœuds par côté et une profondeur de %3 ne peut pas être construite&#xa0;; choisissez une taille de cellule positive, au moins deux nœuds et une profondeur non négative.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
@@ -5303,8 +5291,8 @@ Veuillez définir la position des géophones
         <translation>Le nombre d&apos;itérations et le paramètre de lissage doivent être au moins égaux à 1.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation>Les limites de vitesse doivent être des nombres positifs&#xa0;; %1 m/s n&apos;en est pas un.</translation>
+        <source>The velocity limits must be positive numbers; %1 is none.</source>
+        <translation>Les limites de vitesse doivent être des nombres positifs&#xa0;; %1 n&apos;en est pas un.</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
@@ -5359,8 +5347,8 @@ Veuillez définir la position des géophones
         <translation>Vitesse</translation>
     </message>
     <message>
-        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
-        <translation>Les couches donnent une vitesse de %1 m/s à %2 m de profondeur, ce qui n&apos;est pas une vitesse du sol. Faites couvrir aux couches toute la profondeur de la grille, ou adoucissez le passage de l&apos;une à l&apos;autre.</translation>
+        <source>The layers give a velocity of %1 at a depth of %2, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Les couches donnent une vitesse de %1 à %2 de profondeur, ce qui n&apos;est pas une vitesse du sol. Faites couvrir aux couches toute la profondeur de la grille, ou adoucissez le passage de l&apos;une à l&apos;autre.</translation>
     </message>
     <message>
         <source>a number is out of range or not finite</source>
@@ -5759,8 +5747,8 @@ Veuillez définir la position des géophones
         <translation>lire les canaux du dernier au premier</translation>
     </message>
     <message>
-        <source>put the shot at %1 m</source>
-        <translation>placer le tir à %1 m</translation>
+        <source>put the shot at %1</source>
+        <translation>placer le tir à %1</translation>
     </message>
     <message>
         <source>put the %1 geophones of its string at %2 to %3 m</source>
@@ -5779,56 +5767,56 @@ Veuillez définir la position des géophones
         <translation>traces échangées&#xa0;: sur tous les tirs, les arrivées de la trace %1 appartiennent à la place de la trace %2, et inversement</translation>
     </message>
     <message>
-        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
-        <translation>hors de la ligne&#xa0;: le géophone %1 est indiqué à %2 m&#xa0;; des deux côtés, ses arrivées sont celles de %3 m</translation>
+        <source>off the line: geophone %1 is said to be at %2; from both sides its arrivals are those of %3</source>
+        <translation>hors de la ligne&#xa0;: le géophone %1 est indiqué à %2&#xa0;; des deux côtés, ses arrivées sont celles de %3</translation>
     </message>
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 géophones sont indiqués à %2 positions seulement</translation>
     </message>
     <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
-        <translation>%1&#xa0;; sur %2 tirs, les temps minimaux se déplacent de %3 canaux pour chaque mètre du tir&#xa0;: le géophone 1 est donc à %4 m et le dernier à %5 m</translation>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1&#xa0;; sur %2 tirs, les temps minimaux se déplacent de %3 canaux pour chaque mètre du tir&#xa0;: le géophone 1 est donc à %4 et le dernier à %5</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>le tir est indiqué à %1 m&#xa0;; le nom du fichier dit %2 m, et les temps minimaux du levé suivent les noms</translation>
+        <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>le tir est indiqué à %1&#xa0;; le nom du fichier dit %2, et les temps minimaux du levé suivent les noms</translation>
     </message>
     <message>
-        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
-        <translation>le tir est indiqué à une altitude de %1 m, et aucune altitude des géophones ne peut être la sienne</translation>
+        <source>the shot is said to be at an elevation of %1, and the geophones have none that could be theirs</source>
+        <translation>le tir est indiqué à une altitude de %1, et aucune altitude des géophones ne peut être la sienne</translation>
     </message>
     <message>
         <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
         <translation>les canaux vont à rebours des géophones&#xa0;: pour %1 tirs sur %2, les temps ne sont minimaux à côté du tir que si le dispositif est lu du dernier géophone au premier</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>tous les tirs sont indiqués à %1 m&#xa0;; le nom du fichier dit %2 m, et les temps minimaux du levé suivent les noms</translation>
+        <source>all shots are said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>tous les tirs sont indiqués à %1&#xa0;; le nom du fichier dit %2, et les temps minimaux du levé suivent les noms</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
-        <translation>tous les tirs sont indiqués à %1 m&#xa0;; les temps de celui-ci sont minimaux à %2 m</translation>
+        <source>all shots are said to be at %1; the times of this one are least at %2</source>
+        <translation>tous les tirs sont indiqués à %1&#xa0;; les temps de celui-ci sont minimaux à %2</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
-        <translation>tous les tirs sont indiqués à %1 m&#xa0;; celui-ci était à une extrémité des géophones ou au-delà</translation>
+        <source>all shots are said to be at %1; this one was at an end of the geophones or beyond</source>
+        <translation>tous les tirs sont indiqués à %1&#xa0;; celui-ci était à une extrémité des géophones ou au-delà</translation>
     </message>
     <message>
-        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
-        <translation>les canaux de cet enregistrement vont à rebours des géophones&#xa0;: lus du dernier au premier, les temps sont minimaux à côté du tir, à %1 m</translation>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1</source>
+        <translation>les canaux de cet enregistrement vont à rebours des géophones&#xa0;: lus du dernier au premier, les temps sont minimaux à côté du tir, à %1</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
-        <translation>le tir est indiqué à %1 m, mais les temps croissent à partir de %2 m tout au long des géophones&#xa0;: il était à cette extrémité ou au-delà</translation>
+        <source>the shot is said to be at %1, but times grow from %2 on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>le tir est indiqué à %1, mais les temps croissent à partir de %2 tout au long des géophones&#xa0;: il était à cette extrémité ou au-delà</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
-        <translation>le tir est indiqué à %1 m, mais les temps sont minimaux à %2 m, à côté du géophone %3, et croissent de part et d&apos;autre</translation>
+        <source>the shot is said to be at %1, but times are least at %2, beside geophone %3, and grow on both sides of it</source>
+        <translation>le tir est indiqué à %1, mais les temps sont minimaux à %2, à côté du géophone %3, et croissent de part et d&apos;autre</translation>
     </message>
     <message>
-        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
-        <translation>%1&#xa0;; ou bien les géophones sont espacés de %2 m et non de %3 m, ce qu&apos;aucun autre tir ne permet de trancher</translation>
+        <source>%1; or the geophones stand %2 apart and not %3, which no other shot can decide</source>
+        <translation>%1&#xa0;; ou bien les géophones sont espacés de %2 et non de %3, ce qu&apos;aucun autre tir ne permet de trancher</translation>
     </message>
     <message>
         <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
@@ -5839,12 +5827,12 @@ Veuillez définir la position des géophones
         <translation>polarité inversée (%1)&#xa0;: les premières oscillations vont à l&apos;encontre de celles des voisines, qui concordent entre elles (corrélation d&apos;au moins -%2)</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
-        <translation>le tir %1 a été enregistré au même point, à %2 m, avec %3 fois le rapport signal sur bruit de celui-ci</translation>
+        <source>shot %1 was recorded at the same point, at %2, with %3 times the signal to noise of this one</source>
+        <translation>le tir %1 a été enregistré au même point, à %2, avec %3 fois le rapport signal sur bruit de celui-ci</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
-        <translation>le tir %1 a été enregistré au même point, à %2 m&#xa0;; ses arrivées sont plus tardives de %3 ms</translation>
+        <source>shot %1 was recorded at the same point, at %2; its arrivals are %3 ms later</source>
+        <translation>le tir %1 a été enregistré au même point, à %2&#xa0;; ses arrivées sont plus tardives de %3 ms</translation>
     </message>
     <message>
         <source>the record is that of shot %1 once more, sample for sample</source>
@@ -5867,20 +5855,20 @@ Veuillez définir la position des géophones
         <translation>aucun géophone entre %1 et %2 m&#xa0;: le terrain n&apos;y est vu d&apos;aucun côté, sauf si des tirs portent au-delà</translation>
     </message>
     <message>
-        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
-        <translation>les dispositifs %1 et %2 se recouvrent et ont des altitudes différentes en %3 endroits, de %4 m au plus, à %5 m</translation>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
+        <translation>les dispositifs %1 et %2 se recouvrent et ont des altitudes différentes en %3 endroits, de %4 au plus, à %5</translation>
     </message>
     <message>
-        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
-        <translation>aucune altitude&#xa0;: tous les tirs et géophones sont à %1 m&#xa0;; si le terrain n&apos;est pas plat, lisez-les dans un tableau, dans la géométrie du levé</translation>
+        <source>no elevations: all shots and geophones are at %1; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>aucune altitude&#xa0;: tous les tirs et géophones sont à %1&#xa0;; si le terrain n&apos;est pas plat, lisez-les dans un tableau, dans la géométrie du levé</translation>
     </message>
     <message>
-        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
-        <translation>la position %1 du tir compte des stations&#xa0;: sur %2 tirs, les temps minimaux se déplacent de %3 m pour chaque unité de la position</translation>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
+        <translation>la position %1 du tir compte des stations&#xa0;: sur %2 tirs, les temps minimaux se déplacent de %3 pour chaque unité de la position</translation>
     </message>
     <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
-        <translation>les positions des géophones ne sont pas des mètres&#xa0;: sur %1 tirs, les temps minimaux se déplacent de %2 pour chaque mètre du tir&#xa0;; des géophones espacés de %3 m à partir de %4 m les ont à côté des tirs</translation>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>les positions des géophones ne sont pas des mètres&#xa0;: sur %1 tirs, les temps minimaux se déplacent de %2 pour chaque mètre du tir&#xa0;; des géophones espacés de %3 à partir de %4 les ont à côté des tirs</translation>
     </message>
     <message>
         <source>late</source>
@@ -6025,10 +6013,6 @@ Veuillez définir la position des géophones
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>il porte sur d&apos;autres fichiers de tirs que ceux du projet</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 to %2 m</source>
@@ -6251,12 +6235,12 @@ Veuillez définir la position des géophones
         <translation>ses géophones diffèrent en y mais pas en x&#xa0;; y a été pris comme position le long de la ligne</translation>
     </message>
     <message>
-        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
-        <translation>tous ses géophones sont à x = %1 m&#xa0;; donnez au levé sa géométrie</translation>
+        <source>all its geophones are at x = %1; give the survey its geometry</source>
+        <translation>tous ses géophones sont à x = %1&#xa0;; donnez au levé sa géométrie</translation>
     </message>
     <message>
-        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
-        <translation>ses géophones diffèrent jusqu&apos;à %1 m en y, qui n&apos;est pas utilisé&#xa0;; les positions le long de la ligne sont x</translation>
+        <source>its geophones differ by up to %1 in y, which is not used; positions along the line are x</source>
+        <translation>ses géophones diffèrent jusqu&apos;à %1 en y, qui n&apos;est pas utilisé&#xa0;; les positions le long de la ligne sont x</translation>
     </message>
     <message>
         <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
@@ -6351,20 +6335,20 @@ Veuillez définir la position des géophones
         <translation>ses coordonnées ne distinguent pas les géophones&#xa0;; ils ont été placés d&apos;après leur déport (octets 37 à 40) par rapport au tir</translation>
     </message>
     <message>
-        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
-        <translation>ses en-têtes n&apos;indiquent aucune position&#xa0;; tirs et géophones sont tous à %1 m, chargez donc un fichier de géométrie</translation>
+        <source>its headers tell no positions; shots and geophones all stand at %1, so load a geometry file</source>
+        <translation>ses en-têtes n&apos;indiquent aucune position&#xa0;; tirs et géophones sont tous à %1, chargez donc un fichier de géométrie</translation>
     </message>
     <message>
-        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
-        <translation>ses en-têtes placent les géophones de toutes les traces à %1 m&#xa0;; chargez un fichier de géométrie s&apos;il y en avait plus d&apos;un</translation>
+        <source>its headers put the geophones of all traces at %1; load a geometry file if there was more than one</source>
+        <translation>ses en-têtes placent les géophones de toutes les traces à %1&#xa0;; chargez un fichier de géométrie s&apos;il y en avait plus d&apos;un</translation>
     </message>
     <message>
-        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
-        <translation>des tirs sont jusqu&apos;à %1 m à côté de la ligne des géophones&#xa0;; x est pris tel quel</translation>
+        <source>shots stand up to %1 beside the line of geophones; x is taken as it stands</source>
+        <translation>des tirs sont jusqu&apos;à %1 à côté de la ligne des géophones&#xa0;; x est pris tel quel</translation>
     </message>
     <message>
-        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
-        <translation>ses coordonnées ne suivent pas x&#xa0;; les distances sont celles le long de la droite passant par les géophones, depuis le premier géophone de ce fichier, qui est à x %1, y %2&#xa0;; des géophones s&apos;en écartent jusqu&apos;à %3 m, des tirs jusqu&apos;à %4 m</translation>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
+        <translation>ses coordonnées ne suivent pas x&#xa0;; les distances sont celles le long de la droite passant par les géophones, depuis le premier géophone de ce fichier, qui est à x %1, y %2&#xa0;; des géophones s&apos;en écartent jusqu&apos;à %3, des tirs jusqu&apos;à %4</translation>
     </message>
     <message>
         <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
@@ -6375,8 +6359,8 @@ Veuillez définir la position des géophones
         <translation>les altitudes ou les profondeurs de tir sont hors de tout terrain possible (%1)&#xa0;; les altitudes du fichier ont été prises égales à 0</translation>
     </message>
     <message>
-        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
-        <translation>des tirs sont jusqu&apos;à %1 m sous le sol&#xa0;; leurs altitudes sont celles des tirs, pas celles du sol au-dessus</translation>
+        <source>shots lie up to %1 below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>des tirs sont jusqu&apos;à %1 sous le sol&#xa0;; leurs altitudes sont celles des tirs, pas celles du sol au-dessus</translation>
     </message>
     <message>
         <source>the shot depth of %1 is negative and was taken as 0</source>
@@ -6771,8 +6755,8 @@ Veuillez définir la position des géophones
         <translation>seuls %1 pointés sont avec certitude d&apos;ondes réfractées par le réfracteur %2&#xa0;; il en faut %3</translation>
     </message>
     <message>
-        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
-        <translation>les ondes directes, à %1 m/s, sont plus lentes que les limites ne le permettent</translation>
+        <source>waves along the surface at %1 are slower than the bounds allow</source>
+        <translation>les ondes directes, à %1, sont plus lentes que les limites ne le permettent</translation>
     </message>
     <message>
         <source>the times of a refractor grow too little with offset for the bounds</source>
@@ -6963,12 +6947,12 @@ Veuillez définir la position des géophones
         <translation>Le test de résolution a échoué&#xa0;: %1</translation>
     </message>
     <message>
-        <source>The size of the pattern must be positive; %1 m is not.</source>
-        <translation>La taille du motif doit être positive&#xa0;; %1 m ne l&apos;est pas.</translation>
+        <source>The size of the pattern must be positive; %1 is not.</source>
+        <translation>La taille du motif doit être positive&#xa0;; %1 ne l&apos;est pas.</translation>
     </message>
     <message>
-        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
-        <translation>Le motif a %1 m, moins qu&apos;une cellule de la grille, qui en a %2 m&#xa0;; choisissez-en un plus grand.</translation>
+        <source>The pattern has %1, less than a cell of the grid, which has %2; choose a larger one.</source>
+        <translation>Le motif a %1, moins qu&apos;une cellule de la grille, qui en a %2&#xa0;; choisissez-en un plus grand.</translation>
     </message>
     <message>
         <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
@@ -7079,8 +7063,8 @@ Veuillez définir la position des géophones
         <translation>%1 m n&apos;est pas une profondeur sous la surface (0 à %2)</translation>
     </message>
     <message>
-        <source>%1 m is no position along the line</source>
-        <translation>%1 m n&apos;est pas une position le long de la ligne</translation>
+        <source>%1 is no position along the line</source>
+        <translation>%1 n&apos;est pas une position le long de la ligne</translation>
     </message>
     <message>
         <source>it has no name</source>
@@ -7099,12 +7083,12 @@ Veuillez définir la position des géophones
         <translation>il n&apos;a pas de couche</translation>
     </message>
     <message>
-        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
-        <translation>la couche à partir de %1 m commence au-dessus de la base de la précédente, %2 m</translation>
+        <source>the layer from %1 begins above the bottom of the one before, %2</source>
+        <translation>la couche à partir de %1 commence au-dessus de la base de la précédente, %2</translation>
     </message>
     <message>
-        <source>%1 m is no error of a depth</source>
-        <translation>%1 m n&apos;est pas une erreur de profondeur</translation>
+        <source>%1 is no error of a depth</source>
+        <translation>%1 n&apos;est pas une erreur de profondeur</translation>
     </message>
     <message>
         <source>refractors have the numbers 1 to %1</source>
@@ -7271,12 +7255,12 @@ Veuillez définir la position des géophones
         <translation>%1 ne contient aucune cellule de la grille&#xa0;: trop petit, ou hors de celle-ci.</translation>
     </message>
     <message>
-        <source>%1 at %2 m stands beyond the grid.</source>
-        <translation>%1, à %2 m, est hors de la grille.</translation>
+        <source>%1 at %2 stands beyond the grid.</source>
+        <translation>%1, à %2, est hors de la grille.</translation>
     </message>
     <message>
-        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
-        <translation>%1 descend à %2 m, sous la grille&#xa0;; ce qui est au-dessous de %3 m ne compte pas.</translation>
+        <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
+        <translation>%1 descend à %2, sous la grille&#xa0;; ce qui est au-dessous de %3 ne compte pas.</translation>
     </message>
     <message>
         <source>%1, %2 to %3 m</source>
@@ -7287,20 +7271,20 @@ Veuillez définir la position des géophones
         <translation>%1&#xa0;: aucune cellule n&apos;est en majeure partie de cette couche&#xa0;; elle compte selon sa part des cellules, ou se trouve dans un corps fixe.</translation>
     </message>
     <message>
-        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
-        <translation>%1 (à %2 m le long de la ligne, à %3 m de profondeur) est hors de la grille, ou plus près de son bord que son erreur ou qu&apos;une cellule.</translation>
+        <source>%1 (%2 along the line, %3 deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (à %2 le long de la ligne, à %3 de profondeur) est hors de la grille, ou plus près de son bord que son erreur ou qu&apos;une cellule.</translation>
     </message>
     <message>
-        <source>%1, %2 m/s at %3 m</source>
-        <translation>%1, %2 m/s à %3 m</translation>
+        <source>%1, %2 at %3</source>
+        <translation>%1, %2 à %3</translation>
     </message>
     <message>
-        <source>%1, %2 m/s above</source>
-        <translation>%1, %2 m/s au-dessus</translation>
+        <source>%1, %2 above</source>
+        <translation>%1, %2 au-dessus</translation>
     </message>
     <message>
-        <source>%1, %2 m/s below</source>
-        <translation>%1, %2 m/s au-dessous</translation>
+        <source>%1, %2 below</source>
+        <translation>%1, %2 au-dessous</translation>
     </message>
     <message>
         <source>Layered interpretation</source>
@@ -7327,12 +7311,12 @@ Veuillez définir la position des géophones
         <translation>Partir des couches</translation>
     </message>
     <message>
-        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
-        <translation>Une couche a une vitesse de %1 m/s, ce qui n&apos;est pas une vitesse du sol.</translation>
+        <source>A layer has a velocity of %1, which is no velocity of the ground.</source>
+        <translation>Une couche a une vitesse de %1, ce qui n&apos;est pas une vitesse du sol.</translation>
     </message>
     <message>
-        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
-        <translation>La couche qui commence à %1 m en chevauche une autre&#xa0;; classez les couches par profondeur, sans chevauchement.</translation>
+        <source>The layer that begins at %1 lies over another; order the layers by depth, without overlap.</source>
+        <translation>La couche qui commence à %1 en chevauche une autre&#xa0;; classez les couches par profondeur, sans chevauchement.</translation>
     </message>
     <message>
         <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
@@ -7419,8 +7403,8 @@ Veuillez définir la position des géophones
         <translation>Coupe, plus fort gradient</translation>
     </message>
     <message>
-        <source>Section, %1 m/s</source>
-        <translation>Coupe, %1 m/s</translation>
+        <source>Section, %1</source>
+        <translation>Coupe, %1</translation>
     </message>
     <message>
         <source>The methods could not be compared: %1</source>
@@ -7483,8 +7467,8 @@ Veuillez définir la position des géophones
         <translation>masse volumique %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
     <message>
-        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
-        <translation>Couche %1&#xa0;: en %2 points sur %3, les profondeurs de son toit selon P et selon S diffèrent de plus de %4&#xa0;% (leur médiane y est de %5 m selon P, %6 m selon S). Les ondes P voient souvent la nappe, les ondes S non&#xa0;: le même numéro peut désigner des terrains différents.</translation>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 by P, %6 by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Couche %1&#xa0;: en %2 points sur %3, les profondeurs de son toit selon P et selon S diffèrent de plus de %4&#xa0;% (leur médiane y est de %5 selon P, %6 selon S). Les ondes P voient souvent la nappe, les ondes S non&#xa0;: le même numéro peut désigner des terrains différents.</translation>
     </message>
     <message>
         <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
@@ -7503,8 +7487,8 @@ Veuillez définir la position des géophones
         <translation>La relation de Gardner a été établie pour des roches plus rapides que 1500 m/s&#xa0;; en %1 points sur %2, Vp est inférieure et la masse volumique approximative.</translation>
     </message>
     <message>
-        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
-        <translation>Les surfaces de P et de S sont distantes de %1 m au plus, à %2 m&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
+        <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
+        <translation>Les surfaces de P et de S sont distantes de %1 au plus, à %2&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
     </message>
     <message>
         <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
@@ -7519,8 +7503,8 @@ Veuillez définir la position des géophones
         <translation>Les positions de P et de S sur la carte sont données dans des systèmes différents (EPSG:%1 et EPSG:%2) et n&apos;ont pas été comparées.</translation>
     </message>
     <message>
-        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
-        <translation>Les mêmes distances de P et de S sont éloignées de %1 m au plus sur la carte&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
+        <source>The same distances of P and S lie up to %1 apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Les mêmes distances de P et de S sont éloignées de %1 au plus sur la carte&#xa0;: ce n&apos;est peut-être pas la même ligne, ou elle ne commence pas au même endroit.</translation>
     </message>
     <message>
         <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
@@ -7647,8 +7631,8 @@ Veuillez définir la position des géophones
         <translation>Dans %1 cellules sur %2, Vp/Vs est inférieur à 1,41 et le coefficient de Poisson négatif, ce qui n&apos;est le cas ni des sols ni des roches.</translation>
     </message>
     <message>
-        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
-        <translation>Les surfaces des coupes de P et de S sont distantes de %1 m au plus, à %2 m&#xa0;; les cellules sont appariées selon leur profondeur sous elles.</translation>
+        <source>The surfaces of the sections of P and S lie up to %1 apart, at %2; cells are matched by their depths below them.</source>
+        <translation>Les surfaces des coupes de P et de S sont distantes de %1 au plus, à %2&#xa0;; les cellules sont appariées selon leur profondeur sous elles.</translation>
     </message>
     <message>
         <source>A section has no layers: all of it has the first density.</source>
@@ -7699,8 +7683,8 @@ Veuillez définir la position des géophones
         <translation>S&#xa0;: son profil a été ajusté à tous les pointés et ne reçoit pas d&apos;erreurs. Un profil par la méthode réciproque en reçoit.</translation>
     </message>
     <message>
-        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
-        <translation>Dans ce profil, la vitesse de la couche 1 varie le long de la ligne et avec la profondeur&#xa0;; ici, c&apos;est partout sa moyenne, %1 m/s.</translation>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1, everywhere.</source>
+        <translation>Dans ce profil, la vitesse de la couche 1 varie le long de la ligne et avec la profondeur&#xa0;; ici, c&apos;est partout sa moyenne, %1.</translation>
     </message>
     <message>
         <source>the first distance must be a number, and the EPSG code a whole number</source>
@@ -7903,8 +7887,8 @@ Veuillez définir la position des géophones
         <translation>elle a %1 points et il en faut %2 au moins</translation>
     </message>
     <message>
-        <source>%1 m, %2 m is no place of a section</source>
-        <translation>%1 m, %2 m n&apos;est pas un endroit d&apos;une coupe</translation>
+        <source>%1, %2 is no place of a section</source>
+        <translation>%1, %2 n&apos;est pas un endroit d&apos;une coupe</translation>
     </message>
     <message>
         <source>a text is %1 to %2 points high</source>
@@ -7935,8 +7919,8 @@ Veuillez définir la position des géophones
         <translation>passe-haut %1 Hz, ordre %2</translation>
     </message>
     <message>
-        <source>%1 m/s and more</source>
-        <translation>%1 m/s et plus</translation>
+        <source>%1 and more</source>
+        <translation>%1 et plus</translation>
     </message>
     <message>
         <source>forth along the line</source>
@@ -8075,8 +8059,8 @@ Veuillez définir la position des géophones
         <translation>il n&apos;a pas d&apos;échantillons, ou pas de pas d&apos;échantillonnage connu</translation>
     </message>
     <message>
-        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
-        <translation>ses géophones ne sont pas régulièrement espacés&#xa0;: la trace %1 à %2 m est à %3 m de la précédente, la distance habituelle est de %4 m</translation>
+        <source>its geophones are not evenly spaced: trace %1 at %2 is %3 from the one before, the usual distance is %4</source>
+        <translation>ses géophones ne sont pas régulièrement espacés&#xa0;: la trace %1 à %2 est à %3 de la précédente, la distance habituelle est de %4</translation>
     </message>
     <message>
         <source>it has fewer than %1 traces</source>
@@ -8095,8 +8079,8 @@ Veuillez définir la position des géophones
         <translation>tir %1&#xa0;: sur %2 emplacements le long de sa ligne, %3 n&apos;ont pas de trace, ou une trace neutralisée&#xa0;; ils comptent comme nuls, à côté le filtre est moins net</translation>
     </message>
     <message>
-        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
-        <translation>la vitesse la plus lente, %1 m/s, doit être supérieure à 0 et inférieure à la plus rapide, %2 m/s</translation>
+        <source>the slowest velocity, %1, must be above 0 and below the fastest, %2</source>
+        <translation>la vitesse la plus lente, %1, doit être supérieure à 0 et inférieure à la plus rapide, %2</translation>
     </message>
     <message>
         <source>the taper must be 0 or more and less than 100 percent of a limit</source>
@@ -9697,8 +9681,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Tir</translation>
     </message>
     <message>
-        <source>Position [m]</source>
-        <translation>Position [m]</translation>
+        <source>Position [%1]</source>
+        <translation>Position [%1]</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -9757,10 +9741,6 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Côté d&apos;une cellule</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>Depth below the surface</source>
         <translation>Profondeur sous la surface</translation>
     </message>
@@ -9781,20 +9761,20 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Couche</translation>
     </message>
     <message>
-        <source>Top [m]</source>
-        <translation>Toit [m]</translation>
+        <source>Top [%1]</source>
+        <translation>Toit [%1]</translation>
     </message>
     <message>
-        <source>Bottom [m]</source>
-        <translation>Base [m]</translation>
+        <source>Bottom [%1]</source>
+        <translation>Base [%1]</translation>
     </message>
     <message>
-        <source>Velocity at top [m/s]</source>
-        <translation>Vitesse au toit [m/s]</translation>
+        <source>Velocity at top [%1]</source>
+        <translation>Vitesse au toit [%1]</translation>
     </message>
     <message>
-        <source>Velocity at bottom [m/s]</source>
-        <translation>Vitesse à la base [m/s]</translation>
+        <source>Velocity at bottom [%1]</source>
+        <translation>Vitesse à la base [%1]</translation>
     </message>
     <message>
         <source>The layers of the starting model, depths below the surface</source>
@@ -9819,10 +9799,6 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>Velocity limits</source>
         <translation>Limites de vitesse</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>Smoothing</source>
@@ -9925,16 +9901,16 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Résidus des pointés en fonction de la distance à leur tir</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Altitude [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Altitude [%1]</translation>
     </message>
     <message>
-        <source>Depth %1 [m]</source>
-        <translation>Profondeur %1 [m]</translation>
+        <source>Depth %1 [%2]</source>
+        <translation>Profondeur %1 [%2]</translation>
     </message>
     <message>
-        <source>Velocity %1 [m/s]</source>
-        <translation>Vitesse %1 [m/s]</translation>
+        <source>Velocity %1 [%2]</source>
+        <translation>Vitesse %1 [%2]</translation>
     </message>
     <message>
         <source>Refraction interpretation</source>
@@ -10025,16 +10001,16 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Géophones</translation>
     </message>
     <message>
-        <source>From [m]</source>
-        <translation>De [m]</translation>
+        <source>From [%1]</source>
+        <translation>De [%1]</translation>
     </message>
     <message>
-        <source>To [m]</source>
-        <translation>À [m]</translation>
+        <source>To [%1]</source>
+        <translation>À [%1]</translation>
     </message>
     <message>
-        <source>Spacing [m]</source>
-        <translation>Espacement [m]</translation>
+        <source>Spacing [%1]</source>
+        <translation>Espacement [%1]</translation>
     </message>
     <message>
         <source>Strings of geophones</source>
@@ -10217,8 +10193,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Les pointés ont changé depuis la construction de ce profil&#xa0;: il est celui des pointés antérieurs.</translation>
     </message>
     <message>
-        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation>Aucune vitesse n&apos;est donnée là où les temps en donneraient une hors de la plage de 50 à 12&#xa0;000 m/s. Aucune profondeur n&apos;est donnée à ces endroits, ni sous une couche dont la vitesse ou la profondeur n&apos;est pas connue ou qui est plus rapide, ni là où la profondeur calculée dépasse la longueur de la ligne.</translation>
+        <source>No velocity is given where the times lead to one outside %1 to %2. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation>Aucune vitesse n&apos;est donnée là où les temps en donneraient une hors de la plage de %1 à %2. Aucune profondeur n&apos;est donnée à ces endroits, ni sous une couche dont la vitesse ou la profondeur n&apos;est pas connue ou qui est plus rapide, ni là où la profondeur calculée dépasse la longueur de la ligne.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
@@ -10477,12 +10453,12 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>vitesse</translation>
     </message>
     <message>
-        <source>%1: depth [m]</source>
-        <translation>%1&#xa0;: profondeur [m]</translation>
+        <source>%1: depth [%2]</source>
+        <translation>%1&#xa0;: profondeur [%2]</translation>
     </message>
     <message>
-        <source>%1: velocity [m/s]</source>
-        <translation>%1&#xa0;: vitesse [m/s]</translation>
+        <source>%1: velocity [%2]</source>
+        <translation>%1&#xa0;: vitesse [%2]</translation>
     </message>
     <message>
         <source>Disagree in</source>
@@ -10573,8 +10549,12 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Croissance de sa vitesse avec la profondeur</translation>
     </message>
     <message>
-        <source>%1 % of that at the surface per metre, down to %2 m</source>
-        <translation>%1&#xa0;% de celle en surface par mètre, jusqu&apos;à %2 m de profondeur</translation>
+        <source>%1 % of that at the surface per metre, down to %2</source>
+        <translation>%1&#xa0;% de celle en surface par mètre, jusqu&apos;à %2 de profondeur</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per foot, down to %2</source>
+        <translation>%1&#xa0;% de celle en surface par pied, jusqu&apos;à %2 de profondeur</translation>
     </message>
     <message>
         <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
@@ -11411,16 +11391,16 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Coupe de vitesse</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distance %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distance %1</translation>
     </message>
     <message>
-        <source>Horizontal %1 m</source>
-        <translation>Horizontale %1 m</translation>
+        <source>Horizontal %1</source>
+        <translation>Horizontale %1</translation>
     </message>
     <message>
-        <source>Vertical %1 m</source>
-        <translation>Verticale %1 m</translation>
+        <source>Vertical %1</source>
+        <translation>Verticale %1</translation>
     </message>
     <message>
         <source>Slope %1°</source>
@@ -11503,6 +11483,22 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Langue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth unit:</source>
+        <translation>&amp;Unité de longueur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What lengths and velocities are shown and asked for in. Files stay in metres.</source>
+        <translation>Unité dans laquelle longueurs et vitesses sont affichées et demandées. Les fichiers restent en mètres.</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation>mètres</translation>
+    </message>
+    <message>
+        <source>feet (0.3048 m)</source>
+        <translation>pieds (0,3048&#xa0;m)</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -14622,8 +14618,8 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
 <context>
     <name>talvesk::TraceAxes</name>
     <message>
-        <source>x (m)</source>
-        <translation>x (m)</translation>
+        <source>x (%1)</source>
+        <translation>x (%1)</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -14641,12 +14637,12 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>%1 m, %2 ms</source>
-        <translation>%1 m, %2 ms</translation>
+        <source>%1, %2 ms</source>
+        <translation>%1, %2 ms</translation>
     </message>
     <message>
-        <source>%1 m/s (%2 m, %3 ms)</source>
-        <translation>%1 m/s (%2 m, %3 ms)</translation>
+        <source>%1 (%2, %3 ms)</source>
+        <translation>%1 (%2, %3 ms)</translation>
     </message>
     <message>
         <source>Other shots</source>
@@ -14657,17 +14653,17 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>Calculés</translation>
     </message>
     <message>
-        <source>Air %1 m/s</source>
-        <translation>Air %1 m/s</translation>
+        <source>Air %1</source>
+        <translation>Air %1</translation>
     </message>
     <message>
         <source>No other shot of the string is picked</source>
         <translation>Aucun autre tir du dispositif n&apos;est pointé</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
+        <source>Shot %1 at %2</source>
         <comment>number, place</comment>
-        <translation>Tir %1 à %2 m</translation>
+        <translation>Tir %1 à %2</translation>
     </message>
     <message>
         <source>No computed times</source>
@@ -14697,8 +14693,8 @@ Pick first breaks in the traces, by hand or with AutoPick, or import travel time
 Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou importez des temps de parcours.</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distance [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distance [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -14733,8 +14729,8 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Enregistrer les courbes en PNG, SVG ou PDF</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
-        <translation>Tir %1 à %2 m</translation>
+        <source>Shot %1 at %2</source>
+        <translation>Tir %1 à %2</translation>
     </message>
     <message>
         <source>Shot %1 has no travel times yet</source>
@@ -14999,40 +14995,40 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Tout afficher</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distance %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distance %1</translation>
     </message>
     <message>
-        <source>elevation %1 m</source>
-        <translation>altitude %1 m</translation>
+        <source>elevation %1</source>
+        <translation>altitude %1</translation>
     </message>
     <message>
-        <source>depth %1 m</source>
-        <translation>profondeur %1 m</translation>
+        <source>depth %1</source>
+        <translation>profondeur %1</translation>
     </message>
     <message>
         <source>Vertical profile</source>
         <translation>Profil vertical</translation>
     </message>
     <message>
-        <source>Vertical profile at %1 m</source>
-        <translation>Profil vertical à %1 m</translation>
+        <source>Vertical profile at %1</source>
+        <translation>Profil vertical à %1</translation>
     </message>
     <message>
-        <source>Depth from [m]</source>
-        <translation>Profondeur de [m]</translation>
+        <source>Depth from [%1]</source>
+        <translation>Profondeur de [%1]</translation>
     </message>
     <message>
-        <source>Depth to [m]</source>
-        <translation>Profondeur à [m]</translation>
+        <source>Depth to [%1]</source>
+        <translation>Profondeur à [%1]</translation>
     </message>
     <message>
-        <source>Depth below ground [m]</source>
-        <translation>Profondeur sous le sol [m]</translation>
+        <source>Depth below ground [%1]</source>
+        <translation>Profondeur sous le sol [%1]</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Vitesse [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Vitesse [%1]</translation>
     </message>
     <message>
         <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
@@ -15067,8 +15063,8 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Tir %1</translation>
     </message>
     <message>
-        <source>geophone %1 at %2 m</source>
-        <translation>géophone %1 à %2 m</translation>
+        <source>geophone %1 at %2</source>
+        <translation>géophone %1 à %2</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -15275,8 +15271,8 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
 <context>
     <name>talvesk::XYCriteria</name>
     <message>
-        <source>XY (m)</source>
-        <translation>XY (m)</translation>
+        <source>XY (%1)</source>
+        <translation>XY (%1)</translation>
     </message>
     <message>
         <source>Roughness of tV</source>
@@ -15670,12 +15666,12 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Vitesse en fonction de la profondeur</translation>
     </message>
     <message>
-        <source>Velocity (m/s)</source>
-        <translation>Vitesse (m/s)</translation>
+        <source>Velocity (%1)</source>
+        <translation>Vitesse (%1)</translation>
     </message>
     <message>
-        <source>Depth below the ground (m)</source>
-        <translation>Profondeur sous le sol (m)</translation>
+        <source>Depth below the ground (%1)</source>
+        <translation>Profondeur sous le sol (%1)</translation>
     </message>
     <message>
         <source>Layers</source>

@@ -174,12 +174,12 @@
         <translation>Chi quadrato</translation>
     </message>
     <message>
-        <source>Length covered [m]</source>
-        <translation>Lunghezza coperta [m]</translation>
+        <source>Length covered [%1]</source>
+        <translation>Lunghezza coperta [%1]</translation>
     </message>
     <message>
-        <source>Depth reached [m]</source>
-        <translation>Profondità raggiunta [m]</translation>
+        <source>Depth reached [%1]</source>
+        <translation>Profondità raggiunta [%1]</translation>
     </message>
     <message>
         <source>Cells with rays [%]</source>
@@ -242,8 +242,8 @@
         <translation>Linee</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocità [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocità [%1]</translation>
     </message>
     <message>
         <source>Small sections are stretched to fill their place; their colours are the same for all lines. Misfits are those of the sections shown, along fresh rays.</source>
@@ -304,10 +304,6 @@
     <message>
         <source>Skip to the content</source>
         <translation>Vai al contenuto</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 km</source>
@@ -1792,8 +1788,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>N</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocità [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocità [%1]</translation>
     </message>
     <message>
         <source>Sections at their places on the map</source>
@@ -1883,12 +1879,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Esagerazione verticale %1</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distanza [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distanza [%1]</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Quota [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Quota [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -1923,9 +1919,9 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Tiro %1</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
+        <source>%1 at %2</source>
         <comment>shot, place</comment>
-        <translation>%1 a %2 m</translation>
+        <translation>%1 a %2</translation>
     </message>
     <message>
         <source>%1, filtered</source>
@@ -1987,12 +1983,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Profilo a rifrazione</translation>
     </message>
     <message>
-        <source>X (m)</source>
-        <translation>X (m)</translation>
+        <source>X (%1)</source>
+        <translation>X (%1)</translation>
     </message>
     <message>
-        <source>Z (m)</source>
-        <translation>Z (m)</translation>
+        <source>Z (%1)</source>
+        <translation>Z (%1)</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -2011,8 +2007,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Scarto quadratico medio [ms]</translation>
     </message>
     <message>
-        <source>Offset [m]</source>
-        <translation>Distanza dal tiro [m]</translation>
+        <source>Offset [%1]</source>
+        <translation>Distanza dal tiro [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [ms]</source>
@@ -2130,8 +2126,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Ricostruito</translation>
     </message>
     <message>
-        <source>[m]</source>
-        <translation>[m]</translation>
+        <source>[%1]</source>
+        <translation>[%1]</translation>
     </message>
     <message>
         <source>Depth of %1, 16 to 84 %</source>
@@ -2162,24 +2158,24 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>%1 esclusi</translation>
     </message>
     <message>
-        <source>Geophone at [m]</source>
-        <translation>Geofono a [m]</translation>
+        <source>Geophone at [%1]</source>
+        <translation>Geofono a [%1]</translation>
     </message>
     <message>
         <source>Computed minus measured [pick errors]</source>
         <translation>Calcolato meno misurato [errori dei primi arrivi]</translation>
     </message>
     <message>
-        <source>Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
-        <translation>Tiro %1, geofono %2 a %3 m, distanza %4 m: misurato %5 ms, calcolato %6 ms, residuo %7 ms, errore %8 ms (%9 errori)</translation>
+        <source>Shot %1, geophone %2 at %3, offset %4: measured %5 ms, computed %6 ms, residual %7 ms, error %8 ms (%9 errors)</source>
+        <translation>Tiro %1, geofono %2 a %3, distanza %4: misurato %5 ms, calcolato %6 ms, residuo %7 ms, errore %8 ms (%9 errori)</translation>
     </message>
     <message>
         <source>; suspect</source>
         <translation>; sospetto</translation>
     </message>
     <message>
-        <source>Geophone at [m]; hatched: no pick, with a dot: suspect</source>
-        <translation>Geofono a [m]; tratteggiato: nessun primo arrivo, con un punto: sospetto</translation>
+        <source>Geophone at [%1]; hatched: no pick, with a dot: suspect</source>
+        <translation>Geofono a [%1]; tratteggiato: nessun primo arrivo, con un punto: sospetto</translation>
     </message>
     <message>
         <source>Shot, along the line</source>
@@ -2210,12 +2206,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Mediana e una deviazione standard</translation>
     </message>
     <message>
-        <source>%1: %2 m/s</source>
-        <translation>%1: %2 m/s</translation>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
     <message>
-        <source>%1 (%2 m beside the line)</source>
-        <translation>%1 (%2 m di lato alla linea)</translation>
+        <source>%1 (%2 beside the line)</source>
+        <translation>%1 (%2 di lato alla linea)</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -2230,8 +2226,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Corpi fissi</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocità [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocità [%1]</translation>
     </message>
     <message>
         <source>Vp/Vs</source>
@@ -2290,10 +2286,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>M</translation>
     </message>
     <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
-    </message>
-    <message>
         <source>kg/m3</source>
         <translation>kg/m3</translation>
     </message>
@@ -2310,12 +2302,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Densità %1 kg/m3</translation>
     </message>
     <message>
-        <source>Layer %1, %2 m/s</source>
-        <translation>Strato %1, %2 m/s</translation>
+        <source>Layer %1, %2</source>
+        <translation>Strato %1, %2</translation>
     </message>
     <message>
-        <source>Layer %1, %2 ± %3 m/s</source>
-        <translation>Strato %1, %2 ± %3 m/s</translation>
+        <source>Layer %1, %2 ± %3</source>
+        <translation>Strato %1, %2 ± %3</translation>
     </message>
     <message>
         <source>Dashed: not carried by picks there</source>
@@ -2326,8 +2318,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Errore dei primi arrivi (68 su 100)</translation>
     </message>
     <message>
-        <source>Depth [m]</source>
-        <translation>Profondità [m]</translation>
+        <source>Depth [%1]</source>
+        <translation>Profondità [%1]</translation>
     </message>
     <message>
         <source>Depths are below the surface</source>
@@ -2354,12 +2346,12 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Strati</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean, growing with depth</source>
-        <translation>Strato 1, in media %1 m/s, crescente con la profondità</translation>
+        <source>Layer 1, %1 in the mean, growing with depth</source>
+        <translation>Strato 1, in media %1, crescente con la profondità</translation>
     </message>
     <message>
-        <source>Layer 1, %1 m/s in the mean</source>
-        <translation>Strato 1, in media %1 m/s</translation>
+        <source>Layer 1, %1 in the mean</source>
+        <translation>Strato 1, in media %1</translation>
     </message>
     <message>
         <source>Vertical gradient [1/s]</source>
@@ -2370,16 +2362,16 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Incertezza [%]</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distanza %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distanza %1</translation>
     </message>
     <message>
         <source>no section here</source>
         <translation>qui nessuna sezione</translation>
     </message>
     <message>
-        <source>surface at %1 m</source>
-        <translation>superficie a %1 m</translation>
+        <source>surface at %1</source>
+        <translation>superficie a %1</translation>
     </message>
     <message>
         <source>shaded: 16 to 84 %</source>
@@ -2393,10 +2385,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>annotations outside the section: %1</source>
         <translation>annotazioni fuori dalla sezione: %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>%1 (not reached)</source>
@@ -2565,8 +2553,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Nessuno spettro</translation>
     </message>
     <message>
-        <source>Wavenumber along the line (1/m)</source>
-        <translation>Numero d&apos;onda lungo la linea (1/m)</translation>
+        <source>Wavenumber along the line (1/%1)</source>
+        <translation>Numero d&apos;onda lungo la linea (1/%1)</translation>
     </message>
     <message>
         <source>Frequency (Hz)</source>
@@ -3335,8 +3323,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
 <context>
     <name>talvesk::LayerCurvesPlot</name>
     <message>
-        <source>Shot %1, trace %2: %3 m, %4 ms, %5</source>
-        <translation>Tiro %1, traccia %2: %3 m, %4 ms, %5</translation>
+        <source>Shot %1, trace %2: %3, %4 ms, %5</source>
+        <translation>Tiro %1, traccia %2: %3, %4 ms, %5</translation>
     </message>
     <message>
         <source>no layer</source>
@@ -3542,8 +3530,8 @@ da arrivi</translation>
         <translation>Da controllare</translation>
     </message>
     <message>
-        <source>x %1 m, z %2 m</source>
-        <translation>x %1 m, z %2 m</translation>
+        <source>x %1, z %2</source>
+        <translation>x %1, z %2</translation>
     </message>
     <message>
         <source>Shot %1</source>
@@ -3558,12 +3546,12 @@ da arrivi</translation>
         <translation>Pianta della linea</translation>
     </message>
     <message>
-        <source>Distance (m)</source>
-        <translation>Distanza (m)</translation>
+        <source>Distance (%1)</source>
+        <translation>Distanza (%1)</translation>
     </message>
     <message>
-        <source>Elevation (m)</source>
-        <translation>Quota (m)</translation>
+        <source>Elevation (%1)</source>
+        <translation>Quota (%1)</translation>
     </message>
     <message>
         <source>Line</source>
@@ -3578,24 +3566,24 @@ da arrivi</translation>
         <translation>Geofono %1</translation>
     </message>
     <message>
-        <source>x %1 m, %2 m across</source>
-        <translation>x %1 m, %2 m di lato</translation>
+        <source>x %1, %2 across</source>
+        <translation>x %1, %2 di lato</translation>
     </message>
     <message>
-        <source>%1 m east, %2 m north</source>
-        <translation>%1 m a est, %2 m a nord</translation>
+        <source>%1 east, %2 north</source>
+        <translation>%1 a est, %2 a nord</translation>
     </message>
     <message>
-        <source>Across the line (m)</source>
-        <translation>Di lato alla linea (m)</translation>
+        <source>Across the line (%1)</source>
+        <translation>Di lato alla linea (%1)</translation>
     </message>
     <message>
-        <source>East of the first geophone (m)</source>
-        <translation>A est del primo geofono (m)</translation>
+        <source>East of the first geophone (%1)</source>
+        <translation>A est del primo geofono (%1)</translation>
     </message>
     <message>
-        <source>North of it (m)</source>
-        <translation>A nord di esso (m)</translation>
+        <source>North of it (%1)</source>
+        <translation>A nord di esso (%1)</translation>
     </message>
 </context>
 <context>
@@ -4515,8 +4503,8 @@ da arrivi</translation>
         <translation>%1 righe di %2 colonne non corrispondono a %3 velocità e %4 indicatori di disegno</translation>
     </message>
     <message>
-        <source>cells with %1 nodes per side, %2 m long, cannot be</source>
-        <translation>celle con %1 nodi per lato, lunghe %2 m, non sono possibili</translation>
+        <source>cells with %1 nodes per side, %2 long, cannot be</source>
+        <translation>celle con %1 nodi per lato, lunghe %2, non sono possibili</translation>
     </message>
     <message>
         <source>a velocity is not a positive number</source>
@@ -5267,8 +5255,8 @@ Impostare la posizione dei geofoni
         <translation>Una posizione del rilievo dista più di 100 000 km; controllare la geometria.</translation>
     </message>
     <message>
-        <source>A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
-        <translation>Una griglia di celle di %1 m con %2 nodi per lato, profonda %3 m, non può essere creata; scegliere un lato delle celle positivo, almeno due nodi e una profondità non negativa.</translation>
+        <source>A grid of cells of %1 with %2 nodes per side, %3 deep, cannot be built; choose a positive cell size, two nodes at least and no negative depth.</source>
+        <translation>Una griglia di celle di %1 con %2 nodi per lato, profonda %3, non può essere creata; scegliere un lato delle celle positivo, almeno due nodi e una profondità non negativa.</translation>
     </message>
     <message>
         <source>The grid could not be built; see the error stream.</source>
@@ -5303,8 +5291,8 @@ Impostare la posizione dei geofoni
         <translation>Iterazioni e parametro di smussamento devono essere almeno 1.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers; %1 m/s is none.</source>
-        <translation>I limiti di velocità devono essere numeri positivi; %1 m/s non lo è.</translation>
+        <source>The velocity limits must be positive numbers; %1 is none.</source>
+        <translation>I limiti di velocità devono essere numeri positivi; %1 non lo è.</translation>
     </message>
     <message>
         <source>its gradient has no colours</source>
@@ -5359,8 +5347,8 @@ Impostare la posizione dei geofoni
         <translation>Velocità</translation>
     </message>
     <message>
-        <source>The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
-        <translation>Gli strati danno una velocità di %1 m/s alla profondità di %2 m, che non è una velocità del terreno. Si facciano coprire agli strati tutta la profondità della griglia, o si renda più graduale il passaggio tra di essi.</translation>
+        <source>The layers give a velocity of %1 at a depth of %2, which is no velocity of the ground. Let the layers cover the whole depth of the grid, or make the change between them gentler.</source>
+        <translation>Gli strati danno una velocità di %1 alla profondità di %2, che non è una velocità del terreno. Si facciano coprire agli strati tutta la profondità della griglia, o si renda più graduale il passaggio tra di essi.</translation>
     </message>
     <message>
         <source>a number is out of range or not finite</source>
@@ -5759,8 +5747,8 @@ Impostare la posizione dei geofoni
         <translation>leggere i canali dall&apos;ultimo al primo</translation>
     </message>
     <message>
-        <source>put the shot at %1 m</source>
-        <translation>mettere il tiro a %1 m</translation>
+        <source>put the shot at %1</source>
+        <translation>mettere il tiro a %1</translation>
     </message>
     <message>
         <source>put the %1 geophones of its string at %2 to %3 m</source>
@@ -5779,56 +5767,56 @@ Impostare la posizione dei geofoni
         <translation>scambio: in tutti i tiri gli arrivi della traccia %1 corrispondono al posto della traccia %2, e viceversa</translation>
     </message>
     <message>
-        <source>off the line: geophone %1 is said to be at %2 m; from both sides its arrivals are those of %3 m</source>
-        <translation>fuori posto: il geofono %1 è indicato a %2 m; da entrambi i lati i suoi arrivi sono quelli di %3 m</translation>
+        <source>off the line: geophone %1 is said to be at %2; from both sides its arrivals are those of %3</source>
+        <translation>fuori posto: il geofono %1 è indicato a %2; da entrambi i lati i suoi arrivi sono quelli di %3</translation>
     </message>
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 geofoni sono indicati in sole %2 posizioni</translation>
     </message>
     <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 m and the last one at %5 m</source>
-        <translation>%1; su %2 tiri i tempi minimi si spostano di %3 canali per ogni metro del tiro: il geofono 1 è quindi a %4 m e l&apos;ultimo a %5 m</translation>
+        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1; su %2 tiri i tempi minimi si spostano di %3 canali per ogni metro del tiro: il geofono 1 è quindi a %4 e l&apos;ultimo a %5</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>il tiro è indicato a %1 m; il nome del file dice %2 m, e i tempi minimi del rilievo seguono i nomi</translation>
+        <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>il tiro è indicato a %1; il nome del file dice %2, e i tempi minimi del rilievo seguono i nomi</translation>
     </message>
     <message>
-        <source>the shot is said to be at an elevation of %1 m, and the geophones have none that could be theirs</source>
-        <translation>il tiro è indicato alla quota di %1 m, e i geofoni non hanno quote plausibili</translation>
+        <source>the shot is said to be at an elevation of %1, and the geophones have none that could be theirs</source>
+        <translation>il tiro è indicato alla quota di %1, e i geofoni non hanno quote plausibili</translation>
     </message>
     <message>
         <source>the channels run against the geophones: the least times of %1 of %2 shots are beside the shot only when the string is read from its last geophone to its first</source>
         <translation>i canali vanno in senso contrario ai geofoni: i tempi minimi di %1 tiri su %2 sono accanto al tiro solo se la stesa si legge dall&apos;ultimo geofono al primo</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the name of the file says %2 m, and the least times of the survey follow the names</source>
-        <translation>tutti i tiri sono indicati a %1 m; il nome del file dice %2 m, e i tempi minimi del rilievo seguono i nomi</translation>
+        <source>all shots are said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
+        <translation>tutti i tiri sono indicati a %1; il nome del file dice %2, e i tempi minimi del rilievo seguono i nomi</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; the times of this one are least at %2 m</source>
-        <translation>tutti i tiri sono indicati a %1 m; i tempi di questo sono minimi a %2 m</translation>
+        <source>all shots are said to be at %1; the times of this one are least at %2</source>
+        <translation>tutti i tiri sono indicati a %1; i tempi di questo sono minimi a %2</translation>
     </message>
     <message>
-        <source>all shots are said to be at %1 m; this one was at an end of the geophones or beyond</source>
-        <translation>tutti i tiri sono indicati a %1 m; questo era a un estremo dei geofoni o oltre</translation>
+        <source>all shots are said to be at %1; this one was at an end of the geophones or beyond</source>
+        <translation>tutti i tiri sono indicati a %1; questo era a un estremo dei geofoni o oltre</translation>
     </message>
     <message>
-        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1 m</source>
-        <translation>i canali di questa registrazione vanno in senso contrario ai geofoni: letti dall&apos;ultimo al primo, i tempi sono minimi accanto al tiro a %1 m</translation>
+        <source>the channels of this record run against the geophones: read from the last to the first the times are least beside the shot at %1</source>
+        <translation>i canali di questa registrazione vanno in senso contrario ai geofoni: letti dall&apos;ultimo al primo, i tempi sono minimi accanto al tiro a %1</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times grow from %2 m on all the way through the geophones: it was at that end of them or beyond</source>
-        <translation>il tiro è indicato a %1 m, ma i tempi crescono da %2 m in poi lungo tutti i geofoni: era a quell&apos;estremo o oltre</translation>
+        <source>the shot is said to be at %1, but times grow from %2 on all the way through the geophones: it was at that end of them or beyond</source>
+        <translation>il tiro è indicato a %1, ma i tempi crescono da %2 in poi lungo tutti i geofoni: era a quell&apos;estremo o oltre</translation>
     </message>
     <message>
-        <source>the shot is said to be at %1 m, but times are least at %2 m, beside geophone %3, and grow on both sides of it</source>
-        <translation>il tiro è indicato a %1 m, ma i tempi sono minimi a %2 m, accanto al geofono %3, e crescono da entrambi i lati</translation>
+        <source>the shot is said to be at %1, but times are least at %2, beside geophone %3, and grow on both sides of it</source>
+        <translation>il tiro è indicato a %1, ma i tempi sono minimi a %2, accanto al geofono %3, e crescono da entrambi i lati</translation>
     </message>
     <message>
-        <source>%1; or the geophones stand %2 m apart and not %3 m, which no other shot can decide</source>
-        <translation>%1; oppure i geofoni distano %2 m e non %3 m, e nessun altro tiro permette di deciderlo</translation>
+        <source>%1; or the geophones stand %2 apart and not %3, which no other shot can decide</source>
+        <translation>%1; oppure i geofoni distano %2 e non %3, e nessun altro tiro permette di deciderlo</translation>
     </message>
     <message>
         <source>mistimed: trace %1 has its first arrival at %2 ms, its neighbours let expect it at %3 ms, and from there on it looks like them (correlation %4)</source>
@@ -5839,12 +5827,12 @@ Impostare la posizione dei geofoni
         <translation>polarità invertita (%1): le prime oscillazioni sono opposte a quelle delle tracce vicine, concordi fra loro (correlazione almeno -%2)</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m, with %3 times the signal to noise of this one</source>
-        <translation>il tiro %1 è stato registrato nello stesso punto, a %2 m, con un rapporto segnale/rumore %3 volte quello di questo</translation>
+        <source>shot %1 was recorded at the same point, at %2, with %3 times the signal to noise of this one</source>
+        <translation>il tiro %1 è stato registrato nello stesso punto, a %2, con un rapporto segnale/rumore %3 volte quello di questo</translation>
     </message>
     <message>
-        <source>shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later</source>
-        <translation>il tiro %1 è stato registrato nello stesso punto, a %2 m; i suoi arrivi sono in ritardo di %3 ms</translation>
+        <source>shot %1 was recorded at the same point, at %2; its arrivals are %3 ms later</source>
+        <translation>il tiro %1 è stato registrato nello stesso punto, a %2; i suoi arrivi sono in ritardo di %3 ms</translation>
     </message>
     <message>
         <source>the record is that of shot %1 once more, sample for sample</source>
@@ -5867,20 +5855,20 @@ Impostare la posizione dei geofoni
         <translation>nessun geofono fra %1 e %2 m: il terreno lì non si vede da nessun lato, se non vi sono tiri che lo attraversano</translation>
     </message>
     <message>
-        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 m at %5 m</source>
-        <translation>le stese %1 e %2 si sovrappongono e hanno quote diverse in %3 punti, fino a %4 m di differenza a %5 m</translation>
+        <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
+        <translation>le stese %1 e %2 si sovrappongono e hanno quote diverse in %3 punti, fino a %4 di differenza a %5</translation>
     </message>
     <message>
-        <source>no elevations: all shots and geophones are at %1 m; if the ground is not level, read them from a table in the survey geometry</source>
-        <translation>quote assenti: tutti i tiri e i geofoni sono a %1 m; se il terreno non è piano, leggerle da una tabella nella geometria del rilievo</translation>
+        <source>no elevations: all shots and geophones are at %1; if the ground is not level, read them from a table in the survey geometry</source>
+        <translation>quote assenti: tutti i tiri e i geofoni sono a %1; se il terreno non è piano, leggerle da una tabella nella geometria del rilievo</translation>
     </message>
     <message>
-        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 m for each 1 in the position</source>
-        <translation>la posizione %1 del tiro conta stazioni: su %2 tiri i tempi minimi si spostano di %3 m per ogni unità della posizione</translation>
+        <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
+        <translation>la posizione %1 del tiro conta stazioni: su %2 tiri i tempi minimi si spostano di %3 per ogni unità della posizione</translation>
     </message>
     <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have them beside the shots</source>
-        <translation>le posizioni dei geofoni non sono metri: su %1 tiri i tempi minimi si spostano di %2 per ogni metro del tiro; con geofoni ogni %3 m a partire da %4 m cadono accanto ai tiri</translation>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>le posizioni dei geofoni non sono metri: su %1 tiri i tempi minimi si spostano di %2 per ogni metro del tiro; con geofoni ogni %3 a partire da %4 cadono accanto ai tiri</translation>
     </message>
     <message>
         <source>late</source>
@@ -6025,10 +6013,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>riguarda file dei tiri diversi da quelli del progetto</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>%1 to %2 m</source>
@@ -6251,12 +6235,12 @@ Impostare la posizione dei geofoni
         <translation>i geofoni differiscono in y ma non in x; y è stata presa come posizione lungo la linea</translation>
     </message>
     <message>
-        <source>all its geophones are at x = %1 m; give the survey its geometry</source>
-        <translation>tutti i geofoni sono a x = %1 m; definire la geometria del rilievo</translation>
+        <source>all its geophones are at x = %1; give the survey its geometry</source>
+        <translation>tutti i geofoni sono a x = %1; definire la geometria del rilievo</translation>
     </message>
     <message>
-        <source>its geophones differ by up to %1 m in y, which is not used; positions along the line are x</source>
-        <translation>i geofoni differiscono fino a %1 m in y, che non viene usata; le posizioni lungo la linea sono x</translation>
+        <source>its geophones differ by up to %1 in y, which is not used; positions along the line are x</source>
+        <translation>i geofoni differiscono fino a %1 in y, che non viene usata; le posizioni lungo la linea sono x</translation>
     </message>
     <message>
         <source>its channel numbers do not ascend; the traces stay in the order of the file</source>
@@ -6351,20 +6335,20 @@ Impostare la posizione dei geofoni
         <translation>le coordinate non distinguono i geofoni; sono stati posti secondo la loro distanza dal tiro (byte da 37 a 40)</translation>
     </message>
     <message>
-        <source>its headers tell no positions; shots and geophones all stand at %1 m, so load a geometry file</source>
-        <translation>le intestazioni non indicano posizioni; tiri e geofoni sono tutti a %1 m, perciò caricare un file di geometria</translation>
+        <source>its headers tell no positions; shots and geophones all stand at %1, so load a geometry file</source>
+        <translation>le intestazioni non indicano posizioni; tiri e geofoni sono tutti a %1, perciò caricare un file di geometria</translation>
     </message>
     <message>
-        <source>its headers put the geophones of all traces at %1 m; load a geometry file if there was more than one</source>
-        <translation>le intestazioni mettono i geofoni di tutte le tracce a %1 m; caricare un file di geometria se ce n&apos;era più d&apos;uno</translation>
+        <source>its headers put the geophones of all traces at %1; load a geometry file if there was more than one</source>
+        <translation>le intestazioni mettono i geofoni di tutte le tracce a %1; caricare un file di geometria se ce n&apos;era più d&apos;uno</translation>
     </message>
     <message>
-        <source>shots stand up to %1 m beside the line of geophones; x is taken as it stands</source>
-        <translation>i tiri sono fino a %1 m di lato alla linea dei geofoni; x viene presa com&apos;è</translation>
+        <source>shots stand up to %1 beside the line of geophones; x is taken as it stands</source>
+        <translation>i tiri sono fino a %1 di lato alla linea dei geofoni; x viene presa com&apos;è</translation>
     </message>
     <message>
-        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m</source>
-        <translation>le coordinate non sono lungo x; le distanze sono quelle lungo la retta dei geofoni a partire dal primo geofono di questo file, che è a x %1, y %2; i geofoni sono fino a %3 m di lato alla retta, i tiri fino a %4 m</translation>
+        <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
+        <translation>le coordinate non sono lungo x; le distanze sono quelle lungo la retta dei geofoni a partire dal primo geofono di questo file, che è a x %1, y %2; i geofoni sono fino a %3 di lato alla retta, i tiri fino a %4</translation>
     </message>
     <message>
         <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
@@ -6375,8 +6359,8 @@ Impostare la posizione dei geofoni
         <translation>%1: le quote o le profondità del tiro sono fuori da ogni terreno possibile; le quote del file sono state prese come 0</translation>
     </message>
     <message>
-        <source>shots lie up to %1 m below the ground; their elevations are those of the shots, not of the ground above them</source>
-        <translation>i tiri sono fino a %1 m sotto il suolo; le loro quote sono quelle dei tiri, non del suolo sopra di essi</translation>
+        <source>shots lie up to %1 below the ground; their elevations are those of the shots, not of the ground above them</source>
+        <translation>i tiri sono fino a %1 sotto il suolo; le loro quote sono quelle dei tiri, non del suolo sopra di essi</translation>
     </message>
     <message>
         <source>the shot depth of %1 is negative and was taken as 0</source>
@@ -6771,8 +6755,8 @@ Impostare la posizione dei geofoni
         <translation>i primi arrivi sicuramente di onde lungo il rifrattore %2 sono solo %1; ne servono %3</translation>
     </message>
     <message>
-        <source>waves along the surface at %1 m/s are slower than the bounds allow</source>
-        <translation>le onde lungo la superficie, a %1 m/s, sono più lente di quanto i limiti permettano</translation>
+        <source>waves along the surface at %1 are slower than the bounds allow</source>
+        <translation>le onde lungo la superficie, a %1, sono più lente di quanto i limiti permettano</translation>
     </message>
     <message>
         <source>the times of a refractor grow too little with offset for the bounds</source>
@@ -6963,12 +6947,12 @@ Impostare la posizione dei geofoni
         <translation>La prova di risoluzione non è riuscita: %1</translation>
     </message>
     <message>
-        <source>The size of the pattern must be positive; %1 m is not.</source>
-        <translation>La dimensione del motivo deve essere positiva; %1 m non lo è.</translation>
+        <source>The size of the pattern must be positive; %1 is not.</source>
+        <translation>La dimensione del motivo deve essere positiva; %1 non lo è.</translation>
     </message>
     <message>
-        <source>The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a larger one.</source>
-        <translation>Il motivo ha %1 m, meno di una cella della griglia, che ha %2 m; sceglierne uno più grande.</translation>
+        <source>The pattern has %1, less than a cell of the grid, which has %2; choose a larger one.</source>
+        <translation>Il motivo ha %1, meno di una cella della griglia, che ha %2; sceglierne uno più grande.</translation>
     </message>
     <message>
         <source>The strength of the pattern must be above 0 and below 100 %; %1 % is not.</source>
@@ -7079,8 +7063,8 @@ Impostare la posizione dei geofoni
         <translation>%1 m non è una profondità dal suolo (da 0 a %2)</translation>
     </message>
     <message>
-        <source>%1 m is no position along the line</source>
-        <translation>%1 m non è una posizione lungo la linea</translation>
+        <source>%1 is no position along the line</source>
+        <translation>%1 non è una posizione lungo la linea</translation>
     </message>
     <message>
         <source>it has no name</source>
@@ -7099,12 +7083,12 @@ Impostare la posizione dei geofoni
         <translation>non ha strati</translation>
     </message>
     <message>
-        <source>the layer from %1 m begins above the bottom of the one before, %2 m</source>
-        <translation>lo strato da %1 m comincia sopra il letto di quello precedente, %2 m</translation>
+        <source>the layer from %1 begins above the bottom of the one before, %2</source>
+        <translation>lo strato da %1 comincia sopra il letto di quello precedente, %2</translation>
     </message>
     <message>
-        <source>%1 m is no error of a depth</source>
-        <translation>%1 m non è l&apos;errore di una profondità</translation>
+        <source>%1 is no error of a depth</source>
+        <translation>%1 non è l&apos;errore di una profondità</translation>
     </message>
     <message>
         <source>refractors have the numbers 1 to %1</source>
@@ -7271,12 +7255,12 @@ Impostare la posizione dei geofoni
         <translation>%1 non contiene celle della griglia: è troppo piccolo, o ne è fuori.</translation>
     </message>
     <message>
-        <source>%1 at %2 m stands beyond the grid.</source>
-        <translation>%1 a %2 m sta fuori dalla griglia.</translation>
+        <source>%1 at %2 stands beyond the grid.</source>
+        <translation>%1 a %2 sta fuori dalla griglia.</translation>
     </message>
     <message>
-        <source>%1 reaches %2 m down, below the grid; what is below %3 m does not count.</source>
-        <translation>%1 arriva a %2 m di profondità, sotto la griglia; ciò che sta sotto %3 m non conta.</translation>
+        <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
+        <translation>%1 arriva a %2 di profondità, sotto la griglia; ciò che sta sotto %3 non conta.</translation>
     </message>
     <message>
         <source>%1, %2 to %3 m</source>
@@ -7287,20 +7271,20 @@ Impostare la posizione dei geofoni
         <translation>%1: nessuna cella è in maggior parte di questo strato; conta per la sua quota delle celle, o sta dentro un corpo fisso.</translation>
     </message>
     <message>
-        <source>%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
-        <translation>%1 (a %2 m lungo la linea, profonda %3 m) è fuori dalla griglia, o più vicina al suo bordo del proprio errore o di una cella.</translation>
+        <source>%1 (%2 along the line, %3 deep) is beyond the grid, or nearer to its edge than its error or a cell.</source>
+        <translation>%1 (a %2 lungo la linea, profonda %3) è fuori dalla griglia, o più vicina al suo bordo del proprio errore o di una cella.</translation>
     </message>
     <message>
-        <source>%1, %2 m/s at %3 m</source>
-        <translation>%1, %2 m/s a %3 m</translation>
+        <source>%1, %2 at %3</source>
+        <translation>%1, %2 a %3</translation>
     </message>
     <message>
-        <source>%1, %2 m/s above</source>
-        <translation>%1, %2 m/s sopra</translation>
+        <source>%1, %2 above</source>
+        <translation>%1, %2 sopra</translation>
     </message>
     <message>
-        <source>%1, %2 m/s below</source>
-        <translation>%1, %2 m/s sotto</translation>
+        <source>%1, %2 below</source>
+        <translation>%1, %2 sotto</translation>
     </message>
     <message>
         <source>Layered interpretation</source>
@@ -7327,12 +7311,12 @@ Impostare la posizione dei geofoni
         <translation>Parti dagli strati</translation>
     </message>
     <message>
-        <source>A layer has a velocity of %1 m/s, which is no velocity of the ground.</source>
-        <translation>Uno strato ha una velocità di %1 m/s, che nessun terreno ha.</translation>
+        <source>A layer has a velocity of %1, which is no velocity of the ground.</source>
+        <translation>Uno strato ha una velocità di %1, che nessun terreno ha.</translation>
     </message>
     <message>
-        <source>The layer that begins at %1 m lies over another; order the layers by depth, without overlap.</source>
-        <translation>Lo strato che comincia a %1 m si sovrappone a un altro; ordinare gli strati per profondità, senza sovrapposizioni.</translation>
+        <source>The layer that begins at %1 lies over another; order the layers by depth, without overlap.</source>
+        <translation>Lo strato che comincia a %1 si sovrappone a un altro; ordinare gli strati per profondità, senza sovrapposizioni.</translation>
     </message>
     <message>
         <source>The section fits all but one of the %1 picks to their errors: chi-square %2.</source>
@@ -7419,8 +7403,8 @@ Impostare la posizione dei geofoni
         <translation>Sezione, gradiente massimo</translation>
     </message>
     <message>
-        <source>Section, %1 m/s</source>
-        <translation>Sezione, %1 m/s</translation>
+        <source>Section, %1</source>
+        <translation>Sezione, %1</translation>
     </message>
     <message>
         <source>The methods could not be compared: %1</source>
@@ -7483,8 +7467,8 @@ Impostare la posizione dei geofoni
         <translation>densità %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
     <message>
-        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 m by P, %6 m by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
-        <translation>Strato %1: in %2 punti su %3 le profondità del suo tetto da P e da S differiscono di oltre il %4 % (mediana in quei punti %5 m da P, %6 m da S). Le onde P vedono spesso la falda, le onde S no: lo stesso numero può indicare terreni diversi.</translation>
+        <source>Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more than %4 % (median there %5 by P, %6 by S). P waves often see the water table, which S waves do not: the same number may be different ground.</source>
+        <translation>Strato %1: in %2 punti su %3 le profondità del suo tetto da P e da S differiscono di oltre il %4 % (mediana in quei punti %5 da P, %6 da S). Le onde P vedono spesso la falda, le onde S no: lo stesso numero può indicare terreni diversi.</translation>
     </message>
     <message>
         <source>Layer %1: at %2 of %3 places a velocity is not known.</source>
@@ -7503,8 +7487,8 @@ Impostare la posizione dei geofoni
         <translation>La relazione di Gardner vale per rocce più veloci di 1500 m/s; in %1 punti su %2 Vp è minore, e la densità solo indicativa.</translation>
     </message>
     <message>
-        <source>The surfaces of P and S lie up to %1 m apart, at %2 m: they may not be the same line, or not begin at the same place.</source>
-        <translation>Le superfici di P e di S distano fra loro fino a %1 m, a %2 m lungo la linea: forse non sono la stessa linea, o non cominciano nello stesso punto.</translation>
+        <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
+        <translation>Le superfici di P e di S distano fra loro fino a %1, a %2 lungo la linea: forse non sono la stessa linea, o non cominciano nello stesso punto.</translation>
     </message>
     <message>
         <source>By their recordings the project of P is one of S waves, and that of S is not: they may be exchanged.</source>
@@ -7519,8 +7503,8 @@ Impostare la posizione dei geofoni
         <translation>Le posizioni di P e S sulla mappa sono date in sistemi diversi (EPSG:%1 e EPSG:%2) e non sono state confrontate.</translation>
     </message>
     <message>
-        <source>The same distances of P and S lie up to %1 m apart on the map: they may not be the same line, or not begin at the same place.</source>
-        <translation>Alle stesse distanze, P e S si trovano fino a %1 m l&apos;una dall&apos;altra sulla mappa: forse non sono la stessa linea, o non cominciano nello stesso punto.</translation>
+        <source>The same distances of P and S lie up to %1 apart on the map: they may not be the same line, or not begin at the same place.</source>
+        <translation>Alle stesse distanze, P e S si trovano fino a %1 l&apos;una dall&apos;altra sulla mappa: forse non sono la stessa linea, o non cominciano nello stesso punto.</translation>
     </message>
     <message>
         <source>The project of P has no layered profile: build its profiles in the refraction dialog first.</source>
@@ -7647,8 +7631,8 @@ Impostare la posizione dei geofoni
         <translation>In %1 celle su %2 Vp/Vs è sotto 1,41 e il coefficiente di Poisson negativo, come in nessun terreno o roccia.</translation>
     </message>
     <message>
-        <source>The surfaces of the sections of P and S lie up to %1 m apart, at %2 m; cells are matched by their depths below them.</source>
-        <translation>Le superfici delle sezioni di P e S distano fra loro fino a %1 m, a %2 m lungo la linea; le celle si abbinano secondo la profondità da esse.</translation>
+        <source>The surfaces of the sections of P and S lie up to %1 apart, at %2; cells are matched by their depths below them.</source>
+        <translation>Le superfici delle sezioni di P e S distano fra loro fino a %1, a %2 lungo la linea; le celle si abbinano secondo la profondità da esse.</translation>
     </message>
     <message>
         <source>A section has no layers: all of it has the first density.</source>
@@ -7699,8 +7683,8 @@ Impostare la posizione dei geofoni
         <translation>S: il suo profilo è stato adattato a tutti gli arrivi e non riceve errori. Uno ottenuto con il metodo reciproco sì.</translation>
     </message>
     <message>
-        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1 m/s, everywhere.</source>
-        <translation>In questo profilo la velocità dello strato 1 cambia lungo la linea e con la profondità; qui è ovunque la sua media, %1 m/s.</translation>
+        <source>The velocity of layer 1 changes along the line and with depth in this profile; here it is its mean, %1, everywhere.</source>
+        <translation>In questo profilo la velocità dello strato 1 cambia lungo la linea e con la profondità; qui è ovunque la sua media, %1.</translation>
     </message>
     <message>
         <source>the first distance must be a number, and the EPSG code a whole number</source>
@@ -7903,8 +7887,8 @@ Impostare la posizione dei geofoni
         <translation>ha %1 punti e ne servono almeno %2</translation>
     </message>
     <message>
-        <source>%1 m, %2 m is no place of a section</source>
-        <translation>%1 m, %2 m non è un punto di una sezione</translation>
+        <source>%1, %2 is no place of a section</source>
+        <translation>%1, %2 non è un punto di una sezione</translation>
     </message>
     <message>
         <source>a text is %1 to %2 points high</source>
@@ -7935,8 +7919,8 @@ Impostare la posizione dei geofoni
         <translation>passa alto %1 Hz, ordine %2</translation>
     </message>
     <message>
-        <source>%1 m/s and more</source>
-        <translation>%1 m/s e oltre</translation>
+        <source>%1 and more</source>
+        <translation>%1 e oltre</translation>
     </message>
     <message>
         <source>forth along the line</source>
@@ -8075,8 +8059,8 @@ Impostare la posizione dei geofoni
         <translation>non ha campioni, o il suo intervallo di campionamento non è noto</translation>
     </message>
     <message>
-        <source>its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one before, the usual distance is %4 m</source>
-        <translation>i suoi geofoni non sono a passo costante: la traccia %1 a %2 m è a %3 m dalla precedente, la distanza usuale è %4 m</translation>
+        <source>its geophones are not evenly spaced: trace %1 at %2 is %3 from the one before, the usual distance is %4</source>
+        <translation>i suoi geofoni non sono a passo costante: la traccia %1 a %2 è a %3 dalla precedente, la distanza usuale è %4</translation>
     </message>
     <message>
         <source>it has fewer than %1 traces</source>
@@ -8095,8 +8079,8 @@ Impostare la posizione dei geofoni
         <translation>tiro %1: di %2 posti lungo la sua linea %3 non hanno traccia, o ne hanno una esclusa; valgono zero, e accanto a essi il filtro è meno netto</translation>
     </message>
     <message>
-        <source>the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s</source>
-        <translation>la velocità minima, %1 m/s, deve essere maggiore di 0 e minore della massima, %2 m/s</translation>
+        <source>the slowest velocity, %1, must be above 0 and below the fastest, %2</source>
+        <translation>la velocità minima, %1, deve essere maggiore di 0 e minore della massima, %2</translation>
     </message>
     <message>
         <source>the taper must be 0 or more and less than 100 percent of a limit</source>
@@ -9697,8 +9681,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Tiro</translation>
     </message>
     <message>
-        <source>Position [m]</source>
-        <translation>Posizione [m]</translation>
+        <source>Position [%1]</source>
+        <translation>Posizione [%1]</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -9757,10 +9741,6 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Lato di una cella</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>Depth below the surface</source>
         <translation>Profondità dalla superficie</translation>
     </message>
@@ -9781,20 +9761,20 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Strato</translation>
     </message>
     <message>
-        <source>Top [m]</source>
-        <translation>Tetto [m]</translation>
+        <source>Top [%1]</source>
+        <translation>Tetto [%1]</translation>
     </message>
     <message>
-        <source>Bottom [m]</source>
-        <translation>Letto [m]</translation>
+        <source>Bottom [%1]</source>
+        <translation>Letto [%1]</translation>
     </message>
     <message>
-        <source>Velocity at top [m/s]</source>
-        <translation>Velocità al tetto [m/s]</translation>
+        <source>Velocity at top [%1]</source>
+        <translation>Velocità al tetto [%1]</translation>
     </message>
     <message>
-        <source>Velocity at bottom [m/s]</source>
-        <translation>Velocità al letto [m/s]</translation>
+        <source>Velocity at bottom [%1]</source>
+        <translation>Velocità al letto [%1]</translation>
     </message>
     <message>
         <source>The layers of the starting model, depths below the surface</source>
@@ -9819,10 +9799,6 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>Velocity limits</source>
         <translation>Limiti di velocità</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>Smoothing</source>
@@ -9925,16 +9901,16 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Residui dei primi arrivi in funzione della distanza dal tiro</translation>
     </message>
     <message>
-        <source>Elevation [m]</source>
-        <translation>Quota [m]</translation>
+        <source>Elevation [%1]</source>
+        <translation>Quota [%1]</translation>
     </message>
     <message>
-        <source>Depth %1 [m]</source>
-        <translation>Profondità %1 [m]</translation>
+        <source>Depth %1 [%2]</source>
+        <translation>Profondità %1 [%2]</translation>
     </message>
     <message>
-        <source>Velocity %1 [m/s]</source>
-        <translation>Velocità %1 [m/s]</translation>
+        <source>Velocity %1 [%2]</source>
+        <translation>Velocità %1 [%2]</translation>
     </message>
     <message>
         <source>Refraction interpretation</source>
@@ -10025,16 +10001,16 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Geofoni</translation>
     </message>
     <message>
-        <source>From [m]</source>
-        <translation>Da [m]</translation>
+        <source>From [%1]</source>
+        <translation>Da [%1]</translation>
     </message>
     <message>
-        <source>To [m]</source>
-        <translation>A [m]</translation>
+        <source>To [%1]</source>
+        <translation>A [%1]</translation>
     </message>
     <message>
-        <source>Spacing [m]</source>
-        <translation>Passo [m]</translation>
+        <source>Spacing [%1]</source>
+        <translation>Passo [%1]</translation>
     </message>
     <message>
         <source>Strings of geophones</source>
@@ -10217,8 +10193,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>I primi arrivi sono cambiati dopo la costruzione di questo profilo: è quello degli arrivi precedenti.</translation>
     </message>
     <message>
-        <source>No velocity is given where the times lead to one outside 50 to 12 000 m/s. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
-        <translation>Dove i tempi portano a una velocità fuori dall&apos;intervallo da 50 a 12 000 m/s non se ne dà alcuna. La profondità non è data in quei punti, né sotto uno strato più veloce o di velocità o profondità non note, né dove è risultata maggiore della lunghezza della linea.</translation>
+        <source>No velocity is given where the times lead to one outside %1 to %2. No depth is given there, below a layer whose velocity or depth is not known or which is faster, and where it came out deeper than the line is long.</source>
+        <translation>Dove i tempi portano a una velocità fuori dall&apos;intervallo da %1 a %2 non se ne dà alcuna. La profondità non è data in quei punti, né sotto uno strato più veloce o di velocità o profondità non note, né dove è risultata maggiore della lunghezza della linea.</translation>
     </message>
     <message>
         <source>First breaks are the times at which the first seismic energy of a shot reaches each geophone. They were picked on the recorded traces.</source>
@@ -10477,12 +10453,12 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>velocità</translation>
     </message>
     <message>
-        <source>%1: depth [m]</source>
-        <translation>%1: profondità [m]</translation>
+        <source>%1: depth [%2]</source>
+        <translation>%1: profondità [%2]</translation>
     </message>
     <message>
-        <source>%1: velocity [m/s]</source>
-        <translation>%1: velocità [m/s]</translation>
+        <source>%1: velocity [%2]</source>
+        <translation>%1: velocità [%2]</translation>
     </message>
     <message>
         <source>Disagree in</source>
@@ -10573,8 +10549,12 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Crescita della sua velocità con la profondità</translation>
     </message>
     <message>
-        <source>%1 % of that at the surface per metre, down to %2 m</source>
-        <translation>%1 % di quella in superficie al metro, fino a %2 m di profondità</translation>
+        <source>%1 % of that at the surface per metre, down to %2</source>
+        <translation>%1 % di quella in superficie al metro, fino a %2 di profondità</translation>
+    </message>
+    <message>
+        <source>%1 % of that at the surface per foot, down to %2</source>
+        <translation>%1 % di quella in superficie al piede, fino a %2 di profondità</translation>
     </message>
     <message>
         <source>A value in parentheses, and a dashed line, stands where no pick of the refractor comes from or goes to: it lies between what others tell (gap). Errors are not told of a profile that is fitted to all picks.</source>
@@ -11411,16 +11391,16 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Sezione di velocità</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distanza %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distanza %1</translation>
     </message>
     <message>
-        <source>Horizontal %1 m</source>
-        <translation>Orizzontale %1 m</translation>
+        <source>Horizontal %1</source>
+        <translation>Orizzontale %1</translation>
     </message>
     <message>
-        <source>Vertical %1 m</source>
-        <translation>Verticale %1 m</translation>
+        <source>Vertical %1</source>
+        <translation>Verticale %1</translation>
     </message>
     <message>
         <source>Slope %1°</source>
@@ -11503,6 +11483,22 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>&amp;Language:</source>
         <translation>&amp;Lingua:</translation>
+    </message>
+    <message>
+        <source>Len&amp;gth unit:</source>
+        <translation>&amp;Unità di lunghezza:</translation>
+    </message>
+    <message>
+        <source>What lengths and velocities are shown and asked for in. Files stay in metres.</source>
+        <translation>In che cosa lunghezze e velocità sono mostrate e chieste. I file restano in metri.</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation>metri</translation>
+    </message>
+    <message>
+        <source>feet (0.3048 m)</source>
+        <translation>piedi (0,3048 m)</translation>
     </message>
     <message>
         <source>Traces</source>
@@ -14622,8 +14618,8 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
 <context>
     <name>talvesk::TraceAxes</name>
     <message>
-        <source>x (m)</source>
-        <translation>x (m)</translation>
+        <source>x (%1)</source>
+        <translation>x (%1)</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -14641,12 +14637,12 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>%1 ms</translation>
     </message>
     <message>
-        <source>%1 m, %2 ms</source>
-        <translation>%1 m, %2 ms</translation>
+        <source>%1, %2 ms</source>
+        <translation>%1, %2 ms</translation>
     </message>
     <message>
-        <source>%1 m/s (%2 m, %3 ms)</source>
-        <translation>%1 m/s (%2 m, %3 ms)</translation>
+        <source>%1 (%2, %3 ms)</source>
+        <translation>%1 (%2, %3 ms)</translation>
     </message>
     <message>
         <source>Other shots</source>
@@ -14657,17 +14653,17 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>Calcolati</translation>
     </message>
     <message>
-        <source>Air %1 m/s</source>
-        <translation>Aria %1 m/s</translation>
+        <source>Air %1</source>
+        <translation>Aria %1</translation>
     </message>
     <message>
         <source>No other shot of the string is picked</source>
         <translation>Nessun altro tiro della stesa ha primi arrivi</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
+        <source>Shot %1 at %2</source>
         <comment>number, place</comment>
-        <translation>Tiro %1 a %2 m</translation>
+        <translation>Tiro %1 a %2</translation>
     </message>
     <message>
         <source>No computed times</source>
@@ -14697,8 +14693,8 @@ Pick first breaks in the traces, by hand or with AutoPick, or import travel time
 Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi di arrivo.</translation>
     </message>
     <message>
-        <source>Distance [m]</source>
-        <translation>Distanza [m]</translation>
+        <source>Distance [%1]</source>
+        <translation>Distanza [%1]</translation>
     </message>
     <message>
         <source>Time [ms]</source>
@@ -14733,8 +14729,8 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Salva le dromocrone come PNG, SVG o PDF</translation>
     </message>
     <message>
-        <source>Shot %1 at %2 m</source>
-        <translation>Tiro %1 a %2 m</translation>
+        <source>Shot %1 at %2</source>
+        <translation>Tiro %1 a %2</translation>
     </message>
     <message>
         <source>Shot %1 has no travel times yet</source>
@@ -14999,40 +14995,40 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Mostra tutto</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distanza %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distanza %1</translation>
     </message>
     <message>
-        <source>elevation %1 m</source>
-        <translation>quota %1 m</translation>
+        <source>elevation %1</source>
+        <translation>quota %1</translation>
     </message>
     <message>
-        <source>depth %1 m</source>
-        <translation>profondità %1 m</translation>
+        <source>depth %1</source>
+        <translation>profondità %1</translation>
     </message>
     <message>
         <source>Vertical profile</source>
         <translation>Profilo verticale</translation>
     </message>
     <message>
-        <source>Vertical profile at %1 m</source>
-        <translation>Profilo verticale a %1 m</translation>
+        <source>Vertical profile at %1</source>
+        <translation>Profilo verticale a %1</translation>
     </message>
     <message>
-        <source>Depth from [m]</source>
-        <translation>Profondità da [m]</translation>
+        <source>Depth from [%1]</source>
+        <translation>Profondità da [%1]</translation>
     </message>
     <message>
-        <source>Depth to [m]</source>
-        <translation>Profondità fino a [m]</translation>
+        <source>Depth to [%1]</source>
+        <translation>Profondità fino a [%1]</translation>
     </message>
     <message>
-        <source>Depth below ground [m]</source>
-        <translation>Profondità dal suolo [m]</translation>
+        <source>Depth below ground [%1]</source>
+        <translation>Profondità dal suolo [%1]</translation>
     </message>
     <message>
-        <source>Velocity [m/s]</source>
-        <translation>Velocità [m/s]</translation>
+        <source>Velocity [%1]</source>
+        <translation>Velocità [%1]</translation>
     </message>
     <message>
         <source>The section has %1 cells, too many to be explored in a page: it stands here as a picture.</source>
@@ -15067,8 +15063,8 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Tiro %1</translation>
     </message>
     <message>
-        <source>geophone %1 at %2 m</source>
-        <translation>geofono %1 a %2 m</translation>
+        <source>geophone %1 at %2</source>
+        <translation>geofono %1 a %2</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -15275,8 +15271,8 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
 <context>
     <name>talvesk::XYCriteria</name>
     <message>
-        <source>XY (m)</source>
-        <translation>XY (m)</translation>
+        <source>XY (%1)</source>
+        <translation>XY (%1)</translation>
     </message>
     <message>
         <source>Roughness of tV</source>
@@ -15670,12 +15666,12 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Velocità in funzione della profondità</translation>
     </message>
     <message>
-        <source>Velocity (m/s)</source>
-        <translation>Velocità (m/s)</translation>
+        <source>Velocity (%1)</source>
+        <translation>Velocità (%1)</translation>
     </message>
     <message>
-        <source>Depth below the ground (m)</source>
-        <translation>Profondità dal suolo (m)</translation>
+        <source>Depth below the ground (%1)</source>
+        <translation>Profondità dal suolo (%1)</translation>
     </message>
     <message>
         <source>Layers</source>

@@ -36,7 +36,7 @@ function showMap(place, map) {
     shape('circle', { cx: x(east1), cy: y(north1), r: 6, class: 'last' }),
     shape('path', { d: 'M 375 20 l 8 22 l -8 -6 l -8 6 z', class: 'north' }),
     shape('text', { x: 375, y: 58, 'text-anchor': 'middle' }, words.north),
-    ...scaleBar(size, scale),
+    ...scaleBar(map, size, scale),
     ...endName(x(east0), y(north0), words.firstGeophone),
     ...endName(x(east1), y(north1), words.lastGeophone),
   );
@@ -48,11 +48,12 @@ function showMap(place, map) {
   place.append(make('p', {}, [link]));
 }
 
-function scaleBar(size, scale) {
-  const length = roundLength(size);
-  const text = `${number(length, length < 1 ? 2 : 0)} m`;
+function scaleBar(map, size, scale) {
+  const metres = map.metres ?? 1;
+  const length = roundLength(size / metres);
+  const text = `${number(length, length < 1 ? 2 : 0)} ${map.metres ? 'ft' : 'm'}`;
   return [
-    shape('line', { x1: 20, y1: 362, x2: 20 + length * scale, y2: 362, class: 'scale' }),
+    shape('line', { x1: 20, y1: 362, x2: 20 + length * metres * scale, y2: 362, class: 'scale' }),
     shape('text', { x: 20, y: 354 }, text),
   ];
 }

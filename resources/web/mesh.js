@@ -5,7 +5,7 @@ class Mesh {
     this.rows = section.rows;
     this.columns = section.columns;
     this.x = section.x;
-    this.z = section.z.map((centimetres) => centimetres / 100);
+    this.z = section.z.map((hundredths) => hundredths / 100);
     this.surface = section.surface;
   }
 
@@ -146,7 +146,7 @@ function unzip(points) {
   };
 }
 
-/** A ray from its steps in centimetres. */
+/** A ray from its steps in hundredths of the unit shown. */
 function rayPoints(steps) {
   const ray = { x: [], z: [] };
   let x = 0;

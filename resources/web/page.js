@@ -71,10 +71,10 @@ function addTools() {
   const tools = make('div', { class: 'tools', role: 'group', 'aria-label': words.tools });
   tools.append(themeButton(words.dark, words.light, redrawCharts));
   if (data.shots?.some((shot) => shot.measured.some((time) => time !== null))) {
-    tools.append(button(words.picksCsv, () => download('picks.csv', picksCsv(data.shots))));
+    tools.append(button(words.picksCsv, () => download('picks.csv', picksCsv(data.shots, data.metres))));
   }
   if (data.section?.columns) {
-    tools.append(button(words.sectionCsv, () => download('section.csv', sectionCsv(data.section))));
+    tools.append(button(words.sectionCsv, () => download('section.csv', sectionCsv(data.section, data.metres))));
   }
   document.getElementById('contents').append(tools);
 }

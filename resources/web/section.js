@@ -403,7 +403,7 @@ class ProfileFigure {
 
   /** The section's velocities and those of other inversions. */
   curves() {
-    const quantities = this.figure.section.quantities.filter((q) => q.unit === 'm/s');
+    const quantities = this.figure.section.quantities.filter((q) => /^(m|ft)\/s$/.test(q.unit));
     return quantities.map((q) => [q, this.figure.mesh.profile(this.x, q.values)]);
   }
 

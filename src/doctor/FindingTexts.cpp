@@ -93,7 +93,7 @@ Message describe(const Proposal& proposal) {
     case Proposal::Kind::kReverseOrder:
       return Message::tr("read the channels from the last to the first");
     case Proposal::Kind::kMoveShot:
-      return Message::tr("put the shot at %1 m").arg(metres(first().x));
+      return Message::tr("put the shot at %1").arg(Message::length(first().x, 5));
     case Proposal::Kind::kMoveGeophones:
       return Message::tr("put the %1 geophones of its string at %2 to %3 m")
           .arg(proposal.points.size())

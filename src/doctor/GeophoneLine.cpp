@@ -94,11 +94,11 @@ void checkString(const Shots& shots, std::vector<Finding>& findings) {
     points[g].x = geophones[g].x + roundest(metresOff, 0.15 * spacing);
     Finding finding = aboutShot(
         Finding::Kind::kGeophoneOffLine, *shots.front(), 0.7,
-        Message::tr("off the line: geophone %1 is said to be at %2 m; from both sides its arrivals "
-                    "are those of %3 m")
+        Message::tr("off the line: geophone %1 is said to be at %2; from both sides its arrivals "
+                    "are those of %3")
             .arg(g + 1)
-            .arg(metres(geophones[g].x))
-            .arg(metres(geophones[g].x + metresOff)));
+            .arg(Message::length(geophones[g].x, 5))
+            .arg(Message::length(geophones[g].x + metresOff, 5)));
     finding.traces = {g};
     finding.expected = arrivalsOver(*shots.front(), points);
     finding.proposal = moveGeophones(points);

@@ -69,12 +69,12 @@ void checkHeapedShots(const std::vector<const ShotView*>& shots, std::vector<Fin
     if (reading) {
       text = Message::tr(
                  "%1; over %2 shots the least times move by %3 channels for each metre of "
-                 "the shot, so geophone 1 is at %4 m and the last one at %5 m")
+                 "the shot, so geophone 1 is at %4 and the last one at %5")
                  .arg(std::move(text))
                  .arg(reading->line.fitCount)
                  .arg(metres(1.0 / reading->line.slope))
-                 .arg(metres(points.front().x))
-                 .arg(metres(points.back().x));
+                 .arg(Message::length(points.front().x, 5))
+                 .arg(Message::length(points.back().x, 5));
     }
     Finding finding = aboutShot(Kind::kRepeatedPositions, shot,
                                 reading ? confidenceOf(reading->line) : 1.0, std::move(text));
@@ -95,14 +95,13 @@ void checkHeapedShots(const std::vector<const ShotView*>& shots, std::vector<Fin
     if (!moved && (shot.source.z == 0.0 || hasElevations(shot))) continue;
     Finding finding = aboutShot(
         Kind::kShotPosition, shot, confidenceOf(reading->line),
-        moved
-            ? Message::tr("the shot is said to be at %1 m; the name of the file says %2 m, and the "
-                          "least times of the survey follow the names")
-                  .arg(metres(shot.source.x))
-                  .arg(metres(reading->places[i]))
-            : Message::tr("the shot is said to be at an elevation of %1 m, and the geophones have "
-                          "none that could be theirs")
-                  .arg(metres(shot.source.z)));
+        moved ? Message::tr("the shot is said to be at %1; the name of the file says %2, and the "
+                            "least times of the survey follow the names")
+                    .arg(Message::length(shot.source.x, 5))
+                    .arg(Message::length(reading->places[i], 5))
+              : Message::tr("the shot is said to be at an elevation of %1, and the geophones have "
+                            "none that could be theirs")
+                    .arg(Message::length(shot.source.z, 5)));
     finding.measured = arrivalsOver(shot, points);
     finding.expected = veeAround(shot, points, reading->places[i]);
     finding.proposal = moveShot({reading->places[i], hasElevations(shot) ? shot.source.z : 0.0});

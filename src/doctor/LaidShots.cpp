@@ -110,19 +110,17 @@ class LaidCheck {
       if (x == shot.source.x && (named || isInside)) continue;
       Finding finding = aboutShot(
           Kind::kRepeatedPositions, shot, named ? confidenceOf(reading->line) : 0.7,
-          named
-              ? Message::tr("all shots are said to be at %1 m; the name of the file says %2 m, and "
-                            "the least times of the survey follow the names")
-                    .arg(metres(shot.source.x))
-                    .arg(metres(x))
-          : isInside
-              ? Message::tr("all shots are said to be at %1 m; the times of this one are "
-                            "least at %2 m")
-                    .arg(metres(shot.source.x))
-                    .arg(metres(found))
-              : Message::tr("all shots are said to be at %1 m; this one was at an end of the "
-                            "geophones or beyond")
-                    .arg(metres(shot.source.x)));
+          named ? Message::tr("all shots are said to be at %1; the name of the file says %2, and "
+                              "the least times of the survey follow the names")
+                      .arg(Message::length(shot.source.x, 5))
+                      .arg(Message::length(x, 5))
+          : isInside ? Message::tr("all shots are said to be at %1; the times of this one are "
+                                   "least at %2")
+                           .arg(Message::length(shot.source.x, 5))
+                           .arg(Message::length(found, 5))
+                     : Message::tr("all shots are said to be at %1; this one was at an end of the "
+                                   "geophones or beyond")
+                           .arg(Message::length(shot.source.x, 5)));
       if (named || isInside) {
         finding.proposal = moveShot({x, shot.source.z});
         finding.expected = veeAround(shot, shot.geophones, x);
@@ -142,8 +140,8 @@ class LaidCheck {
           Kind::kReversedOrder, shot, 0.5 + 0.4 * others,
           Message::tr(
               "the channels of this record run against the geophones: read from the last to "
-              "the first the times are least beside the shot at %1 m")
-              .arg(metres(shot.source.x)));
+              "the first the times are least beside the shot at %1")
+              .arg(Message::length(shot.source.x, 5)));
       finding.proposal.emplace();
       finding.proposal->kind = Proposal::Kind::kReverseOrder;
       finding.measured = arrivalsOver(shot, shot.geophones);
@@ -154,12 +152,13 @@ class LaidCheck {
     if (shot.station.side != Side::kInside) {
       mFindings.push_back(aboutShot(
           Kind::kShotPosition, shot, 0.3 + 0.4 * others,
-          Message::tr("the shot is said to be at %1 m, but times grow from %2 m on all the way "
+          Message::tr("the shot is said to be at %1, but times grow from %2 on all the way "
                       "through the geophones: it was at that end of them or beyond")
-              .arg(metres(shot.source.x))
-              .arg(metres(placeOf(shot.geophones, shot.station.side == Side::kBefore
-                                                      ? shot.station.first
-                                                      : shot.station.last)))));
+              .arg(Message::length(shot.source.x, 5))
+              .arg(Message::length(
+                  placeOf(shot.geophones, shot.station.side == Side::kBefore ? shot.station.first
+                                                                             : shot.station.last),
+                  5))));
       return;
     }
     moveToLeastTime(shot, tally, others);
@@ -175,20 +174,20 @@ class LaidCheck {
       }
     }
     Message text = Message::tr(
-                       "the shot is said to be at %1 m, but times are least at %2 m, beside "
+                       "the shot is said to be at %1, but times are least at %2, beside "
                        "geophone %3, and grow on both sides of it")
-                       .arg(metres(shot.source.x))
-                       .arg(metres(found))
+                       .arg(Message::length(shot.source.x, 5))
+                       .arg(Message::length(found, 5))
                        .arg(static_cast<std::size_t>(std::lround(shot.station.station)) + 1);
     const double step =
         (shot.source.x - shot.geophones.front().x) / std::max(shot.station.station, 1.0);
     if (tally.good == 0 && step > 0.05 * spacing) {
       text = Message::tr(
-                 "%1; or the geophones stand %2 m apart and not %3 m, which no other shot "
+                 "%1; or the geophones stand %2 apart and not %3, which no other shot "
                  "can decide")
                  .arg(std::move(text))
-                 .arg(metres(roundest(step, 0.05 * step)))
-                 .arg(metres(spacing));
+                 .arg(Message::length(roundest(step, 0.05 * step), 5))
+                 .arg(Message::length(spacing, 5));
     }
     Finding finding = aboutShot(Kind::kShotPosition, shot, 0.4 + 0.5 * others, std::move(text));
     finding.expected = veeAround(shot, shot.geophones, shot.source.x);

@@ -63,10 +63,10 @@ Finding ofOnePoint(const SurveyView& view, const ShotView& shot, const ShotView&
     const ShotView& better = worseHere ? other : shot;
     Finding finding = aboutShot(
         Finding::Kind::kRepeatedShot, about, 0.5,
-        Message::tr("shot %1 was recorded at the same point, at %2 m, with %3 times the signal to "
+        Message::tr("shot %1 was recorded at the same point, at %2, with %3 times the signal to "
                     "noise of this one")
             .arg(better.shot + 1)
-            .arg(metres(shot.source.x))
+            .arg(Message::length(shot.source.x, 5))
             .arg(
                 Message::number(std::max(here, there) / std::max(1e-3, std::min(here, there)), 2)));
     finding.proposal = disable();
@@ -74,9 +74,9 @@ Finding ofOnePoint(const SurveyView& view, const ShotView& shot, const ShotView&
   }
   Finding finding = aboutShot(
       Finding::Kind::kRepeatedShot, shot, 0.5,
-      Message::tr("shot %1 was recorded at the same point, at %2 m; its arrivals are %3 ms later")
+      Message::tr("shot %1 was recorded at the same point, at %2; its arrivals are %3 ms later")
           .arg(other.shot + 1)
-          .arg(metres(shot.source.x))
+          .arg(Message::length(shot.source.x, 5))
           .arg(milliseconds(seconds)));
   if (apart <= kTogether && canBeStacked(*view.document, setOf(view, shot), setOf(view, other))) {
     finding.proposal.emplace();

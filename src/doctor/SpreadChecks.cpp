@@ -102,12 +102,12 @@ std::vector<Finding> checkSpreads(const SurveyView& view) {
       findings.push_back(ofSpreads(
           0.8,
           Message::tr("strings %1 and %2 overlap and have other elevations at %3 places, by up to "
-                      "%4 m at %5 m")
+                      "%4 at %5")
               .arg(a->first + 1)
               .arg(b->first + 1)
               .arg(clash.count)
-              .arg(metres(clash.most))
-              .arg(metres(clash.x))));
+              .arg(Message::length(clash.most, 5))
+              .arg(Message::length(clash.x, 5))));
     }
   }
   if (!strings.empty()) findGaps(strings, findings);
@@ -116,9 +116,9 @@ std::vector<Finding> checkSpreads(const SurveyView& view) {
     finding.kind = Finding::Kind::kNoElevations;
     finding.confidence = 0.3;
     finding.text = Message::tr(
-                       "no elevations: all shots and geophones are at %1 m; if the ground is "
+                       "no elevations: all shots and geophones are at %1; if the ground is "
                        "not level, read them from a table in the survey geometry")
-                       .arg(metres(view.shots.front().source.z));
+                       .arg(Message::length(view.shots.front().source.z, 5));
     findings.push_back(std::move(finding));
   }
   return findings;

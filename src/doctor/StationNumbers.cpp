@@ -56,10 +56,10 @@ void placeShots(const Shots& shots, const StationLine& line, const std::vector<d
     Finding finding = aboutShot(
         Finding::Kind::kStationNumbers, *shot, confidenceOf(line),
         Message::tr("the shot's position %1 counts stations: over %2 shots the least times move by "
-                    "%3 m for each 1 in the position")
+                    "%3 for each 1 in the position")
             .arg(metres(shot->source.x))
             .arg(line.fitCount)
-            .arg(metres(found)));
+            .arg(Message::length(found, 5)));
     finding.proposal = moveShot({x, shot->source.z});
     finding.expected = veeAround(*shot, shot->geophones, x);
     findings.push_back(std::move(finding));
@@ -83,12 +83,12 @@ void placeGeophones(const Shots& shots, const StationLine& line, const std::vect
     Finding finding = aboutShot(
         Finding::Kind::kStationNumbers, shot, confidenceOf(line),
         Message::tr("the positions of the geophones are no metres: over %1 shots the least times "
-                    "move by %2 for each metre of the shot; geophones %3 m apart from %4 m on have "
+                    "move by %2 for each metre of the shot; geophones %3 apart from %4 on have "
                     "them beside the shots")
             .arg(line.fitCount)
             .arg(metres(1.0 / line.slope))
-            .arg(metres(scale * spacing))
-            .arg(metres(points.front().x)));
+            .arg(Message::length(scale * spacing, 5))
+            .arg(Message::length(points.front().x, 5)));
     finding.expected = veeAround(shot, points, shot.source.x);
     finding.proposal = moveGeophones(std::move(points));
     findings.push_back(std::move(finding));

@@ -4,7 +4,9 @@
 #include "figures/FigureOutput.h"
 #include "figures/FigurePlot.h"
 #include "figures/FigureWords.h"
+#include "figures/ShownLength.h"
 #include "view/AxisTicks.h"
+#include "view/ShownUnit.h"
 
 #include <QByteArray>
 #include <QFontMetricsF>
@@ -32,6 +34,7 @@ constexpr double kTick = 5.0;
 /// One quantity against depth.
 struct Panel {
   QString title;
+  std::string unit;
   ValueRange range;
   QColor ink;
   std::function<double(const Layer&)> value;
@@ -46,12 +49,13 @@ ValueRange withRoom(ValueRange range, bool fromZero) {
 
 std::vector<Panel> panelsOf(const DepthProfiles& section) {
   std::vector<Panel> panels = {
-      {FigureWords::tr("Velocity [m/s]"), withRoom(section.velocities(), true), kVelocityInk,
+      {FigureWords::tr("Velocity [%1]").arg(velocityUnitText()), "m/s",
+       withRoom(section.velocities(), true), kVelocityInk,
        [](const Layer& layer) { return layer.velocity; }, section.hasCertainty()},
-      {FigureWords::tr("Vertical gradient [1/s]"), withRoom(section.gradients(), true),
+      {FigureWords::tr("Vertical gradient [1/s]"), "1/s", withRoom(section.gradients(), true),
        kGradientInk, [](const Layer& layer) { return layer.gradient; }}};
   if (section.hasCertainty()) {
-    panels.push_back({FigureWords::tr("Uncertainty [%]"), withRoom(section.spreads(), true),
+    panels.push_back({FigureWords::tr("Uncertainty [%]"), "%", withRoom(section.spreads(), true),
                       kSpreadInk, [](const Layer& layer) { return layer.spread; }});
   }
   return panels;
@@ -99,6 +103,7 @@ class ProfilePainter {
   QString number(double value, int decimals) const {
     return mLocale.toString(value + 0.0, 'f', decimals);
   }
+  QString length(double metres) const { return withLengthUnit(number(shownLength(metres), 2)); }
   void put(const QString& text, const QPointF& middle, double angle = 0.0) {
     mPainter.save();
     mPainter.setPen(Qt::black);
@@ -110,11 +115,11 @@ class ProfilePainter {
   }
 
   void paintCaption(double left) {
-    QStringList words = {FigureWords::tr("Distance %1 m").arg(number(mProfile.x, 2))};
+    QStringList words = {FigureWords::tr("Distance %1").arg(length(mProfile.x))};
     if (mProfile.layers.empty()) {
       words << FigureWords::tr("no section here");
     } else {
-      words << FigureWords::tr("surface at %1 m").arg(number(mProfile.surface, 2));
+      words << FigureWords::tr("surface at %1").arg(length(mProfile.surface));
     }
     if (mPanels.front().band) words << FigureWords::tr("shaded: 16 to 84 %");
     const QString text =
@@ -124,7 +129,7 @@ class ProfilePainter {
 
   void paintDepths(const QRectF& area, bool first) {
     const int most = std::max(static_cast<int>(area.height() / (2.4 * mLine)), 2);
-    const AxisTicks ticks = axisTicks(0.0, mDeepest, most);
+    const AxisTicks ticks = shownTicks(0.0, mDeepest, most, "m");
     for (const double depth : ticks.major) {
       const double y = yOf(depth);
       mPainter.setPen(QPen(kGrid, 1.0));
@@ -132,11 +137,12 @@ class ProfilePainter {
       if (!first) continue;
       mPainter.setPen(QPen(Qt::black, 1.0));
       mPainter.drawLine(QPointF(area.left() - kTick, y), QPointF(area.left(), y));
-      const QString text = number(depth, ticks.decimals);
+      const QString text = number(depth * ticks.factor, ticks.decimals);
       put(text, {area.left() - kTick - 3.0 - 0.5 * mMetrics.horizontalAdvance(text), y});
     }
     if (first) {
-      put(FigureWords::tr("Depth [m]"), {mSheet.left() + 0.8 * mLine, area.center().y()}, -90.0);
+      put(FigureWords::tr("Depth [%1]").arg(lengthUnitText()),
+          {mSheet.left() + 0.8 * mLine, area.center().y()}, -90.0);
     }
   }
 
@@ -179,10 +185,11 @@ class ProfilePainter {
   }
 
   void paintValues(const Panel& panel, const QRectF& area) {
-    const QString widest = number(panel.range.max, 0) + QStringLiteral("..");
+    const QString widest =
+        number(shownUnit(panel.unit).shown(panel.range.max), 0) + QStringLiteral("..");
     const double spacing = mMetrics.horizontalAdvance(widest) + 1.2 * mLine;
     const int most = std::max(static_cast<int>(area.width() / spacing), 1);
-    const AxisTicks ticks = axisTicks(panel.range.min, panel.range.max, most);
+    const AxisTicks ticks = shownTicks(panel.range.min, panel.range.max, most, panel.unit);
     mPainter.setPen(QPen(Qt::black, 1.0));
     for (const double value : ticks.minor) {
       const double x = xOf(panel, area, value);
@@ -194,7 +201,7 @@ class ProfilePainter {
       mPainter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
       mPainter.setPen(QPen(Qt::black, 1.0));
       mPainter.drawLine(QPointF(x, area.top() - kTick), QPointF(x, area.top()));
-      put(number(value, ticks.decimals), {x, area.top() - kTick - 0.6 * mLine});
+      put(number(value * ticks.factor, ticks.decimals), {x, area.top() - kTick - 0.6 * mLine});
     }
     const QString title = mMetrics.elidedText(panel.title, Qt::ElideRight, area.width() + kGap);
     put(title, {area.center().x(), area.top() - kTick - 2.1 * mLine});

@@ -51,11 +51,12 @@ struct Panel {
 };
 
 std::vector<Panel> panels() {
-  return {{{Quantity::kVp, Quantity::kVs}, FigureWords::tr("Velocity [m/s]")},
-          {{Quantity::kRatio}, FigureWords::tr("Vp/Vs"), true},
-          {{Quantity::kPoisson}, FigureWords::tr("Poisson's ratio"), true},
-          {{Quantity::kShear, Quantity::kYoung}, FigureWords::tr("G0, E0 [MPa]"), false, true},
-          {{Quantity::kBulk, Quantity::kConstrained}, FigureWords::tr("K, M [MPa]"), false, true}};
+  return {
+      {{Quantity::kVp, Quantity::kVs}, FigureWords::tr("Velocity [%1]").arg(velocityUnitText())},
+      {{Quantity::kRatio}, FigureWords::tr("Vp/Vs"), true},
+      {{Quantity::kPoisson}, FigureWords::tr("Poisson's ratio"), true},
+      {{Quantity::kShear, Quantity::kYoung}, FigureWords::tr("G0, E0 [MPa]"), false, true},
+      {{Quantity::kBulk, Quantity::kConstrained}, FigureWords::tr("K, M [MPa]"), false, true}};
 }
 
 PlotSeries curveOf(const ElasticLayer& layer, Quantity quantity, bool second) {
@@ -307,7 +308,7 @@ QString elasticUnit(ElasticQuantity quantity) {
   switch (quantity) {
     case Quantity::kVp:
     case Quantity::kVs:
-      return FigureWords::tr("m/s");
+      return velocityUnitText();
     case Quantity::kRatio:
     case Quantity::kPoisson:
       return {};

@@ -2,6 +2,7 @@
 
 #include "figures/FigureFile.h"
 #include "figures/FigureOutput.h"
+#include "figures/ShownScale.h"
 
 #include <QFontMetricsF>
 #include <QImage>
@@ -34,15 +35,6 @@ QwtText plainText(const QString& words, double points, bool bold = false) {
   result.setRenderFlags(Qt::AlignCenter | Qt::TextWordWrap);
   return result;
 }
-
-class NumberScaleDraw : public QwtScaleDraw {
- public:
-  QwtText label(double value) const override {
-    // A tick at zero may come as the remainder of a division into ticks.
-    const double span = std::abs(scaleDiv().range());
-    return figureNumber(std::abs(value) < 1e-9 * span ? 0.0 : value);
-  }
-};
 
 }  // namespace
 
@@ -148,9 +140,9 @@ void FigurePlot::addAxis(int axis, const QString& title) {
   mPlot->enableAxis(axis);
   mPlot->setAxisTitle(axis, plainText(title, 9.5));
   mPlot->setAxisFont(axis, figureFont(8.5));
-  auto* scale = new NumberScaleDraw;
-  scale->enableComponent(QwtAbstractScaleDraw::Backbone, false);  // the frame is the axis
-  mPlot->setAxisScaleDraw(axis, scale);
+  setShownScale(*mPlot, axis, [](double value) { return figureNumber(value); });
+  // The frame is the axis.
+  mPlot->axisScaleDraw(axis)->enableComponent(QwtAbstractScaleDraw::Backbone, false);
   mPlot->axisWidget(axis)->setMargin(0);
 }
 

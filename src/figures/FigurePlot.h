@@ -43,6 +43,7 @@ class FigurePlot {
   QwtPlot& plot() { return *mPlot; }
   double pointsPerMm() const;
 
+  /// Values are metres and m/s whatever unit the title names; see setShownScale().
   /// \param axis one of QwtPlot::Axis
   void addAxis(int axis, const QString& title);
   /// Values at the left and right, or lower and upper, end of an axis; the first may be the larger.

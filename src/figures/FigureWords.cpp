@@ -35,10 +35,6 @@ class LanguageOfProgram : public Message::Language {
   const QLocale& mLocale;
 };
 
-QString unitOf(const SectionScene& scene) {
-  return qt(scene.values ? scene.values->unit : quantityUnit(scene.quantity));
-}
-
 template <typename Is>
 std::size_t countOf(const std::vector<TraceMend>& traces, Is is) {
   return static_cast<std::size_t>(std::count_if(traces.begin(), traces.end(), is));
@@ -48,6 +44,10 @@ std::size_t countOf(const std::vector<TraceMend>& traces, Is is) {
 
 QString FigureWords::message(const Message& message, const QLocale& locale) {
   return qt(message.in(LanguageOfProgram(locale)));
+}
+
+ShownUnit FigureWords::unitOf(const SectionScene& scene) {
+  return shownUnit(scene.values ? scene.values->unit : quantityUnit(scene.quantity));
 }
 
 QStringList FigureWords::mends(const ShotMends& mends, const QLocale& locale) {
@@ -111,7 +111,7 @@ QString FigureWords::quantity(const SectionScene& scene) {
 }
 
 QString FigureWords::quantityAxis(const SectionScene& scene) {
-  const QString unit = showsSpread(scene) ? QStringLiteral("\u00B1 %") : unitOf(scene);
+  const QString unit = showsSpread(scene) ? QStringLiteral("\u00B1 %") : qt(unitOf(scene).name);
   return unit.isEmpty() ? quantity(scene) : QStringLiteral("%1 [%2]").arg(quantity(scene), unit);
 }
 
@@ -158,11 +158,14 @@ QString FigureWords::picksChanged() {
 QString FigureWords::layer(std::uint32_t layer, double velocity, double error,
                            const QLocale& locale) {
   if (!std::isfinite(velocity) || !(velocity > 0.0)) return tr("Layer %1").arg(layer);
-  const QString text = locale.toString(velocity, 'f', 0);
-  if (!std::isfinite(error) || !(error > 0.0)) return tr("Layer %1, %2 m/s").arg(layer).arg(text);
-  return tr("Layer %1, %2 \u00B1 %3 m/s")
+  const QString text = locale.toString(shownLength(velocity), 'f', 0);
+  if (!std::isfinite(error) || !(error > 0.0)) {
+    return tr("Layer %1, %2").arg(layer).arg(withVelocityUnit(text));
+  }
+  const double shown = shownLength(error);
+  return tr("Layer %1, %2 \u00B1 %3")
       .arg(layer)
-      .arg(text, locale.toString(error, 'f', error < 1.0 ? 1 : 0));
+      .arg(text, withVelocityUnit(locale.toString(shown, 'f', shown < 1.0 ? 1 : 0)));
 }
 
 QString FigureWords::uncarried() {
@@ -174,7 +177,7 @@ QString FigureWords::profileBand() {
 }
 
 QString FigureWords::velocity(double velocity, const QLocale& locale) {
-  return QStringLiteral("%1 m/s").arg(number(formatDouble(velocity, 6), locale));
+  return withVelocityUnit(number(formatDouble(shownLength(velocity), 6), locale));
 }
 
 QString FigureWords::depthBand(double value, const QLocale& locale) {
@@ -216,11 +219,12 @@ QString FigureWords::exaggeration(double factor, const QLocale& locale) {
 
 QStringList FigureWords::sectionFacts(const SectionScene& scene, double verticalExaggeration,
                                       const QLocale& locale) {
-  const auto text = [&locale](double value, double step) {
-    return number(valueText(value, step), locale);
+  const ShownUnit shown = unitOf(scene);
+  const auto text = [&](double value, double step) {
+    return number(valueText(shown.shown(value), shown.shown(step)), locale);
   };
   const double step = scene.range.span() / 100.0;
-  QString unit = unitOf(scene);
+  QString unit = qt(shown.name);
   if (!unit.isEmpty()) unit.prepend(QLatin1Char(' '));
   QStringList facts;
   if (scene.fill != SectionFill::kNone) {

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "base/Message.h"
+#include "figures/ShownLength.h"
 #include "model/Mends.h"
 #include "model/PickGrades.h"
 #include "view/SectionScene.h"
+#include "view/ShownUnit.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -24,8 +26,8 @@ struct FigureWords {
   static QString quantity(const SectionScene& scene);
   /// With its unit: "Velocity [m/s]".
   static QString quantityAxis(const SectionScene& scene);
-  static QString distanceAxis() { return tr("Distance [m]"); }
-  static QString elevationAxis() { return tr("Elevation [m]"); }
+  static QString distanceAxis() { return tr("Distance [%1]").arg(lengthUnitText()); }
+  static QString elevationAxis() { return tr("Elevation [%1]").arg(lengthUnitText()); }
   static QString timeAxis() { return tr("Time [ms]"); }
   static QString channelAxis() { return tr("Channel"); }
 
@@ -53,6 +55,9 @@ struct FigureWords {
   static QString message(const Message& message, const QLocale& locale = QLocale::c());
   static QString refractor(std::size_t index);     ///< "Refractor 1" for 0, the shallowest
   static QString oldRefractor(std::size_t index);  ///< the same of a profile of other picks
+
+  /// What a value of a scene is multiplied by to be shown, and the unit then.
+  static ShownUnit unitOf(const SectionScene& scene);
 
   /// Of a legend: "Layer 2, 1850 ± 60 m/s", without what is not known.
   static QString layer(std::uint32_t layer, double velocity, double error,

@@ -4,6 +4,7 @@
 #include "figures/DrawableValues.h"
 #include "figures/FigureWords.h"
 #include "figures/GatherWindow.h"
+#include "figures/ShownLength.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "model/SurveyLine.h"
@@ -162,8 +163,9 @@ std::string titleOf(const TomoDocument& document, std::size_t shot, const Travel
   // Where nothing else has a position, 0 is what stands for none.
   if (record != nullptr && isPosition(record->shotPos2d.x) &&
       (receiversKnown || record->shotPos2d.x != 0.0)) {
-    number = FigureWords::tr("%1 at %2 m", "shot, place")
-                 .arg(number, QString::fromStdString(valueText(record->shotPos2d.x, 0.1)));
+    number = FigureWords::tr("%1 at %2", "shot, place")
+                 .arg(number, withLengthUnit(QString::fromStdString(
+                                  valueText(shownLength(record->shotPos2d.x), 0.1))));
   }
   return FigureWords::joined(parts << number).toStdString();
 }

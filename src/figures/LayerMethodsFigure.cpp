@@ -155,7 +155,7 @@ class MethodsSheet {
   MethodsSheet(MethodComparison comparison, const LayerMethodsFigureOptions& options)
       : mComparison(std::move(comparison)), mOptions(options) {
     mPlot.addAxis(QwtPlot::xBottom, FigureWords::distanceAxis());
-    mPlot.addAxis(QwtPlot::yLeft, FigureWords::tr("Depth [m]"));
+    mPlot.addAxis(QwtPlot::yLeft, FigureWords::tr("Depth [%1]").arg(lengthUnitText()));
     for (const MethodResult& result : mComparison.results) addLines(result);
     mPlot.setTexts({}, caption(), options.widthMm);
   }

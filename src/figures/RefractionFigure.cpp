@@ -69,8 +69,8 @@ RefractionSheet::RefractionSheet(const TomoDocument& document,
       mTitle(options.title.empty() ? document.title : options.title),
       mPicksChanged(picksChangedSince(document, profile.refractData)) {
   if (mTitle.empty()) mTitle = FigureWords::tr("Refraction Profile").toStdString();
-  mPlot.addAxis(QwtPlot::xBottom, FigureWords::tr("X (m)"));
-  mPlot.addAxis(QwtPlot::yLeft, FigureWords::tr("Z (m)"));
+  mPlot.addAxis(QwtPlot::xBottom, FigureWords::tr("X (%1)").arg(lengthUnitText()));
+  mPlot.addAxis(QwtPlot::yLeft, FigureWords::tr("Z (%1)").arg(lengthUnitText()));
   addLayers();
 }
 

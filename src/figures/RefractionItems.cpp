@@ -267,10 +267,9 @@ QwtPlotItem* tops(const RefractionScene& scene) {
 
 /// Of a first layer that has no one velocity.
 QString firstLayerName(const RefractionScene& scene, const QLocale& locale) {
-  const QString mean = locale.toString(scene.v1, 'f', 0);
-  return scene.v1Grows
-             ? FigureWords::tr("Layer 1, %1 m/s in the mean, growing with depth").arg(mean)
-             : FigureWords::tr("Layer 1, %1 m/s in the mean").arg(mean);
+  const QString mean = withVelocityUnit(locale.toString(shownLength(scene.v1), 'f', 0));
+  return scene.v1Grows ? FigureWords::tr("Layer 1, %1 in the mean, growing with depth").arg(mean)
+                       : FigureWords::tr("Layer 1, %1 in the mean").arg(mean);
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ QString milliseconds(double seconds, const QLocale& locale) {
 
 /// Places in metres, as short as the distance of neighbours allows.
 QString placeText(double x, const QLocale& locale) {
-  return std::isfinite(x) ? locale.toString(std::round(10.0 * x) / 10.0 + 0.0, 'g', 6)
+  return std::isfinite(x) ? locale.toString(std::round(10.0 * shownLength(x)) / 10.0 + 0.0, 'g', 6)
                           : QStringLiteral("?");
 }
 
@@ -102,8 +102,9 @@ SeriesFigure plotOf(std::vector<PlotSeries> series, const QString& xTitle,
 Status prepareOffset(const ResidualTable& table, const ResidualLook& look, FigureSheet& sheet,
                      FigureDrawing& drawing) {
   if (sheet.heightMm <= 0.0) sheet.heightMm = kHeightOverWidth * sheet.widthMm;
-  return prepareSeriesFigure(plotOf(offsetSeries(table, look), FigureWords::tr("Offset [m]"), look),
-                             sheet.widthMm, sheet.heightMm, drawing);
+  return prepareSeriesFigure(
+      plotOf(offsetSeries(table, look), FigureWords::tr("Offset [%1]").arg(lengthUnitText()), look),
+      sheet.widthMm, sheet.heightMm, drawing);
 }
 
 /// Shots above geophones.
@@ -113,8 +114,9 @@ Status prepareGroups(const ResidualTable& table, const ResidualLook& look, Figur
   SeriesFigure shots =
       plotOf(spreadSeries(spreadOfShots(table, look.unit), look), FigureWords::tr("Shot"), look);
   shots.wholeNumbers = true;
-  const SeriesFigure geophones = plotOf(spreadSeries(spreadOfGeophones(table, look.unit), look),
-                                        FigureWords::tr("Geophone at [m]"), look);
+  const SeriesFigure geophones =
+      plotOf(spreadSeries(spreadOfGeophones(table, look.unit), look),
+             FigureWords::tr("Geophone at [%1]").arg(lengthUnitText()), look);
   const double half = sheet.heightMm / 2.0;
   FigureDrawing above;
   FigureDrawing below;
@@ -138,15 +140,16 @@ QString residualAxis(ResidualUnit unit) {
 QString residualText(const ResidualTable& table, std::size_t pick, const QLocale& locale) {
   const PickResidual& own = table.picks[pick];
   const double errors = own.value(ResidualUnit::kErrors);
-  QString text = FigureWords::tr(
-                     "Shot %1, geophone %2 at %3 m, offset %4 m: measured %5 ms, computed %6 ms, "
-                     "residual %7 ms, error %8 ms (%9 errors)")
-                     .arg(own.record + 1)
-                     .arg(own.receiver + 1)
-                     .arg(placeText(table.columns[own.column].x, locale),
-                          placeText(own.offset, locale), milliseconds(own.measured, locale),
-                          milliseconds(own.computed(), locale), milliseconds(own.residual, locale),
-                          milliseconds(own.sigma, locale), number(errors, 1, locale));
+  QString text =
+      FigureWords::tr(
+          "Shot %1, geophone %2 at %3, offset %4: measured %5 ms, computed %6 ms, "
+          "residual %7 ms, error %8 ms (%9 errors)")
+          .arg(own.record + 1)
+          .arg(own.receiver + 1)
+          .arg(withLengthUnit(placeText(table.columns[own.column].x, locale)),
+               withLengthUnit(placeText(own.offset, locale)), milliseconds(own.measured, locale),
+               milliseconds(own.computed(), locale), milliseconds(own.residual, locale),
+               milliseconds(own.sigma, locale), number(errors, 1, locale));
   if (own.suspect) text += FigureWords::tr("; suspect");
   return text;
 }
@@ -167,7 +170,8 @@ MatrixPicture residualMatrix(const ResidualTable& table, const ResidualLook& loo
     if (table.picks[table.cells[i]].suspect) picture.marked.push_back(i);
   }
   picture.limit = residualLimit(picture.values, look.unit);
-  picture.heading = FigureWords::tr("Geophone at [m]; hatched: no pick, with a dot: suspect");
+  picture.heading = FigureWords::tr("Geophone at [%1]; hatched: no pick, with a dot: suspect")
+                        .arg(lengthUnitText());
   picture.rowTitle = FigureWords::tr("Shot, along the line");
   picture.legendTitle = residualAxis(look.unit);
   picture.numbers = look.numbers;

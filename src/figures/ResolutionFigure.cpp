@@ -3,6 +3,7 @@
 #include "figures/FigureOutput.h"
 #include "figures/FigureWords.h"
 #include "grid/GridGeometry.h"
+#include "view/ShownUnit.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -43,11 +44,12 @@ Frame frameOf(const GridGeometry& geometry, double xOffset) {
           *low - geometry.righe() * geometry.aLato(), *high + geometry.aLato()};
 }
 
-/// A rectangle of a picture with axes of metres; everything in millimetres.
+/// A rectangle of a picture with elevations upward; everything on it in millimetres.
 class Panel {
  public:
-  Panel(QPainter& painter, const QRectF& place, const Frame& frame)
-      : mPainter(painter), mPlace(place), mFrame(frame) {}
+  /// \param unit of what goes to the right
+  Panel(QPainter& painter, const QRectF& place, const Frame& frame, const char* unit)
+      : mPainter(painter), mPlace(place), mFrame(frame), mUnit(shownUnit(unit)) {}
 
   double x(double value) const {
     return mPlace.left() + (value - mFrame.left) / (mFrame.right - mFrame.left) * mPlace.width();
@@ -69,18 +71,21 @@ class Panel {
     mPainter.setPen(QPen(Qt::black, 0.2));
     mPainter.setBrush(Qt::NoBrush);
     mPainter.drawRect(mPlace);
-    for (const double value : ticks(mFrame.left, mFrame.right)) {
+    const auto each = [](double from, double to, const ShownUnit& unit, const auto& mark) {
+      for (const double shown : ticks(unit.shown(from), unit.shown(to))) {
+        mark(shown / unit.factor, QString::number(shown));
+      }
+    };
+    each(mFrame.left, mFrame.right, mUnit, [this](double value, const QString& number) {
       const double at = x(value);
       mPainter.drawLine(QPointF(at, mPlace.bottom()), QPointF(at, mPlace.bottom() + 1.0));
-      text({at - 10.0, mPlace.bottom() + 1.2, 20.0, 4.0}, Qt::AlignHCenter | Qt::AlignTop,
-           QString::number(value));
-    }
-    for (const double value : ticks(mFrame.low, mFrame.high)) {
+      text({at - 10.0, mPlace.bottom() + 1.2, 20.0, 4.0}, Qt::AlignHCenter | Qt::AlignTop, number);
+    });
+    each(mFrame.low, mFrame.high, shownUnit("m"), [this](double value, const QString& number) {
       const double at = y(value);
       mPainter.drawLine(QPointF(mPlace.left() - 1.0, at), QPointF(mPlace.left(), at));
-      text({mPlace.left() - 12.0, at - 2.0, 10.5, 4.0}, Qt::AlignRight | Qt::AlignVCenter,
-           QString::number(value));
-    }
+      text({mPlace.left() - 12.0, at - 2.0, 10.5, 4.0}, Qt::AlignRight | Qt::AlignVCenter, number);
+    });
     text({mPlace.left(), mPlace.bottom() + 5.5, mPlace.width(), 5.0}, Qt::AlignCenter, below);
     text({mPlace.left() - 12.0, mPlace.top() - kTitle, 12.0, kTitle - 1.0},
          Qt::AlignLeft | Qt::AlignVCenter, beside);
@@ -103,6 +108,7 @@ class Panel {
   QPainter& mPainter;
   QRectF mPlace;
   Frame mFrame;
+  ShownUnit mUnit;
 };
 
 void paintCells(QPainter& painter, const Panel& panel, const ResolutionPanels& panels,
@@ -123,7 +129,7 @@ void paintCells(QPainter& painter, const Panel& panel, const ResolutionPanels& p
 
 void paintCurve(QPainter& painter, const QRectF& place, const ResolutionPanels& panels) {
   const double deepest = panels.geometry->righe() * panels.geometry->aLato();
-  const Panel panel(painter, place, {-0.2, 1.0, -deepest, 0.0});
+  const Panel panel(painter, place, {-0.2, 1.0, -deepest, 0.0}, "");
   painter.setPen(QPen(Qt::darkGray, 0.2, Qt::DashLine));
   painter.drawLine(QPointF(panel.x(panels.threshold), place.top()),
                    QPointF(panel.x(panels.threshold), place.bottom()));
@@ -180,10 +186,10 @@ Status prepareResolutionFigure(const ResolutionPanels& panels, double widthMm,
     const double top = kMargin + kTitle;
     double left = kMargin + kGap - 4.0;
     for (const bool truth : {true, false}) {
-      const Panel panel(painter, {left, top, width, height}, frame);
+      const Panel panel(painter, {left, top, width, height}, frame, "m");
       paintCells(painter, panel, panels, truth ? panels.truth : panels.recovered, truth);
       panel.title(truth ? FigureWords::tr("True") : FigureWords::tr("Recovered"));
-      panel.frame(FigureWords::distanceAxis(), FigureWords::tr("[m]"));
+      panel.frame(FigureWords::distanceAxis(), FigureWords::tr("[%1]").arg(lengthUnitText()));
       left += width + kGap;
     }
     paintCurve(painter, {left, top, kCurveShare * width, height}, panels);

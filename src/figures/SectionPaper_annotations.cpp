@@ -5,6 +5,7 @@
 #include "figures/LithologyPattern.h"
 #include "figures/SectionItems.h"
 #include "figures/SectionPaper_painter.h"
+#include "figures/ShownLength.h"
 #include "view/SectionScene.h"
 
 #include <QPolygonF>
@@ -117,9 +118,17 @@ void SectionPaperPainter::paintMarkedIsolines() {
   }
 }
 
+namespace {
+
+QString velocityOf(const MarkedIsoline& mark, const QLocale& locale) {
+  return withVelocityUnit(locale.toString(shownLength(mark.velocity), 'g', 6));
+}
+
+}  // namespace
+
 QString isolineName(const MarkedIsoline& mark, const QLocale& locale) {
   if (!mark.name.empty()) return QString::fromStdString(mark.name);
-  return FigureWords::tr("%1 m/s").arg(locale.toString(mark.velocity, 'g', 6));
+  return velocityOf(mark, locale);
 }
 
 namespace {
@@ -127,7 +136,7 @@ namespace {
 LegendEntry legendOf(const DrawnIsoline& isoline, const QLocale& locale) {
   QString text = isolineName(isoline.mark, locale);
   if (!isoline.mark.name.empty()) {
-    text = FigureWords::tr("%1: %2 m/s").arg(text, locale.toString(isoline.mark.velocity, 'g', 6));
+    text = FigureWords::tr("%1: %2").arg(text, velocityOf(isoline.mark, locale));
   }
   if (isoline.lines.empty()) text = FigureWords::tr("%1 (not reached)").arg(text);
   const QPen pen = penOf(isoline.mark.color, isoline.mark.width);

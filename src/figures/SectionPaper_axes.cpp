@@ -30,8 +30,8 @@ QRectF SectionPaperPainter::visible() const {
 AxisTicks SectionPaperPainter::distanceTicks() const {
   const QRectF part = visible();
   const double length = QLineF(mMap.map(part.topLeft()), mMap.map(part.topRight())).length();
-  return axisTicks(part.left(), part.right(),
-                   std::max(static_cast<int>(length / kDistanceSpacing), 2));
+  return shownTicks(part.left(), part.right(),
+                    std::max(static_cast<int>(length / kDistanceSpacing), 2), "m");
 }
 
 /// As many as have room above each other, and digits in the margin.
@@ -39,10 +39,10 @@ AxisTicks SectionPaperPainter::elevationTicks() const {
   const QRectF part = visible();
   const double length = QLineF(mMap.map(part.topLeft()), mMap.map(part.bottomLeft())).length();
   int most = std::max(static_cast<int>(length / kElevationSpacing), 2);
-  AxisTicks ticks = axisTicks(part.top(), part.bottom(), most);
+  AxisTicks ticks = shownTicks(part.top(), part.bottom(), most, "m");
   while (most > 1 && widest(numbers(ticks, mDress.locale), mMetrics) > mLayout.numberWidth) {
     most /= 2;
-    ticks = axisTicks(part.top(), part.bottom(), most);
+    ticks = shownTicks(part.top(), part.bottom(), most, "m");
   }
   return ticks;
 }

@@ -1,6 +1,7 @@
 #include "figures/FigureItem.h"
 #include "figures/FigureWords.h"
 #include "figures/SectionPaper_painter.h"
+#include "figures/ShownLength.h"
 #include "view/SectionScene.h"
 #include "view/SectionTexts.h"
 
@@ -46,7 +47,7 @@ QRectF boreholeBox(const QPointF& top, const QPointF& bottom) {
 }
 
 QString SectionPaperPainter::velocityWords(double velocity) const {
-  return QString::fromStdString(valueText(velocity, 1.0))
+  return QString::fromStdString(valueText(shownLength(velocity), 1.0))
       .replace(QLatin1Char('.'), mDress.locale.decimalPoint());
 }
 
@@ -78,7 +79,9 @@ void SectionPaperPainter::paintKnown() {
     strokeTwice(mPainter, kBodyPen, outline);
     const QPointF middle = outline.boundingRect().center();
     const QString name = QString::fromStdString(body.name);
-    putOnSection(FigureWords::tr("%1: %2 m/s").arg(name, velocityWords(body.velocity)), middle);
+    putOnSection(
+        FigureWords::tr("%1: %2").arg(name, withVelocityUnit(velocityWords(body.velocity))),
+        middle);
   }
   for (const KnownMarks::Borehole& borehole : known.boreholes) {
     const bool coloured = mScene.quantity == SectionQuantity::kVelocity && !mScene.values;
@@ -99,8 +102,8 @@ void SectionPaperPainter::paintKnown() {
     if (borehole.layers.empty()) continue;
     QString name = QString::fromStdString(borehole.name);
     if (borehole.offset != 0.0) {
-      name = FigureWords::tr("%1 (%2 m beside the line)")
-                 .arg(name, mDress.locale.toString(borehole.offset));
+      name = FigureWords::tr("%1 (%2 beside the line)")
+                 .arg(name, withLengthUnit(mDress.locale.toString(shownLength(borehole.offset))));
     }
     const KnownMarks::Layer& last = borehole.layers.back();
     putOnSection(name, place(borehole.x, last.bottom) + QPointF(0.0, 0.5 * mLine + kGap));
@@ -111,7 +114,7 @@ void SectionPaperPainter::paintKnown() {
     paintKnownDepth(mPainter, at, bar, bar);
     QString text = QString::fromStdString(point.name);
     if (point.velocity > 0.0) {
-      text = FigureWords::tr("%1: %2 m/s").arg(text, velocityWords(point.velocity));
+      text = FigureWords::tr("%1: %2").arg(text, withVelocityUnit(velocityWords(point.velocity)));
     }
     putOnSection(text, at + beside(text));
   }

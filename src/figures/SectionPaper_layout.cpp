@@ -1,5 +1,6 @@
 #include "figures/SectionPaper_layout.h"
 
+#include "base/LengthUnit.h"
 #include "figures/FigureWords.h"
 #include "view/SectionScene.h"
 
@@ -15,7 +16,8 @@ using namespace section_paper;
 QStringList section_paper::numbers(const AxisTicks& ticks, const QLocale& locale) {
   QStringList texts;
   for (const double value : ticks.major) {
-    texts << locale.toString(value + 0.0, 'f', ticks.decimals);  // no minus before a zero
+    texts << locale.toString(value * ticks.factor + 0.0, 'f',
+                             ticks.decimals);  // no minus before a zero
   }
   return texts;
 }
@@ -31,7 +33,8 @@ AxisTicks section_paper::barTicks(const SectionScene& scene, const ColorTable& c
   const ValueRange& range = colors.range();
   // A low bar needs two numbers to be read, closer to each other than those of a high one.
   const double most = std::max(length / spacing, std::min(2.0 * length / spacing, 4.0));
-  AxisTicks ticks = axisTicks(range.min, range.max, std::max(static_cast<int>(most), 1));
+  const std::string unit = scene.values ? scene.values->unit : quantityUnit(scene.quantity);
+  AxisTicks ticks = shownTicks(range.min, range.max, std::max(static_cast<int>(most), 1), unit);
   if (scene.fill != SectionFill::kBands) return ticks;
   const std::vector<double> levels = scene.bandLevels();
   double least = range.span();
@@ -40,10 +43,10 @@ AxisTicks section_paper::barTicks(const SectionScene& scene, const ColorTable& c
   if (levels.empty() || least / range.span() * length < 0.5 * spacing) return ticks;
   ticks.minor.clear();
   ticks.major = levels;
-  ticks.decimals = axisTicks(range.min, range.max, 20).decimals;
+  ticks.decimals = shownTicks(range.min, range.max, 20, unit).decimals;
   const auto broken = [&ticks](double value) {
-    const double power = std::pow(10.0, ticks.decimals);
-    return std::abs(value * power - std::round(value * power)) > 1e-6;
+    const double shown = value * ticks.factor * std::pow(10.0, ticks.decimals);
+    return std::abs(shown - std::round(shown)) > 1e-6;
   };
   if (ticks.decimals > 0 && std::any_of(levels.begin(), levels.end(), broken)) ++ticks.decimals;
   return ticks;
@@ -61,7 +64,8 @@ constexpr double kWordGap = 18.0;
 double elevationWidth(const SectionExtent& extent, const SectionDress& dress,
                       const QFontMetricsF& metrics) {
   QStringList texts{QStringLiteral("-888.8")};
-  for (const double z : {extent.low.z, extent.high.z}) texts << dress.locale.toString(z, 'f', 1);
+  for (const double z : {extent.low.z, extent.high.z})
+    texts << dress.locale.toString(shownLength(z), 'f', 1);
   return widest(texts, metrics);
 }
 

@@ -93,11 +93,12 @@ void SectionPaperPainter::paintContourValues(std::vector<QRectF>& taken) {
     lines.push_back(thinned(contour.points, mMap));
     if (contour.closed && !lines.back().isEmpty()) lines.back().append(lines.back().front());
   }
-  const double step = mScene.range.span() / 50.0;
+  const ShownUnit shown = FigureWords::unitOf(mScene);
+  const double step = shown.shown(mScene.range.span() / 50.0);
   paintContourLabels(
       mPainter, mScene, lines, mDress.contours, mPlot,
       [&](double value) {
-        const QString text = QString::fromStdString(valueText(value, step));
+        const QString text = QString::fromStdString(valueText(shown.shown(value), step));
         return QString(text).replace(QLatin1Char('.'), mDress.locale.decimalPoint());
       },
       taken);

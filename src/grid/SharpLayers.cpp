@@ -59,13 +59,13 @@ Status checkSharpLayers(const std::vector<VelocityLayer>& layers) {
     for (const double velocity : {layer.initialVelocity, layer.finalVelocity}) {
       if (velocity > 0.0 && std::isfinite(velocity)) continue;
       return Status::failure(
-          Message::tr("A layer has a velocity of %1 m/s, which is no velocity of the ground.")
-              .arg(velocity));
+          Message::tr("A layer has a velocity of %1, which is no velocity of the ground.")
+              .arg(Message::velocity(velocity)));
     }
     if (layer.initialDepth < bottom - kTouching) {
-      return Status::failure(Message::tr("The layer that begins at %1 m lies over another; order "
+      return Status::failure(Message::tr("The layer that begins at %1 lies over another; order "
                                          "the layers by depth, without overlap.")
-                                 .arg(layer.initialDepth));
+                                 .arg(Message::length(layer.initialDepth)));
     }
     bottom = layer.finalDepth;
   }

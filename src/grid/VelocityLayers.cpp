@@ -20,11 +20,11 @@ Message invalidVelocity(const GridSize& size, const Splines::Spline& velocityOfD
     const double velocity = velocityOfDepth(depth);
     if (velocity > 0.0 && std::isfinite(velocity)) continue;
     return Message::tr(
-               "The layers give a velocity of %1 m/s at a depth of %2 m, which is no velocity of "
+               "The layers give a velocity of %1 at a depth of %2, which is no velocity of "
                "the ground. Let the layers cover the whole depth of the grid, or make the change "
                "between them gentler.")
-        .arg(velocity)
-        .arg(depth);
+        .arg(Message::velocity(velocity))
+        .arg(Message::length(depth));
   }
   return {};
 }

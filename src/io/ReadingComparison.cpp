@@ -99,7 +99,7 @@ double startOf(const ShotRecord& trace, std::size_t lead) {
 template <typename XOf>
 Message placesOf(const Traces& traces, XOf x) {
   const Span span = spanOf(traces, x);
-  return span.least == span.most ? Message::tr("%1 m").arg(span.least)
+  return span.least == span.most ? Message::length(span.least)
                                  : Message::tr("%1 to %2 m").arg(span.least).arg(span.most);
 }
 

@@ -129,7 +129,10 @@ Message faultOf(const Annotation& annotation) {
                      .arg(fewest);
   }
   for (const Point2D& p : annotation.points) {
-    if (!isPlace(p)) return Message::tr("%1 m, %2 m is no place of a section").arg(p.x).arg(p.z);
+    if (!isPlace(p))
+      return Message::tr("%1, %2 is no place of a section")
+          .arg(Message::length(p.x))
+          .arg(Message::length(p.z));
   }
   if (!within(annotation.textSize, Annotations::kSmallestText, Annotations::kLargestText)) {
     return Message::tr("a text is %1 to %2 points high")

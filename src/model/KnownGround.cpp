@@ -58,7 +58,7 @@ Message noDepth(double value) {
 }
 
 Message noPlace(double value) {
-  return Message::tr("%1 m is no position along the line").arg(value);
+  return Message::tr("%1 is no position along the line").arg(Message::length(value));
 }
 
 Message faultOfName(const std::string& name) {
@@ -130,9 +130,9 @@ Message faultOf(const KnownBorehole& borehole) {
   for (const KnownLayer& layer : borehole.layers) {
     if (Message fault = faultOf(layer); !fault.empty()) return fault;
     if (layer.top < bottom) {
-      return Message::tr("the layer from %1 m begins above the bottom of the one before, %2 m")
-          .arg(layer.top)
-          .arg(bottom);
+      return Message::tr("the layer from %1 begins above the bottom of the one before, %2")
+          .arg(Message::length(layer.top))
+          .arg(Message::length(bottom));
     }
     bottom = layer.bottom;
   }
@@ -144,7 +144,7 @@ Message faultOf(const KnownDepth& depth) {
   if (!isPlace(depth.x)) return noPlace(depth.x);
   if (!isDepth(depth.depth) || depth.depth == 0.0) return noDepth(depth.depth);
   if (!(depth.error >= 0.0 && depth.error <= KnownGround::kDeepest)) {
-    return Message::tr("%1 m is no error of a depth").arg(depth.error);
+    return Message::tr("%1 is no error of a depth").arg(Message::length(depth.error));
   }
   if (depth.refractor < 0 || depth.refractor > kMostRefractors) {
     return Message::tr("refractors have the numbers 1 to %1").arg(kMostRefractors);

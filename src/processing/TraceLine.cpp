@@ -63,12 +63,12 @@ Status place(const std::vector<double>& x, TraceLine& line) {
         std::fabs(places - std::round(places)) > 2.0 * kUnevenSpacing ||
         places > 2.0 * static_cast<double>(order.size())) {
       return Status::failure(
-          Message::tr("its geophones are not evenly spaced: trace %1 at %2 m is %3 m from the one "
-                      "before, the usual distance is %4 m")
+          Message::tr("its geophones are not evenly spaced: trace %1 at %2 is %3 from the one "
+                      "before, the usual distance is %4")
               .arg(order[i] + 1)
-              .arg(ascending[i])
-              .arg(i == 0 ? 0.0 : ascending[i] - ascending[i - 1])
-              .arg(line.spacing));
+              .arg(Message::length(ascending[i]))
+              .arg(Message::length(i == 0 ? 0.0 : ascending[i] - ascending[i - 1]))
+              .arg(Message::length(line.spacing)));
     }
     line.traces.resize(static_cast<std::size_t>(std::lround(places)) + 1, TraceLine::kNone);
     line.traces.back() = order[i];

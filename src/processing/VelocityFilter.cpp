@@ -65,9 +65,9 @@ Status checkVelocityFilter(const VelocityFilter& filter) {
   if (!(filter.slowest > 0.0) || !(filter.fastest >= 0.0) ||
       (filter.fastest > 0.0 && !(filter.fastest > filter.slowest))) {
     return Status::failure(
-        Message::tr("the slowest velocity, %1 m/s, must be above 0 and below the fastest, %2 m/s")
-            .arg(filter.slowest)
-            .arg(filter.fastest));
+        Message::tr("the slowest velocity, %1, must be above 0 and below the fastest, %2")
+            .arg(Message::velocity(filter.slowest))
+            .arg(Message::velocity(filter.fastest)));
   }
   if (!(filter.taper >= 0.0 && filter.taper < 100.0)) {
     return Status::failure(

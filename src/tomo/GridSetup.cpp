@@ -83,13 +83,12 @@ Status setUpGrid(TomoDocument& document, const GridSettings& settings, Log& log)
   }
   if (!(settings.cellSize > 0.0) || !(settings.maxDepth >= 0.0) || settings.nodes < 2 ||
       !std::isfinite(settings.cellSize) || !std::isfinite(settings.maxDepth)) {
-    return fail(log,
-                Message::tr("A grid of cells of %1 m with %2 nodes per side, %3 m deep, cannot be "
-                            "built; choose a positive cell size, two nodes at least and no "
-                            "negative depth.")
-                    .arg(settings.cellSize)
-                    .arg(settings.nodes)
-                    .arg(settings.maxDepth));
+    return fail(log, Message::tr("A grid of cells of %1 with %2 nodes per side, %3 deep, cannot be "
+                                 "built; choose a positive cell size, two nodes at least and no "
+                                 "negative depth.")
+                         .arg(Message::length(settings.cellSize))
+                         .arg(settings.nodes)
+                         .arg(Message::length(settings.maxDepth)));
   }
   const GridSize size =
       gridSizeFor(profile.arrayLength, settings.maxDepth, settings.cellSize, settings.nodes);

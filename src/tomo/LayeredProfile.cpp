@@ -106,8 +106,8 @@ Status LayeredProfile::read(const processingData& results, LayeredProfile& out) 
     profile.mNotes.push_back(
         Message::tr(
             "The velocity of layer 1 changes along the line and with depth in this profile; "
-            "here it is its mean, %1 m/s, everywhere.")
-            .arg(Message::number(results.v1, 4)));
+            "here it is its mean, %1, everywhere.")
+            .arg(Message::velocity(results.v1, 4)));
   }
   if (!profile.take(0, results.cData[0])) {
     return Status::failure(

@@ -41,8 +41,8 @@ Status checkParameters(const TomographyParameters& p) {
   }
   for (const double limit : {p.minVelocity, p.maxVelocity}) {
     if (limit > 0.0 && std::isfinite(limit) && std::isfinite(1.0 / limit)) continue;
-    return Status::failure(
-        Message::tr("The velocity limits must be positive numbers; %1 m/s is none.").arg(limit));
+    return Status::failure(Message::tr("The velocity limits must be positive numbers; %1 is none.")
+                               .arg(Message::velocity(limit)));
   }
   return {};
 }

@@ -1,6 +1,7 @@
 #include "view/AxisTicks.h"
 
 #include "base/RoundStep.h"
+#include "view/ShownUnit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,6 +35,17 @@ AxisTicks axisTicks(double from, double to, int most, bool wholeSteps) {
     const bool isMajor = std::fmod(i, parts) == 0.0;
     (isMajor ? ticks.major : ticks.minor).push_back(i * minor);
   }
+  return ticks;
+}
+
+AxisTicks shownTicks(double from, double to, int most, const std::string& unit) {
+  const double factor = shownUnit(unit).factor;
+  if (factor == 1.0) return axisTicks(from, to, most);
+  AxisTicks ticks = axisTicks(from * factor, to * factor, most);
+  for (auto* marks : {&ticks.major, &ticks.minor}) {
+    for (double& value : *marks) value /= factor;
+  }
+  ticks.factor = factor;
   return ticks;
 }
 

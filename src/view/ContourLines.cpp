@@ -1,6 +1,7 @@
 #include "view/ContourLines.h"
 
 #include "base/RoundStep.h"
+#include "view/ShownUnit.h"
 
 #include <algorithm>
 #include <array>
@@ -207,6 +208,14 @@ std::vector<double> roundValues(const ValueRange& range, int most) {
     if (range.contains(value)) values.push_back(value);
   }
   if (static_cast<int>(values.size()) > most) values.pop_back();  // both ends are multiples
+  return values;
+}
+
+std::vector<double> shownRoundValues(const ValueRange& range, int most, const std::string& unit) {
+  const double factor = shownUnit(unit).factor;
+  if (factor == 1.0) return roundValues(range, most);
+  std::vector<double> values = roundValues({range.min * factor, range.max * factor}, most);
+  for (double& value : values) value = std::clamp(value / factor, range.min, range.max);
   return values;
 }
 

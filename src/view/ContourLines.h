@@ -55,6 +55,9 @@ std::vector<ContourLine> contourLines(const SectionMesh& mesh,
 /// included: at most `most`, ascending; none for a range that is empty or not finite.
 std::vector<double> roundValues(const ValueRange& range, int most);
 
+/// The same, round in the unit that the values are shown in. \param unit as shownUnit() takes it
+std::vector<double> shownRoundValues(const ValueRange& range, int most, const std::string& unit);
+
 /// The n values that divide a range into n + 1 equal parts; none for an n below 1 or an empty
 /// range.
 std::vector<double> equallySpacedValues(const ValueRange& range, int n);

@@ -101,10 +101,10 @@ void addRemarks(const Tally& tally, const ElasticOptions& options, ElasticSectio
                           .arg(both));
   }
   if (tally.apart > ElasticOptions::kPlaceTolerance) {
-    remarks.push_back(Message::tr("The surfaces of the sections of P and S lie up to %1 m apart, "
-                                  "at %2 m; cells are matched by their depths below them.")
-                          .arg(Message::number(tally.apart, 3))
-                          .arg(Message::number(tally.where, 4)));
+    remarks.push_back(Message::tr("The surfaces of the sections of P and S lie up to %1 apart, "
+                                  "at %2; cells are matched by their depths below them.")
+                          .arg(Message::length(tally.apart, 3))
+                          .arg(Message::length(tally.where, 4)));
   }
   if (!options.density.gardner && options.density.layers.size() > 1) {
     remarks.push_back(Message::tr("A section has no layers: all of it has the first density."));

@@ -109,7 +109,7 @@ ContourSettings proposedContours(ContourSettings settings, SectionQuantity quant
   }
   const bool useless = std::none_of(list.begin(), list.end(),
                                     [&range](double value) { return range.contains(value); });
-  std::vector<double> round = roundValues(range, kMostRoundContours);
+  std::vector<double> round = shownRoundValues(range, kMostRoundContours, quantityUnit(quantity));
   if ((first || (settings.customized && useless)) && !round.empty()) {
     list = std::move(round);
     settings.customized = true;

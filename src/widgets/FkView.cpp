@@ -1,5 +1,6 @@
 #include "widgets/FkView.h"
 
+#include "figures/ShownLength.h"
 #include "view/AxisTicks.h"
 
 #include <QEvent>
@@ -137,15 +138,15 @@ void FkView::paintAxes(QPainter& painter) const {
   const QFontMetricsF metrics(font());
   const QLocale locale;
   const double line = metrics.height();
-  const AxisTicks across = axisTicks(-widest(), widest(), 7);
+  const AxisTicks across = shownTicks(-widest(), widest(), 7, "1/m");
   for (const double k : across.major) {
     const QPointF at = pointOf(k, 0.0);
     painter.drawLine(at, at + QPointF(0.0, kMark));
     painter.drawText(QRectF(at.x() - 50.0, at.y() + kMark, 100.0, line), Qt::AlignCenter,
-                     locale.toString(k, 'f', across.decimals));
+                     locale.toString(k * across.factor, 'f', across.decimals));
   }
   painter.drawText(QRectF(mPlot.left(), mPlot.bottom() + kMark + kGap + line, mPlot.width(), line),
-                   Qt::AlignCenter, tr("Wavenumber along the line (1/m)"));
+                   Qt::AlignCenter, tr("Wavenumber along the line (1/%1)").arg(lengthUnitText()));
   const AxisTicks up = axisTicks(0.0, highest(), 8);
   for (const double f : up.major) {
     const double y = pointOf(0.0, f).y();

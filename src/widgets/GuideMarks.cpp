@@ -1,5 +1,6 @@
 #include "widgets/GuideMarks.h"
 
+#include "figures/ShownLength.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "widgets/traces/TraceGuides.h"
@@ -110,10 +111,11 @@ QString rulerText(const WiggleScene& scene, const QPointF& from, const QPointF& 
   const auto a = distanceAt(scene.traces, scene.layout, from.x());
   const auto b = distanceAt(scene.traces, scene.layout, to.x());
   if (!a || !b) return Texts::tr("%1 ms").arg(time);
-  const QString way = screenNumber(std::fabs(*b - *a), 1);
+  const QString way = withLengthUnit(screenNumber(shownLength(std::fabs(*b - *a)), 1));
   const auto velocity = apparentVelocity(scene.traces, scene.layout, from, to);
-  if (!velocity || !std::isfinite(*velocity)) return Texts::tr("%1 m, %2 ms").arg(way, time);
-  return Texts::tr("%1 m/s (%2 m, %3 ms)").arg(screenNumber(*velocity, 0), way, time);
+  if (!velocity || !std::isfinite(*velocity)) return Texts::tr("%1, %2 ms").arg(way, time);
+  return Texts::tr("%1 (%2, %3 ms)")
+      .arg(withVelocityUnit(screenNumber(shownLength(*velocity), 0)), way, time);
 }
 
 /// A row of the legend. One that names what is missing has no pen.
@@ -126,9 +128,10 @@ struct LegendEntry {
 LegendEntry neighbourEntry(const WiggleScene& scene, const TomoDocument& document) {
   const NeighbourCurve curve = nearestCurve(document, scene.traces, scene.layout);
   if (curve.record < 0) return {Qt::NoPen, Texts::tr("No other shot of the string is picked")};
-  return {neighbourPen(scene.colors), Texts::tr("Shot %1 at %2 m", "number, place")
-                                          .arg(curve.record + 1)
-                                          .arg(screenNumber(curve.x, 1))};
+  return {neighbourPen(scene.colors),
+          Texts::tr("Shot %1 at %2", "number, place")
+              .arg(curve.record + 1)
+              .arg(withLengthUnit(screenNumber(shownLength(curve.x), 1)))};
 }
 
 std::vector<LegendEntry> legendOf(const WiggleScene& scene, const TomoDocument& document) {
@@ -152,7 +155,8 @@ std::vector<LegendEntry> legendOf(const WiggleScene& scene, const TomoDocument& 
   }
   if (options.airWave) {
     entries.push_back({QPen(scene.colors.airWave, 1.5, Qt::DashLine),
-                       Texts::tr("Air %1 m/s").arg(screenNumber(options.airVelocity, 0))});
+                       Texts::tr("Air %1").arg(
+                           withVelocityUnit(screenNumber(shownLength(options.airVelocity), 0)))});
   }
   return entries;
 }

@@ -1,6 +1,7 @@
 #include "widgets/LayerCurvesPlot.h"
 
 #include "figures/RefractionItems.h"
+#include "figures/ShownLength.h"
 #include "model/TravelTime.h"
 #include "refraction/LinearFit.h"
 
@@ -273,12 +274,13 @@ bool LayerCurvesPlot::event(QEvent* event) {
   const ShotArrivals& shot = mShots[at->shot];
   const QLocale locale;
   const std::uint32_t layer = at->shot < mMarks.size() ? layerOf(mMarks[at->shot], at->trace) : 0;
-  QString text = tr("Shot %1, trace %2: %3 m, %4 ms, %5")
-                     .arg(at->shot + 1)
-                     .arg(at->trace + 1)
-                     .arg(locale.toString(shot.receivers[at->trace].x, 'f', 1))
-                     .arg(locale.toString(1e3 * shot.times[at->trace], 'f', 2))
-                     .arg(layer == 0 ? tr("no layer") : tr("layer %1").arg(layer));
+  QString text =
+      tr("Shot %1, trace %2: %3, %4 ms, %5")
+          .arg(at->shot + 1)
+          .arg(at->trace + 1)
+          .arg(withLengthUnit(locale.toString(shownLength(shot.receivers[at->trace].x), 'f', 1)))
+          .arg(locale.toString(1e3 * shot.times[at->trace], 'f', 2))
+          .arg(layer == 0 ? tr("no layer") : tr("layer %1").arg(layer));
   if (const auto computed = computedTime(*at)) {
     text += QLatin1Char('\n') + tr("computed: %1 ms").arg(locale.toString(1e3 * *computed, 'f', 2));
   }

@@ -1,5 +1,6 @@
 #include "widgets/LinePlan.h"
 
+#include "figures/ShownLength.h"
 #include "widgets/PlotGestures_tools.h"
 #include "widgets/traces/TraceColors.h"
 
@@ -234,11 +235,11 @@ bool LinePlan::event(QEvent* event) {
 
 QString LinePlan::placeText(const Point2D& place) const {
   const QLocale locale;
-  const QString x = locale.toString(place.x, 'f', 2);
-  const QString z = locale.toString(place.z, 'f', 2);
-  if (mAxes == LinePlanAxes::kOffset) return tr("x %1 m, %2 m across").arg(x, z);
-  if (mAxes == LinePlanAxes::kMap) return tr("%1 m east, %2 m north").arg(x, z);
-  return tr("x %1 m, z %2 m").arg(x, z);
+  const QString x = withLengthUnit(locale.toString(shownLength(place.x), 'f', 2));
+  const QString z = withLengthUnit(locale.toString(shownLength(place.z), 'f', 2));
+  if (mAxes == LinePlanAxes::kOffset) return tr("x %1, %2 across").arg(x, z);
+  if (mAxes == LinePlanAxes::kMap) return tr("%1 east, %2 north").arg(x, z);
+  return tr("x %1, z %2").arg(x, z);
 }
 
 void LinePlan::setAxes(LinePlanAxes axes) {
@@ -271,10 +272,12 @@ void LinePlan::dress() {
 
 void LinePlan::retranslate() {
   setAccessibleName(tr("Plan of the line"));
-  if (mAxes == LinePlanAxes::kElevation) setTexts({}, tr("Distance (m)"), tr("Elevation (m)"));
-  if (mAxes == LinePlanAxes::kOffset) setTexts({}, tr("Distance (m)"), tr("Across the line (m)"));
+  const QString unit = lengthUnitText();
+  const QString distance = tr("Distance (%1)").arg(unit);
+  if (mAxes == LinePlanAxes::kElevation) setTexts({}, distance, tr("Elevation (%1)").arg(unit));
+  if (mAxes == LinePlanAxes::kOffset) setTexts({}, distance, tr("Across the line (%1)").arg(unit));
   if (mAxes == LinePlanAxes::kMap) {
-    setTexts({}, tr("East of the first geophone (m)"), tr("North of it (m)"));
+    setTexts({}, tr("East of the first geophone (%1)").arg(unit), tr("North of it (%1)").arg(unit));
   }
   draw();  // the legend speaks, too
 }

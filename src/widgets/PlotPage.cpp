@@ -1,5 +1,6 @@
 #include "widgets/PlotPage.h"
 
+#include "figures/ShownScale.h"
 #include "widgets/EmptyPage.h"
 #include "widgets/PlotDress.h"
 #include "widgets/PlotOverlay.h"
@@ -67,6 +68,7 @@ PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
   if (auto* framed = qobject_cast<QwtPlotCanvas*>(area)) {
     framed->setFocusIndicator(QwtPlotCanvas::NoFocusIndicator);
   }
+  for (const int axis : {QwtPlot::xBottom, QwtPlot::yLeft}) setShownScale(*mPlot, axis);
   mGrid = new QwtPlotGrid;
   mGrid->attach(mPlot);
   mOverlay = new PlotOverlay(area, [this](QPainter& painter) {
@@ -93,6 +95,7 @@ void PlotPage::setTexts(const QString& title, const QString& xTitle, const QStri
   mPlot->setTitle(QwtText(title, QwtText::PlainText));
   setTitle(*mPlot, QwtPlot::xBottom, xTitle, font());
   setTitle(*mPlot, QwtPlot::yLeft, yTitle, font());
+  scaleAxes();  // the titles may name another unit than before
 }
 
 void PlotPage::setEmptyText(const QString& text) {

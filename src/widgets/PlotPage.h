@@ -29,6 +29,7 @@ class PlotPage : public QWidget, protected PlotSurface {
   explicit PlotPage(QWidget* parent = nullptr);
   ~PlotPage() override;
 
+  /// The axes count in the unit that their titles name; see setShownScale().
   void setTexts(const QString& title, const QString& xTitle, const QString& yTitle);
   void setEmptyText(const QString& text);
   void setEmptyCommands(const QList<QAction*>& commands);  ///< offered below that text

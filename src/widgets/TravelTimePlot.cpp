@@ -1,6 +1,7 @@
 #include "widgets/TravelTimePlot.h"
 
 #include "figures/FigureWords.h"
+#include "figures/ShownLength.h"
 #include "model/TomoDocument.h"
 #include "widgets/TravelTimePlot_state.h"
 #include "widgets/traces/TraceColors.h"
@@ -97,7 +98,7 @@ void TravelTimePlot::retranslate() {
   setEmptyText(
       tr("No travel times yet.\n\nPick first breaks in the traces, by hand or with AutoPick, or "
          "import travel times."));
-  setTexts({}, tr("Distance [m]"), tr("Time [ms]"));
+  setTexts({}, tr("Distance [%1]").arg(lengthUnitText()), tr("Time [ms]"));
   s.measuredBox->setText(tr("&Measured"));
   s.computedBox->setText(tr("&Computed"));
   s.layeredBox->setText(tr("&Layers"));
@@ -151,8 +152,9 @@ void TravelTimePlot::State::describeCurrent() {
   QString text;
   if (curveOf(current) != nullptr) {
     const double x = document->ttArray[static_cast<std::size_t>(current)].shotPos2d.x;
-    text =
-        TravelTimePlot::tr("Shot %1 at %2 m").arg(current + 1).arg(QLocale().toString(x, 'f', 1));
+    text = TravelTimePlot::tr("Shot %1 at %2")
+               .arg(current + 1)
+               .arg(withLengthUnit(QLocale().toString(shownLength(x), 'f', 1)));
     const PickGrades grades = gradesOf(document->ttArray[static_cast<std::size_t>(current)]);
     if (grades.any()) text += QStringLiteral(": ") + FigureWords::grades(grades);
   } else if (current >= 0) {

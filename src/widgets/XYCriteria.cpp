@@ -1,5 +1,6 @@
 #include "widgets/XYCriteria.h"
 
+#include "figures/ShownLength.h"
 #include "widgets/PointPlot.h"
 
 #include <QVBoxLayout>
@@ -42,7 +43,7 @@ XYCriteria::XYCriteria(QWidget* parent) : QWidget(parent) {
   column->setContentsMargins(0, 0, 0, 0);
   mRoughness = addPlot(*this, QStringLiteral("roughnessPlot"));
   mUnevenness = addPlot(*this, QStringLiteral("unevennessPlot"));
-  const QString xy = tr("XY (m)");
+  const QString xy = tr("XY (%1)").arg(lengthUnitText());
   mRoughness->setTexts(tr("Roughness of tV"), xy, tr("RMS (ms)"));
   mUnevenness->setTexts(tr("Unevenness of velocity"), xy, tr("RMS (%)"));
   mRoughness->setAccessibleName(tr("Roughness of tV against XY"));

@@ -1,5 +1,6 @@
 #include "widgets/draw1DVelocityProfile.h"
 
+#include "figures/ShownLength.h"
 #include "widgets/traces/TraceColors.h"
 
 #include <QPen>
@@ -136,7 +137,8 @@ void draw1DVelocityProfile::dress() {
 
 void draw1DVelocityProfile::retranslate() {
   setAccessibleName(tr("Velocity against depth"));
-  setTexts({}, tr("Velocity (m/s)"), tr("Depth below the ground (m)"));
+  setTexts({}, tr("Velocity (%1)").arg(velocityUnitText()),
+           tr("Depth below the ground (%1)").arg(lengthUnitText()));
   mLayerCurve->setTitle(tr("Layers"));
   mGridCurve->setTitle(tr("Velocity that the grid gets"));
 }

@@ -1,6 +1,7 @@
 #include "export/campaign/CampaignPage.h"
 
 #include "base/AtomicFile.h"
+#include "base/LengthUnit.h"
 #include "base/WebDocument.h"
 #include "base/WebText.h"
 #include "export/campaign/CampaignPictures.h"
@@ -67,10 +68,10 @@ std::vector<Column> numberColumns() {
              return line.fit.count > 0 ? line.fit.chi2 : CampaignLine::kUnknown;
            },
            2},
-          {CampaignWords::tr("Length covered [m]"),
-           [](const CampaignLine& line) { return line.length; }, 1},
-          {CampaignWords::tr("Depth reached [m]"),
-           [](const CampaignLine& line) { return line.depth; }, 1},
+          {CampaignWords::tr("Length covered [%1]").arg(QLatin1String(lengthUnitName())),
+           [](const CampaignLine& line) { return shownLength(line.length); }, 1},
+          {CampaignWords::tr("Depth reached [%1]").arg(QLatin1String(lengthUnitName())),
+           [](const CampaignLine& line) { return shownLength(line.depth); }, 1},
           {CampaignWords::tr("Cells with rays [%]"),
            [](const CampaignLine& line) { return 1e2 * line.covered; }, 0},
           {CampaignWords::tr("Shots"),
@@ -155,7 +156,7 @@ class PageBody {
     const auto range = web::velocitiesOf(mLines);
     mColors.emplace(ColorPaletteList().current(), range.value_or(ValueRange{0.0, 1.0}));
     if (range) {
-      const QString bar = CampaignWords::tr("Velocity [m/s]");
+      const QString bar = CampaignWords::tr("Velocity [%1]").arg(QLatin1String(velocityUnitName()));
       mBody += QStringLiteral("<p class=\"scale-of-colors\"><span>%1</span> %2</p>\n")
                    .arg(escaped(bar), web::colorBarSvg(*mColors, bar));
       addText(

@@ -1,5 +1,6 @@
 #include "export/campaign/CampaignPictures.h"
 
+#include "base/LengthUnit.h"
 #include "base/WebText.h"
 #include "view/ContourLines.h"
 #include "view/SectionScene.h"
@@ -123,14 +124,15 @@ QString mapLineSvg(const MapLine& line, const MapFrame& frame, const QString& na
 }
 
 QString scaleBarSvg(double scale) {
-  const double length = roundLength(0.3 * kMapWidth / scale);
+  const double length = roundLength(shownLength(0.3 * kMapWidth / scale));
+  const bool far = lengthUnit() == LengthUnit::kMetre && length >= 1000.0;
   const QString text =
-      length < 1000.0 ? CampaignWords::tr("%1 m").arg(QString::number(length, 'g', 6))
-                      : CampaignWords::tr("%1 km").arg(QString::number(length / 1000.0, 'g', 6));
+      far ? CampaignWords::tr("%1 km").arg(QString::number(length / 1000.0, 'g', 6))
+          : QString::number(length, 'g', 6) + QLatin1Char(' ') + QLatin1String(lengthUnitName());
   return QStringLiteral(
              "<path class=\"scale\" d=\"M20 %1v6h%2v-6\"/>"
              "<text class=\"left\" x=\"20\" y=\"%3\">%4</text>")
-      .arg(number(kMapHeight - 22.0), number(length * scale), number(kMapHeight - 28.0),
+      .arg(number(kMapHeight - 22.0), number(metresOf(length) * scale), number(kMapHeight - 28.0),
            escaped(text));
 }
 
@@ -189,11 +191,11 @@ QString colorBarSvg(const ColorTable& colors, const QString& what) {
     svg += QStringLiteral("<path fill=\"%1\" d=\"M%2 0h%3v14h-%3z\"/>")
                .arg(hex(colors[i]), number(kSide + i * step), number(step));
   }
-  for (const double value : roundValues(colors.range(), kMostTicks)) {
+  for (const double value : shownRoundValues(colors.range(), kMostTicks, "m/s")) {
     const double part = (value - colors.range().min) / colors.range().span();
     svg += QStringLiteral("<text x=\"%1\" y=\"30\">%2</text>")
                .arg(number(kSide + part * kWidth))
-               .arg(std::lround(value));
+               .arg(std::lround(shownLength(value)));
   }
   return svg + QStringLiteral("</svg>");
 }

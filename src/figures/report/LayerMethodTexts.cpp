@@ -12,10 +12,10 @@ namespace {
 QString valueText(double value, const Band& band, std::size_t j, Support support, int places,
                   const QLocale& locale) {
   if (!std::isfinite(value)) return report::number(value, places);
-  QString text = locale.toString(value, 'f', places);
+  QString text = locale.toString(shownLength(value), 'f', places);
   const double error = band.errorOf(j, value);
   if (std::isfinite(error)) {
-    text += QString::fromUtf8(" ± ") + locale.toString(error, 'f', places);
+    text += QString::fromUtf8(" ± ") + locale.toString(shownLength(error), 'f', places);
   }
   return support == Support::kPicks ? text : '(' + text + ')';
 }
@@ -60,18 +60,19 @@ QStringList layerMethodNotes(const MethodComparison& comparison) {
 
 ReportTable layerMethodTable(const MethodComparison& comparison, std::uint32_t number,
                              const QLocale& locale) {
-  ReportTable table{{{ReportWords::tr("Position [m]"), true}}, {}};
+  ReportTable table{{{ReportWords::tr("Position [%1]").arg(lengthUnitText()), true}}, {}};
   for (const MethodResult& result : comparison.results) {
     if (result.layer(number) == nullptr) continue;
     const QString name = layerMethodName(result.method);
-    table.columns.push_back({ReportWords::tr("%1: depth [m]").arg(name), true});
-    table.columns.push_back({ReportWords::tr("%1: velocity [m/s]").arg(name), true});
+    table.columns.push_back({ReportWords::tr("%1: depth [%2]").arg(name, lengthUnitText()), true});
+    table.columns.push_back(
+        {ReportWords::tr("%1: velocity [%2]").arg(name, velocityUnitText()), true});
   }
   const Disagreement* disagreement = comparison.disagreement(number);
   if (disagreement != nullptr) table.columns.push_back({ReportWords::tr("Disagree in"), false});
   const auto& receivers = comparison.results.front().receivers;
   for (std::size_t j = 0; j < receivers.size(); ++j) {
-    QStringList row{locale.toString(receivers[j].x, 'f', 2)};
+    QStringList row{locale.toString(shownLength(receivers[j].x), 'f', 2)};
     for (const MethodResult& result : comparison.results) {
       const MethodLayer* layer = result.layer(number);
       if (layer == nullptr) continue;

@@ -46,6 +46,14 @@ QString span(double from, double to, int places) {
   return low == high ? low : QStringLiteral("%1 \u2013 %2").arg(low, high);
 }
 
+QString length(double metres, int places) {
+  return number(shownLength(metres), places);
+}
+
+QString lengthSpan(double from, double to, int places) {
+  return span(shownLength(from), shownLength(to), places);
+}
+
 void Range::take(double value) {
   if (!std::isfinite(value)) return;
   low = std::min(low, value);

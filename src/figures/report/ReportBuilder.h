@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "figures/ShownLength.h"
 #include "figures/report/ReportOptions.h"
 
 #include <QCoreApplication>
@@ -65,6 +66,10 @@ SectionFigureOptions sectionOptions(const ReportOptions& options, SectionQuantit
 QString number(double value, int places);
 /// Two values with "–" between them, or one where both read the same.
 QString span(double from, double to, int places);
+
+// The same of metres, or m/s, in the unit that is shown; `places` are those of that unit.
+QString length(double metres, int places);
+QString lengthSpan(double from, double to, int places);
 
 /// The least and the greatest of values; those that are no finite number count for nothing.
 struct Range {

@@ -32,7 +32,7 @@ QStringList fitTexts(const std::vector<Residual>& residuals) {
 
 ReportTable shotTable(const TomoDocument& document, const std::vector<Residual>& residuals) {
   ReportTable table{{{ReportWords::tr("Shot"), true},
-                     {ReportWords::tr("Position [m]"), true},
+                     {ReportWords::tr("Position [%1]").arg(lengthUnitText()), true},
                      {ReportWords::tr("Traces"), true},
                      {ReportWords::tr("Picks"), true}},
                     {}};
@@ -50,7 +50,7 @@ ReportTable shotTable(const TomoDocument& document, const std::vector<Residual>&
     const TravelTime& record = document.ttArray[i];
     traces += record.ttMisurati.size();
     picks += pickCount(record);
-    QStringList row{QString::number(i + 1), number(record.shotPos2d.x, 2),
+    QStringList row{QString::number(i + 1), length(record.shotPos2d.x, 2),
                     QString::number(record.ttMisurati.size()), QString::number(pickCount(record))};
     if (!residuals.empty()) row += fitTexts(ofShots[i]);
     table.rows.push_back(row);
@@ -81,29 +81,28 @@ QString smoothingName(int type) {
 void addGrid(ReportBuilder& builder) {
   const Grid& grid = *builder.source.document.model->grid;
   ReportTable facts = ReportTable::ofFacts();
-  facts.rows = {
-      {ReportWords::tr("Cells"),
-       ReportWords::tr("%1 rows by %2 columns").arg(grid.righe()).arg(grid.col())},
-      {ReportWords::tr("Side of a cell"), ReportWords::tr("%1 m").arg(number(grid.aLato(), 3))},
-      {ReportWords::tr("Depth below the surface"),
-       ReportWords::tr("%1 m").arg(number(grid.righe() * grid.aLato(), 2))},
-      {ReportWords::tr("Nodes per cell side"), QString::number(grid.nV())},
-      {ReportWords::tr("Nodes altogether"), QString::number(grid.nodeCount())}};
+  facts.rows = {{ReportWords::tr("Cells"),
+                 ReportWords::tr("%1 rows by %2 columns").arg(grid.righe()).arg(grid.col())},
+                {ReportWords::tr("Side of a cell"), withLengthUnit(length(grid.aLato(), 3))},
+                {ReportWords::tr("Depth below the surface"),
+                 withLengthUnit(length(grid.righe() * grid.aLato(), 2))},
+                {ReportWords::tr("Nodes per cell side"), QString::number(grid.nV())},
+                {ReportWords::tr("Nodes altogether"), QString::number(grid.nodeCount())}};
   builder.table(ReportWords::tr("The grid under the line"), facts);
 }
 
 void addLayers(ReportBuilder& builder) {
   const auto layers = acceptedLayers(builder.source.document.model->layers);
   ReportTable table{{{ReportWords::tr("Layer"), true},
-                     {ReportWords::tr("Top [m]"), true},
-                     {ReportWords::tr("Bottom [m]"), true},
-                     {ReportWords::tr("Velocity at top [m/s]"), true},
-                     {ReportWords::tr("Velocity at bottom [m/s]"), true}},
+                     {ReportWords::tr("Top [%1]").arg(lengthUnitText()), true},
+                     {ReportWords::tr("Bottom [%1]").arg(lengthUnitText()), true},
+                     {ReportWords::tr("Velocity at top [%1]").arg(velocityUnitText()), true},
+                     {ReportWords::tr("Velocity at bottom [%1]").arg(velocityUnitText()), true}},
                     {}};
   for (std::size_t i = 0; i < layers.size(); ++i) {
-    table.rows.push_back({QString::number(i + 1), number(layers[i].initialDepth, 2),
-                          number(layers[i].finalDepth, 2), number(layers[i].initialVelocity, 0),
-                          number(layers[i].finalVelocity, 0)});
+    table.rows.push_back({QString::number(i + 1), length(layers[i].initialDepth, 2),
+                          length(layers[i].finalDepth, 2), length(layers[i].initialVelocity, 0),
+                          length(layers[i].finalVelocity, 0)});
   }
   builder.table(ReportWords::tr("The layers of the starting model, depths below the surface"),
                 table);
@@ -148,7 +147,7 @@ void addFit(ReportBuilder& builder, const InversionRecord& run) {
       {ReportWords::tr("Suspect picks, left out of chi-square"), QString::number(fit.suspects)},
       {ReportWords::tr("Iterations to this section"), iterations},
       {ReportWords::tr("Velocity limits"),
-       ReportWords::tr("%1 m/s").arg(span(run.minVelocity, run.maxVelocity, 0))},
+       withVelocityUnit(lengthSpan(run.minVelocity, run.maxVelocity, 0))},
       {ReportWords::tr("Few sharp steps rather than gentle slopes"), yesNo(fit.blocky)},
       {ReportWords::tr("Time shifts of shots fitted, too"), yesNo(fit.statics)},
       timeRow(run)};
@@ -177,7 +176,7 @@ void addParameters(ReportBuilder& builder, const InversionRecord& run) {
                 {ReportWords::tr("Solver iterations on the rays of each"),
                  QString::number(run.solverIterations)},
                 {ReportWords::tr("Velocity limits"),
-                 ReportWords::tr("%1 m/s").arg(span(run.minVelocity, run.maxVelocity, 0))},
+                 withVelocityUnit(lengthSpan(run.minVelocity, run.maxVelocity, 0))},
                 {ReportWords::tr("Smoothing"), smoothingName(run.smoothingType)},
                 {ReportWords::tr("Smoothing radius"), radiusText(run)},
                 {ReportWords::tr("Height over width of the smoothing window"), number(ratio, 1)},

@@ -23,7 +23,7 @@ QString numberOf(std::size_t shot) {
 
 void addShots(ReportBuilder& builder, const doctor::ReciprocityTable& found) {
   ReportTable table{{{ReportWords::tr("Shot"), true},
-                     {ReportWords::tr("Position [m]"), true},
+                     {ReportWords::tr("Position [%1]").arg(lengthUnitText()), true},
                      {ReportWords::tr("Pairs"), true},
                      {ReportWords::tr("RMS [ms]"), true},
                      {ReportWords::tr("Late by [ms]"), true}},
@@ -32,7 +32,7 @@ void addShots(ReportBuilder& builder, const doctor::ReciprocityTable& found) {
     const doctor::ShotReciprocity& shot = found.shots[i];
     if (shot.pairs == 0) continue;
     const bool known = shot.shiftError > 0.0;
-    table.rows.push_back({numberOf(i), number(shot.x, 2), QString::number(shot.pairs),
+    table.rows.push_back({numberOf(i), length(shot.x, 2), QString::number(shot.pairs),
                           milliseconds(shot.rms),
                           known ? ReportWords::tr("%1 ± %2").arg(milliseconds(shot.shift),
                                                                  milliseconds(shot.shiftError))

@@ -4,6 +4,7 @@
 #include "model/TomographyOutcome.h"
 #include "numerics/Medians.h"
 #include "refraction/PicksFingerprint.h"
+#include "refraction/PlausibleResults.h"
 #include "refraction/Profile.h"
 #include "refraction/Support.h"
 #include "refraction/methods/ProfileErrors.h"
@@ -31,9 +32,8 @@ double at(const std::vector<double>& values, std::size_t i) {
 
 /// "–" when they are not known.
 QString velocities(double low, double high) {
-  return std::isfinite(low) && std::isfinite(high)
-             ? ReportWords::tr("%1 m/s").arg(span(low, high, 0))
-             : number(low, 0);
+  return std::isfinite(low) && std::isfinite(high) ? withVelocityUnit(lengthSpan(low, high, 0))
+                                                   : number(low, 0);
 }
 
 QString supportText(Support support) {
@@ -52,9 +52,9 @@ QString supportText(Support support) {
 
 /// "5.20 ± 0.31", in parentheses where it is not picks that carry it.
 QString valueText(double value, double error, bool carried, int places) {
-  QString text = number(value, places);
+  QString text = length(value, places);
   if (!std::isfinite(value)) return text;
-  if (std::isfinite(error)) text += QString::fromUtf8(" ± ") + number(error, places);
+  if (std::isfinite(error)) text += QString::fromUtf8(" ± ") + length(error, places);
   return carried ? text : '(' + text + ')';
 }
 
@@ -70,9 +70,8 @@ const ProfileErrors::Refractor* errorsOf(const ReportBuilder& builder, std::size
 
 /// "1850 ± 60 m/s"
 QString velocityText(double velocity, double error) {
-  return std::isfinite(velocity)
-             ? ReportWords::tr("%1 m/s").arg(valueText(velocity, error, true, 0))
-             : number(velocity, 0);
+  return std::isfinite(velocity) ? withVelocityUnit(valueText(velocity, error, true, 0))
+                                 : number(velocity, 0);
 }
 
 /// A row per receiver of any refractor; those of each are found by their place.
@@ -80,12 +79,14 @@ ReportTable profileTable(const ReportBuilder& builder) {
   const refractionDataStructure::processingData& data = builder.source.interpretation->refractData;
   const std::vector<ShotArrivals> shots = shotArrivals(builder.source.document);
   std::vector<RefractorSupport> supports;
-  ReportTable table{
-      {{ReportWords::tr("Position [m]"), true}, {ReportWords::tr("Elevation [m]"), true}}, {}};
+  ReportTable table{{{ReportWords::tr("Position [%1]").arg(lengthUnitText()), true},
+                     {ReportWords::tr("Elevation [%1]").arg(lengthUnitText()), true}},
+                    {}};
   for (std::size_t r = 0; r < data.cData.size(); ++r) {
     const QString number = QString::number(r + 1);
-    table.columns.push_back({ReportWords::tr("Depth %1 [m]").arg(number), true});
-    table.columns.push_back({ReportWords::tr("Velocity %1 [m/s]").arg(number), true});
+    table.columns.push_back({ReportWords::tr("Depth %1 [%2]").arg(number, lengthUnitText()), true});
+    table.columns.push_back(
+        {ReportWords::tr("Velocity %1 [%2]").arg(number, velocityUnitText()), true});
     supports.push_back(
         supportOf(shots, *builder.source.interpretation, static_cast<std::uint32_t>(r) + 2));
     if (!supports.back().depth.empty()) {
@@ -93,7 +94,7 @@ ReportTable profileTable(const ReportBuilder& builder) {
     }
   }
   for (const Point2D& receiver : profileSurface(data)) {
-    QStringList row{number(receiver.x, 2), number(receiver.z, 2)};
+    QStringList row{length(receiver.x, 2), length(receiver.z, 2)};
     for (std::size_t r = 0; r < data.cData.size(); ++r) {
       const computedData& refractor = data.cData[r];
       const auto same = std::find(refractor.x.begin(), refractor.x.end(), receiver.x);
@@ -116,6 +117,22 @@ ReportTable profileTable(const ReportBuilder& builder) {
   return table;
 }
 
+/// By how much of its velocity at the surface the first layer grows with depth.
+QString growthText(const refractionDataStructure::FirstLayer& first) {
+  const bool feet = lengthUnit() == LengthUnit::kFoot;
+  const QString text = feet ? ReportWords::tr("%1 % of that at the surface per foot, down to %2")
+                            : ReportWords::tr("%1 % of that at the surface per metre, down to %2");
+  return text.arg(number(100.0 * first.growth * metresOf(1.0), 1),
+                  withLengthUnit(length(first.growsTo, 1)));
+}
+
+/// 12000 as "12 000".
+QString inThousands(double value) {
+  const auto whole = static_cast<long long>(std::llround(value));
+  if (whole < 1000) return QString::number(whole);
+  return QStringLiteral("%1 %2").arg(whole / 1000).arg(whole % 1000, 3, 10, QLatin1Char('0'));
+}
+
 /// How fast the first layer of a fitted profile is.
 void addFirstLayer(const refractionDataStructure::processingData& data, ReportTable& facts) {
   const refractionDataStructure::FirstLayer& first = data.first;
@@ -126,9 +143,7 @@ void addFirstLayer(const refractionDataStructure::processingData& data, ReportTa
   facts.rows.push_back({ReportWords::tr("Velocity of the first layer at the surface"),
                         velocities(surface.low, surface.high)});
   if (!(first.growth > 0.0)) return;
-  facts.rows.push_back({ReportWords::tr("Growth of its velocity with depth"),
-                        ReportWords::tr("%1 % of that at the surface per metre, down to %2 m")
-                            .arg(number(100.0 * first.growth, 1), number(first.growsTo, 1))});
+  facts.rows.push_back({ReportWords::tr("Growth of its velocity with depth"), growthText(first)});
 }
 
 /// What parentheses, and values with an error, are.
@@ -186,7 +201,7 @@ Status addRefraction(ReportBuilder& builder) {
     }
     if (data.isFitted()) continue;  // it has no XY
     facts.rows.push_back({ReportWords::tr("Distance XY of refractor %1").arg(r + 1),
-                          ReportWords::tr("%1 m").arg(number(data.cData[r].chosenXY, 1))});
+                          withLengthUnit(length(data.cData[r].chosenXY, 1))});
   }
   builder.table(ReportWords::tr("Layers and refractors"), facts);
   addLayerFit(builder);
@@ -206,11 +221,13 @@ Status addRefraction(ReportBuilder& builder) {
                 profileTable(builder));
   addSupportLegend(builder);
   if (hasGaps(data)) {
-    builder.paragraph(ReportWords::tr(
-        "No velocity is given where the times lead to one outside 50 to 12 000 m/s. "
-        "No depth is given there, below a layer whose velocity or depth is not "
-        "known or which is faster, and where it came out deeper than the line is "
-        "long."));
+    builder.paragraph(
+        ReportWords::tr("No velocity is given where the times lead to one outside %1 to %2. "
+                        "No depth is given there, below a layer whose velocity or depth is not "
+                        "known or which is faster, and where it came out deeper than the line is "
+                        "long.")
+            .arg(inThousands(shownLength(kLeastVelocity)),
+                 withVelocityUnit(inThousands(shownLength(kGreatestVelocity)))));
   }
   return {};
 }

@@ -51,7 +51,7 @@ QString spacingOf(const std::vector<Point2D>& string) {
   }
   if (!spacing.known()) return number(std::nan(""), 0);
   const bool even = spacing.high - spacing.low < 0.005 * spacing.high;
-  return even ? number(spacing.high, 2) : span(spacing.low, spacing.high, 2);
+  return even ? length(spacing.high, 2) : lengthSpan(spacing.low, spacing.high, 2);
 }
 
 void addLine(ReportBuilder& builder) {
@@ -73,15 +73,15 @@ void addLine(ReportBuilder& builder) {
                                                        : ReportWords::tr("P waves"));
   if (geophones.x.known()) {
     addFact(facts, ReportWords::tr("Geophones from, to"),
-            ReportWords::tr("%1 m").arg(span(geophones.x.low, geophones.x.high, 2)));
+            withLengthUnit(lengthSpan(geophones.x.low, geophones.x.high, 2)));
     addFact(facts, ReportWords::tr("Length of the line"),
-            ReportWords::tr("%1 m").arg(number(geophones.x.high - geophones.x.low, 2)));
+            withLengthUnit(length(geophones.x.high - geophones.x.low, 2)));
     addFact(facts, ReportWords::tr("Elevation of the geophones"),
-            ReportWords::tr("%1 m").arg(span(geophones.z.low, geophones.z.high, 2)));
+            withLengthUnit(lengthSpan(geophones.z.low, geophones.z.high, 2)));
   }
   if (shots.x.known()) {
     addFact(facts, ReportWords::tr("Shots from, to"),
-            ReportWords::tr("%1 m").arg(span(shots.x.low, shots.x.high, 2)));
+            withLengthUnit(lengthSpan(shots.x.low, shots.x.high, 2)));
   }
   addFact(facts, ReportWords::tr("Geophone strings"),
           QString::number(document.line->goephonesStringSet.size()));
@@ -94,18 +94,18 @@ void addStrings(ReportBuilder& builder) {
   const auto& strings = builder.source.document.line->goephonesStringSet;
   ReportTable table{{{ReportWords::tr("String"), true},
                      {ReportWords::tr("Geophones"), true},
-                     {ReportWords::tr("From [m]"), true},
-                     {ReportWords::tr("To [m]"), true},
-                     {ReportWords::tr("Spacing [m]"), true},
-                     {ReportWords::tr("Elevation [m]"), true}},
+                     {ReportWords::tr("From [%1]").arg(lengthUnitText()), true},
+                     {ReportWords::tr("To [%1]").arg(lengthUnitText()), true},
+                     {ReportWords::tr("Spacing [%1]").arg(lengthUnitText()), true},
+                     {ReportWords::tr("Elevation [%1]").arg(lengthUnitText()), true}},
                     {}};
   for (std::size_t i = 0; i < strings.size(); ++i) {
     Extent extent;
     for (const Point2D& geophone : strings[i]) extent.take(geophone);
     table.rows.push_back(
-        {QString::number(i + 1), QString::number(strings[i].size()), number(extent.x.low, 2),
-         number(extent.x.high, 2), spacingOf(strings[i]),
-         extent.z.known() ? span(extent.z.low, extent.z.high, 2) : number(std::nan(""), 0)});
+        {QString::number(i + 1), QString::number(strings[i].size()), length(extent.x.low, 2),
+         length(extent.x.high, 2), spacingOf(strings[i]),
+         extent.z.known() ? lengthSpan(extent.z.low, extent.z.high, 2) : number(std::nan(""), 0)});
   }
   builder.table(ReportWords::tr("Strings of geophones"), table);
 }
@@ -168,8 +168,8 @@ void addShots(ReportBuilder& builder) {
       std::any_of(document.recordings->traceSets.begin(), document.recordings->traceSets.end(),
                   [](const TraceSet& set) { return !set.empty(); });
   ReportTable table{{{ReportWords::tr("Shot"), true},
-                     {ReportWords::tr("Position [m]"), true},
-                     {ReportWords::tr("Elevation [m]"), true},
+                     {ReportWords::tr("Position [%1]").arg(lengthUnitText()), true},
+                     {ReportWords::tr("Elevation [%1]").arg(lengthUnitText()), true},
                      {ReportWords::tr("String"), true},
                      {ReportWords::tr("Traces"), true}},
                     {}};
@@ -184,7 +184,7 @@ void addShots(ReportBuilder& builder) {
     const TravelTime& record = document.ttArray[i];
     QStringList row{QString::number(i + 1)};
     if (files) row += names[static_cast<int>(i)];
-    row << number(record.shotPos2d.x, 2) << number(record.shotPos2d.z, 2)
+    row << length(record.shotPos2d.x, 2) << length(record.shotPos2d.z, 2)
         << (record.indexStesa >= 0 ? QString::number(record.indexStesa + 1) : QString())
         << QString::number(record.ttMisurati.size());
     if (files) {

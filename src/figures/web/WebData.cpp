@@ -1,5 +1,6 @@
 #include "figures/web/WebData.h"
 
+#include "base/LengthUnit.h"
 #include "figures/report/ReportOptions.h"
 #include "figures/web/WebParts.h"
 #include "model/Recordings.h"
@@ -28,8 +29,8 @@ QJsonArray rounded(const std::vector<double>& values, int places) {
 QJsonArray rounded(const std::vector<Point2D>& points, int places) {
   QJsonArray list;
   for (const Point2D& point : points) {
-    list.append(rounded(point.x, places));
-    list.append(rounded(point.z, places));
+    list.append(rounded(shownLength(point.x), places));
+    list.append(rounded(shownLength(point.z), places));
   }
   return list;
 }
@@ -40,6 +41,8 @@ QJsonObject webData(const ReportSource& source, const ReportOptions& options) {
   const TomoDocument& document = source.document;
   const ReportSections& sections = options.sections;
   QJsonObject data{{QStringLiteral("words"), web::words()}};
+  // What the page gives away as files is in metres all the same.
+  if (lengthUnit() != LengthUnit::kMetre) data[QStringLiteral("metres")] = metresOf(1.0);
   if (sections.section) {
     data[QStringLiteral("section")] = web::sectionData(source, options);
     if (sections.rays) data[QStringLiteral("rays")] = web::rayData(document);

@@ -1,3 +1,4 @@
+#include "base/LengthUnit.h"
 #include "doctor/ReciprocityTable.h"
 #include "figures/web/WebParts.h"
 #include "model/GeoTransformer.h"
@@ -59,7 +60,7 @@ void addResiduals(const TomoDocument& document, QJsonObject& json) {
   QJsonArray perGeophone;
   for (std::size_t i = 0; i < geophones.size(); ++i) {
     if (geophones[i].count > 0 && std::isfinite(table.columns[i].x)) {
-      perGeophone.append(geophones[i].json(table.columns[i].x));
+      perGeophone.append(geophones[i].json(shownLength(table.columns[i].x)));
     }
   }
   json[QStringLiteral("perShot")] = perShot;
@@ -117,6 +118,7 @@ QJsonObject mapData(const TomoDocument& document) {
     course.append(rounded(std::vector<double>{vertex.place.easting, vertex.place.northing}, 2));
   }
   if (!course.isEmpty()) json[QStringLiteral("course")] = course;
+  if (lengthUnit() != LengthUnit::kMetre) json[QStringLiteral("metres")] = metresOf(1.0);
   const GeoTransformer globe(place.CRS);
   LonLat middle{};
   if (globe.status().ok() &&

@@ -7,7 +7,9 @@
 #include <QJsonValue>
 #include <vector>
 
-// The parts of what a web page shows. An object or a list without anything in it: there is none.
+// The parts of what a web page shows. Lengths and velocities are in the unit that is shown: the
+// page makes round numbers of them by itself. An object or a list without anything in it: there is
+// none.
 
 namespace talvesk {
 
@@ -19,8 +21,8 @@ namespace web {
 
 /// Cells, layers and what else lies in the section.
 QJsonObject sectionData(const ReportSource& source, const ReportOptions& options);
-/// Of every shot, by receiver: lists of whole centimetres, x and elevation of the first point, then
-/// steps to the next; an empty list where there is none.
+/// Of every shot, by receiver: lists of whole hundredths of the unit shown, x and elevation of the
+/// first point, then steps to the next; an empty list where there is none.
 QJsonArray rayData(const TomoDocument& document);
 /// Picks and computed times, shot by shot.
 QJsonArray shotData(const TomoDocument& document);
@@ -37,7 +39,7 @@ QJsonObject words();
 /// A number with at most so many places; null for what is none.
 QJsonValue rounded(double value, int places);
 QJsonArray rounded(const std::vector<double>& values, int places);
-/// x and z, one after the other.
+/// x and z in the unit that is shown, one after the other. \param points metres
 QJsonArray rounded(const std::vector<Point2D>& points, int places);
 
 }  // namespace web

@@ -8,6 +8,7 @@
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
 #include "view/RayLines.h"
+#include "view/ShownUnit.h"
 #include "view/SimplifiedLine.h"
 #include "view/VelocityDifference.h"
 
@@ -28,7 +29,7 @@ struct WebSectionWords {
 constexpr std::size_t kMostCells = 120000;  ///< a few megabytes with all that is known of them
 constexpr std::size_t kMostRayPoints = 60000;
 constexpr std::size_t kMostRuns = 2;  ///< beside the section
-constexpr double kCentimetres = 100.0;
+constexpr double kHundredths = 100.0;
 
 QJsonArray pair(const ValueRange& range) {
   return {rounded(range.min, 6), rounded(range.max, 6)};
@@ -86,7 +87,7 @@ class SectionWriter {
                      {QStringLiteral("columns"), static_cast<int>(mScene.mesh.columns)},
                      {QStringLiteral("quantities"), quantities()},
                      {QStringLiteral("palettes"), palettesJson(mOptions.section.palette)},
-                     {QStringLiteral("contours"), rounded(mScene.contourLevels, 6)},
+                     {QStringLiteral("contours"), contoursJson()},
                      {QStringLiteral("surface"), rounded(simplifiedLine(mScene.surface, 0.005), 3)},
                      {QStringLiteral("coverage"), rounded(mScene.coverageLimit, 2)},
                      {QStringLiteral("geophones"), rounded(mScene.geophones, 2)},
@@ -103,16 +104,22 @@ class SectionWriter {
     const SectionMesh& mesh = mScene.mesh;
     QJsonArray x;
     for (std::uint32_t i = 0; i <= mesh.columns; ++i) {
-      x.append(rounded(mesh.corners[mesh.corner(0, i)].x, 3));
+      x.append(rounded(shownLength(mesh.corners[mesh.corner(0, i)].x), 3));
     }
     QJsonArray z;
     for (std::uint32_t line = 0; line <= mRows; ++line) {
       for (std::uint32_t i = 0; i <= mesh.columns; ++i) {
-        z.append(rounded(kCentimetres * mesh.corners[mesh.corner(line, i)].z, 0));
+        z.append(rounded(kHundredths * shownLength(mesh.corners[mesh.corner(line, i)].z), 0));
       }
     }
     json[QStringLiteral("x")] = x;
     json[QStringLiteral("z")] = z;
+  }
+
+  QJsonArray contoursJson() const {
+    std::vector<double> levels = mScene.contourLevels;
+    for (double& level : levels) level = shownLength(level);
+    return rounded(levels, 6);
   }
 
   QJsonArray quantities() const {
@@ -184,18 +191,22 @@ class SectionWriter {
 
   /// Where a cell is not drawn, its value is null.
   QJsonObject quantityJson(const Quantity& quantity) const {
+    const ShownUnit unit = shownUnit(quantity.unit.toStdString());
     QJsonArray values;
     for (std::size_t cell = 0; cell < cells(); ++cell) {
       const bool drawn = mScene.mesh.drawn[cell] != 0 && cell < quantity.values.size();
-      values.append(drawn ? rounded(quantity.values[cell], quantity.places + 1)
+      values.append(drawn ? rounded(unit.shown(quantity.values[cell]), quantity.places + 1)
                           : QJsonValue(QJsonValue::Null));
     }
     QJsonObject json{{QStringLiteral("key"), quantity.key},
                      {QStringLiteral("name"), quantity.name},
-                     {QStringLiteral("unit"), quantity.unit},
+                     {QStringLiteral("unit"), QString::fromStdString(unit.name)},
                      {QStringLiteral("places"), quantity.places},
                      {QStringLiteral("values"), values}};
-    if (quantity.range) json[QStringLiteral("range")] = pair(*quantity.range);
+    if (quantity.range) {
+      json[QStringLiteral("range")] =
+          pair({unit.shown(quantity.range->min), unit.shown(quantity.range->max)});
+    }
     if (quantity.palette) json[QStringLiteral("palette")] = paletteJson(*quantity.palette);
     return json;
   }
@@ -267,12 +278,13 @@ std::vector<Point2D> rayLine(const TomoDocument& document, const std::vector<std
   return simplifiedLine(line, tolerance);
 }
 
-/// Whole centimetres, each point by its distance from the last.
+/// Whole hundredths of the unit shown, each point by its distance from the last.
 QJsonArray stepsOf(const std::vector<Point2D>& line) {
   QJsonArray steps;
   Point2D last{0.0, 0.0};
   for (const Point2D& point : line) {
-    const Point2D now{std::round(kCentimetres * point.x), std::round(kCentimetres * point.z)};
+    const Point2D now{std::round(kHundredths * shownLength(point.x)),
+                      std::round(kHundredths * shownLength(point.z))};
     steps.append(now.x - last.x);
     steps.append(now.z - last.z);
     last = now;

@@ -1,3 +1,4 @@
+#include "base/LengthUnit.h"
 #include "figures/DrawableValues.h"
 #include "figures/GatherScene.h"
 #include "figures/web/WebParts.h"
@@ -20,7 +21,7 @@ namespace talvesk::web {
 namespace {
 
 constexpr int kTimePlaces = 3;  ///< of milliseconds
-constexpr int kMetrePlaces = 2;
+constexpr int kPlaces = 2;
 constexpr double kMilliseconds = 1e3;
 constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 
@@ -38,7 +39,7 @@ QJsonObject shotJson(const TomoDocument& document, std::size_t shot) {
   const bool times = document.result->has_tomographic_info;
   for (std::size_t i = 0; i < record.ttMisurati.size(); ++i) {
     const double error = record.errorOf(i);
-    x.push_back(i < receivers.size() ? place(receivers[i].x) : kNone);
+    x.push_back(i < receivers.size() ? shownLength(place(receivers[i].x)) : kNone);
     measured.push_back(hasPick(record.ttMisurati[i]) ? kMilliseconds * record.ttMisurati[i]
                                                      : kNone);
     errors.push_back(error > 0.0 ? kMilliseconds * error : kNone);
@@ -46,10 +47,10 @@ QJsonObject shotJson(const TomoDocument& document, std::size_t shot) {
     computed.push_back(known ? kMilliseconds * record.ttCalcolati[i] : kNone);
   }
   const QString file = QString::fromStdString(shotFile(document, shot));
-  return {{QStringLiteral("x"), rounded(place(record.shotPos2d.x), kMetrePlaces)},
-          {QStringLiteral("z"), rounded(record.shotPos2d.z, kMetrePlaces)},
+  return {{QStringLiteral("x"), rounded(shownLength(place(record.shotPos2d.x)), kPlaces)},
+          {QStringLiteral("z"), rounded(shownLength(record.shotPos2d.z), kPlaces)},
           {QStringLiteral("file"), QFileInfo(file).fileName()},
-          {QStringLiteral("receivers"), rounded(x, kMetrePlaces)},
+          {QStringLiteral("receivers"), rounded(x, kPlaces)},
           {QStringLiteral("measured"), rounded(measured, kTimePlaces)},
           {QStringLiteral("errors"), rounded(errors, kTimePlaces)},
           {QStringLiteral("computed"), rounded(computed, kTimePlaces)}};
@@ -91,7 +92,7 @@ QJsonObject gatherJson(const GatherScene& scene, std::size_t parts) {
   QByteArray samples;
   for (const GatherTrace& trace : scene.traces) {
     channels.append(static_cast<int>(trace.channel));
-    x.append(rounded(trace.x, kMetrePlaces));
+    x.append(rounded(shownLength(trace.x), kPlaces));
     samples += thinned(trace, scene.window, parts);
   }
   return {{QStringLiteral("title"), QString::fromStdString(scene.title)},
@@ -99,7 +100,8 @@ QJsonObject gatherJson(const GatherScene& scene, std::size_t parts) {
           {QStringLiteral("byChannel"), scene.byChannel},
           {QStringLiteral("channels"), channels},
           {QStringLiteral("x"), x},
-          {QStringLiteral("spacing"), rounded(scene.spacing, 4)},
+          {QStringLiteral("spacing"),
+           rounded(scene.byChannel ? scene.spacing : shownLength(scene.spacing), 4)},
           {QStringLiteral("from"), rounded(scene.window.beginMs, kTimePlaces)},
           {QStringLiteral("to"), rounded(scene.window.endMs, kTimePlaces)},
           {QStringLiteral("parts"), static_cast<int>(parts)},

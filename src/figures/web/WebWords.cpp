@@ -1,4 +1,5 @@
 #include "figures/FigureWords.h"
+#include "figures/ShownLength.h"
 #include "figures/web/WebParts.h"
 
 #include <QCoreApplication>
@@ -11,6 +12,7 @@ struct WebPageWords {
 };
 
 void addSection(QJsonObject& words) {
+  const QString length = withLengthUnit(QStringLiteral("%1"));  // the page puts the number in
   words[QStringLiteral("section")] = WebPageWords::tr("Section");
   words[QStringLiteral("sectionControls")] = WebPageWords::tr("What the section shows");
   words[QStringLiteral("sectionHelp")] = WebPageWords::tr(
@@ -34,15 +36,16 @@ void addSection(QJsonObject& words) {
   words[QStringLiteral("zoomIn")] = WebPageWords::tr("Zoom in");
   words[QStringLiteral("zoomOut")] = WebPageWords::tr("Zoom out");
   words[QStringLiteral("whole")] = WebPageWords::tr("Show all");
-  words[QStringLiteral("atDistance")] = WebPageWords::tr("Distance %1 m");
-  words[QStringLiteral("atElevation")] = WebPageWords::tr("elevation %1 m");
-  words[QStringLiteral("atDepth")] = WebPageWords::tr("depth %1 m");
+  words[QStringLiteral("atDistance")] = WebPageWords::tr("Distance %1").arg(length);
+  words[QStringLiteral("atElevation")] = WebPageWords::tr("elevation %1").arg(length);
+  words[QStringLiteral("atDepth")] = WebPageWords::tr("depth %1").arg(length);
   words[QStringLiteral("profile")] = WebPageWords::tr("Vertical profile");
-  words[QStringLiteral("profileAt")] = WebPageWords::tr("Vertical profile at %1 m");
-  words[QStringLiteral("depthFrom")] = WebPageWords::tr("Depth from [m]");
-  words[QStringLiteral("depthTo")] = WebPageWords::tr("Depth to [m]");
-  words[QStringLiteral("depth")] = WebPageWords::tr("Depth below ground [m]");
-  words[QStringLiteral("velocity")] = WebPageWords::tr("Velocity [m/s]");
+  words[QStringLiteral("profileAt")] = WebPageWords::tr("Vertical profile at %1").arg(length);
+  words[QStringLiteral("depthFrom")] = WebPageWords::tr("Depth from [%1]").arg(lengthUnitText());
+  words[QStringLiteral("depthTo")] = WebPageWords::tr("Depth to [%1]").arg(lengthUnitText());
+  words[QStringLiteral("depth")] =
+      WebPageWords::tr("Depth below ground [%1]").arg(lengthUnitText());
+  words[QStringLiteral("velocity")] = WebPageWords::tr("Velocity [%1]").arg(velocityUnitText());
   words[QStringLiteral("tooManyCells")] = WebPageWords::tr(
       "The section has %1 cells, too many to be explored in a page: it stands here as a picture.");
 }
@@ -58,7 +61,9 @@ void addTimes(QJsonObject& words) {
   words[QStringLiteral("errors")] = WebPageWords::tr("Error bars");
   words[QStringLiteral("computed")] = WebPageWords::tr("Computed");
   words[QStringLiteral("shot")] = WebPageWords::tr("Shot %1");
-  words[QStringLiteral("geophone")] = WebPageWords::tr("geophone %1 at %2 m");
+  words[QStringLiteral("geophone")] =
+      WebPageWords::tr("geophone %1 at %2")
+          .arg(QStringLiteral("%1"), withLengthUnit(QStringLiteral("%2")));
   words[QStringLiteral("ms")] = WebPageWords::tr("%1 ms");
   words[QStringLiteral("msWithError")] = WebPageWords::tr("%1 ± %2 ms");
   words[QStringLiteral("computedMs")] = WebPageWords::tr("computed %1 ms");

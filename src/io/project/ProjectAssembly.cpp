@@ -42,9 +42,9 @@ Status checkCells(const GridMember& grid) {
   constexpr std::uint32_t kMostNodes = 1000;  // per side; more has no use and no memory
   if (grid.nV < 2 || grid.nV > kMostNodes || !positive(grid.aLato) ||
       grid.aLato > kLargestCoordinate) {
-    return Status::failure(Message::tr("cells with %1 nodes per side, %2 m long, cannot be")
+    return Status::failure(Message::tr("cells with %1 nodes per side, %2 long, cannot be")
                                .arg(grid.nV)
-                               .arg(grid.aLato));
+                               .arg(Message::length(grid.aLato)));
   }
   if (!std::all_of(grid.velocities.begin(), grid.velocities.end(), positive)) {
     return Status::failure(Message::tr("a velocity is not a positive number"));

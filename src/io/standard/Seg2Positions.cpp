@@ -140,12 +140,12 @@ class Placing {
                       "position along the line"));
     } else if (x.extent() == 0.0) {
       mWarnings.push_back(
-          Message::tr("all its geophones are at x = %1 m; give the survey its geometry")
-              .arg(x.least));
+          Message::tr("all its geophones are at x = %1; give the survey its geometry")
+              .arg(Message::length(x.least)));
     } else if (y.extent() > kStraight) {
-      mWarnings.push_back(Message::tr("its geophones differ by up to %1 m in y, which is not used; "
+      mWarnings.push_back(Message::tr("its geophones differ by up to %1 in y, which is not used; "
                                       "positions along the line are x")
-                              .arg(y.extent()));
+                              .arg(Message::length(y.extent())));
     }
   }
 

@@ -164,13 +164,13 @@ class Placing {
   void warnOfOnePlace() {
     if (!areAt(mReceivers.front(), mReceivers)) return;
     if (areAt(mReceivers.front(), mSources)) {
-      warn(Message::tr("its headers tell no positions; shots and geophones all stand at %1 m, so "
+      warn(Message::tr("its headers tell no positions; shots and geophones all stand at %1, so "
                        "load a geometry file")
-               .arg(mReceivers.front().x));
+               .arg(Message::length(mReceivers.front().x)));
     } else if (mReceivers.size() > 1) {
-      warn(Message::tr("its headers put the geophones of all traces at %1 m; load a geometry file "
+      warn(Message::tr("its headers put the geophones of all traces at %1; load a geometry file "
                        "if there was more than one")
-               .arg(mReceivers.front().x));
+               .arg(Message::length(mReceivers.front().x)));
     }
   }
 
@@ -181,8 +181,8 @@ class Placing {
       beside = std::max(beside, std::abs(source.y - mReceivers.front().y));
     }
     if (beside < kBesideLine) return;
-    warn(Message::tr("shots stand up to %1 m beside the line of geophones; x is taken as it stands")
-             .arg(beside));
+    warn(Message::tr("shots stand up to %1 beside the line of geophones; x is taken as it stands")
+             .arg(Message::length(beside)));
   }
 
   /// Of the receivers the one that is farthest from the first.
@@ -206,11 +206,11 @@ class Placing {
     warn(
         Message::tr("its coordinates do not lie along x; distances are those along the straight "
                     "line through the geophones from the first geophone of this file, which stands "
-                    "at x %1, y %2; geophones stand up to %3 m beside it, shots up to %4 m")
+                    "at x %1, y %2; geophones stand up to %3 beside it, shots up to %4")
             .arg(Message::number(mReceivers.front().x, 10))
             .arg(Message::number(mReceivers.front().y, 10))
-            .arg(Message::number(geophones, 3))
-            .arg(Message::number(shots, 3)));
+            .arg(Message::length(geophones, 3))
+            .arg(Message::length(shots, 3)));
   }
 
   void warnOfLength() {
@@ -248,9 +248,9 @@ class Placing {
       return;
     }
     if (deepest > 0.0) {
-      warn(Message::tr("shots lie up to %1 m below the ground; their elevations are those of the "
+      warn(Message::tr("shots lie up to %1 below the ground; their elevations are those of the "
                        "shots, not of the ground above them")
-               .arg(deepest));
+               .arg(Message::length(deepest)));
     }
     if (above.any()) {
       warn(Message::tr("the shot depth of %1 is negative and was taken as 0")

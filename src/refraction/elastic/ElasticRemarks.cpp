@@ -19,14 +19,14 @@ void remarkOnTops(const ElasticLayer& layer, double tolerance, std::vector<Messa
   const double none = Estimate().value;
   remarks.push_back(
       Message::tr("Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more "
-                  "than %4 % (median there %5 m by P, %6 m by S). P waves often see the water "
+                  "than %4 % (median there %5 by P, %6 by S). P waves often see the water "
                   "table, which S waves do not: the same number may be different ground.")
           .arg(layer.layer)
           .arg(p.size())
           .arg(layer.points.size())
           .arg(tolerance)
-          .arg(Message::number(medianOf(std::move(p), none), 3))
-          .arg(Message::number(medianOf(std::move(s), none), 3)));
+          .arg(Message::length(medianOf(std::move(p), none), 3))
+          .arg(Message::length(medianOf(std::move(s), none), 3)));
 }
 
 void remarkOnVelocities(const ElasticLayer& layer, std::vector<Message>& remarks) {
@@ -98,10 +98,10 @@ void remarkOnSurface(const LayeredWave& p, const LayeredWave& s, double shift,
     where = at.x;
   }
   if (!(most > ElasticOptions::kPlaceTolerance)) return;
-  remarks.push_back(Message::tr("The surfaces of P and S lie up to %1 m apart, at %2 m: they may "
+  remarks.push_back(Message::tr("The surfaces of P and S lie up to %1 apart, at %2: they may "
                                 "not be the same line, or not begin at the same place.")
-                        .arg(Message::number(most, 3))
-                        .arg(where));
+                        .arg(Message::length(most, 3))
+                        .arg(Message::length(where)));
 }
 
 }  // namespace

@@ -100,9 +100,9 @@ std::vector<Message> compareSurveys(const TomoDocument& p, const TomoDocument& s
     return remarks;
   }
   if (const double gap = mapGap(p, s, options.shift); gap > ElasticOptions::kPlaceTolerance) {
-    remarks.push_back(Message::tr("The same distances of P and S lie up to %1 m apart on the map: "
+    remarks.push_back(Message::tr("The same distances of P and S lie up to %1 apart on the map: "
                                   "they may not be the same line, or not begin at the same place.")
-                          .arg(Message::number(gap, 3)));
+                          .arg(Message::length(gap, 3)));
   }
   return remarks;
 }

@@ -156,15 +156,16 @@ void Translator::add(const KnownBody& body) {
 void Translator::add(const KnownBorehole& borehole) {
   const std::optional<std::uint32_t> column = columnAt(borehole.x);
   if (!column) {
-    leaveOut(
-        Message::tr("%1 at %2 m stands beyond the grid.").arg(titleOf(borehole)).arg(borehole.x));
+    leaveOut(Message::tr("%1 at %2 stands beyond the grid.")
+                 .arg(titleOf(borehole))
+                 .arg(Message::length(borehole.x)));
     return;
   }
   if (borehole.layers.back().bottom > deepest()) {
-    leaveOut(Message::tr("%1 reaches %2 m down, below the grid; what is below %3 m does not count.")
+    leaveOut(Message::tr("%1 reaches %2 down, below the grid; what is below %3 does not count.")
                  .arg(titleOf(borehole))
-                 .arg(borehole.layers.back().bottom)
-                 .arg(deepest()));
+                 .arg(Message::length(borehole.layers.back().bottom))
+                 .arg(Message::length(deepest())));
   }
   pullColumn(borehole, *column);
   for (std::size_t i = 1; i < borehole.layers.size(); ++i) {
@@ -228,11 +229,11 @@ void Translator::add(const KnownDepth& point) {
   const double first = std::floor((point.depth - point.depthError()) / mSide) - 1.0;
   const double last = std::ceil((point.depth + point.depthError()) / mSide);
   if (!column || last >= mRows || point.depth < mSide) {
-    leaveOut(Message::tr("%1 (%2 m along the line, %3 m deep) is beyond the grid, or nearer to its "
+    leaveOut(Message::tr("%1 (%2 along the line, %3 deep) is beyond the grid, or nearer to its "
                          "edge than its error or a cell.")
                  .arg(titleOf(point))
-                 .arg(point.x)
-                 .arg(point.depth));
+                 .arg(Message::length(point.x))
+                 .arg(Message::length(point.depth)));
     return;
   }
   const Boundary boundary{point.x + mOffset, point.depth, point.depthError()};
@@ -249,17 +250,22 @@ void Translator::add(const KnownDepth& point) {
     mCells.conditions.push_back({std::move(name), isovalue, point.depth, error, *column});
   };
   if (const double isovalue = point.velocityAtDepth(); isovalue > 0.0) {
-    condition(Message::tr("%1, %2 m/s at %3 m").arg(titleOf(point)).arg(isovalue).arg(point.depth),
+    condition(Message::tr("%1, %2 at %3")
+                  .arg(titleOf(point))
+                  .arg(Message::velocity(isovalue))
+                  .arg(Message::length(point.depth)),
               isovalue);
     pull(upper, isovalue, kSigma, Side::kNotFaster);
     pull(lower, isovalue, kSigma, Side::kNotSlower);
   }
   if (point.above > 0.0) {
-    condition(Message::tr("%1, %2 m/s above").arg(titleOf(point)).arg(point.above), 0.0);
+    condition(Message::tr("%1, %2 above").arg(titleOf(point)).arg(Message::velocity(point.above)),
+              0.0);
     pull(upper, point.above, kSigma, Side::kEither);
   }
   if (point.below > 0.0) {
-    condition(Message::tr("%1, %2 m/s below").arg(titleOf(point)).arg(point.below), 0.0);
+    condition(Message::tr("%1, %2 below").arg(titleOf(point)).arg(Message::velocity(point.below)),
+              0.0);
     pull(lower, point.below, kSigma, Side::kEither);
   }
 }

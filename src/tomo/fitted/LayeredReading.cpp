@@ -110,8 +110,8 @@ Message tooFew(const Sorted& sorted) {
 Message unlikely(const LayeredReading& reading, const VelocityBounds& bounds) {
   double above = medianOf(reading.nearSlownesses, 0.0);
   if (above * bounds.least > 1.0) {
-    return Message::tr("waves along the surface at %1 m/s are slower than the bounds allow")
-        .arg(Message::number(1.0 / above, 4));
+    return Message::tr("waves along the surface at %1 are slower than the bounds allow")
+        .arg(Message::velocity(1.0 / above, 4));
   }
   for (const DelayTimes& refractor : reading.refractors) {
     if (!(refractor.slowness * bounds.greatest >= 1.0)) {

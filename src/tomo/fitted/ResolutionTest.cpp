@@ -31,15 +31,15 @@ int signAt(ResolutionPattern pattern, double x, double depth, double size) {
 Status check(const ResolutionSettings& settings, const GridSize& size,
              const std::vector<double>& background, const FitData& data) {
   if (!(settings.size > 0.0) || !std::isfinite(settings.size)) {
-    return Status::failure(
-        Message::tr("The size of the pattern must be positive; %1 m is not.").arg(settings.size));
+    return Status::failure(Message::tr("The size of the pattern must be positive; %1 is not.")
+                               .arg(Message::length(settings.size)));
   }
   if (settings.size < size.aLato) {
     return Status::failure(
-        Message::tr("The pattern has %1 m, less than a cell of the grid, which has %2 m; choose a "
+        Message::tr("The pattern has %1, less than a cell of the grid, which has %2; choose a "
                     "larger one.")
-            .arg(settings.size)
-            .arg(size.aLato));
+            .arg(Message::length(settings.size))
+            .arg(Message::length(size.aLato)));
   }
   if (!(settings.strength > 0.0) || !(settings.strength < 1.0)) {
     return Status::failure(

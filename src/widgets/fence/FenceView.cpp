@@ -1,6 +1,7 @@
 #include "widgets/fence/FenceView.h"
 
 #include "figures/FigurePlot.h"
+#include "figures/ShownLength.h"
 #include "view/AxisTicks.h"
 
 #include <QFontMetricsF>
@@ -189,8 +190,8 @@ void FenceView::Parts::paintBar(QPainter& painter) const {
   const double line = metrics.height();
   QLocale locale;
   locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  const QString title = FenceView::tr("Velocity [m/s]");
-  const AxisTicks ticks = axisTicks(colors.range().min, colors.range().max, 8);
+  const QString title = FenceView::tr("Velocity [%1]").arg(velocityUnitText());
+  const AxisTicks ticks = shownTicks(colors.range().min, colors.range().max, 8, "m/s");
   const double right = canvas->width() - 14.0 - 5.0 * metrics.horizontalAdvance(QLatin1Char('8'));
   const QRectF bar(right - kWidth, 3.0 * line, kWidth,
                    std::max(canvas->height() - 5.0 * line, 20.0));
@@ -215,7 +216,7 @@ void FenceView::Parts::paintBar(QPainter& painter) const {
     const double y = yOf(value);
     painter.drawLine(QPointF(bar.right(), y), QPointF(bar.right() + 4.0, y));
     painter.drawText(QPointF(bar.right() + 7.0, y + 0.35 * line),
-                     locale.toString(value, 'f', ticks.decimals));
+                     locale.toString(value * ticks.factor, 'f', ticks.decimals));
   }
   painter.drawText(QPointF(canvas->width() - 8.0 - metrics.horizontalAdvance(title), 1.6 * line),
                    title);

@@ -1,5 +1,6 @@
 #include "widgets/section/SectionTools.h"
 
+#include "figures/ShownLength.h"
 #include "view/SectionMeasure.h"
 
 #include <QCoreApplication>
@@ -70,11 +71,13 @@ void SectionMeasureTool::paint(QPainter& painter, const ToSheet& toSheet) const 
   paintPoint(painter, to);
   const SectionMeasure measure = measureSection(*mFrom, mTo);
   const QLocale locale;
-  const auto number = [&](double value) { return locale.toString(value, 'f', 2); };
+  const auto length = [&](double value) {
+    return withLengthUnit(locale.toString(shownLength(value), 'f', 2));
+  };
   paintNote(painter,
-            {ToolWords::tr("Distance %1 m").arg(number(measure.distance)),
-             ToolWords::tr("Horizontal %1 m").arg(number(measure.horizontal)),
-             ToolWords::tr("Vertical %1 m").arg(number(measure.vertical)),
+            {ToolWords::tr("Distance %1").arg(length(measure.distance)),
+             ToolWords::tr("Horizontal %1").arg(length(measure.horizontal)),
+             ToolWords::tr("Vertical %1").arg(length(measure.vertical)),
              ToolWords::tr("Slope %1\u00B0").arg(locale.toString(measure.slope, 'f', 1))},
             to);
 }

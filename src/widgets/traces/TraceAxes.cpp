@@ -1,6 +1,6 @@
 #include "widgets/traces/TraceAxes.h"
 
-#include "base/LengthUnit.h"
+#include "figures/ShownLength.h"
 #include "view/AxisTicks.h"
 #include "widgets/traces/TraceGuides.h"
 #include "widgets/traces/TraceTags.h"
@@ -49,7 +49,7 @@ class Axes {
     } else {
       paintPositions(lower, 1.0);
       title(lower, tr("Channel"));
-      if (paintAtTraces(upper, false)) title(upper, tr("x (m)"));
+      if (paintAtTraces(upper, false)) title(upper, tr("x (%1)").arg(lengthUnitText()));
     }
     paintShot();
     mPainter.drawRect(mPlot);
@@ -63,7 +63,7 @@ class Axes {
   }
 
   QString positionTitle() const {
-    const QLatin1String unit(lengthUnitName());
+    const QString unit = lengthUnitText();
     switch (mLayout.offsetOrder()) {
       case OffsetOrder::kSigned:
         return tr("Offset (%1)").arg(unit);
@@ -72,7 +72,7 @@ class Axes {
       case OffsetOrder::kNone:
         break;
     }
-    return tr("x (m)");
+    return tr("x (%1)").arg(unit);
   }
 
   void paintTimes() {
@@ -129,18 +129,16 @@ class Axes {
   void paintPositions(double top, double added) {
     const int most =
         std::clamp(static_cast<int>(mPlot.width() / (5.0 * mMetrics.averageCharWidth())), 2, 60);
-    const bool inUnit = mLayout.isByOffset();
-    const auto shown = [inUnit](double at) { return inUnit ? shownLength(at) : at; };
-    const auto inMetres = [inUnit](double at) { return inUnit ? metresOf(at) : at; };
+    const double from = mMapping.window.left + added;
+    const double to = mMapping.window.right + added;
     const AxisTicks ticks =
-        axisTicks(shown(mMapping.window.left) + added, shown(mMapping.window.right) + added, most,
-                  mLayout.isByChannel());
+        mLayout.isByChannel() ? axisTicks(from, to, most, true) : shownTicks(from, to, most, "m");
     double rightEnd = -HUGE_VAL;
-    for (const double value : ticks.minor) positionMark(inMetres(value) - added, kMinor);
+    for (const double value : ticks.minor) positionMark(value - added, kMinor);
     for (const double value : ticks.major) {
-      const double x = positionMark(inMetres(value) - added, kMajor);
+      const double x = positionMark(value - added, kMajor);
       if (mLayout.isByChannel() && (value < 1.0 || value > mLayout.count())) continue;
-      label(x, top, screenNumber(value, ticks.decimals), rightEnd);
+      label(x, top, screenNumber(value * ticks.factor, ticks.decimals), rightEnd);
     }
   }
 
@@ -159,9 +157,9 @@ class Axes {
 
   QString labelOf(int trace, bool channels) const {
     if (channels) return channelsAt(trace);
-    const double metres = mTraces.receiverX(trace);
-    if (!std::isfinite(metres)) return {};
-    return screenNumber(metres, std::fabs(metres - std::round(metres)) < 0.005 ? 0 : 1);
+    const double x = shownLength(mTraces.receiverX(trace));
+    if (!std::isfinite(x)) return {};
+    return screenNumber(x, std::fabs(x - std::round(x)) < 0.005 ? 0 : 1);
   }
 
   /// Every how many traces there is room for a label.
