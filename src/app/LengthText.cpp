@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kMostTyped = 6;    // decimals of feet that a user may have typed
 constexpr int kUsual = 3;        // of those that nobody typed: a third of a millimetre
-constexpr double kSame = 1e-10;  // of a number, far below what differs in a typed decimal
+constexpr double kSame = 1e-13;  // of a number, far below what differs in a typed decimal
 
 bool inMetres() {
   return lengthUnit() == LengthUnit::kMetre;

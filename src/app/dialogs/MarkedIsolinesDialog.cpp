@@ -2,7 +2,9 @@
 
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/ColorField.h"
+#include "app/dialogs/LengthBox.h"
 #include "ui_MarkedIsolinesDialog.h"
 
 #include <QDoubleSpinBox>
@@ -23,6 +25,7 @@ MarkedIsolinesDialog::MarkedIsolinesDialog(const std::vector<MarkedIsoline>& iso
                                            QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::MarkedIsolinesDialog>()) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   mUi->isolinesTable->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
   mUi->isolinesTable->setColumnWidth(kVelocity, 140);
@@ -44,12 +47,12 @@ void MarkedIsolinesDialog::addRow(const MarkedIsoline& isoline) {
   const int row = table.rowCount();
   table.insertRow(row);
   table.setItem(row, kName, new QTableWidgetItem(QString::fromStdString(isoline.name)));
-  auto* velocity = new QDoubleSpinBox;
-  velocity->setRange(1.0, 20000.0);
+  auto* velocity = new LengthBox;
   velocity->setDecimals(1);
+  velocity->setRange(1.0, 20000.0);
   velocity->setSingleStep(50.0);
   velocity->setValue(isoline.velocity);
-  velocity->setAccessibleName(tr("Velocity [m/s]"));
+  velocity->setAccessibleName(inShownUnits(tr("Velocity [m/s]")));
   auto* width = new QDoubleSpinBox;
   width->setRange(Annotations::kThinnest, Annotations::kThickest);
   width->setDecimals(1);
