@@ -1462,8 +1462,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>S &amp;verschieben um:</translation>
     </message>
     <message>
-        <source>Metres added to distances of S</source>
-        <translation>Meter, die zu Entfernungen von S addiert werden</translation>
+        <source>Length added to distances of S</source>
+        <translation>Länge, die zu Entfernungen von S addiert wird</translation>
     </message>
     <message>
         <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>

@@ -1462,8 +1462,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Despla&amp;zar S:</translation>
     </message>
     <message>
-        <source>Metres added to distances of S</source>
-        <translation>Metros que se suman a las distancias de S</translation>
+        <source>Length added to distances of S</source>
+        <translation>Longitud que se suma a las distancias de S</translation>
     </message>
     <message>
         <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>

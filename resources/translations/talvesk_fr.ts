@@ -1462,8 +1462,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>&amp;Décaler S de&#xa0;:</translation>
     </message>
     <message>
-        <source>Metres added to distances of S</source>
-        <translation>Mètres ajoutés aux distances de S</translation>
+        <source>Length added to distances of S</source>
+        <translation>Longueur ajoutée aux distances de S</translation>
     </message>
     <message>
         <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>

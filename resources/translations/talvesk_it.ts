@@ -1462,8 +1462,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Tras&amp;la S di:</translation>
     </message>
     <message>
-        <source>Metres added to distances of S</source>
-        <translation>Metri aggiunti alle distanze di S</translation>
+        <source>Length added to distances of S</source>
+        <translation>Lunghezza aggiunta alle distanze di S</translation>
     </message>
     <message>
         <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>

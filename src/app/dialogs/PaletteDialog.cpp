@@ -135,8 +135,10 @@ void PaletteDialog::refreshChooser() {
 void PaletteDialog::refreshCurrent() {
   const ColorPalette& palette = mPalettes.current();
   ColorPalette shown = palette;
-  shown.min_db = shownLength(palette.min_db);
-  shown.max_db = shownLength(palette.max_db);
+  if (lengthUnit() == LengthUnit::kFoot) {  // the editor would cut what is behind the point
+    shown.min_db = std::round(shownLength(palette.min_db));
+    shown.max_db = std::round(shownLength(palette.max_db));
+  }
   mUi->paletteEditor->setColorPalette(shown);
   const QSignalBlocker quiet(mUi->colorsSpinBox);
   mUi->colorsSpinBox->setValue(palette.n_colors);
