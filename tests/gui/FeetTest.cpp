@@ -1,5 +1,6 @@
 #include "app/dialogs/AnnotationsDialog.h"
 #include "app/dialogs/DepthProfileDialog.h"
+#include "app/dialogs/KnownTables.h"
 #include "app/dialogs/LengthBox.h"
 #include "app/dialogs/MarkedIsolinesDialog.h"
 #include "app/dialogs/SurveyedPositionsDialog.h"
@@ -14,14 +15,17 @@
 #include <QHeaderView>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QTableView>
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace talvesk::testing {
 namespace {
 
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 // What users see and type where feet are the unit that is shown.
 
@@ -128,6 +132,8 @@ TEST_F(Feet, areTheUnitOfEveryDialogInEveryLanguage) {
     for (const Case& each : everyCase()) {
       const auto dialog = each.make();
       show(*dialog);
+      EXPECT_LE(dialog->minimumSizeHint().width(), 1366) << language << ", " << each.name;
+      EXPECT_LE(dialog->minimumSizeHint().height(), 700) << language << ", " << each.name;
       QList<QWidget*> widgets = dialog->findChildren<QWidget*>();
       widgets << dialog.get();
       for (const QWidget* widget : widgets) {
@@ -197,6 +203,89 @@ TEST_F(Feet, leaveTheProgramWhatItWasAskedInMetres) {
   EXPECT_EQ(layers[0][0].initialVelocity, 762.0);
   EXPECT_EQ(layers[1][0].initialVelocity, 762.0);
   EXPECT_EQ(layers[0][0].finalDepth, layers[1][0].finalDepth);
+}
+
+TEST_F(Feet, leaveIsovaluesAsTheyAreAndTakeTypedOnesExactly) {
+  openSurvey();
+  const InFeet feet;
+  ContourSettings contours;
+  contours.customized = true;
+  contours.onProfile = true;
+  contours.customValues = {300.7, 500.0, 2000.0 / 3.0};
+  contourlines_dialog dialog(contours, SectionQuantity::kVelocity, {250.0, 900.0}, mFolders);
+  dialog.show();
+  EXPECT_FALSE(dialog.hasChanges());
+  EXPECT_EQ(dialog.settings().customValues, contours.customValues) << "to the bit";
+  EXPECT_THAT(dialog.findChild<QLabel*>("rangeLabel")->text().toStdString(),
+              HasSubstr("820.21 to 2,952.76 ft/s"));
+  QList<QLineEdit*> edits = dialog.findChild<QScrollArea*>()->findChildren<QLineEdit*>();
+  ASSERT_EQ(edits.size(), 3);
+  EXPECT_EQ(edits[1]->text().toStdString(), "1640.42");
+  edits[1]->setText("1500");
+  edits[2]->setText("2952.76");
+  EXPECT_EQ(dialog.settings().customValues, (std::vector<double>{300.7, 457.2, 900.0}));
+  dialog.findChild<QPushButton*>("round_button")->click();
+  for (const double value : dialog.settings().customValues) {
+    EXPECT_NEAR(std::remainder(shownLength(value), 50.0), 0.0, 1e-9) << value;
+  }
+}
+
+TEST_F(Feet, areWhatDrawingsAndKnownGroundAskFor) {
+  openSurvey();
+  const InFeet feet;
+  DrawingDialog::Start start;
+  start.isovalues = {457.2, 1000.0 / 3.0};
+  DrawingDialog drawing(start);
+  EXPECT_EQ(drawing.isovalues(), (std::vector<double>{1000.0 / 3.0, 457.2}));
+  auto& edit = *drawing.findChild<QLineEdit*>("isovaluesEdit");
+  EXPECT_EQ(edit.text().toStdString(), "1500 1093.613");
+  edit.setText("1500 5000; 1093.613");
+  EXPECT_EQ(drawing.isovalues(), (std::vector<double>{1000.0 / 3.0, 457.2, 1524.0}));
+
+  KnownGround known;
+  known.depths.push_back({"seen", 12.3, 0.1 + 0.2, 0.5, 2, 1500.0});
+  KnownSession session(known);
+  KnownTable table(session, KnownKind::kDepth);
+  QStringList cells;
+  for (int column = 0; column < table.columnCount(); ++column) {
+    cells << table.index(0, column).data().toString();
+  }
+  EXPECT_THAT(cells.join(' ').toStdString(), HasSubstr("40.354 0.984 1.64 4921.26"));
+  for (int column = 0; column < table.columnCount(); ++column)
+    table.paste(0, column, cells[column]);
+  EXPECT_EQ(session.ground(), known) << "pasted where it was copied";
+  table.setData(table.index(0, 1), "40", Qt::EditRole);
+  EXPECT_EQ(session.ground()->depths[0].x, 12.192);
+}
+
+TEST_F(Feet, setTheRangeOfTheColours) {
+  openSurvey();
+  const InFeet feet;
+  ColorPaletteList palettes;
+  PaletteDialog dialog(palettes, false, ValueRange{304.0, 2990.0}, mFolders);
+  int told = 0;
+  QObject::connect(&dialog, &PaletteDialog::changed_min_value, [&](int value) { told = value; });
+  EXPECT_FALSE(dialog.hasChanges());
+  EXPECT_EQ(dialog.findChild<QSpinBox*>("minimum")->value(), 820);
+  EXPECT_EQ(dialog.findChild<QSpinBox*>("maximum")->value(), 11483);
+  EXPECT_FALSE(dialog.hasChanges());
+  dialog.findChild<QSpinBox*>("minimum")->setValue(1000);
+  EXPECT_EQ(palettes.current().min_db, 304.8);
+  EXPECT_EQ(told, 305);
+  EXPECT_EQ(palettes.current().max_db, 3500.0) << "was not touched";
+}
+
+TEST_F(Feet, areReadOutInTheWindow) {
+  openSurvey();
+  const InFeet feet;
+  QEvent change(QEvent::LanguageChange);
+  QApplication::sendEvent(window.get(), &change);
+  QStringList shots;
+  for (const QComboBox* box : window->findChildren<QComboBox*>()) {
+    for (int i = 0; i < box->count(); ++i) shots << box->itemText(i);
+  }
+  EXPECT_THAT(shots.join('|').toStdString(), HasSubstr("at 29.5 ft"));
+  EXPECT_THAT(shots.join('|').toStdString(), Not(HasSubstr("at 9.0 m")));
 }
 
 }  // namespace
