@@ -471,10 +471,6 @@
         <translation>Der Schuss liegt &amp;bei:</translation>
     </message>
     <message>
-        <source> m</source>
-        <translation> m</translation>
-    </message>
-    <message>
         <source>%1 %</source>
         <comment>share</comment>
         <translation>%1 %</translation>
@@ -484,8 +480,8 @@
         <translation>&amp;Ausführen</translation>
     </message>
     <message>
-        <source>Distance, m</source>
-        <translation>Entfernung, m</translation>
+        <source>Distance (m)</source>
+        <translation>Entfernung (m)</translation>
     </message>
     <message>
         <source>Time, ms</source>
@@ -868,8 +864,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>&amp;Bild speichern ...</translation>
     </message>
     <message>
-        <source>Save the depths at the geophones as CSV</source>
-        <translation>Die Tiefen an den Geophonen als CSV speichern</translation>
+        <source>Save the depths at the geophones as CSV, in metres</source>
+        <translation>Die Tiefen an den Geophonen als CSV speichern, in Metern</translation>
     </message>
     <message>
         <source>Save &amp;table ...</source>
@@ -888,8 +884,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Kein Geophon hat beide Tiefen. Vielleicht wird unter der Messlinie eine andere Geschwindigkeit erreicht.</translation>
     </message>
     <message>
-        <source>Section less layers: %1 m on average, RMS %2 m, at %3 of %4 geophones.</source>
-        <translation>Schnitt minus Schichten: im Mittel %1 m, RMS %2 m, an %3 von %4 Geophonen.</translation>
+        <source>Section less layers: %1 on average, RMS %2, at %3 of %4 geophones.</source>
+        <translation>Schnitt minus Schichten: im Mittel %1, RMS %2, an %3 von %4 Geophonen.</translation>
     </message>
     <message>
         <source>The others lack a depth.</source>
@@ -1087,16 +1083,16 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Geometrie &amp;laden</translation>
     </message>
     <message>
-        <source>Read x and elevation of the geophones of this string from a text file</source>
-        <translation>Liest x und Höhe der Geophone dieser Auslage aus einer Textdatei</translation>
+        <source>Read x and elevation of the geophones of this string from a text file, in metres</source>
+        <translation>Liest x und Höhe der Geophone dieser Auslage aus einer Textdatei, in Metern</translation>
     </message>
     <message>
         <source>Sa&amp;ve Geometry</source>
         <translation>Geometrie &amp;speichern</translation>
     </message>
     <message>
-        <source>Write x and elevation of the geophones of this string to a text file</source>
-        <translation>Schreibt x und Höhe der Geophone dieser Auslage in eine Textdatei</translation>
+        <source>Write x and elevation of the geophones of this string to a text file, in metres</source>
+        <translation>Schreibt x und Höhe der Geophone dieser Auslage in eine Textdatei, in Metern</translation>
     </message>
     <message>
         <source>Shots</source>
@@ -1135,16 +1131,16 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Schussgeometrie &amp;laden</translation>
     </message>
     <message>
-        <source>Read x and elevation of all shots from a text file</source>
-        <translation>Liest x und Höhe aller Schüsse aus einer Textdatei</translation>
+        <source>Read x and elevation of all shots from a text file, in metres</source>
+        <translation>Liest x und Höhe aller Schüsse aus einer Textdatei, in Metern</translation>
     </message>
     <message>
         <source>Sa&amp;ve Shots Geometry</source>
         <translation>Schussgeometrie &amp;speichern</translation>
     </message>
     <message>
-        <source>Write x and elevation of all shots to a text file</source>
-        <translation>Schreibt x und Höhe aller Schüsse in eine Textdatei</translation>
+        <source>Write x and elevation of all shots to a text file, in metres</source>
+        <translation>Schreibt x und Höhe aller Schüsse in eine Textdatei, in Metern</translation>
     </message>
     <message>
         <source>&amp;To be looked at:</source>
@@ -1178,8 +1174,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         </translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a length in metres.</source>
-        <translation>„%1“ ist keine Länge in Metern.</translation>
+        <source>&quot;%1&quot; is not a length in %2.</source>
+        <translation>„%1“ ist keine Länge in %2.</translation>
     </message>
     <message>
         <source>They have no geophones then, until another string is added.</source>
@@ -1346,8 +1342,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Höhen aus Tabelle</translation>
     </message>
     <message>
-        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
-        <translation>Gibt allen Geophonen und Schüssen die Höhen einer Tabelle mit Entfernungen und Höhen</translation>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations, in metres</source>
+        <translation>Gibt allen Geophonen und Schüssen die Höhen einer Tabelle mit Entfernungen und Höhen, in Metern</translation>
     </message>
     <message>
         <source>&amp;Straight from point to point ...</source>
@@ -1381,10 +1377,10 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <source>%n position(s) lie beyond its ends, %1 to %2, and got the elevation there.</source>
         <translation>
-            <numerusform>%n Position liegt jenseits ihrer Enden, %1 bis %2 m, und hat die dortige Höhe erhalten.</numerusform>
-            <numerusform>%n Positionen liegen jenseits ihrer Enden, %1 bis %2 m, und haben die dortige Höhe erhalten.</numerusform>
+            <numerusform>%n Position liegt jenseits ihrer Enden, %1 bis %2, und hat die dortige Höhe erhalten.</numerusform>
+            <numerusform>%n Positionen liegen jenseits ihrer Enden, %1 bis %2, und haben die dortige Höhe erhalten.</numerusform>
         </translation>
     </message>
 </context>
@@ -1401,10 +1397,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Velocities with blanks between them; each becomes lines through the section</source>
         <translation>Geschwindigkeiten, durch Leerzeichen getrennt; jede wird zu Linien durch den Schnitt</translation>
-    </message>
-    <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
     </message>
     <message>
         <source>&amp;Distance along the line and elevation</source>
@@ -1466,8 +1458,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>S &amp;verschieben um:</translation>
     </message>
     <message>
-        <source>Metres added to distances of S</source>
-        <translation>Meter, die zu Entfernungen von S addiert werden</translation>
+        <source>Length added to distances of S</source>
+        <translation>Länge, die zu Entfernungen von S addiert wird</translation>
     </message>
     <message>
         <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
@@ -2711,8 +2703,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Höhe (m)</translation>
     </message>
     <message>
-        <source>%1 m is too far away.</source>
-        <translation>%1 m ist zu weit entfernt.</translation>
+        <source>%1 is too far away.</source>
+        <translation>%1 ist zu weit entfernt.</translation>
     </message>
 </context>
 <context>
@@ -3161,8 +3153,8 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>&amp;Bohrungen</translation>
     </message>
     <message>
-        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
-        <translation>Eine Zeile ist eine Schicht; Schichten mit demselben Namen gehören zu einer Bohrung, von oben nach unten. Tiefen sind Meter unter der Oberfläche. Ohne Fehler gilt eine Geschwindigkeit als auf 5 % genau bekannt.</translation>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are counted from the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Eine Zeile ist eine Schicht; Schichten mit demselben Namen gehören zu einer Bohrung, von oben nach unten. Tiefen zählen ab der Oberfläche. Ohne Fehler gilt eine Geschwindigkeit als auf 5 % genau bekannt.</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -3225,16 +3217,16 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Wiederholen</translation>
     </message>
     <message>
-        <source>Read a table in place of all that stands here</source>
-        <translation>Liest eine Tabelle an die Stelle von allem, was hier steht</translation>
+        <source>Read a table in place of all that stands here, in metres</source>
+        <translation>Liest eine Tabelle an die Stelle von allem, was hier steht, in Metern</translation>
     </message>
     <message>
         <source>&amp;Import ...</source>
         <translation>&amp;Importieren ...</translation>
     </message>
     <message>
-        <source>Write all of it as one table</source>
-        <translation>Schreibt alles in eine Tabelle</translation>
+        <source>Write all of it as one table, in metres</source>
+        <translation>Schreibt alles in eine Tabelle, in Metern</translation>
     </message>
     <message>
         <source>&amp;Export ...</source>
@@ -3430,8 +3422,8 @@ durch Picks belegt</translation>
         <translation>B&amp;ild speichern ...</translation>
     </message>
     <message>
-        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
-        <translation>Speichert Tiefen und Geschwindigkeiten aller Schichten und Methoden an den Geophonen als CSV</translation>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV, in metres</source>
+        <translation>Speichert Tiefen und Geschwindigkeiten aller Schichten und Methoden an den Geophonen als CSV, in Metern</translation>
     </message>
     <message>
         <source>Save &amp;table ...</source>
@@ -8698,10 +8690,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>ms</translation>
     </message>
     <message>
-        <source>m</source>
-        <translation>m</translation>
-    </message>
-    <message>
         <source>Nothing was read.</source>
         <translation>Es wurde nichts gelesen.</translation>
     </message>
@@ -9270,9 +9258,9 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Alle Schüsse</translation>
     </message>
     <message>
-        <source>%1: at %2 m</source>
+        <source>%1: at %2</source>
         <comment>shot number, place</comment>
-        <translation>%1: bei %2 m</translation>
+        <translation>%1: bei %2</translation>
     </message>
     <message numerus="yes">
         <source>take %n pick(s) out</source>
@@ -9303,10 +9291,6 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
     <message>
         <source>left of shot %1</source>
         <translation>links von Schuss %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>no velocity</source>
@@ -9377,8 +9361,8 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>andere XY</translation>
     </message>
     <message>
-        <source>XY = %1 m</source>
-        <translation>XY = %1 m</translation>
+        <source>XY = %1</source>
+        <translation>XY = %1</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -9393,8 +9377,8 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>XY, halber Abstand (m):</translation>
     </message>
     <message>
-        <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
-        <translation>Die Hinschusskurve wird XY Meter nach dem Empfänger abgelesen, die Gegenschusskurve XY Meter davor: Die beiden Punkte liegen 2 XY auseinander.</translation>
+        <source>The forward curve is read at the distance XY after the receiver, the reverse curve at XY before it: the two points lie 2 XY apart.</source>
+        <translation>Die Hinschusskurve wird um XY nach dem Empfänger abgelesen, die Gegenschusskurve um XY davor: Die beiden Punkte liegen 2 XY auseinander.</translation>
     </message>
     <message>
         <source>The picks have changed since the profiles were built.</source>
@@ -9456,8 +9440,8 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>Zeiten werden berechnet...</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
-        <translation>%1 bei %2 m</translation>
+        <source>%1 at %2</source>
+        <translation>%1 bei %2</translation>
     </message>
     <message>
         <source>%1: the picks do not tell</source>
@@ -9472,8 +9456,8 @@ Ordnen Sie für je einen Schuss an beiden Enden der Messlinie Picks der Schicht 
         <translation>gleichmäßigste Geschwindigkeit</translation>
     </message>
     <message>
-        <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
-        <translation>%1 m: tV um %2 ms rau, Geschwindigkeit um %3 % ungleichmäßig</translation>
+        <source>%1: tV rough by %2 ms, velocity uneven by %3 %</source>
+        <translation>%1: tV um %2 ms rau, Geschwindigkeit um %3 % ungleichmäßig</translation>
     </message>
     <message>
         <source>Depths and velocities</source>
@@ -9630,32 +9614,32 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Kein teilnehmender Schuss hat Picks der Schicht 2.</translation>
     </message>
     <message>
-        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
-        <translation>An jedem Ende der Messlinie oder jenseits davon muss ein Schuss mit Picks der Schicht 2 liegen. Solche Schüsse reichen von %1 bis %2 m, die Geophone aber von %3 bis %4 m.</translation>
+        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2, but the geophones from %3 to %4.</source>
+        <translation>An jedem Ende der Messlinie oder jenseits davon muss ein Schuss mit Picks der Schicht 2 liegen. Solche Schüsse reichen von %1 bis %2, die Geophone aber von %3 bis %4.</translation>
     </message>
     <message>
         <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
         <translation>Schicht %1: Kein teilnehmender Schuss hat auf einer Seite zwei Picks dieser Schicht, daher hat sie keine Geschwindigkeit, und die Schichten darunter haben keine Tiefe.</translation>
     </message>
     <message>
-        <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
-        <translation>Schicht %1: Ihre Geschwindigkeit ergibt sich außerhalb von 50 bis 12 000 m/s, daher hat sie keine, und die Schichten darunter haben keine Tiefe.</translation>
+        <source>Layer %1: its velocity comes out outside %2 to %3, so it has none and the layers below have no depth.</source>
+        <translation>Schicht %1: Ihre Geschwindigkeit ergibt sich außerhalb von %2 bis %3, daher hat sie keine, und die Schichten darunter haben keine Tiefe.</translation>
     </message>
     <message>
-        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation>Schicht %1: keine Geschwindigkeit und keine Tiefe an %2 von %3 Empfängern, wo sich die Geschwindigkeit außerhalb von 50 bis 12 000 m/s ergibt.</translation>
+        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside %4 to %5.</source>
+        <translation>Schicht %1: keine Geschwindigkeit und keine Tiefe an %2 von %3 Empfängern, wo sich die Geschwindigkeit außerhalb von %4 bis %5 ergibt.</translation>
     </message>
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
         <translation>Schicht %1: keine Tiefe an %2 von %3 Empfängern, wo sie sich größer als die Länge der Messlinie ergibt.</translation>
     </message>
     <message>
-        <source>Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.</source>
-        <translation>Schicht 1 hat im Mittel %1 m/s und an der Oberfläche %2 bis %3 m/s.</translation>
+        <source>Layer 1 has %1 in the mean, and %2 to %3 at the surface.</source>
+        <translation>Schicht 1 hat im Mittel %1 und an der Oberfläche %2 bis %3.</translation>
     </message>
     <message>
-        <source>It grows by %1 % of that per metre, down to %2 m.</source>
-        <translation>Bis %2 m Tiefe nimmt die Geschwindigkeit je Meter um %1 % des Werts an der Oberfläche zu.</translation>
+        <source>It grows by %1 % of that per %2, down to %3.</source>
+        <translation>Bis %3 Tiefe nimmt die Geschwindigkeit je %2 um %1 % des Werts an der Oberfläche zu.</translation>
     </message>
 </context>
 <context>
@@ -10786,8 +10770,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Schuss %1</translation>
     </message>
     <message>
-        <source>Geophone at %1 m</source>
-        <translation>Geophon bei %1 m</translation>
+        <source>Geophone at %1</source>
+        <translation>Geophon bei %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -10842,8 +10826,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Klicken Sie auf einen Pick, oder gehen Sie mit den Pfeiltasten zu ihm.</translation>
     </message>
     <message>
-        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
-        <translation>Schuss %1, Geophon bei %2 m: kein Pick mit berechneter Zeit</translation>
+        <source>Shot %1, geophone at %2: no pick with a computed time</source>
+        <translation>Schuss %1, Geophon bei %2: kein Pick mit berechneter Zeit</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -10996,20 +10980,16 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Kein Test wurde abgeschlossen.</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>The resolution test could not be completed.</source>
         <translation>Der Auflösungstest konnte nicht abgeschlossen werden.</translation>
     </message>
     <message>
-        <source>at %1 m none</source>
-        <translation>in %1 m keine</translation>
+        <source>at %1 none</source>
+        <translation>in %1 keine</translation>
     </message>
     <message>
-        <source>at %1 m depth %2 m</source>
-        <translation>in %1 m Tiefe %2 m</translation>
+        <source>at %1 depth %2</source>
+        <translation>in %1 Tiefe %2</translation>
     </message>
     <message>
         <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
@@ -11027,12 +11007,12 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Geglättet</translation>
     </message>
     <message>
-        <source>%1 rows and %2 columns of %3 m</source>
-        <translation>%1 Zeilen und %2 Spalten zu %3 m</translation>
+        <source>%1 rows and %2 columns of %3</source>
+        <translation>%1 Zeilen und %2 Spalten zu %3</translation>
     </message>
     <message>
-        <source>velocities from %1 to %2 m/s</source>
-        <translation>Geschwindigkeiten von %1 bis %2 m/s</translation>
+        <source>velocities from %1 to %2</source>
+        <translation>Geschwindigkeiten von %1 bis %2</translation>
     </message>
     <message>
         <source>robust</source>
@@ -11336,16 +11316,16 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Picks, die um mehr als %2 ihrer Fehler danebenliegen und auffallen, wo %1 um mehr als fünf danebenliegen; ein Klick zeigt die Spur:</translation>
     </message>
     <message>
-        <source>Cells at the limit of %1 m/s: %2</source>
-        <translation>Zellen an der Grenze von %1 m/s: %2</translation>
+        <source>Cells at the limit of %1: %2</source>
+        <translation>Zellen an der Grenze von %1: %2</translation>
     </message>
     <message>
         <source>Cells shown that no ray crosses: %1 of %2</source>
         <translation>Gezeigte Zellen, die kein Strahl durchquert: %1 von %2</translation>
     </message>
     <message>
-        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
-        <translation>%1 (%2 bis %3 m, Tiefe %4 bis %5 m)</translation>
+        <source>%1 (%2 to %3, depth %4 to %5)</source>
+        <translation>%1 (%2 bis %3, Tiefe %4 bis %5)</translation>
     </message>
     <message>
         <source>seems so: run again with shifts of shots</source>
@@ -11643,8 +11623,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>SX-Datei</translation>
     </message>
     <message>
-        <source>%1 m is too far away.</source>
-        <translation>%1 m ist zu weit entfernt.</translation>
+        <source>%1 is too far away.</source>
+        <translation>%1 ist zu weit entfernt.</translation>
     </message>
     <message>
         <source>There is no string %1.</source>
@@ -11969,8 +11949,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Entfernung des ersten Geophons</translation>
     </message>
     <message>
-        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
-        <translation>Entfernung des ersten vermessenen Geophons in Metern. Leer: wie bisher.</translation>
+        <source>Distance of the first geophone that was surveyed (m). Empty: as it is now.</source>
+        <translation>Entfernung des ersten vermessenen Geophons (m). Leer: wie bisher.</translation>
     </message>
     <message>
         <source>Count from the other &amp;end</source>
@@ -12094,8 +12074,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         </translation>
     </message>
     <message>
-        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
-        <translation>Mit Zeile: %1 von %2 Geophonen, %3 von %4 Schüssen. Die Geophone stehen %5 m (RMS) neben der Messlinie, höchstens %6 m (%7); ihr Abstand ist %8 m.</translation>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 across the line (RMS), at most %6 (%7); their spacing is %8.</source>
+        <translation>Mit Zeile: %1 von %2 Geophonen, %3 von %4 Schüssen. Die Geophone stehen %5 (RMS) neben der Messlinie, höchstens %6 (%7); ihr Abstand ist %8.</translation>
     </message>
     <message>
         <source>No reference system</source>
@@ -13060,10 +13040,6 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>&amp;Titel:</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>%1: %2 at %3</source>
         <comment>shot number, file, place</comment>
         <translation>%1: %2 bei %3</translation>
@@ -13078,8 +13054,8 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Spur %1</translation>
     </message>
     <message>
-        <source>Offset %1 m</source>
-        <translation>Offset %1 m</translation>
+        <source>Offset %1</source>
+        <translation>Offset %1</translation>
     </message>
     <message>
         <source>Time %1 ms</source>
@@ -13154,28 +13130,28 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Keine Zelle des Gitters hat einen anzeigbaren Wert.</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Entfernung %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Entfernung %1</translation>
     </message>
     <message>
-        <source>Elevation %1 m</source>
-        <translation>Höhe %1 m</translation>
+        <source>Elevation %1</source>
+        <translation>Höhe %1</translation>
     </message>
     <message>
-        <source>Depth %1 m</source>
-        <translation>Tiefe %1 m</translation>
+        <source>Depth %1</source>
+        <translation>Tiefe %1</translation>
     </message>
     <message>
-        <source>Velocity %1 m/s</source>
-        <translation>Geschwindigkeit %1 m/s</translation>
+        <source>Velocity %1</source>
+        <translation>Geschwindigkeit %1</translation>
     </message>
     <message>
         <source>Gradient %1 1/s</source>
         <translation>Gradient %1 1/s</translation>
     </message>
     <message>
-        <source>Laplacian %1 1/(m·s)</source>
-        <translation>Laplace %1 1/(m·s)</translation>
+        <source>Laplacian %1 1/(%2·s)</source>
+        <translation>Laplace %1 1/(%2·s)</translation>
     </message>
     <message>
         <source>Information density %1</source>
@@ -14199,8 +14175,8 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>Tiefenbänder</translation>
     </message>
     <message>
-        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
-        <translation>Bis zu %1 &amp;Geschwindigkeiten in m/s; die Tiefen, in denen die mittleren 68 % der Mitglieder sie erreichen, werden als Band gezeichnet. Keine Angabe entfernt die Bänder.</translation>
+        <source>Up to %1 &amp;velocities in %2; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Bis zu %1 &amp;Geschwindigkeiten in %2; die Tiefen, in denen die mittleren 68 % der Mitglieder sie erreichen, werden als Band gezeichnet. Keine Angabe entfernt die Bänder.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no list of velocities.</source>
@@ -15815,12 +15791,12 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Eine große Anzahl von Knoten kann viel Speicher erfordern</translation>
     </message>
     <message>
-        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
-        <translation>So kleine Zellen machen eine Inversion sehr langsam, und sie hält nur zwischen Iterationen an. Ein Viertel des Geophonabstands ist %1 m.</translation>
+        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1.</source>
+        <translation>So kleine Zellen machen eine Inversion sehr langsam, und sie hält nur zwischen Iterationen an. Ein Viertel des Geophonabstands ist %1.</translation>
     </message>
     <message>
-        <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
-        <translation>Ein Viertel des kleinsten Geophonabstands, mindestens 0,1 m. Nicht angekreuzt: die Zellengröße des vorhandenen Gitters, ohne Gitter die kleinste.</translation>
+        <source>A quarter of the smallest geophone spacing, %1 at least. Off: the cell size of the grid that there is, the smallest without one.</source>
+        <translation>Ein Viertel des kleinsten Geophonabstands, mindestens %1. Nicht angekreuzt: die Zellengröße des vorhandenen Gitters, ohne Gitter die kleinste.</translation>
     </message>
     <message>
         <source>Propose</source>
@@ -15833,10 +15809,6 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Lost to an inversion: %1.</source>
         <translation>Bei einer Inversion gehen verloren: %1.</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
@@ -16144,8 +16116,8 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Vorschlagen</translation>
     </message>
     <message>
-        <source>Rays are expected down to %1 m; the grid reaches %2 m.</source>
-        <translation>Strahlen sind bis %1 m Tiefe zu erwarten; das Gitter reicht bis %2 m.</translation>
+        <source>Rays are expected down to %1; the grid reaches %2.</source>
+        <translation>Strahlen sind bis %1 Tiefe zu erwarten; das Gitter reicht bis %2.</translation>
     </message>
     <message>
         <source>The minimum velocity must be below the maximum.</source>
@@ -16159,8 +16131,8 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Modellgeschwindigkeit festlegen</translation>
     </message>
     <message>
-        <source>Depths in metres below the ground, velocities in m/s</source>
-        <translation>Tiefen in Metern unter Gelände, Geschwindigkeiten in m/s</translation>
+        <source>Depths below the ground (m), velocities (m/s)</source>
+        <translation>Tiefen unter Gelände (m), Geschwindigkeiten (m/s)</translation>
     </message>
     <message>
         <source>Layers</source>
@@ -16294,12 +16266,12 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>EPSG-Code des Referenzsystems</translation>
     </message>
     <message>
-        <source>First geophone (at %1 m)</source>
-        <translation>Erstes Geophon (bei %1 m)</translation>
+        <source>First geophone (at %1)</source>
+        <translation>Erstes Geophon (bei %1)</translation>
     </message>
     <message>
-        <source>Last geophone (at %1 m)</source>
-        <translation>Letztes Geophon (bei %1 m)</translation>
+        <source>Last geophone (at %1)</source>
+        <translation>Letztes Geophon (bei %1)</translation>
     </message>
     <message>
         <source>N</source>
@@ -16358,13 +16330,13 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Diese Koordinaten liegen außerhalb des Referenzsystems.</translation>
     </message>
     <message>
-        <source>On the map the two geophones are %1 m apart</source>
-        <translation>Auf der Karte liegen die beiden Geophone %1 m auseinander</translation>
+        <source>On the map the two geophones are %1 apart</source>
+        <translation>Auf der Karte liegen die beiden Geophone %1 auseinander</translation>
     </message>
     <message>
-        <source>%1, along the line %2 m.</source>
+        <source>%1, along the line %2.</source>
         <comment>distance on the map, distance along the line</comment>
-        <translation>%1, entlang der Messlinie %2 m.</translation>
+        <translation>%1, entlang der Messlinie %2.</translation>
     </message>
     <message>
         <source>Check the coordinates.</source>
@@ -16382,32 +16354,32 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
         <translation>Anfangstiefe   </translation>
     </message>
     <message>
-        <source>Depth of the layer&apos;s top below the ground, metres</source>
-        <translation>Tiefe der Schichtoberkante unter Gelände, Meter</translation>
+        <source>Depth of the layer&apos;s top below the ground (m)</source>
+        <translation>Tiefe der Schichtoberkante unter Gelände (m)</translation>
     </message>
     <message>
         <source>    Velocity</source>
         <translation>    Geschwindigkeit</translation>
     </message>
     <message>
-        <source>Velocity at the layer&apos;s top, m/s</source>
-        <translation>Geschwindigkeit an der Schichtoberkante, m/s</translation>
+        <source>Velocity at the layer&apos;s top (m/s)</source>
+        <translation>Geschwindigkeit an der Schichtoberkante (m/s)</translation>
     </message>
     <message>
         <source>Final depth</source>
         <translation>Endtiefe</translation>
     </message>
     <message>
-        <source>Depth of the layer&apos;s bottom below the ground, metres</source>
-        <translation>Tiefe der Schichtunterkante unter Gelände, Meter</translation>
+        <source>Depth of the layer&apos;s bottom below the ground (m)</source>
+        <translation>Tiefe der Schichtunterkante unter Gelände (m)</translation>
     </message>
     <message>
         <source>    Velocity  </source>
         <translation>    Geschwindigkeit  </translation>
     </message>
     <message>
-        <source>Velocity at the layer&apos;s bottom, m/s</source>
-        <translation>Geschwindigkeit an der Schichtunterkante, m/s</translation>
+        <source>Velocity at the layer&apos;s bottom (m/s)</source>
+        <translation>Geschwindigkeit an der Schichtunterkante (m/s)</translation>
     </message>
 </context>
 <context>

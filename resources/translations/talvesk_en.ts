@@ -63,10 +63,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <source>%n position(s) lie beyond its ends, %1 to %2, and got the elevation there.</source>
         <translation>
-            <numerusform>%n position lies beyond its ends, %1 to %2 m, and got the elevation there.</numerusform>
-            <numerusform>%n positions lie beyond its ends, %1 to %2 m, and got the elevation there.</numerusform>
+            <numerusform>%n position lies beyond its ends, %1 to %2, and got the elevation there.</numerusform>
+            <numerusform>%n positions lie beyond its ends, %1 to %2, and got the elevation there.</numerusform>
         </translation>
     </message>
 </context>

@@ -471,10 +471,6 @@
         <translation>&amp;Posición del disparo:</translation>
     </message>
     <message>
-        <source> m</source>
-        <translation> m</translation>
-    </message>
-    <message>
         <source>%1 %</source>
         <comment>share</comment>
         <translation>%1 %</translation>
@@ -484,8 +480,8 @@
         <translation>Ap&amp;licar</translation>
     </message>
     <message>
-        <source>Distance, m</source>
-        <translation>Distancia, m</translation>
+        <source>Distance (m)</source>
+        <translation>Distancia (m)</translation>
     </message>
     <message>
         <source>Time, ms</source>
@@ -868,8 +864,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Guardar &amp;imagen ...</translation>
     </message>
     <message>
-        <source>Save the depths at the geophones as CSV</source>
-        <translation>Guarda las profundidades en los geófonos como CSV</translation>
+        <source>Save the depths at the geophones as CSV, in metres</source>
+        <translation>Guarda las profundidades en los geófonos como CSV, en metros</translation>
     </message>
     <message>
         <source>Save &amp;table ...</source>
@@ -888,8 +884,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Ningún geófono tiene ambas profundidades. Quizá otra velocidad sí se alcance bajo la línea.</translation>
     </message>
     <message>
-        <source>Section less layers: %1 m on average, RMS %2 m, at %3 of %4 geophones.</source>
-        <translation>Sección menos capas: %1 m de media, RMS %2 m, en %3 de %4 geófonos.</translation>
+        <source>Section less layers: %1 on average, RMS %2, at %3 of %4 geophones.</source>
+        <translation>Sección menos capas: %1 de media, RMS %2, en %3 de %4 geófonos.</translation>
     </message>
     <message>
         <source>The others lack a depth.</source>
@@ -1087,16 +1083,16 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Car&amp;gar geometría</translation>
     </message>
     <message>
-        <source>Read x and elevation of the geophones of this string from a text file</source>
-        <translation>Lee x y cota de los geófonos de este tendido de un archivo de texto</translation>
+        <source>Read x and elevation of the geophones of this string from a text file, in metres</source>
+        <translation>Lee x y cota de los geófonos de este tendido de un archivo de texto, en metros</translation>
     </message>
     <message>
         <source>Sa&amp;ve Geometry</source>
         <translation>Guar&amp;dar geometría</translation>
     </message>
     <message>
-        <source>Write x and elevation of the geophones of this string to a text file</source>
-        <translation>Escribe x y cota de los geófonos de este tendido en un archivo de texto</translation>
+        <source>Write x and elevation of the geophones of this string to a text file, in metres</source>
+        <translation>Escribe x y cota de los geófonos de este tendido en un archivo de texto, en metros</translation>
     </message>
     <message>
         <source>Shots</source>
@@ -1135,16 +1131,16 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Car&amp;gar geometría de disparos</translation>
     </message>
     <message>
-        <source>Read x and elevation of all shots from a text file</source>
-        <translation>Lee x y cota de todos los disparos de un archivo de texto</translation>
+        <source>Read x and elevation of all shots from a text file, in metres</source>
+        <translation>Lee x y cota de todos los disparos de un archivo de texto, en metros</translation>
     </message>
     <message>
         <source>Sa&amp;ve Shots Geometry</source>
         <translation>Guar&amp;dar geometría de disparos</translation>
     </message>
     <message>
-        <source>Write x and elevation of all shots to a text file</source>
-        <translation>Escribe x y cota de todos los disparos en un archivo de texto</translation>
+        <source>Write x and elevation of all shots to a text file, in metres</source>
+        <translation>Escribe x y cota de todos los disparos en un archivo de texto, en metros</translation>
     </message>
     <message>
         <source>&amp;To be looked at:</source>
@@ -1178,8 +1174,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         </translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a length in metres.</source>
-        <translation>«%1» no es una longitud en metros.</translation>
+        <source>&quot;%1&quot; is not a length in %2.</source>
+        <translation>«%1» no es una longitud en %2.</translation>
     </message>
     <message>
         <source>They have no geophones then, until another string is added.</source>
@@ -1346,8 +1342,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Cotas de una tabla</translation>
     </message>
     <message>
-        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
-        <translation>Da a todos los geófonos y disparos las cotas de una tabla de distancias y cotas</translation>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations, in metres</source>
+        <translation>Da a todos los geófonos y disparos las cotas de una tabla de distancias y cotas, en metros</translation>
     </message>
     <message>
         <source>&amp;Straight from point to point ...</source>
@@ -1381,10 +1377,10 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <source>%n position(s) lie beyond its ends, %1 to %2, and got the elevation there.</source>
         <translation>
-            <numerusform>%n posición queda más allá de sus extremos, de %1 a %2 m, y ha recibido la cota de allí.</numerusform>
-            <numerusform>%n posiciones quedan más allá de sus extremos, de %1 a %2 m, y han recibido la cota de allí.</numerusform>
+            <numerusform>%n posición queda más allá de sus extremos, de %1 a %2, y ha recibido la cota de allí.</numerusform>
+            <numerusform>%n posiciones quedan más allá de sus extremos, de %1 a %2, y han recibido la cota de allí.</numerusform>
         </translation>
     </message>
 </context>
@@ -1401,10 +1397,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Velocities with blanks between them; each becomes lines through the section</source>
         <translation>Velocidades separadas por espacios; cada una da líneas en la sección</translation>
-    </message>
-    <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
     </message>
     <message>
         <source>&amp;Distance along the line and elevation</source>
@@ -1466,8 +1458,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Despla&amp;zar S:</translation>
     </message>
     <message>
-        <source>Metres added to distances of S</source>
-        <translation>Metros que se suman a las distancias de S</translation>
+        <source>Length added to distances of S</source>
+        <translation>Longitud que se suma a las distancias de S</translation>
     </message>
     <message>
         <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
@@ -2711,8 +2703,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Cota (m)</translation>
     </message>
     <message>
-        <source>%1 m is too far away.</source>
-        <translation>%1 m está demasiado lejos.</translation>
+        <source>%1 is too far away.</source>
+        <translation>%1 está demasiado lejos.</translation>
     </message>
 </context>
 <context>
@@ -3161,8 +3153,8 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>&amp;Sondeos</translation>
     </message>
     <message>
-        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
-        <translation>Cada fila es una capa; las capas con el mismo nombre son de un mismo sondeo, de arriba abajo. Las profundidades son metros bajo la superficie. Sin error, una velocidad se considera conocida al 5 %.</translation>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are counted from the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Cada fila es una capa; las capas con el mismo nombre son de un mismo sondeo, de arriba abajo. Las profundidades se cuentan desde la superficie. Sin error, una velocidad se considera conocida al 5 %.</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -3225,16 +3217,16 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Rehacer</translation>
     </message>
     <message>
-        <source>Read a table in place of all that stands here</source>
-        <translation>Lee una tabla en lugar de todo lo que hay aquí</translation>
+        <source>Read a table in place of all that stands here, in metres</source>
+        <translation>Lee una tabla en lugar de todo lo que hay aquí, en metros</translation>
     </message>
     <message>
         <source>&amp;Import ...</source>
         <translation>&amp;Importar ...</translation>
     </message>
     <message>
-        <source>Write all of it as one table</source>
-        <translation>Lo escribe todo como una sola tabla</translation>
+        <source>Write all of it as one table, in metres</source>
+        <translation>Lo escribe todo como una sola tabla, en metros</translation>
     </message>
     <message>
         <source>&amp;Export ...</source>
@@ -3430,8 +3422,8 @@ respaldo de picados</translation>
         <translation>Guardar ima&amp;gen ...</translation>
     </message>
     <message>
-        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
-        <translation>Guarda como CSV las profundidades y velocidades de todas las capas y métodos en los geófonos</translation>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV, in metres</source>
+        <translation>Guarda como CSV las profundidades y velocidades de todas las capas y métodos en los geófonos, en metros</translation>
     </message>
     <message>
         <source>Save &amp;table ...</source>
@@ -8698,10 +8690,6 @@ Defina la posición de los geófonos
         <translation>ms</translation>
     </message>
     <message>
-        <source>m</source>
-        <translation>m</translation>
-    </message>
-    <message>
         <source>Nothing was read.</source>
         <translation>No se ha leído nada.</translation>
     </message>
@@ -9270,9 +9258,9 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Todos los disparos</translation>
     </message>
     <message>
-        <source>%1: at %2 m</source>
+        <source>%1: at %2</source>
         <comment>shot number, place</comment>
-        <translation>%1: en %2 m</translation>
+        <translation>%1: en %2</translation>
     </message>
     <message numerus="yes">
         <source>take %n pick(s) out</source>
@@ -9303,10 +9291,6 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
     <message>
         <source>left of shot %1</source>
         <translation>a la izquierda del disparo %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>no velocity</source>
@@ -9377,8 +9361,8 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>otros XY</translation>
     </message>
     <message>
-        <source>XY = %1 m</source>
-        <translation>XY = %1 m</translation>
+        <source>XY = %1</source>
+        <translation>XY = %1</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -9393,8 +9377,8 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>XY, mitad de la distancia (m):</translation>
     </message>
     <message>
-        <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
-        <translation>La dromocrona directa se lee XY metros después del receptor y la inversa XY metros antes: los dos puntos distan 2 XY.</translation>
+        <source>The forward curve is read at the distance XY after the receiver, the reverse curve at XY before it: the two points lie 2 XY apart.</source>
+        <translation>La dromocrona directa se lee a la distancia XY después del receptor y la inversa a la distancia XY antes: los dos puntos distan 2 XY.</translation>
     </message>
     <message>
         <source>The picks have changed since the profiles were built.</source>
@@ -9456,8 +9440,8 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>Calculando tiempos...</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
-        <translation>%1 con %2 m</translation>
+        <source>%1 at %2</source>
+        <translation>%1 con %2</translation>
     </message>
     <message>
         <source>%1: the picks do not tell</source>
@@ -9472,8 +9456,8 @@ Asigne a la capa 2 picados de un disparo en cada extremo de la línea y pulse «
         <translation>velocidad más uniforme</translation>
     </message>
     <message>
-        <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
-        <translation>%1 m: rugosidad de tV %2 ms, irregularidad de la velocidad %3 %</translation>
+        <source>%1: tV rough by %2 ms, velocity uneven by %3 %</source>
+        <translation>%1: rugosidad de tV %2 ms, irregularidad de la velocidad %3 %</translation>
     </message>
     <message>
         <source>Depths and velocities</source>
@@ -9630,32 +9614,32 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Ningún disparo participante tiene picados de la capa 2.</translation>
     </message>
     <message>
-        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
-        <translation>En cada extremo de la línea, o más allá, debe haber un disparo con picados de la capa 2. Tales disparos van de %1 a %2 m, pero los geófonos de %3 a %4 m.</translation>
+        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2, but the geophones from %3 to %4.</source>
+        <translation>En cada extremo de la línea, o más allá, debe haber un disparo con picados de la capa 2. Tales disparos van de %1 a %2, pero los geófonos de %3 a %4.</translation>
     </message>
     <message>
         <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
         <translation>Capa %1: ningún disparo participante tiene dos picados de ella a un mismo lado, así que no tiene velocidad y las capas inferiores no tienen profundidad.</translation>
     </message>
     <message>
-        <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
-        <translation>Capa %1: la velocidad calculada queda fuera del rango de 50 a 12&#xa0;000 m/s, así que la capa no tiene velocidad y las capas inferiores no tienen profundidad.</translation>
+        <source>Layer %1: its velocity comes out outside %2 to %3, so it has none and the layers below have no depth.</source>
+        <translation>Capa %1: la velocidad calculada queda fuera del rango de %2 a %3, así que la capa no tiene velocidad y las capas inferiores no tienen profundidad.</translation>
     </message>
     <message>
-        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation>Capa %1: sin velocidad ni profundidad en %2 de %3 receptores, donde la velocidad calculada queda fuera del rango de 50 a 12&#xa0;000 m/s.</translation>
+        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside %4 to %5.</source>
+        <translation>Capa %1: sin velocidad ni profundidad en %2 de %3 receptores, donde la velocidad calculada queda fuera del rango de %4 a %5.</translation>
     </message>
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
         <translation>Capa %1: sin profundidad en %2 de %3 receptores, donde la profundidad calculada supera la longitud de la línea.</translation>
     </message>
     <message>
-        <source>Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.</source>
-        <translation>La capa 1 tiene %1 m/s de media, y de %2 a %3 m/s en superficie.</translation>
+        <source>Layer 1 has %1 in the mean, and %2 to %3 at the surface.</source>
+        <translation>La capa 1 tiene %1 de media, y de %2 a %3 en superficie.</translation>
     </message>
     <message>
-        <source>It grows by %1 % of that per metre, down to %2 m.</source>
-        <translation>Esta última crece un %1 % por metro, hasta %2 m de profundidad.</translation>
+        <source>It grows by %1 % of that per %2, down to %3.</source>
+        <translation>Esta última crece un %1 % por %2, hasta %3 de profundidad.</translation>
     </message>
 </context>
 <context>
@@ -10786,8 +10770,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Disparo %1</translation>
     </message>
     <message>
-        <source>Geophone at %1 m</source>
-        <translation>Geófono en %1 m</translation>
+        <source>Geophone at %1</source>
+        <translation>Geófono en %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -10842,8 +10826,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Haga clic en un picado, o llegue a él con las teclas de flecha.</translation>
     </message>
     <message>
-        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
-        <translation>Disparo %1, geófono en %2 m: ningún picado con tiempo calculado</translation>
+        <source>Shot %1, geophone at %2: no pick with a computed time</source>
+        <translation>Disparo %1, geófono en %2: ningún picado con tiempo calculado</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -10996,20 +10980,16 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>No se ha completado ninguna prueba.</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>The resolution test could not be completed.</source>
         <translation>No se ha podido completar la prueba de resolución.</translation>
     </message>
     <message>
-        <source>at %1 m none</source>
-        <translation>a %1 m, ninguno</translation>
+        <source>at %1 none</source>
+        <translation>a %1, ninguno</translation>
     </message>
     <message>
-        <source>at %1 m depth %2 m</source>
-        <translation>a %1 m de profundidad, %2 m</translation>
+        <source>at %1 depth %2</source>
+        <translation>a %1 de profundidad, %2</translation>
     </message>
     <message>
         <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
@@ -11027,12 +11007,12 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Suavizado</translation>
     </message>
     <message>
-        <source>%1 rows and %2 columns of %3 m</source>
-        <translation>%1 filas y %2 columnas de %3 m</translation>
+        <source>%1 rows and %2 columns of %3</source>
+        <translation>%1 filas y %2 columnas de %3</translation>
     </message>
     <message>
-        <source>velocities from %1 to %2 m/s</source>
-        <translation>velocidades de %1 a %2 m/s</translation>
+        <source>velocities from %1 to %2</source>
+        <translation>velocidades de %1 a %2</translation>
     </message>
     <message>
         <source>robust</source>
@@ -11336,16 +11316,16 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Picados que se desvían más de %2 veces su error y destacan donde %1 se desvían más de cinco; un clic muestra la traza:</translation>
     </message>
     <message>
-        <source>Cells at the limit of %1 m/s: %2</source>
-        <translation>Celdas en el límite de %1 m/s: %2</translation>
+        <source>Cells at the limit of %1: %2</source>
+        <translation>Celdas en el límite de %1: %2</translation>
     </message>
     <message>
         <source>Cells shown that no ray crosses: %1 of %2</source>
         <translation>Celdas mostradas que no cruza ningún rayo: %1 de %2</translation>
     </message>
     <message>
-        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
-        <translation>%1 (de %2 a %3 m, profundidad de %4 a %5 m)</translation>
+        <source>%1 (%2 to %3, depth %4 to %5)</source>
+        <translation>%1 (de %2 a %3, profundidad de %4 a %5)</translation>
     </message>
     <message>
         <source>seems so: run again with shifts of shots</source>
@@ -11643,8 +11623,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Archivo SX</translation>
     </message>
     <message>
-        <source>%1 m is too far away.</source>
-        <translation>%1 m está demasiado lejos.</translation>
+        <source>%1 is too far away.</source>
+        <translation>%1 está demasiado lejos.</translation>
     </message>
     <message>
         <source>There is no string %1.</source>
@@ -11969,8 +11949,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Distancia del primer geófono</translation>
     </message>
     <message>
-        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
-        <translation>Distancia del primer geófono con coordenadas medidas, en metros. Vacío: como está ahora.</translation>
+        <source>Distance of the first geophone that was surveyed (m). Empty: as it is now.</source>
+        <translation>Distancia del primer geófono con coordenadas medidas (m). Vacío: como está ahora.</translation>
     </message>
     <message>
         <source>Count from the other &amp;end</source>
@@ -12094,8 +12074,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         </translation>
     </message>
     <message>
-        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
-        <translation>Con fila: %1 de %2 geófonos, %3 de %4 disparos. Los geófonos se desvían %5 m de la línea (RMS), como máximo %6 m (%7); su separación es de %8 m.</translation>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 across the line (RMS), at most %6 (%7); their spacing is %8.</source>
+        <translation>Con fila: %1 de %2 geófonos, %3 de %4 disparos. Los geófonos se desvían %5 de la línea (RMS), como máximo %6 (%7); su separación es de %8.</translation>
     </message>
     <message>
         <source>No reference system</source>
@@ -13060,10 +13040,6 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>&amp;Título:</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>%1: %2 at %3</source>
         <comment>shot number, file, place</comment>
         <translation>%1: %2 en %3</translation>
@@ -13078,8 +13054,8 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Traza %1</translation>
     </message>
     <message>
-        <source>Offset %1 m</source>
-        <translation>Distancia al disparo %1 m</translation>
+        <source>Offset %1</source>
+        <translation>Distancia al disparo %1</translation>
     </message>
     <message>
         <source>Time %1 ms</source>
@@ -13154,28 +13130,28 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Ninguna celda de la malla tiene un valor que mostrar.</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distancia %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distancia %1</translation>
     </message>
     <message>
-        <source>Elevation %1 m</source>
-        <translation>Cota %1 m</translation>
+        <source>Elevation %1</source>
+        <translation>Cota %1</translation>
     </message>
     <message>
-        <source>Depth %1 m</source>
-        <translation>Profundidad %1 m</translation>
+        <source>Depth %1</source>
+        <translation>Profundidad %1</translation>
     </message>
     <message>
-        <source>Velocity %1 m/s</source>
-        <translation>Velocidad %1 m/s</translation>
+        <source>Velocity %1</source>
+        <translation>Velocidad %1</translation>
     </message>
     <message>
         <source>Gradient %1 1/s</source>
         <translation>Gradiente %1 1/s</translation>
     </message>
     <message>
-        <source>Laplacian %1 1/(m·s)</source>
-        <translation>Laplaciano %1 1/(m·s)</translation>
+        <source>Laplacian %1 1/(%2·s)</source>
+        <translation>Laplaciano %1 1/(%2·s)</translation>
     </message>
     <message>
         <source>Information density %1</source>
@@ -14199,8 +14175,8 @@ Do you want to run refraction processing anyway? </source>
         <translation>Bandas de profundidad</translation>
     </message>
     <message>
-        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
-        <translation>Hasta %1 &amp;velocidades en m/s; las profundidades a las que las alcanza el 68 % central de los miembros se dibujan como banda. Sin ninguna se quitan las bandas.</translation>
+        <source>Up to %1 &amp;velocities in %2; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Hasta %1 &amp;velocidades en %2; las profundidades a las que las alcanza el 68 % central de los miembros se dibujan como banda. Sin ninguna se quitan las bandas.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no list of velocities.</source>
@@ -15815,12 +15791,12 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Un número elevado de nodos puede requerir mucha memoria</translation>
     </message>
     <message>
-        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
-        <translation>Celdas tan pequeñas hacen muy lenta la inversión, que solo se detiene entre iteraciones. Un cuarto de la separación entre geófonos es %1 m.</translation>
+        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1.</source>
+        <translation>Celdas tan pequeñas hacen muy lenta la inversión, que solo se detiene entre iteraciones. Un cuarto de la separación entre geófonos es %1.</translation>
     </message>
     <message>
-        <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
-        <translation>Un cuarto de la menor separación entre geófonos, 0,1 m como mínimo. Sin marcar: el tamaño de celda de la malla existente, o el menor si no hay malla.</translation>
+        <source>A quarter of the smallest geophone spacing, %1 at least. Off: the cell size of the grid that there is, the smallest without one.</source>
+        <translation>Un cuarto de la menor separación entre geófonos, %1 como mínimo. Sin marcar: el tamaño de celda de la malla existente, o el menor si no hay malla.</translation>
     </message>
     <message>
         <source>Propose</source>
@@ -15833,10 +15809,6 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Lost to an inversion: %1.</source>
         <translation>Se pierden para la inversión: %1.</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
@@ -16144,8 +16116,8 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Proponer</translation>
     </message>
     <message>
-        <source>Rays are expected down to %1 m; the grid reaches %2 m.</source>
-        <translation>Se esperan rayos hasta %1 m de profundidad; la malla llega a %2 m.</translation>
+        <source>Rays are expected down to %1; the grid reaches %2.</source>
+        <translation>Se esperan rayos hasta %1 de profundidad; la malla llega a %2.</translation>
     </message>
     <message>
         <source>The minimum velocity must be below the maximum.</source>
@@ -16159,8 +16131,8 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Definir modelo de velocidad</translation>
     </message>
     <message>
-        <source>Depths in metres below the ground, velocities in m/s</source>
-        <translation>Profundidades en metros bajo el terreno, velocidades en m/s</translation>
+        <source>Depths below the ground (m), velocities (m/s)</source>
+        <translation>Profundidades bajo el terreno (m), velocidades (m/s)</translation>
     </message>
     <message>
         <source>Layers</source>
@@ -16294,12 +16266,12 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Código EPSG del sistema de referencia</translation>
     </message>
     <message>
-        <source>First geophone (at %1 m)</source>
-        <translation>Primer geófono (en %1 m)</translation>
+        <source>First geophone (at %1)</source>
+        <translation>Primer geófono (en %1)</translation>
     </message>
     <message>
-        <source>Last geophone (at %1 m)</source>
-        <translation>Último geófono (en %1 m)</translation>
+        <source>Last geophone (at %1)</source>
+        <translation>Último geófono (en %1)</translation>
     </message>
     <message>
         <source>N</source>
@@ -16358,13 +16330,13 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Estas coordenadas quedan fuera del sistema de referencia.</translation>
     </message>
     <message>
-        <source>On the map the two geophones are %1 m apart</source>
-        <translation>En el mapa los dos geófonos distan %1 m</translation>
+        <source>On the map the two geophones are %1 apart</source>
+        <translation>En el mapa los dos geófonos distan %1</translation>
     </message>
     <message>
-        <source>%1, along the line %2 m.</source>
+        <source>%1, along the line %2.</source>
         <comment>distance on the map, distance along the line</comment>
-        <translation>%1; a lo largo de la línea, %2 m.</translation>
+        <translation>%1; a lo largo de la línea, %2.</translation>
     </message>
     <message>
         <source>Check the coordinates.</source>
@@ -16382,32 +16354,32 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
         <translation>Profundidad inicial   </translation>
     </message>
     <message>
-        <source>Depth of the layer&apos;s top below the ground, metres</source>
-        <translation>Profundidad del techo de la capa bajo el terreno, en metros</translation>
+        <source>Depth of the layer&apos;s top below the ground (m)</source>
+        <translation>Profundidad del techo de la capa bajo el terreno (m)</translation>
     </message>
     <message>
         <source>    Velocity</source>
         <translation>    Velocidad</translation>
     </message>
     <message>
-        <source>Velocity at the layer&apos;s top, m/s</source>
-        <translation>Velocidad en el techo de la capa, m/s</translation>
+        <source>Velocity at the layer&apos;s top (m/s)</source>
+        <translation>Velocidad en el techo de la capa (m/s)</translation>
     </message>
     <message>
         <source>Final depth</source>
         <translation>Profundidad final</translation>
     </message>
     <message>
-        <source>Depth of the layer&apos;s bottom below the ground, metres</source>
-        <translation>Profundidad de la base de la capa bajo el terreno, en metros</translation>
+        <source>Depth of the layer&apos;s bottom below the ground (m)</source>
+        <translation>Profundidad de la base de la capa bajo el terreno (m)</translation>
     </message>
     <message>
         <source>    Velocity  </source>
         <translation>    Velocidad  </translation>
     </message>
     <message>
-        <source>Velocity at the layer&apos;s bottom, m/s</source>
-        <translation>Velocidad en la base de la capa, m/s</translation>
+        <source>Velocity at the layer&apos;s bottom (m/s)</source>
+        <translation>Velocidad en la base de la capa (m/s)</translation>
     </message>
 </context>
 <context>

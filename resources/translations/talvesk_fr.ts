@@ -471,10 +471,6 @@
         <translation>&amp;Position du tir&#xa0;:</translation>
     </message>
     <message>
-        <source> m</source>
-        <translation> m</translation>
-    </message>
-    <message>
         <source>%1 %</source>
         <comment>share</comment>
         <translation>%1&#xa0;%</translation>
@@ -484,8 +480,8 @@
         <translation>Appli&amp;quer</translation>
     </message>
     <message>
-        <source>Distance, m</source>
-        <translation>Distance, m</translation>
+        <source>Distance (m)</source>
+        <translation>Distance (m)</translation>
     </message>
     <message>
         <source>Time, ms</source>
@@ -868,8 +864,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Enregistrer l&apos;&amp;image ...</translation>
     </message>
     <message>
-        <source>Save the depths at the geophones as CSV</source>
-        <translation>Enregistrer les profondeurs aux géophones en CSV</translation>
+        <source>Save the depths at the geophones as CSV, in metres</source>
+        <translation>Enregistrer les profondeurs aux géophones en CSV, en mètres</translation>
     </message>
     <message>
         <source>Save &amp;table ...</source>
@@ -888,8 +884,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Aucun géophone n&apos;a les deux profondeurs. Une autre vitesse est peut-être atteinte sous la ligne.</translation>
     </message>
     <message>
-        <source>Section less layers: %1 m on average, RMS %2 m, at %3 of %4 geophones.</source>
-        <translation>Coupe moins couches&#xa0;: %1 m en moyenne, RMS %2 m, à %3 géophones sur %4.</translation>
+        <source>Section less layers: %1 on average, RMS %2, at %3 of %4 geophones.</source>
+        <translation>Coupe moins couches&#xa0;: %1 en moyenne, RMS %2, à %3 géophones sur %4.</translation>
     </message>
     <message>
         <source>The others lack a depth.</source>
@@ -1087,16 +1083,16 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Char&amp;ger la géométrie</translation>
     </message>
     <message>
-        <source>Read x and elevation of the geophones of this string from a text file</source>
-        <translation>Lire x et l&apos;altitude des géophones de ce dispositif dans un fichier texte</translation>
+        <source>Read x and elevation of the geophones of this string from a text file, in metres</source>
+        <translation>Lire x et l&apos;altitude des géophones de ce dispositif dans un fichier texte, en mètres</translation>
     </message>
     <message>
         <source>Sa&amp;ve Geometry</source>
         <translation>Enregist&amp;rer la géométrie</translation>
     </message>
     <message>
-        <source>Write x and elevation of the geophones of this string to a text file</source>
-        <translation>Écrire x et l&apos;altitude des géophones de ce dispositif dans un fichier texte</translation>
+        <source>Write x and elevation of the geophones of this string to a text file, in metres</source>
+        <translation>Écrire x et l&apos;altitude des géophones de ce dispositif dans un fichier texte, en mètres</translation>
     </message>
     <message>
         <source>Shots</source>
@@ -1135,16 +1131,16 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Char&amp;ger la géométrie des tirs</translation>
     </message>
     <message>
-        <source>Read x and elevation of all shots from a text file</source>
-        <translation>Lire x et l&apos;altitude de tous les tirs dans un fichier texte</translation>
+        <source>Read x and elevation of all shots from a text file, in metres</source>
+        <translation>Lire x et l&apos;altitude de tous les tirs dans un fichier texte, en mètres</translation>
     </message>
     <message>
         <source>Sa&amp;ve Shots Geometry</source>
         <translation>Enregist&amp;rer la géométrie des tirs</translation>
     </message>
     <message>
-        <source>Write x and elevation of all shots to a text file</source>
-        <translation>Écrire x et l&apos;altitude de tous les tirs dans un fichier texte</translation>
+        <source>Write x and elevation of all shots to a text file, in metres</source>
+        <translation>Écrire x et l&apos;altitude de tous les tirs dans un fichier texte, en mètres</translation>
     </message>
     <message>
         <source>&amp;To be looked at:</source>
@@ -1178,8 +1174,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         </translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a length in metres.</source>
-        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une longueur en mètres.</translation>
+        <source>&quot;%1&quot; is not a length in %2.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une longueur en %2.</translation>
     </message>
     <message>
         <source>They have no geophones then, until another string is added.</source>
@@ -1346,8 +1342,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Altitudes depuis un tableau</translation>
     </message>
     <message>
-        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
-        <translation>Donner à tous les géophones et à tous les tirs les altitudes d&apos;un tableau de distances et d&apos;altitudes</translation>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations, in metres</source>
+        <translation>Donner à tous les géophones et à tous les tirs les altitudes d&apos;un tableau de distances et d&apos;altitudes, en mètres</translation>
     </message>
     <message>
         <source>&amp;Straight from point to point ...</source>
@@ -1381,10 +1377,10 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <source>%n position(s) lie beyond its ends, %1 to %2, and got the elevation there.</source>
         <translation>
-            <numerusform>%n position se trouve au-delà de ses extrémités, %1 à %2 m, et a reçu l&apos;altitude de l&apos;extrémité.</numerusform>
-            <numerusform>%n positions se trouvent au-delà de ses extrémités, %1 à %2 m, et ont reçu l&apos;altitude de l&apos;extrémité.</numerusform>
+            <numerusform>%n position se trouve au-delà de ses extrémités, %1 à %2, et a reçu l&apos;altitude de l&apos;extrémité.</numerusform>
+            <numerusform>%n positions se trouvent au-delà de ses extrémités, %1 à %2, et ont reçu l&apos;altitude de l&apos;extrémité.</numerusform>
         </translation>
     </message>
 </context>
@@ -1401,10 +1397,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Velocities with blanks between them; each becomes lines through the section</source>
         <translation>Vitesses séparées par des espaces&#xa0;; chacune devient des lignes à travers la coupe</translation>
-    </message>
-    <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
     </message>
     <message>
         <source>&amp;Distance along the line and elevation</source>
@@ -1466,8 +1458,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>&amp;Décaler S de&#xa0;:</translation>
     </message>
     <message>
-        <source>Metres added to distances of S</source>
-        <translation>Mètres ajoutés aux distances de S</translation>
+        <source>Length added to distances of S</source>
+        <translation>Longueur ajoutée aux distances de S</translation>
     </message>
     <message>
         <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
@@ -2711,8 +2703,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Altitude (m)</translation>
     </message>
     <message>
-        <source>%1 m is too far away.</source>
-        <translation>%1 m est trop loin.</translation>
+        <source>%1 is too far away.</source>
+        <translation>%1 est trop loin.</translation>
     </message>
 </context>
 <context>
@@ -3161,8 +3153,8 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>&amp;Forages</translation>
     </message>
     <message>
-        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
-        <translation>Une ligne est une couche&#xa0;; les couches de même nom sont d&apos;un même forage, de haut en bas. Les profondeurs sont en mètres sous la surface. Sans erreur, une vitesse est supposée connue à 5&#xa0;% près.</translation>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are counted from the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Une ligne est une couche&#xa0;; les couches de même nom sont d&apos;un même forage, de haut en bas. Les profondeurs sont comptées depuis la surface. Sans erreur, une vitesse est supposée connue à 5&#xa0;% près.</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -3225,16 +3217,16 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Refaire</translation>
     </message>
     <message>
-        <source>Read a table in place of all that stands here</source>
-        <translation>Lire un tableau à la place de tout ce qui figure ici</translation>
+        <source>Read a table in place of all that stands here, in metres</source>
+        <translation>Lire un tableau à la place de tout ce qui figure ici, en mètres</translation>
     </message>
     <message>
         <source>&amp;Import ...</source>
         <translation>&amp;Importer ...</translation>
     </message>
     <message>
-        <source>Write all of it as one table</source>
-        <translation>Écrire le tout dans un seul tableau</translation>
+        <source>Write all of it as one table, in metres</source>
+        <translation>Écrire le tout dans un seul tableau, en mètres</translation>
     </message>
     <message>
         <source>&amp;Export ...</source>
@@ -3430,8 +3422,8 @@ de pointés</translation>
         <translation>Enregistrer l&apos;&amp;image ...</translation>
     </message>
     <message>
-        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
-        <translation>Enregistrer en CSV les profondeurs et vitesses de toutes les couches et méthodes aux géophones</translation>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV, in metres</source>
+        <translation>Enregistrer en CSV les profondeurs et vitesses de toutes les couches et méthodes aux géophones, en mètres</translation>
     </message>
     <message>
         <source>Save &amp;table ...</source>
@@ -8698,10 +8690,6 @@ Veuillez définir la position des géophones
         <translation>ms</translation>
     </message>
     <message>
-        <source>m</source>
-        <translation>m</translation>
-    </message>
-    <message>
         <source>Nothing was read.</source>
         <translation>Rien n&apos;a été lu.</translation>
     </message>
@@ -9270,9 +9258,9 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Tous les tirs</translation>
     </message>
     <message>
-        <source>%1: at %2 m</source>
+        <source>%1: at %2</source>
         <comment>shot number, place</comment>
-        <translation>%1&#xa0;: à %2 m</translation>
+        <translation>%1&#xa0;: à %2</translation>
     </message>
     <message numerus="yes">
         <source>take %n pick(s) out</source>
@@ -9303,10 +9291,6 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
     <message>
         <source>left of shot %1</source>
         <translation>à gauche du tir %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>no velocity</source>
@@ -9377,8 +9361,8 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>autres XY</translation>
     </message>
     <message>
-        <source>XY = %1 m</source>
-        <translation>XY = %1 m</translation>
+        <source>XY = %1</source>
+        <translation>XY = %1</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -9393,8 +9377,8 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>XY, demi-distance (m)&#xa0;:</translation>
     </message>
     <message>
-        <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
-        <translation>La courbe directe est lue XY mètres après le récepteur, la courbe inverse XY mètres avant&#xa0;: les deux points sont distants de 2 XY.</translation>
+        <source>The forward curve is read at the distance XY after the receiver, the reverse curve at XY before it: the two points lie 2 XY apart.</source>
+        <translation>La courbe directe est lue à la distance XY après le récepteur, la courbe inverse à la distance XY avant&#xa0;: les deux points sont distants de 2 XY.</translation>
     </message>
     <message>
         <source>The picks have changed since the profiles were built.</source>
@@ -9456,8 +9440,8 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>Calcul des temps...</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
-        <translation>%1 à %2 m</translation>
+        <source>%1 at %2</source>
+        <translation>%1 à %2</translation>
     </message>
     <message>
         <source>%1: the picks do not tell</source>
@@ -9472,8 +9456,8 @@ Attribuez à la couche 2 les pointés d&apos;un tir à chaque extrémité de la 
         <translation>vitesse la plus régulière</translation>
     </message>
     <message>
-        <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
-        <translation>%1 m&#xa0;: rugosité de tV %2 ms, irrégularité de la vitesse %3&#xa0;%</translation>
+        <source>%1: tV rough by %2 ms, velocity uneven by %3 %</source>
+        <translation>%1&#xa0;: rugosité de tV %2 ms, irrégularité de la vitesse %3&#xa0;%</translation>
     </message>
     <message>
         <source>Depths and velocities</source>
@@ -9630,32 +9614,32 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Aucun tir participant n&apos;a de pointés de la couche 2.</translation>
     </message>
     <message>
-        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
-        <translation>À chaque extrémité de la ligne, ou au-delà, il faut un tir avec des pointés de la couche 2. De tels tirs vont de %1 à %2 m, mais les géophones de %3 à %4 m.</translation>
+        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2, but the geophones from %3 to %4.</source>
+        <translation>À chaque extrémité de la ligne, ou au-delà, il faut un tir avec des pointés de la couche 2. De tels tirs vont de %1 à %2, mais les géophones de %3 à %4.</translation>
     </message>
     <message>
         <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
         <translation>Couche %1&#xa0;: aucun tir participant n&apos;a deux pointés dans cette couche d&apos;un même côté&#xa0;; elle n&apos;a donc pas de vitesse et les couches inférieures n&apos;ont pas de profondeur.</translation>
     </message>
     <message>
-        <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
-        <translation>Couche %1&#xa0;: la vitesse calculée est hors de la plage de 50 à 12&#xa0;000 m/s&#xa0;; la couche n&apos;en a donc pas et les couches inférieures n&apos;ont pas de profondeur.</translation>
+        <source>Layer %1: its velocity comes out outside %2 to %3, so it has none and the layers below have no depth.</source>
+        <translation>Couche %1&#xa0;: la vitesse calculée est hors de la plage de %2 à %3&#xa0;; la couche n&apos;en a donc pas et les couches inférieures n&apos;ont pas de profondeur.</translation>
     </message>
     <message>
-        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation>Couche %1&#xa0;: ni vitesse ni profondeur à %2 des %3 récepteurs, où la vitesse calculée est hors de la plage de 50 à 12&#xa0;000 m/s.</translation>
+        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside %4 to %5.</source>
+        <translation>Couche %1&#xa0;: ni vitesse ni profondeur à %2 des %3 récepteurs, où la vitesse calculée est hors de la plage de %4 à %5.</translation>
     </message>
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
         <translation>Couche %1&#xa0;: aucune profondeur à %2 des %3 récepteurs, où la profondeur calculée dépasse la longueur de la ligne.</translation>
     </message>
     <message>
-        <source>Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.</source>
-        <translation>La couche 1 a %1 m/s en moyenne, et de %2 à %3 m/s en surface.</translation>
+        <source>Layer 1 has %1 in the mean, and %2 to %3 at the surface.</source>
+        <translation>La couche 1 a %1 en moyenne, et de %2 à %3 en surface.</translation>
     </message>
     <message>
-        <source>It grows by %1 % of that per metre, down to %2 m.</source>
-        <translation>La vitesse croît de %1&#xa0;% de sa valeur en surface par mètre, jusqu&apos;à %2 m de profondeur.</translation>
+        <source>It grows by %1 % of that per %2, down to %3.</source>
+        <translation>La vitesse croît de %1&#xa0;% de sa valeur en surface par %2, jusqu&apos;à %3 de profondeur.</translation>
     </message>
 </context>
 <context>
@@ -10786,8 +10770,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Tir %1</translation>
     </message>
     <message>
-        <source>Geophone at %1 m</source>
-        <translation>Géophone à %1 m</translation>
+        <source>Geophone at %1</source>
+        <translation>Géophone à %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -10842,8 +10826,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Cliquez sur un pointé, ou allez-y avec les touches fléchées.</translation>
     </message>
     <message>
-        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
-        <translation>Tir %1, géophone à %2 m&#xa0;: aucun pointé avec un temps calculé</translation>
+        <source>Shot %1, geophone at %2: no pick with a computed time</source>
+        <translation>Tir %1, géophone à %2&#xa0;: aucun pointé avec un temps calculé</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -10996,20 +10980,16 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Aucun test n&apos;a été terminé.</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>The resolution test could not be completed.</source>
         <translation>Le test de résolution n&apos;a pas pu être terminé.</translation>
     </message>
     <message>
-        <source>at %1 m none</source>
-        <translation>à %1 m aucune</translation>
+        <source>at %1 none</source>
+        <translation>à %1 aucune</translation>
     </message>
     <message>
-        <source>at %1 m depth %2 m</source>
-        <translation>à %1 m de profondeur %2 m</translation>
+        <source>at %1 depth %2</source>
+        <translation>à %1 de profondeur %2</translation>
     </message>
     <message>
         <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
@@ -11027,12 +11007,12 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Lissé</translation>
     </message>
     <message>
-        <source>%1 rows and %2 columns of %3 m</source>
-        <translation>%1 lignes et %2 colonnes de %3 m</translation>
+        <source>%1 rows and %2 columns of %3</source>
+        <translation>%1 lignes et %2 colonnes de %3</translation>
     </message>
     <message>
-        <source>velocities from %1 to %2 m/s</source>
-        <translation>vitesses de %1 à %2 m/s</translation>
+        <source>velocities from %1 to %2</source>
+        <translation>vitesses de %1 à %2</translation>
     </message>
     <message>
         <source>robust</source>
@@ -11336,16 +11316,16 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Pointés écartés de plus de %2 fois leur erreur, qui sortent du lot là où %1 s&apos;écartent de plus de cinq&#xa0;; un clic montre la trace&#xa0;:</translation>
     </message>
     <message>
-        <source>Cells at the limit of %1 m/s: %2</source>
-        <translation>Cellules à la limite de %1 m/s&#xa0;: %2</translation>
+        <source>Cells at the limit of %1: %2</source>
+        <translation>Cellules à la limite de %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Cells shown that no ray crosses: %1 of %2</source>
         <translation>Cellules affichées qu&apos;aucun rai ne traverse&#xa0;: %1 sur %2</translation>
     </message>
     <message>
-        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
-        <translation>%1 (%2 à %3 m, profondeur %4 à %5 m)</translation>
+        <source>%1 (%2 to %3, depth %4 to %5)</source>
+        <translation>%1 (%2 à %3, profondeur %4 à %5)</translation>
     </message>
     <message>
         <source>seems so: run again with shifts of shots</source>
@@ -11643,8 +11623,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Fichier SX</translation>
     </message>
     <message>
-        <source>%1 m is too far away.</source>
-        <translation>%1 m est trop loin.</translation>
+        <source>%1 is too far away.</source>
+        <translation>%1 est trop loin.</translation>
     </message>
     <message>
         <source>There is no string %1.</source>
@@ -11969,8 +11949,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Distance du premier géophone</translation>
     </message>
     <message>
-        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
-        <translation>Distance du premier géophone levé, en mètres. Vide&#xa0;: celle d&apos;à présent.</translation>
+        <source>Distance of the first geophone that was surveyed (m). Empty: as it is now.</source>
+        <translation>Distance du premier géophone levé (m). Vide&#xa0;: celle d&apos;à présent.</translation>
     </message>
     <message>
         <source>Count from the other &amp;end</source>
@@ -12094,8 +12074,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         </translation>
     </message>
     <message>
-        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
-        <translation>Avec une ligne&#xa0;: %1 géophones sur %2, %3 tirs sur %4. Les géophones sont à %5 m en travers de la ligne (RMS), au plus %6 m (%7)&#xa0;; leur espacement est de %8 m.</translation>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 across the line (RMS), at most %6 (%7); their spacing is %8.</source>
+        <translation>Avec une ligne&#xa0;: %1 géophones sur %2, %3 tirs sur %4. Les géophones sont à %5 en travers de la ligne (RMS), au plus %6 (%7)&#xa0;; leur espacement est de %8.</translation>
     </message>
     <message>
         <source>No reference system</source>
@@ -13060,10 +13040,6 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>&amp;Titre&#xa0;:</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>%1: %2 at %3</source>
         <comment>shot number, file, place</comment>
         <translation>%1&#xa0;: %2 à %3</translation>
@@ -13078,8 +13054,8 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Trace %1</translation>
     </message>
     <message>
-        <source>Offset %1 m</source>
-        <translation>Déport %1 m</translation>
+        <source>Offset %1</source>
+        <translation>Déport %1</translation>
     </message>
     <message>
         <source>Time %1 ms</source>
@@ -13154,28 +13130,28 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Aucune cellule de la grille n&apos;a de valeur à afficher.</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distance %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distance %1</translation>
     </message>
     <message>
-        <source>Elevation %1 m</source>
-        <translation>Altitude %1 m</translation>
+        <source>Elevation %1</source>
+        <translation>Altitude %1</translation>
     </message>
     <message>
-        <source>Depth %1 m</source>
-        <translation>Profondeur %1 m</translation>
+        <source>Depth %1</source>
+        <translation>Profondeur %1</translation>
     </message>
     <message>
-        <source>Velocity %1 m/s</source>
-        <translation>Vitesse %1 m/s</translation>
+        <source>Velocity %1</source>
+        <translation>Vitesse %1</translation>
     </message>
     <message>
         <source>Gradient %1 1/s</source>
         <translation>Gradient %1 1/s</translation>
     </message>
     <message>
-        <source>Laplacian %1 1/(m·s)</source>
-        <translation>Laplacien %1 1/(m·s)</translation>
+        <source>Laplacian %1 1/(%2·s)</source>
+        <translation>Laplacien %1 1/(%2·s)</translation>
     </message>
     <message>
         <source>Information density %1</source>
@@ -14199,8 +14175,8 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>Bandes de profondeur</translation>
     </message>
     <message>
-        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
-        <translation>Jusqu&apos;à %1 &amp;vitesses en m/s&#xa0;; les profondeurs où les 68&#xa0;% centraux des membres les atteignent sont dessinées en bande. Une liste vide enlève les bandes.</translation>
+        <source>Up to %1 &amp;velocities in %2; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Jusqu&apos;à %1 &amp;vitesses en %2&#xa0;; les profondeurs où les 68&#xa0;% centraux des membres les atteignent sont dessinées en bande. Une liste vide enlève les bandes.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no list of velocities.</source>
@@ -15815,12 +15791,12 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Un grand nombre de nœuds peut demander beaucoup de mémoire</translation>
     </message>
     <message>
-        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
-        <translation>Des cellules si petites rendent l&apos;inversion très lente, et elle ne s&apos;arrête qu&apos;entre deux itérations. Le quart de l&apos;espacement des géophones est de %1&#xa0;m.</translation>
+        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1.</source>
+        <translation>Des cellules si petites rendent l&apos;inversion très lente, et elle ne s&apos;arrête qu&apos;entre deux itérations. Le quart de l&apos;espacement des géophones est de %1.</translation>
     </message>
     <message>
-        <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
-        <translation>Le quart du plus petit espacement des géophones, 0,1 m au moins. Décochée&#xa0;: la taille des cellules de la grille existante, la plus petite s&apos;il n&apos;y en a pas.</translation>
+        <source>A quarter of the smallest geophone spacing, %1 at least. Off: the cell size of the grid that there is, the smallest without one.</source>
+        <translation>Le quart du plus petit espacement des géophones, %1 au moins. Décochée&#xa0;: la taille des cellules de la grille existante, la plus petite s&apos;il n&apos;y en a pas.</translation>
     </message>
     <message>
         <source>Propose</source>
@@ -15833,10 +15809,6 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Lost to an inversion: %1.</source>
         <translation>Perdus pour une inversion&#xa0;: %1.</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
@@ -16144,8 +16116,8 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Proposer</translation>
     </message>
     <message>
-        <source>Rays are expected down to %1 m; the grid reaches %2 m.</source>
-        <translation>Des rais sont attendus jusqu&apos;à %1 m de profondeur&#xa0;; la grille descend à %2 m.</translation>
+        <source>Rays are expected down to %1; the grid reaches %2.</source>
+        <translation>Des rais sont attendus jusqu&apos;à %1 de profondeur&#xa0;; la grille descend à %2.</translation>
     </message>
     <message>
         <source>The minimum velocity must be below the maximum.</source>
@@ -16159,8 +16131,8 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Définir le modèle de vitesse</translation>
     </message>
     <message>
-        <source>Depths in metres below the ground, velocities in m/s</source>
-        <translation>Profondeurs sous le sol en mètres, vitesses en m/s</translation>
+        <source>Depths below the ground (m), velocities (m/s)</source>
+        <translation>Profondeurs sous le sol (m), vitesses (m/s)</translation>
     </message>
     <message>
         <source>Layers</source>
@@ -16294,12 +16266,12 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Code EPSG du système de référence</translation>
     </message>
     <message>
-        <source>First geophone (at %1 m)</source>
-        <translation>Premier géophone (à %1 m)</translation>
+        <source>First geophone (at %1)</source>
+        <translation>Premier géophone (à %1)</translation>
     </message>
     <message>
-        <source>Last geophone (at %1 m)</source>
-        <translation>Dernier géophone (à %1 m)</translation>
+        <source>Last geophone (at %1)</source>
+        <translation>Dernier géophone (à %1)</translation>
     </message>
     <message>
         <source>N</source>
@@ -16358,13 +16330,13 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Ces coordonnées sont en dehors du système de référence.</translation>
     </message>
     <message>
-        <source>On the map the two geophones are %1 m apart</source>
-        <translation>Sur la carte, les deux géophones sont distants de %1 m</translation>
+        <source>On the map the two geophones are %1 apart</source>
+        <translation>Sur la carte, les deux géophones sont distants de %1</translation>
     </message>
     <message>
-        <source>%1, along the line %2 m.</source>
+        <source>%1, along the line %2.</source>
         <comment>distance on the map, distance along the line</comment>
-        <translation>%1, le long de la ligne de %2 m.</translation>
+        <translation>%1, le long de la ligne de %2.</translation>
     </message>
     <message>
         <source>Check the coordinates.</source>
@@ -16382,32 +16354,32 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
         <translation>Profondeur initiale   </translation>
     </message>
     <message>
-        <source>Depth of the layer&apos;s top below the ground, metres</source>
-        <translation>Profondeur du toit de la couche sous le sol, en mètres</translation>
+        <source>Depth of the layer&apos;s top below the ground (m)</source>
+        <translation>Profondeur du toit de la couche sous le sol (m)</translation>
     </message>
     <message>
         <source>    Velocity</source>
         <translation>    Vitesse</translation>
     </message>
     <message>
-        <source>Velocity at the layer&apos;s top, m/s</source>
-        <translation>Vitesse au toit de la couche, m/s</translation>
+        <source>Velocity at the layer&apos;s top (m/s)</source>
+        <translation>Vitesse au toit de la couche (m/s)</translation>
     </message>
     <message>
         <source>Final depth</source>
         <translation>Profondeur finale</translation>
     </message>
     <message>
-        <source>Depth of the layer&apos;s bottom below the ground, metres</source>
-        <translation>Profondeur de la base de la couche sous le sol, en mètres</translation>
+        <source>Depth of the layer&apos;s bottom below the ground (m)</source>
+        <translation>Profondeur de la base de la couche sous le sol (m)</translation>
     </message>
     <message>
         <source>    Velocity  </source>
         <translation>    Vitesse  </translation>
     </message>
     <message>
-        <source>Velocity at the layer&apos;s bottom, m/s</source>
-        <translation>Vitesse à la base de la couche, m/s</translation>
+        <source>Velocity at the layer&apos;s bottom (m/s)</source>
+        <translation>Vitesse à la base de la couche (m/s)</translation>
     </message>
 </context>
 <context>

@@ -471,10 +471,6 @@
         <translation>Il &amp;tiro è a:</translation>
     </message>
     <message>
-        <source> m</source>
-        <translation> m</translation>
-    </message>
-    <message>
         <source>%1 %</source>
         <comment>share</comment>
         <translation>%1 %</translation>
@@ -484,8 +480,8 @@
         <translation>&amp;Esegui</translation>
     </message>
     <message>
-        <source>Distance, m</source>
-        <translation>Distanza, m</translation>
+        <source>Distance (m)</source>
+        <translation>Distanza (m)</translation>
     </message>
     <message>
         <source>Time, ms</source>
@@ -868,8 +864,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Salva &amp;immagine ...</translation>
     </message>
     <message>
-        <source>Save the depths at the geophones as CSV</source>
-        <translation>Salva le profondità ai geofoni come CSV</translation>
+        <source>Save the depths at the geophones as CSV, in metres</source>
+        <translation>Salva le profondità ai geofoni come CSV, in metri</translation>
     </message>
     <message>
         <source>Save &amp;table ...</source>
@@ -888,8 +884,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Nessun geofono ha entrambe le profondità. Sotto la linea potrebbe essere raggiunta un&apos;altra velocità.</translation>
     </message>
     <message>
-        <source>Section less layers: %1 m on average, RMS %2 m, at %3 of %4 geophones.</source>
-        <translation>Sezione meno strati: in media %1 m, RMS %2 m, a %3 geofoni su %4.</translation>
+        <source>Section less layers: %1 on average, RMS %2, at %3 of %4 geophones.</source>
+        <translation>Sezione meno strati: in media %1, RMS %2, a %3 geofoni su %4.</translation>
     </message>
     <message>
         <source>The others lack a depth.</source>
@@ -1087,16 +1083,16 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Carica &amp;geometria</translation>
     </message>
     <message>
-        <source>Read x and elevation of the geophones of this string from a text file</source>
-        <translation>Legge x e quota dei geofoni di questa stesa da un file di testo</translation>
+        <source>Read x and elevation of the geophones of this string from a text file, in metres</source>
+        <translation>Legge x e quota dei geofoni di questa stesa da un file di testo, in metri</translation>
     </message>
     <message>
         <source>Sa&amp;ve Geometry</source>
         <translation>Sal&amp;va geometria</translation>
     </message>
     <message>
-        <source>Write x and elevation of the geophones of this string to a text file</source>
-        <translation>Scrive x e quota dei geofoni di questa stesa in un file di testo</translation>
+        <source>Write x and elevation of the geophones of this string to a text file, in metres</source>
+        <translation>Scrive x e quota dei geofoni di questa stesa in un file di testo, in metri</translation>
     </message>
     <message>
         <source>Shots</source>
@@ -1135,16 +1131,16 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Carica &amp;geometria tiri</translation>
     </message>
     <message>
-        <source>Read x and elevation of all shots from a text file</source>
-        <translation>Legge x e quota di tutti i tiri da un file di testo</translation>
+        <source>Read x and elevation of all shots from a text file, in metres</source>
+        <translation>Legge x e quota di tutti i tiri da un file di testo, in metri</translation>
     </message>
     <message>
         <source>Sa&amp;ve Shots Geometry</source>
         <translation>Sal&amp;va geometria tiri</translation>
     </message>
     <message>
-        <source>Write x and elevation of all shots to a text file</source>
-        <translation>Scrive x e quota di tutti i tiri in un file di testo</translation>
+        <source>Write x and elevation of all shots to a text file, in metres</source>
+        <translation>Scrive x e quota di tutti i tiri in un file di testo, in metri</translation>
     </message>
     <message>
         <source>&amp;To be looked at:</source>
@@ -1178,8 +1174,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         </translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a length in metres.</source>
-        <translation>&quot;%1&quot; non è una lunghezza in metri.</translation>
+        <source>&quot;%1&quot; is not a length in %2.</source>
+        <translation>&quot;%1&quot; non è una lunghezza in %2.</translation>
     </message>
     <message>
         <source>They have no geophones then, until another string is added.</source>
@@ -1346,8 +1342,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Quote da tabella</translation>
     </message>
     <message>
-        <source>Give all geophones and shots the elevations of a table of distances and elevations</source>
-        <translation>Dà a tutti i geofoni e i tiri le quote di una tabella di distanze e quote</translation>
+        <source>Give all geophones and shots the elevations of a table of distances and elevations, in metres</source>
+        <translation>Dà a tutti i geofoni e i tiri le quote di una tabella di distanze e quote, in metri</translation>
     </message>
     <message>
         <source>&amp;Straight from point to point ...</source>
@@ -1381,10 +1377,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n position(s) lie beyond its ends, %1 to %2 m, and got the elevation there.</source>
+        <source>%n position(s) lie beyond its ends, %1 to %2, and got the elevation there.</source>
         <translation>
-            <numerusform>%n posizione è oltre i suoi estremi, da %1 a %2 m, e ha ricevuto la quota dell&apos;estremo.</numerusform>
-            <numerusform>%n posizioni sono oltre i suoi estremi, da %1 a %2 m, e hanno ricevuto la quota dell&apos;estremo.</numerusform>
+            <numerusform>%n posizione è oltre i suoi estremi, da %1 a %2, e ha ricevuto la quota dell&apos;estremo.</numerusform>
+            <numerusform>%n posizioni sono oltre i suoi estremi, da %1 a %2, e hanno ricevuto la quota dell&apos;estremo.</numerusform>
         </translation>
     </message>
 </context>
@@ -1401,10 +1397,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Velocities with blanks between them; each becomes lines through the section</source>
         <translation>Velocità separate da spazi; ciascuna diventa linee attraverso la sezione</translation>
-    </message>
-    <message>
-        <source>m/s</source>
-        <translation>m/s</translation>
     </message>
     <message>
         <source>&amp;Distance along the line and elevation</source>
@@ -1466,8 +1458,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Tras&amp;la S di:</translation>
     </message>
     <message>
-        <source>Metres added to distances of S</source>
-        <translation>Metri aggiunti alle distanze di S</translation>
+        <source>Length added to distances of S</source>
+        <translation>Lunghezza aggiunta alle distanze di S</translation>
     </message>
     <message>
         <source>What is added to the distances of S, whose line begins elsewhere, to have those of P</source>
@@ -2711,8 +2703,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Quota (m)</translation>
     </message>
     <message>
-        <source>%1 m is too far away.</source>
-        <translation>%1 m è troppo lontano.</translation>
+        <source>%1 is too far away.</source>
+        <translation>%1 è troppo lontano.</translation>
     </message>
 </context>
 <context>
@@ -3161,8 +3153,8 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>&amp;Sondaggi</translation>
     </message>
     <message>
-        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are metres below the surface. Without an error a velocity counts as known to 5 %.</source>
-        <translation>Una riga è uno strato; gli strati con lo stesso nome sono di un solo sondaggio, dall&apos;alto in basso. Le profondità sono in metri dal suolo. Senza errore una velocità vale come nota al 5 %.</translation>
+        <source>A row is a layer; layers of one name are of one borehole, from the top down. Depths are counted from the surface. Without an error a velocity counts as known to 5 %.</source>
+        <translation>Una riga è uno strato; gli strati con lo stesso nome sono di un solo sondaggio, dall&apos;alto in basso. Le profondità si contano dal suolo. Senza errore una velocità vale come nota al 5 %.</translation>
     </message>
     <message>
         <source>Boreholes</source>
@@ -3225,16 +3217,16 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Ripeti modifica</translation>
     </message>
     <message>
-        <source>Read a table in place of all that stands here</source>
-        <translation>Legge una tabella al posto di tutto ciò che sta qui</translation>
+        <source>Read a table in place of all that stands here, in metres</source>
+        <translation>Legge una tabella al posto di tutto ciò che sta qui, in metri</translation>
     </message>
     <message>
         <source>&amp;Import ...</source>
         <translation>&amp;Importa ...</translation>
     </message>
     <message>
-        <source>Write all of it as one table</source>
-        <translation>Scrive tutto in un&apos;unica tabella</translation>
+        <source>Write all of it as one table, in metres</source>
+        <translation>Scrive tutto in un&apos;unica tabella, in metri</translation>
     </message>
     <message>
         <source>&amp;Export ...</source>
@@ -3430,8 +3422,8 @@ da arrivi</translation>
         <translation>Salva &amp;immagine ...</translation>
     </message>
     <message>
-        <source>Save depths and velocities of all layers and methods at the geophones as CSV</source>
-        <translation>Salva come CSV profondità e velocità di tutti gli strati e metodi ai geofoni</translation>
+        <source>Save depths and velocities of all layers and methods at the geophones as CSV, in metres</source>
+        <translation>Salva come CSV profondità e velocità di tutti gli strati e metodi ai geofoni, in metri</translation>
     </message>
     <message>
         <source>Save &amp;table ...</source>
@@ -8698,10 +8690,6 @@ Impostare la posizione dei geofoni
         <translation>ms</translation>
     </message>
     <message>
-        <source>m</source>
-        <translation>m</translation>
-    </message>
-    <message>
         <source>Nothing was read.</source>
         <translation>Non è stato letto nulla.</translation>
     </message>
@@ -9270,9 +9258,9 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Tutti i tiri</translation>
     </message>
     <message>
-        <source>%1: at %2 m</source>
+        <source>%1: at %2</source>
         <comment>shot number, place</comment>
-        <translation>%1: a %2 m</translation>
+        <translation>%1: a %2</translation>
     </message>
     <message numerus="yes">
         <source>take %n pick(s) out</source>
@@ -9303,10 +9291,6 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
     <message>
         <source>left of shot %1</source>
         <translation>a sinistra del tiro %1</translation>
-    </message>
-    <message>
-        <source>%1 m/s</source>
-        <translation>%1 m/s</translation>
     </message>
     <message>
         <source>no velocity</source>
@@ -9377,8 +9361,8 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>altri XY</translation>
     </message>
     <message>
-        <source>XY = %1 m</source>
-        <translation>XY = %1 m</translation>
+        <source>XY = %1</source>
+        <translation>XY = %1</translation>
     </message>
     <message>
         <source>Layer %1</source>
@@ -9393,8 +9377,8 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>XY, metà distanza (m):</translation>
     </message>
     <message>
-        <source>The forward curve is read XY metres after the receiver, the reverse curve XY metres before it: the two points lie 2 XY apart.</source>
-        <translation>La dromocrona diretta è letta XY metri dopo il ricevitore, quella inversa XY metri prima: i due punti distano 2 XY.</translation>
+        <source>The forward curve is read at the distance XY after the receiver, the reverse curve at XY before it: the two points lie 2 XY apart.</source>
+        <translation>La dromocrona diretta è letta a distanza XY dopo il ricevitore, quella inversa a distanza XY prima: i due punti distano 2 XY.</translation>
     </message>
     <message>
         <source>The picks have changed since the profiles were built.</source>
@@ -9456,8 +9440,8 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>Calcolo dei tempi...</translation>
     </message>
     <message>
-        <source>%1 at %2 m</source>
-        <translation>%1 a %2 m</translation>
+        <source>%1 at %2</source>
+        <translation>%1 a %2</translation>
     </message>
     <message>
         <source>%1: the picks do not tell</source>
@@ -9472,8 +9456,8 @@ Assegnare allo strato 2 gli arrivi di un tiro a ciascuna estremità della linea,
         <translation>velocità più uniforme</translation>
     </message>
     <message>
-        <source>%1 m: tV rough by %2 ms, velocity uneven by %3 %</source>
-        <translation>%1 m: irregolarità di tV %2 ms, disuniformità della velocità %3 %</translation>
+        <source>%1: tV rough by %2 ms, velocity uneven by %3 %</source>
+        <translation>%1: irregolarità di tV %2 ms, disuniformità della velocità %3 %</translation>
     </message>
     <message>
         <source>Depths and velocities</source>
@@ -9630,32 +9614,32 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Nessun tiro che partecipa ha arrivi dello strato 2.</translation>
     </message>
     <message>
-        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2 m, but the geophones from %3 to %4 m.</source>
-        <translation>A ogni estremo della linea, o oltre, serve un tiro con arrivi dello strato 2. Questi tiri vanno da %1 a %2 m, i geofoni invece da %3 a %4 m.</translation>
+        <source>At each end of the line, or beyond, there must be a shot with picks of layer 2. Such shots reach from %1 to %2, but the geophones from %3 to %4.</source>
+        <translation>A ogni estremo della linea, o oltre, serve un tiro con arrivi dello strato 2. Questi tiri vanno da %1 a %2, i geofoni invece da %3 a %4.</translation>
     </message>
     <message>
         <source>Layer %1: no shot that takes part has two picks of it on one side, so it has no velocity and the layers below have no depth.</source>
         <translation>Strato %1: nessun tiro che partecipa ne ha due arrivi su un lato, quindi non ha velocità e gli strati sottostanti non hanno profondità.</translation>
     </message>
     <message>
-        <source>Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the layers below have no depth.</source>
-        <translation>Strato %1: la sua velocità risulta fuori dall&apos;intervallo da 50 a 12 000 m/s, quindi non ne ha una e gli strati sottostanti non hanno profondità.</translation>
+        <source>Layer %1: its velocity comes out outside %2 to %3, so it has none and the layers below have no depth.</source>
+        <translation>Strato %1: la sua velocità risulta fuori dall&apos;intervallo da %2 a %3, quindi non ne ha una e gli strati sottostanti non hanno profondità.</translation>
     </message>
     <message>
-        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation>Strato %1: nessuna velocità e nessuna profondità in %2 ricevitori su %3, dove la velocità risulta fuori dall&apos;intervallo da 50 a 12 000 m/s.</translation>
+        <source>Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity comes out outside %4 to %5.</source>
+        <translation>Strato %1: nessuna velocità e nessuna profondità in %2 ricevitori su %3, dove la velocità risulta fuori dall&apos;intervallo da %4 a %5.</translation>
     </message>
     <message>
         <source>Layer %1: no depth at %2 of %3 receivers, where it comes out deeper than the line is long.</source>
         <translation>Strato %1: nessuna profondità in %2 ricevitori su %3, dove risulta maggiore della lunghezza della linea.</translation>
     </message>
     <message>
-        <source>Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.</source>
-        <translation>Lo strato 1 ha in media %1 m/s, e da %2 a %3 m/s in superficie.</translation>
+        <source>Layer 1 has %1 in the mean, and %2 to %3 at the surface.</source>
+        <translation>Lo strato 1 ha in media %1, e da %2 a %3 in superficie.</translation>
     </message>
     <message>
-        <source>It grows by %1 % of that per metre, down to %2 m.</source>
-        <translation>La velocità cresce del %1 % di quest&apos;ultimo valore al metro, fino a %2 m di profondità.</translation>
+        <source>It grows by %1 % of that per %2, down to %3.</source>
+        <translation>La velocità cresce del %1 % di quest&apos;ultimo valore per %2, fino a %3 di profondità.</translation>
     </message>
 </context>
 <context>
@@ -10786,8 +10770,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Tiro %1</translation>
     </message>
     <message>
-        <source>Geophone at %1 m</source>
-        <translation>Geofono a %1 m</translation>
+        <source>Geophone at %1</source>
+        <translation>Geofono a %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -10842,8 +10826,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Fai clic su un primo arrivo, o raggiungilo con le frecce.</translation>
     </message>
     <message>
-        <source>Shot %1, geophone at %2 m: no pick with a computed time</source>
-        <translation>Tiro %1, geofono a %2 m: nessun primo arrivo con un tempo calcolato</translation>
+        <source>Shot %1, geophone at %2: no pick with a computed time</source>
+        <translation>Tiro %1, geofono a %2: nessun primo arrivo con un tempo calcolato</translation>
     </message>
     <message>
         <source>%1 ms</source>
@@ -10996,20 +10980,16 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Nessuna prova è stata completata.</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>The resolution test could not be completed.</source>
         <translation>Non è stato possibile completare la prova di risoluzione.</translation>
     </message>
     <message>
-        <source>at %1 m none</source>
-        <translation>a %1 m nessuna</translation>
+        <source>at %1 none</source>
+        <translation>a %1 nessuna</translation>
     </message>
     <message>
-        <source>at %1 m depth %2 m</source>
-        <translation>a %1 m di profondità %2 m</translation>
+        <source>at %1 depth %2</source>
+        <translation>a %1 di profondità %2</translation>
     </message>
     <message>
         <source>Smallest size that is resolved (correlation from %1 on): %2.</source>
@@ -11027,12 +11007,12 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Smussata</translation>
     </message>
     <message>
-        <source>%1 rows and %2 columns of %3 m</source>
-        <translation>%1 righe e %2 colonne di %3 m</translation>
+        <source>%1 rows and %2 columns of %3</source>
+        <translation>%1 righe e %2 colonne di %3</translation>
     </message>
     <message>
-        <source>velocities from %1 to %2 m/s</source>
-        <translation>velocità da %1 a %2 m/s</translation>
+        <source>velocities from %1 to %2</source>
+        <translation>velocità da %1 a %2</translation>
     </message>
     <message>
         <source>robust</source>
@@ -11336,16 +11316,16 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Primi arrivi che scartano di più di %2 volte il loro errore, e sono anomali dove %1 scartano di più di cinque; un clic mostra la traccia:</translation>
     </message>
     <message>
-        <source>Cells at the limit of %1 m/s: %2</source>
-        <translation>Celle al limite di %1 m/s: %2</translation>
+        <source>Cells at the limit of %1: %2</source>
+        <translation>Celle al limite di %1: %2</translation>
     </message>
     <message>
         <source>Cells shown that no ray crosses: %1 of %2</source>
         <translation>Celle mostrate che nessun raggio attraversa: %1 su %2</translation>
     </message>
     <message>
-        <source>%1 (%2 to %3 m, depth %4 to %5 m)</source>
-        <translation>%1 (da %2 a %3 m, profondità da %4 a %5 m)</translation>
+        <source>%1 (%2 to %3, depth %4 to %5)</source>
+        <translation>%1 (da %2 a %3, profondità da %4 a %5)</translation>
     </message>
     <message>
         <source>seems so: run again with shifts of shots</source>
@@ -11643,8 +11623,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>File SX</translation>
     </message>
     <message>
-        <source>%1 m is too far away.</source>
-        <translation>%1 m è troppo lontano.</translation>
+        <source>%1 is too far away.</source>
+        <translation>%1 è troppo lontano.</translation>
     </message>
     <message>
         <source>There is no string %1.</source>
@@ -11969,8 +11949,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Distanza del primo geofono</translation>
     </message>
     <message>
-        <source>Distance of the first geophone that was surveyed, metres. Empty: as it is now.</source>
-        <translation>Distanza del primo geofono rilevato, in metri. Vuoto: come ora.</translation>
+        <source>Distance of the first geophone that was surveyed (m). Empty: as it is now.</source>
+        <translation>Distanza del primo geofono rilevato (m). Vuoto: come ora.</translation>
     </message>
     <message>
         <source>Count from the other &amp;end</source>
@@ -12094,8 +12074,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         </translation>
     </message>
     <message>
-        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line (RMS), at most %6 m (%7); their spacing is %8 m.</source>
-        <translation>Con una riga: %1 geofoni su %2, %3 tiri su %4. I geofoni stanno a %5 m di lato alla linea (RMS), al massimo a %6 m (%7); il loro passo è %8 m.</translation>
+        <source>With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 across the line (RMS), at most %6 (%7); their spacing is %8.</source>
+        <translation>Con una riga: %1 geofoni su %2, %3 tiri su %4. I geofoni stanno a %5 di lato alla linea (RMS), al massimo a %6 (%7); il loro passo è %8.</translation>
     </message>
     <message>
         <source>No reference system</source>
@@ -13060,10 +13040,6 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>&amp;Titolo:</translation>
     </message>
     <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
-    </message>
-    <message>
         <source>%1: %2 at %3</source>
         <comment>shot number, file, place</comment>
         <translation>%1: %2 a %3</translation>
@@ -13078,8 +13054,8 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Traccia %1</translation>
     </message>
     <message>
-        <source>Offset %1 m</source>
-        <translation>Offset %1 m</translation>
+        <source>Offset %1</source>
+        <translation>Offset %1</translation>
     </message>
     <message>
         <source>Time %1 ms</source>
@@ -13154,28 +13130,28 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Nessuna cella della griglia ha un valore da mostrare.</translation>
     </message>
     <message>
-        <source>Distance %1 m</source>
-        <translation>Distanza %1 m</translation>
+        <source>Distance %1</source>
+        <translation>Distanza %1</translation>
     </message>
     <message>
-        <source>Elevation %1 m</source>
-        <translation>Quota %1 m</translation>
+        <source>Elevation %1</source>
+        <translation>Quota %1</translation>
     </message>
     <message>
-        <source>Depth %1 m</source>
-        <translation>Profondità %1 m</translation>
+        <source>Depth %1</source>
+        <translation>Profondità %1</translation>
     </message>
     <message>
-        <source>Velocity %1 m/s</source>
-        <translation>Velocità %1 m/s</translation>
+        <source>Velocity %1</source>
+        <translation>Velocità %1</translation>
     </message>
     <message>
         <source>Gradient %1 1/s</source>
         <translation>Gradiente %1 1/s</translation>
     </message>
     <message>
-        <source>Laplacian %1 1/(m·s)</source>
-        <translation>Laplaciano %1 1/(m·s)</translation>
+        <source>Laplacian %1 1/(%2·s)</source>
+        <translation>Laplaciano %1 1/(%2·s)</translation>
     </message>
     <message>
         <source>Information density %1</source>
@@ -14199,8 +14175,8 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>Fasce di profondità</translation>
     </message>
     <message>
-        <source>Up to %1 &amp;velocities in m/s; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
-        <translation>Fino a %1 &amp;velocità in m/s; le profondità a cui il 68 % centrale dei membri le raggiunge si disegnano come una fascia. Nessuna velocità toglie le fasce.</translation>
+        <source>Up to %1 &amp;velocities in %2; the depths at which the middle 68 % of the members reach them are drawn as a band. None takes the bands away.</source>
+        <translation>Fino a %1 &amp;velocità in %2; le profondità a cui il 68 % centrale dei membri le raggiunge si disegnano come una fascia. Nessuna velocità toglie le fasce.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no list of velocities.</source>
@@ -15815,12 +15791,12 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Un numero elevato di nodi può richiedere molta memoria</translation>
     </message>
     <message>
-        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1 m.</source>
-        <translation>Celle così piccole rendono l&apos;inversione molto lenta, e si ferma solo tra un&apos;iterazione e l&apos;altra. Un quarto della distanza fra i geofoni è %1 m.</translation>
+        <source>Such small cells make an inversion very slow, and it stops only between iterations. A quarter of the geophone spacing is %1.</source>
+        <translation>Celle così piccole rendono l&apos;inversione molto lenta, e si ferma solo tra un&apos;iterazione e l&apos;altra. Un quarto della distanza fra i geofoni è %1.</translation>
     </message>
     <message>
-        <source>A quarter of the smallest geophone spacing, 0.1 m at least. Off: the cell size of the grid that there is, the smallest without one.</source>
-        <translation>Un quarto della distanza più piccola fra i geofoni, almeno 0,1 m. Se non è spuntato: il lato delle celle della griglia esistente, o il più piccolo se non ce n&apos;è una.</translation>
+        <source>A quarter of the smallest geophone spacing, %1 at least. Off: the cell size of the grid that there is, the smallest without one.</source>
+        <translation>Un quarto della distanza più piccola fra i geofoni, almeno %1. Se non è spuntato: il lato delle celle della griglia esistente, o il più piccolo se non ce n&apos;è una.</translation>
     </message>
     <message>
         <source>Propose</source>
@@ -15833,10 +15809,6 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Lost to an inversion: %1.</source>
         <translation>Andranno persi in un&apos;inversione: %1.</translation>
-    </message>
-    <message>
-        <source>%1 m</source>
-        <translation>%1 m</translation>
     </message>
     <message>
         <source>The results of the last inversion will be removed (Undo brings them back).</source>
@@ -16144,8 +16116,8 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Proponi</translation>
     </message>
     <message>
-        <source>Rays are expected down to %1 m; the grid reaches %2 m.</source>
-        <translation>I raggi dovrebbero scendere fino a %1 m; la griglia arriva a %2 m.</translation>
+        <source>Rays are expected down to %1; the grid reaches %2.</source>
+        <translation>I raggi dovrebbero scendere fino a %1; la griglia arriva a %2.</translation>
     </message>
     <message>
         <source>The minimum velocity must be below the maximum.</source>
@@ -16159,8 +16131,8 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Definisci il modello di velocità</translation>
     </message>
     <message>
-        <source>Depths in metres below the ground, velocities in m/s</source>
-        <translation>Profondità dal suolo in metri, velocità in m/s</translation>
+        <source>Depths below the ground (m), velocities (m/s)</source>
+        <translation>Profondità dal suolo (m), velocità (m/s)</translation>
     </message>
     <message>
         <source>Layers</source>
@@ -16294,12 +16266,12 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Codice EPSG del sistema di riferimento</translation>
     </message>
     <message>
-        <source>First geophone (at %1 m)</source>
-        <translation>Primo geofono (a %1 m)</translation>
+        <source>First geophone (at %1)</source>
+        <translation>Primo geofono (a %1)</translation>
     </message>
     <message>
-        <source>Last geophone (at %1 m)</source>
-        <translation>Ultimo geofono (a %1 m)</translation>
+        <source>Last geophone (at %1)</source>
+        <translation>Ultimo geofono (a %1)</translation>
     </message>
     <message>
         <source>N</source>
@@ -16358,13 +16330,13 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Queste coordinate sono fuori dal sistema di riferimento.</translation>
     </message>
     <message>
-        <source>On the map the two geophones are %1 m apart</source>
-        <translation>Sulla carta i due geofoni distano %1 m</translation>
+        <source>On the map the two geophones are %1 apart</source>
+        <translation>Sulla carta i due geofoni distano %1</translation>
     </message>
     <message>
-        <source>%1, along the line %2 m.</source>
+        <source>%1, along the line %2.</source>
         <comment>distance on the map, distance along the line</comment>
-        <translation>%1, lungo la linea %2 m.</translation>
+        <translation>%1, lungo la linea %2.</translation>
     </message>
     <message>
         <source>Check the coordinates.</source>
@@ -16382,32 +16354,32 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
         <translation>Profondità iniziale   </translation>
     </message>
     <message>
-        <source>Depth of the layer&apos;s top below the ground, metres</source>
-        <translation>Profondità del tetto dello strato dal suolo, metri</translation>
+        <source>Depth of the layer&apos;s top below the ground (m)</source>
+        <translation>Profondità del tetto dello strato dal suolo (m)</translation>
     </message>
     <message>
         <source>    Velocity</source>
         <translation>    Velocità</translation>
     </message>
     <message>
-        <source>Velocity at the layer&apos;s top, m/s</source>
-        <translation>Velocità al tetto dello strato, m/s</translation>
+        <source>Velocity at the layer&apos;s top (m/s)</source>
+        <translation>Velocità al tetto dello strato (m/s)</translation>
     </message>
     <message>
         <source>Final depth</source>
         <translation>Profondità finale</translation>
     </message>
     <message>
-        <source>Depth of the layer&apos;s bottom below the ground, metres</source>
-        <translation>Profondità della base dello strato dal suolo, metri</translation>
+        <source>Depth of the layer&apos;s bottom below the ground (m)</source>
+        <translation>Profondità della base dello strato dal suolo (m)</translation>
     </message>
     <message>
         <source>    Velocity  </source>
         <translation>    Velocità  </translation>
     </message>
     <message>
-        <source>Velocity at the layer&apos;s bottom, m/s</source>
-        <translation>Velocità alla base dello strato, m/s</translation>
+        <source>Velocity at the layer&apos;s bottom (m/s)</source>
+        <translation>Velocità alla base dello strato (m/s)</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,9 @@
 #include "app/RunTexts.h"
 
 #include "app/InversionTexts.h"
+#include "app/LengthText.h"
 #include "app/MessageText.h"
+#include "base/LengthUnit.h"
 #include "model/ChiSquare.h"
 #include "model/KeptRuns.h"
 #include "model/TomoDocument.h"
@@ -49,12 +51,14 @@ QString runTime(const KeptRun& run) {
 QString runSettings(const KeptRun& run) {
   const InversionRecord& record = run.record;
   QStringList words;
-  words += RunTexts::tr("%1 rows and %2 columns of %3 m")
+  words += RunTexts::tr("%1 rows and %2 columns of %3")
                .arg(run.size.righe)
                .arg(run.size.col)
-               .arg(number(run.size.aLato));
-  words += RunTexts::tr("velocities from %1 to %2 m/s")
-               .arg(number(record.minVelocity), number(record.maxVelocity));
+               .arg(lengthWithUnit(lengthDigits(run.size.aLato, 6)));
+  words += RunTexts::tr("velocities from %1 to %2")
+               .arg(lengthDigits(record.minVelocity, 6), lengthDigits(record.maxVelocity, 6) +
+                                                             QLatin1Char(' ') +
+                                                             QLatin1String(velocityUnitName()));
   words += RunTexts::tr("errors of %1").arg(runErrors(run));
   if (record.fit) {
     words += RunTexts::tr("from \"%1\"").arg(referenceText(record.fit->reference));

@@ -1,9 +1,10 @@
 #include "app/dialogs/AnnotationsDialog.h"
 
 #include "app/CellWalk.h"
+#include "app/LengthText.h"
 #include "app/MessageText.h"
-#include "app/NumberText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/ColorField.h"
 #include "ui_AnnotationsDialog.h"
 
@@ -40,7 +41,7 @@ QTableWidgetItem* fixedCell(const QString& text) {
 
 /// Metres to the millimetre; nobody draws finer.
 QString shownText(double metres) {
-  return numberText(std::round(1000.0 * metres) / 1000.0);
+  return lengthText(std::round(1000.0 * metres) / 1000.0);
 }
 
 /// The usual colour of a lithology's signs.
@@ -77,6 +78,7 @@ AnnotationsDialog::AnnotationsDialog(const std::vector<Annotation>& items, const
       mMiddle(middle),
       mReach(reach) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   mUi->itemsTable->horizontalHeader()->setSectionResizeMode(kText, QHeaderView::Stretch);
   mUi->pointsTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
@@ -206,8 +208,9 @@ void AnnotationsDialog::takePoint(int row, int column) {
   if (mShowing || item == nullptr) return;
   Point2D& p = item->points[static_cast<std::size_t>(row)];
   double& coordinate = column == 0 ? p.x : p.z;
-  const std::optional<double> typed = numberFrom(mUi->pointsTable->item(row, column)->text());
-  if (typed) coordinate = *typed;
+  const QString text = mUi->pointsTable->item(row, column)->text();
+  const std::optional<double> typed = lengthFrom(text);
+  if (typed && text != shownText(coordinate)) coordinate = *typed;
   // What is no number goes back to what was there.
   const QScopedValueRollback<bool> showing(mShowing, true);
   mUi->pointsTable->item(row, column)->setText(shownText(coordinate));

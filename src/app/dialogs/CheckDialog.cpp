@@ -1,7 +1,10 @@
 #include "app/dialogs/CheckDialog.h"
 
+#include "app/LengthText.h"
 #include "app/MessageText.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/GeometryTexts.h"
+#include "base/LengthUnit.h"
 #include "doctor/FindingTexts.h"
 #include "model/Parameters.h"
 #include "model/SurveyGeometry.h"
@@ -46,6 +49,7 @@ struct Figure {
   QString unit;
   double least;
   double most;
+  bool length = false;  ///< metres, shown in the unit of lengths
 };
 
 /// Milliseconds of the longest record of a shot.
@@ -73,8 +77,13 @@ std::optional<Figure> figureOf(Finding& finding, const TomoDocument& document) {
                     CheckDialog::tr(" ms"), 0.0,           longest};
     case Proposal::Kind::kMoveShot:
       if (proposal.points.empty()) return std::nullopt;
-      return Figure{&proposal.points.front().x, 1.0,        CheckDialog::tr("The shot is &at:"),
-                    CheckDialog::tr(" m"),      -kFarthest, kFarthest};
+      return Figure{&proposal.points.front().x,
+                    shownLength(1.0),
+                    CheckDialog::tr("The shot is &at:"),
+                    QLatin1Char(' ') + QLatin1String(lengthUnitName()),
+                    -shownLength(kFarthest),
+                    shownLength(kFarthest),
+                    true};
     default:
       return std::nullopt;
   }
@@ -119,7 +128,7 @@ CheckDialog::CheckDialog(QWidget* parent)
   mCarryOut->setObjectName(QStringLiteral("carryOutButton"));
   mCarryOut->setDefault(true);
   mUi->buttonBox->button(QDialogButtonBox::Close)->setAutoDefault(false);
-  mUi->evidencePlot->setTexts({}, tr("Distance, m"), tr("Time, ms"));
+  mUi->evidencePlot->setTexts({}, inShownUnits(tr("Distance (m)")), tr("Time, ms"));
   mUi->evidencePlot->setEmptyText(tr("There are no times to draw."));
   connectAll();
 }
@@ -274,7 +283,7 @@ void CheckDialog::alterFigure(double value) {
   Row* row = current();
   const auto figure = row == nullptr ? std::nullopt : figureOf(row->finding, mCheck.document());
   if (!figure) return;
-  *figure->value = value / figure->factor;
+  *figure->value = figure->length ? metresTyped(value) : value / figure->factor;
   const int line = mUi->findingsTable->currentRow();
   mUi->findingsTable->item(line, kProposal)->setText(textOf(describe(*row->finding.proposal)));
   mUi->findingsTable->item(line, kTake)->setCheckState(Qt::Checked);

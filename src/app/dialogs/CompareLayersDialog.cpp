@@ -1,7 +1,9 @@
 #include "app/dialogs/CompareLayersDialog.h"
 
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/FigureSheetWidget.h"
 #include "figures/SectionFigure.h"
@@ -10,7 +12,6 @@
 #include "view/ComparisonLines.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -24,8 +25,8 @@ constexpr double kMostOfScreen = 0.92;
 /// Entries of the choice of signs, in its order.
 enum SignEntry { kVelocity, kGradient };
 
-QString metres(const std::optional<double>& value, const QString& unknown) {
-  return value ? QLocale().toString(*value, 'f', 2) : unknown;
+QString length(const std::optional<double>& value, const QString& unknown) {
+  return value ? lengthNumber(*value, 2) : unknown;
 }
 
 }  // namespace
@@ -40,6 +41,7 @@ CompareLayersDialog::CompareLayersDialog(const TomoDocument& document,
       mLook(look),
       mSheet(new FigureSheetWidget) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mUi->table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
@@ -112,9 +114,9 @@ void CompareLayersDialog::showTable() {
   mUi->table->setRowCount(static_cast<int>(mComparison.points.size()));
   for (std::size_t i = 0; i < mComparison.points.size(); ++i) {
     const ComparedDepth& point = mComparison.points[i];
-    const QStringList cells = {metres(point.x, unknown), metres(point.layers, unknown),
-                               metres(point.section, unknown),
-                               metres(point.difference(), QString())};
+    const QStringList cells = {length(point.x, unknown), length(point.layers, unknown),
+                               length(point.section, unknown),
+                               length(point.difference(), QString())};
     for (int column = 0; column < cells.size(); ++column) {
       auto* cell = new QTableWidgetItem(cells[column]);
       cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -128,12 +130,10 @@ QString CompareLayersDialog::figures() const {
   if (mComparison.count == 0) {
     return tr("No geophone has both depths. Another velocity may be reached below the line.");
   }
-  const QLocale locale;
-  QString text =
-      tr("Section less layers: %1 m on average, RMS %2 m, at %3 of %4 geophones.")
-          .arg(locale.toString(mComparison.mean, 'f', 2), locale.toString(mComparison.rms, 'f', 2))
-          .arg(mComparison.count)
-          .arg(mComparison.points.size());
+  QString text = tr("Section less layers: %1 on average, RMS %2, at %3 of %4 geophones.")
+                     .arg(lengthWithUnit(mComparison.mean, 2), lengthWithUnit(mComparison.rms, 2))
+                     .arg(mComparison.count)
+                     .arg(mComparison.points.size());
   if (mComparison.count < mComparison.points.size()) {
     text += QLatin1Char(' ') + tr("The others lack a depth.");
   }

@@ -1,6 +1,7 @@
 #include "app/dialogs/DepthProfileDialog.h"
 
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "figures/DepthProfileFigure.h"
 #include "ui_DepthProfileDialog.h"
 
@@ -37,6 +38,7 @@ class ProfileSheet : public QWidget {
 DepthProfileDialog::DepthProfileDialog(QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::DepthProfileDialog>()) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   mSheet = new ProfileSheet(*this);
   mSheet->setAccessibleName(tr("Velocity, gradient and certainty against depth"));

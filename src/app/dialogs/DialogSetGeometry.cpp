@@ -1,10 +1,13 @@
 #include "app/dialogs/DialogSetGeometry.h"
 
+#include "app/LengthText.h"
 #include "app/LossQuestion.h"
 #include "app/Messages.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/GeometrySession.h"
 #include "app/dialogs/GeometryTables.h"
 #include "app/dialogs/GeometryTexts.h"
+#include "base/LengthUnit.h"
 #include "model/SurveyFacts.h"
 #include "ui_DialogSetGeometry.h"
 
@@ -20,6 +23,23 @@ namespace {
 /// Share of the screen that the dialog fills at most; its frame needs some too.
 constexpr double kMostOfScreen = 0.92;
 
+constexpr const char* kMetres = "metres";  ///< property of a field: the length that it shows
+
+void showLength(QLineEdit& edit, double metres) {
+  edit.setText(geometryLength(metres));
+  edit.setProperty(kMetres, metres);
+}
+
+/// What was typed, or what is shown still.
+bool readLength(const QLineEdit& edit, double& metres) {
+  double typed = 0.0;
+  if (!readGeometryNumber(edit.text(), typed)) return false;
+  const QVariant shown = edit.property(kMetres);
+  metres =
+      metresTyped(typed, shown.isValid() ? std::make_optional(shown.toDouble()) : std::nullopt);
+  return true;
+}
+
 }  // namespace
 
 DialogSetGeometry::DialogSetGeometry(const TomoDocument& document, SegyState& state,
@@ -34,6 +54,10 @@ DialogSetGeometry::DialogSetGeometry(const TomoDocument& document, SegyState& st
       mGeophones(new GeophoneTable(*mSession, this)),
       mShots(new ShotTable(*mSession, this)) {
   mUi->setupUi(this);
+  showUnits(*this);
+  for (QLineEdit* edit : {mUi->firstEdit, mUi->spacingEdit}) {
+    showLength(*edit, edit->text().toDouble());  // those of the form are metres
+  }
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mUi->splitter->setStretchFactor(0, 2);
   mUi->splitter->setStretchFactor(1, 3);
@@ -172,9 +196,9 @@ void DialogSetGeometry::proposeAutofill() {
   }
   if (count > 0) mUi->countSpin->setValue(static_cast<int>(std::min(count, kMostGeophones)));
   if (string.size() < 2 || !isUsable(string[0]) || !isUsable(string[1])) return;
-  mUi->firstEdit->setText(geometryNumber(string[0].x));
+  showLength(*mUi->firstEdit, string[0].x);
   if (string[1].x != string[0].x) {
-    mUi->spacingEdit->setText(geometryNumber(string[1].x - string[0].x));
+    showLength(*mUi->spacingEdit, string[1].x - string[0].x);
   }
 }
 
@@ -283,10 +307,9 @@ void DialogSetGeometry::autofillString() {
   double spacing = 0.0;
   for (const auto& [edit, value] :
        {std::pair(mUi->firstEdit, &first), std::pair(mUi->spacingEdit, &spacing)}) {
-    if (readGeometryNumber(edit->text(), *value) && std::fabs(*value) <= kFarthestPosition) {
-      continue;
-    }
-    notice(tr("\"%1\" is not a length in metres.").arg(edit->text()), true);
+    if (readLength(*edit, *value) && std::fabs(*value) <= kFarthestPosition) continue;
+    notice(tr("\"%1\" is not a length in %2.").arg(edit->text(), QLatin1String(lengthUnitName())),
+           true);
     edit->setFocus();
     edit->selectAll();
     return;

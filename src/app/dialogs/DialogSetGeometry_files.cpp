@@ -1,4 +1,5 @@
 #include "app/FileFolders.h"
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/TableTexts.h"
@@ -203,11 +204,11 @@ void DialogSetGeometry::loadElevations(ElevationProfile::Course course) {
   QString text = tr("%n elevation(s) taken from the table.", nullptr,
                     static_cast<int>(outcome.geophones + outcome.shots));
   if (outcome.beyond > 0) {
-    text += QLatin1Char(' ') + tr("%n position(s) lie beyond its ends, %1 to %2 m, and got the "
+    text += QLatin1Char(' ') + tr("%n position(s) lie beyond its ends, %1 to %2, and got the "
                                   "elevation there.",
                                   nullptr, static_cast<int>(outcome.beyond))
-                                   .arg(profile.firstX())
-                                   .arg(profile.lastX());
+                                   .arg(geometryLength(profile.firstX()))
+                                   .arg(lengthWithUnit(geometryLength(profile.lastX())));
   }
   notice(text, outcome.beyond > 0);
 }

@@ -1,6 +1,7 @@
 #include "app/dialogs/DrawingDialog.h"
 
-#include "app/NumberText.h"
+#include "app/LengthText.h"
+#include "base/LengthUnit.h"
 #include "ui_DrawingDialog.h"
 
 #include <QPushButton>
@@ -20,8 +21,10 @@ QStringList fieldsOf(const QString& text) {
 DrawingDialog::DrawingDialog(const Start& start, QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::DrawingDialog>()) {
   mUi->setupUi(this);
+  mUi->isovaluesUnit->setText(QLatin1String(velocityUnitName()));
+  mProposed = start.isovalues;
   QStringList values;
-  for (const double value : start.isovalues) values += numberText(value);
+  for (const double value : start.isovalues) values += lengthText(value);
   mUi->isovaluesEdit->setText(values.join(QLatin1Char(' ')));
   mUi->isovaluesEdit->setCursorPosition(0);
   mUi->isovaluesEdit->setEnabled(start.section);
@@ -48,11 +51,19 @@ DrawingDialog::~DrawingDialog() = default;
 std::vector<double> DrawingDialog::isovalues() const {
   std::vector<double> values;
   for (const QString& field : fieldsOf(mUi->isovaluesEdit->text())) {
-    if (const std::optional<double> value = numberFrom(field)) values.push_back(*value);
+    if (const std::optional<double> value = valueOf(field)) values.push_back(*value);
   }
   std::sort(values.begin(), values.end());
   values.erase(std::unique(values.begin(), values.end()), values.end());
   return values;
+}
+
+/// One that was proposed comes back to the bit.
+std::optional<double> DrawingDialog::valueOf(const QString& field) const {
+  for (const double proposed : mProposed) {
+    if (field == lengthText(proposed)) return proposed;
+  }
+  return lengthFrom(field);
 }
 
 DrawingPlace DrawingDialog::place() const {
@@ -61,7 +72,7 @@ DrawingPlace DrawingDialog::place() const {
 
 QString DrawingDialog::problem() const {
   for (const QString& field : fieldsOf(mUi->isovaluesEdit->text())) {
-    const std::optional<double> value = numberFrom(field);
+    const std::optional<double> value = valueOf(field);
     if (!value || !(*value > 0.0)) return tr("\"%1\" is not a velocity.").arg(field);
   }
   constexpr auto kMost = static_cast<int>(SectionSceneOptions::kMaxContours);

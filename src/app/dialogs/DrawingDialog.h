@@ -34,10 +34,12 @@ class DrawingDialog : public QDialog {
   DrawingPlace place() const;
 
  private:
+  std::optional<double> valueOf(const QString& field) const;  ///< m/s
   QString problem() const;
   void check();
 
   std::unique_ptr<Ui::DrawingDialog> mUi;
+  std::vector<double> mProposed;  ///< m/s
 };
 
 }  // namespace talvesk

@@ -2,9 +2,11 @@
 
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/FigureSheetWidget.h"
 #include "app/dialogs/ParameterField.h"
+#include "base/LengthUnit.h"
 #include "refraction/PicksFingerprint.h"
 #include "refraction/elastic/ElasticSurveys.h"
 #include "refraction/elastic/MatchWaves.h"
@@ -18,6 +20,7 @@
 #include <QSignalBlocker>
 #include <QStringList>
 #include <cmath>
+#include <initializer_list>
 #include <utility>
 
 namespace talvesk {
@@ -41,9 +44,12 @@ QString number(double value, int decimals) {
 }
 
 QString text(const Estimate& own, const ElasticColumn& column, bool withError) {
-  QString shown = number(column.factor * own.value, column.decimals);
+  const bool velocity =
+      column.quantity == ElasticQuantity::kVp || column.quantity == ElasticQuantity::kVs;
+  const double factor = velocity ? shownLength(column.factor) : column.factor;
+  QString shown = number(factor * own.value, column.decimals);
   if (withError && std::isfinite(own.sigma)) {
-    shown += QStringLiteral(" \u00b1 ") + number(column.factor * own.sigma, column.decimals);
+    shown += QStringLiteral(" \u00b1 ") + number(factor * own.sigma, column.decimals);
   }
   return shown;
 }
@@ -53,6 +59,7 @@ QString text(const Estimate& own, const ElasticColumn& column, bool withError) {
 ElasticDialog::ElasticDialog(ElasticSurvey own, ElasticSurvey other, QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::ElasticDialog>()), mSheet(new FigureSheetWidget) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mSheet->setObjectName(QStringLiteral("sheet"));
@@ -76,8 +83,9 @@ void ElasticDialog::connectAll() {
   connect(mUi->rolesCombo, chosen, this, &ElasticDialog::match);
   connect(mUi->densityCombo, chosen, this, &ElasticDialog::match);
   connect(mUi->layerCombo, chosen, this, &ElasticDialog::show);
-  for (QDoubleSpinBox* field : {mUi->shiftEdit, mUi->toleranceEdit, mUi->density1Edit,
-                                mUi->density2Edit, mUi->density3Edit}) {
+  for (QDoubleSpinBox* field :
+       std::initializer_list<QDoubleSpinBox*>{mUi->shiftEdit, mUi->toleranceEdit, mUi->density1Edit,
+                                              mUi->density2Edit, mUi->density3Edit}) {
     connect(field, typed, this, &ElasticDialog::match);
   }
   connect(mUi->errorsCheck, &QCheckBox::toggled, this, [this] {
@@ -221,16 +229,20 @@ void ElasticDialog::show() {
 
 void ElasticDialog::showTable() {
   const std::uint32_t only = mUi->layerCombo->currentData().toUInt();
-  QStringList heads = {tr("Layer"), tr("Distance [m]"), tr("Depth by P [m]"), tr("Depth by S [m]")};
-  for (const ElasticColumn& column : kElasticColumns) heads << elasticTitle(column.quantity);
+  QStringList heads = {tr("Layer"), inShownUnits(tr("Distance [m]")),
+                       inShownUnits(tr("Depth by P [m]")), inShownUnits(tr("Depth by S [m]"))};
+  for (const ElasticColumn& column : kElasticColumns) {
+    heads << inShownUnits(elasticTitle(column.quantity));
+  }
   mUi->table->setRowCount(0);
   mUi->table->setColumnCount(heads.size());
   mUi->table->setHorizontalHeaderLabels(heads);
   for (const ElasticLayer& layer : mLine.layers) {
     if (only != 0 && layer.layer != only) continue;
     for (const ElasticPoint& point : layer.points) {
-      QStringList cells = {QString::number(layer.layer), number(point.x, 2),
-                           number(point.topP.value, 2), number(point.topS.value, 2)};
+      QStringList cells = {QString::number(layer.layer), number(shownLength(point.x), 2),
+                           number(shownLength(point.topP.value), 2),
+                           number(shownLength(point.topS.value), 2)};
       for (const ElasticColumn& column : kElasticColumns) {
         cells << text(point.state[column.quantity], column, mLine.hasErrors);
       }

@@ -3,6 +3,7 @@
 #include "app/InversionTexts.h"
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/ParameterField.h"
 #include "model/ChiSquare.h"
 #include "model/KnownGround.h"
@@ -106,11 +107,12 @@ QColor colorOf(ReferenceKind kind) {
 
 FitPanel::FitPanel(QWidget* parent) : QWidget(parent), mUi(std::make_unique<Ui::FitPanel>()) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   setUpFields();
   mUi->referencesTable->verticalHeader()->hide();
   mUi->referencesTable->horizontalHeader()->setStretchLastSection(true);
-  mUi->modelsPlot->setTexts({}, tr("Distance from the shot (m)"), tr("Time (ms)"));
+  mUi->modelsPlot->setTexts({}, inShownUnits(tr("Distance from the shot (m)")), tr("Time (ms)"));
   mWait.setSingleShot(true);
   mWait.setInterval(kTyping);
   connectAll();

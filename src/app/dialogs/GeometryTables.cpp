@@ -1,7 +1,9 @@
 #include "app/dialogs/GeometryTables.h"
 
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/TableTexts.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/GeometrySession.h"
 #include "app/dialogs/GeometryTexts.h"
 #include "base/TypedTable.h"
@@ -109,12 +111,18 @@ bool GeometryTable::setData(const QModelIndex& index, const QVariant& value, int
     emit refused(tr("\"%1\" is not a number.").arg(text));
     return false;
   }
+  if (!text.isEmpty()) number = taken(index.row(), index.column(), number);
   if (const QString why = refusal(index.column(), number); !why.isEmpty()) {
     emit refused(why);
     return false;
   }
   put(index.row(), index.column(), {{number}});
   return true;
+}
+
+/// Metres of a length that was typed or pasted into a cell, which may be what it shows already.
+double GeometryTable::taken(int row, int column, double typed) const {
+  return isLength(column) ? metresTyped(typed, length(row, column)) : typed;
 }
 
 void GeometryTable::paste(int row, int column, const QString& text) {
@@ -135,14 +143,16 @@ void GeometryTable::paste(int row, int column, const QString& text) {
                      .arg(mostRows()));
     return;
   }
-  for (const auto& fields : rows) {
+  for (auto& fields : rows) {
     if (column + static_cast<int>(fields.size()) > numberColumns()) {
       emit refused(tr("Nothing was pasted: %1 columns do not fit from column \"%2\" on.")
                        .arg(fields.size())
                        .arg(header(column)));
       return;
     }
+    const int at = row + static_cast<int>(&fields - rows.data());
     for (std::size_t i = 0; i < fields.size(); ++i) {
+      fields[i] = taken(at, column + static_cast<int>(i), fields[i]);
       const QString why = refusal(column + static_cast<int>(i), fields[i]);
       if (why.isEmpty()) continue;
       emit refused(tr("Nothing was pasted: %1").arg(why));
@@ -170,12 +180,18 @@ int GeophoneTable::mostRows() const {
 }
 
 QString GeophoneTable::header(int column) const {
-  return column == kX ? tr("x (m)") : tr("Elevation (m)");
+  return column == kX ? inShownUnits(tr("x (m)")) : inShownUnits(tr("Elevation (m)"));
 }
 
 QVariant GeophoneTable::cell(int row, int column) const {
   const GeometryPlace& place = mSession.string()[static_cast<std::size_t>(row)];
-  return geometryNumber(column == kX ? place.x : place.z);
+  return geometryLength(column == kX ? place.x : place.z);
+}
+
+double GeophoneTable::length(int row, int column) const {
+  if (row >= rowsNow()) return kNone;
+  const GeometryPlace& place = mSession.string()[static_cast<std::size_t>(row)];
+  return column == kX ? place.x : place.z;
 }
 
 bool GeophoneTable::isInterpolated(int row, int column) const {
@@ -192,7 +208,8 @@ bool GeophoneTable::isMistaken(int row) const {
 }
 
 QString GeophoneTable::refusal(int /*column*/, double value) const {
-  return tooFar(value) ? tr("%1 m is too far away.").arg(geometryNumber(value)) : QString();
+  return tooFar(value) ? tr("%1 is too far away.").arg(lengthWithUnit(geometryLength(value)))
+                       : QString();
 }
 
 void GeophoneTable::put(int row, int column, const std::vector<std::vector<double>>& rows) {
@@ -258,9 +275,9 @@ QString ShotTable::header(int column) const {
     case kString:
       return tr("String");
     case kX:
-      return tr("x (m)");
+      return inShownUnits(tr("x (m)"));
     case kZ:
-      return tr("Elevation (m)");
+      return inShownUnits(tr("Elevation (m)"));
     case kFile:
       return tr("File");
     case kFileDX:
@@ -276,9 +293,9 @@ QVariant ShotTable::cell(int row, int column) const {
     case kString:
       return shot.string < 0 ? QString() : QString::number(shot.string + 1);
     case kX:
-      return geometryNumber(shot.place.x);
+      return geometryLength(shot.place.x);
     case kZ:
-      return geometryNumber(shot.place.z);
+      return geometryLength(shot.place.z);
     case kFile:
       return fileName(shot.file);
     case kFileDX:
@@ -286,6 +303,12 @@ QVariant ShotTable::cell(int row, int column) const {
     default:
       return fileName(shot.fileSX);
   }
+}
+
+double ShotTable::length(int row, int column) const {
+  if (row >= rowsNow()) return kNone;
+  const GeometryPlace& place = mSession.geometry().shots[static_cast<std::size_t>(row)].place;
+  return column == kX ? place.x : place.z;
 }
 
 bool ShotTable::isInterpolated(int row, int column) const {
@@ -302,7 +325,8 @@ bool ShotTable::isMistaken(int row) const {
 
 QString ShotTable::refusal(int column, double value) const {
   if (column != kString) {
-    return tooFar(value) ? tr("%1 m is too far away.").arg(geometryNumber(value)) : QString();
+    return tooFar(value) ? tr("%1 is too far away.").arg(lengthWithUnit(geometryLength(value)))
+                         : QString();
   }
   const auto count = static_cast<double>(mSession.geometry().strings.size());
   if (value >= 1.0 && value <= count && value == std::floor(value)) return {};

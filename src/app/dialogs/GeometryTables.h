@@ -39,6 +39,9 @@ class GeometryTable : public QAbstractTableModel {
   virtual int numberColumns() const = 0;  ///< the first ones
   virtual QString header(int column) const = 0;
   virtual QVariant cell(int row, int column) const = 0;
+  virtual bool isLength(int column) const = 0;
+  /// Of a column of lengths, metres; not a number where there is none.
+  virtual double length(int row, int column) const = 0;
   virtual bool isInterpolated(int row, int column) const = 0;
   virtual bool isMistaken(int row) const = 0;
   /// Why a number cannot stand in a column; empty when it can.
@@ -49,6 +52,8 @@ class GeometryTable : public QAbstractTableModel {
   GeometrySession& mSession;
 
  private:
+  double taken(int row, int column, double typed) const;
+
   int mRows = 0;  ///< as the views know them
 };
 
@@ -72,6 +77,8 @@ class GeophoneTable : public GeometryTable {
   int numberColumns() const override { return kColumns; }
   QString header(int column) const override;
   QVariant cell(int row, int column) const override;
+  bool isLength(int /*column*/) const override { return true; }
+  double length(int row, int column) const override;
   bool isInterpolated(int row, int column) const override;
   bool isMistaken(int row) const override;
   QString refusal(int column, double value) const override;
@@ -96,6 +103,8 @@ class ShotTable : public GeometryTable {
   int numberColumns() const override { return kFile; }
   QString header(int column) const override;
   QVariant cell(int row, int column) const override;
+  bool isLength(int column) const override { return column == kX || column == kZ; }
+  double length(int row, int column) const override;
   bool isInterpolated(int row, int column) const override;
   bool isMistaken(int row) const override;
   QString refusal(int column, double value) const override;

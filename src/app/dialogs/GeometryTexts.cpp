@@ -1,5 +1,7 @@
 #include "app/dialogs/GeometryTexts.h"
 
+#include "app/LengthText.h"
+#include "base/LengthUnit.h"
 #include "base/TypedTable.h"
 #include "model/GeometryCheck.h"
 
@@ -92,6 +94,11 @@ QString geometryNumber(double value) {
   return locale.toString(value == 0.0 ? 0.0 : value, format, QLocale::FloatingPointShortest);
 }
 
+QString geometryLength(double metres) {
+  const bool asItIs = lengthUnit() == LengthUnit::kMetre || !(std::fabs(metres) < 1e9);
+  return asItIs ? geometryNumber(shownLength(metres)) : lengthText(metres);
+}
+
 bool usesDecimalComma() {
   return QLocale().decimalPoint() == QLatin1Char(',');
 }
@@ -141,12 +148,14 @@ QString shotDescription(const SurveyGeometry& geometry, std::size_t shot) {
     if (!path->empty()) files << nameOf(*path);
   }
   const QString string = about.string < 0 ? QStringLiteral("-") : QString::number(about.string + 1);
-  const QString position = geometryNumber(about.place.x);
+  const QString position = geometryLength(about.place.x);
+  const QString unit =
+      lengthUnit() == LengthUnit::kMetre ? GeometryTexts::tr(" m</b>") : QStringLiteral(" ft</b>");
   return GeometryTexts::tr("Shot ID <b>") + QString::number(shot + 1) +
          GeometryTexts::tr("</b><br>Geophone geometry ID: <b>") + string +
          GeometryTexts::tr("</b> Shot position: <b>") +
-         (position.isEmpty() ? QStringLiteral("-") : position) + GeometryTexts::tr(" m</b>") +
-         QStringLiteral("<br>") + GeometryTexts::tr("File name <b>") +
+         (position.isEmpty() ? QStringLiteral("-") : position) + unit + QStringLiteral("<br>") +
+         GeometryTexts::tr("File name <b>") +
          (files.isEmpty() ? QStringLiteral("-")
                           : files.join(QStringLiteral(" - ")).toHtmlEscaped()) +
          QStringLiteral("</b>");

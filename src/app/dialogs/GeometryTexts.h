@@ -14,6 +14,9 @@ struct SurveyGeometry;
 /// A length as it is typed, metres; empty for NaN. Every digit that matters, no thousands marks.
 QString geometryNumber(double value);
 
+/// The same for a length, in the unit shown. \param metres none where it is not a number
+QString geometryLength(double metres);
+
 /// Reads a number as the user types it. \return whether it is one
 bool readGeometryNumber(const QString& text, double& value);
 

@@ -2,6 +2,7 @@
 
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/KnownTables.h"
 #include "ui_KnownGroundDialog.h"
 
@@ -18,6 +19,7 @@ KnownGroundDialog::KnownGroundDialog(const KnownGround& known, const QString& re
       mSession(std::make_unique<KnownSession>(known)),
       mKnown(known) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   mUi->remarkLabel->setText(remark);
   mUi->remarkLabel->setVisible(!remark.isEmpty());

@@ -1,6 +1,8 @@
 #include "app/dialogs/KnownTables.h"
 
+#include "app/LengthText.h"
 #include "app/NumberText.h"
+#include "app/UnitWords.h"
 
 #include <QBrush>
 #include <QColor>
@@ -21,6 +23,7 @@ KnownColumn columnOf(KnownKind kind, int column) {
   return layoutOf(kind).columns[static_cast<std::size_t>(column - 1)];
 }
 
+/// With its unit in brackets, in metres.
 QString headerOf(KnownKind kind, KnownColumn column) {
   switch (column) {
     case KnownColumn::kX:
@@ -51,6 +54,11 @@ QString headerOf(KnownKind kind, KnownColumn column) {
 QColor mistakenBackground() {
   const QColor base = QGuiApplication::palette().color(QPalette::Base);
   return {std::min(255, (base.red() * 4 + 255) / 5), base.green() * 4 / 5, base.blue() * 4 / 5};
+}
+
+/// What a cell holds, which may be nothing.
+std::optional<double> known(double number) {
+  return std::isnan(number) ? std::nullopt : std::make_optional(number);
 }
 
 KnownSession::Rows sorted(const KnownGround& known) {
@@ -166,7 +174,9 @@ QString KnownTable::cell(int row, int column) const {
   const KnownRow& it = rows[static_cast<std::size_t>(row)];
   if (column == 0) return QString::fromStdString(it.name);
   const double number = it[columnOf(mKind, column)];
-  return std::isnan(number) ? QString() : numberText(number);
+  if (std::isnan(number)) return {};
+  return columnOf(mKind, column) == KnownColumn::kRefractor ? numberText(number)
+                                                            : lengthText(number);
 }
 
 QVariant KnownTable::data(const QModelIndex& index, int role) const {
@@ -186,7 +196,7 @@ QVariant KnownTable::headerData(int section, Qt::Orientation orientation, int ro
   if (orientation == Qt::Vertical) {
     return section + 1 < rowCount() ? QVariant(section + 1) : QVariant(QStringLiteral("*"));
   }
-  return section == 0 ? tr("Name") : headerOf(mKind, columnOf(mKind, section));
+  return section == 0 ? tr("Name") : inShownUnits(headerOf(mKind, columnOf(mKind, section)));
 }
 
 Qt::ItemFlags KnownTable::flags(const QModelIndex& index) const {
@@ -220,7 +230,8 @@ QString KnownTable::put(KnownRow& row, int column, const QString& text) const {
     number = kEmpty;
     return {};
   }
-  const std::optional<double> typed = numberFrom(text);
+  const bool isCount = columnOf(mKind, column) == KnownColumn::kRefractor;
+  const std::optional<double> typed = isCount ? numberFrom(text) : lengthFrom(text, known(number));
   if (!typed) return tr("\"%1\" is not a number.").arg(text);
   number = *typed;
   return {};

@@ -1,8 +1,10 @@
 #include "app/dialogs/LayerMethodsDialog.h"
 
 #include "app/BackgroundMethods.h"
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/FigureSheetWidget.h"
 #include "app/dialogs/ParameterField.h"
 #include "export/LayerMethodsText.h"
@@ -53,13 +55,12 @@ void fill(QTableWidget& table, const ReportTable& content) {
   table.resizeColumnsToContents();
 }
 
-/// "5.2 ± 0.3"; a dash where nothing is known.
+/// "5.2 ± 0.3" of a length or a velocity in the unit shown; a dash where nothing is known.
 QString withError(double value, double error, int places) {
   if (!std::isfinite(value)) return QStringLiteral("\u2013");
-  const QLocale locale;
-  const QString text = locale.toString(value, 'f', places);
+  const QString text = lengthNumber(value, places);
   if (!std::isfinite(error)) return text;
-  return QStringLiteral("%1 \u00b1 %2").arg(text, locale.toString(error, 'f', places));
+  return QStringLiteral("%1 \u00b1 %2").arg(text, lengthNumber(error, places));
 }
 
 }  // namespace
@@ -71,6 +72,7 @@ LayerMethodsDialog::LayerMethodsDialog(LayerPicks picks, QWidget* parent)
       mRun(new BackgroundMethods(this)),
       mSheet(new FigureSheetWidget) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   setWindowFlag(Qt::WindowMaximizeButtonHint);

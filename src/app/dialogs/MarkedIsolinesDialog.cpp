@@ -1,9 +1,13 @@
 #include "app/dialogs/MarkedIsolinesDialog.h"
 
 #include "app/CellWalk.h"
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/ColorField.h"
+#include "app/dialogs/LengthBox.h"
+#include "base/LengthUnit.h"
 #include "ui_MarkedIsolinesDialog.h"
 
 #include <QDoubleSpinBox>
@@ -24,6 +28,11 @@ MarkedIsolinesDialog::MarkedIsolinesDialog(const std::vector<MarkedIsoline>& iso
                                            QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::MarkedIsolinesDialog>()) {
   mUi->setupUi(this);
+  showUnits(*this);
+  if (lengthUnit() == LengthUnit::kFoot) {
+    mUi->explainLabel->setText(mUi->explainLabel->text().replace(
+        QStringLiteral("1500 m/s"), velocityWithUnit(1500.0, 0)));  // the same in every language
+  }
   wrapToolTips(*this);
   mUi->isolinesTable->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
   mUi->isolinesTable->setColumnWidth(kVelocity, 140);
@@ -45,12 +54,12 @@ void MarkedIsolinesDialog::addRow(const MarkedIsoline& isoline) {
   const int row = table.rowCount();
   table.insertRow(row);
   table.setItem(row, kName, new QTableWidgetItem(QString::fromStdString(isoline.name)));
-  auto* velocity = new QDoubleSpinBox;
-  velocity->setRange(1.0, 20000.0);
+  auto* velocity = new LengthBox;
   velocity->setDecimals(1);
+  velocity->setRange(1.0, 20000.0);
   velocity->setSingleStep(50.0);
   velocity->setValue(isoline.velocity);
-  velocity->setAccessibleName(tr("Velocity [m/s]"));
+  velocity->setAccessibleName(inShownUnits(tr("Velocity [m/s]")));
   auto* width = new QDoubleSpinBox;
   width->setRange(Annotations::kThinnest, Annotations::kThickest);
   width->setDecimals(1);

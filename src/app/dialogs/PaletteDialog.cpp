@@ -1,10 +1,12 @@
 #include "app/dialogs/PaletteDialog.h"
 
 #include "app/FileFolders.h"
+#include "app/LengthText.h"
 #include "app/LineIcon.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/dialogs/ParameterField.h"
+#include "base/LengthUnit.h"
 #include "io/PaletteFile.h"
 #include "ui_PaletteDialog.h"
 #include "view/PaletteRepair.h"
@@ -100,14 +102,14 @@ void PaletteDialog::connectControls() {
   ColorPaletteWidget* editor = mUi->paletteEditor;
   connect(editor, &ColorPaletteWidget::modified, this, &PaletteDialog::update_modified_palette);
   connect(editor, &ColorPaletteWidget::changed_min_value, this, [this](int value) {
-    mPalettes.current().min_db = value;
+    mPalettes.current().min_db = metresTyped(value);
     refreshInformation();
-    emit changed_min_value(value);
+    emit changed_min_value(qRound(mPalettes.current().min_db));
   });
   connect(editor, &ColorPaletteWidget::changed_max_value, this, [this](int value) {
-    mPalettes.current().max_db = value;
+    mPalettes.current().max_db = metresTyped(value);
     refreshInformation();
-    emit changed_max_value(value);
+    emit changed_max_value(qRound(mPalettes.current().max_db));
   });
 }
 
@@ -132,7 +134,12 @@ void PaletteDialog::refreshChooser() {
 
 void PaletteDialog::refreshCurrent() {
   const ColorPalette& palette = mPalettes.current();
-  mUi->paletteEditor->setColorPalette(palette);
+  ColorPalette shown = palette;
+  if (lengthUnit() == LengthUnit::kFoot) {  // the editor would cut what is behind the point
+    shown.min_db = std::round(shownLength(palette.min_db));
+    shown.max_db = std::round(shownLength(palette.max_db));
+  }
+  mUi->paletteEditor->setColorPalette(shown);
   const QSignalBlocker quiet(mUi->colorsSpinBox);
   mUi->colorsSpinBox->setValue(palette.n_colors);
   mUi->renameButton->setEnabled(palette.is_editable);
@@ -144,9 +151,10 @@ void PaletteDialog::refreshInformation() {
   const ColorPalette& palette = mPalettes.current();
   QLocale locale;
   locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  mUi->infoLabel->setText(
-      tr("MIN: %1, MAX: %2")
-          .arg(locale.toString(palette.min_db, 'g', 10), locale.toString(palette.max_db, 'g', 10)));
+  const int digits = lengthUnit() == LengthUnit::kMetre ? 10 : 6;
+  mUi->infoLabel->setText(tr("MIN: %1, MAX: %2")
+                              .arg(locale.toString(shownLength(palette.min_db), 'g', digits),
+                                   locale.toString(shownLength(palette.max_db), 'g', digits)));
 }
 
 void PaletteDialog::refreshIcon() {
@@ -179,7 +187,7 @@ void PaletteDialog::changeColors(int count) {
 
 void PaletteDialog::takeDataRange() {
   if (!mDataRange) return;
-  const ValueRange range = niceRange(*mDataRange);
+  const ValueRange range = niceRange({shownLength(mDataRange->min), shownLength(mDataRange->max)});
   const auto whole = [](double value) {
     return static_cast<int>(std::clamp(value, -kLargestPaletteValue, kLargestPaletteValue));
   };

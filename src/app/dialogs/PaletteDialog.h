@@ -45,8 +45,8 @@ class PaletteDialog : public QDialog {
   void reject() override;
 
  signals:
-  void modified();  ///< the current palette is another one, or looks otherwise
-  void changed_max_value(int value);
+  void modified();                    ///< the current palette is another one, or looks otherwise
+  void changed_max_value(int value);  ///< nearest m/s; the palette may have digits more
   void changed_min_value(int value);
 
  private:

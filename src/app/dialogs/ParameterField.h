@@ -1,9 +1,11 @@
 #pragma once
 
+#include "app/dialogs/LengthBox.h"
 #include "model/Parameters.h"
 
 #include <QDoubleSpinBox>
 #include <QSpinBox>
+#include <type_traits>
 
 namespace talvesk {
 
@@ -14,14 +16,16 @@ void setUpField(QSpinBox& field, const Parameter<Number>& parameter) {
   field.setValue(static_cast<int>(parameter.initial));
 }
 
-/// The same, and the decimals. The least of some parameters shows as 0.
-inline void setUpField(QDoubleSpinBox& field, const Parameter<double>& parameter) {
+/// The same, and the decimals. The least of some parameters shows as 0. A LengthBox gets all in
+/// metres.
+template <typename Field, std::enable_if_t<std::is_base_of_v<QDoubleSpinBox, Field>, bool> = true>
+void setUpField(Field& field, const Parameter<double>& parameter) {
   field.setDecimals(parameter.limits.decimals);
   field.setRange(parameter.limits.least, parameter.limits.most);
   field.setValue(parameter.initial);
 }
 
-/// How far a field goes: "0.01 m – 1000.00 m".
+/// How far a field goes, as it is seen there: "0.01 m – 1000.00 m".
 template <typename Field>
 QString limitsOf(const Field& field) {
   const auto bound = [&field](auto value) { return field.textFromValue(value) + field.suffix(); };

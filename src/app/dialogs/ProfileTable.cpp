@@ -1,11 +1,12 @@
 #include "app/dialogs/ProfileTable.h"
 
+#include "app/LengthText.h"
+#include "app/UnitWords.h"
 #include "refraction/Profile.h"
 #include "refraction/Support.h"
 #include "refraction/methods/ProfileErrors.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QStringList>
 #include <QTableWidget>
 #include <algorithm>
@@ -75,12 +76,10 @@ QTableWidgetItem* valueCell(const Column& column, std::size_t j) {
   if (j >= column.values.size() || !std::isfinite(column.values[j])) {
     return textCell(QStringLiteral("–"), Qt::AlignRight);
   }
-  const QLocale locale;
-  QString text = locale.toString(column.values[j], 'f', column.places);
+  QString text = lengthNumber(column.values[j], column.places);
   const double error =
       column.band == nullptr ? std::nan("") : column.band->errorOf(j, column.values[j]);
-  if (std::isfinite(error))
-    text += QStringLiteral(" ± ") + locale.toString(error, 'f', column.places);
+  if (std::isfinite(error)) text += QStringLiteral(" ± ") + lengthNumber(error, column.places);
   const bool carried = j >= column.support.size() || column.support[j] == Support::kPicks;
   auto* cell =
       textCell(carried ? text : QLatin1Char('(') + text + QLatin1Char(')'), Qt::AlignRight);
@@ -89,9 +88,10 @@ QTableWidgetItem* valueCell(const Column& column, std::size_t j) {
 }
 
 QStringList headsOf(std::size_t refractors) {
-  QStringList heads{Texts::tr("X (m)")};
+  QStringList heads{inShownUnits(Texts::tr("X (m)"))};
   for (std::size_t i = 0; i < refractors; ++i) {
-    heads << Texts::tr("Depth %1 (m)").arg(i + 1) << Texts::tr("V %1 (m/s)").arg(i + 1)
+    heads << inShownUnits(Texts::tr("Depth %1 (m)")).arg(i + 1)
+          << inShownUnits(Texts::tr("V %1 (m/s)")).arg(i + 1)
           << Texts::tr("Depth %1 by").arg(i + 1);
   }
   return heads;
@@ -129,10 +129,9 @@ void fillProfileTable(const std::vector<ShotArrivals>& shots,
   table.setColumnCount(heads.size());
   table.setHorizontalHeaderLabels(heads);
   table.setRowCount(static_cast<int>(receivers.size()));
-  const QLocale locale;
   for (std::size_t row = 0; row < receivers.size(); ++row) {
     table.setItem(static_cast<int>(row), 0,
-                  textCell(locale.toString(receivers[row].x, 'f', 2), Qt::AlignRight));
+                  textCell(lengthNumber(receivers[row].x, 2), Qt::AlignRight));
   }
   for (std::size_t i = 0; i < results.cData.size(); ++i) {
     const bool known = errors != nullptr && i < errors->refractors.size();

@@ -1,6 +1,7 @@
 #include "app/dialogs/ReadingPanel.h"
 
 #include "app/MessageText.h"
+#include "base/LengthUnit.h"
 #include "io/ReadingComparison.h"
 #include "ui_ReadingPanel.h"
 
@@ -54,6 +55,7 @@ void ReadingPanel::showFigures() {
   const bool read = mFile->outcome.status.ok();
   const bool any = summary.traces > 0;
   const QString none = QStringLiteral("-");
+  const QString lengthUnit = QLatin1String(lengthUnitName());
   mUi->formatValue->setText(read ? QString::fromStdString(shotFormatName(mFile->outcome.format))
                                  : tr("not read"));
   mUi->shotsValue->setText(count(summary.shots));
@@ -62,8 +64,9 @@ void ReadingPanel::showFigures() {
   mUi->intervalValue->setText(any ? spanText(summary.sampleInterval, kMsPerSecond, tr("ms"))
                                   : none);
   mUi->delayValue->setText(any ? spanText(summary.delay, kMsPerSecond, tr("ms")) : none);
-  mUi->sourceValue->setText(any ? spanText(summary.sourceX, 1.0, tr("m")) : none);
-  mUi->receiversValue->setText(any ? spanText(summary.receiverX, 1.0, tr("m")) : none);
+  mUi->sourceValue->setText(any ? spanText(summary.sourceX, shownLength(1.0), lengthUnit) : none);
+  mUi->receiversValue->setText(any ? spanText(summary.receiverX, shownLength(1.0), lengthUnit)
+                                   : none);
 }
 
 void ReadingPanel::showShots() {

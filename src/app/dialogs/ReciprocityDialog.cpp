@@ -1,7 +1,9 @@
 #include "app/dialogs/ReciprocityDialog.h"
 
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/ReciprocityModel.h"
 #include "doctor/FindingTexts.h"
 #include "model/TomoDocument.h"
@@ -36,6 +38,7 @@ ReciprocityDialog::ReciprocityDialog(QWidget* parent)
       mUi(std::make_unique<Ui::ReciprocityDialog>()),
       mModel(new ReciprocityModel(this)) {
   mUi->setupUi(this);
+  showUnits(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mUi->splitter->setSizes({3 * width() / 5, 2 * width() / 5});
   mUi->tablesSplitter->setStretchFactor(0, 3);
@@ -154,7 +157,7 @@ void ReciprocityDialog::fillShot(int row) {
   };
   const QString unknown = tr("–", "not known");
   put(kShot, QString::number(row + 1));
-  put(kAt, QLocale().toString(shot.x, 'f', 2));
+  put(kAt, lengthNumber(shot.x, 2));
   put(kPairs, QString::number(shot.pairs));
   put(kRms, shot.pairs > 0 ? milliseconds(shot.rms) : unknown);
   put(kLateBy, shot.shiftError > 0.0
@@ -208,7 +211,10 @@ void ReciprocityDialog::enableButtons() {
 }
 
 void ReciprocityDialog::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) mUi->retranslateUi(this);
+  if (event->type() == QEvent::LanguageChange) {
+    mUi->retranslateUi(this);
+    showUnits(*this);
+  }
   QDialog::changeEvent(event);
 }
 

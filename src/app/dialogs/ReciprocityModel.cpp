@@ -1,5 +1,8 @@
 #include "app/dialogs/ReciprocityModel.h"
 
+#include "app/LengthText.h"
+#include "app/UnitWords.h"
+
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
@@ -82,6 +85,8 @@ QVariant ReciprocityModel::data(const QModelIndex& index, int role) const {
   if (std::isnan(value)) return tr("–", "not known");
   const bool whole = index.column() == kFirst || index.column() == kSecond;
   const bool sigmas = index.column() == kSigmas;
+  const bool place = index.column() == kFirstAt || index.column() == kSecondAt;
+  if (place) return lengthNumber(value, 2);
   return QLocale().toString(value, 'f', whole ? 0 : sigmas ? 1 : 2);
 }
 
@@ -97,7 +102,7 @@ QVariant ReciprocityModel::headerData(int section, Qt::Orientation orientation, 
       return tr("Shot");
     case kFirstAt:
     case kSecondAt:
-      return tr("At [m]");
+      return inShownUnits(tr("At [m]"));
     case kThere:
       return tr("There [ms]");
     case kBack:

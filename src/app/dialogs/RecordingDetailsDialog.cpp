@@ -1,6 +1,8 @@
 #include "app/dialogs/RecordingDetailsDialog.h"
 
 #include "app/MessageText.h"
+#include "app/UnitWords.h"
+#include "base/LengthUnit.h"
 #include "base/SampleStore.h"
 #include "figures/FigureWords.h"
 #include "io/ReadShotFile.h"
@@ -111,6 +113,7 @@ RecordingDetailsDialog::RecordingDetailsDialog(const TomoDocument& document,
       mDocument(document),
       mFiles(std::move(files)) {
   mUi->setupUi(this);
+  showUnits(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   for (std::size_t i = 0; i < mDocument.recordings->traceSets.size(); ++i) {
     const QString path = QString::fromStdString(shotFile(mDocument, i));
@@ -179,10 +182,10 @@ void RecordingDetailsDialog::fillTable(int index) {
   for (std::size_t row = 0; row < traces.size(); ++row) {
     const Trace& trace = traces[row];
     const QString values[] = {QString::number(row + 1),
-                              number(trace.receiverPosition.x),
-                              number(trace.receiverPosition.z),
-                              number(trace.sourcePosition.x),
-                              number(trace.sourcePosition.z),
+                              number(shownLength(trace.receiverPosition.x)),
+                              number(shownLength(trace.receiverPosition.z)),
+                              number(shownLength(trace.sourcePosition.x)),
+                              number(shownLength(trace.sourcePosition.z)),
                               QLocale().toString(static_cast<qulonglong>(trace.samples.size())),
                               number(1000.0 * trace.sampleInterval),
                               number(1000.0 * trace.delay),

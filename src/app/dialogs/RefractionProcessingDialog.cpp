@@ -1,8 +1,10 @@
 #include "app/dialogs/RefractionProcessingDialog.h"
 
 #include "app/BackgroundFit.h"
+#include "app/LengthText.h"
 #include "app/LineIcon.h"
 #include "app/Messages.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/MisfitTable.h"
 #include "figures/RefractionItems.h"
 #include "model/TomoDocument.h"
@@ -71,6 +73,7 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
       mUndo(new QUndoStack(this)) {
   fitToSurvey(document, mWork);
   mUi->setupUi(this);
+  showUnits(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   mUi->phantomSplitter->setSizes({620, 440});
@@ -96,7 +99,7 @@ RefractionProcessingDialog::RefractionProcessingDialog(const TomoDocument& docum
 RefractionProcessingDialog::~RefractionProcessingDialog() = default;
 
 void RefractionProcessingDialog::nameThings() {
-  const QString x = tr("X (m)");
+  const QString x = inShownUnits(tr("X (m)"));
   mUi->curvesPlot->setTexts({}, x, tr("time (ms)"));
   mUi->curvesPlot->setAccessibleName(tr("T-x curves"));
   mUi->curvesPlot->setEmptyText(
@@ -104,8 +107,8 @@ void RefractionProcessingDialog::nameThings() {
   mUi->phantomPlot->setTexts(tr("Phantom travel times"), x, tr("time (ms)"));
   mUi->tvPlot->setTexts(tr("tV, velocity analysis"), x, tr("time (ms)"));
   mUi->tgPlot->setTexts(tr("tG, time depth"), x, tr("time (ms)"));
-  mUi->velocityPlot->setTexts(tr("Velocity"), x, tr("Velocity (m/s)"));
-  mUi->profilePlot->setTexts(tr("Refraction Profile"), x, tr("Z (m)"));
+  mUi->velocityPlot->setTexts(tr("Velocity"), x, inShownUnits(tr("Velocity (m/s)")));
+  mUi->profilePlot->setTexts(tr("Refraction Profile"), x, inShownUnits(tr("Z (m)")));
   showEmptyTexts();
   mUi->profilePlot->setEmptyText(
       tr("There is no depth to show. Layer 1 needs a branch with two picks, and each refractor has "
@@ -128,12 +131,10 @@ void RefractionProcessingDialog::fillChoosers() {
     mUi->showLayerCombo->setItemIcon(static_cast<int>(layer) + 1, dotOf(layer));
   }
   mUi->selectLayerCombo->setCurrentIndex(1);
-  const QLocale locale;
   mUi->shotCombo->addItem(tr("All shots"));
   for (std::size_t i = 0; i < mShots.size(); ++i) {
-    mUi->shotCombo->addItem(tr("%1: at %2 m", "shot number, place")
-                                .arg(i + 1)
-                                .arg(locale.toString(mShots[i].shot.x, 'f', 1)));
+    mUi->shotCombo->addItem(
+        tr("%1: at %2", "shot number, place").arg(i + 1).arg(lengthWithUnit(mShots[i].shot.x, 1)));
   }
 }
 
@@ -225,7 +226,7 @@ void RefractionProcessingDialog::showReading(const BranchReading* reading) {
                             ? tr("right of shot %1").arg(reading->shot + 1)
                             : tr("left of shot %1").arg(reading->shot + 1);
   const QString velocity = reading->velocity && isPlausibleVelocity(*reading->velocity)
-                               ? tr("%1 m/s").arg(QLocale().toString(*reading->velocity, 'f', 0))
+                               ? velocityWithUnit(*reading->velocity, 0)
                                : tr("no velocity");
   QString text = tr("Layer %1, %2: %3 (%4 picks)")
                      .arg(reading->layer)

@@ -1,4 +1,5 @@
 #include "app/BackgroundFit.h"
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/WaitCursor.h"
@@ -278,9 +279,9 @@ void RefractionProcessingDialog::showShifts() {
         const int row = table.rowCount();
         table.insertRow(row);
         const QStringList cells = {QString::number(layer),
-                                   tr("%1: at %2 m", "shot number, place")
+                                   tr("%1: at %2", "shot number, place")
                                        .arg(shot + 1)
-                                       .arg(locale.toString(mShots[shot].shot.x, 'f', 1)),
+                                       .arg(lengthWithUnit(mShots[shot].shot.x, 1)),
                                    side == Side::kRight ? tr("to the right") : tr("to the left"),
                                    QString::number(picks), locale.toString(kMs * shift, 'f', 2)};
         for (int column = 0; column < cells.size(); ++column) {
@@ -321,7 +322,8 @@ void RefractionProcessingDialog::showFunctions() {
         plot.back().color = faint(shown(kNoLayer), 0.6);
         plot.back().width = 1.0;
       }
-      plot.push_back(seriesOf(tr("XY = %1 m").arg(found.chosenXY), found.x, own, kMs));
+      plot.push_back(seriesOf(tr("XY = %1").arg(lengthWithUnit(lengthDigits(found.chosenXY, 6))),
+                              found.x, own, kMs));
       plot.back().color = strong;
       plot.back().width = 2.2;
       plot.back().symbols = true;
@@ -341,15 +343,15 @@ void RefractionProcessingDialog::fillXY(std::uint32_t refractor) {
   const XYChoice choice = findXY(mWork, refractor);
   const QLocale locale;
   combo.clear();
-  for (const double xy : kXYFamily) combo.addItem(locale.toString(xy, 'f', 0), xy);
+  for (const double xy : kXYFamily) combo.addItem(lengthDigits(xy, 6), xy);
   const auto offer = [&](double xy) {
-    if (combo.findData(xy) < 0) combo.addItem(locale.toString(xy, 'g', 6), xy);
+    if (combo.findData(xy) < 0) combo.addItem(lengthDigits(xy, 6), xy);
   };
   offer(chosen);
   QStringList found;
   const auto propose = [&](const XYProposal& proposal, const QString& name) {
     if (proposal.told) offer(proposal.xy);
-    found << (proposal.told ? tr("%1 at %2 m").arg(name, locale.toString(proposal.xy, 'g', 6))
+    found << (proposal.told ? tr("%1 at %2").arg(name, lengthWithUnit(lengthDigits(proposal.xy, 6)))
                             : tr("%1: the picks do not tell").arg(name));
   };
   propose(choice.smoothest, tr("smoothest tV"));
@@ -360,10 +362,10 @@ void RefractionProcessingDialog::fillXY(std::uint32_t refractor) {
   for (const XYTried& tried : choice.tried) {
     texts << QString();
     if (!std::isfinite(tried.roughness) || !std::isfinite(tried.unevenness)) continue;
-    texts.back() =
-        tr("%1 m: tV rough by %2 ms, velocity uneven by %3 %")
-            .arg(locale.toString(tried.xy, 'g', 6), locale.toString(kMs * tried.roughness, 'f', 3),
-                 locale.toString(100.0 * tried.unevenness, 'f', 1));
+    texts.back() = tr("%1: tV rough by %2 ms, velocity uneven by %3 %")
+                       .arg(lengthWithUnit(lengthDigits(tried.xy, 6)),
+                            locale.toString(kMs * tried.roughness, 'f', 3),
+                            locale.toString(100.0 * tried.unevenness, 'f', 1));
     criteria << texts.back();
   }
   mUi->xyCriteria->setChoice(choice, chosen, texts);

@@ -1,5 +1,9 @@
 #include "app/dialogs/RefractionTexts.h"
 
+#include "app/LengthText.h"
+#include "base/LengthUnit.h"
+#include "refraction/PlausibleResults.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 #include <algorithm>
@@ -11,6 +15,18 @@ namespace {
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(talvesk::RefractionTexts)
 };
+
+QString whole(double velocity) {
+  return lengthNumber(velocity, 0);
+}
+
+/// The greatest velocity that the ground may have, with a space between its thousands, as a comma
+/// would be taken for that of a decimal.
+QString outermost() {
+  QString number = QString::number(shownLength(kGreatestVelocity), 'f', 0);
+  return QStringLiteral("%1 %2").arg(number.insert(number.size() - 3, QLatin1Char(' ')),
+                                     QLatin1String(velocityUnitName()));
+}
 
 }  // namespace
 
@@ -53,17 +69,19 @@ QString refractionText(const RefractionWarning& warning) {
                  "velocity and the layers below have no depth.")
           .arg(warning.layer);
     case Kind::kBadFirstLayer:
-      return Texts::
-          tr("Layer %1: its velocity comes out outside 50 to 12 000 m/s, so it has none and the "
-             "layers below have no depth.")
-              .arg(warning.layer);
+      return Texts::tr(
+                 "Layer %1: its velocity comes out outside %2 to %3, so it has none and the "
+                 "layers below have no depth.")
+          .arg(warning.layer)
+          .arg(whole(kLeastVelocity), outermost());
     case Kind::kBadVelocity:
       return Texts::tr(
                  "Layer %1: no velocity and no depth at %2 of %3 receivers, where the velocity "
-                 "comes out outside 50 to 12 000 m/s.")
+                 "comes out outside %4 to %5.")
           .arg(warning.layer)
           .arg(warning.count)
-          .arg(warning.total);
+          .arg(warning.total)
+          .arg(whole(kLeastVelocity), outermost());
     case Kind::kSlowRefractor:
       return Texts::tr(
                  "Layer %1: no depth at %2 of %3 receivers, where it is not faster than the layer "
@@ -90,30 +108,30 @@ QString refractionText(const RefractionWarning& warning) {
 }
 
 QString firstLayerText(const refractionDataStructure::processingData& results) {
-  const QLocale locale;
   const refractionDataStructure::FirstLayer& first = results.first;
   const auto ends = std::minmax_element(first.velocity.begin(), first.velocity.end());
-  const auto whole = [&locale](double velocity) { return locale.toString(velocity, 'f', 0); };
-  const QString text = Texts::tr("Layer 1 has %1 m/s in the mean, and %2 to %3 m/s at the surface.")
-                           .arg(whole(results.v1), whole(*ends.first), whole(*ends.second));
+  const QString text = Texts::tr("Layer 1 has %1 in the mean, and %2 to %3 at the surface.")
+                           .arg(velocityWithUnit(results.v1, 0), whole(*ends.first),
+                                velocityWithUnit(*ends.second, 0));
   if (!(first.growth > 0.0)) return text;
   return text + QLatin1Char(' ') +
-         Texts::tr("It grows by %1 % of that per metre, down to %2 m.")
-             .arg(locale.toString(100.0 * first.growth, 'f', 1),
-                  locale.toString(first.growsTo, 'f', 1));
+         Texts::tr("It grows by %1 % of that per %2, down to %3.")
+             .arg(QLocale().toString(100.0 * first.growth / shownLength(1.0), 'f', 1),
+                  QLatin1String(lengthUnitName()), lengthWithUnit(first.growsTo, 1));
 }
 
 QString noShotPairText(const ShotPairReach& reach) {
   if (!reach.hasShots()) return Texts::tr("No shot that takes part has picks of layer 2.");
-  const QLocale locale;
-  const auto metres = [&locale](double x) {
-    return locale.toString(x, 'g', QLocale::FloatingPointShortest);
+  const auto length = [](double x) {
+    return lengthUnit() == LengthUnit::kMetre
+               ? QLocale().toString(x, 'g', QLocale::FloatingPointShortest)
+               : lengthText(x);
   };
   return Texts::tr(
              "At each end of the line, or beyond, there must be a shot with picks of layer 2. Such "
-             "shots reach from %1 to %2 m, but the geophones from %3 to %4 m.")
-      .arg(metres(reach.firstShot), metres(reach.lastShot), metres(reach.firstReceiver),
-           metres(reach.lastReceiver));
+             "shots reach from %1 to %2, but the geophones from %3 to %4.")
+      .arg(length(reach.firstShot), lengthWithUnit(length(reach.lastShot)),
+           length(reach.firstReceiver), lengthWithUnit(length(reach.lastReceiver)));
 }
 
 }  // namespace talvesk

@@ -1,9 +1,11 @@
 #include "app/dialogs/ResidualsDialog.h"
 
 #include "app/InversionTexts.h"
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/RunTexts.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/FigureSheetWidget.h"
 #include "model/KeptRuns.h"
 #include "model/TomographyOutcome.h"
@@ -52,8 +54,7 @@ ResidualsDialog::ResidualsDialog(QWidget* parent)
   mUi->shotsPlot->setTexts(
       [this](std::size_t i) { return spreadText(tr("Shot %1").arg(mShots[i].at), mShots[i]); });
   mUi->geophonesPlot->setTexts([this](std::size_t i) {
-    return spreadText(tr("Geophone at %1 m").arg(QLocale().toString(mGeophones[i].at, 'f', 1)),
-                      mGeophones[i]);
+    return spreadText(tr("Geophone at %1").arg(lengthWithUnit(mGeophones[i].at, 1)), mGeophones[i]);
   });
   mUi->shotsPlot->setWholeNumbers();
   connectAll();
@@ -162,7 +163,7 @@ void ResidualsDialog::showHead() {
 void ResidualsDialog::showViews() {
   const ResidualLook look = screenLook();
   mUi->map->setPicture(residualMatrix(mTable, look));
-  mUi->offsetPlot->PlotPage::setTexts({}, tr("Offset [m]"), residualAxis(look.unit));
+  mUi->offsetPlot->PlotPage::setTexts({}, inShownUnits(tr("Offset [m]")), residualAxis(look.unit));
   mUi->offsetPlot->setEmptyText(emptyText());
   mUi->offsetPlot->setSeries(offsetSeries(mTable, look));
   std::vector<Point2D> points;
@@ -185,7 +186,7 @@ void ResidualsDialog::showGroups(const ResidualLook& look) {
   const QString unit =
       look.unit == ResidualUnit::kErrors ? tr("Median [pick errors]") : tr("Median [ms]");
   mUi->shotsPlot->PlotPage::setTexts({}, tr("Shot"), unit);
-  mUi->geophonesPlot->PlotPage::setTexts({}, tr("Geophone at [m]"), unit);
+  mUi->geophonesPlot->PlotPage::setTexts({}, inShownUnits(tr("Geophone at [m]")), unit);
   for (const bool shots : {true, false}) {
     PointPlot& plot = shots ? *mUi->shotsPlot : *mUi->geophonesPlot;
     const std::vector<ResidualSpread>& spreads = shots ? mShots : mGeophones;
@@ -233,9 +234,9 @@ void ResidualsDialog::goTo(std::size_t pick) {
 QString ResidualsDialog::cellText(std::size_t row, std::size_t column) const {
   const std::size_t pick = mTable.pickAt(row, column);
   if (pick != ResidualTable::kNone) return residualText(mTable, pick, QLocale());
-  return tr("Shot %1, geophone at %2 m: no pick with a computed time")
+  return tr("Shot %1, geophone at %2: no pick with a computed time")
       .arg(mTable.rows[row].record + 1)
-      .arg(QLocale().toString(mTable.columns[column].x, 'f', 1));
+      .arg(lengthWithUnit(mTable.columns[column].x, 1));
 }
 
 QString ResidualsDialog::spreadText(const QString& name, const ResidualSpread& spread) const {
@@ -264,7 +265,10 @@ void ResidualsDialog::copyPicture() {
 }
 
 void ResidualsDialog::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) mUi->retranslateUi(this);
+  if (event->type() == QEvent::LanguageChange) {
+    mUi->retranslateUi(this);
+    showUnits(*this);
+  }
   if (event->type() == QEvent::PaletteChange) showViews();
   QDialog::changeEvent(event);
 }

@@ -1,8 +1,10 @@
 #include "app/dialogs/ResolutionDialog.h"
 
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/FigureSheetWidget.h"
 #include "app/dialogs/ParameterField.h"
 #include "model/GroundModel.h"
@@ -40,6 +42,7 @@ ResolutionDialog::ResolutionDialog(const TomoDocument& document, QWidget* parent
       mSheet(new FigureSheetWidget()),
       mReady(canBeTested(document)) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   setUpField(*mUi->sizeField, parameters::kPatternSize);
@@ -125,7 +128,7 @@ void ResolutionDialog::end() {
           : tr("Stopped: %n test(s) completed.", nullptr, static_cast<int>(report.tests.size())));
   mSheet->setNothing(tr("No test was completed."));
   for (const ResolutionResult& test : report.tests) {
-    mUi->shownBox->addItem(tr("%1 m").arg(QLocale().toString(test.settings.size)));
+    mUi->shownBox->addItem(lengthWithUnit(lengthDigits(test.settings.size, 6)));
   }
   mUi->smallestLabel->setText(smallestSizes());
   enable(false);
@@ -159,11 +162,11 @@ QString ResolutionDialog::smallestSizes() const {
   QStringList words;
   const std::size_t step = std::max<std::size_t>(1, (rows + kMostDepthsTold - 1) / kMostDepthsTold);
   for (std::size_t row = 0; row < rows; row += step) {
-    const QString depth = QLocale().toString(report.smallest[row].depth, 'g', 3);
+    const QString depth = lengthWithUnit(lengthDigits(report.smallest[row].depth, 3));
     const double size = report.smallest[row].size;
     words += std::isnan(size)
-                 ? tr("at %1 m none").arg(depth)
-                 : tr("at %1 m depth %2 m").arg(depth, QLocale().toString(size, 'g', 3));
+                 ? tr("at %1 none").arg(depth)
+                 : tr("at %1 depth %2").arg(depth, lengthWithUnit(lengthDigits(size, 3)));
   }
   return tr("Smallest size that is resolved (correlation from %1 on): %2.")
       .arg(QLocale().toString(kResolved), words.join(QStringLiteral("; ")));

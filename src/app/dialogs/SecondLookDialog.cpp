@@ -1,5 +1,6 @@
 #include "app/dialogs/SecondLookDialog.h"
 
+#include "app/LengthText.h"
 #include "app/ToolTips.h"
 #include "model/ChiSquare.h"
 #include "ui_SecondLookDialog.h"
@@ -166,7 +167,7 @@ void SecondLookDialog::fillCells() {
   mPatches.clear();
   if (!mLook.known) return;
   const auto atLimit = [](const CellPatch& patch, double limit) {
-    return tr("Cells at the limit of %1 m/s: %2").arg(number(limit, 0)).arg(patch.cells);
+    return tr("Cells at the limit of %1: %2").arg(velocityWithUnit(limit, 0)).arg(patch.cells);
   };
   addCells(mLook.atLeast, atLimit(mLook.atLeast, mLook.least));
   addCells(mLook.atGreatest, atLimit(mLook.atGreatest, mLook.greatest));
@@ -181,9 +182,10 @@ void SecondLookDialog::fillCells() {
 void SecondLookDialog::addCells(const CellPatch& patch, const QString& text) {
   if (patch.cells == 0) return;
   mPatches.push_back(patch);
-  mUi->cellsList->addItem(tr("%1 (%2 to %3 m, depth %4 to %5 m)")
-                              .arg(text, number(patch.left, 1), number(patch.right, 1),
-                                   number(patch.top, 1), number(patch.bottom, 1)));
+  mUi->cellsList->addItem(tr("%1 (%2 to %3, depth %4 to %5)")
+                              .arg(text, lengthNumber(patch.left, 1),
+                                   lengthWithUnit(patch.right, 1), lengthNumber(patch.top, 1),
+                                   lengthWithUnit(patch.bottom, 1)));
 }
 
 void SecondLookDialog::showSuspect(int row) {

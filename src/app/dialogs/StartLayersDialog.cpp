@@ -2,6 +2,7 @@
 
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/FigureSheetWidget.h"
 #include "app/dialogs/ParameterField.h"
@@ -25,6 +26,7 @@ StartLayersDialog::StartLayersDialog(const TomoDocument& document,
       mLook(look),
       mSheet(new FigureSheetWidget) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   mSheet->putInto(*mUi->sheetArea);
   setUpField(*mUi->thicknessEdit, parameters::kGrading);

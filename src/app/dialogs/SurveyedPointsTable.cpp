@@ -1,5 +1,8 @@
 #include "app/dialogs/SurveyedPointsTable.h"
 
+#include "app/UnitWords.h"
+#include "base/LengthUnit.h"
+
 #include <QCoreApplication>
 #include <QFont>
 #include <QLocale>
@@ -82,7 +85,7 @@ QVariant SurveyedPointsTable::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole) return {};
   if (index.column() == kName) return nameOf(mPoints[row]);
   if (index.column() == kRow) return mRows[row];
-  const double number = value(mPoints[row], index.column());
+  const double number = shownLength(value(mPoints[row], index.column()));
   if (!std::isfinite(number)) return QStringLiteral("\u2013");
   QLocale locale;
   locale.setNumberOptions(QLocale::OmitGroupSeparator);
@@ -99,18 +102,18 @@ QVariant SurveyedPointsTable::headerData(int section, Qt::Orientation orientatio
     case kRow:
       return tr("Row", "of a table");
     case kAcross:
-      return tr("Across\n(m)");
+      return inShownUnits(tr("Across\n(m)"));
     case kXBefore:
-      return tr("x before\n(m)");
+      return inShownUnits(tr("x before\n(m)"));
     case kX:
-      return tr("x\n(m)");
+      return inShownUnits(tr("x\n(m)"));
     case kXDifference:
     case kZDifference:
-      return tr("change\n(m)");
+      return inShownUnits(tr("change\n(m)"));
     case kZBefore:
-      return tr("z before\n(m)");
+      return inShownUnits(tr("z before\n(m)"));
     case kZ:
-      return tr("z\n(m)");
+      return inShownUnits(tr("z\n(m)"));
     default:
       return {};
   }

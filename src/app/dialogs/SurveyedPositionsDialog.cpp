@@ -1,10 +1,11 @@
 #include "app/dialogs/SurveyedPositionsDialog.h"
 
+#include "app/LengthText.h"
 #include "app/LossQuestion.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
-#include "app/NumberText.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/SurveyedPointsTable.h"
 #include "model/GeoTransformer.h"
 #include "model/TomoDocument.h"
@@ -31,8 +32,8 @@ std::size_t chosenColumn(const QComboBox& box) {
   return box.currentIndex() <= 0 ? kNone : static_cast<std::size_t>(box.currentIndex() - 1);
 }
 
-QString metres(double value) {
-  return QLocale().toString(value, 'f', 2);
+QString length(double metres) {
+  return lengthWithUnit(metres, 2);
 }
 
 }  // namespace
@@ -46,6 +47,7 @@ SurveyedPositionsDialog::SurveyedPositionsDialog(const TomoDocument& document, b
       mBefore(geometryOf(document)),
       mPoints(new SurveyedPointsTable(this)) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   mUi->pointsTable->setModel(mPoints);
@@ -196,7 +198,7 @@ std::optional<SurveyedOptions> SurveyedPositionsDialog::options() {
   options.stations = static_cast<StationsBy>(mUi->stationsBox->currentIndex());
   options.fromOtherEnd = mUi->otherEndCheck->isChecked();
   if (!mUi->startEdit->text().trimmed().isEmpty()) {
-    options.start = numberFrom(mUi->startEdit->text());
+    options.start = lengthFrom(mUi->startEdit->text());
     if (!options.start) return std::nullopt;
   }
   QString code = mUi->epsgEdit->text().trimmed();
@@ -318,14 +320,14 @@ QString SurveyedPositionsDialog::summary() const {
         farthest == nullptr || std::fabs(point.across) > std::fabs(farthest->across);
     if (!point.shot && farther) farthest = &point;
   }
-  return tr("With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 m across the line "
-            "(RMS), at most %6 m (%7); their spacing is %8 m.")
+  return tr("With a row: %1 of %2 geophones, %3 of %4 shots. Geophones stand %5 across the line "
+            "(RMS), at most %6 (%7); their spacing is %8.")
       .arg(surveyed[0])
       .arg(all[0])
       .arg(surveyed[1])
       .arg(all[1])
-      .arg(metres(mOutcome->rmsAcross), metres(std::fabs(farthest->across)), nameOf(*farthest),
-           metres(mOutcome->spacing));
+      .arg(length(mOutcome->rmsAcross), length(std::fabs(farthest->across)), nameOf(*farthest),
+           length(mOutcome->spacing));
 }
 
 /// The reference system that easting and northing are in, and where that is from.

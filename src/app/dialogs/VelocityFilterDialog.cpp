@@ -3,6 +3,7 @@
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/ParameterField.h"
 #include "model/FilterParameters.h"
 #include "model/Recordings.h"
@@ -14,6 +15,7 @@
 
 #include <QPushButton>
 #include <QScreen>
+#include <initializer_list>
 
 namespace talvesk {
 namespace {
@@ -31,6 +33,7 @@ VelocityFilterDialog::VelocityFilterDialog(const TomoDocument& document, int sho
       mDocument(document),
       mShot(shot) {
   mUi->setupUi(this);
+  showUnits(*this);
   resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
   wrapToolTips(*this);
   setUpField(*mUi->slowestEdit, parameters::kSlowest);
@@ -50,15 +53,16 @@ VelocityFilterDialog::~VelocityFilterDialog() = default;
 
 void VelocityFilterDialog::connectFields() {
   const auto changed = [this] { mUi->fkView->setFilter(filter()); };
-  for (QDoubleSpinBox* field : {mUi->slowestEdit, mUi->fastestEdit, mUi->taperEdit}) {
+  for (QDoubleSpinBox* field :
+       std::initializer_list<QDoubleSpinBox*>{mUi->slowestEdit, mUi->fastestEdit, mUi->taperEdit}) {
     connect(field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, changed);
   }
   connect(mUi->directionCBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, changed);
   connect(mUi->rejects, &QRadioButton::toggled, this, changed);
   connect(mUi->showAfter, &QRadioButton::toggled, mUi->fkView, &FkView::setFiltered);
   connect(mUi->applyToFiltered, &QRadioButton::toggled, this, &VelocityFilterDialog::showSpectrum);
-  connect(mUi->fkView, &FkView::slowestDragged, mUi->slowestEdit, &QDoubleSpinBox::setValue);
-  connect(mUi->fkView, &FkView::fastestDragged, mUi->fastestEdit, &QDoubleSpinBox::setValue);
+  connect(mUi->fkView, &FkView::slowestDragged, mUi->slowestEdit, &LengthBox::setValue);
+  connect(mUi->fkView, &FkView::fastestDragged, mUi->fastestEdit, &LengthBox::setValue);
 }
 
 /// Where the traces of the shot are none that the filter can work on, that is said instead.

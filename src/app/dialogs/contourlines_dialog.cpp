@@ -7,6 +7,7 @@
 #include "app/TableTexts.h"
 #include "app/dialogs/ParameterField.h"
 #include "app/dialogs/SelectCSVDelimiterDialog.h"
+#include "base/LengthUnit.h"
 #include "io/GeometryFile.h"
 #include "io/IsovalueFile.h"
 #include "ui_contourlines_dialog.h"
@@ -26,11 +27,22 @@
 namespace talvesk {
 namespace {
 
-/// With an exponent where the value is very large or small.
-QString textOf(double value) {
-  QLocale locale;
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  return locale.toString(value, 'g', QLocale::FloatingPointShortest);
+constexpr const char* kValue = "isovalue";  ///< property of a field: the value that it shows
+
+/// Digits of a value in feet, which has as many as one likes.
+constexpr int kDigits = 7;
+
+/// What values of a quantity are multiplied by to be shown; 1 where the unit has no length.
+double factorOf(SectionQuantity quantity) {
+  if (lengthUnit() == LengthUnit::kMetre) return 1.0;
+  if (quantity == SectionQuantity::kVelocity) return shownLength(1.0);
+  return quantity == SectionQuantity::kLaplacian ? metresOf(1.0) : 1.0;
+}
+
+QString shownUnitOf(SectionQuantity quantity) {
+  QString unit = QString::fromStdString(quantityUnit(quantity));
+  if (factorOf(quantity) != 1.0) unit.replace(QLatin1Char('m'), QLatin1String(lengthUnitName()));
+  return unit;
 }
 
 QString isovalueFilter() {
@@ -44,6 +56,7 @@ contourlines_dialog::contourlines_dialog(const ContourSettings& settings, Sectio
     : QDialog(parent),
       mUi(std::make_unique<Ui::contourlines_dialog>()),
       mList(contourList(shown)),
+      mFactor(factorOf(contouredQuantity(shown))),
       mRange(range),
       mFolders(folders),
       mAtFirst(settings) {
@@ -76,7 +89,8 @@ void contourlines_dialog::connectControls() {
   connect(mUi->remove_all_button, &QPushButton::clicked, this, &contourlines_dialog::removeAll);
   connect(mUi->round_button, &QPushButton::clicked, this, [this] {
     removeAll();
-    for (const double value : roundValues(mRange, kMostRoundContours)) addRow(textOf(value));
+    const ValueRange seen{mFactor * mRange.min, mFactor * mRange.max};
+    for (const double value : roundValues(seen, kMostRoundContours)) addRow(valueOf(value));
     check();
   });
   for (QCheckBox* each : {mUi->profileContours, mUi->filledContours, mUi->gradientContours,
@@ -87,15 +101,13 @@ void contourlines_dialog::connectControls() {
 }
 
 void contourlines_dialog::showRange(SectionQuantity shown) {
-  const QLocale locale;
   const SectionQuantity contoured = contouredQuantity(shown);
   const QString text = shown == contoured
                            ? tr("The section shows values from %1 to %2 %3")
                            : tr("What the section shows has no contours. Those of the velocity "
                                 "lie between %1 and %2 %3");
-  mUi->rangeLabel->setText(text.arg(locale.toString(mRange.min, 'g', 6),
-                                    locale.toString(mRange.max, 'g', 6),
-                                    QString::fromStdString(quantityUnit(contoured))));
+  mUi->rangeLabel->setText(
+      text.arg(limitText(mRange.min), limitText(mRange.max), shownUnitOf(contoured)));
 }
 
 void contourlines_dialog::fillIn(const ContourSettings& settings) {
@@ -108,7 +120,7 @@ void contourlines_dialog::fillIn(const ContourSettings& settings) {
   mUi->gradientContours->setChecked(settings.onVerticalGradient);
   mColor = QColor::fromRgbF(settings.color.r, settings.color.g, settings.color.b);
   showColor();
-  for (const double value : settings.*mList) addRow(textOf(value));
+  for (const double value : settings.*mList) addRow(value);
   enable_filled_contours();
   showWhetherAny();
   chooseCustomized(settings.customized);
@@ -168,14 +180,44 @@ void contourlines_dialog::showWhetherAny() {
 }
 
 void contourlines_dialog::add_value() {
-  addRow(QString());
+  addRow(std::nullopt);
   check();
   editors().back()->setFocus();
 }
 
-void contourlines_dialog::addRow(const QString& text) {
+/// With an exponent where the value is very large or small.
+QString contourlines_dialog::shownText(double value) const {
+  QLocale locale;
+  locale.setNumberOptions(QLocale::OmitGroupSeparator);
+  if (mFactor != 1.0) return locale.toString(mFactor * value, 'g', kDigits);
+  return locale.toString(value, 'g', QLocale::FloatingPointShortest);
+}
+
+QString contourlines_dialog::limitText(double value) const {
+  return QLocale().toString(mFactor * value, 'g', 6);
+}
+
+/// The value of a number in the unit shown; a limit that is typed as it is told is the limit.
+double contourlines_dialog::valueOf(double shown) const {
+  if (mFactor == 1.0) return shown;
+  for (const double limit : {mRange.min, mRange.max}) {
+    if (QLocale().toDouble(limitText(limit)) == shown) return limit;
+  }
+  return QString::number(shown / mFactor, 'g', 15).toDouble();
+}
+
+/// What a field has: as it was given, or what was typed.
+std::optional<double> contourlines_dialog::valueOf(const QLineEdit& edit) const {
+  const QVariant given = edit.property(kValue);
+  if (given.isValid() && edit.text() == shownText(given.toDouble())) return given.toDouble();
+  const std::optional<double> typed = numberFrom(edit.text());
+  return typed ? std::make_optional(valueOf(*typed)) : std::nullopt;
+}
+
+void contourlines_dialog::addRow(std::optional<double> value) {
   auto* row = new QWidget;
-  auto* edit = new QLineEdit(text);
+  auto* edit = new QLineEdit(value ? shownText(*value) : QString());
+  if (value) edit->setProperty(kValue, *value);
   auto* label = new QLabel(tr("Value : "));
   label->setBuddy(edit);
   auto* remove = new QToolButton;
@@ -215,15 +257,15 @@ std::vector<QLineEdit*> contourlines_dialog::editors() const {
   return found;
 }
 
-bool contourlines_dialog::isInRange(const QString& text) const {
-  const std::optional<double> value = numberFrom(text);
+bool contourlines_dialog::isInRange(const QLineEdit& edit) const {
+  const std::optional<double> value = valueOf(edit);
   return value && mRange.contains(*value);
 }
 
 std::vector<double> contourlines_dialog::sortedNumbers() const {
   std::vector<double> found;
   for (const QLineEdit* edit : editors()) {
-    if (const auto value = numberFrom(edit->text())) found.push_back(*value);
+    if (const auto value = valueOf(*edit)) found.push_back(*value);
   }
   std::sort(found.begin(), found.end());
   found.erase(std::unique(found.begin(), found.end()), found.end());
@@ -242,18 +284,17 @@ std::vector<double> contourlines_dialog::values() const {
 void contourlines_dialog::check() {
   int wrong = 0;
   for (QLineEdit* edit : editors()) {
-    const bool fine = edit->text().trimmed().isEmpty() || isInRange(edit->text());
+    const bool fine = edit->text().trimmed().isEmpty() || isInRange(*edit);
     const QString style = fine ? QString() : warningStyle(*this);
     if (edit->styleSheet() != style) edit->setStyleSheet(style);
     wrong += fine ? 0 : 1;
   }
   const bool customized = mUi->customizedCB->isChecked();
-  const QLocale locale;
   mUi->faultLabel->setText(
       !customized || wrong == 0
           ? QString()
           : tr("%n value(s) of the list are no numbers from %1 to %2.", nullptr, wrong)
-                .arg(locale.toString(mRange.min, 'g', 6), locale.toString(mRange.max, 'g', 6)));
+                .arg(limitText(mRange.min), limitText(mRange.max)));
   mUi->save_button->setEnabled(customized && wrong == 0 && !values().empty());
   mUi->remove_all_button->setEnabled(customized && mUi->rowsLayout->count() > 0);
   mUi->add_button->setEnabled(customized &&
@@ -314,7 +355,7 @@ void contourlines_dialog::takeLoaded(const std::vector<double>& loaded) {
   bool outside = false;
   for (const double value : loaded) {
     if (mRange.contains(value)) {
-      addRow(textOf(value));
+      addRow(value);
     } else {
       outside = true;
     }

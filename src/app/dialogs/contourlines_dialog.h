@@ -49,13 +49,17 @@ class contourlines_dialog : public QDialog {
   void fillIn(const ContourSettings& settings);
   void showRange(SectionQuantity shown);
   void chooseCustomized(bool customized);
-  void addRow(const QString& text);
+  QString shownText(double value) const;
+  QString limitText(double value) const;
+  double valueOf(double shown) const;
+  std::optional<double> valueOf(const QLineEdit& edit) const;
+  void addRow(std::optional<double> value);
   void removeRow(QWidget* row);
   void removeAll();
   std::vector<QLineEdit*> editors() const;
   std::vector<double> sortedNumbers() const;  ///< of all rows, each once
   std::vector<double> values() const;         ///< those of them within the range
-  bool isInRange(const QString& text) const;
+  bool isInRange(const QLineEdit& edit) const;
   void check();
   void showWhetherAny();
   void saveIsovalues();
@@ -66,6 +70,7 @@ class contourlines_dialog : public QDialog {
 
   std::unique_ptr<Ui::contourlines_dialog> mUi;
   std::vector<double> ContourSettings::*const mList;  ///< that is edited
+  const double mFactor;                               ///< of what is shown
   const ValueRange mRange;
   FileFolders& mFolders;
   QColor mColor;

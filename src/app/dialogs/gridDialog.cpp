@@ -1,9 +1,11 @@
 #include "app/dialogs/gridDialog.h"
 
 #include "app/LeftOutText.h"
+#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/ParameterField.h"
 #include "model/GroundModel.h"
 #include "model/TomoDocument.h"
@@ -39,11 +41,14 @@ gridDialog::gridDialog(const TomoDocument& survey, const SurveyProfile& profile,
       mProposedCell(proposed.cellSize),
       mSearches(searches) {
   mUi->setupUi(this);
+  showUnits(*this);
+  mUi->proposeCBox->setToolTip(mUi->proposeCBox->toolTip().arg(
+      lengthWithUnit(lengthText(parameters::kCellSize.limits.least))));
   wrapToolTips(*this);
   setUpField(*mUi->maxDepthEdit, parameters::kDepth);
   setUpField(*mUi->cellSizeEdit, parameters::kCellSize);
   setUpField(*mUi->nodesEdit, parameters::kNodes);
-  mUi->arrayLength->setText(QLocale().toString(profile.arrayLength, 'f', 2));
+  mUi->arrayLength->setText(lengthNumber(profile.arrayLength, 2));
   mUi->maxDepthEdit->setMaximum(profile.arrayLength);
   mUi->cellSizeEdit->setMaximum(std::max(profile.arrayLength, mUi->cellSizeEdit->minimum()));
   mDepth = fill(proposed.maxDepth, profile.arrayLength, *mUi->maxDepthEdit);
@@ -81,7 +86,7 @@ void gridDialog::connectFields() {
   }
 }
 
-gridDialog::Value gridDialog::fill(double exact, double most, QDoubleSpinBox& box) {
+gridDialog::Value gridDialog::fill(double exact, double most, LengthBox& box) {
   box.setValue(exact);
   return {box.value(), std::clamp(exact, box.minimum(), std::max(box.minimum(), most))};
 }
@@ -140,8 +145,8 @@ QStringList gridDialog::warningsOf(const GridPreview& preview) const {
   }
   if (settings().cellSize < kFine * mProfile.proposedCellSize) {
     warnings << tr("Such small cells make an inversion very slow, and it stops only between "
-                   "iterations. A quarter of the geophone spacing is %1 m.")
-                    .arg(QLocale().toString(mProfile.proposedCellSize, 'f', 2));
+                   "iterations. A quarter of the geophone spacing is %1.")
+                    .arg(lengthWithUnit(mProfile.proposedCellSize, 2));
   }
   if (mSurvey.result->has_tomographic_info) {
     warnings << tr("The results of the last inversion will be removed (Undo brings them back).");
@@ -152,8 +157,7 @@ QStringList gridDialog::warningsOf(const GridPreview& preview) const {
 void gridDialog::offer(QPushButton& button, const std::optional<double>& cellSize) {
   button.setVisible(cellSize.has_value());
   if (!cellSize) return;
-  button.setText(
-      tr("%1 m").arg(QLocale().toString(*cellSize, 'f', QLocale::FloatingPointShortest)));
+  button.setText(lengthWithUnit(lengthText(*cellSize)));
   button.setProperty(kCellSize, *cellSize);
 }
 

@@ -9,10 +9,11 @@
 #include <memory>
 #include <optional>
 
-class QDoubleSpinBox;
 class QPushButton;
 
 namespace talvesk {
+
+class LengthBox;
 
 namespace Ui {
 class gridDialog;
@@ -43,7 +44,7 @@ class gridDialog : public QDialog {
     double shown = 0.0;
     double exact = 0.0;
   };
-  static Value fill(double exact, double most, QDoubleSpinBox& box);
+  static Value fill(double exact, double most, LengthBox& box);
 
   void connectFields();
   void propose(bool on);

@@ -1,7 +1,9 @@
 #include "app/dialogs/runTomography_Dialog.h"
 
+#include "app/LengthText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/dialogs/ParameterField.h"
 #include "ui_runTomography_Dialog.h"
 
@@ -28,6 +30,7 @@ int wholeNumber(double velocity) {
 runTomography_Dialog::runTomography_Dialog(double minVelocity, double maxVelocity, QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::runTomography_Dialog>()) {
   mUi->setupUi(this);
+  showUnits(*this);
   wrapToolTips(*this);
   setUpField(*mUi->extIter_edit, parameters::kIterations);
   setUpField(*mUi->solvIter_Edit, parameters::kSolverIterations);
@@ -131,8 +134,8 @@ void runTomography_Dialog::setProposal(const std::optional<RunProposal>& proposa
     mUi->maxVelEdit->setValue(wholeNumber(values.maxVelocity));
     mUi->smooth_Edit->setValue(values.smoothing);
     mUi->proposalLabel->setText(
-        tr("Rays are expected down to %1 m; the grid reaches %2 m.")
-            .arg(QLocale().toString(values.depth, 'f', 1), QLocale().toString(gridDepth, 'f', 1)));
+        tr("Rays are expected down to %1; the grid reaches %2.")
+            .arg(lengthWithUnit(values.depth, 1), lengthWithUnit(gridDepth, 1)));
   });
 }
 

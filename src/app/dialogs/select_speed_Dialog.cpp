@@ -3,6 +3,7 @@
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/ToolTips.h"
+#include "app/UnitWords.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/ParameterField.h"
 #include "app/dialogs/setVelocityWidget.h"
@@ -32,6 +33,7 @@ constexpr int kProblemLines = 2;  // that the place for the problem holds withou
 select_speed_Dialog::select_speed_Dialog(TomoDocument& document, QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::select_speed_Dialog>()), mDocument(document) {
   mUi->setupUi(this);
+  showUnits(*this);
   setUpField(*mUi->thicknessEdit, parameters::kGrading);
   mUi->thicknessEdit->setToolTip(mUi->thicknessEdit->toolTip() + QStringLiteral(": ") +
                                  limitsOf(*mUi->thicknessEdit));

@@ -1,6 +1,8 @@
 #include "app/dialogs/setGeographyDialog.h"
 
+#include "app/LengthText.h"
 #include "app/NumberText.h"
+#include "base/LengthUnit.h"
 #include "ui_setGeographyDialog.h"
 
 #include <QLocale>
@@ -19,10 +21,11 @@ QString degrees(double value, const QString& positive, const QString& negative) 
          (value < 0.0 ? negative : positive);
 }
 
-QString metres(double value) {
+/// A length, in the unit shown; easting and northing are in metres, as on the map.
+QString along(double metres) {
   QLocale locale;
   locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  return locale.toString(value, 'f', 1);
+  return lengthWithUnit(locale.toString(shownLength(metres), 'f', 1));
 }
 
 }  // namespace
@@ -32,8 +35,8 @@ setGeographyDialog::setGeographyDialog(const std::optional<geographicsCoord>& co
     : QDialog(parent), mUi(std::make_unique<Ui::setGeographyDialog>()), mEnds(ends) {
   mUi->setupUi(this);
   if (ends) {
-    mUi->firstLabel->setText(tr("First geophone (at %1 m)").arg(metres(ends->first)));
-    mUi->lastLabel->setText(tr("Last geophone (at %1 m)").arg(metres(ends->last)));
+    mUi->firstLabel->setText(tr("First geophone (at %1)").arg(along(ends->first)));
+    mUi->lastLabel->setText(tr("Last geophone (at %1)").arg(along(ends->last)));
   }
   if (coordinates) {
     mUi->estFstGeoph->setText(numberText(coordinates->mEastFstGeoph));
@@ -131,11 +134,10 @@ QString setGeographyDialog::problem() const {
 }
 
 QString setGeographyDialog::lengthNote(double onMap) const {
-  const QString apart = tr("On the map the two geophones are %1 m apart").arg(metres(onMap));
+  const QString apart = tr("On the map the two geophones are %1 apart").arg(along(onMap));
   if (!mEnds) return apart + QLatin1Char('.');
-  const QString both =
-      tr("%1, along the line %2 m.", "distance on the map, distance along the line")
-          .arg(apart, metres(mEnds->length()));
+  const QString both = tr("%1, along the line %2.", "distance on the map, distance along the line")
+                           .arg(apart, along(mEnds->length()));
   if (std::abs(onMap - mEnds->length()) <= kTolerance * mEnds->length()) return both;
   return both + QLatin1Char(' ') + tr("Check the coordinates.");
 }

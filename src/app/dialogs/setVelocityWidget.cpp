@@ -1,5 +1,6 @@
 #include "app/dialogs/setVelocityWidget.h"
 
+#include "app/UnitWords.h"
 #include "app/dialogs/ParameterField.h"
 #include "ui_setVelocityWidget.h"
 
@@ -11,7 +12,8 @@ namespace talvesk {
 setVelocityWidget::setVelocityWidget(const VelocityLayer& layer, QWidget* parent)
     : QWidget(parent), mUi(std::make_unique<Ui::setVelocityWidget>()) {
   mUi->setupUi(this);
-  for (QDoubleSpinBox* depth : {mUi->d1Edit, mUi->d2Edit}) {
+  showUnits(*this);
+  for (LengthBox* depth : {mUi->d1Edit, mUi->d2Edit}) {
     setUpField(*depth, parameters::kLayerDepth);
   }
   for (QSpinBox* velocity : {mUi->v1Edit, mUi->v2Edit}) {

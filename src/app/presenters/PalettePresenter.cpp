@@ -4,9 +4,19 @@
 #include "app/presenters/PlainSection.h"
 #include "io/Survey.h"
 
+#include <QtGlobal>
 #include <utility>
 
 namespace talvesk {
+namespace {
+
+/// A limit in whole m/s. The dialog may have put it there already, with the digits that a number
+/// of feet has in metres.
+void take(int value, double& limit) {
+  if (qRound(limit) != value) limit = value;
+}
+
+}  // namespace
 
 /// The survey takes the palettes that the dialog is left with by OK.
 struct PalettePresenter::Trial {
@@ -40,12 +50,12 @@ void PalettePresenter::editPalettes() {
 }
 
 void PalettePresenter::tryMaximum(int value) {
-  if (mTrial != nullptr) mTrial->palettes.current().max_db = value;
+  if (mTrial != nullptr) take(value, mTrial->palettes.current().max_db);
   tryPalettes();
 }
 
 void PalettePresenter::tryMinimum(int value) {
-  if (mTrial != nullptr) mTrial->palettes.current().min_db = value;
+  if (mTrial != nullptr) take(value, mTrial->palettes.current().min_db);
   tryPalettes();
 }
 

@@ -1,7 +1,9 @@
 #include "app/presenters/SectionPresenter.h"
 
+#include "app/LengthText.h"
 #include "app/Messages.h"
 #include "app/presenters/PlainSection.h"
+#include "base/LengthUnit.h"
 #include "base/TextNumber.h"
 #include "figures/ProfileLines.h"
 #include "io/Survey.h"
@@ -20,6 +22,23 @@
 #include <utility>
 
 namespace talvesk {
+namespace {
+
+/// A velocity as it is offered for bands, in the unit shown.
+QString bandText(double velocity) {
+  return lengthUnit() == LengthUnit::kMetre ? QString::fromStdString(exactDouble(velocity))
+                                            : QString::number(shownLength(velocity), 'g', 6);
+}
+
+/// The velocity that was typed, m/s: one that was offered, or as it is.
+double bandOf(double typed, const std::vector<double>& proposed) {
+  for (const double velocity : proposed) {
+    if (bandText(velocity).toDouble() == typed) return velocity;
+  }
+  return metresTyped(typed);
+}
+
+}  // namespace
 
 SectionPresenter::SectionPresenter(Desk& desk) : mDesk(desk) {
   const SectionView* view = desk.ui.vtk_widget;
@@ -58,7 +77,7 @@ void SectionPresenter::chooseGeophones(GeophoneMarkers size) {
   change([size](SectionViewSettings& section) { section.geophones = size; });
 }
 
-QString SectionPresenter::proposedBands() const {
+std::vector<double> SectionPresenter::proposedBands() const {
   std::vector<double> velocities = mDesk.section().bandVelocities;
   const std::vector<IsovalueBand>& known = mDesk.document().result->certainty->bands;
   for (std::size_t i = 0; velocities.empty() && i < known.size(); ++i) {
@@ -69,24 +88,24 @@ QString SectionPresenter::proposedBands() const {
     const std::vector<double> round = roundValues(scene->dataRange, kMostRoundContours);
     if (!round.empty()) velocities.push_back(round[round.size() / 2]);
   }
-  QStringList words;
-  for (const double velocity : velocities) {
-    words += QString::fromStdString(exactDouble(velocity));
-  }
-  return words.join(QStringLiteral("; "));
+  return velocities;
 }
 
 void SectionPresenter::chooseDepthBands() {
   if (!mDesk.document().result->certainty) return;
-  QString text = proposedBands();
+  const std::vector<double> proposed = proposedBands();
+  QStringList words;
+  for (const double velocity : proposed) words += bandText(velocity);
+  QString text = words.join(QStringLiteral("; "));
   std::optional<std::vector<double>> velocities;
   while (!velocities) {
     bool accepted = false;
     text = QInputDialog::getText(
         &mDesk.window, tr("Depth Bands"),
-        tr("Up to %1 &velocities in m/s; the depths at which the middle 68 % of the members "
+        tr("Up to %1 &velocities in %2; the depths at which the middle 68 % of the members "
            "reach them are drawn as a band. None takes the bands away.")
-            .arg(kMostDepthBands),
+            .arg(kMostDepthBands)
+            .arg(QLatin1String(velocityUnitName())),
         QLineEdit::Normal, text, &accepted);
     if (!accepted) return;
     velocities = bandVelocitiesIn(text.toStdString());
@@ -96,6 +115,7 @@ void SectionPresenter::chooseDepthBands() {
                       .arg(kMostDepthBands));
     }
   }
+  for (double& velocity : *velocities) velocity = bandOf(velocity, proposed);
   change([&](SectionViewSettings& section) { section.bandVelocities = *velocities; });
 }
 
@@ -187,21 +207,22 @@ void SectionPresenter::refresh() {
 }
 
 void SectionPresenter::showCursor(const SectionReading& reading) {
-  const QLocale locale;
-  QStringList parts = {tr("Distance %1 m").arg(locale.toString(reading.position.x, 'f', 2)),
-                       tr("Elevation %1 m").arg(locale.toString(reading.position.z, 'f', 2))};
-  if (reading.depth) parts << tr("Depth %1 m").arg(locale.toString(*reading.depth, 'f', 2));
+  QStringList parts = {tr("Distance %1").arg(lengthWithUnit(reading.position.x, 2)),
+                       tr("Elevation %1").arg(lengthWithUnit(reading.position.z, 2))};
+  if (reading.depth) parts << tr("Depth %1").arg(lengthWithUnit(*reading.depth, 2));
   // What is not shown is not read either.
   if (reading.velocity && mDesk.section().profile) {
-    parts << tr("Velocity %1 m/s").arg(locale.toString(*reading.velocity, 'f', 0));
+    parts << tr("Velocity %1").arg(velocityWithUnit(*reading.velocity, 0));
   }
   if (reading.value && mDesk.section().profile &&
       mDesk.section().quantity != SectionQuantity::kVelocity) {
+    const QLocale locale;
     const QString value = locale.toString(*reading.value, 'g', 4);
+    const QString laplacian = locale.toString(*reading.value / shownLength(1.0), 'g', 4);
     parts << (mDesk.section().quantity == SectionQuantity::kVerticalGradient
                   ? tr("Gradient %1 1/s").arg(value)
               : mDesk.section().quantity == SectionQuantity::kLaplacian
-                  ? tr("Laplacian %1 1/(m\u00B7s)").arg(value)
+                  ? tr("Laplacian %1 1/(%2\u00B7s)").arg(laplacian, QLatin1String(lengthUnitName()))
               : mDesk.section().quantity == SectionQuantity::kCertainty
                   ? tr("Uncertainty %1 %").arg(value)
                   : tr("Information density %1").arg(value));

@@ -33,7 +33,7 @@ class SectionPresenter : public QObject {
   bool showsOtherwise(const SurveyChange& change) const;
   bool picksShowOtherwise(const SectionScene& scene) const;
   std::vector<SectionLine> refractors() const;
-  QString proposedBands() const;
+  std::vector<double> proposedBands() const;  ///< m/s
   QString whyNoSection() const;
   QList<QAction*> waysToASection() const;
   void showCursor(const SectionReading& reading);

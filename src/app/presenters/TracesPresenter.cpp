@@ -1,5 +1,6 @@
 #include "app/presenters/TracesPresenter.h"
 
+#include "app/LengthText.h"
 #include "app/LossQuestion.h"
 #include "app/MessageText.h"
 #include "app/dialogs/MendDialog.h"
@@ -127,10 +128,9 @@ void TracesPresenter::retranslate() {
 
 void TracesPresenter::refreshChooser() {
   mChooser->clear();
-  const QLocale locale;
   for (std::size_t i = 0; i < mDesk.document().ttArray.size(); ++i) {
     const TravelTime& record = mDesk.document().ttArray[i];
-    const QString place = tr("%1 m").arg(locale.toString(record.shotPos2d.x, 'f', 1));
+    const QString place = lengthWithUnit(record.shotPos2d.x, 1);
     const auto number = static_cast<int>(i + 1);
     const std::string file = shotFile(mDesk.document(), i);
     QString name = QFileInfo(QString::fromStdString(file)).fileName();
@@ -160,7 +160,7 @@ void TracesPresenter::showCursor(const TraceCursor& cursor) {
   const QLocale locale;
   QStringList parts = {tr("Trace %1").arg(cursor.trace + 1)};
   if (!cursor.takesPart) parts << tr("disabled or killed");
-  if (cursor.offset) parts << tr("Offset %1 m").arg(locale.toString(*cursor.offset, 'f', 1));
+  if (cursor.offset) parts << tr("Offset %1").arg(lengthWithUnit(*cursor.offset, 1));
   if (cursor.time) parts << tr("Time %1 ms").arg(locale.toString(1000.0 * *cursor.time, 'f', 2));
   if (cursor.reduced) {
     parts << tr("Reduced %1 ms").arg(locale.toString(1000.0 * *cursor.reduced, 'f', 2));
