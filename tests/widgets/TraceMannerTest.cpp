@@ -303,6 +303,7 @@ TEST(FoldedGuides, doNotJumpFromSideToSide) {
   }
   const ShotTraces traces(&document, 0, false, {OffsetOrder::kAbsolute, 0.0, 0.0});
   const TraceLayout layout = TraceLayout::byOffset(traces.mapping());
+  EXPECT_EQ(airWaveLine(traces, layout, 340.0).front(), QPointF(0.0, 0.0)) << "from the shot on";
   const auto lines = computedLines(traces, layout);
   ASSERT_EQ(lines.size(), 2U);
   for (const auto& line : lines) {

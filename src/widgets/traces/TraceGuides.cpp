@@ -174,7 +174,8 @@ std::vector<QPointF> airWaveLine(const ShotTraces& traces, const TraceLayout& la
   for (const int trace : layout.order()) {
     line.emplace_back(layout.position(trace), std::fabs(traces.offset(trace)) / velocity);
   }
-  if (*shot > layout.first() && *shot < layout.last()) {
+  const bool folded = layout.offsetOrder() == OffsetOrder::kAbsolute;  // the shot stands at its end
+  if ((folded || *shot > layout.first()) && *shot < layout.last()) {
     const auto right = std::lower_bound(line.begin(), line.end(), *shot,
                                         [](const QPointF& p, double x) { return p.x() < x; });
     line.insert(right, QPointF(*shot, 0.0));
