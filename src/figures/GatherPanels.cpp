@@ -223,7 +223,7 @@ class PanelPainter {
           metrics.elidedText(word.text, Qt::ElideMiddle, std::max(canvas.right() - left, 0.0));
       painter.setPen(word.color);
       painter.drawText(QPointF(left, canvas.top() - 3.0 - metrics.descent()), text);
-      left += metrics.horizontalAdvance(text + QLatin1Char(' '));
+      left += metrics.horizontalAdvance(text + QStringLiteral("   "));
     }
     painter.setPen(Qt::black);
   }

@@ -64,6 +64,8 @@ TEST_F(ShotTables, headersGoToTheTraceOfTheCurrentRow) {
   EXPECT_EQ(inView(), "3, 3");
   QTest::keyClick(&table(), Qt::Key_Up);
   EXPECT_EQ(inView(), "3, 2");
+  QTest::keyClick(&table(), Qt::Key_Return);  // neither closes the window nor opens the guide
+  EXPECT_TRUE(dialog("TraceHeadersDialog")->isVisible());
 }
 
 TEST_F(ShotTables, headersAreSortedAndTheCurrentTraceStaysTheCurrentOne) {

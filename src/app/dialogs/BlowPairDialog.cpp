@@ -10,6 +10,7 @@
 
 #include <QFileInfo>
 #include <QImage>
+#include <QKeyEvent>
 #include <QLocale>
 #include <QPainter>
 #include <QPixmap>
@@ -237,6 +238,15 @@ BlowPair::Set BlowPairDialog::wanted() const {
 void BlowPairDialog::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) mUi->retranslateUi(this);
   QDialog::changeEvent(event);
+}
+
+/// Return in a field takes its value, and no button answers for it.
+void BlowPairDialog::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (auto* button = qobject_cast<QAbstractButton*>(focusWidget())) button->click();
+    return;
+  }
+  QDialog::keyPressEvent(event);
 }
 
 }  // namespace talvesk

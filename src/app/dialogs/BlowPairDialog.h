@@ -43,6 +43,7 @@ class BlowPairDialog : public QDialog {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   class Sheet;

@@ -125,6 +125,11 @@ void TraceHeadersDialog::changeEvent(QEvent* event) {
 
 void TraceHeadersDialog::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy)) return copy();
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    // No button answers for the table: it would be that of the guide.
+    if (auto* button = qobject_cast<QAbstractButton*>(focusWidget())) button->click();
+    return;
+  }
   QDialog::keyPressEvent(event);
 }
 
