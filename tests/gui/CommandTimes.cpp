@@ -172,7 +172,10 @@ class Walk {
       give(*command.action, command.key, accepts);
       // The next one finds the survey as it was.
       if (mEdited == Edited::kForth) mWindow.session().undo();
-      if (mEdited == Edited::kBack) mWindow.session().redo();
+      if (mEdited == Edited::kBack) {
+        mWindow.session().redo();
+        mWindow.showFile(0);  // shots that were away are back, and none of them in view
+      }
     }
   }
 

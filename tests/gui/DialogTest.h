@@ -55,6 +55,7 @@
 #include "io/SegyFile.h"
 #include "io/Survey.h"
 #include "model/ChiSquare.h"
+#include "model/TomographyOutcome.h"
 #include "refraction/BuildProfiles.h"
 #include "refraction/ShotArrivals.h"
 #include "refraction/methods/MethodResult.h"
@@ -175,7 +176,19 @@ class DialogTest : public WindowTest {
          }},
         {"known ground", [&] { return make<KnownGroundDialog>(KnownGround(), QString()); }},
         {"reciprocity", [&] { return make<ReciprocityDialog>(); }},
-        {"residuals", [&] { return make<ResidualsDialog>(); }},
+        {"residuals",
+         [&] {
+           TomoDocument computed = line;
+           computed.result.edit().has_tomographic_info = true;
+           computed.result.edit().timesOfSection = true;
+           for (TravelTime& record : computed.ttArray.edit()) {
+             record.ttCalcolati = std::vector<double>(record.ttMisurati.size(), 0.02);
+           }
+           auto dialog = std::make_unique<ResidualsDialog>(window.get());
+           dialog->showSurvey(computed, SectionFigureOptions());
+           EXPECT_FALSE(dialog->table().picks.empty());
+           return std::unique_ptr<QDialog>(std::move(dialog));
+         }},
         {"runs", [&] { return make<RunsDialog>(); }},
         {"two runs", [&] { return make<CompareRunsDialog>(line, SectionFigureOptions(), false); }},
         {"second look", [&] { return make<SecondLookDialog>(); }},
