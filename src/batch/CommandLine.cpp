@@ -69,6 +69,7 @@ void addPick(CLI::App& app, PickOptions& pick) {
   addImages(command, pick.images,
             "Draw the traces with their picks: a .pdf with a page per shot, or a .png or .svg per "
             "shot, numbered");
+  addFeet(command);
   CLI::Option* quiet = command.add_flag("--quiet", pick.quiet, kQuietHelp);
   command.add_flag("--verbose", pick.verbose, "Print the messages of the readers and the picker")
       ->excludes(quiet);
