@@ -14,14 +14,14 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 
 /// What a command leaves behind, in the unit that it was asked for.
-struct Run {
+struct FeetRun {
   Outcome outcome;
   std::string picture;
   std::string report;
   std::string table;
 };
 
-Run runWith(const std::string& command, const std::vector<std::string>& more, bool feet) {
+FeetRun runWith(const std::string& command, const std::vector<std::string>& more, bool feet) {
   const Folder folder;
   const std::string table = folder / "table.csv";
   std::vector<std::string> arguments = {command,    folder.write("line.otte", smallLine()),
@@ -31,7 +31,7 @@ Run runWith(const std::string& command, const std::vector<std::string>& more, bo
                                         "--json",   "-"};
   for (const std::string& one : more) arguments.push_back(one == "TABLE" ? table : one);
   if (feet) arguments.push_back("--feet");
-  Run run;
+  FeetRun run;
   run.outcome = runBatch(arguments);
   EXPECT_EQ(run.outcome.code, 0) << run.outcome.err;
   run.picture = contentsOf(folder / "picture.svg");
@@ -41,7 +41,7 @@ Run runWith(const std::string& command, const std::vector<std::string>& more, bo
 }
 
 /// The JSON without how long it took.
-nlohmann::json resultsOf(const Run& run) {
+nlohmann::json resultsOf(const FeetRun& run) {
   nlohmann::json json = nlohmann::json::parse(run.outcome.out);
   json.erase("elapsed_s");
   json.erase("computing_s");
@@ -60,8 +60,8 @@ TEST(Feet, areInPicturesAndReportsAndNowhereElse) {
                 "Elevation [m]"},
                {"refract", {"--table", "TABLE"}, "Z (ft)", "Z (m)"}};
   for (const auto& fact : facts) {
-    const Run metres = runWith(fact.command, fact.more, false);
-    const Run feet = runWith(fact.command, fact.more, true);
+    const FeetRun metres = runWith(fact.command, fact.more, false);
+    const FeetRun feet = runWith(fact.command, fact.more, true);
     EXPECT_THAT(metres.picture, HasSubstr(fact.inMetres));
     EXPECT_THAT(feet.picture, HasSubstr(fact.inFeet));
     EXPECT_THAT(feet.picture, Not(HasSubstr(fact.inMetres)));

@@ -2,6 +2,7 @@
 #include "app/LineIcon.h"
 #include "base/Log.h"
 #include "gui/WindowTest.h"
+#include "model/TomoDocument.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 
