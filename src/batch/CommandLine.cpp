@@ -140,6 +140,7 @@ void addPick(CLI::App& app, PickOptions& pick) {
               "at most 10x10")
           ->type_name("ROWSxCOLUMNS");
   addGatherManner(command, pick.manner, image);
+  addFeet(command);
   CLI::Option* quiet = command.add_flag("--quiet", pick.quiet, kQuietHelp);
   command.add_flag("--verbose", pick.verbose, "Print the messages of the readers and the picker")
       ->excludes(quiet);

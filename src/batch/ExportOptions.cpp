@@ -232,6 +232,7 @@ void addExport(CLI::App& app, ExportOptions& options) {
                     "exaggeration, switches and marked isolines of this file, named *.tvstyle "
                     "(default: the project's)"),
             {".tvstyle"}, true);
+  addFeet(command);
   command.add_flag("--quiet", options.quiet, kQuietHelp);
   command.final_callback([&options] {
     checkProjects(options);

@@ -400,6 +400,7 @@ void addInvert(CLI::App& app, InvertOptions& options) {
   addResolutionOption(command, options);
   addOutputOptions(command, options);
   addReport(command, options.report, options.reportFields);
+  addFeet(command);
   CLI::Option* quiet = command.add_flag("--quiet", options.quiet, kQuietHelp);
   command
       .add_flag(

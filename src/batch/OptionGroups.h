@@ -66,6 +66,9 @@ CLI::Option* addPickReader(CLI::App& command, TravelTimeReading& picks);
 /// --time-unit, of picks in tables. `picks` must outlive the parsing.
 void addPickReading(CLI::App& command, TravelTimeReading& picks);
 
+/// --feet: the unit of pictures, prints and reports; without it that is the metre.
+void addFeet(CLI::App& command);
+
 /// A repeatable --image with names that a picture can have.
 CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
                        const std::string& help);

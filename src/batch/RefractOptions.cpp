@@ -103,6 +103,7 @@ void addRefract(CLI::App& app, RefractOptions& options) {
           ->needs(project);
   for (CLI::Option* option : {json, table, misfit, image, project, start}) option->group("Output");
   addReport(command, options.report, options.reportFields);
+  addFeet(command);
   CLI::Option* quiet = command.add_flag("--quiet", options.quiet, kQuietHelp);
   command
       .add_flag("--verbose", options.verbose,

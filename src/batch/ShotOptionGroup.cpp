@@ -1,3 +1,4 @@
+#include "base/LengthUnit.h"
 #include "batch/OptionGroups.h"
 #include "batch/OptionParsing.h"
 #include "batch/ShotPicking.h"
@@ -297,6 +298,14 @@ CLI::Option* addImages(CLI::App& command, std::vector<std::string>& images,
   CLI::Option* image =
       command.add_option("--image", images, help)->type_name("FILE")->allow_extra_args(false);
   return mustEndIn(image, {".png", ".svg", ".pdf"}, true);
+}
+
+void addFeet(CLI::App& command) {
+  command.preparse_callback([](std::size_t) { setLengthUnit(LengthUnit::kMetre); });
+  command.add_flag_callback(
+      "--feet", [] { setLengthUnit(LengthUnit::kFoot); },
+      "Show lengths and velocities in feet (0.3048 m) in pictures, prints and reports; all else "
+      "stays in metres");
 }
 
 std::string kindsOfInput() {

@@ -31,5 +31,18 @@ TEST(SettingsDialog, asksWhereSamplesAreKept) {
   EXPECT_EQ(settings.samplesOnDisk, static_cast<int>(SamplesOnDisk::kAlways));
 }
 
+TEST(SettingsDialog, asksForTheUnitOfLengths) {
+  Settings settings{std::string()};
+  for (const bool feet : {true, false}) {
+    const SettingsDialog dialog({}, 0, settings);
+    auto& box = *dialog.findChild<QComboBox*>(QStringLiteral("lengthUnit"));
+    EXPECT_EQ(box.currentText(),
+              feet ? QStringLiteral("metres") : QStringLiteral("feet (0.3048 m)"));
+    box.setCurrentIndex(feet ? 1 : 0);
+    dialog.apply(settings);
+    EXPECT_EQ(settings.feet, feet);
+  }
+}
+
 }  // namespace
 }  // namespace talvesk

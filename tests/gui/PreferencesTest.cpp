@@ -2,6 +2,7 @@
 #include "app/LineIcon.h"
 #include "base/Log.h"
 #include "gui/WindowTest.h"
+#include "model/TomoDocument.h"
 #include "widgets/TravelTimePlot.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 
@@ -15,6 +16,9 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTest>
+
+#include <qwt_plot.h>
+#include <qwt_text.h>
 
 namespace talvesk {
 namespace {
@@ -128,6 +132,36 @@ TEST_F(Preferences, areOneStateWithTheMenuAndSurviveARestart) {
   EXPECT_TRUE(window->settings().savePngHColorbar);
   EXPECT_TRUE(window->settings().twoColors);
   EXPECT_TRUE(child<editTravelTimesWidget>("showTracesWidget").options().twoColors);
+}
+
+TEST_F(Preferences, showLengthsInFeetAtOnceAndAfterARestart) {
+  open();
+  loadShots(1);
+  const auto axis = [this] {
+    return child<TravelTimePlot>("travelTimeCurves")
+        .findChild<QwtPlot*>()
+        ->axisTitle(QwtPlot::xBottom)
+        .text()
+        .toStdString();
+  };
+  const auto chooseUnit = [this](int index) {
+    inSettingsDialog([index](QWidget& dialog) {
+      dialog.findChild<QComboBox*>("lengthUnit")->setCurrentIndex(index);
+    });
+    action("actionSettings").trigger();
+    QTest::qWait(20);
+  };
+  EXPECT_EQ(axis(), "Distance [m]");
+  const double source = window->document().ttArray[0].shotPos2d.x;
+  chooseUnit(1);
+  EXPECT_EQ(axis(), "Distance [ft]");
+  EXPECT_EQ(window->document().ttArray[0].shotPos2d.x, source) << "nothing is converted";
+  open();
+  QTest::qWait(20);
+  EXPECT_TRUE(window->settings().feet);
+  EXPECT_EQ(axis(), "Distance [ft]");
+  chooseUnit(0);
+  EXPECT_EQ(axis(), "Distance [m]");
 }
 
 TEST_F(Preferences, rememberWhetherErrorBarsAreShown) {

@@ -46,6 +46,7 @@ SettingsDialog::SettingsDialog(const std::vector<Language>& languages, int curre
   mUi->undoMegabytes->setRange(Settings::kLeastUndo, Settings::kMostUndo);
   mUi->undoMegabytes->setValue(settings.undoMegabytes);
   mUi->samplesOnDisk->setCurrentIndex(settings.samplesOnDisk);
+  mUi->lengthUnit->setCurrentIndex(settings.feet ? 1 : 0);
   fitToScreen();
 }
 
@@ -72,6 +73,7 @@ void SettingsDialog::apply(Settings& settings) const {
   forEachOption(*mUi, settings, [](const QCheckBox& box, bool& value) { value = box.isChecked(); });
   settings.undoMegabytes = mUi->undoMegabytes->value();
   settings.samplesOnDisk = mUi->samplesOnDisk->currentIndex();
+  settings.feet = mUi->lengthUnit->currentIndex() == 1;
 }
 
 }  // namespace talvesk

@@ -1,12 +1,18 @@
 #include "app/presenters/SettingsPresenter.h"
 
 #include "app/dialogs/SettingsDialog.h"
+#include "base/LengthUnit.h"
 #include "base/SampleStore.h"
+
+#include <QApplication>
+#include <QEvent>
 
 namespace talvesk {
 
 SettingsPresenter::SettingsPresenter(Desk& desk) : mDesk(desk) {
-  if (desk.settings.load()) {
+  const bool known = desk.settings.load();
+  changeUnit();
+  if (known) {
     changeLanguage(mLanguages.indexOf(QString::fromStdString(desk.settings.language)));
   } else {
     mFirstRun = true;
@@ -36,6 +42,7 @@ bool SettingsPresenter::askFor(int language) {
   if (dialog.exec() != QDialog::Accepted) return false;
   dialog.apply(mDesk.settings);
   boundMemory();
+  changeUnit();
   changed();
   if (dialog.languageIndex() != mLanguages.current()) changeLanguage(dialog.languageIndex());
   return true;
@@ -44,6 +51,16 @@ bool SettingsPresenter::askFor(int language) {
 void SettingsPresenter::boundMemory() {
   mDesk.session.setUndoMemory(static_cast<std::size_t>(mDesk.settings.undoMegabytes) << 20);
   SampleStore::instance().setWhen(static_cast<SamplesOnDisk>(mDesk.settings.samplesOnDisk));
+}
+
+/// A text with a unit is as stale as one of another language, and so are the numbers at an axis:
+/// all windows are told in the same way.
+void SettingsPresenter::changeUnit() {
+  const LengthUnit unit = mDesk.settings.feet ? LengthUnit::kFoot : LengthUnit::kMetre;
+  if (unit == lengthUnit()) return;
+  setLengthUnit(unit);
+  QEvent change(QEvent::LanguageChange);
+  QApplication::sendEvent(qApp, &change);  // windows get it from the event loop
 }
 
 void SettingsPresenter::changeLanguage(int index) {

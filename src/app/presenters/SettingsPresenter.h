@@ -25,6 +25,7 @@ class SettingsPresenter : public QObject {
  private:
   bool askFor(int language);
   void boundMemory();
+  void changeUnit();
   void changeLanguage(int index);
 
   Desk& mDesk;
