@@ -9,8 +9,14 @@
 #include <QHeaderView>
 #include <QKeySequence>
 #include <QMessageBox>
+#include <algorithm>
 
 namespace talvesk {
+namespace {
+
+constexpr int kBesideColumns = 90;  ///< pixels: numbers of rows, a scroll bar, frames
+
+}  // namespace
 
 KnownGroundDialog::KnownGroundDialog(const KnownGround& known, const QString& remark,
                                      QWidget* parent)
@@ -45,7 +51,14 @@ void KnownGroundDialog::setUpTable(SpreadsheetView& view, int kind) {
   mTables.push_back(table);
   view.setModel(table);
   view.setRowsEditable(true);
-  view.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  QHeaderView& heads = *view.horizontalHeader();
+  heads.setSectionResizeMode(QHeaderView::Stretch);
+  int widest = 0;
+  for (int column = 0; column < table->columnCount(); ++column) {
+    widest = std::max(widest, heads.sectionSizeHint(column));
+  }
+  heads.setMinimumSectionSize(widest);
+  resize(std::max(width(), widest * table->columnCount() + kBesideColumns), height());
   view.setCurrentIndex(table->index(0, 0));
   connect(&view, &SpreadsheetView::pasteRequested, table, &KnownTable::paste);
   connect(&view, &SpreadsheetView::clearRequested, table, &KnownTable::clear);

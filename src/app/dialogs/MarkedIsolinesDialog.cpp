@@ -13,6 +13,7 @@
 #include <QDoubleSpinBox>
 #include <QHeaderView>
 #include <QSignalBlocker>
+#include <algorithm>
 
 namespace talvesk {
 namespace {
@@ -35,7 +36,8 @@ MarkedIsolinesDialog::MarkedIsolinesDialog(const std::vector<MarkedIsoline>& iso
   }
   wrapToolTips(*this);
   mUi->isolinesTable->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
-  mUi->isolinesTable->setColumnWidth(kVelocity, 140);
+  mUi->isolinesTable->setColumnWidth(
+      kVelocity, std::max(140, mUi->isolinesTable->horizontalHeader()->sectionSizeHint(kVelocity)));
   for (const MarkedIsoline& isoline : isolines) addRow(isoline);
   connect(mUi->addButton, &QPushButton::clicked, this, &MarkedIsolinesDialog::addNew);
   connect(mUi->removeButton, &QPushButton::clicked, this, &MarkedIsolinesDialog::removeRow);
