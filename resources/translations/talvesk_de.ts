@@ -160,6 +160,219 @@
     </message>
 </context>
 <context>
+    <name>talvesk::BlowPairDialog</name>
+    <message>
+        <source>Two shots</source>
+        <translation>Zwei Schüsse</translation>
+    </message>
+    <message>
+        <source>&amp;First:</source>
+        <translation>&amp;Erster:</translation>
+    </message>
+    <message>
+        <source>The recording that time and places are counted by</source>
+        <translation>Die Aufzeichnung, nach der Zeiten und Stellen gezählt werden</translation>
+    </message>
+    <message>
+        <source>S&amp;econd:</source>
+        <translation>&amp;Zweiter:</translation>
+    </message>
+    <message>
+        <source>The recording that is laid over it; the nearest is proposed</source>
+        <translation>Die Aufzeichnung, die darübergelegt wird; vorgeschlagen wird die nächstgelegene</translation>
+    </message>
+    <message>
+        <source>The traces of both over each other</source>
+        <translation>Die Spuren beider übereinander</translation>
+    </message>
+    <message>
+        <source>&amp;Overlaid</source>
+        <translation>Über&amp;lagert</translation>
+    </message>
+    <message>
+        <source>First less second: of blows of opposite sense it enhances S waves</source>
+        <translation>Erster minus zweiter: Bei Schlägen entgegengesetzter Richtung verstärkt das S-Wellen</translation>
+    </message>
+    <message>
+        <source>&amp;Difference</source>
+        <translation>&amp;Differenz</translation>
+    </message>
+    <message>
+        <source>Of blows of opposite sense it enhances P waves</source>
+        <translation>Bei Schlägen entgegengesetzter Richtung verstärkt das P-Wellen</translation>
+    </message>
+    <message>
+        <source>S&amp;um</source>
+        <translation>&amp;Summe</translation>
+    </message>
+    <message>
+        <source>The second is made as strong as the first</source>
+        <translation>Der zweite wird so stark gemacht wie der erste</translation>
+    </message>
+    <message>
+        <source>E&amp;qual strength</source>
+        <translation>&amp;Gleiche Stärke</translation>
+    </message>
+    <message>
+        <source>All traces by one measure; else each pair of traces by the larger of both</source>
+        <translation>Alle Spuren nach einem Maß; sonst jedes Spurenpaar nach der größeren von beiden</translation>
+    </message>
+    <message>
+        <source>True &amp;amplitudes</source>
+        <translation>Wahre &amp;Amplituden</translation>
+    </message>
+    <message>
+        <source>The filtered copies of traces that have one</source>
+        <translation>Die gefilterten Kopien der Spuren, die eine haben</translation>
+    </message>
+    <message>
+        <source>Filtered co&amp;pies</source>
+        <translation>Gefilterte &amp;Kopien</translation>
+    </message>
+    <message>
+        <source>Mark the first breaks of both, each in its colour</source>
+        <translation>Die Ersteinsätze beider markieren, jeweils in ihrer Farbe</translation>
+    </message>
+    <message>
+        <source>Pic&amp;ks</source>
+        <translation>&amp;Picks</translation>
+    </message>
+    <message>
+        <source>&amp;Gain:</source>
+        <translation>&amp;Verstärkung:</translation>
+    </message>
+    <message>
+        <source>Swing of the largest value, in distances between traces</source>
+        <translation>Ausschlag des größten Werts, in Spurabständen</translation>
+    </message>
+    <message>
+        <source>&amp;Times to:</source>
+        <translation>Zeiten &amp;bis:</translation>
+    </message>
+    <message>
+        <source>Where the axis of time ends; automatic: where half as long again as the last pick takes is over</source>
+        <translation>Wo die Zeitachse endet; automatisch: beim Anderthalbfachen der Zeit des letzten Picks</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>What is added or saved</source>
+        <translation>Was hinzugefügt oder gespeichert wird</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Summe</translation>
+    </message>
+    <message>
+        <source>As a shot of the survey, without picks, at the place of the first; Undo takes it away</source>
+        <translation>Als Schuss der Messung, ohne Picks, an der Stelle des ersten; „Rückgängig“ nimmt ihn weg</translation>
+    </message>
+    <message>
+        <source>Add to su&amp;rvey</source>
+        <translation>Zur &amp;Messung hinzufügen</translation>
+    </message>
+    <message>
+        <source>As SEG-2 or SEG-Y</source>
+        <translation>Als SEG-2 oder SEG-Y</translation>
+    </message>
+    <message>
+        <source>Save s&amp;hot file ...</source>
+        <translation>S&amp;chussdatei speichern ...</translation>
+    </message>
+    <message>
+        <source>What is shown, as PNG, SVG or PDF</source>
+        <translation>Was gezeigt wird, als PNG, SVG oder PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>B&amp;ild speichern ...</translation>
+    </message>
+    <message>
+        <source>Traces of both shots, their difference and their sum</source>
+        <translation>Spuren beider Schüsse, ihre Differenz und ihre Summe</translation>
+    </message>
+    <message>
+        <source>one sense</source>
+        <comment>of a pair of blows</comment>
+        <translation>eine Schlagrichtung</translation>
+    </message>
+    <message>
+        <source>other sense</source>
+        <comment>of a pair of blows</comment>
+        <translation>andere Schlagrichtung</translation>
+    </message>
+    <message>
+        <source>at %1 %2</source>
+        <comment>place, unit</comment>
+        <translation>bei %1 %2</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2</source>
+        <translation>Schuss %1: %2</translation>
+    </message>
+    <message>
+        <source>There are no two recordings to be compared.</source>
+        <translation>Es gibt keine zwei Aufzeichnungen, die verglichen werden könnten.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignDialog</name>
+    <message>
+        <source>Campaign page</source>
+        <translation>Kampagnenseite</translation>
+    </message>
+    <message>
+        <source>A web page of every project, and one on all of them: a table, the sections in small by one scale of colours, and a map. The projects stay as they are.</source>
+        <translation>Eine Webseite für jedes Projekt und eine über alle: eine Tabelle, die Schnitte im Kleinen mit einer gemeinsamen Farbskala und eine Karte. Die Projekte bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>&amp;Projects:</source>
+        <translation>&amp;Projekte:</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Projekte</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>Projekte &amp;hinzufügen ...</translation>
+    </message>
+    <message>
+        <source>Take the projects that are selected off the list; their files stay</source>
+        <translation>Nimmt die ausgewählten Projekte aus der Liste; ihre Dateien bleiben</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>&amp;Client:</source>
+        <translation>&amp;Auftraggeber:</translation>
+    </message>
+    <message>
+        <source>S&amp;ite:</source>
+        <translation>&amp;Ort:</translation>
+    </message>
+    <message>
+        <source>A&amp;uthor:</source>
+        <translation>&amp;Bearbeiter:</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CampaignPage</name>
     <message>
         <source>RMS misfit [ms]</source>
@@ -1625,6 +1838,14 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Depths by P and S differ: it may be different ground.</source>
         <translation>Die Tiefen aus P und S unterscheiden sich: Es kann verschiedener Untergrund sein.</translation>
     </message>
+    <message>
+        <source>Preview and print the curves at a chosen scale</source>
+        <translation>Vorschau und Druck der Kurven in einem gewählten Maßstab</translation>
+    </message>
+    <message>
+        <source>Print ...</source>
+        <translation>Drucken ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ErrorBands</name>
@@ -1770,6 +1991,20 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>%1: %2</source>
         <comment>line, why</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Lines of the fence</source>
+        <translation>Messlinien des Zaundiagramms</translation>
+    </message>
+    <message>
+        <source>Converted: %1.</source>
+        <comment>lines</comment>
+        <translation>Umgerechnet: %1.</translation>
+    </message>
+    <message>
+        <source>%1 from EPSG:%2 to EPSG:%3</source>
+        <comment>line, systems</comment>
+        <translation>%1 von EPSG:%2 nach EPSG:%3</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2625,80 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>Elevation %1</source>
         <translation>Höhe %1</translation>
     </message>
+    <message>
+        <source>Sum</source>
+        <translation>Summe</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Each pair of traces to one maximum, gain %1</source>
+        <translation>Jedes Spurenpaar auf ein Maximum, Verstärkung %1</translation>
+    </message>
+    <message>
+        <source>Absolute offset [%1]</source>
+        <translation>Absoluter Offset [%1]</translation>
+    </message>
+    <message>
+        <source>Reduced time [ms], t - |x|/%1 %2</source>
+        <translation>Reduzierte Zeit [ms], t - |x|/%1 %2</translation>
+    </message>
+    <message>
+        <source>gain with time t^%1</source>
+        <comment>exponent</comment>
+        <translation>Verstärkung mit der Zeit t^%1</translation>
+    </message>
+    <message>
+        <source>offsets not known: not drawn by offset or reduced as asked</source>
+        <translation>Offsets nicht bekannt: nicht wie verlangt nach Offset oder reduziert gezeichnet</translation>
+    </message>
+    <message>
+        <source>All traces of a shot to one maximum, gain %1</source>
+        <translation>Alle Spuren eines Schusses auf ein Maximum, Verstärkung %1</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2</source>
+        <comment>what is left out of it, or mended</comment>
+        <translation>Schuss %1: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Blatt %1 von %2</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
+        <source>Misfit in each iteration</source>
+        <translation>Abweichung in jeder Iteration</translation>
+    </message>
+    <message>
+        <source>Residuals along the rays</source>
+        <translation>Residuen entlang der Strahlen</translation>
+    </message>
+    <message>
+        <source>Residuals</source>
+        <translation>Residuen</translation>
+    </message>
+    <message>
+        <source>Depth profile</source>
+        <translation>Tiefenprofil</translation>
+    </message>
+    <message>
+        <source>P and S</source>
+        <translation>P und S</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2: row %3, column %4</source>
+        <translation>Blatt %1 von %2: Zeile %3, Spalte %4</translation>
+    </message>
+    <message>
+        <source>1 cm is %1 ms</source>
+        <translation>1 cm sind %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -2555,6 +2864,146 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>%1 dB</source>
         <translation>%1 dB</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GatherSheetDialog</name>
+    <message>
+        <source>Sheet of shots</source>
+        <translation>Blatt mit Schüssen</translation>
+    </message>
+    <message>
+        <source>&amp;Rows:</source>
+        <translation>&amp;Zeilen:</translation>
+    </message>
+    <message>
+        <source>Shots one above the other</source>
+        <translation>Schüsse übereinander</translation>
+    </message>
+    <message>
+        <source>&amp;Columns:</source>
+        <translation>&amp;Spalten:</translation>
+    </message>
+    <message>
+        <source>Shots side by side</source>
+        <translation>Schüsse nebeneinander</translation>
+    </message>
+    <message>
+        <source>&amp;First shot:</source>
+        <translation>&amp;Erster Schuss:</translation>
+    </message>
+    <message>
+        <source>The shots from this one on</source>
+        <translation>Die Schüsse ab diesem</translation>
+    </message>
+    <message>
+        <source>&amp;Last shot:</source>
+        <translation>&amp;Letzter Schuss:</translation>
+    </message>
+    <message>
+        <source>The shots up to this one</source>
+        <translation>Die Schüsse bis zu diesem</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>&amp;Times to:</source>
+        <translation>Zeiten &amp;bis:</translation>
+    </message>
+    <message>
+        <source>Where the axis of time ends; automatic: where half as long again as the last pick takes is over</source>
+        <translation>Wo die Zeitachse endet; automatisch: beim Anderthalbfachen der Zeit des letzten Picks</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Gain:</source>
+        <translation>&amp;Verstärkung:</translation>
+    </message>
+    <message>
+        <source>Swing of the largest value, in distances between traces</source>
+        <translation>Ausschlag des größten Werts, in Spurabständen</translation>
+    </message>
+    <message>
+        <source>Mark the first breaks</source>
+        <translation>Die Ersteinsätze markieren</translation>
+    </message>
+    <message>
+        <source>P&amp;icks</source>
+        <translation>P&amp;icks</translation>
+    </message>
+    <message>
+        <source>All traces of a shot to one measure</source>
+        <translation>Alle Spuren eines Schusses nach einem Maß</translation>
+    </message>
+    <message>
+        <source>True &amp;amplitudes</source>
+        <translation>Wahre &amp;Amplituden</translation>
+    </message>
+    <message>
+        <source>The filtered copies of the traces that have one</source>
+        <translation>Die gefilterten Kopien der Spuren, die eine haben</translation>
+    </message>
+    <message>
+        <source>Filtered c&amp;opies</source>
+        <translation>Gefilterte &amp;Kopien</translation>
+    </message>
+    <message>
+        <source>Channel numbers in place of distances</source>
+        <translation>Kanalnummern statt Entfernungen</translation>
+    </message>
+    <message>
+        <source>C&amp;hannels below</source>
+        <translation>Kanäle &amp;unten</translation>
+    </message>
+    <message>
+        <source>Sh&amp;eet:</source>
+        <translation>Bla&amp;tt:</translation>
+    </message>
+    <message>
+        <source>The sheet that is shown; all are saved</source>
+        <translation>Das Blatt, das gezeigt wird; gespeichert werden alle</translation>
+    </message>
+    <message>
+        <source>A4 landscape</source>
+        <translation>A4 quer</translation>
+    </message>
+    <message>
+        <source>A4 portrait</source>
+        <translation>A4 hoch</translation>
+    </message>
+    <message>
+        <source>A3 landscape</source>
+        <translation>A3 quer</translation>
+    </message>
+    <message>
+        <source>A3 portrait</source>
+        <translation>A3 hoch</translation>
+    </message>
+    <message>
+        <source>A2 landscape</source>
+        <translation>A2 quer</translation>
+    </message>
+    <message>
+        <source>A2 portrait</source>
+        <translation>A2 hoch</translation>
+    </message>
+    <message>
+        <source>&amp;Save sheets ...</source>
+        <translation>Blätter spei&amp;chern ...</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>sheets</comment>
+        <translation>von %1</translation>
     </message>
 </context>
 <context>
@@ -2999,6 +3448,14 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Files to be written</source>
         <translation>Zu schreibende Dateien</translation>
+    </message>
+    <message>
+        <source>Traces as in the view</source>
+        <translation>Spuren wie in der Ansicht</translation>
+    </message>
+    <message>
+        <source>By offset, in reduced time and with a gain in time, as the view of the traces is now</source>
+        <translation>Nach Offset, in reduzierter Zeit und mit Verstärkung in der Zeit, wie die Ansicht der Spuren jetzt ist</translation>
     </message>
 </context>
 <context>
@@ -8291,16 +8748,288 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Spuren abschwächen</translation>
     </message>
     <message>
-        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet.</source>
-        <translation>Bei 1:%1 braucht die Abbildung %2 x %3 mm, und das Blatt bietet %4 x %5 mm: Wählen Sie 1:%6 oder ein größeres Blatt.</translation>
-    </message>
-    <message>
         <source>The figure fits this sheet at no scale: choose a larger sheet.</source>
         <translation>Die Abbildung passt in keinem Maßstab auf dieses Blatt: Wählen Sie ein größeres.</translation>
     </message>
     <message>
         <source>The scale must lie between 1:%1 and 1:%2.</source>
         <translation>Der Maßstab muss zwischen 1:%1 und 1:%2 liegen.</translation>
+    </message>
+    <message>
+        <source>choose two different recordings</source>
+        <translation>wählen Sie zwei verschiedene Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Choose a scale, or type one such as 1:750.</source>
+        <translation>Wählen Sie einen Maßstab oder geben Sie einen ein, etwa 1:750.</translation>
+    </message>
+    <message>
+        <source>The printer is set to paper of %1 x %2 mm, and the sheets are made for %3 x %4 mm: choose the same paper for both.</source>
+        <translation>Der Drucker ist auf Papier von %1 x %2 mm eingestellt, die Blätter sind für %3 x %4 mm gemacht: Wählen Sie für beide dasselbe Papier.</translation>
+    </message>
+    <message>
+        <source>The printer does not take the sheets.</source>
+        <translation>Der Drucker nimmt die Blätter nicht an.</translation>
+    </message>
+    <message>
+        <source>Add sum of two shots</source>
+        <translation>Summe zweier Schüsse hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add difference of two shots</source>
+        <translation>Differenz zweier Schüsse hinzufügen</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder %1</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: there is a file of that name that is no page of Talvesk; move it or choose another folder</source>
+        <translation>%1 kann nicht geschrieben werden: Es gibt eine Datei dieses Namens, die keine Seite von Talvesk ist; verschieben Sie sie oder wählen Sie einen anderen Ordner</translation>
+    </message>
+    <message>
+        <source>There is nothing chosen to be drawn.</source>
+        <translation>Es ist nichts zum Zeichnen gewählt.</translation>
+    </message>
+    <message>
+        <source>There is no section to draw.</source>
+        <translation>Es gibt keinen Schnitt zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>A sheet has 1 to %1 rows and 1 to %2 columns of shots.</source>
+        <translation>Ein Blatt hat 1 bis %1 Zeilen und 1 bis %2 Spalten von Schüssen.</translation>
+    </message>
+    <message>
+        <source>There is no sheet %1 to draw.</source>
+        <translation>Es gibt kein Blatt %1 zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>A centimetre must be %1 to %2 ms.</source>
+        <translation>Ein Zentimeter muss %1 bis %2 ms sein.</translation>
+    </message>
+    <message>
+        <source>The figure fits this sheet at no scale: choose a larger sheet, or more milliseconds to a centimetre.</source>
+        <translation>Die Abbildung passt in keinem Maßstab auf dieses Blatt: Wählen Sie ein größeres oder mehr Millisekunden je Zentimeter.</translation>
+    </message>
+    <message>
+        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet, or have it split.</source>
+        <translation>Bei 1:%1 braucht die Abbildung %2 x %3 mm, und das Blatt hat Platz für %4 x %5 mm: Wählen Sie 1:%6 oder ein größeres Blatt oder lassen Sie sie verteilen.</translation>
+    </message>
+    <message>
+        <source>its format names no fields of headers</source>
+        <translation>das Format nennt keine Headerfelder</translation>
+    </message>
+    <message>
+        <source>fields of SEG-Y revision 2 are not shown</source>
+        <translation>Felder von SEG-Y Revision 2 werden nicht gezeigt</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>den Regeln des Programms</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>dem Standard des Formats</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>Schuss deaktiviert</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>um %1 ms verschoben</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>Reihenfolge umgekehrt</translation>
+    </message>
+    <message>
+        <source>stacked</source>
+        <translation>gestapelt</translation>
+    </message>
+    <message>
+        <source>killed</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>polarity reversed</source>
+        <translation>Polarität umgekehrt</translation>
+    </message>
+    <message>
+        <source>muted before %1 ms</source>
+        <translation>vor %1 ms stummgeschaltet</translation>
+    </message>
+    <message>
+        <source>gain %1</source>
+        <translation>Verstärkung %1</translation>
+    </message>
+    <message>
+        <source>filtered</source>
+        <translation>gefiltert</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Schuss</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Spur</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Shot x</source>
+        <translation>Schuss x</translation>
+    </message>
+    <message>
+        <source>Shot elevation</source>
+        <translation>Höhe des Schusses</translation>
+    </message>
+    <message>
+        <source>Geophone x</source>
+        <translation>Geophon x</translation>
+    </message>
+    <message>
+        <source>Geophone elevation</source>
+        <translation>Höhe des Geophons</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Offset</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Pick</translation>
+    </message>
+    <message>
+        <source>Pick error</source>
+        <translation>Pickfehler</translation>
+    </message>
+    <message>
+        <source>Sample interval</source>
+        <translation>Abtastintervall</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Abtastwerte</translation>
+    </message>
+    <message>
+        <source>Record length</source>
+        <translation>Aufzeichnungslänge</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Verzögerung</translation>
+    </message>
+    <message>
+        <source>Samples cut off</source>
+        <translation>Abgeschnittene Abtastwerte</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Korrekturen</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Shot x in file</source>
+        <translation>Schuss x in der Datei</translation>
+    </message>
+    <message>
+        <source>Shot elevation in file</source>
+        <translation>Höhe des Schusses in der Datei</translation>
+    </message>
+    <message>
+        <source>Geophone x in file</source>
+        <translation>Geophon x in der Datei</translation>
+    </message>
+    <message>
+        <source>Geophone elevation in file</source>
+        <translation>Höhe des Geophons in der Datei</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Reader</source>
+        <translation>Gelesen nach</translation>
+    </message>
+    <message>
+        <source>it has no shot file</source>
+        <translation>er hat keine Schussdatei</translation>
+    </message>
+    <message>
+        <source>it is made of two shot files</source>
+        <translation>er ist aus zwei Schussdateien gebildet</translation>
+    </message>
+    <message>
+        <source>its file has %1 traces, the shot %2</source>
+        <translation>seine Datei hat %1 Spuren, der Schuss %2</translation>
+    </message>
+    <message>
+        <source>no geophones of shot %1 and shot %2 that can be compared are at one place</source>
+        <translation>keine vergleichbaren Geophone von Schuss %1 und Schuss %2 stehen an derselben Stelle</translation>
+    </message>
+    <message>
+        <source>no difference and no sum: the samples are %1 ms and %2 ms apart</source>
+        <translation>keine Differenz und keine Summe: die Abtastwerte liegen %1 ms und %2 ms auseinander</translation>
+    </message>
+    <message>
+        <source>no difference and no sum: the records begin %1 samples apart, which is no whole number</source>
+        <translation>keine Differenz und keine Summe: die Aufzeichnungen beginnen %1 Abtastwerte auseinander, was keine ganze Zahl ist</translation>
+    </message>
+    <message>
+        <source>%1 traces at the same places</source>
+        <translation>%1 Spuren an denselben Stellen</translation>
+    </message>
+    <message>
+        <source>without a partner: %1 traces of shot %2, %3 of shot %4</source>
+        <translation>ohne Partner: %1 Spuren von Schuss %2, %3 von Schuss %4</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs with a trace that is killed or has no sample interval</source>
+        <translation>weggelassen: %1 Paare mit einer Spur, die ausgeschaltet ist oder kein Abtastintervall hat</translation>
+    </message>
+    <message>
+        <source>the second is %1 times as strong</source>
+        <translation>der zweite ist %1-mal so stark</translation>
+    </message>
+    <message>
+        <source>it is shown times %1</source>
+        <translation>gezeigt wird er mal %1</translation>
+    </message>
+    <message>
+        <source>its record begins %1 ms later</source>
+        <translation>seine Aufzeichnung beginnt %1 ms später</translation>
+    </message>
+    <message>
+        <source>its record begins %1 ms earlier</source>
+        <translation>seine Aufzeichnung beginnt %1 ms früher</translation>
+    </message>
+    <message>
+        <source>difference and sum begin with %1 samples of zero</source>
+        <translation>Differenz und Summe beginnen mit %1 Abtastwerten, die null sind</translation>
+    </message>
+    <message>
+        <source>difference and sum end %1 samples before the first</source>
+        <translation>Differenz und Summe enden %1 Abtastwerte vor dem ersten Schuss</translation>
+    </message>
+    <message>
+        <source>sum of shots %1 and %2</source>
+        <translation>Summe der Schüsse %1 und %2</translation>
+    </message>
+    <message>
+        <source>difference of shots %1 and %2</source>
+        <translation>Differenz der Schüsse %1 und %2</translation>
     </message>
 </context>
 <context>
@@ -8574,6 +9303,208 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Take minimum and maximum from the velocities of the section</source>
         <translation>Übernimmt Minimum und Maximum von den Geschwindigkeiten des Schnitts</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Figure:</source>
+        <translation>&amp;Abbildung:</translation>
+    </message>
+    <message>
+        <source>What is printed. What there is nothing of yet is grey, with the reason.</source>
+        <translation>Was gedruckt wird. Was es noch nicht gibt, ist grau, mit dem Grund.</translation>
+    </message>
+    <message>
+        <source>&amp;At:</source>
+        <translation>&amp;Bei:</translation>
+    </message>
+    <message>
+        <source>Place along the line of the depth profile</source>
+        <translation>Stelle des Tiefenprofils entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>Stands in the block below the figure</source>
+        <translation>Steht im Block unter der Abbildung</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>&amp;Maßstab:</translation>
+    </message>
+    <message>
+        <source>How many times longer the line is than on paper: choose, or type any scale.</source>
+        <translation>Wie viele Male länger die Messlinie ist als auf dem Papier: wählen oder einen beliebigen Maßstab eingeben.</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>&amp;Überhöhung:</translation>
+    </message>
+    <message>
+        <source>How many times larger heights are drawn than lengths along the line</source>
+        <translation>Wie viele Male größer Höhen gezeichnet werden als Längen entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation>Wie gezeigt</translation>
+    </message>
+    <message>
+        <source>T&amp;imes:</source>
+        <translation>&amp;Zeiten:</translation>
+    </message>
+    <message>
+        <source>Milliseconds to a centimetre of paper</source>
+        <translation>Millisekunden je Zentimeter Papier</translation>
+    </message>
+    <message>
+        <source>As the sheet has room</source>
+        <translation>Wie das Blatt Platz hat</translation>
+    </message>
+    <message>
+        <source> ms/cm</source>
+        <translation> ms/cm</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>Aus&amp;richtung:</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Neighbouring sheets have 10 mm in common, with crosses by which they are put together</source>
+        <translation>Benachbarte Blätter haben 10 mm gemeinsam, mit Kreuzen, an denen sie zusammengesetzt werden</translation>
+    </message>
+    <message>
+        <source>Sp&amp;lit over several sheets</source>
+        <translation>Auf mehrere Blätter &amp;verteilen</translation>
+    </message>
+    <message>
+        <source>Whether the figure has room, and what else would fit</source>
+        <translation>Ob die Abbildung Platz hat und was sonst passen würde</translation>
+    </message>
+    <message>
+        <source>Preview of the sheets</source>
+        <translation>Vorschau der Blätter</translation>
+    </message>
+    <message>
+        <source>Smaller preview</source>
+        <translation>Kleinere Vorschau</translation>
+    </message>
+    <message>
+        <source>Smaller preview (Ctrl+-)</source>
+        <translation>Kleinere Vorschau (Strg+-)</translation>
+    </message>
+    <message>
+        <source>Larger preview</source>
+        <translation>Größere Vorschau</translation>
+    </message>
+    <message>
+        <source>Larger preview (Ctrl++)</source>
+        <translation>Größere Vorschau (Strg++)</translation>
+    </message>
+    <message>
+        <source>All sheets in view</source>
+        <translation>Alle Blätter im Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Whole sheets</source>
+        <translation>&amp;Ganze Blätter</translation>
+    </message>
+    <message>
+        <source>Choose a printer and print the sheets on it, at their real size</source>
+        <translation>Einen Drucker wählen und die Blätter darauf drucken, in ihrer wahren Größe</translation>
+    </message>
+    <message>
+        <source>P&amp;rint ...</source>
+        <translation>&amp;Drucken ...</translation>
+    </message>
+    <message>
+        <source>Save the sheets as they would be printed</source>
+        <translation>Die Blätter so speichern, wie sie gedruckt würden</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF ...</source>
+        <translation>Als PD&amp;F speichern ...</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>a figure and why it cannot be printed</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Fit to the page</source>
+        <translation>An die Seite anpassen</translation>
+    </message>
+    <message>
+        <source>No printer is installed. A PDF can be printed elsewhere.</source>
+        <translation>Es ist kein Drucker installiert. Ein PDF lässt sich anderswo drucken.</translation>
+    </message>
+    <message>
+        <source>There is nothing to print yet.</source>
+        <translation>Es gibt noch nichts zu drucken.</translation>
+    </message>
+    <message>
+        <source>The figure does not fit the sheet at this scale.</source>
+        <translation>Die Abbildung passt in diesem Maßstab nicht auf das Blatt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n Blatt</numerusform>
+            <numerusform>%n Blätter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>At %1 the figure takes %2.</source>
+        <translation>Bei %1 braucht die Abbildung %2.</translation>
+    </message>
+    <message>
+        <source>The figure takes %1.</source>
+        <translation>Die Abbildung braucht %1.</translation>
+    </message>
+    <message>
+        <source>At %1 the figure takes %2, and the sheet has room for %3.</source>
+        <translation>Bei %1 braucht die Abbildung %2, und das Blatt hat Platz für %3.</translation>
+    </message>
+    <message>
+        <source>With more milliseconds to a centimetre it is less high.</source>
+        <translation>Mit mehr Millisekunden je Zentimeter ist sie weniger hoch.</translation>
+    </message>
+    <message>
+        <source>Choose a larger sheet.</source>
+        <translation>Wählen Sie ein größeres Blatt.</translation>
+    </message>
+    <message>
+        <source>What would fit:</source>
+        <translation>Was passen würde:</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PrintPreview</name>
+    <message>
+        <source>Drawing the sheets ...</source>
+        <translation>Die Blätter werden gezeichnet ...</translation>
     </message>
 </context>
 <context>
@@ -10563,6 +11494,43 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>Filters of the recordings</source>
         <translation>Filter der Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>length, unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Points on the map</source>
+        <translation>Punkte auf der Karte</translation>
+    </message>
+    <message>
+        <source>Corners of more than 1°</source>
+        <translation>Ecken von mehr als 1°</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Länge entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Length on the map</source>
+        <translation>Länge auf der Karte</translation>
+    </message>
+    <message>
+        <source>Straight from end to end</source>
+        <translation>Gerade von Ende zu Ende</translation>
+    </message>
+    <message>
+        <source>Farthest from that straight line, to the right</source>
+        <translation>Größter Abstand von dieser Geraden, nach rechts</translation>
+    </message>
+    <message>
+        <source>The same to the left</source>
+        <translation>Dasselbe nach links</translation>
+    </message>
+    <message>
+        <source>Course of the line between its ends</source>
+        <translation>Verlauf der Messlinie zwischen ihren Enden</translation>
     </message>
 </context>
 <context>
@@ -14590,6 +15558,279 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>The selected traces are zero before (ms); 0: from nowhere</source>
         <translation>Die ausgewählten Spuren sind null vor (ms); 0: nirgends</translation>
     </message>
+    <message>
+        <source>Offset and reduced time</source>
+        <translation>Offset und reduzierte Zeit</translation>
+    </message>
+    <message>
+        <source>Print ...</source>
+        <translation>Drucken ...</translation>
+    </message>
+    <message>
+        <source>Preview a figure on paper at a chosen scale, print it or save it as PDF</source>
+        <translation>Eine Abbildung in einem gewählten Maßstab auf Papier ansehen, drucken oder als PDF speichern</translation>
+    </message>
+    <message>
+        <source>AutoPick all shots along the line</source>
+        <translation>AutoPick aller Schüsse entlang der Messlinie</translation>
+    </message>
+    <message>
+        <source>Pick the traces of all shots together, whichever are in view; picks that you made stay</source>
+        <translation>Pickt die Spuren aller Schüsse gemeinsam, gleich welche im Bild sind; Ihre eigenen Picks bleiben</translation>
+    </message>
+    <message>
+        <source>Campaign page ...</source>
+        <translation>Kampagnenseite ...</translation>
+    </message>
+    <message>
+        <source>Write a web page of each of several projects, and one on all of them</source>
+        <translation>Schreibt eine Webseite für jedes von mehreren Projekten und eine über alle</translation>
+    </message>
+    <message>
+        <source>By offset</source>
+        <translation>Nach Offset</translation>
+    </message>
+    <message>
+        <source>Order and space the traces by their offset, geophone minus shot: those before the shot at its left (key X)</source>
+        <translation>Ordnet die Spuren nach ihrem Offset an, Geophon minus Schuss: die vor dem Schuss links von ihm (Taste X)</translation>
+    </message>
+    <message>
+        <source>By absolute offset</source>
+        <translation>Nach absolutem Offset</translation>
+    </message>
+    <message>
+        <source>Order and space the traces by their distance from the shot, either side over the other (key Shift+X)</source>
+        <translation>Ordnet die Spuren nach ihrer Entfernung vom Schuss an, beide Seiten übereinander (Taste Umschalt+X)</translation>
+    </message>
+    <message>
+        <source>Reduced time</source>
+        <translation>Reduzierte Zeit</translation>
+    </message>
+    <message>
+        <source>Draw every trace earlier by its offset over a velocity, that of the ruler or the one asked for last; picks stay true times (key V)</source>
+        <translation>Zeichnet jede Spur um ihren Offset durch eine Geschwindigkeit früher, die des Lineals oder die zuletzt eingegebene; Picks bleiben wahre Zeiten (Taste V)</translation>
+    </message>
+    <message>
+        <source>Velocity of reduced time...</source>
+        <translation>Geschwindigkeit der reduzierten Zeit...</translation>
+    </message>
+    <message>
+        <source>Choose the velocity that waves have to be drawn flat (key Shift+V)</source>
+        <translation>Die Geschwindigkeit wählen, mit der Wellen waagrecht gezeichnet werden (Taste Umschalt+V)</translation>
+    </message>
+    <message>
+        <source>Gain with time</source>
+        <translation>Verstärkung mit der Zeit</translation>
+    </message>
+    <message>
+        <source>Draw late waves larger, by a power of their time; samples, picks and files stay as they are (key T)</source>
+        <translation>Zeichnet späte Wellen größer, nach einer Potenz ihrer Zeit; Abtastwerte, Picks und Dateien bleiben, wie sie sind (Taste T)</translation>
+    </message>
+    <message>
+        <source>Exponent of gain with time...</source>
+        <translation>Exponent der Verstärkung mit der Zeit...</translation>
+    </message>
+    <message>
+        <source>Choose the power of time that wiggles are drawn with (key Shift+T)</source>
+        <translation>Die Potenz der Zeit wählen, mit der Wiggles gezeichnet werden (Taste Umschalt+T)</translation>
+    </message>
+    <message>
+        <source>Trace headers...</source>
+        <translation>Spurheader...</translation>
+    </message>
+    <message>
+        <source>All that is known of every trace as a table, with what the headers of the shot files say</source>
+        <translation>Alles, was über jede Spur bekannt ist, als Tabelle, mit dem, was die Header der Schussdateien sagen</translation>
+    </message>
+    <message>
+        <source>Overlay two shots...</source>
+        <translation>Zwei Schüsse überlagern...</translation>
+    </message>
+    <message>
+        <source>Lay the traces of two shots over each other, and see their difference and their sum: blows of opposite sense, or a shot that was repeated</source>
+        <translation>Legt die Spuren zweier Schüsse übereinander und zeigt ihre Differenz und ihre Summe: Schläge entgegengesetzter Richtung oder ein wiederholter Schuss</translation>
+    </message>
+    <message>
+        <source>Sheet of shots ...</source>
+        <translation>Blatt mit Schüssen ...</translation>
+    </message>
+    <message>
+        <source>Several shots side by side on one sheet, with one axis of time, as PDF, SVG or PNG</source>
+        <translation>Mehrere Schüsse nebeneinander auf einem Blatt, mit einer gemeinsamen Zeitachse, als PDF, SVG oder PNG</translation>
+    </message>
+    <message>
+        <source>The shot has not been added to the survey.</source>
+        <translation>Der Schuss wurde der Messung nicht hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Shot %1 is added; Undo takes it away.</source>
+        <translation>Schuss %1 ist hinzugefügt; „Rückgängig“ nimmt ihn weg.</translation>
+    </message>
+    <message>
+        <source>Save Shot File</source>
+        <translation>Schussdatei speichern</translation>
+    </message>
+    <message>
+        <source>SEG-2 (*.sg2);;SEG-Y (*.sgy)</source>
+        <translation>SEG-2 (*.sg2);;SEG-Y (*.sgy)</translation>
+    </message>
+    <message>
+        <source>Save Picture of Two Shots</source>
+        <translation>Bild zweier Schüsse speichern</translation>
+    </message>
+    <message>
+        <source>Add projects to the campaign page</source>
+        <translation>Projekte zur Kampagnenseite hinzufügen</translation>
+    </message>
+    <message>
+        <source>Save campaign page</source>
+        <translation>Kampagnenseite speichern</translation>
+    </message>
+    <message>
+        <source>Campaign page</source>
+        <translation>Kampagnenseite</translation>
+    </message>
+    <message>
+        <source>%1: project %2 of %3</source>
+        <comment>file, number, count</comment>
+        <translation>%1: Projekt %2 von %3</translation>
+    </message>
+    <message>
+        <source>Stopped; the campaign page has not been saved.</source>
+        <translation>Angehalten; die Kampagnenseite wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Saved in %1, without the changes of this survey that are not saved</source>
+        <translation>In %1 gespeichert, ohne die nicht gespeicherten Änderungen dieser Messung</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Some values of the projects cannot be. They were put right or left out.</source>
+        <translation>Einige Werte der Projekte sind nicht möglich. Sie wurden berichtigt oder weggelassen.</translation>
+    </message>
+    <message>
+        <source>Projects that failed: %1. The campaign page names them.</source>
+        <translation>Fehlgeschlagene Projekte: %1. Die Kampagnenseite nennt sie.</translation>
+    </message>
+    <message>
+        <source>Save Sheets of Shots</source>
+        <translation>Blätter mit Schüssen speichern</translation>
+    </message>
+    <message>
+        <source>PDF, all sheets in one file (*.pdf);;SVG picture (*.svg);;PNG picture (*.png)</source>
+        <translation>PDF, alle Blätter in einer Datei (*.pdf);;SVG-Bild (*.svg);;PNG-Bild (*.png)</translation>
+    </message>
+    <message numerus="yes">
+        <source>The sheets have not all been saved; %n file(s) are complete.</source>
+        <translation>
+            <numerusform>Nicht alle Blätter wurden gespeichert; %n Datei ist vollständig.</numerusform>
+            <numerusform>Nicht alle Blätter wurden gespeichert; %n Dateien sind vollständig.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there are no picks yet</source>
+        <translation>es gibt noch keine Picks</translation>
+    </message>
+    <message>
+        <source>Layered profile</source>
+        <translation>Schichtprofil</translation>
+    </message>
+    <message>
+        <source>there is no layered profile yet</source>
+        <translation>es gibt noch kein Schichtprofil</translation>
+    </message>
+    <message>
+        <source>Traces of shot %1</source>
+        <translation>Spuren von Schuss %1</translation>
+    </message>
+    <message>
+        <source>no shot with traces is in view</source>
+        <translation>kein Schuss mit Spuren ist im Bild</translation>
+    </message>
+    <message>
+        <source>Misfit of every iteration</source>
+        <translation>Abweichung jeder Iteration</translation>
+    </message>
+    <message>
+        <source>there is no inversion yet</source>
+        <translation>es gibt noch keine Inversion</translation>
+    </message>
+    <message>
+        <source>Residuals by shot and geophone</source>
+        <translation>Residuen nach Schuss und Geophon</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residuen über dem Offset</translation>
+    </message>
+    <message>
+        <source>Residuals of shots and of geophones</source>
+        <translation>Residuen der Schüsse und der Geophone</translation>
+    </message>
+    <message>
+        <source>Residuals along the rays</source>
+        <translation>Residuen entlang der Strahlen</translation>
+    </message>
+    <message>
+        <source>Depth profile</source>
+        <translation>Tiefenprofil</translation>
+    </message>
+    <message>
+        <source>there is no section yet</source>
+        <translation>es gibt noch keinen Schnitt</translation>
+    </message>
+    <message>
+        <source>P and S</source>
+        <translation>P und S</translation>
+    </message>
+    <message>
+        <source>its own dialog prints it</source>
+        <translation>der eigene Dialog druckt es</translation>
+    </message>
+    <message>
+        <source>Nothing has been printed.</source>
+        <translation>Es wurde nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>Sent to %1.</source>
+        <translation>An %1 gesendet.</translation>
+    </message>
+    <message>
+        <source>Save sheets as PDF</source>
+        <translation>Blätter als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF-Dokument (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Shots whose files name no fields: %1. %2</source>
+        <translation>Schüsse, deren Dateien keine Felder nennen: %1. %2</translation>
+    </message>
+    <message>
+        <source>Save Trace Headers</source>
+        <translation>Spurheader speichern</translation>
+    </message>
+    <message>
+        <source>Velocity V of t - |x|/V (%1):</source>
+        <translation>Geschwindigkeit V in t - |x|/V (%1):</translation>
+    </message>
+    <message>
+        <source>Exponent n of t^n, 0 for none:</source>
+        <translation>Exponent n in t^n, 0 für keine:</translation>
+    </message>
+    <message>
+        <source>Reduced %1 ms</source>
+        <translation>Reduziert %1 ms</translation>
+    </message>
+    <message>
+        <source>Section as it is shown</source>
+        <translation>Schnitt, wie er gezeigt wird</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -14604,6 +15845,84 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     <message>
         <source>Time (ms)</source>
         <translation>Zeit (ms)</translation>
+    </message>
+    <message>
+        <source>Offset (%1)</source>
+        <translation>Offset (%1)</translation>
+    </message>
+    <message>
+        <source>|x| (%1)</source>
+        <comment>absolute offset</comment>
+        <translation>|x| (%1)</translation>
+    </message>
+    <message>
+        <source>Reduced time (ms), t - |x|/%1 %2</source>
+        <translation>Reduzierte Zeit (ms), t - |x|/%1 %2</translation>
+    </message>
+    <message>
+        <source>%1, gain t^%2</source>
+        <comment>time axis, exponent</comment>
+        <translation>%1, Verstärkung t^%2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceHeadersDialog</name>
+    <message>
+        <source>Trace headers</source>
+        <translation>Spurheader</translation>
+    </message>
+    <message>
+        <source>Headers of all traces</source>
+        <translation>Header aller Spuren</translation>
+    </message>
+    <message>
+        <source>A click on a heading sorts by it; the current row is shown among the traces</source>
+        <translation>Ein Klick auf eine Überschrift sortiert danach; die aktuelle Zeile wird bei den Spuren gezeigt</translation>
+    </message>
+    <message>
+        <source>Reads the shot files again and adds a column for every field that their headers name: instrument, time of recording, gain, stack, notes</source>
+        <translation>Liest die Schussdateien erneut und fügt für jedes Feld, das ihre Header nennen, eine Spalte hinzu: Gerät, Zeit der Aufzeichnung, Verstärkung, Stapelung, Notizen</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the shot files</source>
+        <translation>Alle &amp;Felder der Schussdateien</translation>
+    </message>
+    <message>
+        <source>The selected rows, or all of them, with a heading, as spreadsheets paste them (Ctrl+C)</source>
+        <translation>Die ausgewählten Zeilen oder alle, mit Überschrift, zum Einfügen in Tabellenkalkulationen (Strg+C)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>All rows in the order of shots and traces, lengths in metres, with decimal points</source>
+        <translation>Alle Zeilen in der Reihenfolge der Schüsse und Spuren, Längen in Metern, mit Dezimalpunkt</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Tabelle speichern...</translation>
+    </message>
+    <message>
+        <source>Traces: %1</source>
+        <translation>Spuren: %1</translation>
+    </message>
+    <message>
+        <source>Rows copied: %1</source>
+        <translation>Zeilen kopiert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceHeadersModel</name>
+    <message>
+        <source>%1 [%2]</source>
+        <comment>quantity, unit</comment>
+        <translation>%1 [%2]</translation>
+    </message>
+    <message>
+        <source>%1 [ms]</source>
+        <comment>quantity</comment>
+        <translation>%1 [ms]</translation>
     </message>
 </context>
 <context>
@@ -15699,6 +17018,14 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
         <translation>Spuren %1: C bestätigt, Entf entfernt, K schaltet aus, P kehrt um, U schaltet stumm, Esc bricht ab</translation>
+    </message>
+    <message>
+        <source>Times are not reduced: offsets are not known</source>
+        <translation>Zeiten sind nicht reduziert: Offsets sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Not by offset: offsets are not known, or all the same</source>
+        <translation>Nicht nach Offset: Offsets sind nicht bekannt oder alle gleich</translation>
     </message>
 </context>
 <context>

@@ -216,6 +216,16 @@
     </message>
 </context>
 <context>
+    <name>talvesk::PrintDialog</name>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n sheet</numerusform>
+            <numerusform>%n sheets</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>talvesk::RefractionProcessingDialog</name>
     <message numerus="yes">
         <source>take %n pick(s) out</source>
@@ -370,6 +380,13 @@
         <translation>
             <numerusform>%n pick lay before it and is removed.</numerusform>
             <numerusform>%n picks lay before it and are removed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The sheets have not all been saved; %n file(s) are complete.</source>
+        <translation>
+            <numerusform>The sheets have not all been saved; %n file is complete.</numerusform>
+            <numerusform>The sheets have not all been saved; %n files are complete.</numerusform>
         </translation>
     </message>
 </context>

@@ -160,6 +160,219 @@
     </message>
 </context>
 <context>
+    <name>talvesk::BlowPairDialog</name>
+    <message>
+        <source>Two shots</source>
+        <translation>Dos disparos</translation>
+    </message>
+    <message>
+        <source>&amp;First:</source>
+        <translation>&amp;Primero:</translation>
+    </message>
+    <message>
+        <source>The recording that time and places are counted by</source>
+        <translation>El registro según el que se cuentan tiempos y lugares</translation>
+    </message>
+    <message>
+        <source>S&amp;econd:</source>
+        <translation>S&amp;egundo:</translation>
+    </message>
+    <message>
+        <source>The recording that is laid over it; the nearest is proposed</source>
+        <translation>El registro que se le superpone; se propone el más cercano</translation>
+    </message>
+    <message>
+        <source>The traces of both over each other</source>
+        <translation>Las trazas de ambos, superpuestas</translation>
+    </message>
+    <message>
+        <source>&amp;Overlaid</source>
+        <translation>&amp;Superpuestas</translation>
+    </message>
+    <message>
+        <source>First less second: of blows of opposite sense it enhances S waves</source>
+        <translation>Primero menos segundo: con golpes de sentido opuesto realza las ondas S</translation>
+    </message>
+    <message>
+        <source>&amp;Difference</source>
+        <translation>&amp;Diferencia</translation>
+    </message>
+    <message>
+        <source>Of blows of opposite sense it enhances P waves</source>
+        <translation>Con golpes de sentido opuesto realza las ondas P</translation>
+    </message>
+    <message>
+        <source>S&amp;um</source>
+        <translation>S&amp;uma</translation>
+    </message>
+    <message>
+        <source>The second is made as strong as the first</source>
+        <translation>El segundo se iguala en intensidad al primero</translation>
+    </message>
+    <message>
+        <source>E&amp;qual strength</source>
+        <translation>&amp;Igual intensidad</translation>
+    </message>
+    <message>
+        <source>All traces by one measure; else each pair of traces by the larger of both</source>
+        <translation>Todas las trazas con una misma medida; si no, cada par de trazas según la mayor de las dos</translation>
+    </message>
+    <message>
+        <source>True &amp;amplitudes</source>
+        <translation>&amp;Amplitudes reales</translation>
+    </message>
+    <message>
+        <source>The filtered copies of traces that have one</source>
+        <translation>Las copias filtradas de las trazas que la tienen</translation>
+    </message>
+    <message>
+        <source>Filtered co&amp;pies</source>
+        <translation>Copias &amp;filtradas</translation>
+    </message>
+    <message>
+        <source>Mark the first breaks of both, each in its colour</source>
+        <translation>Marca las primeras llegadas de ambos, cada una con su color</translation>
+    </message>
+    <message>
+        <source>Pic&amp;ks</source>
+        <translation>Pi&amp;cados</translation>
+    </message>
+    <message>
+        <source>&amp;Gain:</source>
+        <translation>&amp;Ganancia:</translation>
+    </message>
+    <message>
+        <source>Swing of the largest value, in distances between traces</source>
+        <translation>Amplitud del valor mayor, en distancias entre trazas</translation>
+    </message>
+    <message>
+        <source>&amp;Times to:</source>
+        <translation>&amp;Tiempos hasta:</translation>
+    </message>
+    <message>
+        <source>Where the axis of time ends; automatic: where half as long again as the last pick takes is over</source>
+        <translation>Dónde termina el eje de tiempos; automático: a una vez y media el tiempo del último picado</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automático</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>What is added or saved</source>
+        <translation>Qué se añade o se guarda</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Suma</translation>
+    </message>
+    <message>
+        <source>As a shot of the survey, without picks, at the place of the first; Undo takes it away</source>
+        <translation>Como disparo del levantamiento, sin picados, en el lugar del primero; Deshacer lo quita</translation>
+    </message>
+    <message>
+        <source>Add to su&amp;rvey</source>
+        <translation>Añadi&amp;r al levantamiento</translation>
+    </message>
+    <message>
+        <source>As SEG-2 or SEG-Y</source>
+        <translation>Como SEG-2 o SEG-Y</translation>
+    </message>
+    <message>
+        <source>Save s&amp;hot file ...</source>
+        <translation>Guardar arc&amp;hivo de disparo ...</translation>
+    </message>
+    <message>
+        <source>What is shown, as PNG, SVG or PDF</source>
+        <translation>Lo que se muestra, como PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Guardar i&amp;magen ...</translation>
+    </message>
+    <message>
+        <source>Traces of both shots, their difference and their sum</source>
+        <translation>Trazas de ambos disparos, su diferencia y su suma</translation>
+    </message>
+    <message>
+        <source>one sense</source>
+        <comment>of a pair of blows</comment>
+        <translation>un sentido</translation>
+    </message>
+    <message>
+        <source>other sense</source>
+        <comment>of a pair of blows</comment>
+        <translation>el otro sentido</translation>
+    </message>
+    <message>
+        <source>at %1 %2</source>
+        <comment>place, unit</comment>
+        <translation>en %1 %2</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2</source>
+        <translation>Disparo %1: %2</translation>
+    </message>
+    <message>
+        <source>There are no two recordings to be compared.</source>
+        <translation>No hay dos registros que comparar.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignDialog</name>
+    <message>
+        <source>Campaign page</source>
+        <translation>Página de campaña</translation>
+    </message>
+    <message>
+        <source>A web page of every project, and one on all of them: a table, the sections in small by one scale of colours, and a map. The projects stay as they are.</source>
+        <translation>Una página web de cada proyecto y una de todos: una tabla, las secciones en pequeño con una misma escala de colores y un mapa. Los proyectos quedan como están.</translation>
+    </message>
+    <message>
+        <source>&amp;Projects:</source>
+        <translation>&amp;Proyectos:</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Proyectos</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>&amp;Añadir proyectos ...</translation>
+    </message>
+    <message>
+        <source>Take the projects that are selected off the list; their files stay</source>
+        <translation>Quita de la lista los proyectos seleccionados; sus archivos se mantienen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Título:</translation>
+    </message>
+    <message>
+        <source>&amp;Client:</source>
+        <translation>&amp;Cliente:</translation>
+    </message>
+    <message>
+        <source>S&amp;ite:</source>
+        <translation>&amp;Emplazamiento:</translation>
+    </message>
+    <message>
+        <source>A&amp;uthor:</source>
+        <translation>A&amp;utor:</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CampaignPage</name>
     <message>
         <source>RMS misfit [ms]</source>
@@ -1625,6 +1838,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Depths by P and S differ: it may be different ground.</source>
         <translation>Las profundidades según P y S difieren: puede ser un terreno distinto.</translation>
     </message>
+    <message>
+        <source>Preview and print the curves at a chosen scale</source>
+        <translation>Vista previa e impresión de las curvas a una escala elegida</translation>
+    </message>
+    <message>
+        <source>Print ...</source>
+        <translation>Imprimir ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ErrorBands</name>
@@ -1770,6 +1991,20 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>%1: %2</source>
         <comment>line, why</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Lines of the fence</source>
+        <translation>Líneas del panel</translation>
+    </message>
+    <message>
+        <source>Converted: %1.</source>
+        <comment>lines</comment>
+        <translation>Convertidas: %1.</translation>
+    </message>
+    <message>
+        <source>%1 from EPSG:%2 to EPSG:%3</source>
+        <comment>line, systems</comment>
+        <translation>%1 de EPSG:%2 a EPSG:%3</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2625,80 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>Elevation %1</source>
         <translation>Elevación %1</translation>
     </message>
+    <message>
+        <source>Sum</source>
+        <translation>Suma</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>Each pair of traces to one maximum, gain %1</source>
+        <translation>Cada par de trazas a un mismo máximo, ganancia %1</translation>
+    </message>
+    <message>
+        <source>Absolute offset [%1]</source>
+        <translation>Distancia absoluta al disparo [%1]</translation>
+    </message>
+    <message>
+        <source>Reduced time [ms], t - |x|/%1 %2</source>
+        <translation>Tiempo reducido [ms], t - |x|/%1 %2</translation>
+    </message>
+    <message>
+        <source>gain with time t^%1</source>
+        <comment>exponent</comment>
+        <translation>ganancia con el tiempo t^%1</translation>
+    </message>
+    <message>
+        <source>offsets not known: not drawn by offset or reduced as asked</source>
+        <translation>distancias al disparo desconocidas: no se ha dibujado según ellas ni en tiempo reducido como se pidió</translation>
+    </message>
+    <message>
+        <source>All traces of a shot to one maximum, gain %1</source>
+        <translation>Todas las trazas de un disparo a un mismo máximo, ganancia %1</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2</source>
+        <comment>what is left out of it, or mended</comment>
+        <translation>Disparo %1: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Hoja %1 de %2</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sección</translation>
+    </message>
+    <message>
+        <source>Misfit in each iteration</source>
+        <translation>Desajuste en cada iteración</translation>
+    </message>
+    <message>
+        <source>Residuals along the rays</source>
+        <translation>Residuos a lo largo de los rayos</translation>
+    </message>
+    <message>
+        <source>Residuals</source>
+        <translation>Residuos</translation>
+    </message>
+    <message>
+        <source>Depth profile</source>
+        <translation>Perfil de profundidad</translation>
+    </message>
+    <message>
+        <source>P and S</source>
+        <translation>P y S</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2: row %3, column %4</source>
+        <translation>Hoja %1 de %2: fila %3, columna %4</translation>
+    </message>
+    <message>
+        <source>1 cm is %1 ms</source>
+        <translation>1 cm son %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -2555,6 +2864,146 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>%1 dB</source>
         <translation>%1 dB</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GatherSheetDialog</name>
+    <message>
+        <source>Sheet of shots</source>
+        <translation>Hoja de disparos</translation>
+    </message>
+    <message>
+        <source>&amp;Rows:</source>
+        <translation>&amp;Filas:</translation>
+    </message>
+    <message>
+        <source>Shots one above the other</source>
+        <translation>Disparos uno encima de otro</translation>
+    </message>
+    <message>
+        <source>&amp;Columns:</source>
+        <translation>&amp;Columnas:</translation>
+    </message>
+    <message>
+        <source>Shots side by side</source>
+        <translation>Disparos uno al lado de otro</translation>
+    </message>
+    <message>
+        <source>&amp;First shot:</source>
+        <translation>&amp;Primer disparo:</translation>
+    </message>
+    <message>
+        <source>The shots from this one on</source>
+        <translation>Los disparos a partir de este</translation>
+    </message>
+    <message>
+        <source>&amp;Last shot:</source>
+        <translation>Úl&amp;timo disparo:</translation>
+    </message>
+    <message>
+        <source>The shots up to this one</source>
+        <translation>Los disparos hasta este</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>P&amp;apel:</translation>
+    </message>
+    <message>
+        <source>&amp;Times to:</source>
+        <translation>Ti&amp;empos hasta:</translation>
+    </message>
+    <message>
+        <source>Where the axis of time ends; automatic: where half as long again as the last pick takes is over</source>
+        <translation>Dónde termina el eje de tiempos; automático: a una vez y media el tiempo del último picado</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automático</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Gain:</source>
+        <translation>&amp;Ganancia:</translation>
+    </message>
+    <message>
+        <source>Swing of the largest value, in distances between traces</source>
+        <translation>Amplitud del valor mayor, en distancias entre trazas</translation>
+    </message>
+    <message>
+        <source>Mark the first breaks</source>
+        <translation>Marca las primeras llegadas</translation>
+    </message>
+    <message>
+        <source>P&amp;icks</source>
+        <translation>Pica&amp;dos</translation>
+    </message>
+    <message>
+        <source>All traces of a shot to one measure</source>
+        <translation>Todas las trazas de un disparo con una misma medida</translation>
+    </message>
+    <message>
+        <source>True &amp;amplitudes</source>
+        <translation>Amplitudes &amp;reales</translation>
+    </message>
+    <message>
+        <source>The filtered copies of the traces that have one</source>
+        <translation>Las copias filtradas de las trazas que la tienen</translation>
+    </message>
+    <message>
+        <source>Filtered c&amp;opies</source>
+        <translation>Copias fi&amp;ltradas</translation>
+    </message>
+    <message>
+        <source>Channel numbers in place of distances</source>
+        <translation>Números de canal en lugar de distancias</translation>
+    </message>
+    <message>
+        <source>C&amp;hannels below</source>
+        <translation>Ca&amp;nales debajo</translation>
+    </message>
+    <message>
+        <source>Sh&amp;eet:</source>
+        <translation>&amp;Hoja:</translation>
+    </message>
+    <message>
+        <source>The sheet that is shown; all are saved</source>
+        <translation>La hoja que se muestra; se guardan todas</translation>
+    </message>
+    <message>
+        <source>A4 landscape</source>
+        <translation>A4 horizontal</translation>
+    </message>
+    <message>
+        <source>A4 portrait</source>
+        <translation>A4 vertical</translation>
+    </message>
+    <message>
+        <source>A3 landscape</source>
+        <translation>A3 horizontal</translation>
+    </message>
+    <message>
+        <source>A3 portrait</source>
+        <translation>A3 vertical</translation>
+    </message>
+    <message>
+        <source>A2 landscape</source>
+        <translation>A2 horizontal</translation>
+    </message>
+    <message>
+        <source>A2 portrait</source>
+        <translation>A2 vertical</translation>
+    </message>
+    <message>
+        <source>&amp;Save sheets ...</source>
+        <translation>Guardar hoja&amp;s ...</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>sheets</comment>
+        <translation>de %1</translation>
     </message>
 </context>
 <context>
@@ -2999,6 +3448,14 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Files to be written</source>
         <translation>Archivos que se escribirán</translation>
+    </message>
+    <message>
+        <source>Traces as in the view</source>
+        <translation>Trazas como en la vista</translation>
+    </message>
+    <message>
+        <source>By offset, in reduced time and with a gain in time, as the view of the traces is now</source>
+        <translation>Según la distancia al disparo, en tiempo reducido y con ganancia con el tiempo, como está ahora la vista de las trazas</translation>
     </message>
 </context>
 <context>
@@ -8291,16 +8748,288 @@ Defina la posición de los geófonos
         <translation>Atenuar trazas</translation>
     </message>
     <message>
-        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet.</source>
-        <translation>A 1:%1 la figura ocupa %2 x %3 mm y en la hoja caben %4 x %5 mm: elija 1:%6 o una hoja mayor.</translation>
-    </message>
-    <message>
         <source>The figure fits this sheet at no scale: choose a larger sheet.</source>
         <translation>La figura no cabe en esta hoja a ninguna escala: elija una hoja mayor.</translation>
     </message>
     <message>
         <source>The scale must lie between 1:%1 and 1:%2.</source>
         <translation>La escala debe estar entre 1:%1 y 1:%2.</translation>
+    </message>
+    <message>
+        <source>choose two different recordings</source>
+        <translation>elija dos registros distintos</translation>
+    </message>
+    <message>
+        <source>Choose a scale, or type one such as 1:750.</source>
+        <translation>Elija una escala o escriba una, por ejemplo 1:750.</translation>
+    </message>
+    <message>
+        <source>The printer is set to paper of %1 x %2 mm, and the sheets are made for %3 x %4 mm: choose the same paper for both.</source>
+        <translation>La impresora está configurada para papel de %1 x %2 mm y las hojas están hechas para %3 x %4 mm: elija el mismo papel para ambos.</translation>
+    </message>
+    <message>
+        <source>The printer does not take the sheets.</source>
+        <translation>La impresora no acepta las hojas.</translation>
+    </message>
+    <message>
+        <source>Add sum of two shots</source>
+        <translation>Añadir la suma de dos disparos</translation>
+    </message>
+    <message>
+        <source>Add difference of two shots</source>
+        <translation>Añadir la diferencia de dos disparos</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder %1</source>
+        <translation>No se puede crear la carpeta %1</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: there is a file of that name that is no page of Talvesk; move it or choose another folder</source>
+        <translation>No se puede escribir %1: hay un archivo con ese nombre que no es una página de Talvesk; muévalo o elija otra carpeta</translation>
+    </message>
+    <message>
+        <source>There is nothing chosen to be drawn.</source>
+        <translation>No se ha elegido nada que dibujar.</translation>
+    </message>
+    <message>
+        <source>There is no section to draw.</source>
+        <translation>No hay sección que dibujar.</translation>
+    </message>
+    <message>
+        <source>A sheet has 1 to %1 rows and 1 to %2 columns of shots.</source>
+        <translation>Una hoja tiene de 1 a %1 filas y de 1 a %2 columnas de disparos.</translation>
+    </message>
+    <message>
+        <source>There is no sheet %1 to draw.</source>
+        <translation>No hay hoja %1 que dibujar.</translation>
+    </message>
+    <message>
+        <source>A centimetre must be %1 to %2 ms.</source>
+        <translation>Un centímetro debe ser de %1 a %2 ms.</translation>
+    </message>
+    <message>
+        <source>The figure fits this sheet at no scale: choose a larger sheet, or more milliseconds to a centimetre.</source>
+        <translation>La figura no cabe en esta hoja a ninguna escala: elija una hoja mayor o más milisegundos por centímetro.</translation>
+    </message>
+    <message>
+        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet, or have it split.</source>
+        <translation>A 1:%1 la figura ocupa %2 x %3 mm y en la hoja caben %4 x %5 mm: elija 1:%6 o una hoja mayor, o divídala en varias.</translation>
+    </message>
+    <message>
+        <source>its format names no fields of headers</source>
+        <translation>su formato no nombra campos de cabecera</translation>
+    </message>
+    <message>
+        <source>fields of SEG-Y revision 2 are not shown</source>
+        <translation>los campos de SEG-Y revisión 2 no se muestran</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>las reglas del programa</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>el estándar de su formato</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>disparo desactivado</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>desplazado %1 ms</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>orden invertido</translation>
+    </message>
+    <message>
+        <source>stacked</source>
+        <translation>apilado</translation>
+    </message>
+    <message>
+        <source>killed</source>
+        <translation>anulada</translation>
+    </message>
+    <message>
+        <source>polarity reversed</source>
+        <translation>polaridad invertida</translation>
+    </message>
+    <message>
+        <source>muted before %1 ms</source>
+        <translation>silenciada antes de %1 ms</translation>
+    </message>
+    <message>
+        <source>gain %1</source>
+        <translation>ganancia %1</translation>
+    </message>
+    <message>
+        <source>filtered</source>
+        <translation>filtrada</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Disparo</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Traza</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Shot x</source>
+        <translation>x del disparo</translation>
+    </message>
+    <message>
+        <source>Shot elevation</source>
+        <translation>Cota del disparo</translation>
+    </message>
+    <message>
+        <source>Geophone x</source>
+        <translation>x del geófono</translation>
+    </message>
+    <message>
+        <source>Geophone elevation</source>
+        <translation>Cota del geófono</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Distancia al disparo</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Picado</translation>
+    </message>
+    <message>
+        <source>Pick error</source>
+        <translation>Error del picado</translation>
+    </message>
+    <message>
+        <source>Sample interval</source>
+        <translation>Intervalo de muestreo</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Muestras</translation>
+    </message>
+    <message>
+        <source>Record length</source>
+        <translation>Duración del registro</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Retardo</translation>
+    </message>
+    <message>
+        <source>Samples cut off</source>
+        <translation>Muestras descartadas</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Correcciones</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtros</translation>
+    </message>
+    <message>
+        <source>Shot x in file</source>
+        <translation>x del disparo en el archivo</translation>
+    </message>
+    <message>
+        <source>Shot elevation in file</source>
+        <translation>Cota del disparo en el archivo</translation>
+    </message>
+    <message>
+        <source>Geophone x in file</source>
+        <translation>x del geófono en el archivo</translation>
+    </message>
+    <message>
+        <source>Geophone elevation in file</source>
+        <translation>Cota del geófono en el archivo</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Reader</source>
+        <translation>Leído según</translation>
+    </message>
+    <message>
+        <source>it has no shot file</source>
+        <translation>no tiene archivo de disparo</translation>
+    </message>
+    <message>
+        <source>it is made of two shot files</source>
+        <translation>está hecho de dos archivos de disparo</translation>
+    </message>
+    <message>
+        <source>its file has %1 traces, the shot %2</source>
+        <translation>su archivo tiene %1 trazas; el disparo, %2</translation>
+    </message>
+    <message>
+        <source>no geophones of shot %1 and shot %2 that can be compared are at one place</source>
+        <translation>ningún geófono comparable del disparo %1 y del disparo %2 está en un mismo lugar</translation>
+    </message>
+    <message>
+        <source>no difference and no sum: the samples are %1 ms and %2 ms apart</source>
+        <translation>sin diferencia ni suma: las muestras están a %1 ms y a %2 ms unas de otras</translation>
+    </message>
+    <message>
+        <source>no difference and no sum: the records begin %1 samples apart, which is no whole number</source>
+        <translation>sin diferencia ni suma: los registros empiezan con %1 muestras de separación, que no es un número entero</translation>
+    </message>
+    <message>
+        <source>%1 traces at the same places</source>
+        <translation>trazas en los mismos lugares: %1</translation>
+    </message>
+    <message>
+        <source>without a partner: %1 traces of shot %2, %3 of shot %4</source>
+        <translation>sin pareja: trazas del disparo %2: %1; del disparo %4: %3</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs with a trace that is killed or has no sample interval</source>
+        <translation>excluidos: pares con una traza anulada o sin intervalo de muestreo: %1</translation>
+    </message>
+    <message>
+        <source>the second is %1 times as strong</source>
+        <translation>la intensidad del segundo es %1 veces la del primero</translation>
+    </message>
+    <message>
+        <source>it is shown times %1</source>
+        <translation>se muestra multiplicado por %1</translation>
+    </message>
+    <message>
+        <source>its record begins %1 ms later</source>
+        <translation>su registro empieza %1 ms más tarde</translation>
+    </message>
+    <message>
+        <source>its record begins %1 ms earlier</source>
+        <translation>su registro empieza %1 ms antes</translation>
+    </message>
+    <message>
+        <source>difference and sum begin with %1 samples of zero</source>
+        <translation>muestras de valor cero al principio de la diferencia y la suma: %1</translation>
+    </message>
+    <message>
+        <source>difference and sum end %1 samples before the first</source>
+        <translation>la diferencia y la suma terminan %1 muestras antes que el primero</translation>
+    </message>
+    <message>
+        <source>sum of shots %1 and %2</source>
+        <translation>suma de los disparos %1 y %2</translation>
+    </message>
+    <message>
+        <source>difference of shots %1 and %2</source>
+        <translation>diferencia de los disparos %1 y %2</translation>
     </message>
 </context>
 <context>
@@ -8574,6 +9303,208 @@ Defina la posición de los geófonos
     <message>
         <source>Take minimum and maximum from the velocities of the section</source>
         <translation>Toma mínimo y máximo de las velocidades de la sección</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>&amp;Figure:</source>
+        <translation>&amp;Figura:</translation>
+    </message>
+    <message>
+        <source>What is printed. What there is nothing of yet is grey, with the reason.</source>
+        <translation>Qué se imprime. Aquello de lo que aún no hay nada está en gris, con el motivo.</translation>
+    </message>
+    <message>
+        <source>&amp;At:</source>
+        <translation>&amp;En:</translation>
+    </message>
+    <message>
+        <source>Place along the line of the depth profile</source>
+        <translation>Lugar del perfil de profundidad a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Título:</translation>
+    </message>
+    <message>
+        <source>Stands in the block below the figure</source>
+        <translation>Figura en el cajetín, debajo de la figura</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>E&amp;scala:</translation>
+    </message>
+    <message>
+        <source>How many times longer the line is than on paper: choose, or type any scale.</source>
+        <translation>Cuántas veces la línea es más larga que sobre el papel: elija o escriba cualquier escala.</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>Exageración &amp;vertical:</translation>
+    </message>
+    <message>
+        <source>How many times larger heights are drawn than lengths along the line</source>
+        <translation>Cuántas veces mayores se dibujan las alturas que las longitudes a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation>Como se muestra</translation>
+    </message>
+    <message>
+        <source>T&amp;imes:</source>
+        <translation>T&amp;iempos:</translation>
+    </message>
+    <message>
+        <source>Milliseconds to a centimetre of paper</source>
+        <translation>Milisegundos por centímetro de papel</translation>
+    </message>
+    <message>
+        <source>As the sheet has room</source>
+        <translation>Según quepa en la hoja</translation>
+    </message>
+    <message>
+        <source> ms/cm</source>
+        <translation> ms/cm</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papel:</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Orientación:</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Neighbouring sheets have 10 mm in common, with crosses by which they are put together</source>
+        <translation>Las hojas vecinas tienen 10 mm en común, con cruces con las que se unen</translation>
+    </message>
+    <message>
+        <source>Sp&amp;lit over several sheets</source>
+        <translation>&amp;Dividir en varias hojas</translation>
+    </message>
+    <message>
+        <source>Whether the figure has room, and what else would fit</source>
+        <translation>Si la figura cabe, y qué más cabría</translation>
+    </message>
+    <message>
+        <source>Preview of the sheets</source>
+        <translation>Vista previa de las hojas</translation>
+    </message>
+    <message>
+        <source>Smaller preview</source>
+        <translation>Vista previa más pequeña</translation>
+    </message>
+    <message>
+        <source>Smaller preview (Ctrl+-)</source>
+        <translation>Vista previa más pequeña (Ctrl+-)</translation>
+    </message>
+    <message>
+        <source>Larger preview</source>
+        <translation>Vista previa más grande</translation>
+    </message>
+    <message>
+        <source>Larger preview (Ctrl++)</source>
+        <translation>Vista previa más grande (Ctrl++)</translation>
+    </message>
+    <message>
+        <source>All sheets in view</source>
+        <translation>Todas las hojas a la vista</translation>
+    </message>
+    <message>
+        <source>&amp;Whole sheets</source>
+        <translation>&amp;Hojas enteras</translation>
+    </message>
+    <message>
+        <source>Choose a printer and print the sheets on it, at their real size</source>
+        <translation>Elija una impresora e imprima en ella las hojas, a su tamaño real</translation>
+    </message>
+    <message>
+        <source>P&amp;rint ...</source>
+        <translation>Imp&amp;rimir ...</translation>
+    </message>
+    <message>
+        <source>Save the sheets as they would be printed</source>
+        <translation>Guarda las hojas como se imprimirían</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF ...</source>
+        <translation>&amp;Guardar como PDF ...</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>a figure and why it cannot be printed</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Fit to the page</source>
+        <translation>Ajustar a la página</translation>
+    </message>
+    <message>
+        <source>No printer is installed. A PDF can be printed elsewhere.</source>
+        <translation>No hay ninguna impresora instalada. Un PDF se puede imprimir en otro lugar.</translation>
+    </message>
+    <message>
+        <source>There is nothing to print yet.</source>
+        <translation>Aún no hay nada que imprimir.</translation>
+    </message>
+    <message>
+        <source>The figure does not fit the sheet at this scale.</source>
+        <translation>La figura no cabe en la hoja a esta escala.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n hoja</numerusform>
+            <numerusform>%n hojas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>At %1 the figure takes %2.</source>
+        <translation>A %1 la figura ocupa %2.</translation>
+    </message>
+    <message>
+        <source>The figure takes %1.</source>
+        <translation>La figura ocupa %1.</translation>
+    </message>
+    <message>
+        <source>At %1 the figure takes %2, and the sheet has room for %3.</source>
+        <translation>A %1 la figura ocupa %2 y en la hoja caben %3.</translation>
+    </message>
+    <message>
+        <source>With more milliseconds to a centimetre it is less high.</source>
+        <translation>Con más milisegundos por centímetro es menos alta.</translation>
+    </message>
+    <message>
+        <source>Choose a larger sheet.</source>
+        <translation>Elija una hoja mayor.</translation>
+    </message>
+    <message>
+        <source>What would fit:</source>
+        <translation>Lo que cabría:</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PrintPreview</name>
+    <message>
+        <source>Drawing the sheets ...</source>
+        <translation>Dibujando las hojas ...</translation>
     </message>
 </context>
 <context>
@@ -10563,6 +11494,43 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>Filters of the recordings</source>
         <translation>Filtros de los registros</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>length, unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Points on the map</source>
+        <translation>Puntos en el mapa</translation>
+    </message>
+    <message>
+        <source>Corners of more than 1°</source>
+        <translation>Quiebros de más de 1°</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Longitud a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Length on the map</source>
+        <translation>Longitud en el mapa</translation>
+    </message>
+    <message>
+        <source>Straight from end to end</source>
+        <translation>En línea recta de extremo a extremo</translation>
+    </message>
+    <message>
+        <source>Farthest from that straight line, to the right</source>
+        <translation>Mayor distancia a esa recta, a la derecha</translation>
+    </message>
+    <message>
+        <source>The same to the left</source>
+        <translation>Lo mismo, a la izquierda</translation>
+    </message>
+    <message>
+        <source>Course of the line between its ends</source>
+        <translation>Trazado de la línea entre sus extremos</translation>
     </message>
 </context>
 <context>
@@ -14590,6 +15558,279 @@ Do you want to run refraction processing anyway? </source>
         <source>The selected traces are zero before (ms); 0: from nowhere</source>
         <translation>Las trazas seleccionadas son cero antes de (ms); 0: desde ningún tiempo</translation>
     </message>
+    <message>
+        <source>Offset and reduced time</source>
+        <translation>Distancia al disparo y tiempo reducido</translation>
+    </message>
+    <message>
+        <source>Print ...</source>
+        <translation>Imprimir ...</translation>
+    </message>
+    <message>
+        <source>Preview a figure on paper at a chosen scale, print it or save it as PDF</source>
+        <translation>Muestra una figura en papel a una escala elegida, la imprime o la guarda como PDF</translation>
+    </message>
+    <message>
+        <source>AutoPick all shots along the line</source>
+        <translation>AutoPick de todos los disparos a lo largo de la línea</translation>
+    </message>
+    <message>
+        <source>Pick the traces of all shots together, whichever are in view; picks that you made stay</source>
+        <translation>Pica juntas las trazas de todos los disparos, sea cual sea el que está a la vista; los picados hechos por usted se quedan</translation>
+    </message>
+    <message>
+        <source>Campaign page ...</source>
+        <translation>Página de campaña ...</translation>
+    </message>
+    <message>
+        <source>Write a web page of each of several projects, and one on all of them</source>
+        <translation>Escribe una página web de cada uno de varios proyectos y una de todos</translation>
+    </message>
+    <message>
+        <source>By offset</source>
+        <translation>Por distancia al disparo</translation>
+    </message>
+    <message>
+        <source>Order and space the traces by their offset, geophone minus shot: those before the shot at its left (key X)</source>
+        <translation>Ordena y separa las trazas según su distancia, geófono menos disparo: las anteriores al disparo, a su izquierda (tecla X)</translation>
+    </message>
+    <message>
+        <source>By absolute offset</source>
+        <translation>Por distancia absoluta al disparo</translation>
+    </message>
+    <message>
+        <source>Order and space the traces by their distance from the shot, either side over the other (key Shift+X)</source>
+        <translation>Ordena y separa las trazas según su distancia al disparo, un lado sobre el otro (teclas Mayús+X)</translation>
+    </message>
+    <message>
+        <source>Reduced time</source>
+        <translation>Tiempo reducido</translation>
+    </message>
+    <message>
+        <source>Draw every trace earlier by its offset over a velocity, that of the ruler or the one asked for last; picks stay true times (key V)</source>
+        <translation>Dibuja cada traza antes, según su distancia dividida por una velocidad, la de la regla o la última que se indicó; los picados siguen siendo tiempos reales (tecla V)</translation>
+    </message>
+    <message>
+        <source>Velocity of reduced time...</source>
+        <translation>Velocidad del tiempo reducido...</translation>
+    </message>
+    <message>
+        <source>Choose the velocity that waves have to be drawn flat (key Shift+V)</source>
+        <translation>Elige la velocidad de las ondas que se dibujan planas (teclas Mayús+V)</translation>
+    </message>
+    <message>
+        <source>Gain with time</source>
+        <translation>Ganancia con el tiempo</translation>
+    </message>
+    <message>
+        <source>Draw late waves larger, by a power of their time; samples, picks and files stay as they are (key T)</source>
+        <translation>Dibuja mayores las ondas tardías, según una potencia de su tiempo; muestras, picados y archivos quedan como están (tecla T)</translation>
+    </message>
+    <message>
+        <source>Exponent of gain with time...</source>
+        <translation>Exponente de la ganancia con el tiempo...</translation>
+    </message>
+    <message>
+        <source>Choose the power of time that wiggles are drawn with (key Shift+T)</source>
+        <translation>Elige la potencia del tiempo con que se dibujan las oscilaciones (teclas Mayús+T)</translation>
+    </message>
+    <message>
+        <source>Trace headers...</source>
+        <translation>Cabeceras de las trazas...</translation>
+    </message>
+    <message>
+        <source>All that is known of every trace as a table, with what the headers of the shot files say</source>
+        <translation>Todo lo que se sabe de cada traza, como tabla, con lo que dicen las cabeceras de los archivos de disparos</translation>
+    </message>
+    <message>
+        <source>Overlay two shots...</source>
+        <translation>Superponer dos disparos...</translation>
+    </message>
+    <message>
+        <source>Lay the traces of two shots over each other, and see their difference and their sum: blows of opposite sense, or a shot that was repeated</source>
+        <translation>Superpone las trazas de dos disparos y muestra su diferencia y su suma: golpes de sentido opuesto o un disparo repetido</translation>
+    </message>
+    <message>
+        <source>Sheet of shots ...</source>
+        <translation>Hoja de disparos ...</translation>
+    </message>
+    <message>
+        <source>Several shots side by side on one sheet, with one axis of time, as PDF, SVG or PNG</source>
+        <translation>Varios disparos uno al lado de otro en una hoja, con un mismo eje de tiempos, como PDF, SVG o PNG</translation>
+    </message>
+    <message>
+        <source>The shot has not been added to the survey.</source>
+        <translation>El disparo no se ha añadido al levantamiento.</translation>
+    </message>
+    <message>
+        <source>Shot %1 is added; Undo takes it away.</source>
+        <translation>Se ha añadido el disparo %1; Deshacer lo quita.</translation>
+    </message>
+    <message>
+        <source>Save Shot File</source>
+        <translation>Guardar archivo de disparo</translation>
+    </message>
+    <message>
+        <source>SEG-2 (*.sg2);;SEG-Y (*.sgy)</source>
+        <translation>SEG-2 (*.sg2);;SEG-Y (*.sgy)</translation>
+    </message>
+    <message>
+        <source>Save Picture of Two Shots</source>
+        <translation>Guardar imagen de dos disparos</translation>
+    </message>
+    <message>
+        <source>Add projects to the campaign page</source>
+        <translation>Añadir proyectos a la página de campaña</translation>
+    </message>
+    <message>
+        <source>Save campaign page</source>
+        <translation>Guardar página de campaña</translation>
+    </message>
+    <message>
+        <source>Campaign page</source>
+        <translation>Página de campaña</translation>
+    </message>
+    <message>
+        <source>%1: project %2 of %3</source>
+        <comment>file, number, count</comment>
+        <translation>%1: proyecto %2 de %3</translation>
+    </message>
+    <message>
+        <source>Stopped; the campaign page has not been saved.</source>
+        <translation>Detenido; no se ha guardado la página de campaña.</translation>
+    </message>
+    <message>
+        <source>Saved in %1, without the changes of this survey that are not saved</source>
+        <translation>Guardado en %1, sin los cambios de este levantamiento que no se han guardado</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Some values of the projects cannot be. They were put right or left out.</source>
+        <translation>Algunos valores de los proyectos son imposibles. Se han corregido o descartado.</translation>
+    </message>
+    <message>
+        <source>Projects that failed: %1. The campaign page names them.</source>
+        <translation>Proyectos con fallos: %1. La página de campaña los nombra.</translation>
+    </message>
+    <message>
+        <source>Save Sheets of Shots</source>
+        <translation>Guardar hojas de disparos</translation>
+    </message>
+    <message>
+        <source>PDF, all sheets in one file (*.pdf);;SVG picture (*.svg);;PNG picture (*.png)</source>
+        <translation>PDF, todas las hojas en un archivo (*.pdf);;Imagen SVG (*.svg);;Imagen PNG (*.png)</translation>
+    </message>
+    <message numerus="yes">
+        <source>The sheets have not all been saved; %n file(s) are complete.</source>
+        <translation>
+            <numerusform>No se han guardado todas las hojas; %n archivo está completo.</numerusform>
+            <numerusform>No se han guardado todas las hojas; %n archivos están completos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there are no picks yet</source>
+        <translation>aún no hay picados</translation>
+    </message>
+    <message>
+        <source>Layered profile</source>
+        <translation>Perfil de capas</translation>
+    </message>
+    <message>
+        <source>there is no layered profile yet</source>
+        <translation>aún no hay perfil de capas</translation>
+    </message>
+    <message>
+        <source>Traces of shot %1</source>
+        <translation>Trazas del disparo %1</translation>
+    </message>
+    <message>
+        <source>no shot with traces is in view</source>
+        <translation>no hay a la vista ningún disparo con trazas</translation>
+    </message>
+    <message>
+        <source>Misfit of every iteration</source>
+        <translation>Desajuste de cada iteración</translation>
+    </message>
+    <message>
+        <source>there is no inversion yet</source>
+        <translation>aún no hay inversión</translation>
+    </message>
+    <message>
+        <source>Residuals by shot and geophone</source>
+        <translation>Residuos por disparo y geófono</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residuos según la distancia al disparo</translation>
+    </message>
+    <message>
+        <source>Residuals of shots and of geophones</source>
+        <translation>Residuos de disparos y de geófonos</translation>
+    </message>
+    <message>
+        <source>Residuals along the rays</source>
+        <translation>Residuos a lo largo de los rayos</translation>
+    </message>
+    <message>
+        <source>Depth profile</source>
+        <translation>Perfil de profundidad</translation>
+    </message>
+    <message>
+        <source>there is no section yet</source>
+        <translation>aún no hay sección</translation>
+    </message>
+    <message>
+        <source>P and S</source>
+        <translation>P y S</translation>
+    </message>
+    <message>
+        <source>its own dialog prints it</source>
+        <translation>se imprime desde su propio cuadro de diálogo</translation>
+    </message>
+    <message>
+        <source>Nothing has been printed.</source>
+        <translation>No se ha imprimido nada.</translation>
+    </message>
+    <message>
+        <source>Sent to %1.</source>
+        <translation>Enviado a %1.</translation>
+    </message>
+    <message>
+        <source>Save sheets as PDF</source>
+        <translation>Guardar hojas como PDF</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Documento PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Shots whose files name no fields: %1. %2</source>
+        <translation>Disparos cuyos archivos no nombran campos: %1. %2</translation>
+    </message>
+    <message>
+        <source>Save Trace Headers</source>
+        <translation>Guardar cabeceras de las trazas</translation>
+    </message>
+    <message>
+        <source>Velocity V of t - |x|/V (%1):</source>
+        <translation>Velocidad V de t - |x|/V (%1):</translation>
+    </message>
+    <message>
+        <source>Exponent n of t^n, 0 for none:</source>
+        <translation>Exponente n de t^n, 0 para ninguna:</translation>
+    </message>
+    <message>
+        <source>Reduced %1 ms</source>
+        <translation>Reducido %1 ms</translation>
+    </message>
+    <message>
+        <source>Section as it is shown</source>
+        <translation>Sección como se muestra</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -14604,6 +15845,84 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Time (ms)</source>
         <translation>Tiempo (ms)</translation>
+    </message>
+    <message>
+        <source>Offset (%1)</source>
+        <translation>Distancia al disparo (%1)</translation>
+    </message>
+    <message>
+        <source>|x| (%1)</source>
+        <comment>absolute offset</comment>
+        <translation>|x| (%1)</translation>
+    </message>
+    <message>
+        <source>Reduced time (ms), t - |x|/%1 %2</source>
+        <translation>Tiempo reducido (ms), t - |x|/%1 %2</translation>
+    </message>
+    <message>
+        <source>%1, gain t^%2</source>
+        <comment>time axis, exponent</comment>
+        <translation>%1, ganancia t^%2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceHeadersDialog</name>
+    <message>
+        <source>Trace headers</source>
+        <translation>Cabeceras de las trazas</translation>
+    </message>
+    <message>
+        <source>Headers of all traces</source>
+        <translation>Cabeceras de todas las trazas</translation>
+    </message>
+    <message>
+        <source>A click on a heading sorts by it; the current row is shown among the traces</source>
+        <translation>Un clic en un encabezado ordena según él; la fila actual se muestra entre las trazas</translation>
+    </message>
+    <message>
+        <source>Reads the shot files again and adds a column for every field that their headers name: instrument, time of recording, gain, stack, notes</source>
+        <translation>Lee de nuevo los archivos de disparos y añade una columna por cada campo que nombran sus cabeceras: instrumento, hora del registro, ganancia, apilado, notas</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the shot files</source>
+        <translation>&amp;Todos los campos de los archivos de disparos</translation>
+    </message>
+    <message>
+        <source>The selected rows, or all of them, with a heading, as spreadsheets paste them (Ctrl+C)</source>
+        <translation>Las filas seleccionadas, o todas, con encabezado, como las pegan las hojas de cálculo (Ctrl+C)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>All rows in the order of shots and traces, lengths in metres, with decimal points</source>
+        <translation>Todas las filas en el orden de disparos y trazas, longitudes en metros, con puntos decimales</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Guardar tabla...</translation>
+    </message>
+    <message>
+        <source>Traces: %1</source>
+        <translation>Trazas: %1</translation>
+    </message>
+    <message>
+        <source>Rows copied: %1</source>
+        <translation>Filas copiadas: %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceHeadersModel</name>
+    <message>
+        <source>%1 [%2]</source>
+        <comment>quantity, unit</comment>
+        <translation>%1 [%2]</translation>
+    </message>
+    <message>
+        <source>%1 [ms]</source>
+        <comment>quantity</comment>
+        <translation>%1 [ms]</translation>
     </message>
 </context>
 <context>
@@ -15699,6 +17018,14 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
         <translation>Trazas %1: C confirma, Supr quita, K anula, P invierte, U silencia, Esc deselecciona</translation>
+    </message>
+    <message>
+        <source>Times are not reduced: offsets are not known</source>
+        <translation>Los tiempos no se reducen: no se conocen las distancias al disparo</translation>
+    </message>
+    <message>
+        <source>Not by offset: offsets are not known, or all the same</source>
+        <translation>No por distancia al disparo: no se conocen las distancias, o son todas iguales</translation>
     </message>
 </context>
 <context>

@@ -160,6 +160,219 @@
     </message>
 </context>
 <context>
+    <name>talvesk::BlowPairDialog</name>
+    <message>
+        <source>Two shots</source>
+        <translation>Deux tirs</translation>
+    </message>
+    <message>
+        <source>&amp;First:</source>
+        <translation>&amp;Premier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The recording that time and places are counted by</source>
+        <translation>L&apos;enregistrement selon lequel le temps et les positions sont comptés</translation>
+    </message>
+    <message>
+        <source>S&amp;econd:</source>
+        <translation>&amp;Second&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The recording that is laid over it; the nearest is proposed</source>
+        <translation>L&apos;enregistrement qui lui est superposé&#xa0;; le plus proche est proposé</translation>
+    </message>
+    <message>
+        <source>The traces of both over each other</source>
+        <translation>Les traces des deux, superposées</translation>
+    </message>
+    <message>
+        <source>&amp;Overlaid</source>
+        <translation>S&amp;uperposés</translation>
+    </message>
+    <message>
+        <source>First less second: of blows of opposite sense it enhances S waves</source>
+        <translation>Premier moins second&#xa0;: pour des coups de sens opposés, elle renforce les ondes S</translation>
+    </message>
+    <message>
+        <source>&amp;Difference</source>
+        <translation>&amp;Différence</translation>
+    </message>
+    <message>
+        <source>Of blows of opposite sense it enhances P waves</source>
+        <translation>Pour des coups de sens opposés, elle renforce les ondes P</translation>
+    </message>
+    <message>
+        <source>S&amp;um</source>
+        <translation>So&amp;mme</translation>
+    </message>
+    <message>
+        <source>The second is made as strong as the first</source>
+        <translation>Le second est rendu aussi fort que le premier</translation>
+    </message>
+    <message>
+        <source>E&amp;qual strength</source>
+        <translation>Force é&amp;gale</translation>
+    </message>
+    <message>
+        <source>All traces by one measure; else each pair of traces by the larger of both</source>
+        <translation>Toutes les traces à une même mesure&#xa0;; sinon, chaque paire de traces à la plus grande des deux</translation>
+    </message>
+    <message>
+        <source>True &amp;amplitudes</source>
+        <translation>&amp;Amplitudes réelles</translation>
+    </message>
+    <message>
+        <source>The filtered copies of traces that have one</source>
+        <translation>Les copies filtrées des traces qui en ont une</translation>
+    </message>
+    <message>
+        <source>Filtered co&amp;pies</source>
+        <translation>&amp;Copies filtrées</translation>
+    </message>
+    <message>
+        <source>Mark the first breaks of both, each in its colour</source>
+        <translation>Marquer les premières arrivées des deux, chacune dans sa couleur</translation>
+    </message>
+    <message>
+        <source>Pic&amp;ks</source>
+        <translation>P&amp;ointés</translation>
+    </message>
+    <message>
+        <source>&amp;Gain:</source>
+        <translation>Ga&amp;in&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Swing of the largest value, in distances between traces</source>
+        <translation>Amplitude de la plus grande valeur, en écartements de traces</translation>
+    </message>
+    <message>
+        <source>&amp;Times to:</source>
+        <translation>&amp;Temps jusqu&apos;à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Where the axis of time ends; automatic: where half as long again as the last pick takes is over</source>
+        <translation>Où finit l&apos;axe du temps&#xa0;; automatique&#xa0;: une fois et demie le temps du dernier pointé</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatique</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>What is added or saved</source>
+        <translation>Ce qui est ajouté ou enregistré</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Différence</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Somme</translation>
+    </message>
+    <message>
+        <source>As a shot of the survey, without picks, at the place of the first; Undo takes it away</source>
+        <translation>Comme tir du levé, sans pointés, à l&apos;emplacement du premier&#xa0;; «&#xa0;Défaire&#xa0;» le retire</translation>
+    </message>
+    <message>
+        <source>Add to su&amp;rvey</source>
+        <translation>Ajouter au &amp;levé</translation>
+    </message>
+    <message>
+        <source>As SEG-2 or SEG-Y</source>
+        <translation>En SEG-2 ou SEG-Y</translation>
+    </message>
+    <message>
+        <source>Save s&amp;hot file ...</source>
+        <translation>Enregistrer le &amp;fichier de tir ...</translation>
+    </message>
+    <message>
+        <source>What is shown, as PNG, SVG or PDF</source>
+        <translation>Ce qui est affiché, en PNG, SVG ou PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>E&amp;nregistrer l&apos;image ...</translation>
+    </message>
+    <message>
+        <source>Traces of both shots, their difference and their sum</source>
+        <translation>Traces des deux tirs, leur différence et leur somme</translation>
+    </message>
+    <message>
+        <source>one sense</source>
+        <comment>of a pair of blows</comment>
+        <translation>un sens</translation>
+    </message>
+    <message>
+        <source>other sense</source>
+        <comment>of a pair of blows</comment>
+        <translation>autre sens</translation>
+    </message>
+    <message>
+        <source>at %1 %2</source>
+        <comment>place, unit</comment>
+        <translation>à %1 %2</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2</source>
+        <translation>Tir %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>There are no two recordings to be compared.</source>
+        <translation>Il n&apos;y a pas deux enregistrements à comparer.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignDialog</name>
+    <message>
+        <source>Campaign page</source>
+        <translation>Page de campagne</translation>
+    </message>
+    <message>
+        <source>A web page of every project, and one on all of them: a table, the sections in small by one scale of colours, and a map. The projects stay as they are.</source>
+        <translation>Une page web de chaque projet, et une sur tous&#xa0;: un tableau, les coupes en petit selon une même échelle de couleurs, et une carte. Les projets restent inchangés.</translation>
+    </message>
+    <message>
+        <source>&amp;Projects:</source>
+        <translation>&amp;Projets&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Projets</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>&amp;Ajouter des projets ...</translation>
+    </message>
+    <message>
+        <source>Take the projects that are selected off the list; their files stay</source>
+        <translation>Ôter de la liste les projets sélectionnés&#xa0;; leurs fichiers restent</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Client:</source>
+        <translation>&amp;Client&#xa0;:</translation>
+    </message>
+    <message>
+        <source>S&amp;ite:</source>
+        <translation>S&amp;ite&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A&amp;uthor:</source>
+        <translation>A&amp;uteur&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CampaignPage</name>
     <message>
         <source>RMS misfit [ms]</source>
@@ -1625,6 +1838,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Depths by P and S differ: it may be different ground.</source>
         <translation>Les profondeurs selon P et S diffèrent&#xa0;: ce sont peut-être des terrains différents.</translation>
     </message>
+    <message>
+        <source>Preview and print the curves at a chosen scale</source>
+        <translation>Voir l&apos;aperçu des courbes et les imprimer à l&apos;échelle choisie</translation>
+    </message>
+    <message>
+        <source>Print ...</source>
+        <translation>Imprimer ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ErrorBands</name>
@@ -1770,6 +1991,20 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>%1: %2</source>
         <comment>line, why</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Lines of the fence</source>
+        <translation>Lignes des panneaux</translation>
+    </message>
+    <message>
+        <source>Converted: %1.</source>
+        <comment>lines</comment>
+        <translation>Converties&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>%1 from EPSG:%2 to EPSG:%3</source>
+        <comment>line, systems</comment>
+        <translation>%1 d&apos;EPSG:%2 en EPSG:%3</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2625,80 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>Elevation %1</source>
         <translation>Altitude %1</translation>
     </message>
+    <message>
+        <source>Sum</source>
+        <translation>Somme</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Différence</translation>
+    </message>
+    <message>
+        <source>Each pair of traces to one maximum, gain %1</source>
+        <translation>Chaque paire de traces au même maximum, gain %1</translation>
+    </message>
+    <message>
+        <source>Absolute offset [%1]</source>
+        <translation>Déport absolu [%1]</translation>
+    </message>
+    <message>
+        <source>Reduced time [ms], t - |x|/%1 %2</source>
+        <translation>Temps réduit [ms], t - |x|/%1 %2</translation>
+    </message>
+    <message>
+        <source>gain with time t^%1</source>
+        <comment>exponent</comment>
+        <translation>gain selon le temps t^%1</translation>
+    </message>
+    <message>
+        <source>offsets not known: not drawn by offset or reduced as asked</source>
+        <translation>déports inconnus&#xa0;: pas de dessin par déport ni en temps réduit comme demandé</translation>
+    </message>
+    <message>
+        <source>All traces of a shot to one maximum, gain %1</source>
+        <translation>Toutes les traces d&apos;un tir au même maximum, gain %1</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2</source>
+        <comment>what is left out of it, or mended</comment>
+        <translation>Tir %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Feuille %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Coupe</translation>
+    </message>
+    <message>
+        <source>Misfit in each iteration</source>
+        <translation>Écart à chaque itération</translation>
+    </message>
+    <message>
+        <source>Residuals along the rays</source>
+        <translation>Résidus le long des rais</translation>
+    </message>
+    <message>
+        <source>Residuals</source>
+        <translation>Résidus</translation>
+    </message>
+    <message>
+        <source>Depth profile</source>
+        <translation>Profil de profondeur</translation>
+    </message>
+    <message>
+        <source>P and S</source>
+        <translation>P et S</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2: row %3, column %4</source>
+        <translation>Feuille %1 sur %2&#xa0;: ligne %3, colonne %4</translation>
+    </message>
+    <message>
+        <source>1 cm is %1 ms</source>
+        <translation>1 cm = %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -2555,6 +2864,146 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>%1 dB</source>
         <translation>%1 dB</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GatherSheetDialog</name>
+    <message>
+        <source>Sheet of shots</source>
+        <translation>Feuille de tirs</translation>
+    </message>
+    <message>
+        <source>&amp;Rows:</source>
+        <translation>&amp;Lignes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shots one above the other</source>
+        <translation>Tirs l&apos;un au-dessus de l&apos;autre</translation>
+    </message>
+    <message>
+        <source>&amp;Columns:</source>
+        <translation>&amp;Colonnes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shots side by side</source>
+        <translation>Tirs côte à côte</translation>
+    </message>
+    <message>
+        <source>&amp;First shot:</source>
+        <translation>&amp;Premier tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The shots from this one on</source>
+        <translation>Les tirs à partir de celui-ci</translation>
+    </message>
+    <message>
+        <source>&amp;Last shot:</source>
+        <translation>&amp;Dernier tir&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The shots up to this one</source>
+        <translation>Les tirs jusqu&apos;à celui-ci</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>Pap&amp;ier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Times to:</source>
+        <translation>&amp;Temps jusqu&apos;à&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Where the axis of time ends; automatic: where half as long again as the last pick takes is over</source>
+        <translation>Où finit l&apos;axe du temps&#xa0;; automatique&#xa0;: une fois et demie le temps du dernier pointé</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatique</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Gain:</source>
+        <translation>&amp;Gain&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Swing of the largest value, in distances between traces</source>
+        <translation>Amplitude de la plus grande valeur, en écartements de traces</translation>
+    </message>
+    <message>
+        <source>Mark the first breaks</source>
+        <translation>Marquer les premières arrivées</translation>
+    </message>
+    <message>
+        <source>P&amp;icks</source>
+        <translation>P&amp;ointés</translation>
+    </message>
+    <message>
+        <source>All traces of a shot to one measure</source>
+        <translation>Toutes les traces d&apos;un tir à une même mesure</translation>
+    </message>
+    <message>
+        <source>True &amp;amplitudes</source>
+        <translation>&amp;Amplitudes réelles</translation>
+    </message>
+    <message>
+        <source>The filtered copies of the traces that have one</source>
+        <translation>Les copies filtrées des traces qui en ont une</translation>
+    </message>
+    <message>
+        <source>Filtered c&amp;opies</source>
+        <translation>Copies &amp;filtrées</translation>
+    </message>
+    <message>
+        <source>Channel numbers in place of distances</source>
+        <translation>Numéros des canaux au lieu des distances</translation>
+    </message>
+    <message>
+        <source>C&amp;hannels below</source>
+        <translation>Ca&amp;naux en bas</translation>
+    </message>
+    <message>
+        <source>Sh&amp;eet:</source>
+        <translation>F&amp;euille&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The sheet that is shown; all are saved</source>
+        <translation>La feuille affichée&#xa0;; toutes sont enregistrées</translation>
+    </message>
+    <message>
+        <source>A4 landscape</source>
+        <translation>A4 paysage</translation>
+    </message>
+    <message>
+        <source>A4 portrait</source>
+        <translation>A4 portrait</translation>
+    </message>
+    <message>
+        <source>A3 landscape</source>
+        <translation>A3 paysage</translation>
+    </message>
+    <message>
+        <source>A3 portrait</source>
+        <translation>A3 portrait</translation>
+    </message>
+    <message>
+        <source>A2 landscape</source>
+        <translation>A2 paysage</translation>
+    </message>
+    <message>
+        <source>A2 portrait</source>
+        <translation>A2 portrait</translation>
+    </message>
+    <message>
+        <source>&amp;Save sheets ...</source>
+        <translation>Enregi&amp;strer les feuilles ...</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>sheets</comment>
+        <translation>sur %1</translation>
     </message>
 </context>
 <context>
@@ -2999,6 +3448,14 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Files to be written</source>
         <translation>Fichiers à écrire</translation>
+    </message>
+    <message>
+        <source>Traces as in the view</source>
+        <translation>Traces comme dans la vue</translation>
+    </message>
+    <message>
+        <source>By offset, in reduced time and with a gain in time, as the view of the traces is now</source>
+        <translation>Par déport, en temps réduit et avec un gain selon le temps, comme la vue des traces actuellement</translation>
     </message>
 </context>
 <context>
@@ -8291,16 +8748,288 @@ Veuillez définir la position des géophones
         <translation>Atténuer les traces</translation>
     </message>
     <message>
-        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet.</source>
-        <translation>À 1:%1, la figure occupe %2 x %3 mm et la feuille offre %4 x %5 mm : choisissez 1:%6 ou une feuille plus grande.</translation>
-    </message>
-    <message>
         <source>The figure fits this sheet at no scale: choose a larger sheet.</source>
         <translation>La figure ne tient sur cette feuille à aucune échelle : choisissez une feuille plus grande.</translation>
     </message>
     <message>
         <source>The scale must lie between 1:%1 and 1:%2.</source>
         <translation>L’échelle doit être comprise entre 1:%1 et 1:%2.</translation>
+    </message>
+    <message>
+        <source>choose two different recordings</source>
+        <translation>choisissez deux enregistrements différents</translation>
+    </message>
+    <message>
+        <source>Choose a scale, or type one such as 1:750.</source>
+        <translation>Choisissez une échelle ou saisissez-en une, par exemple 1:750.</translation>
+    </message>
+    <message>
+        <source>The printer is set to paper of %1 x %2 mm, and the sheets are made for %3 x %4 mm: choose the same paper for both.</source>
+        <translation>L&apos;imprimante est réglée sur du papier de %1 x %2 mm, et les feuilles sont faites pour %3 x %4 mm&#xa0;: choisissez le même papier pour les deux.</translation>
+    </message>
+    <message>
+        <source>The printer does not take the sheets.</source>
+        <translation>L&apos;imprimante n&apos;accepte pas les feuilles.</translation>
+    </message>
+    <message>
+        <source>Add sum of two shots</source>
+        <translation>Ajouter la somme de deux tirs</translation>
+    </message>
+    <message>
+        <source>Add difference of two shots</source>
+        <translation>Ajouter la différence de deux tirs</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder %1</source>
+        <translation>Impossible de créer le dossier %1</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: there is a file of that name that is no page of Talvesk; move it or choose another folder</source>
+        <translation>Impossible d&apos;écrire %1&#xa0;: il existe un fichier de ce nom qui n&apos;est pas une page de Talvesk&#xa0;; déplacez-le ou choisissez un autre dossier</translation>
+    </message>
+    <message>
+        <source>There is nothing chosen to be drawn.</source>
+        <translation>Rien n&apos;est choisi à dessiner.</translation>
+    </message>
+    <message>
+        <source>There is no section to draw.</source>
+        <translation>Il n&apos;y a pas de coupe à dessiner.</translation>
+    </message>
+    <message>
+        <source>A sheet has 1 to %1 rows and 1 to %2 columns of shots.</source>
+        <translation>Une feuille a de 1 à %1 lignes et de 1 à %2 colonnes de tirs.</translation>
+    </message>
+    <message>
+        <source>There is no sheet %1 to draw.</source>
+        <translation>Il n&apos;y a pas de feuille %1 à dessiner.</translation>
+    </message>
+    <message>
+        <source>A centimetre must be %1 to %2 ms.</source>
+        <translation>Un centimètre doit valoir de %1 à %2 ms.</translation>
+    </message>
+    <message>
+        <source>The figure fits this sheet at no scale: choose a larger sheet, or more milliseconds to a centimetre.</source>
+        <translation>La figure ne tient sur cette feuille à aucune échelle&#xa0;: choisissez une feuille plus grande, ou plus de millisecondes par centimètre.</translation>
+    </message>
+    <message>
+        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet, or have it split.</source>
+        <translation>À 1:%1, la figure occupe %2 x %3 mm et la feuille offre %4 x %5 mm&#xa0;: choisissez 1:%6 ou une feuille plus grande, ou faites-la répartir.</translation>
+    </message>
+    <message>
+        <source>its format names no fields of headers</source>
+        <translation>son format ne nomme pas de champs d&apos;en-tête</translation>
+    </message>
+    <message>
+        <source>fields of SEG-Y revision 2 are not shown</source>
+        <translation>les champs de SEG-Y révision 2 ne sont pas affichés</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>les règles du programme</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>la norme de son format</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>tir désactivé</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>décalé de %1 ms</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>ordre inversé</translation>
+    </message>
+    <message>
+        <source>stacked</source>
+        <translation>sommé</translation>
+    </message>
+    <message>
+        <source>killed</source>
+        <translation>neutralisée</translation>
+    </message>
+    <message>
+        <source>polarity reversed</source>
+        <translation>polarité inversée</translation>
+    </message>
+    <message>
+        <source>muted before %1 ms</source>
+        <translation>mute avant %1 ms</translation>
+    </message>
+    <message>
+        <source>gain %1</source>
+        <translation>gain %1</translation>
+    </message>
+    <message>
+        <source>filtered</source>
+        <translation>filtrée</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tir</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Trace</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Shot x</source>
+        <translation>x tir</translation>
+    </message>
+    <message>
+        <source>Shot elevation</source>
+        <translation>Altitude tir</translation>
+    </message>
+    <message>
+        <source>Geophone x</source>
+        <translation>x géophone</translation>
+    </message>
+    <message>
+        <source>Geophone elevation</source>
+        <translation>Altitude géophone</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Déport</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Pointé</translation>
+    </message>
+    <message>
+        <source>Pick error</source>
+        <translation>Erreur du pointé</translation>
+    </message>
+    <message>
+        <source>Sample interval</source>
+        <translation>Pas d&apos;échantillonnage</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Échantillons</translation>
+    </message>
+    <message>
+        <source>Record length</source>
+        <translation>Durée d&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Délai</translation>
+    </message>
+    <message>
+        <source>Samples cut off</source>
+        <translation>Échantillons retirés</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Corrections</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>Shot x in file</source>
+        <translation>x tir (fichier)</translation>
+    </message>
+    <message>
+        <source>Shot elevation in file</source>
+        <translation>Altitude tir (fichier)</translation>
+    </message>
+    <message>
+        <source>Geophone x in file</source>
+        <translation>x géophone (fichier)</translation>
+    </message>
+    <message>
+        <source>Geophone elevation in file</source>
+        <translation>Altitude géophone (fichier)</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Reader</source>
+        <translation>Lu selon</translation>
+    </message>
+    <message>
+        <source>it has no shot file</source>
+        <translation>il n&apos;a pas de fichier de tir</translation>
+    </message>
+    <message>
+        <source>it is made of two shot files</source>
+        <translation>il est fait de deux fichiers de tirs</translation>
+    </message>
+    <message>
+        <source>its file has %1 traces, the shot %2</source>
+        <translation>son fichier a %1 traces, le tir %2</translation>
+    </message>
+    <message>
+        <source>no geophones of shot %1 and shot %2 that can be compared are at one place</source>
+        <translation>aucun géophone comparable du tir %1 et du tir %2 n&apos;est au même endroit</translation>
+    </message>
+    <message>
+        <source>no difference and no sum: the samples are %1 ms and %2 ms apart</source>
+        <translation>ni différence ni somme&#xa0;: les pas d&apos;échantillonnage sont de %1 ms et %2 ms</translation>
+    </message>
+    <message>
+        <source>no difference and no sum: the records begin %1 samples apart, which is no whole number</source>
+        <translation>ni différence ni somme&#xa0;: les débuts des enregistrements sont séparés de %1 échantillons, ce qui n&apos;est pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>%1 traces at the same places</source>
+        <translation>%1 traces aux mêmes endroits</translation>
+    </message>
+    <message>
+        <source>without a partner: %1 traces of shot %2, %3 of shot %4</source>
+        <translation>sans vis-à-vis&#xa0;: %1 traces du tir %2, %3 du tir %4</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs with a trace that is killed or has no sample interval</source>
+        <translation>écartées&#xa0;: %1 paires avec une trace neutralisée ou sans pas d&apos;échantillonnage</translation>
+    </message>
+    <message>
+        <source>the second is %1 times as strong</source>
+        <translation>le second est %1 fois aussi fort</translation>
+    </message>
+    <message>
+        <source>it is shown times %1</source>
+        <translation>il est affiché multiplié par %1</translation>
+    </message>
+    <message>
+        <source>its record begins %1 ms later</source>
+        <translation>son enregistrement commence %1 ms plus tard</translation>
+    </message>
+    <message>
+        <source>its record begins %1 ms earlier</source>
+        <translation>son enregistrement commence %1 ms plus tôt</translation>
+    </message>
+    <message>
+        <source>difference and sum begin with %1 samples of zero</source>
+        <translation>différence et somme commencent par %1 échantillons nuls</translation>
+    </message>
+    <message>
+        <source>difference and sum end %1 samples before the first</source>
+        <translation>différence et somme finissent %1 échantillons avant le premier</translation>
+    </message>
+    <message>
+        <source>sum of shots %1 and %2</source>
+        <translation>somme des tirs %1 et %2</translation>
+    </message>
+    <message>
+        <source>difference of shots %1 and %2</source>
+        <translation>différence des tirs %1 et %2</translation>
     </message>
 </context>
 <context>
@@ -8574,6 +9303,208 @@ Veuillez définir la position des géophones
     <message>
         <source>Take minimum and maximum from the velocities of the section</source>
         <translation>Prendre le minimum et le maximum des vitesses de la coupe</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Figure:</source>
+        <translation>&amp;Figure&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What is printed. What there is nothing of yet is grey, with the reason.</source>
+        <translation>Ce qui est imprimé. Ce dont il n&apos;y a encore rien est en gris, avec la raison.</translation>
+    </message>
+    <message>
+        <source>&amp;At:</source>
+        <translation>&amp;Distance&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Place along the line of the depth profile</source>
+        <translation>Endroit du profil de profondeur le long de la ligne</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Stands in the block below the figure</source>
+        <translation>Apparaît dans le cartouche sous la figure</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>Éche&amp;lle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How many times longer the line is than on paper: choose, or type any scale.</source>
+        <translation>Combien de fois la ligne est plus longue que sur le papier : choisir, ou taper une échelle quelconque.</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>Exagération &amp;verticale&#xa0;:</translation>
+    </message>
+    <message>
+        <source>How many times larger heights are drawn than lengths along the line</source>
+        <translation>Combien de fois les hauteurs sont dessinées plus grandes que les longueurs le long de la ligne</translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation>Comme affichée</translation>
+    </message>
+    <message>
+        <source>T&amp;imes:</source>
+        <translation>Te&amp;mps&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Milliseconds to a centimetre of paper</source>
+        <translation>Millisecondes par centimètre de papier</translation>
+    </message>
+    <message>
+        <source>As the sheet has room</source>
+        <translation>Selon la place sur la feuille</translation>
+    </message>
+    <message>
+        <source> ms/cm</source>
+        <translation> ms/cm</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Orientation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Neighbouring sheets have 10 mm in common, with crosses by which they are put together</source>
+        <translation>Les feuilles voisines ont 10 mm en commun, avec des croix pour les assembler</translation>
+    </message>
+    <message>
+        <source>Sp&amp;lit over several sheets</source>
+        <translation>&amp;Répartir sur plusieurs feuilles</translation>
+    </message>
+    <message>
+        <source>Whether the figure has room, and what else would fit</source>
+        <translation>Si la figure a la place, et ce qui tiendrait sinon</translation>
+    </message>
+    <message>
+        <source>Preview of the sheets</source>
+        <translation>Aperçu des feuilles</translation>
+    </message>
+    <message>
+        <source>Smaller preview</source>
+        <translation>Aperçu plus petit</translation>
+    </message>
+    <message>
+        <source>Smaller preview (Ctrl+-)</source>
+        <translation>Aperçu plus petit (Ctrl+-)</translation>
+    </message>
+    <message>
+        <source>Larger preview</source>
+        <translation>Aperçu plus grand</translation>
+    </message>
+    <message>
+        <source>Larger preview (Ctrl++)</source>
+        <translation>Aperçu plus grand (Ctrl++)</translation>
+    </message>
+    <message>
+        <source>All sheets in view</source>
+        <translation>Toutes les feuilles visibles</translation>
+    </message>
+    <message>
+        <source>&amp;Whole sheets</source>
+        <translation>Feuilles &amp;entières</translation>
+    </message>
+    <message>
+        <source>Choose a printer and print the sheets on it, at their real size</source>
+        <translation>Choisir une imprimante et y imprimer les feuilles, à leur taille réelle</translation>
+    </message>
+    <message>
+        <source>P&amp;rint ...</source>
+        <translation>&amp;Imprimer ...</translation>
+    </message>
+    <message>
+        <source>Save the sheets as they would be printed</source>
+        <translation>Enregistrer les feuilles telles qu&apos;elles seraient imprimées</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF ...</source>
+        <translation>E&amp;nregistrer en PDF ...</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>a figure and why it cannot be printed</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Fit to the page</source>
+        <translation>Ajuster à la page</translation>
+    </message>
+    <message>
+        <source>No printer is installed. A PDF can be printed elsewhere.</source>
+        <translation>Aucune imprimante n&apos;est installée. Un PDF peut être imprimé ailleurs.</translation>
+    </message>
+    <message>
+        <source>There is nothing to print yet.</source>
+        <translation>Il n&apos;y a encore rien à imprimer.</translation>
+    </message>
+    <message>
+        <source>The figure does not fit the sheet at this scale.</source>
+        <translation>La figure ne tient pas sur la feuille à cette échelle.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n feuille</numerusform>
+            <numerusform>%n feuilles</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>At %1 the figure takes %2.</source>
+        <translation>À %1, la figure occupe %2.</translation>
+    </message>
+    <message>
+        <source>The figure takes %1.</source>
+        <translation>La figure occupe %1.</translation>
+    </message>
+    <message>
+        <source>At %1 the figure takes %2, and the sheet has room for %3.</source>
+        <translation>À %1, la figure occupe %2 et la feuille offre %3.</translation>
+    </message>
+    <message>
+        <source>With more milliseconds to a centimetre it is less high.</source>
+        <translation>Avec plus de millisecondes par centimètre, elle est moins haute.</translation>
+    </message>
+    <message>
+        <source>Choose a larger sheet.</source>
+        <translation>Choisissez une feuille plus grande.</translation>
+    </message>
+    <message>
+        <source>What would fit:</source>
+        <translation>Ce qui tiendrait&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PrintPreview</name>
+    <message>
+        <source>Drawing the sheets ...</source>
+        <translation>Dessin des feuilles ...</translation>
     </message>
 </context>
 <context>
@@ -10563,6 +11494,43 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>Filters of the recordings</source>
         <translation>Filtres des enregistrements</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>length, unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Points on the map</source>
+        <translation>Points sur la carte</translation>
+    </message>
+    <message>
+        <source>Corners of more than 1°</source>
+        <translation>Angles de plus de 1°</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Longueur le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Length on the map</source>
+        <translation>Longueur sur la carte</translation>
+    </message>
+    <message>
+        <source>Straight from end to end</source>
+        <translation>En droite d&apos;une extrémité à l&apos;autre</translation>
+    </message>
+    <message>
+        <source>Farthest from that straight line, to the right</source>
+        <translation>Plus grand écart à cette droite, vers la droite</translation>
+    </message>
+    <message>
+        <source>The same to the left</source>
+        <translation>De même vers la gauche</translation>
+    </message>
+    <message>
+        <source>Course of the line between its ends</source>
+        <translation>Tracé de la ligne entre ses extrémités</translation>
     </message>
 </context>
 <context>
@@ -14590,6 +15558,279 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>The selected traces are zero before (ms); 0: from nowhere</source>
         <translation>Les traces sélectionnées sont nulles avant (ms)&#xa0;; 0&#xa0;: nulle part</translation>
     </message>
+    <message>
+        <source>Offset and reduced time</source>
+        <translation>Déport et temps réduit</translation>
+    </message>
+    <message>
+        <source>Print ...</source>
+        <translation>Imprimer ...</translation>
+    </message>
+    <message>
+        <source>Preview a figure on paper at a chosen scale, print it or save it as PDF</source>
+        <translation>Voir l&apos;aperçu d&apos;une figure sur papier à l&apos;échelle choisie, l&apos;imprimer ou l&apos;enregistrer en PDF</translation>
+    </message>
+    <message>
+        <source>AutoPick all shots along the line</source>
+        <translation>AutoPick de tous les tirs le long de la ligne</translation>
+    </message>
+    <message>
+        <source>Pick the traces of all shots together, whichever are in view; picks that you made stay</source>
+        <translation>Pointer ensemble les traces de tous les tirs, quels que soient ceux affichés&#xa0;; les pointés que vous avez faits restent</translation>
+    </message>
+    <message>
+        <source>Campaign page ...</source>
+        <translation>Page de campagne ...</translation>
+    </message>
+    <message>
+        <source>Write a web page of each of several projects, and one on all of them</source>
+        <translation>Écrire une page web de chacun de plusieurs projets, et une sur tous</translation>
+    </message>
+    <message>
+        <source>By offset</source>
+        <translation>Par déport</translation>
+    </message>
+    <message>
+        <source>Order and space the traces by their offset, geophone minus shot: those before the shot at its left (key X)</source>
+        <translation>Ordonner et espacer les traces selon leur déport, géophone moins tir&#xa0;: celles d&apos;avant le tir à sa gauche (touche X)</translation>
+    </message>
+    <message>
+        <source>By absolute offset</source>
+        <translation>Par déport absolu</translation>
+    </message>
+    <message>
+        <source>Order and space the traces by their distance from the shot, either side over the other (key Shift+X)</source>
+        <translation>Ordonner et espacer les traces selon leur distance au tir, un côté sur l&apos;autre (touche Maj+X)</translation>
+    </message>
+    <message>
+        <source>Reduced time</source>
+        <translation>Temps réduit</translation>
+    </message>
+    <message>
+        <source>Draw every trace earlier by its offset over a velocity, that of the ruler or the one asked for last; picks stay true times (key V)</source>
+        <translation>Avancer chaque trace de son déport divisé par une vitesse, celle de la règle ou la dernière demandée&#xa0;; les pointés restent des temps vrais (touche V)</translation>
+    </message>
+    <message>
+        <source>Velocity of reduced time...</source>
+        <translation>Vitesse du temps réduit...</translation>
+    </message>
+    <message>
+        <source>Choose the velocity that waves have to be drawn flat (key Shift+V)</source>
+        <translation>Choisir la vitesse des ondes à dessiner à plat (touche Maj+V)</translation>
+    </message>
+    <message>
+        <source>Gain with time</source>
+        <translation>Gain selon le temps</translation>
+    </message>
+    <message>
+        <source>Draw late waves larger, by a power of their time; samples, picks and files stay as they are (key T)</source>
+        <translation>Agrandir les ondes tardives selon une puissance de leur temps&#xa0;; échantillons, pointés et fichiers restent inchangés (touche T)</translation>
+    </message>
+    <message>
+        <source>Exponent of gain with time...</source>
+        <translation>Exposant du gain selon le temps...</translation>
+    </message>
+    <message>
+        <source>Choose the power of time that wiggles are drawn with (key Shift+T)</source>
+        <translation>Choisir la puissance du temps avec laquelle les oscillations sont dessinées (touche Maj+T)</translation>
+    </message>
+    <message>
+        <source>Trace headers...</source>
+        <translation>En-têtes des traces...</translation>
+    </message>
+    <message>
+        <source>All that is known of every trace as a table, with what the headers of the shot files say</source>
+        <translation>Tout ce qui est connu de chaque trace en un tableau, avec ce que disent les en-têtes des fichiers de tirs</translation>
+    </message>
+    <message>
+        <source>Overlay two shots...</source>
+        <translation>Superposer deux tirs...</translation>
+    </message>
+    <message>
+        <source>Lay the traces of two shots over each other, and see their difference and their sum: blows of opposite sense, or a shot that was repeated</source>
+        <translation>Superposer les traces de deux tirs, et voir leur différence et leur somme&#xa0;: coups de sens opposés, ou tir répété</translation>
+    </message>
+    <message>
+        <source>Sheet of shots ...</source>
+        <translation>Feuille de tirs ...</translation>
+    </message>
+    <message>
+        <source>Several shots side by side on one sheet, with one axis of time, as PDF, SVG or PNG</source>
+        <translation>Plusieurs tirs côte à côte sur une feuille, avec un même axe du temps, en PDF, SVG ou PNG</translation>
+    </message>
+    <message>
+        <source>The shot has not been added to the survey.</source>
+        <translation>Le tir n&apos;a pas été ajouté au levé.</translation>
+    </message>
+    <message>
+        <source>Shot %1 is added; Undo takes it away.</source>
+        <translation>Le tir %1 est ajouté&#xa0;; «&#xa0;Défaire&#xa0;» le retire.</translation>
+    </message>
+    <message>
+        <source>Save Shot File</source>
+        <translation>Enregistrer le fichier de tir</translation>
+    </message>
+    <message>
+        <source>SEG-2 (*.sg2);;SEG-Y (*.sgy)</source>
+        <translation>SEG-2 (*.sg2);;SEG-Y (*.sgy)</translation>
+    </message>
+    <message>
+        <source>Save Picture of Two Shots</source>
+        <translation>Enregistrer l&apos;image de deux tirs</translation>
+    </message>
+    <message>
+        <source>Add projects to the campaign page</source>
+        <translation>Ajouter des projets à la page de campagne</translation>
+    </message>
+    <message>
+        <source>Save campaign page</source>
+        <translation>Enregistrer la page de campagne</translation>
+    </message>
+    <message>
+        <source>Campaign page</source>
+        <translation>Page de campagne</translation>
+    </message>
+    <message>
+        <source>%1: project %2 of %3</source>
+        <comment>file, number, count</comment>
+        <translation>%1&#xa0;: projet %2 sur %3</translation>
+    </message>
+    <message>
+        <source>Stopped; the campaign page has not been saved.</source>
+        <translation>Arrêté&#xa0;; la page de campagne n&apos;a pas été enregistrée.</translation>
+    </message>
+    <message>
+        <source>Saved in %1, without the changes of this survey that are not saved</source>
+        <translation>Enregistré dans %1, sans les modifications de ce levé qui ne sont pas enregistrées</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file, why</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Some values of the projects cannot be. They were put right or left out.</source>
+        <translation>Certaines valeurs des projets sont impossibles. Elles ont été corrigées ou écartées.</translation>
+    </message>
+    <message>
+        <source>Projects that failed: %1. The campaign page names them.</source>
+        <translation>Projets en échec&#xa0;: %1. La page de campagne les nomme.</translation>
+    </message>
+    <message>
+        <source>Save Sheets of Shots</source>
+        <translation>Enregistrer les feuilles de tirs</translation>
+    </message>
+    <message>
+        <source>PDF, all sheets in one file (*.pdf);;SVG picture (*.svg);;PNG picture (*.png)</source>
+        <translation>PDF, toutes les feuilles en un fichier (*.pdf);;Image SVG (*.svg);;Image PNG (*.png)</translation>
+    </message>
+    <message numerus="yes">
+        <source>The sheets have not all been saved; %n file(s) are complete.</source>
+        <translation>
+            <numerusform>Les feuilles n&apos;ont pas toutes été enregistrées&#xa0;; %n fichier est complet.</numerusform>
+            <numerusform>Les feuilles n&apos;ont pas toutes été enregistrées&#xa0;; %n fichiers sont complets.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there are no picks yet</source>
+        <translation>il n&apos;y a pas encore de pointés</translation>
+    </message>
+    <message>
+        <source>Layered profile</source>
+        <translation>Profil en couches</translation>
+    </message>
+    <message>
+        <source>there is no layered profile yet</source>
+        <translation>il n&apos;y a pas encore de profil en couches</translation>
+    </message>
+    <message>
+        <source>Traces of shot %1</source>
+        <translation>Traces du tir %1</translation>
+    </message>
+    <message>
+        <source>no shot with traces is in view</source>
+        <translation>aucun tir avec traces n&apos;est affiché</translation>
+    </message>
+    <message>
+        <source>Misfit of every iteration</source>
+        <translation>Écart de chaque itération</translation>
+    </message>
+    <message>
+        <source>there is no inversion yet</source>
+        <translation>il n&apos;y a pas encore d&apos;inversion</translation>
+    </message>
+    <message>
+        <source>Residuals by shot and geophone</source>
+        <translation>Résidus par tir et géophone</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Résidus selon le déport</translation>
+    </message>
+    <message>
+        <source>Residuals of shots and of geophones</source>
+        <translation>Résidus des tirs et des géophones</translation>
+    </message>
+    <message>
+        <source>Residuals along the rays</source>
+        <translation>Résidus le long des rais</translation>
+    </message>
+    <message>
+        <source>Depth profile</source>
+        <translation>Profil de profondeur</translation>
+    </message>
+    <message>
+        <source>there is no section yet</source>
+        <translation>il n&apos;y a pas encore de coupe</translation>
+    </message>
+    <message>
+        <source>P and S</source>
+        <translation>P et S</translation>
+    </message>
+    <message>
+        <source>its own dialog prints it</source>
+        <translation>sa propre boîte de dialogue l&apos;imprime</translation>
+    </message>
+    <message>
+        <source>Nothing has been printed.</source>
+        <translation>Rien n&apos;a été imprimé.</translation>
+    </message>
+    <message>
+        <source>Sent to %1.</source>
+        <translation>Envoyé à %1.</translation>
+    </message>
+    <message>
+        <source>Save sheets as PDF</source>
+        <translation>Enregistrer les feuilles en PDF</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Document PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Shots whose files name no fields: %1. %2</source>
+        <translation>Tirs dont les fichiers ne nomment pas de champs&#xa0;: %1. %2</translation>
+    </message>
+    <message>
+        <source>Save Trace Headers</source>
+        <translation>Enregistrer les en-têtes des traces</translation>
+    </message>
+    <message>
+        <source>Velocity V of t - |x|/V (%1):</source>
+        <translation>Vitesse V de t - |x|/V (%1)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Exponent n of t^n, 0 for none:</source>
+        <translation>Exposant n de t^n, 0 pour aucun&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Reduced %1 ms</source>
+        <translation>Réduit %1 ms</translation>
+    </message>
+    <message>
+        <source>Section as it is shown</source>
+        <translation>Coupe telle qu&apos;elle est affichée</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -14604,6 +15845,84 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Time (ms)</source>
         <translation>Temps (ms)</translation>
+    </message>
+    <message>
+        <source>Offset (%1)</source>
+        <translation>Déport (%1)</translation>
+    </message>
+    <message>
+        <source>|x| (%1)</source>
+        <comment>absolute offset</comment>
+        <translation>|x| (%1)</translation>
+    </message>
+    <message>
+        <source>Reduced time (ms), t - |x|/%1 %2</source>
+        <translation>Temps réduit (ms), t - |x|/%1 %2</translation>
+    </message>
+    <message>
+        <source>%1, gain t^%2</source>
+        <comment>time axis, exponent</comment>
+        <translation>%1, gain t^%2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceHeadersDialog</name>
+    <message>
+        <source>Trace headers</source>
+        <translation>En-têtes des traces</translation>
+    </message>
+    <message>
+        <source>Headers of all traces</source>
+        <translation>En-têtes de toutes les traces</translation>
+    </message>
+    <message>
+        <source>A click on a heading sorts by it; the current row is shown among the traces</source>
+        <translation>Un clic sur un intitulé trie selon lui&#xa0;; la ligne courante est affichée parmi les traces</translation>
+    </message>
+    <message>
+        <source>Reads the shot files again and adds a column for every field that their headers name: instrument, time of recording, gain, stack, notes</source>
+        <translation>Relit les fichiers de tirs et ajoute une colonne pour chaque champ que nomment leurs en-têtes&#xa0;: appareil, heure d&apos;enregistrement, gain, sommation, notes</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the shot files</source>
+        <translation>Tous les c&amp;hamps des fichiers de tirs</translation>
+    </message>
+    <message>
+        <source>The selected rows, or all of them, with a heading, as spreadsheets paste them (Ctrl+C)</source>
+        <translation>Les lignes sélectionnées, ou toutes, avec les intitulés, telles que les tableurs les collent (Ctrl+C)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>All rows in the order of shots and traces, lengths in metres, with decimal points</source>
+        <translation>Toutes les lignes dans l&apos;ordre des tirs et des traces, longueurs en mètres, avec points décimaux</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Enregistrer le tableau...</translation>
+    </message>
+    <message>
+        <source>Traces: %1</source>
+        <translation>Traces&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Rows copied: %1</source>
+        <translation>Lignes copiées&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceHeadersModel</name>
+    <message>
+        <source>%1 [%2]</source>
+        <comment>quantity, unit</comment>
+        <translation>%1 [%2]</translation>
+    </message>
+    <message>
+        <source>%1 [ms]</source>
+        <comment>quantity</comment>
+        <translation>%1 [ms]</translation>
     </message>
 </context>
 <context>
@@ -15699,6 +17018,14 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
         <translation>Traces %1&#xa0;: C confirme, Suppr supprime, K neutralise, P inverse, U mute, Échap quitte</translation>
+    </message>
+    <message>
+        <source>Times are not reduced: offsets are not known</source>
+        <translation>Les temps ne sont pas réduits&#xa0;: les déports sont inconnus</translation>
+    </message>
+    <message>
+        <source>Not by offset: offsets are not known, or all the same</source>
+        <translation>Pas par déport&#xa0;: les déports sont inconnus, ou tous égaux</translation>
     </message>
 </context>
 <context>

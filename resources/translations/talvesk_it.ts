@@ -160,6 +160,219 @@
     </message>
 </context>
 <context>
+    <name>talvesk::BlowPairDialog</name>
+    <message>
+        <source>Two shots</source>
+        <translation>Due tiri</translation>
+    </message>
+    <message>
+        <source>&amp;First:</source>
+        <translation>&amp;Primo:</translation>
+    </message>
+    <message>
+        <source>The recording that time and places are counted by</source>
+        <translation>La registrazione da cui si contano tempi e posizioni</translation>
+    </message>
+    <message>
+        <source>S&amp;econd:</source>
+        <translation>&amp;Secondo:</translation>
+    </message>
+    <message>
+        <source>The recording that is laid over it; the nearest is proposed</source>
+        <translation>La registrazione che le si sovrappone; si propone la più vicina</translation>
+    </message>
+    <message>
+        <source>The traces of both over each other</source>
+        <translation>Le tracce di entrambi le une sulle altre</translation>
+    </message>
+    <message>
+        <source>&amp;Overlaid</source>
+        <translation>S&amp;ovrapposti</translation>
+    </message>
+    <message>
+        <source>First less second: of blows of opposite sense it enhances S waves</source>
+        <translation>Il primo meno il secondo: di colpi di verso opposto esalta le onde S</translation>
+    </message>
+    <message>
+        <source>&amp;Difference</source>
+        <translation>&amp;Differenza</translation>
+    </message>
+    <message>
+        <source>Of blows of opposite sense it enhances P waves</source>
+        <translation>Di colpi di verso opposto esalta le onde P</translation>
+    </message>
+    <message>
+        <source>S&amp;um</source>
+        <translation>So&amp;mma</translation>
+    </message>
+    <message>
+        <source>The second is made as strong as the first</source>
+        <translation>Il secondo è reso forte come il primo</translation>
+    </message>
+    <message>
+        <source>E&amp;qual strength</source>
+        <translation>Pari i&amp;ntensità</translation>
+    </message>
+    <message>
+        <source>All traces by one measure; else each pair of traces by the larger of both</source>
+        <translation>Tutte le tracce con una sola misura; altrimenti ogni coppia di tracce secondo la maggiore delle due</translation>
+    </message>
+    <message>
+        <source>True &amp;amplitudes</source>
+        <translation>&amp;Ampiezze vere</translation>
+    </message>
+    <message>
+        <source>The filtered copies of traces that have one</source>
+        <translation>Le copie filtrate delle tracce che ne hanno una</translation>
+    </message>
+    <message>
+        <source>Filtered co&amp;pies</source>
+        <translation>&amp;Copie filtrate</translation>
+    </message>
+    <message>
+        <source>Mark the first breaks of both, each in its colour</source>
+        <translation>Segna i primi arrivi di entrambi, ciascuno nel suo colore</translation>
+    </message>
+    <message>
+        <source>Pic&amp;ks</source>
+        <translation>Primi a&amp;rrivi</translation>
+    </message>
+    <message>
+        <source>&amp;Gain:</source>
+        <translation>&amp;Guadagno:</translation>
+    </message>
+    <message>
+        <source>Swing of the largest value, in distances between traces</source>
+        <translation>Escursione del valore più grande, in distanze fra le tracce</translation>
+    </message>
+    <message>
+        <source>&amp;Times to:</source>
+        <translation>&amp;Tempi fino a:</translation>
+    </message>
+    <message>
+        <source>Where the axis of time ends; automatic: where half as long again as the last pick takes is over</source>
+        <translation>Dove finisce l&apos;asse del tempo; automatico: a una volta e mezza il tempo dell&apos;ultimo primo arrivo</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatico</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>What is added or saved</source>
+        <translation>Che cosa si aggiunge o si salva</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenza</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Somma</translation>
+    </message>
+    <message>
+        <source>As a shot of the survey, without picks, at the place of the first; Undo takes it away</source>
+        <translation>Come tiro del rilievo, senza primi arrivi, al posto del primo; &quot;Annulla modifica&quot; lo toglie</translation>
+    </message>
+    <message>
+        <source>Add to su&amp;rvey</source>
+        <translation>Aggiungi al ri&amp;lievo</translation>
+    </message>
+    <message>
+        <source>As SEG-2 or SEG-Y</source>
+        <translation>Come SEG-2 o SEG-Y</translation>
+    </message>
+    <message>
+        <source>Save s&amp;hot file ...</source>
+        <translation>Sal&amp;va file del tiro ...</translation>
+    </message>
+    <message>
+        <source>What is shown, as PNG, SVG or PDF</source>
+        <translation>Ciò che è mostrato, come PNG, SVG o PDF</translation>
+    </message>
+    <message>
+        <source>&amp;Save picture ...</source>
+        <translation>Salva &amp;immagine ...</translation>
+    </message>
+    <message>
+        <source>Traces of both shots, their difference and their sum</source>
+        <translation>Tracce di entrambi i tiri, la loro differenza e la loro somma</translation>
+    </message>
+    <message>
+        <source>one sense</source>
+        <comment>of a pair of blows</comment>
+        <translation>un verso</translation>
+    </message>
+    <message>
+        <source>other sense</source>
+        <comment>of a pair of blows</comment>
+        <translation>altro verso</translation>
+    </message>
+    <message>
+        <source>at %1 %2</source>
+        <comment>place, unit</comment>
+        <translation>a %1 %2</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2</source>
+        <translation>Tiro %1: %2</translation>
+    </message>
+    <message>
+        <source>There are no two recordings to be compared.</source>
+        <translation>Non ci sono due registrazioni da confrontare.</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::CampaignDialog</name>
+    <message>
+        <source>Campaign page</source>
+        <translation>Pagina della campagna</translation>
+    </message>
+    <message>
+        <source>A web page of every project, and one on all of them: a table, the sections in small by one scale of colours, and a map. The projects stay as they are.</source>
+        <translation>Una pagina web per ogni progetto, e una su tutti: una tabella, le sezioni in piccolo con una sola scala di colori, e una mappa. I progetti restano come sono.</translation>
+    </message>
+    <message>
+        <source>&amp;Projects:</source>
+        <translation>&amp;Progetti:</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Progetti</translation>
+    </message>
+    <message>
+        <source>&amp;Add projects ...</source>
+        <translation>&amp;Aggiungi progetti ...</translation>
+    </message>
+    <message>
+        <source>Take the projects that are selected off the list; their files stay</source>
+        <translation>Toglie dall&apos;elenco i progetti selezionati; i loro file restano</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titolo:</translation>
+    </message>
+    <message>
+        <source>&amp;Client:</source>
+        <translation>&amp;Committente:</translation>
+    </message>
+    <message>
+        <source>S&amp;ite:</source>
+        <translation>&amp;Sito:</translation>
+    </message>
+    <message>
+        <source>A&amp;uthor:</source>
+        <translation>A&amp;utore:</translation>
+    </message>
+</context>
+<context>
     <name>talvesk::CampaignPage</name>
     <message>
         <source>RMS misfit [ms]</source>
@@ -1625,6 +1838,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Depths by P and S differ: it may be different ground.</source>
         <translation>Le profondità da P e da S differiscono: può trattarsi di terreni diversi.</translation>
     </message>
+    <message>
+        <source>Preview and print the curves at a chosen scale</source>
+        <translation>Anteprima e stampa delle curve in una scala a scelta</translation>
+    </message>
+    <message>
+        <source>Print ...</source>
+        <translation>Stampa ...</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::ErrorBands</name>
@@ -1770,6 +1991,20 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>%1: %2</source>
         <comment>line, why</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Lines of the fence</source>
+        <translation>Linee del diagramma</translation>
+    </message>
+    <message>
+        <source>Converted: %1.</source>
+        <comment>lines</comment>
+        <translation>Convertite: %1.</translation>
+    </message>
+    <message>
+        <source>%1 from EPSG:%2 to EPSG:%3</source>
+        <comment>line, systems</comment>
+        <translation>%1 da EPSG:%2 a EPSG:%3</translation>
     </message>
 </context>
 <context>
@@ -2390,6 +2625,80 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>Elevation %1</source>
         <translation>Quota %1</translation>
     </message>
+    <message>
+        <source>Sum</source>
+        <translation>Somma</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenza</translation>
+    </message>
+    <message>
+        <source>Each pair of traces to one maximum, gain %1</source>
+        <translation>Ogni coppia di tracce a un solo massimo, guadagno %1</translation>
+    </message>
+    <message>
+        <source>Absolute offset [%1]</source>
+        <translation>Offset assoluto [%1]</translation>
+    </message>
+    <message>
+        <source>Reduced time [ms], t - |x|/%1 %2</source>
+        <translation>Tempo ridotto [ms], t - |x|/%1 %2</translation>
+    </message>
+    <message>
+        <source>gain with time t^%1</source>
+        <comment>exponent</comment>
+        <translation>guadagno nel tempo t^%1</translation>
+    </message>
+    <message>
+        <source>offsets not known: not drawn by offset or reduced as asked</source>
+        <translation>offset non noti: non disegnato per offset o in tempo ridotto come richiesto</translation>
+    </message>
+    <message>
+        <source>All traces of a shot to one maximum, gain %1</source>
+        <translation>Tutte le tracce di un tiro a un solo massimo, guadagno %1</translation>
+    </message>
+    <message>
+        <source>Shot %1: %2</source>
+        <comment>what is left out of it, or mended</comment>
+        <translation>Tiro %1: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Foglio %1 di %2</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sezione</translation>
+    </message>
+    <message>
+        <source>Misfit in each iteration</source>
+        <translation>Scarto in ogni iterazione</translation>
+    </message>
+    <message>
+        <source>Residuals along the rays</source>
+        <translation>Residui lungo i raggi</translation>
+    </message>
+    <message>
+        <source>Residuals</source>
+        <translation>Residui</translation>
+    </message>
+    <message>
+        <source>Depth profile</source>
+        <translation>Profilo di profondità</translation>
+    </message>
+    <message>
+        <source>P and S</source>
+        <translation>P e S</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2: row %3, column %4</source>
+        <translation>Foglio %1 di %2: riga %3, colonna %4</translation>
+    </message>
+    <message>
+        <source>1 cm is %1 ms</source>
+        <translation>1 cm è %1 ms</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FitPanel</name>
@@ -2555,6 +2864,146 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>%1 dB</source>
         <translation>%1 dB</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::GatherSheetDialog</name>
+    <message>
+        <source>Sheet of shots</source>
+        <translation>Foglio di tiri</translation>
+    </message>
+    <message>
+        <source>&amp;Rows:</source>
+        <translation>&amp;Righe:</translation>
+    </message>
+    <message>
+        <source>Shots one above the other</source>
+        <translation>Tiri uno sopra l&apos;altro</translation>
+    </message>
+    <message>
+        <source>&amp;Columns:</source>
+        <translation>&amp;Colonne:</translation>
+    </message>
+    <message>
+        <source>Shots side by side</source>
+        <translation>Tiri uno accanto all&apos;altro</translation>
+    </message>
+    <message>
+        <source>&amp;First shot:</source>
+        <translation>&amp;Primo tiro:</translation>
+    </message>
+    <message>
+        <source>The shots from this one on</source>
+        <translation>I tiri da questo in poi</translation>
+    </message>
+    <message>
+        <source>&amp;Last shot:</source>
+        <translation>&amp;Ultimo tiro:</translation>
+    </message>
+    <message>
+        <source>The shots up to this one</source>
+        <translation>I tiri fino a questo</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>C&amp;arta:</translation>
+    </message>
+    <message>
+        <source>&amp;Times to:</source>
+        <translation>&amp;Tempi fino a:</translation>
+    </message>
+    <message>
+        <source>Where the axis of time ends; automatic: where half as long again as the last pick takes is over</source>
+        <translation>Dove finisce l&apos;asse del tempo; automatico: a una volta e mezza il tempo dell&apos;ultimo primo arrivo</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatico</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>&amp;Gain:</source>
+        <translation>&amp;Guadagno:</translation>
+    </message>
+    <message>
+        <source>Swing of the largest value, in distances between traces</source>
+        <translation>Escursione del valore più grande, in distanze fra le tracce</translation>
+    </message>
+    <message>
+        <source>Mark the first breaks</source>
+        <translation>Segna i primi arrivi</translation>
+    </message>
+    <message>
+        <source>P&amp;icks</source>
+        <translation>Primi arr&amp;ivi</translation>
+    </message>
+    <message>
+        <source>All traces of a shot to one measure</source>
+        <translation>Tutte le tracce di un tiro con una sola misura</translation>
+    </message>
+    <message>
+        <source>True &amp;amplitudes</source>
+        <translation>Ampiezze &amp;vere</translation>
+    </message>
+    <message>
+        <source>The filtered copies of the traces that have one</source>
+        <translation>Le copie filtrate delle tracce che ne hanno una</translation>
+    </message>
+    <message>
+        <source>Filtered c&amp;opies</source>
+        <translation>Copie &amp;filtrate</translation>
+    </message>
+    <message>
+        <source>Channel numbers in place of distances</source>
+        <translation>Numeri di canale al posto delle distanze</translation>
+    </message>
+    <message>
+        <source>C&amp;hannels below</source>
+        <translation>Ca&amp;nali sotto</translation>
+    </message>
+    <message>
+        <source>Sh&amp;eet:</source>
+        <translation>F&amp;oglio:</translation>
+    </message>
+    <message>
+        <source>The sheet that is shown; all are saved</source>
+        <translation>Il foglio mostrato; si salvano tutti</translation>
+    </message>
+    <message>
+        <source>A4 landscape</source>
+        <translation>A4 orizzontale</translation>
+    </message>
+    <message>
+        <source>A4 portrait</source>
+        <translation>A4 verticale</translation>
+    </message>
+    <message>
+        <source>A3 landscape</source>
+        <translation>A3 orizzontale</translation>
+    </message>
+    <message>
+        <source>A3 portrait</source>
+        <translation>A3 verticale</translation>
+    </message>
+    <message>
+        <source>A2 landscape</source>
+        <translation>A2 orizzontale</translation>
+    </message>
+    <message>
+        <source>A2 portrait</source>
+        <translation>A2 verticale</translation>
+    </message>
+    <message>
+        <source>&amp;Save sheets ...</source>
+        <translation>&amp;Salva fogli ...</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>sheets</comment>
+        <translation>di %1</translation>
     </message>
 </context>
 <context>
@@ -2999,6 +3448,14 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Files to be written</source>
         <translation>File da scrivere</translation>
+    </message>
+    <message>
+        <source>Traces as in the view</source>
+        <translation>Tracce come nella vista</translation>
+    </message>
+    <message>
+        <source>By offset, in reduced time and with a gain in time, as the view of the traces is now</source>
+        <translation>Per offset, in tempo ridotto e con un guadagno nel tempo, come è ora la vista delle tracce</translation>
     </message>
 </context>
 <context>
@@ -8291,16 +8748,288 @@ Impostare la posizione dei geofoni
         <translation>Attenua tracce</translation>
     </message>
     <message>
-        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet.</source>
-        <translation>A 1:%1 la figura occupa %2 x %3 mm e il foglio offre %4 x %5 mm: scegliere 1:%6 o un foglio più grande.</translation>
-    </message>
-    <message>
         <source>The figure fits this sheet at no scale: choose a larger sheet.</source>
         <translation>La figura non sta su questo foglio in nessuna scala: scegliere un foglio più grande.</translation>
     </message>
     <message>
         <source>The scale must lie between 1:%1 and 1:%2.</source>
         <translation>La scala deve essere compresa tra 1:%1 e 1:%2.</translation>
+    </message>
+    <message>
+        <source>choose two different recordings</source>
+        <translation>scegliere due registrazioni diverse</translation>
+    </message>
+    <message>
+        <source>Choose a scale, or type one such as 1:750.</source>
+        <translation>Scegliere una scala, o scriverne una come 1:750.</translation>
+    </message>
+    <message>
+        <source>The printer is set to paper of %1 x %2 mm, and the sheets are made for %3 x %4 mm: choose the same paper for both.</source>
+        <translation>La stampante è impostata su carta di %1 x %2 mm, e i fogli sono fatti per %3 x %4 mm: scegliere la stessa carta per entrambi.</translation>
+    </message>
+    <message>
+        <source>The printer does not take the sheets.</source>
+        <translation>La stampante non accetta i fogli.</translation>
+    </message>
+    <message>
+        <source>Add sum of two shots</source>
+        <translation>Aggiungi somma di due tiri</translation>
+    </message>
+    <message>
+        <source>Add difference of two shots</source>
+        <translation>Aggiungi differenza di due tiri</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder %1</source>
+        <translation>Impossibile creare la cartella %1</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: there is a file of that name that is no page of Talvesk; move it or choose another folder</source>
+        <translation>Impossibile scrivere %1: c&apos;è un file con quel nome che non è una pagina di Talvesk; spostarlo o scegliere un&apos;altra cartella</translation>
+    </message>
+    <message>
+        <source>There is nothing chosen to be drawn.</source>
+        <translation>Non è stato scelto nulla da disegnare.</translation>
+    </message>
+    <message>
+        <source>There is no section to draw.</source>
+        <translation>Non c&apos;è una sezione da disegnare.</translation>
+    </message>
+    <message>
+        <source>A sheet has 1 to %1 rows and 1 to %2 columns of shots.</source>
+        <translation>Un foglio ha da 1 a %1 righe e da 1 a %2 colonne di tiri.</translation>
+    </message>
+    <message>
+        <source>There is no sheet %1 to draw.</source>
+        <translation>Non c&apos;è un foglio %1 da disegnare.</translation>
+    </message>
+    <message>
+        <source>A centimetre must be %1 to %2 ms.</source>
+        <translation>Un centimetro deve essere da %1 a %2 ms.</translation>
+    </message>
+    <message>
+        <source>The figure fits this sheet at no scale: choose a larger sheet, or more milliseconds to a centimetre.</source>
+        <translation>La figura non sta su questo foglio in nessuna scala: scegliere un foglio più grande, o più millisecondi per centimetro.</translation>
+    </message>
+    <message>
+        <source>At 1:%1 the figure takes %2 x %3 mm, and the sheet has room for %4 x %5 mm: choose 1:%6 or a larger sheet, or have it split.</source>
+        <translation>A 1:%1 la figura occupa %2 x %3 mm e il foglio offre %4 x %5 mm: scegliere 1:%6 o un foglio più grande, o farla dividere.</translation>
+    </message>
+    <message>
+        <source>its format names no fields of headers</source>
+        <translation>il suo formato non dà nomi ai campi delle intestazioni</translation>
+    </message>
+    <message>
+        <source>fields of SEG-Y revision 2 are not shown</source>
+        <translation>i campi di SEG-Y revisione 2 non sono mostrati</translation>
+    </message>
+    <message>
+        <source>the program&apos;s rules</source>
+        <translation>le regole del programma</translation>
+    </message>
+    <message>
+        <source>the standard of its format</source>
+        <translation>lo standard del suo formato</translation>
+    </message>
+    <message>
+        <source>shot disabled</source>
+        <translation>tiro disattivato</translation>
+    </message>
+    <message>
+        <source>shifted by %1 ms</source>
+        <translation>traslazione di %1 ms</translation>
+    </message>
+    <message>
+        <source>order reversed</source>
+        <translation>ordine invertito</translation>
+    </message>
+    <message>
+        <source>stacked</source>
+        <translation>somma di tiri</translation>
+    </message>
+    <message>
+        <source>killed</source>
+        <translation>esclusa</translation>
+    </message>
+    <message>
+        <source>polarity reversed</source>
+        <translation>polarità invertita</translation>
+    </message>
+    <message>
+        <source>muted before %1 ms</source>
+        <translation>azzerata prima di %1 ms</translation>
+    </message>
+    <message>
+        <source>gain %1</source>
+        <translation>guadagno %1</translation>
+    </message>
+    <message>
+        <source>filtered</source>
+        <translation>filtrata</translation>
+    </message>
+    <message>
+        <source>Shot</source>
+        <translation>Tiro</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Traccia</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+    <message>
+        <source>Shot x</source>
+        <translation>x del tiro</translation>
+    </message>
+    <message>
+        <source>Shot elevation</source>
+        <translation>Quota del tiro</translation>
+    </message>
+    <message>
+        <source>Geophone x</source>
+        <translation>x del geofono</translation>
+    </message>
+    <message>
+        <source>Geophone elevation</source>
+        <translation>Quota del geofono</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Offset</translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation>Primo arrivo</translation>
+    </message>
+    <message>
+        <source>Pick error</source>
+        <translation>Errore del primo arrivo</translation>
+    </message>
+    <message>
+        <source>Sample interval</source>
+        <translation>Intervallo di campionamento</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Campioni</translation>
+    </message>
+    <message>
+        <source>Record length</source>
+        <translation>Lunghezza della registrazione</translation>
+    </message>
+    <message>
+        <source>Delay</source>
+        <translation>Ritardo</translation>
+    </message>
+    <message>
+        <source>Samples cut off</source>
+        <translation>Campioni tolti</translation>
+    </message>
+    <message>
+        <source>Mends</source>
+        <translation>Correzioni</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtri</translation>
+    </message>
+    <message>
+        <source>Shot x in file</source>
+        <translation>x del tiro nel file</translation>
+    </message>
+    <message>
+        <source>Shot elevation in file</source>
+        <translation>Quota del tiro nel file</translation>
+    </message>
+    <message>
+        <source>Geophone x in file</source>
+        <translation>x del geofono nel file</translation>
+    </message>
+    <message>
+        <source>Geophone elevation in file</source>
+        <translation>Quota del geofono nel file</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Reader</source>
+        <translation>Letto secondo</translation>
+    </message>
+    <message>
+        <source>it has no shot file</source>
+        <translation>non ha un file del tiro</translation>
+    </message>
+    <message>
+        <source>it is made of two shot files</source>
+        <translation>è composto da due file dei tiri</translation>
+    </message>
+    <message>
+        <source>its file has %1 traces, the shot %2</source>
+        <translation>il suo file ha %1 tracce, il tiro %2</translation>
+    </message>
+    <message>
+        <source>no geophones of shot %1 and shot %2 that can be compared are at one place</source>
+        <translation>i tiri %1 e %2 non hanno geofoni confrontabili nello stesso punto</translation>
+    </message>
+    <message>
+        <source>no difference and no sum: the samples are %1 ms and %2 ms apart</source>
+        <translation>né differenza né somma: i campioni distano %1 ms e %2 ms</translation>
+    </message>
+    <message>
+        <source>no difference and no sum: the records begin %1 samples apart, which is no whole number</source>
+        <translation>né differenza né somma: gli inizi delle registrazioni distano %1 campioni, che non è un numero intero</translation>
+    </message>
+    <message>
+        <source>%1 traces at the same places</source>
+        <translation>%1 tracce negli stessi punti</translation>
+    </message>
+    <message>
+        <source>without a partner: %1 traces of shot %2, %3 of shot %4</source>
+        <translation>senza corrispondente: %1 tracce del tiro %2, %3 del tiro %4</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs with a trace that is killed or has no sample interval</source>
+        <translation>tralasciate: %1 coppie con una traccia esclusa o senza intervallo di campionamento</translation>
+    </message>
+    <message>
+        <source>the second is %1 times as strong</source>
+        <translation>il secondo è forte %1 volte il primo</translation>
+    </message>
+    <message>
+        <source>it is shown times %1</source>
+        <translation>è mostrato moltiplicato per %1</translation>
+    </message>
+    <message>
+        <source>its record begins %1 ms later</source>
+        <translation>la sua registrazione comincia %1 ms più tardi</translation>
+    </message>
+    <message>
+        <source>its record begins %1 ms earlier</source>
+        <translation>la sua registrazione comincia %1 ms prima</translation>
+    </message>
+    <message>
+        <source>difference and sum begin with %1 samples of zero</source>
+        <translation>differenza e somma cominciano con %1 campioni a zero</translation>
+    </message>
+    <message>
+        <source>difference and sum end %1 samples before the first</source>
+        <translation>differenza e somma finiscono %1 campioni prima del primo</translation>
+    </message>
+    <message>
+        <source>sum of shots %1 and %2</source>
+        <translation>somma dei tiri %1 e %2</translation>
+    </message>
+    <message>
+        <source>difference of shots %1 and %2</source>
+        <translation>differenza dei tiri %1 e %2</translation>
     </message>
 </context>
 <context>
@@ -8574,6 +9303,208 @@ Impostare la posizione dei geofoni
     <message>
         <source>Take minimum and maximum from the velocities of the section</source>
         <translation>Prende minimo e massimo dalle velocità della sezione</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>&amp;Figure:</source>
+        <translation>&amp;Figura:</translation>
+    </message>
+    <message>
+        <source>What is printed. What there is nothing of yet is grey, with the reason.</source>
+        <translation>Che cosa si stampa. Ciò di cui non c&apos;è ancora nulla è in grigio, con il motivo.</translation>
+    </message>
+    <message>
+        <source>&amp;At:</source>
+        <translation>&amp;A:</translation>
+    </message>
+    <message>
+        <source>Place along the line of the depth profile</source>
+        <translation>Posto del profilo di profondità lungo la linea</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titolo:</translation>
+    </message>
+    <message>
+        <source>Stands in the block below the figure</source>
+        <translation>Sta nel riquadro sotto la figura</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>&amp;Scala:</translation>
+    </message>
+    <message>
+        <source>How many times longer the line is than on paper: choose, or type any scale.</source>
+        <translation>Quante volte la linea è più lunga che sulla carta: scegli o scrivi una scala qualsiasi.</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical exaggeration:</source>
+        <translation>&amp;Esagerazione verticale:</translation>
+    </message>
+    <message>
+        <source>How many times larger heights are drawn than lengths along the line</source>
+        <translation>Quante volte più grandi sono disegnate le altezze delle lunghezze lungo la linea</translation>
+    </message>
+    <message>
+        <source>As shown</source>
+        <translation>Come mostrata</translation>
+    </message>
+    <message>
+        <source>T&amp;imes:</source>
+        <translation>Te&amp;mpi:</translation>
+    </message>
+    <message>
+        <source>Milliseconds to a centimetre of paper</source>
+        <translation>Millisecondi per centimetro di carta</translation>
+    </message>
+    <message>
+        <source>As the sheet has room</source>
+        <translation>Quanto permette il foglio</translation>
+    </message>
+    <message>
+        <source> ms/cm</source>
+        <translation> ms/cm</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Carta:</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Orientamento:</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Orizzontale</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Neighbouring sheets have 10 mm in common, with crosses by which they are put together</source>
+        <translation>I fogli vicini hanno 10 mm in comune, con croci per accostarli</translation>
+    </message>
+    <message>
+        <source>Sp&amp;lit over several sheets</source>
+        <translation>Di&amp;vidi su più fogli</translation>
+    </message>
+    <message>
+        <source>Whether the figure has room, and what else would fit</source>
+        <translation>Se la figura ha posto, e che cos&apos;altro ci starebbe</translation>
+    </message>
+    <message>
+        <source>Preview of the sheets</source>
+        <translation>Anteprima dei fogli</translation>
+    </message>
+    <message>
+        <source>Smaller preview</source>
+        <translation>Anteprima più piccola</translation>
+    </message>
+    <message>
+        <source>Smaller preview (Ctrl+-)</source>
+        <translation>Anteprima più piccola (Ctrl+-)</translation>
+    </message>
+    <message>
+        <source>Larger preview</source>
+        <translation>Anteprima più grande</translation>
+    </message>
+    <message>
+        <source>Larger preview (Ctrl++)</source>
+        <translation>Anteprima più grande (Ctrl++)</translation>
+    </message>
+    <message>
+        <source>All sheets in view</source>
+        <translation>Tutti i fogli in vista</translation>
+    </message>
+    <message>
+        <source>&amp;Whole sheets</source>
+        <translation>Fogli &amp;interi</translation>
+    </message>
+    <message>
+        <source>Choose a printer and print the sheets on it, at their real size</source>
+        <translation>Sceglie una stampante e vi stampa i fogli, nella loro grandezza reale</translation>
+    </message>
+    <message>
+        <source>P&amp;rint ...</source>
+        <translation>Stam&amp;pa ...</translation>
+    </message>
+    <message>
+        <source>Save the sheets as they would be printed</source>
+        <translation>Salva i fogli come sarebbero stampati</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF ...</source>
+        <translation>Salva come P&amp;DF ...</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <comment>a figure and why it cannot be printed</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Fit to the page</source>
+        <translation>Adatta alla pagina</translation>
+    </message>
+    <message>
+        <source>No printer is installed. A PDF can be printed elsewhere.</source>
+        <translation>Nessuna stampante è installata. Un PDF si può stampare altrove.</translation>
+    </message>
+    <message>
+        <source>There is nothing to print yet.</source>
+        <translation>Non c&apos;è ancora nulla da stampare.</translation>
+    </message>
+    <message>
+        <source>The figure does not fit the sheet at this scale.</source>
+        <translation>La figura non sta sul foglio in questa scala.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheet(s)</source>
+        <translation>
+            <numerusform>%n foglio</numerusform>
+            <numerusform>%n fogli</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>At %1 the figure takes %2.</source>
+        <translation>A %1 la figura occupa %2.</translation>
+    </message>
+    <message>
+        <source>The figure takes %1.</source>
+        <translation>La figura occupa %1.</translation>
+    </message>
+    <message>
+        <source>At %1 the figure takes %2, and the sheet has room for %3.</source>
+        <translation>A %1 la figura occupa %2, e il foglio offre %3.</translation>
+    </message>
+    <message>
+        <source>With more milliseconds to a centimetre it is less high.</source>
+        <translation>Con più millisecondi per centimetro è meno alta.</translation>
+    </message>
+    <message>
+        <source>Choose a larger sheet.</source>
+        <translation>Scegliere un foglio più grande.</translation>
+    </message>
+    <message>
+        <source>What would fit:</source>
+        <translation>Ci starebbe con:</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::PrintPreview</name>
+    <message>
+        <source>Drawing the sheets ...</source>
+        <translation>Disegno dei fogli ...</translation>
     </message>
 </context>
 <context>
@@ -10563,6 +11494,43 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>Filters of the recordings</source>
         <translation>Filtri delle registrazioni</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>length, unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Points on the map</source>
+        <translation>Punti sulla mappa</translation>
+    </message>
+    <message>
+        <source>Corners of more than 1°</source>
+        <translation>Vertici con angoli di oltre 1°</translation>
+    </message>
+    <message>
+        <source>Length along the line</source>
+        <translation>Lunghezza lungo la linea</translation>
+    </message>
+    <message>
+        <source>Length on the map</source>
+        <translation>Lunghezza sulla mappa</translation>
+    </message>
+    <message>
+        <source>Straight from end to end</source>
+        <translation>In linea retta da un estremo all&apos;altro</translation>
+    </message>
+    <message>
+        <source>Farthest from that straight line, to the right</source>
+        <translation>Massima distanza da questa retta, a destra</translation>
+    </message>
+    <message>
+        <source>The same to the left</source>
+        <translation>La stessa a sinistra</translation>
+    </message>
+    <message>
+        <source>Course of the line between its ends</source>
+        <translation>Percorso della linea fra i suoi estremi</translation>
     </message>
 </context>
 <context>
@@ -14590,6 +15558,279 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>The selected traces are zero before (ms); 0: from nowhere</source>
         <translation>Le tracce selezionate sono zero prima di (ms); 0: mai</translation>
     </message>
+    <message>
+        <source>Offset and reduced time</source>
+        <translation>Offset e tempo ridotto</translation>
+    </message>
+    <message>
+        <source>Print ...</source>
+        <translation>Stampa ...</translation>
+    </message>
+    <message>
+        <source>Preview a figure on paper at a chosen scale, print it or save it as PDF</source>
+        <translation>Anteprima di una figura su carta in una scala a scelta, stampa o salvataggio come PDF</translation>
+    </message>
+    <message>
+        <source>AutoPick all shots along the line</source>
+        <translation>AutoPick lungo la linea di tutti i tiri</translation>
+    </message>
+    <message>
+        <source>Pick the traces of all shots together, whichever are in view; picks that you made stay</source>
+        <translation>Trova insieme i primi arrivi delle tracce di tutti i tiri, quali che siano in vista; quelli messi da te restano</translation>
+    </message>
+    <message>
+        <source>Campaign page ...</source>
+        <translation>Pagina della campagna ...</translation>
+    </message>
+    <message>
+        <source>Write a web page of each of several projects, and one on all of them</source>
+        <translation>Scrive una pagina web per ciascuno di più progetti, e una su tutti</translation>
+    </message>
+    <message>
+        <source>By offset</source>
+        <translation>Per offset</translation>
+    </message>
+    <message>
+        <source>Order and space the traces by their offset, geophone minus shot: those before the shot at its left (key X)</source>
+        <translation>Ordina e spazia le tracce secondo il loro offset, geofono meno tiro: quelle prima del tiro alla sua sinistra (tasto X)</translation>
+    </message>
+    <message>
+        <source>By absolute offset</source>
+        <translation>Per offset assoluto</translation>
+    </message>
+    <message>
+        <source>Order and space the traces by their distance from the shot, either side over the other (key Shift+X)</source>
+        <translation>Ordina e spazia le tracce secondo la distanza dal tiro, un lato sull&apos;altro (tasto Maiusc+X)</translation>
+    </message>
+    <message>
+        <source>Reduced time</source>
+        <translation>Tempo ridotto</translation>
+    </message>
+    <message>
+        <source>Draw every trace earlier by its offset over a velocity, that of the ruler or the one asked for last; picks stay true times (key V)</source>
+        <translation>Anticipa ogni traccia del suo offset diviso per una velocità, quella del righello o l&apos;ultima indicata; i primi arrivi restano tempi veri (tasto V)</translation>
+    </message>
+    <message>
+        <source>Velocity of reduced time...</source>
+        <translation>Velocità del tempo ridotto...</translation>
+    </message>
+    <message>
+        <source>Choose the velocity that waves have to be drawn flat (key Shift+V)</source>
+        <translation>Sceglie la velocità che devono avere le onde per essere disegnate piatte (tasto Maiusc+V)</translation>
+    </message>
+    <message>
+        <source>Gain with time</source>
+        <translation>Guadagno nel tempo</translation>
+    </message>
+    <message>
+        <source>Draw late waves larger, by a power of their time; samples, picks and files stay as they are (key T)</source>
+        <translation>Disegna più grandi le onde tardive, con una potenza del loro tempo; campioni, primi arrivi e file restano come sono (tasto T)</translation>
+    </message>
+    <message>
+        <source>Exponent of gain with time...</source>
+        <translation>Esponente del guadagno nel tempo...</translation>
+    </message>
+    <message>
+        <source>Choose the power of time that wiggles are drawn with (key Shift+T)</source>
+        <translation>Sceglie la potenza del tempo con cui si disegnano le oscillazioni (tasto Maiusc+T)</translation>
+    </message>
+    <message>
+        <source>Trace headers...</source>
+        <translation>Intestazioni delle tracce...</translation>
+    </message>
+    <message>
+        <source>All that is known of every trace as a table, with what the headers of the shot files say</source>
+        <translation>Tutto ciò che si sa di ogni traccia come tabella, con ciò che dicono le intestazioni dei file dei tiri</translation>
+    </message>
+    <message>
+        <source>Overlay two shots...</source>
+        <translation>Sovrapponi due tiri...</translation>
+    </message>
+    <message>
+        <source>Lay the traces of two shots over each other, and see their difference and their sum: blows of opposite sense, or a shot that was repeated</source>
+        <translation>Mette una sull&apos;altra le tracce di due tiri, e ne mostra differenza e somma: colpi di verso opposto, o un tiro ripetuto</translation>
+    </message>
+    <message>
+        <source>Sheet of shots ...</source>
+        <translation>Foglio di tiri ...</translation>
+    </message>
+    <message>
+        <source>Several shots side by side on one sheet, with one axis of time, as PDF, SVG or PNG</source>
+        <translation>Più tiri uno accanto all&apos;altro su un foglio, con un solo asse del tempo, come PDF, SVG o PNG</translation>
+    </message>
+    <message>
+        <source>The shot has not been added to the survey.</source>
+        <translation>Il tiro non è stato aggiunto al rilievo.</translation>
+    </message>
+    <message>
+        <source>Shot %1 is added; Undo takes it away.</source>
+        <translation>Il tiro %1 è aggiunto; &quot;Annulla modifica&quot; lo toglie.</translation>
+    </message>
+    <message>
+        <source>Save Shot File</source>
+        <translation>Salva file del tiro</translation>
+    </message>
+    <message>
+        <source>SEG-2 (*.sg2);;SEG-Y (*.sgy)</source>
+        <translation>SEG-2 (*.sg2);;SEG-Y (*.sgy)</translation>
+    </message>
+    <message>
+        <source>Save Picture of Two Shots</source>
+        <translation>Salva immagine di due tiri</translation>
+    </message>
+    <message>
+        <source>Add projects to the campaign page</source>
+        <translation>Aggiungi progetti alla pagina della campagna</translation>
+    </message>
+    <message>
+        <source>Save campaign page</source>
+        <translation>Salva pagina della campagna</translation>
+    </message>
+    <message>
+        <source>Campaign page</source>
+        <translation>Pagina della campagna</translation>
+    </message>
+    <message>
+        <source>%1: project %2 of %3</source>
+        <comment>file, number, count</comment>
+        <translation>%1: progetto %2 di %3</translation>
+    </message>
+    <message>
+        <source>Stopped; the campaign page has not been saved.</source>
+        <translation>Interrotto; la pagina della campagna non è stata salvata.</translation>
+    </message>
+    <message>
+        <source>Saved in %1, without the changes of this survey that are not saved</source>
+        <translation>Salvata in %1, senza le modifiche di questo rilievo che non sono salvate</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file, why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Some values of the projects cannot be. They were put right or left out.</source>
+        <translation>Alcuni valori dei progetti non sono possibili. Sono stati corretti o tralasciati.</translation>
+    </message>
+    <message>
+        <source>Projects that failed: %1. The campaign page names them.</source>
+        <translation>Progetti non riusciti: %1. La pagina della campagna li nomina.</translation>
+    </message>
+    <message>
+        <source>Save Sheets of Shots</source>
+        <translation>Salva fogli di tiri</translation>
+    </message>
+    <message>
+        <source>PDF, all sheets in one file (*.pdf);;SVG picture (*.svg);;PNG picture (*.png)</source>
+        <translation>PDF, tutti i fogli in un file (*.pdf);;Immagine SVG (*.svg);;Immagine PNG (*.png)</translation>
+    </message>
+    <message numerus="yes">
+        <source>The sheets have not all been saved; %n file(s) are complete.</source>
+        <translation>
+            <numerusform>I fogli non sono stati salvati tutti; %n file è completo.</numerusform>
+            <numerusform>I fogli non sono stati salvati tutti; %n file sono completi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there are no picks yet</source>
+        <translation>non ci sono ancora primi arrivi</translation>
+    </message>
+    <message>
+        <source>Layered profile</source>
+        <translation>Profilo a strati</translation>
+    </message>
+    <message>
+        <source>there is no layered profile yet</source>
+        <translation>non c&apos;è ancora un profilo a strati</translation>
+    </message>
+    <message>
+        <source>Traces of shot %1</source>
+        <translation>Tracce del tiro %1</translation>
+    </message>
+    <message>
+        <source>no shot with traces is in view</source>
+        <translation>nessun tiro con tracce è in vista</translation>
+    </message>
+    <message>
+        <source>Misfit of every iteration</source>
+        <translation>Scarto di ogni iterazione</translation>
+    </message>
+    <message>
+        <source>there is no inversion yet</source>
+        <translation>non c&apos;è ancora un&apos;inversione</translation>
+    </message>
+    <message>
+        <source>Residuals by shot and geophone</source>
+        <translation>Residui per tiro e geofono</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residui in funzione della distanza dal tiro</translation>
+    </message>
+    <message>
+        <source>Residuals of shots and of geophones</source>
+        <translation>Residui di tiri e di geofoni</translation>
+    </message>
+    <message>
+        <source>Residuals along the rays</source>
+        <translation>Residui lungo i raggi</translation>
+    </message>
+    <message>
+        <source>Depth profile</source>
+        <translation>Profilo di profondità</translation>
+    </message>
+    <message>
+        <source>there is no section yet</source>
+        <translation>non c&apos;è ancora una sezione</translation>
+    </message>
+    <message>
+        <source>P and S</source>
+        <translation>P e S</translation>
+    </message>
+    <message>
+        <source>its own dialog prints it</source>
+        <translation>si stampa dalla sua finestra di dialogo</translation>
+    </message>
+    <message>
+        <source>Nothing has been printed.</source>
+        <translation>Non è stato stampato nulla.</translation>
+    </message>
+    <message>
+        <source>Sent to %1.</source>
+        <translation>Inviato a %1.</translation>
+    </message>
+    <message>
+        <source>Save sheets as PDF</source>
+        <translation>Salva fogli come PDF</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>Documento PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Shots whose files name no fields: %1. %2</source>
+        <translation>Tiri i cui file non danno nomi ai campi: %1. %2</translation>
+    </message>
+    <message>
+        <source>Save Trace Headers</source>
+        <translation>Salva intestazioni delle tracce</translation>
+    </message>
+    <message>
+        <source>Velocity V of t - |x|/V (%1):</source>
+        <translation>Velocità V di t - |x|/V (%1):</translation>
+    </message>
+    <message>
+        <source>Exponent n of t^n, 0 for none:</source>
+        <translation>Esponente n di t^n, 0 per nessuno:</translation>
+    </message>
+    <message>
+        <source>Reduced %1 ms</source>
+        <translation>Ridotto %1 ms</translation>
+    </message>
+    <message>
+        <source>Section as it is shown</source>
+        <translation>Sezione come è mostrata</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -14604,6 +15845,84 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>Time (ms)</source>
         <translation>Tempo (ms)</translation>
+    </message>
+    <message>
+        <source>Offset (%1)</source>
+        <translation>Offset (%1)</translation>
+    </message>
+    <message>
+        <source>|x| (%1)</source>
+        <comment>absolute offset</comment>
+        <translation>|x| (%1)</translation>
+    </message>
+    <message>
+        <source>Reduced time (ms), t - |x|/%1 %2</source>
+        <translation>Tempo ridotto (ms), t - |x|/%1 %2</translation>
+    </message>
+    <message>
+        <source>%1, gain t^%2</source>
+        <comment>time axis, exponent</comment>
+        <translation>%1, guadagno t^%2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceHeadersDialog</name>
+    <message>
+        <source>Trace headers</source>
+        <translation>Intestazioni delle tracce</translation>
+    </message>
+    <message>
+        <source>Headers of all traces</source>
+        <translation>Intestazioni di tutte le tracce</translation>
+    </message>
+    <message>
+        <source>A click on a heading sorts by it; the current row is shown among the traces</source>
+        <translation>Un clic su un&apos;intestazione di colonna ordina secondo essa; la riga corrente è mostrata fra le tracce</translation>
+    </message>
+    <message>
+        <source>Reads the shot files again and adds a column for every field that their headers name: instrument, time of recording, gain, stack, notes</source>
+        <translation>Legge di nuovo i file dei tiri e aggiunge una colonna per ogni campo che le loro intestazioni nominano: strumento, ora di registrazione, guadagno, somma, note</translation>
+    </message>
+    <message>
+        <source>All &amp;fields of the shot files</source>
+        <translation>Tutti i campi dei &amp;file dei tiri</translation>
+    </message>
+    <message>
+        <source>The selected rows, or all of them, with a heading, as spreadsheets paste them (Ctrl+C)</source>
+        <translation>Le righe selezionate, o tutte, con un&apos;intestazione, come le incollano i fogli di calcolo (Ctrl+C)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>All rows in the order of shots and traces, lengths in metres, with decimal points</source>
+        <translation>Tutte le righe nell&apos;ordine di tiri e tracce, lunghezze in metri, con punti decimali</translation>
+    </message>
+    <message>
+        <source>&amp;Save table...</source>
+        <translation>&amp;Salva tabella...</translation>
+    </message>
+    <message>
+        <source>Traces: %1</source>
+        <translation>Tracce: %1</translation>
+    </message>
+    <message>
+        <source>Rows copied: %1</source>
+        <translation>Righe copiate: %1</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::TraceHeadersModel</name>
+    <message>
+        <source>%1 [%2]</source>
+        <comment>quantity, unit</comment>
+        <translation>%1 [%2]</translation>
+    </message>
+    <message>
+        <source>%1 [ms]</source>
+        <comment>quantity</comment>
+        <translation>%1 [ms]</translation>
     </message>
 </context>
 <context>
@@ -15699,6 +17018,14 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>Traces %1: C confirms, Del removes, K kills, P reverses, U mutes, Esc leaves</source>
         <translation>Tracce %1: C conferma, Canc toglie, K esclude, P inverte, U azzera, Esc lascia</translation>
+    </message>
+    <message>
+        <source>Times are not reduced: offsets are not known</source>
+        <translation>Tempi non ridotti: gli offset non sono noti</translation>
+    </message>
+    <message>
+        <source>Not by offset: offsets are not known, or all the same</source>
+        <translation>Non per offset: gli offset non sono noti, o sono tutti uguali</translation>
     </message>
 </context>
 <context>

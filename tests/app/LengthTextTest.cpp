@@ -69,6 +69,7 @@ TEST(LengthText, readsTypedFeetExactlyAndLeavesWhatWasNotEdited) {
 }
 
 TEST(LengthText, tellsLengthsWithTheirUnit) {
+  const OfLocale c(QLocale::c());
   EXPECT_EQ(lengthWithUnit(12.5, 2), QStringLiteral("12.50 m"));
   EXPECT_EQ(velocityWithUnit(1500.0, 0), QStringLiteral("1500 m/s"));
   EXPECT_EQ(lengthDigits(12.5, 6), QStringLiteral("12.5"));

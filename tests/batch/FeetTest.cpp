@@ -1,4 +1,6 @@
 #include "batch/BatchRunner.h"
+#include "io/TravelTimeFile.h"
+#include "support/RefractionLines.h"
 
 #include <string>
 #include <vector>
@@ -21,10 +23,19 @@ struct FeetRun {
   std::string table;
 };
 
-FeetRun runWith(const std::string& command, const std::vector<std::string>& more, bool feet) {
+std::string layeredLine() {
+  const Folder folder;
+  std::vector<refractionDataStructure::layerStruct> truth;
+  const TomoDocument line = testing::standardDippingLine(testing::threeDippingLayers(), truth);
+  EXPECT_TRUE(writeTravelTimes(folder / "line.otte", line).ok());
+  return contentsOf(folder / "line.otte");
+}
+
+FeetRun runWith(const std::string& command, const std::string& line,
+                const std::vector<std::string>& more, bool feet) {
   const Folder folder;
   const std::string table = folder / "table.csv";
-  std::vector<std::string> arguments = {command,    folder.write("line.otte", smallLine()),
+  std::vector<std::string> arguments = {command,    folder.write("line.otte", line),
                                         "--image",  folder / "picture.svg",
                                         "--report", folder / "report.html",
                                         "--date",   "2026-01-01",
@@ -51,22 +62,29 @@ nlohmann::json resultsOf(const FeetRun& run) {
 TEST(Feet, areInPicturesAndReportsAndNowhereElse) {
   const struct {
     const char* command;
+    std::string line;
     std::vector<std::string> more;
     const char* inFeet;
     const char* inMetres;
-  } facts[] = {{"invert",
-                {"--cell-size", "1", "--depth", "8", "--gridded", "TABLE"},
-                "Elevation [ft]",
-                "Elevation [m]"},
-               {"refract", {"--table", "TABLE"}, "Z (ft)", "Z (m)"}};
+    const char* lengthInFeet;
+    const char* lengthInMetres;
+  } facts[] = {
+      {"invert",
+       smallLine(),
+       {"--cell-size", "1", "--depth", "8", "--gridded", "TABLE"},
+       "Elevation [ft]",
+       "Elevation [m]",
+       "78.74 ft",
+       "24.00 m"},
+      {"refract", layeredLine(), {"--table", "TABLE"}, "Z (ft)", "Z (m)", "483.92 ft", "147.50 m"}};
   for (const auto& fact : facts) {
-    const FeetRun metres = runWith(fact.command, fact.more, false);
-    const FeetRun feet = runWith(fact.command, fact.more, true);
+    const FeetRun metres = runWith(fact.command, fact.line, fact.more, false);
+    const FeetRun feet = runWith(fact.command, fact.line, fact.more, true);
     EXPECT_THAT(metres.picture, HasSubstr(fact.inMetres));
     EXPECT_THAT(feet.picture, HasSubstr(fact.inFeet));
     EXPECT_THAT(feet.picture, Not(HasSubstr(fact.inMetres)));
-    EXPECT_THAT(metres.report, HasSubstr("24.00 m"));
-    EXPECT_THAT(feet.report, HasSubstr("78.74 ft"));
+    EXPECT_THAT(metres.report, HasSubstr(fact.lengthInMetres));
+    EXPECT_THAT(feet.report, HasSubstr(fact.lengthInFeet));
     EXPECT_EQ(resultsOf(feet), resultsOf(metres));
     EXPECT_EQ(feet.table, metres.table);
     EXPECT_FALSE(feet.table.empty());

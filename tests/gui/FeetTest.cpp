@@ -53,16 +53,16 @@ QStringList textsOf(const QWidget& widget) {
 /// choice of the unit itself, a figure that a rule of the literature has, and what the rooms below
 /// tell by themselves.
 const std::pair<const char*, const char*> kMetric[] = {
-    {"coordinates", "eastingLabel"},    {"coordinates", "northingLabel"},
-    {"coordinates", "checkLabel"},      {"coordinates", "estFstGeoph"},
-    {"coordinates", "northFstGeoph"},   {"coordinates", "estLstGeoph"},
-    {"coordinates", "northLstGeoph"},   {"shift", "y_coord_edit_unit"},
-    {"shift", "z_offset_edit_unit"},    {"shift", "y_coord_edit"},
-    {"shift", "z_offset_edit"},         {"drawing", "sectionButton"},
-    {"drawing", "mapButton"},           {"settings", "lengthUnit"},
-    {"P and S", "densityLabel"},        {"P and S", "densityCombo"},
-    {"P and S", "tableButton"},         {"P and S", "notesLabel"},
-    {"start from layers", "notesLabel"}};
+    {"coordinates", "eastingLabel"},  {"coordinates", "northingLabel"},
+    {"coordinates", "checkLabel"},    {"coordinates", "estFstGeoph"},
+    {"coordinates", "northFstGeoph"}, {"coordinates", "estLstGeoph"},
+    {"coordinates", "northLstGeoph"}, {"shift", "y_coord_edit_unit"},
+    {"shift", "z_offset_edit_unit"},  {"shift", "y_coord_edit"},
+    {"shift", "z_offset_edit"},       {"drawing", "sectionButton"},
+    {"drawing", "mapButton"},         {"settings", "lengthUnit"},
+    {"trace headers", "saveButton"},  {"P and S", "densityLabel"},
+    {"P and S", "densityCombo"},      {"P and S", "tableButton"},
+    {"P and S", "notesLabel"},        {"start from layers", "notesLabel"}};
 
 bool staysMetric(const std::string& dialog, const QWidget& widget, const QString& text) {
   if (text.contains(QStringLiteral(", in metres"))) return true;  // told of a file

@@ -27,7 +27,7 @@ namespace talvesk {
 namespace {
 
 /// Places among the choices of what a tab shows.
-enum Place : std::size_t { kSection, kCurves, kLayers, kTraces };
+enum Place { kSection, kCurves, kLayers, kTraces };
 
 }  // namespace
 
