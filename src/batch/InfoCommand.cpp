@@ -223,7 +223,15 @@ int run(const InfoOptions& options) {
     outputs.push_back({"--positions-json", options.surveyed.json});
   }
   const Channels channels = openChannels(outputs, false);
-  const Status places = checkOutputFiles(outputs, options.files);
+  std::vector<std::string> inputs = options.files;
+  if (!options.surveyed.table.empty()) {
+    inputs.push_back(options.surveyed.table);
+    if (!options.headers.empty()) {
+      return wrongUsage("info",
+                        "--headers tells what is in the files, not what --positions makes of it");
+    }
+  }
+  const Status places = checkOutputFiles(outputs, inputs);
   if (places.code() == kWrongUsage) return wrongUsage("info", places.message());
   if (!places.ok()) return failed(places.message());
 

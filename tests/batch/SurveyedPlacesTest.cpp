@@ -107,6 +107,10 @@ TEST_F(SurveyedPlaces, areOfOneSurvey) {
       {"convert", line, in("a.otte"), "--positions", table(), "--positions-json", in("a.otte")});
   EXPECT_EQ(same.code, 2) << same.err;
   EXPECT_FALSE(folder.holds("a.otte"));
+  const std::string where = table();
+  const std::string before = contentsOf(where);
+  EXPECT_NE(run({"info", line, "--positions", where, "--json", where}).code, 0);
+  EXPECT_EQ(contentsOf(where), before) << "the table that positions are read from";
 }
 
 TEST_F(SurveyedPlaces, areRefusedWhole) {
