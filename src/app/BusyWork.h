@@ -41,18 +41,18 @@ template <typename Work>
 auto whileBusy(QWidget& widget, Work work) {
   class Disabled {
    public:
-    explicit Disabled(QWidget& of) : mWidget(of), mFocus(of.focusWidget()) {
-      mWidget.setEnabled(false);
+    explicit Disabled(QWidget& of) : mWidget(&of), mFocus(of.focusWidget()) {
+      mWidget->setEnabled(false);
     }
     ~Disabled() {
-      mWidget.setEnabled(true);
+      if (mWidget) mWidget->setEnabled(true);
       if (mFocus) mFocus->setFocus();
     }
     Disabled(const Disabled&) = delete;
     Disabled& operator=(const Disabled&) = delete;
 
    private:
-    QWidget& mWidget;
+    const QPointer<QWidget> mWidget;  ///< one that is closed meanwhile may be gone
     const QPointer<QWidget> mFocus;
   };
   const WaitCursor waiting;

@@ -28,6 +28,7 @@ TraceHeadersPresenter::TraceHeadersPresenter(Desk& desk) : mDesk(desk) {
     const bool opened = change.kind == SurveyChange::Kind::kOpened;
     if (opened || has(Part::kRecordings)) mOtherFiles = true;
     const bool about = has(Part::kPicks) || has(Part::kGeometry) || has(Part::kRecordings);
+    if (opened || about) ++mChanges;
     if (mDialog && (opened || about)) mSoon.start();
   });
 }
@@ -54,7 +55,7 @@ void TraceHeadersPresenter::retranslate() {
 /// Files are read when their fields are asked for, and again when the recordings are others.
 void TraceHeadersPresenter::refresh() {
   mSoon.stop();
-  if (!mDialog) return;
+  if (!mDialog || mReading) return;
   TraceHeaders headers(mDesk.document());
   std::vector<Message> notes;
   if (mDialog->wantsFields()) {
@@ -62,12 +63,20 @@ void TraceHeadersPresenter::refresh() {
     if (before.hasFieldsOfFiles() && !mOtherFiles) {
       headers.takeFieldsOfFiles(before);
     } else {
+      const int changes = mChanges;
+      mOtherFiles = false;
+      mReading = true;
       notes = whileBusy(*mDialog, [&headers] {
         std::vector<Message> found;
         headers.addFieldsOfFiles(found);
         return found;
       });
-      mOtherFiles = false;
+      mReading = false;
+      if (changes != mChanges) {  // it is another survey by now
+        mOtherFiles = true;
+        mSoon.start();
+        return;
+      }
     }
   }
   if (!mDialog) return;  // closed while files were read

@@ -28,6 +28,8 @@ class TraceHeadersPresenter : public QObject {
   Desk& mDesk;
   QPointer<TraceHeadersDialog> mDialog;
   bool mOtherFiles = false;  ///< recordings have changed since their files were read
+  bool mReading = false;     ///< files, beside the window
+  int mChanges = 0;          ///< of what the table shows, so far
   QTimer mSoon;              ///< several picks of one stroke are looked at together
   Session::Subscription mSubscription;
 };
