@@ -90,13 +90,21 @@ std::vector<Match> matchesOf(const std::vector<Point2D>& first, const std::vecto
   return matches;
 }
 
-double squares(const std::vector<double>& values) {
+/// Of the samples of many traces.
+struct MeanSquare {
   double sum = 0.0;
-  for (const double value : values) {
-    if (std::isfinite(value)) sum += value * value;
+  double count = 0.0;
+
+  /// \param samples those from the first on that count
+  void add(const std::vector<double>& values, double samples) {
+    for (std::size_t k = 0; k < values.size() && static_cast<double>(k) < samples; ++k) {
+      if (!std::isfinite(values[k])) continue;
+      sum += values[k] * values[k];
+      count += 1.0;
+    }
   }
-  return sum;
-}
+  double root() const { return std::sqrt(sum / count); }
+};
 
 /// Lays the traces out, one pair after the other.
 class Overlay {
@@ -206,13 +214,17 @@ class Overlay {
 
   /// How strong the second is, and makes it as strong as the first where that is wanted.
   void measure() {
-    double a = 0.0;
-    double b = 0.0;
+    MeanSquare a;
+    MeanSquare b;
     for (std::size_t i = 0; i < mA.size(); ++i) {
-      a += squares(mA[i]);
-      b += squares(mB[i]);
+      const double stepA = mTracesA[i].sampleInterval;
+      const double stepB = mTracesB[i].sampleInterval;
+      const double common = std::min(stepA * static_cast<double>(mA[i].size()),
+                                     stepB * static_cast<double>(mB[i].size()));
+      a.add(mA[i], common / stepA - 0.5);  // a last sample more or less is no matter of rounding
+      b.add(mB[i], common / stepB - 0.5);
     }
-    const double ratio = std::sqrt(b) / std::sqrt(a);
+    const double ratio = b.root() / a.root();
     mPair.strength = std::isfinite(ratio) && ratio > 0.0 ? ratio : 1.0;
     mPair.factor = mOptions.balanced ? 1.0 / mPair.strength : 1.0;
     if (mPair.factor == 1.0) return;

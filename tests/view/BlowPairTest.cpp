@@ -160,6 +160,11 @@ TEST(BlowPair, makesTheSecondAsStrongAsTheFirst) {
   options.balanced = true;
   const BlowPair pair = layered(document, options);
   EXPECT_NEAR(pair.factor, 0.25 / strength, 1e-12);
+  // Longer records, with nothing but noise after those of the first, are no stronger.
+  for (Trace& trace : document.recordings.edit().traceSets[1]) {
+    trace.samples.edit().resize(2 * trace.samples.size(), 1e6);
+  }
+  EXPECT_NEAR(layered(document).strength, 4.0 * strength, 1e-12);
   EXPECT_NEAR(samplesOf(pair, BlowPair::kSecond, 1)[7],
               document.recordings->traceSets[1][1].samples[7] * pair.factor, 1e-12);
 }
