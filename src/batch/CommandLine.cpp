@@ -137,7 +137,7 @@ void addPick(CLI::App& app, PickOptions& pick) {
           .add_option_function<std::string>(
               "--sheet", [&pick](const std::string& text) { readSheet(text, pick); },
               "Several shots on each sheet of --image, with one axis of time: ROWSxCOLUMNS, 2x3; "
-              "at most 10x10")
+              "at most 10x10; on A4, and on larger paper where more than 9 shots need it")
           ->type_name("ROWSxCOLUMNS");
   addGatherManner(command, pick.manner, image);
   addFeet(command);

@@ -8,7 +8,9 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <algorithm>
 #include <clocale>
+#include <cmath>
 #include <cstdlib>
 
 namespace talvesk {
@@ -59,6 +61,14 @@ Status drawGathers(const TomoDocument& document, bool filtered, const GatherMann
 Status drawGatherSheets(const TomoDocument& document, bool filtered, const GatherManner& manner,
                         std::size_t rows, std::size_t columns, const std::string& path) {
   GatherSheetOptions sheets;
+  // Each doubling of the shots beyond what A4 holds takes the next larger paper.
+  constexpr double kShotsOfA4 = 9.0;
+  constexpr double kMostTimes = 16.0;  // A0
+  const double times = static_cast<double>(rows * columns) / kShotsOfA4;
+  for (double held = 1.0; held < std::min(times, kMostTimes); held *= 2.0) {
+    sheets.widthMm *= std::sqrt(2.0);
+    sheets.heightMm *= std::sqrt(2.0);
+  }
   sheets.rows = rows;
   sheets.columns = columns;
   sheets.gather.filtered = filtered;

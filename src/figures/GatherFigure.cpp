@@ -32,18 +32,6 @@ constexpr double kSidePadding = 12.0;  ///< beyond the largest swing
 constexpr double kMinCanvasWidth = 120.0;
 constexpr double kMinCanvasHeight = 80.0;
 
-QString offsetAxis(OffsetOrder order) {
-  return (order == OffsetOrder::kAbsolute ? FigureWords::tr("Absolute offset [%1]")
-                                          : FigureWords::tr("Offset [%1]"))
-      .arg(QLatin1String(lengthUnitName()));
-}
-
-QString reducedTimeAxis(double reduction) {
-  return FigureWords::tr("Reduced time [ms], t - |x|/%1 %2")
-      .arg(QString::fromStdString(formatDouble(std::round(shownLength(reduction)))),
-           QLatin1String(velocityUnitName()));
-}
-
 /// One shot laid out as a plot.
 class GatherPlot {
  public:
@@ -71,13 +59,8 @@ class GatherPlot {
 
 GatherPlot::GatherPlot(GatherScene scene, const GatherFigureOptions& options)
     : mOptions(options), mScene(std::move(scene)) {
-  const GatherManner& manner = mScene.manner;
-  mPlot.addAxis(QwtPlot::xBottom, mScene.byChannel ? FigureWords::channelAxis()
-                                  : manner.byOffset != OffsetOrder::kNone
-                                      ? offsetAxis(manner.byOffset)
-                                      : FigureWords::distanceAxis());
-  mPlot.addAxis(QwtPlot::yLeft, manner.reduction > 0.0 ? reducedTimeAxis(manner.reduction)
-                                                       : FigureWords::timeAxis());
+  mPlot.addAxis(QwtPlot::xBottom, placeAxis(mScene));
+  mPlot.addAxis(QwtPlot::yLeft, timeAxis(mScene));
   mPlot.add(gather_items::wiggles(mScene, {mOptions.gain, mOptions.clip, mOptions.fillPositive}));
   const double top = mScene.window.beginMs;
   if (!mScene.byChannel) {

@@ -4,6 +4,7 @@
 #include "figures/FigureFile.h"
 #include "figures/FigurePlot.h"
 #include "figures/FigureWords.h"
+#include "figures/GatherScene.h"
 #include "figures/SectionItems.h"
 #include "view/AxisTicks.h"
 
@@ -189,7 +190,7 @@ class PanelPainter {
     painter.save();
     paintFigureFrame(painter, canvas);
     painter.restore();
-    if (index % mSheet.columns == 0) paintTimes(painter, time, canvas);
+    if (index % mSheet.columns == 0) paintTimes(painter, panel, time, canvas);
     paintPlaces(painter, panel, x, canvas);
     const bool lowest = index + mSheet.columns >= mSheet.panels.size();
     if (lowest) paintPlaceTitle(painter, panel, canvas);
@@ -228,7 +229,8 @@ class PanelPainter {
     painter.setPen(Qt::black);
   }
 
-  void paintTimes(QPainter& painter, const QwtScaleMap& time, const QRectF& canvas) const {
+  void paintTimes(QPainter& painter, const GatherPanel& panel, const QwtScaleMap& time,
+                  const QRectF& canvas) const {
     const QFontMetricsF metrics(mNumber);
     const AxisTicks ticks = timeTicks(canvas.height());
     painter.setFont(mNumber);
@@ -241,7 +243,7 @@ class PanelPainter {
                                y + 0.5 * (metrics.ascent() - metrics.descent())),
                        text);
     }
-    const QString title = FigureWords::timeAxis();
+    const QString title = timeAxis(*panel.layers.front().scene);
     const QFontMetricsF heading(mHeading);
     painter.save();
     painter.setFont(mHeading);
@@ -274,8 +276,7 @@ class PanelPainter {
   }
 
   void paintPlaceTitle(QPainter& painter, const GatherPanel& panel, const QRectF& canvas) const {
-    const bool channels = panel.layers.front().scene->byChannel;
-    const QString title = channels ? FigureWords::channelAxis() : FigureWords::distanceAxis();
+    const QString title = placeAxis(*panel.layers.front().scene);
     const QFontMetricsF metrics(mHeading);
     painter.setFont(mHeading);
     painter.drawText(QPointF(canvas.center().x() - 0.5 * metrics.horizontalAdvance(title),

@@ -180,18 +180,9 @@ struct Counts {
   std::size_t errors = 0;  ///< bars of picks in the window
 };
 
-/// What of the manner no axis says.
-QStringList mannerWords(const GatherMapping& mapping) {
-  QStringList words;
-  const double exponent = mapping.manner().timeGain;
-  if (exponent > 0.0) {
-    words += FigureWords::tr("gain with time t^%1", "exponent")
-                 .arg(QString::fromStdString(formatDouble(exponent, 3)));
-  }
-  if (mapping.lacksOffsets()) {
-    words += FigureWords::tr("offsets not known: not drawn by offset or reduced as asked");
-  }
-  return words;
+QStringList offsetWords(const GatherMapping& mapping) {
+  if (!mapping.lacksOffsets()) return {};
+  return {FigureWords::tr("offsets not known: not drawn by offset or reduced as asked")};
 }
 
 std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& mends,
@@ -212,7 +203,8 @@ std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& m
   parts += (own ? FigureWords::tr("Each trace to its own maximum, gain %1")
                 : FigureWords::tr("All traces to one maximum, gain %1"))
                .arg(QString::fromStdString(formatDouble(options.gain, 3)));
-  parts += mannerWords(mapping);
+  parts += gainWords(mapping.manner());
+  parts += offsetWords(mapping);
   if (options.picks) {
     parts += counts.picks == 0 ? FigureWords::tr("no picks") : FigureWords::picks(counts.picks);
   }
@@ -226,7 +218,8 @@ std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& m
 }
 
 /// What stands below a sheet of several shots, too.
-std::string remarksOf(const Counts& counts, std::size_t step, const ShotMends& mends) {
+std::string remarksOf(const Counts& counts, std::size_t step, const ShotMends& mends,
+                      const GatherMapping& mapping) {
   QStringList parts;
   if (step > 1) parts += FigureWords::tr("One of every %1 is drawn").arg(step);
   if (counts.drawn < counts.looked) {
@@ -237,6 +230,7 @@ std::string remarksOf(const Counts& counts, std::size_t step, const ShotMends& m
     parts += FigureWords::tr("%1 outside the times shown", "picks")
                  .arg(FigureWords::picks(counts.hiddenPicks));
   }
+  parts += offsetWords(mapping);
   parts += FigureWords::mends(mends);
   return parts.join(QStringLiteral(", ")).toStdString();
 }
@@ -357,7 +351,7 @@ Status buildGatherScene(const TomoDocument& document, std::size_t shot,
   if (options.scaling == GatherScaling::kWholeShot) scaleAlike(made.traces);
   made.hasPicks = counts.picks > 0;
   made.caption = captionOf(counts, made.traceStep, mends, mapping, options);
-  made.remarks = remarksOf(counts, made.traceStep, mends);
+  made.remarks = remarksOf(counts, made.traceStep, mends, mapping);
   scene = std::move(made);
   return {};
 }
@@ -371,6 +365,27 @@ std::size_t shotsLackingOffsets(const TomoDocument& document, const GatherFigure
     if (mappingOf(document, record, sets[i], options.manner).lacksOffsets()) ++lacking;
   }
   return lacking;
+}
+
+QStringList gainWords(const GatherManner& manner) {
+  if (!(manner.timeGain > 0.0)) return {};
+  return {FigureWords::tr("gain with time t^%1", "exponent")
+              .arg(QString::fromStdString(formatDouble(manner.timeGain, 3)))};
+}
+
+QString placeAxis(const GatherScene& scene) {
+  if (scene.byChannel) return FigureWords::channelAxis();
+  if (scene.manner.byOffset == OffsetOrder::kNone) return FigureWords::distanceAxis();
+  return (scene.manner.byOffset == OffsetOrder::kAbsolute ? FigureWords::tr("Absolute offset [%1]")
+                                                          : FigureWords::tr("Offset [%1]"))
+      .arg(lengthUnitText());
+}
+
+QString timeAxis(const GatherScene& scene) {
+  if (!(scene.manner.reduction > 0.0)) return FigureWords::timeAxis();
+  return FigureWords::tr("Reduced time [ms], t - |x|/%1 %2")
+      .arg(QString::fromStdString(formatDouble(std::round(shownLength(scene.manner.reduction)))),
+           velocityUnitText());
 }
 
 }  // namespace talvesk

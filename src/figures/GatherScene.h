@@ -4,6 +4,8 @@
 #include "base/Status.h"
 #include "figures/GatherFigureOptions.h"
 
+#include <QString>
+#include <QStringList>
 #include <cstddef>
 #include <limits>
 #include <optional>
@@ -71,5 +73,11 @@ Status buildGatherScene(const TomoDocument& document, std::size_t shot,
 /// How many of the shots to be drawn cannot be drawn in the manner asked for, because their offsets
 /// are not known; their captions say so.
 std::size_t shotsLackingOffsets(const TomoDocument& document, const GatherFigureOptions& options);
+
+// What the axes of a gather say, by the manner that it is drawn in, and what of that no axis says.
+
+QString placeAxis(const GatherScene& scene);
+QString timeAxis(const GatherScene& scene);
+QStringList gainWords(const GatherManner& manner);
 
 }  // namespace talvesk

@@ -81,6 +81,7 @@ QString captionOf(const Scenes& scenes, const std::vector<std::size_t>& shots, s
   parts << (own ? FigureWords::tr("Each trace to its own maximum, gain %1")
                 : FigureWords::tr("All traces of a shot to one maximum, gain %1"))
                .arg(options.locale.toString(options.gather.gain, 'g', 3));
+  parts += gainWords(options.gather.manner);
   for (std::size_t i = 0; i < scenes.size(); ++i) {
     if (scenes[i]->remarks.empty()) continue;
     parts << FigureWords::tr("Shot %1: %2", "what is left out of it, or mended")

@@ -314,6 +314,13 @@ TEST_F(Picking, sheetsHaveSeveralShotsEach) {
   EXPECT_THAT(contentsOf(mFolder / "all.pdf"), HasSubstr("/Count 2"));
   EXPECT_THAT(contentsOf(mFolder / "two_01.svg"), HasSubstr("<svg"));
   EXPECT_THAT(contentsOf(mFolder / "two_02.svg"), HasSubstr("<svg"));
+  ASSERT_EQ(pick({"-o", mFolder / "out.otte", "--image", mFolder / "wide.svg", "--sheet", "10x10",
+                  "--reduce", "900", "--by-offset", "signed", "--time-gain", "2", "--quiet"})
+                .code,
+            0);
+  for (const char* words : {"Reduced time [ms], t - |x|/900 m/s", "Offset [m]", "t^2"}) {
+    EXPECT_THAT(contentsOf(mFolder / "wide.svg"), HasSubstr(words));
+  }
   for (const std::string sheet : {"2", "0x2", "2x11", "2x3x4", "1.5x2", "axb"}) {
     const Outcome wrong = pick(
         {"-o", mFolder / "out.otte", "--image", mFolder / "all.pdf", "--sheet", sheet, "--quiet"});
