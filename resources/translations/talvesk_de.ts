@@ -9031,6 +9031,10 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>difference of shots %1 and %2</source>
         <translation>Differenz der Schüsse %1 und %2</translation>
     </message>
+    <message>
+        <source>At 1:%1 the figure is too large even for many sheets: choose 1:%2, or a scale between them.</source>
+        <translation>Bei 1:%1 ist die Abbildung selbst für viele Blätter zu groß: Wählen Sie 1:%2 oder einen Maßstab dazwischen.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>

@@ -9031,6 +9031,10 @@ Defina la posición de los geófonos
         <source>difference of shots %1 and %2</source>
         <translation>diferencia de los disparos %1 y %2</translation>
     </message>
+    <message>
+        <source>At 1:%1 the figure is too large even for many sheets: choose 1:%2, or a scale between them.</source>
+        <translation>A 1:%1 la figura es demasiado grande incluso para muchas hojas: elija 1:%2 o una escala intermedia.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>

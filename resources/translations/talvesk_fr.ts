@@ -9031,6 +9031,10 @@ Veuillez définir la position des géophones
         <source>difference of shots %1 and %2</source>
         <translation>différence des tirs %1 et %2</translation>
     </message>
+    <message>
+        <source>At 1:%1 the figure is too large even for many sheets: choose 1:%2, or a scale between them.</source>
+        <translation>À 1:%1, la figure est trop grande même pour de nombreuses feuilles : choisissez 1:%2 ou une échelle intermédiaire.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>

@@ -9031,6 +9031,10 @@ Impostare la posizione dei geofoni
         <source>difference of shots %1 and %2</source>
         <translation>differenza dei tiri %1 e %2</translation>
     </message>
+    <message>
+        <source>At 1:%1 the figure is too large even for many sheets: choose 1:%2, or a scale between them.</source>
+        <translation>A 1:%1 la figura è troppo grande anche per molti fogli: scegli 1:%2 o una scala intermedia.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>

@@ -61,7 +61,11 @@ QString CampaignPresenter::askForPage() {
       QDir(mDesk.folders.toSave()).filePath(QStringLiteral("index.html")), tr("Web page (*.html)"));
   if (file.isEmpty()) return {};
   const QString suffix = QStringLiteral(".html");
-  if (!file.endsWith(suffix, Qt::CaseInsensitive)) file += suffix;
+  if (!file.endsWith(suffix, Qt::CaseInsensitive)) {
+    file += suffix;  // the dialog has asked about another file
+    const QString name = QFileInfo(file).fileName();
+    if (QFileInfo::exists(file) && !mayReplace({name})) return {};
+  }
   mDesk.folders.saved(file);
   return file;
 }
@@ -74,11 +78,13 @@ bool CampaignPresenter::mayOverwrite(const CampaignPlace& place,
       existing << QString::fromStdString(name);
     }
   }
-  return existing.isEmpty() ||
-         askYesNo(&mDesk.window, tr("Warning"),
-                  tr("%n file(s) exist already.", nullptr, existing.size()),
-                  tr("Do you want to replace them?") + QStringLiteral("\n\n") + shortList(existing),
-                  false);
+  return existing.isEmpty() || mayReplace(existing);
+}
+
+bool CampaignPresenter::mayReplace(const QStringList& existing) {
+  return askYesNo(
+      &mDesk.window, tr("Warning"), tr("%n file(s) exist already.", nullptr, existing.size()),
+      tr("Do you want to replace them?") + QStringLiteral("\n\n") + shortList(existing), false);
 }
 
 void CampaignPresenter::writeAll(const QStringList& projects, const QString& page,

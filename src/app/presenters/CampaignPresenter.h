@@ -35,6 +35,7 @@ class CampaignPresenter : public QObject {
   void addTo(CampaignDialog& dialog);
   QString askForPage();
   bool mayOverwrite(const CampaignPlace& place, const std::vector<std::string>& files);
+  bool mayReplace(const QStringList& existing);
   void writeAll(const QStringList& projects, const QString& page, const CampaignTexts& texts);
   CampaignLine writeLine(const QString& project, const std::string& name, const std::string& file,
                          const CampaignPlace& place, const CampaignTexts& texts,

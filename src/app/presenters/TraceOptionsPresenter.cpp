@@ -118,10 +118,13 @@ void TraceOptionsPresenter::askReduction() {
   QInputDialog box(&mDesk.window);
   box.setWindowTitle(tr("Reduced time"));
   box.setLabelText(tr("Velocity V of t - |x|/V (%1):").arg(QLatin1String(velocityUnitName())));
-  setNumber(box, limits, std::round(shownLength(velocity)), kVelocityStep);
+  const double offered = std::round(shownLength(velocity));
+  setNumber(box, limits, offered, kVelocityStep);
+  // What is left as it was offered stays the velocity that it was rounded from.
+  const auto meant = [=](double shown) { return shown == offered ? velocity : metresOf(shown); };
   const auto chosen =
-      ask(box, [](GatherManner& manner, double shown) { manner.reduction = metresOf(shown); });
-  if (chosen) view.setReduction(metresOf(*chosen));
+      ask(box, [=](GatherManner& manner, double shown) { manner.reduction = meant(shown); });
+  if (chosen) view.setReduction(meant(*chosen));
 }
 
 void TraceOptionsPresenter::askTimeGain() {

@@ -152,7 +152,8 @@ void findWays(const PrintFigure& figure, const PrintSettings& settings, PrintFit
 }
 
 /// Says what a figure takes that does not fit, and what would.
-Status refuse(const PrintFit& fit, double scale) {
+/// \param splits whether several sheets were tried
+Status refuse(const PrintFit& fit, double scale, bool splits) {
   if (fit.scale == 0.0 && fit.byTimes) {
     return Status::failure(
         Message::tr("The figure fits this sheet at no scale: choose a larger sheet, or more "
@@ -161,6 +162,13 @@ Status refuse(const PrintFit& fit, double scale) {
   if (fit.scale == 0.0) {
     return Status::failure(
         Message::tr("The figure fits this sheet at no scale: choose a larger sheet."));
+  }
+  if (splits) {
+    return Status::failure(
+        Message::tr("At 1:%1 the figure is too large even for many sheets: choose 1:%2, or a "
+                    "scale between them.")
+            .arg(scale)
+            .arg(Message::number(fit.scale, 10)));
   }
   return Status::failure(
       Message::tr("At 1:%1 the figure takes %2 x %3 mm, and the sheet has room "
@@ -185,7 +193,7 @@ Status preparePrint(const PrintFigure& figure, const PrintSettings& settings, Pr
   if (!fit.fits && !(split && fit.columns > 0)) {
     findWays(figure, settings, fit);
     if (told != nullptr) *told = fit;
-    return refuse(fit, scale);
+    return refuse(fit, scale, split);
   }
   if (told != nullptr) *told = fit;
   PrintTiles tiles(settings.sheet, {fit.figureWidthMm, fit.figureHeightMm});
