@@ -61,7 +61,9 @@ QString TraceHeadersModel::cell(std::size_t record, std::size_t column) const {
   if (!std::isfinite(value)) return {};
   if (known.kind == Kind::kCount) return QLocale().toString(value, 'f', 0);
   // No remainder of binary fractions, and no -0.
-  const double shown = known.kind == Kind::kLength ? shownLength(value) : value;
+  double shown = known.kind == Kind::kLength ? shownLength(value) : value;
+  // Metres are told as they are; in feet they would have digits without end.
+  if (shown != value) shown = std::round(1e3 * shown) / 1e3;
   return QLocale().toString(shown + 0.0, 'g', kDigits);
 }
 

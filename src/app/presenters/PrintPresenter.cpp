@@ -87,6 +87,7 @@ PrintChoice PrintPresenter::traces() const {
     GatherFigureOptions options;
     options.filtered = mDesk.settings.showFiltered && mDesk.hasFilteredCopy(shot);
     options.errorBars = mDesk.settings.errorBars;
+    options.manner = mDesk.ui.showTracesWidget->options().manner;
     return printedGather(mDesk.document(), static_cast<std::size_t>(shot), options);
   };
   return choice;
