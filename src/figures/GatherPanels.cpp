@@ -118,7 +118,8 @@ class PanelPainter {
 
   QRectF canvasOf(std::size_t panel) const {
     const auto column = static_cast<double>(panel % mSheet.columns);
-    const auto row = static_cast<double>(panel / mSheet.columns);
+    const std::size_t full = panel / mSheet.columns;  // rows above this one
+    const auto row = static_cast<double>(full);
     const double step = mAt.heading + mAt.height + mAt.numbers + 0.5 * kGap;
     return {mAt.left + column * (mAt.width + kGap), mAt.top + row * step + mAt.heading, mAt.width,
             mAt.height};
