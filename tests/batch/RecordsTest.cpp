@@ -1,4 +1,8 @@
 #include "batch/SmallShots.h"
+#include "io/project/ProjectWriter.h"
+#include "support/ConsoleCapture.h"
+#include "support/ShotDocument.h"
+#include "view/ColorPalette.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -73,6 +77,32 @@ TEST_F(BlowPairRecords, areRefusedWithAReason) {
     EXPECT_THAT(outcome.err, HasSubstr(c.complaint));
     EXPECT_FALSE(folder.holds("out/sum01-02.sgy"));
   }
+}
+
+/// One sense holds 3 throughout, the other -1.
+TEST_F(BlowPairRecords, areThoseOfAnSWavePairByTheirLetters) {
+  TomoDocument document = talvesk::testing::shotDocument(2, 3, 20);
+  document.recordings.edit().waveType = WaveType::S;
+  for (TraceSet& set : document.recordings.edit().traceSets) {
+    for (Trace& trace : set) {
+      trace.waveKind = Trace::kSWavePair;
+      trace.samplesDX = std::vector<double>(20, 3.0);
+      trace.samplesSX = std::vector<double>(20, -1.0);
+    }
+  }
+  const std::string project = folder / "s.tvsk";
+  {
+    const talvesk::testing::ConsoleCapture quiet;
+    ProjectWriter writer;
+    ASSERT_EQ(writer.save(project, folder / "", document, {}, ColorPaletteList()), 0)
+        << writer.message();
+  }
+  const Outcome bare = run({"--blow-pair", "1,2", "--sum"}, {project});
+  EXPECT_EQ(bare.code, 1);
+  EXPECT_THAT(bare.err, HasSubstr("shot 1 is an S-wave pair; its blows are 1a and 1b"));
+  const Outcome outcome = run({"--blow-pair", "2a,2b", "--difference"}, {project});
+  ASSERT_EQ(outcome.code, 0) << outcome.err;
+  EXPECT_EQ(samplesOf(folder / "out/difference02a-02b.sgy", 1)[5], 4.0);
 }
 
 TEST_F(BlowPairRecords, saySoWhenRecordsNeverMeet) {
