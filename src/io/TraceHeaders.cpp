@@ -246,7 +246,7 @@ Message describeLeftOut(const std::map<std::string, std::size_t>& known,
     if (column >= kMostFieldColumns) leftOut.insert(name);
   }
   if (leftOut.empty()) return {};
-  return Message::tr("fields that the table has no room for: %1, among them %2")
+  return Message::tr("%1 fields that there is no room for, among them %2")
       .arg(leftOut.size())
       .arg(*leftOut.begin());
 }

@@ -30,8 +30,10 @@ std::vector<Message> describeLosses(const BlowPair& pair) {
                         .arg(pair.second.shot + 1));
   }
   if (pair.killed > 0) {
-    lines.push_back(Message::tr("left out: %1 pairs with a trace that is killed or has no samples")
-                        .arg(pair.killed));
+    lines.push_back(
+        Message::tr(
+            "left out: %1 pairs with a trace that is killed, or has no samples or no interval")
+            .arg(pair.killed));
   }
   if (pair.tooFarInTime > 0) {
     lines.push_back(Message::tr("left out: %1 pairs whose records begin too far apart in time")

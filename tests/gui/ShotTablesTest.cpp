@@ -5,8 +5,10 @@
 #include "io/Survey.h"
 #include "model/Recordings.h"
 #include "support/ShotDocument.h"
+#include "support/ShotFiles.h"
 #include "widgets/traces/editTravelTimesWidget.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
@@ -116,6 +118,28 @@ TEST_F(ShotTables, headersAreCopiedForSpreadsheets) {
   child<QPushButton>("copyButton").click();
   lines = QGuiApplication::clipboard()->text().split('\n', Qt::SkipEmptyParts);
   EXPECT_EQ(lines.size(), 7);
+}
+
+TEST_F(ShotTables, headersSayWhichFieldsTheyHaveNoRoomFor) {
+  openShots(1, 2);
+  std::vector<testing::Seg2Channel> channels;
+  for (int trace = 0; trace < 2; ++trace) {
+    std::vector<std::string> strings = {"SAMPLE_INTERVAL 0.001"};
+    for (int i = 0; i < 210; ++i) strings.push_back("F" + std::to_string(1000 * trace + i) + " 1");
+    channels.push_back({4, {1, 2, 3}, testing::seg2Area(strings)});
+  }
+  writable().recordings.edit().filenames[0] = home.put("many.sg2", testing::seg2Bytes(channels));
+  showWritten();
+  action("actionTrace_headers").trigger();
+  const auto& status = child<QLabel>("statusLabel");
+  EXPECT_EQ(status.text().toStdString(), "Traces: 2");
+  child<QCheckBox>("fieldsBox").click();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return status.text().contains("Not in the table"); }, 5000));
+  EXPECT_THAT(status.text().toStdString(),
+              HasSubstr("21 fields that there is no room for, among them F1189"));
+  child<QPushButton>("copyButton").click();
+  EXPECT_THAT(status.text().toStdString(), HasSubstr("Not in the table"))
+      << "whatever else is said";
 }
 
 TEST_F(ShotTables, headersOfAHundredThousandTracesAreThereAtOnce) {

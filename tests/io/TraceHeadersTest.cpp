@@ -188,7 +188,7 @@ TEST(TraceHeaders, sayWhichFieldsTheyHaveNoRoomFor) {
   headers.addFieldsOfFiles(notes);
   EXPECT_EQ(headers.columns().size(), known + 400);
   EXPECT_EQ(headers.fieldsLeftOut().english(),
-            "fields that the table has no room for: 201, among them F1199");
+            "201 fields that there is no room for, among them F1199");
   TraceHeaders other;
   other.takeFieldsOfFiles(headers);
   EXPECT_FALSE(other.fieldsLeftOut().empty());
