@@ -23,15 +23,24 @@ constexpr Page kPages[] = {
     {"MendDialog", "load.html"},
     {"RecordingDetailsDialog", "load.html"},
     {"ReadingsDialog", "load.html"},
+    {"CheckDialog", "load.html"},
     {"TraceHeadersDialog", "load.html"},
     {"BlowPairDialog", "load.html"},
     {"ShotFileDialog", "load.html"},
+    {"SurveyedPositionsDialog", "geometry.html"},
     {"doFilteringDialog", "filter.html"},
+    {"NotchDialog", "filter.html"},
+    {"VelocityFilterDialog", "filter.html"},
+    {"ReciprocityDialog", "curves.html"},
     {"gridDialog", "inversion.html"},
     {"select_speed_Dialog", "inversion.html"},
     {"runTomography_Dialog", "inversion.html"},
     {"ResidualsDialog", "fit.html"},
     {"SecondLookDialog", "fit.html"},
+    {"RunsDialog", "inversion.html"},
+    {"CompareRunsDialog", "inversion.html"},
+    {"ResolutionDialog", "judge.html"},
+    {"CertaintyDialog", "judge.html"},
     {"KnownGroundDialog", "fit.html"},
     {"AnnotationsDialog", "section.html"},
     {"MarkedIsolinesDialog", "section.html"},
@@ -48,7 +57,10 @@ constexpr Page kPages[] = {
     {"contourlines_dialog", "colours.html"},
     {"ExportTomoVelData", "export.html"},
     {"setGeographyDialog", "export.html"},
+    {"DrawingDialog", "export.html"},
     {"ImagesDialog", "report.html"},
+    {"PrintDialog", "report.html"},
+    {"CampaignDialog", "report.html"},
     {"GatherSheetDialog", "report.html"},
     {"ScreenshotDialog", "report.html"},
     {"ReportDialog", "report.html"},
@@ -89,10 +101,23 @@ bool HelpKey::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Polish) addHelpButton(*widget);
   if (event->type() != QEvent::KeyPress) return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);
+  if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) return pressHelp(*widget);
   if (key.key() != Qt::Key_F1 || key.modifiers() != Qt::NoModifier) return false;
   const QString page = guidePageOf(widget);
   if (page.isEmpty()) return false;
   mOpen(page);
+  return true;
+}
+
+/// With the keyboard on it, Return is for the button of the guide and not for that of the dialog.
+bool HelpKey::pressHelp(QWidget& focus) {
+  auto* button = qobject_cast<QPushButton*>(&focus);
+  auto* buttons = qobject_cast<QDialogButtonBox*>(focus.parentWidget());
+  if (button == nullptr || buttons == nullptr ||
+      buttons->button(QDialogButtonBox::Help) != button) {
+    return false;
+  }
+  button->click();
   return true;
 }
 
@@ -101,7 +126,8 @@ void HelpKey::addHelpButton(QWidget& dialog) {
   const QString page = guidePageOf(&dialog);
   auto* buttons = dialog.findChild<QDialogButtonBox*>();
   if (page.isEmpty() || buttons == nullptr || buttons->button(QDialogButtonBox::Help)) return;
-  buttons->addButton(QDialogButtonBox::Help);
+  // Never the one that Return presses from elsewhere: it would be the first that may be.
+  buttons->addButton(QDialogButtonBox::Help)->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::helpRequested, this, [this, page] { mOpen(page); });
 }
 

@@ -25,6 +25,7 @@ class HelpKey : public QObject {
 
  private:
   void addHelpButton(QWidget& dialog);
+  static bool pressHelp(QWidget& focus);
 
   std::function<void(const QString&)> mOpen;
 };

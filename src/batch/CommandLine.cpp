@@ -40,7 +40,8 @@ void addInfo(CLI::App& app, InfoOptions& info) {
       addPath(command, "--headers", info.headers,
               "Write all that is known of every trace as a table (CSV), with the fields that the "
               "headers of the shot files name: of shot files, read as --reader says, or of one "
-              "project"),
+              "project; with --positions where they stand by that table, beside what the files "
+              "say"),
       {".csv"}, true);
   addReader(command, info.reader)
       ->description(
@@ -61,9 +62,10 @@ void addInfo(CLI::App& app, InfoOptions& info) {
     if (list->count() > 0 && std::none_of(info.files.begin(), info.files.end(), isProjectFile)) {
       throw CLI::ValidationError("--list", "only projects have inversion runs to list");
     }
-    const bool oneSurvey = info.files.size() == 1 && !isShot(info.files.front());
-    if (!info.surveyed.table.empty() && !oneSurvey) {
-      throw CLI::ValidationError("--positions", "goes with one travel-time file or project");
+    if (!info.surveyed.table.empty() && info.files.size() > 1 && !shots) {
+      throw CLI::ValidationError("--positions",
+                                 "a table is of one line: it goes with shot files, which make one, "
+                                 "or with one travel-time file or project");
     }
   });
 }

@@ -100,9 +100,8 @@ void addEnsemble(CLI::App& app, EnsembleRunOptions& options) {
           ->required(),
       {".tvsk"}, true);
   addMembers(command, options);
-  addNumber<int>(command, "--threads", "N", {1, 1024},
-                 "Members that are fitted at once (default: as many as there are cores)",
-                 [&](int value) { options.threads = static_cast<unsigned>(value); })
+  addThreadCount(command, "Members that are fitted at once (default: as many as there are cores)",
+                 [&](unsigned count) { options.threads = count; })
       ->group(kEnsembleGroup);
   addPath(command, "--keep", options.keep,
           "File that finished members are kept in while others are fitted (default: that of --out "

@@ -13,12 +13,15 @@
 #include "io/SegyFile.h"
 #include "io/ShotFile.h"
 #include "io/ShotLoader.h"
+#include "io/Survey.h"
 #include "io/TraceHeaders.h"
 #include "io/TravelTimeFile.h"
 #include "io/project/projectReader.h"
+#include "model/Recordings.h"
 
 #include <algorithm>
 #include <ostream>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -110,6 +113,21 @@ class Inventory {
   }
 
   int exitCode() const { return mExitCode; }
+  /// Of one project or of all shot files, at the places of the table that was given.
+  const Survey& survey() const { return mSurvey; }
+
+  /// Reads the shot files as one survey, where somebody asks for more than what each holds. What
+  /// cannot be read of them has been told already.
+  void joinShots() {
+    const bool wanted = !mOptions.headers.empty() || !mOptions.surveyed.table.empty();
+    if (!wanted || !mTellsOfShots) return;
+    ShotLoader().load(mOptions.files, mSurvey.document, mOptions.reader);
+    if (mSurvey.document.recordings->traceSets.empty()) return;
+    const Status status = placeBySurvey(mOptions.surveyed, inputs(), mOut, mSurvey);
+    if (status.ok()) return;
+    mExitCode = failed(status.message());
+    mSurvey = {};  // of nothing else a table of headers was asked for
+  }
 
   /// A single file that is no shot file has nothing to say when it cannot be read.
   bool hasJson() const { return mExitCode == kDone || mOptions.files.size() > 1 || mTellsOfShots; }
@@ -146,6 +164,7 @@ class Inventory {
     LoadedProject project;
     Status status = readProject(file, project);
     if (status.ok()) status = placeBySurvey(mOptions.surveyed, inputs(), mOut, project);
+    if (status.ok() && !mOptions.headers.empty()) mSurvey = project;
     take(file, status, project, [&] { return projectJson(project); });
     if (status.ok() && mOptions.listRuns && mOptions.json.empty()) listRuns(project.document, mOut);
     if (status.ok() && mOptions.json.empty()) tellSamplesOnDisk(mOut);
@@ -192,27 +211,19 @@ class Inventory {
   std::ostream& mOut;
   SegyState mState;  ///< what the readers of SEG-Y and SU pass on from file to file
   std::vector<std::string> mValues;
+  Survey mSurvey;
   bool mTellsOfShots = false;
   int mExitCode = kDone;
 };
 
-/// The table of trace headers. What files could not be read has been told already.
-Status writeHeaders(const InfoOptions& options) {
-  TomoDocument document;
-  LoadedProject project;
-  if (isProjectFile(options.files.front())) {
-    Status status = readProject(options.files.front(), project);
-    if (!status.ok()) return status;
-    document = project.document;
-  } else {
-    ShotLoader().load(options.files, document, options.reader);
-  }
+Status writeHeaders(const std::string& path, TomoDocument document) {
   TraceHeaders headers(std::move(document));
-  if (headers.rows() == 0) return Status::failure(options.headers + ": there are no traces");
+  if (headers.rows() == 0) return Status::failure(path + ": there are no traces");
   std::vector<Message> notes;
   headers.addFieldsOfFiles(notes);
   for (const Message& note : notes) warn(note);
-  return writeTraceHeaders(options.headers, headers);
+  if (!headers.fieldsLeftOut().empty()) warn(path + ": " + headers.fieldsLeftOut().english());
+  return writeTraceHeaders(path, headers);
 }
 
 }  // namespace
@@ -224,23 +235,19 @@ int run(const InfoOptions& options) {
   }
   const Channels channels = openChannels(outputs, false);
   std::vector<std::string> inputs = options.files;
-  if (!options.surveyed.table.empty()) {
-    inputs.push_back(options.surveyed.table);
-    if (!options.headers.empty()) {
-      return wrongUsage("info",
-                        "--headers tells what is in the files, not what --positions makes of it");
-    }
-  }
+  if (!options.surveyed.table.empty()) inputs.push_back(options.surveyed.table);
   const Status places = checkOutputFiles(outputs, inputs);
   if (places.code() == kWrongUsage) return wrongUsage("info", places.message());
   if (!places.ok()) return failed(places.message());
 
   Inventory inventory(options, *channels.summary);
   for (const std::string& file : options.files) inventory.add(file);
+  inventory.joinShots();
   channels.summary->flush();
   int code = inventory.exitCode();
-  if (!options.headers.empty()) {
-    const Status written = writeHeaders(options);
+  const bool any = code == kDone || !inventory.survey().document.recordings->traceSets.empty();
+  if (!options.headers.empty() && any) {
+    const Status written = writeHeaders(options.headers, inventory.survey().document);
     if (!written.ok()) code = failed(written.message());
   }
   if (options.json.empty() || !inventory.hasJson()) return code;

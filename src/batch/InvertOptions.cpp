@@ -253,12 +253,12 @@ void addThreads(CLI::App& app, TomographyParameters& run) {
   CLI::Option* single = app.add_flag("--single-thread", run.singleThread,
                                      "Trace rays on one processor; the results are the same")
                             ->group("Inversion");
-  addNumber<int>(app, "--threads", "N", {1, 1024},
+  addThreadCount(app,
                  "Pick, trace and solve on so many processors at once; the results are the same "
                  "(default: as many as there are cores)",
-                 [&](int value) {
-                   run.threads = static_cast<unsigned>(value);
-                   run.singleThread = value == 1;
+                 [&](unsigned count) {
+                   run.threads = count;
+                   run.singleThread = count == 1;
                  })
       ->group("Inversion")
       ->excludes(single);

@@ -1,10 +1,12 @@
 #include "batch/OptionParsing.h"
 
 #include "base/StreamPlace.h"
+#include "batch/Failure.h"
 #include "batch/OutputFiles.h"
 
 #include <algorithm>
 #include <cctype>
+#include <thread>
 #include <utility>
 
 namespace talvesk {
@@ -63,6 +65,24 @@ std::vector<double> velocitiesWithin(const std::string& option, const std::strin
         numberWithin(option, std::string(field), rangeOf(parameters::kMinVelocity)));
   }
   return velocities;
+}
+
+CLI::Option* addThreadCount(CLI::App& app, const std::string& help,
+                            const std::function<void(unsigned)>& assign) {
+  constexpr int kMost = 1024;
+  constexpr unsigned kPerProcessor = 4;
+  static constexpr unsigned kAlways = 32;  ///< a few too many do no harm
+  return addNumber<int>(app, "--threads", "N", {1, kMost}, help, [assign](int value) {
+    const unsigned processors = std::max(std::thread::hardware_concurrency(), 1U);
+    const unsigned most = std::max(kPerProcessor * processors, kAlways);
+    const auto wanted = static_cast<unsigned>(value);
+    if (wanted > most) {
+      warn("--threads " + std::to_string(wanted) + ": this machine has " +
+           std::to_string(processors) + " processors; " + std::to_string(most) +
+           " threads are used, and the results are the same");
+    }
+    assign(std::min(wanted, most));
+  });
 }
 
 CLI::Option* mustEndIn(CLI::Option* option, std::vector<std::string> suffixes, bool anyCase,

@@ -5,6 +5,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -99,6 +100,10 @@ CLI::Option* addParameter(CLI::App& app, const Parameter<T>& parameter, const st
 
 CLI::Option* addPath(CLI::App& app, const std::string& name, std::string& path,
                      const std::string& help);
+
+/// --threads. A number that this machine has no use for is lowered, and that is told.
+CLI::Option* addThreadCount(CLI::App& app, const std::string& help,
+                            const std::function<void(unsigned)>& assign);
 
 /// A path to write that must end in one of the suffixes (in lower case). Where there is no choice
 /// of formats, a pipe or a device may have any name. \param anyCase whether ".PNG" ends in ".png"

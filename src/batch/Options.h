@@ -18,6 +18,7 @@
 #include "tomo/fitted/EnsembleVariation.h"
 #include "tomo/fitted/References.h"
 #include "tomo/fitted/ResolutionRun.h"
+#include "view/BlowPair.h"
 #include "view/ColorPalette.h"
 #include "view/GatherMapping.h"
 
@@ -54,7 +55,7 @@ struct InfoOptions {
   bool samples = false;
   bool listRuns = false;
   ShotReader reader = ShotReader::kRules;  ///< whose failure is that of the command
-  SurveyedPlaceOptions surveyed;           ///< of one travel-time file or project
+  SurveyedPlaceOptions surveyed;           ///< of shot files, or one travel-time file or project
 };
 
 /// On what the first breaks are picked.
@@ -337,12 +338,22 @@ struct ConvertOptions {
   bool quiet = false;
 };
 
+/// What two blows give, instead of the records of a survey.
+struct BlowPairRequest {
+  Blow first;
+  Blow second;
+  bool difference = false;  ///< this, or the sum, or both
+  bool sum = false;
+  bool balanced = false;
+};
+
 struct RecordsOptions {
   std::string project;  ///< none: shot files
   ShotOptions shots;
   std::string folder;
   RecordFormat format = RecordFormat::kSegy;
   bool together = false;  ///< in one file
+  std::optional<BlowPairRequest> pair;
   bool quiet = false;
 };
 

@@ -1,3 +1,4 @@
+#include "batch/BlowPairRecords.h"
 #include "batch/Commands.h"
 #include "batch/Diagnostics.h"
 #include "batch/Failure.h"
@@ -55,8 +56,10 @@ void addRecords(CLI::App& app, RecordsOptions& options) {
       ->type_name("FORMAT");
   CLI::Option* together =
       command.add_flag("--one-file", options.together, "All shots in one SEG-Y file, shots.sgy");
+  const auto takePair = addBlowPair(command, options.pair, {together});
   command.add_flag("--quiet", options.quiet, kQuietHelp);
-  command.final_callback([inputs, shots, together, &options] {
+  command.final_callback([inputs, shots, together, takePair, &options] {
+    takePair();
     if (inputs->size() == 1 && isProjectFile(inputs->front())) {
       options.project = inputs->front();
       if (shots.anyGiven()) {
@@ -83,6 +86,12 @@ int run(const RecordsOptions& options) {
   if (!status.ok()) return failed(status.message());
   if (!QDir().mkpath(QString::fromStdString(options.folder))) {
     return failed("Cannot make the folder " + options.folder);
+  }
+  if (options.pair) {
+    status = writeBlowPairRecords(options, project.document,
+                                  surveyFiles(options.project, options.shots), *channels.summary);
+    if (status.code() == kWrongUsage) return wrongUsage("records", status.message());
+    return status.ok() ? kDone : failed(status.message());
   }
   const RecordExport wanted = {options.format, options.folder, options.together};
   status = checkOutputFiles(outputsOf(project.document, wanted),

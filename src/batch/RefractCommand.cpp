@@ -33,6 +33,7 @@
 #include <cmath>
 #include <optional>
 #include <ostream>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -248,6 +249,20 @@ Status prepareReport(const RefractOptions& options, TomoDocument& document) {
   return recomputeRays(document, log);
 }
 
+/// What was asked for that shows a profile, by the names of its options.
+std::string outputsOfProfile(const RefractOptions& options) {
+  const std::pair<const char*, bool> all[] = {{"--table", !options.table.empty()},
+                                              {"--misfit", !options.misfit.empty()},
+                                              {"--image", !options.images.empty()},
+                                              {"--report", !options.report.empty()},
+                                              {"--start-model", options.startModel.has_value()}};
+  std::string names;
+  for (const auto& [name, asked] : all) {
+    if (asked) names += (names.empty() ? "" : ", ") + std::string(name);
+  }
+  return names;
+}
+
 /// A proposal of one layer has marks and nothing below them: what shows a profile is not written.
 int endWithoutRefractor(const RefractOptions& options, const LoadedProject& project,
                         const Work& work, const Channels& channels) {
@@ -255,6 +270,10 @@ int endWithoutRefractor(const RefractOptions& options, const LoadedProject& proj
   marksOnly.json = options.json;
   marksOnly.project = options.project;
   for (const Message& remark : work.proposal->remarks()) warn(remark);
+  const std::string missing = outputsOfProfile(options);
+  if (!missing.empty()) {
+    warn(missing + ": there is no profile to show; what was asked for there is not written");
+  }
   writeResults(marksOnly, project, work);
   summarize(*project.interpretation, work, *channels.summary);
   return failed("1 layer: there is no refractor to build a profile of");

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace talvesk {
@@ -33,6 +34,31 @@ struct Scenes {
   TimeWindow window;
 };
 
+/// All panels reach as far, so that both shots have their place in each.
+void shareAxis(Scenes& scenes) {
+  GatherScene& wide = *scenes.of[BlowPair::kFirst];
+  const GatherScene& second = *scenes.of[BlowPair::kSecond];
+  wide.low = std::min(wide.low, second.low);
+  wide.high = std::max(wide.high, second.high);
+  for (const Scene& scene : scenes.of) {
+    if (scene == nullptr) continue;
+    scene->low = wide.low;
+    scene->high = wide.high;
+  }
+}
+
+/// Of both shots, where they are near.
+std::vector<GatherStar> starsOf(const Scenes& scenes) {
+  std::vector<GatherStar> stars;
+  const auto add = [&](BlowPair::Set set, const RgbColor& color) {
+    const std::optional<double>& x = scenes.of[set]->shotX;
+    if (x) stars.push_back({*x, toColor(color)});
+  };
+  add(BlowPair::kFirst, kFirstLine);
+  add(BlowPair::kSecond, kSecondLine);
+  return stars;
+}
+
 Status build(const BlowPair& pair, const GatherFigureOptions& options, Scenes& scenes) {
   const std::size_t sets = pair.hasSum() ? 4 : 2;
   for (std::size_t set = 0; set < sets; ++set) {
@@ -40,6 +66,7 @@ Status build(const BlowPair& pair, const GatherFigureOptions& options, Scenes& s
     Status status = buildGatherScene(pair.document, set, options, *scenes.of[set]);
     if (!status.ok()) return status;
   }
+  shareAxis(scenes);
   const TimeWindow& first = scenes.of[BlowPair::kFirst]->window;
   const TimeWindow& second = scenes.of[BlowPair::kSecond]->window;
   scenes.window = {0.0, std::max(first.endMs, second.endMs)};
@@ -112,6 +139,7 @@ std::vector<GatherPanel> panelsOf(const Scenes& scenes, const BlowPairLook& look
     panels.push_back(resultOf(scenes, BlowPair::kDifference, look, layers));
   }
   if (look.sum && hasSum) panels.push_back(resultOf(scenes, BlowPair::kSum, look, layers));
+  for (GatherPanel& panel : panels) panel.stars = starsOf(scenes);
   return panels;
 }
 

@@ -11,6 +11,7 @@
 #include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
@@ -28,6 +29,8 @@ constexpr double kTick = 4.0;
 constexpr double kTopPadding = 12.0;  ///< the shot stands above the first sample
 constexpr double kBottomPadding = 3.0;
 constexpr double kSidePadding = 4.0;  ///< beyond the largest swing
+constexpr double kStar = 10.0;        ///< of a geophone beside it
+constexpr double kOneStar = 3.0;      ///< nearer ones share one
 constexpr double kLeastWidth = 60.0;  ///< of the traces of a panel
 constexpr double kLeastHeight = 50.0;
 constexpr int kTitlePixels = 15;
@@ -210,10 +213,33 @@ class PanelPainter {
     for (const GatherLayer& layer : panel.layers) {
       if (layer.scene->hasPicks) draw(gather_items::picks(*layer.scene, layer.picks));
     }
+    if (!panel.stars.empty()) return paintStars(painter, panel.stars, x, canvas);
     const GatherScene& first = *panel.layers.front().scene;
     if (!first.shotX) return;
     const double begin = time.invTransform(canvas.top() + kTopPadding);
     draw(section_items::markers({{*first.shotX, begin}}, {}, section_items::Marker::kShot));
+  }
+
+  /// Of those nearly at one place, a later one has the right half only: both are seen.
+  static void paintStars(QPainter& painter, const std::vector<GatherStar>& stars,
+                         const QwtScaleMap& x, const QRectF& canvas) {
+    const QPainterPath star = section_items::symbol(section_items::Marker::kShot, kStar);
+    const double y = canvas.top() + kTopPadding;
+    for (std::size_t i = 0; i < stars.size(); ++i) {
+      const double at = x.transform(stars[i].x);
+      const bool shared = std::any_of(
+          stars.begin(), stars.begin() + static_cast<std::ptrdiff_t>(i),
+          [&](const GatherStar& other) { return std::fabs(x.transform(other.x) - at) < kOneStar; });
+      painter.save();
+      section_items::setMarkerColors(painter, section_items::Marker::kShot);
+      painter.setBrush(stars[i].color);
+      if (shared) {
+        painter.setClipRect(QRectF(at, canvas.top(), canvas.right() - at, canvas.height()),
+                            Qt::IntersectClip);
+      }
+      painter.drawPath(star.translated(at, y));
+      painter.restore();
+    }
   }
 
   void paintHeading(QPainter& painter, const GatherPanel& panel, const QRectF& canvas) const {

@@ -29,9 +29,18 @@ struct GatherWord {
   QColor color = Qt::black;
 };
 
+/// A shot above the traces.
+struct GatherStar {
+  double x = 0.0;  ///< on the lower axis
+  QColor color;
+};
+
 /// One picture among several that share their axis of time. The first layer says what is below.
 struct GatherPanel {
   std::vector<GatherWord> heading;
+  /// The shots of a picture of two, the first one first; none: that of the first layer, in the
+  /// colour of shots. Two at one place share a star.
+  std::vector<GatherStar> stars = {};
   std::vector<GatherLayer> layers;  ///< one at least
 };
 

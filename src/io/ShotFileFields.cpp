@@ -40,7 +40,9 @@ std::string lineOf(std::string_view bytes) {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == std::string::npos) return {};
   text = text.substr(first, text.find_last_not_of(' ') - first + 1);
-  return beginningOf(std::move(text), kLongestField);
+  if (text.size() <= kLongestField) return text;
+  static const std::string kCut = "\xE2\x80\xA6";
+  return beginningOf(std::move(text), kLongestField - kCut.size()) + kCut;
 }
 
 class Seg2Fields {
@@ -73,6 +75,7 @@ class Seg2Fields {
       fields.traces.back() = fieldsOf(at + kSeg2Descriptor, size - kSeg2Descriptor);
     }
     if (table < firstTrace) fields.common = fieldsOf(table, firstTrace - table);
+    fields.leftOut = std::move(mLeftOut);
     return fields;
   }
 
@@ -86,7 +89,11 @@ class Seg2Fields {
     std::vector<FileField> fields;
     for (const Seg2Line& line : seg2Lines(mReader.slice(at, size), mLayout)) {
       std::string name = lineOf(line.keyword);
-      if (name.empty() || fields.size() == kMostFields) continue;
+      if (name.empty()) continue;
+      if (fields.size() == kMostFields) {
+        mLeftOut.insert(std::move(name));
+        continue;
+      }
       fields.push_back({std::move(name), lineOf(line.value)});
     }
     return fields;
@@ -94,6 +101,7 @@ class Seg2Fields {
 
   ByteReader mReader;
   Seg2Layout mLayout;
+  std::set<std::string> mLeftOut;
 };
 
 struct SegyField {

@@ -2,6 +2,7 @@
 
 #include "base/Status.h"
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,12 +19,15 @@ struct FileField {
 struct ShotFileFields {
   std::vector<FileField> common;               ///< of the file
   std::vector<std::vector<FileField>> traces;  ///< of its traces, in the order of the file
+  /// Names of fields that are not among them: more in one header than any instrument writes.
+  std::set<std::string> leftOut;
 };
 
 /// Reads the headers of SEG-2, SEG-Y and SU bytes, whatever their samples. Texts are printable
-/// UTF-8 of one line, at most kLongestField bytes; fields that are 0 in all traces of a SEG-Y or SU
-/// file are left out, for nobody filled them. \param path whose suffix tells SU, which has no mark
-/// of its own \return failure for bytes of none of these; `fields` is as before then
+/// UTF-8 of one line, at most kLongestField bytes, with "…" where they are cut; fields that are 0
+/// in all traces of a SEG-Y or SU file are left out, for nobody filled them. \param path whose
+/// suffix tells SU, which has no mark of its own \return failure for bytes of none of these;
+/// `fields` is as before then
 Status readShotFileFields(std::string_view bytes, const std::string& path, ShotFileFields& fields);
 
 constexpr std::size_t kLongestField = 200;

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <limits>
 #include <ostream>
+#include <set>
 #include <utility>
 
 namespace talvesk {
@@ -27,13 +28,14 @@ constexpr std::size_t kMostFieldColumns = 400;
 /// The trace that a row is about.
 struct Row {
   const TomoDocument& document;
-  std::size_t shot;
+  std::size_t set;
+  std::size_t shot;  ///< its record, else the set
   std::size_t index;
   const Trace& trace;
-  const TravelTime* record;   ///< null where the shot has none
+  const TravelTime* record;   ///< null where the set has none
   const RecordingNote* note;  ///< null where nothing is known of the recording
 
-  const TraceMend& mend() const { return mendOf(mendsOf(document.recordings->mends, shot), index); }
+  const TraceMend& mend() const { return mendOf(mendsOf(document.recordings->mends, set), index); }
   Point2D geophone() const {
     if (record == nullptr || record->indexStesa < 0) return {kUnknown, kUnknown};
     const auto& strings = document.line->goephonesStringSet;
@@ -51,15 +53,30 @@ struct Row {
   }
 };
 
-Row rowIn(const TomoDocument& document, std::size_t shot, std::size_t trace) {
+/// Per trace set the first record that is of it; the number of records where none is.
+std::vector<std::size_t> recordsOfSets(const TomoDocument& document) {
+  const std::vector<TravelTime>& records = document.ttArray;
+  std::vector<std::size_t> of(document.recordings->traceSets.size(), records.size());
+  for (std::size_t record = records.size(); record-- > 0;) {
+    const std::int32_t set = records[record].traceSetID;
+    if (set >= 0 && static_cast<std::size_t>(set) < of.size()) {
+      of[static_cast<std::size_t>(set)] = record;
+    }
+  }
+  return of;
+}
+
+Row rowIn(const TomoDocument& document, std::size_t set, std::size_t record, std::size_t trace) {
   const Recordings& recordings = *document.recordings;
   const std::vector<TravelTime>& records = document.ttArray;
+  const bool known = record < records.size();
   return {document,
-          shot,
+          set,
+          known ? record : set,
           trace,
-          recordings.traceSets[shot][trace],
-          shot < records.size() ? &records[shot] : nullptr,
-          shot < recordings.notes.size() ? &recordings.notes[shot] : nullptr};
+          recordings.traceSets[set][trace],
+          known ? &records[record] : nullptr,
+          set < recordings.notes.size() ? &recordings.notes[set] : nullptr};
 }
 
 std::vector<Message> one(const std::string& text) {
@@ -67,7 +84,7 @@ std::vector<Message> one(const std::string& text) {
 }
 
 std::vector<Message> fileOf(const Row& row) {
-  const std::string path = shotFile(row.document, row.shot);
+  const std::string path = shotFile(row.document, row.set);
   return one(path.substr(path.find_last_of("/\\") + 1));
 }
 
@@ -79,7 +96,7 @@ std::vector<Message> readerOf(const Row& row) {
 
 std::vector<Message> mendsOfRow(const Row& row) {
   std::vector<Message> words;
-  const ShotMends& shot = mendsOf(row.document.recordings->mends, row.shot);
+  const ShotMends& shot = mendsOf(row.document.recordings->mends, row.set);
   if (shot.disabled) words.push_back(Message::tr("shot disabled"));
   if (shot.timeShift != 0.0) {
     words.push_back(Message::tr("shifted by %1 ms").arg(kMilliseconds * shot.timeShift));
@@ -99,7 +116,7 @@ std::vector<Message> mendsOfRow(const Row& row) {
 std::vector<Message> filtersOfRow(const Row& row) {
   if (row.trace.filtered.empty()) return {};
   std::vector<Message> words;
-  for (const FilterStep& step : filtersOf(*row.document.recordings, row.shot)) {
+  for (const FilterStep& step : filtersOf(*row.document.recordings, row.set)) {
     words.push_back(describe(step));
   }
   if (words.empty()) words.push_back(Message::tr("filtered"));
@@ -198,20 +215,20 @@ const std::vector<Source>& sources() {
 }
 
 /// Reads the fields of the file of a shot; fails where they cannot be told to its traces.
-Status fieldsOfShot(const TomoDocument& document, std::size_t shot, ShotFileFields& fields) {
+Status fieldsOfSet(const TomoDocument& document, std::size_t set, ShotFileFields& fields) {
   const Recordings& recordings = *document.recordings;
-  const TraceSet& set = recordings.traceSets[shot];
-  const std::string path = shotFile(document, shot);
+  const std::size_t traces = recordings.traceSets[set].size();
+  const std::string path = shotFile(document, set);
   if (path.empty()) return Status::failure(Message::tr("it has no shot file"));
-  const bool pair = shot < recordings.filenames_SX.size() && !recordings.filenames_SX[shot].empty();
+  const bool pair = set < recordings.filenames_SX.size() && !recordings.filenames_SX[set].empty();
   if (pair) return Status::failure(Message::tr("it is made of two shot files"));
   std::string bytes;
   Status status = readWholeFile(path, bytes);
   if (status.ok()) status = readShotFileFields(bytes, path, fields);
   if (!status.ok()) return status;
-  if (fields.traces.size() == set.size()) return {};
+  if (fields.traces.size() == traces) return {};
   return Status::failure(
-      Message::tr("its file has %1 traces, the shot %2").arg(fields.traces.size()).arg(set.size()));
+      Message::tr("its file has %1 traces, the shot %2").arg(fields.traces.size()).arg(traces));
 }
 
 /// A field of CSV: in quotation marks where it holds what separates.
@@ -220,6 +237,18 @@ std::string quotedField(const std::string& text) {
   std::string quoted = "\"";
   for (const char c : text) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
   return quoted + '"';
+}
+
+/// Names the fields without a column, one of them as an example.
+Message describeLeftOut(const std::map<std::string, std::size_t>& known,
+                        std::set<std::string> leftOut) {
+  for (const auto& [name, column] : known) {
+    if (column >= kMostFieldColumns) leftOut.insert(name);
+  }
+  if (leftOut.empty()) return {};
+  return Message::tr("%1 fields that there is no room for, among them %2")
+      .arg(leftOut.size())
+      .arg(*leftOut.begin());
 }
 
 std::string cellOf(const TraceHeaders& headers, std::size_t row, std::size_t column) {
@@ -237,7 +266,8 @@ std::string cellOf(const TraceHeaders& headers, std::size_t row, std::size_t col
 
 }  // namespace
 
-TraceHeaders::TraceHeaders(TomoDocument document) : mDocument(std::move(document)) {
+TraceHeaders::TraceHeaders(TomoDocument document)
+    : mDocument(std::move(document)), mRecords(recordsOfSets(mDocument)) {
   mStarts.push_back(0);
   for (const TraceSet& set : mDocument.recordings->traceSets) {
     mStarts.push_back(mStarts.back() + set.size());
@@ -247,71 +277,73 @@ TraceHeaders::TraceHeaders(TomoDocument document) : mDocument(std::move(document
   }
 }
 
-std::size_t TraceHeaders::shotOf(std::size_t row) const {
+std::size_t TraceHeaders::setOf(std::size_t row) const {
   const auto after = std::upper_bound(mStarts.begin(), mStarts.end(), row);
   return static_cast<std::size_t>(after - mStarts.begin()) - 1;
 }
 
 std::size_t TraceHeaders::traceOf(std::size_t row) const {
-  return row - mStarts[shotOf(row)];
+  return row - mStarts[setOf(row)];
 }
 
-std::size_t TraceHeaders::rowOf(std::size_t shot, std::size_t trace) const {
-  if (shot + 1 >= mStarts.size() || trace >= mStarts[shot + 1] - mStarts[shot]) return rows();
-  return mStarts[shot] + trace;
+std::size_t TraceHeaders::rowOf(std::size_t set, std::size_t trace) const {
+  if (set + 1 >= mStarts.size() || trace >= mStarts[set + 1] - mStarts[set]) return rows();
+  return mStarts[set] + trace;
 }
 
 double TraceHeaders::number(std::size_t row, std::size_t column) const {
   if (column >= sources().size() || sources()[column].number == nullptr) return kUnknown;
-  const std::size_t shot = shotOf(row);
-  return sources()[column].number(rowIn(mDocument, shot, row - mStarts[shot]));
+  const std::size_t set = setOf(row);
+  return sources()[column].number(rowIn(mDocument, set, mRecords[set], row - mStarts[set]));
 }
 
 std::vector<Message> TraceHeaders::words(std::size_t row, std::size_t column) const {
-  const std::size_t shot = shotOf(row);
-  const std::size_t trace = row - mStarts[shot];
-  if (column >= sources().size()) return one(fieldOf(shot, trace, column - sources().size()));
+  const std::size_t set = setOf(row);
+  const std::size_t trace = row - mStarts[set];
+  if (column >= sources().size()) return one(fieldOf(set, trace, column - sources().size()));
   if (sources()[column].words == nullptr) return {};
-  return sources()[column].words(rowIn(mDocument, shot, trace));
+  return sources()[column].words(rowIn(mDocument, set, mRecords[set], trace));
 }
 
-const std::string& TraceHeaders::fieldOf(std::size_t shot, std::size_t trace,
+const std::string& TraceHeaders::fieldOf(std::size_t set, std::size_t trace,
                                          std::size_t column) const {
   static const std::string kNone;
-  if (shot >= mFields.size() || trace >= mFields[shot].size()) return kNone;
-  const std::vector<std::string>& fields = mFields[shot][trace];
+  if (set >= mFields.size() || trace >= mFields[set].size()) return kNone;
+  const std::vector<std::string>& fields = mFields[set][trace];
   return column < fields.size() ? fields[column] : kNone;
 }
 
-std::size_t TraceHeaders::fieldColumn(const std::string& name) {
-  const auto first = mColumns.begin() + static_cast<std::ptrdiff_t>(sources().size());
-  const auto found = std::find_if(first, mColumns.end(),
-                                  [&](const HeaderColumn& column) { return column.name == name; });
-  const auto column = static_cast<std::size_t>(found - first);
-  if (found == mColumns.end() && column < kMostFieldColumns) {
-    mColumns.push_back({name, name, Kind::kText});
-  }
-  return column;
+/// Beyond the last column where there is no room for it.
+std::size_t TraceHeaders::fieldColumn(const std::string& name,
+                                      std::map<std::string, std::size_t>& known) {
+  const auto [place, isNew] = known.emplace(name, known.size());
+  if (isNew && place->second < kMostFieldColumns) mColumns.push_back({name, name, Kind::kText});
+  return place->second;
 }
 
 void TraceHeaders::addFieldsOfFiles(std::vector<Message>& notes) {
   const std::vector<TraceSet>& sets = mDocument.recordings->traceSets;
   mColumns.resize(sources().size());
   mFields.assign(sets.size(), {});
-  for (std::size_t shot = 0; shot < sets.size(); ++shot) {
+  mLeftOut = {};
+  std::map<std::string, std::size_t> known;
+  std::set<std::string> leftOut;
+  for (std::size_t set = 0; set < sets.size(); ++set) {
     ShotFileFields fields;
-    if (const Status status = fieldsOfShot(mDocument, shot, fields); !status.ok()) {
+    if (const Status status = fieldsOfSet(mDocument, set, fields); !status.ok()) {
+      const std::size_t shot = mRecords[set] < mDocument.ttArray.size() ? mRecords[set] : set;
       notes.push_back(Message::tr("shot %1: %2").arg(shot + 1).arg(status.text()));
       continue;
     }
-    const bool turned = mendsOf(mDocument.recordings->mends, shot).orderReversed;
-    mFields[shot].resize(sets[shot].size());
-    for (std::size_t trace = 0; trace < sets[shot].size(); ++trace) {
-      std::vector<std::string>& cells = mFields[shot][trace];
-      const std::size_t channel = turned ? sets[shot].size() - 1 - trace : trace;
+    leftOut.merge(fields.leftOut);
+    const bool turned = mendsOf(mDocument.recordings->mends, set).orderReversed;
+    mFields[set].resize(sets[set].size());
+    for (std::size_t trace = 0; trace < sets[set].size(); ++trace) {
+      std::vector<std::string>& cells = mFields[set][trace];
+      const std::size_t channel = turned ? sets[set].size() - 1 - trace : trace;
       for (const auto* list : {&fields.common, &fields.traces[channel]}) {
         for (const FileField& field : *list) {
-          const std::size_t column = fieldColumn(field.name);
+          const std::size_t column = fieldColumn(field.name, known);
           if (column >= kMostFieldColumns) continue;
           if (cells.size() <= column) cells.resize(column + 1);
           std::string& cell = cells[column];
@@ -320,11 +352,13 @@ void TraceHeaders::addFieldsOfFiles(std::vector<Message>& notes) {
       }
     }
   }
+  mLeftOut = describeLeftOut(known, std::move(leftOut));
 }
 
 void TraceHeaders::takeFieldsOfFiles(TraceHeaders other) {
   mColumns = std::move(other.mColumns);
   mFields = std::move(other.mFields);
+  mLeftOut = std::move(other.mLeftOut);
 }
 
 Status writeTraceHeaders(const std::string& path, const TraceHeaders& headers) {

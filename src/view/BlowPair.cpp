@@ -3,6 +3,7 @@
 #include "model/Mending.h"
 #include "model/Recordings.h"
 #include "model/SurveyLine.h"
+#include "numerics/Medians.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,10 +14,9 @@ namespace talvesk {
 namespace {
 
 constexpr double kLongestInterval = 1e3;  ///< seconds; traces without one have the largest number
-constexpr double kLongestShift = 3600.0;  ///< seconds
 constexpr double kSameInterval = 1e-6;    ///< of it
 constexpr double kWholeSample = 0.02;     ///< of a sample, by which headers round
-constexpr std::size_t kMostSamples = std::size_t{1} << 26;
+constexpr double kMostInFront = 4.0;      ///< times the samples of both, of what is not recorded
 
 /// Which traces of two blows belong together.
 struct Match {
@@ -125,13 +125,12 @@ class Overlay {
     mPair.unmatchedFirst = first.size() - matches.size();
     mPair.unmatchedSecond = second.size() - matches.size();
     leaveOutKilled(matches);
-    if (matches.empty()) {
-      return Status::failure(
-          Message::tr("no geophones of shot %1 and shot %2 that can be compared are at one place")
-              .arg(mPair.first.shot + 1)
-              .arg(mPair.second.shot + 1));
-    }
+    leaveOutTooFarInTime(matches);
+    if (matches.empty()) return Status::failure(whyNothing());
     mPair.matched = matches.size();
+    mPair.shotsApart = std::hypot(mSecond.shotPos2d.x - mFirst.shotPos2d.x,
+                                  mSecond.shotPos2d.z - mFirst.shotPos2d.z);
+    mPair.spacing = spacingOf(first);
     layOut(matches, first);
     measure();
     combine();
@@ -159,11 +158,57 @@ class Overlay {
       const Trace& a = mFirstTraces[match.first];
       const Trace& b = mSecondTraces[match.second];
       return isKilled(mFirst, match.first) || isKilled(mSecond, match.second) || !hasInterval(a) ||
-             !hasInterval(b) || !(std::abs(startOf(b) - startOf(a)) <= kLongestShift);
+             !hasInterval(b) || countOf(a, mPair.first) == 0.0 || countOf(b, mPair.second) == 0.0;
     };
+    mPair.killed = leaveOut(matches, gone);
+  }
+
+  double countOf(const Trace& trace, const Blow& blow) const {
+    return static_cast<double>(samplesOf(trace, blow, mOptions.filtered).size());
+  }
+
+  template <typename Gone>
+  static std::size_t leaveOut(std::vector<Match>& matches, Gone gone) {
     const auto end = std::remove_if(matches.begin(), matches.end(), gone);
-    mPair.killed = static_cast<std::size_t>(matches.end() - end);
+    const auto count = static_cast<std::size_t>(matches.end() - end);
     matches.erase(end, matches.end());
+    return count;
+  }
+
+  /// Delays are what headers claim. Records that never meet have nothing to be compared, and what
+  /// comes before the second would be as long as somebody likes.
+  void leaveOutTooFarInTime(std::vector<Match>& matches) {
+    mPair.tooFarInTime = leaveOut(matches, [this](const Match& match) {
+      const Trace& a = mFirstTraces[match.first];
+      const Trace& b = mSecondTraces[match.second];
+      const double countA = countOf(a, mPair.first);
+      const double countB = countOf(b, mPair.second);
+      const double later = startOf(b) - startOf(a);
+      const bool meet = later < countA * a.sampleInterval && -later < countB * b.sampleInterval;
+      return !meet || later / b.sampleInterval > kMostInFront * (countA + countB);
+    });
+  }
+
+  Message whyNothing() const {
+    const Message why =
+        mPair.tooFarInTime > 0
+            ? Message::tr(
+                  "the records of shot %1 and shot %2 begin too far apart in time to be "
+                  "laid over each other; look at the delays in their headers")
+            : Message::tr(
+                  "no geophones of shot %1 and shot %2 that can be compared are at one "
+                  "place");
+    return Message(why).arg(mPair.first.shot + 1).arg(mPair.second.shot + 1);
+  }
+
+  /// Usual distance between neighbours; 0 where all are at one place.
+  static double spacingOf(const std::vector<Point2D>& places) {
+    std::vector<double> xs;
+    for (const Point2D& place : places) {
+      if (std::isfinite(place.x)) xs.push_back(place.x);
+    }
+    std::sort(xs.begin(), xs.end());
+    return xs.empty() || xs.front() == xs.back() ? 0.0 : medianGap(xs);
   }
 
   /// Samples of the second that its record begins later, positive, or earlier.
@@ -200,7 +245,6 @@ class Overlay {
   static std::vector<double> moved(const Samples& samples, double shift) {
     const double whole = std::round(shift);
     std::vector<double> result;
-    if (whole >= static_cast<double>(kMostSamples)) return result;
     if (whole > 0.0) {
       result.assign(static_cast<std::size_t>(whole), std::numeric_limits<double>::quiet_NaN());
       result.insert(result.end(), samples.begin(), samples.end());
@@ -386,51 +430,6 @@ Status layOver(const TomoDocument& document, const Blow& first, const Blow& seco
   Status status = Overlay(document, options, made).make();
   if (status.ok()) pair = std::move(made);
   return status;
-}
-
-std::vector<Message> describe(const BlowPair& pair) {
-  std::vector<Message> lines = {Message::tr("%1 traces at the same places").arg(pair.matched)};
-  const std::size_t a = pair.first.shot + 1;
-  const std::size_t b = pair.second.shot + 1;
-  if (pair.unmatchedFirst > 0 || pair.unmatchedSecond > 0) {
-    lines.push_back(Message::tr("without a partner: %1 traces of shot %2, %3 of shot %4")
-                        .arg(pair.unmatchedFirst)
-                        .arg(a)
-                        .arg(pair.unmatchedSecond)
-                        .arg(b));
-  }
-  if (pair.killed > 0) {
-    lines.push_back(
-        Message::tr("left out: %1 pairs with a trace that is killed or has no sample interval")
-            .arg(pair.killed));
-  }
-  lines.push_back(
-      Message::tr("the second is %1 times as strong").arg(Message::number(pair.strength, 3)));
-  if (pair.factor != 1.0) {
-    lines.push_back(Message::tr("it is shown times %1").arg(Message::number(pair.factor, 3)));
-  }
-  if (std::abs(pair.secondLater) > 1e-9) {
-    lines.push_back(
-        pair.secondLater > 0.0
-            ? Message::tr("its record begins %1 ms later").arg(1e3 * pair.secondLater)
-            : Message::tr("its record begins %1 ms earlier").arg(-1e3 * pair.secondLater));
-  }
-  if (!pair.hasSum()) lines.push_back(pair.noSum);
-  if (pair.zerosAtStart > 0) {
-    lines.push_back(
-        Message::tr("difference and sum begin with %1 samples of zero").arg(pair.zerosAtStart));
-  }
-  if (pair.cutAtEnd > 0) {
-    lines.push_back(
-        Message::tr("difference and sum end %1 samples before the first").arg(pair.cutAtEnd));
-  }
-  return lines;
-}
-
-Message nameOf(const BlowPair& pair, BlowPair::Set which) {
-  const Message text = which == BlowPair::kSum ? Message::tr("sum of shots %1 and %2")
-                                               : Message::tr("difference of shots %1 and %2");
-  return Message(text).arg(pair.first.shot + 1).arg(pair.second.shot + 1);
 }
 
 }  // namespace talvesk

@@ -54,7 +54,10 @@ struct BlowPair {
   std::size_t matched = 0;         ///< traces of each
   std::size_t unmatchedFirst = 0;  ///< traces of the first without a partner in the second
   std::size_t unmatchedSecond = 0;
-  std::size_t killed = 0;        ///< matched traces that are left out, killed in either
+  std::size_t killed = 0;        ///< matched traces that are left out, killed or empty in either
+  std::size_t tooFarInTime = 0;  ///< the same, whose records begin too far apart
+  double shotsApart = 0.0;       ///< metres between the places of the two shots
+  double spacing = 0.0;          ///< usual metres between geophones; 0: there is one only
   double secondLater = 0.0;      ///< seconds that the record of the second begins later
   double strength = 1.0;         ///< of the second, by that of the first
   double factor = 1.0;           ///< that the second was multiplied by
@@ -63,18 +66,28 @@ struct BlowPair {
   Message noSum;                 ///< why there is neither difference nor sum; empty where there are
 
   bool hasSum() const { return noSum.empty(); }
+  /// The shots are so far apart that their difference and sum are not of one place: by more than a
+  /// tenth of what geophones are.
+  bool isOfTwoPlaces() const;
 };
 
 /// Lays two blows over each other. Traces belong together by the places of their geophones, each to
 /// the nearest; time counts from the first sample of the first blow, and records that begin
-/// otherwise, relative to their shots, are moved by whole samples. Difference and sum need equal
-/// sample intervals and starts that are whole samples apart.
+/// otherwise, relative to their shots, are moved by whole samples; what takes more memory than a
+/// small multiple of both is left out. Difference and sum need equal sample intervals and starts
+/// that are whole samples apart.
 /// \return failure where no geophones are at one place, or a blow does not exist; `pair` is as
 /// before then
 Status layOver(const TomoDocument& document, const Blow& first, const Blow& second,
                const BlowPairOptions& options, BlowPair& pair);
 
-/// One line for each thing that the user must know of how the two go together.
+/// How far apart the two shots are, and whether that matters.
+Message describeShotPlaces(const BlowPair& pair);
+
+/// One line for everything that is left out, cut or taken as zero; none as a rule.
+std::vector<Message> describeLosses(const BlowPair& pair);
+
+/// One line for each thing that the user must know of how the two go together, the losses last.
 std::vector<Message> describe(const BlowPair& pair);
 
 /// "difference of shots 3 and 5", or the sum.

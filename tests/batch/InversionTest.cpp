@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <thread>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -225,6 +226,17 @@ TEST(Inversion, saysWhatIsWrongWithANumberOfThreads) {
     EXPECT_EQ(outcome.code, 2) << c.text;
     EXPECT_THAT(outcome.err, HasSubstr(c.text));
   }
+}
+
+TEST(Inversion, startsNoMoreThreadsThanAMachineHasUseFor) {
+  const Folder folder;
+  const std::string input = folder.write("line.otte", smallLine());
+  const Outcome outcome = runBatch(quickRun(input, {"--threads", "1024", "--quiet"}));
+  EXPECT_EQ(outcome.code, 0) << outcome.err;
+  const unsigned processors = std::max(std::thread::hardware_concurrency(), 1U);
+  if (processors > 255) GTEST_SKIP() << "a machine that has use for them";
+  EXPECT_THAT(outcome.err, HasSubstr("--threads 1024: this machine has " +
+                                     std::to_string(processors) + " processors"));
 }
 
 TEST(Inversion, everyOutputIsTheSameInALocaleWithDecimalCommas) {

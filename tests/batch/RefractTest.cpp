@@ -322,6 +322,12 @@ TEST(Refract, writesTheMarksOfOneLayerAndSaysThatThereIsNoRefractor) {
   EXPECT_EQ(json["proposal"]["layers"], 1);
   EXPECT_EQ(json["shots"][0]["layers"].size(), 60U);
   EXPECT_TRUE(json["refractors"].empty());
+  const Folder folder;
+  const Outcome more =
+      runBatch({"refract", survey.picks, "--propose", "survey", "--layer-count", "1", "--quiet",
+                "--json", "-", "--table", folder / "t.txt", "--image", folder / "i.png"});
+  EXPECT_THAT(more.err, HasSubstr("--table, --image: there is no profile to show"));
+  EXPECT_EQ(folder.fileCount(), 0U);
 }
 
 TEST(Refract, claimsNoLayersOnGroundWithASteadyGradient) {

@@ -93,15 +93,39 @@ TEST_F(SurveyedPlaces, areThoseOfAConvertedFile) {
   EXPECT_EQ(contentsOf(line), smallLine());
 }
 
+TEST_F(SurveyedPlaces, areThoseOfTheTableOfHeadersOfAllShots) {
+  const std::vector<std::string> shots = writeSmallShots(folder);
+  ASSERT_EQ(run({"pick", shots[0], shots[1], "--project", in("a.tvsk")}).code, 0);
+  for (const auto& files : {std::vector<std::string>{shots[0], shots[1]}, {in("a.tvsk")}}) {
+    std::vector<std::string> arguments = {"info",      "--positions",      table(),
+                                          "--headers", in("h.csv"),        "--length",
+                                          "slope",     "--positions-json", in("p.json")};
+    arguments.insert(arguments.end(), files.begin(), files.end());
+    const Outcome outcome = run(arguments);
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_THAT(outcome.out, HasSubstr("13 geophones, 0 shots"));
+    EXPECT_EQ(jsonOf("p.json")["points"][12]["after"]["x"], 156.0);
+    // Geophone x and elevation by the table, and behind them what the files say.
+    const std::string headers = contentsOf(in("h.csv"));
+    EXPECT_THAT(headers, HasSubstr(",156,756,"));
+    EXPECT_THAT(headers, HasSubstr(",24,11.2,"));
+    EXPECT_THAT(headers, HasSubstr("\n2,13,"));
+  }
+  const Outcome refused =
+      run({"info", shots[0], "--positions", in("none.csv"), "--headers", in("x.csv")});
+  EXPECT_EQ(refused.code, 1);
+  EXPECT_FALSE(folder.holds("x.csv"));
+}
+
 TEST_F(SurveyedPlaces, areOfOneSurvey) {
   const std::string line = folder.write("line.otte", smallLine());
   const std::string shot = writeSmallShots(folder).front();
-  for (const std::vector<std::string>& files : {std::vector<std::string>{line, line}, {shot}}) {
+  for (const auto& files : {std::vector<std::string>{line, line}, {line, shot}}) {
     std::vector<std::string> arguments = {"info", "--positions", table()};
     arguments.insert(arguments.end(), files.begin(), files.end());
     const Outcome outcome = run(arguments);
     EXPECT_EQ(outcome.code, 2);
-    EXPECT_THAT(outcome.err, HasSubstr("goes with one travel-time file or project"));
+    EXPECT_THAT(outcome.err, HasSubstr("a table is of one line"));
   }
   const Outcome same = run(
       {"convert", line, in("a.otte"), "--positions", table(), "--positions-json", in("a.otte")});

@@ -5,11 +5,10 @@
 #include "model/Mending.h"
 #include "model/Recordings.h"
 #include "support/CommaLocale.h"
+#include "support/PanelPicture.h"
 #include "support/ShotDocument.h"
 #include "support/TestFolder.h"
 
-#include <QImage>
-#include <QPainter>
 #include <cmath>
 #include <cstdio>
 
@@ -23,33 +22,12 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-QImage pictureOf(const FigureDrawing& drawing) {
-  constexpr double kDots = 96.0;
-  const QSizeF size = QSizeF(drawing.sheet.widthMm, drawing.sheet.heightMm) * (kDots / kMmPerInch);
-  QImage image(size.toSize(), QImage::Format_RGB32);
-  image.fill(Qt::white);
-  setResolution(image, kDots);
-  QPainter painter(&image);
-  drawing.paint(painter, QRectF(QPointF(), size));
-  return image;
+bool isRed(const QColor& color) {
+  return color.red() > 150 && color.green() < 110;
 }
 
-/// Whether anything of that hue is painted around a place of a panel.
 bool hasRedAt(const QImage& image, const GatherPanelPlace& panel, double x, double ms) {
-  const double mm = image.width() / 297.0;
-  const double column =
-      (panel.leftMm + (x - panel.low) / (panel.high - panel.low) * panel.widthMm) * mm;
-  const double row =
-      (panel.topMm + (ms - panel.topMs) / (panel.bottomMs - panel.topMs) * panel.heightMm) * mm;
-  for (int dx = -3; dx <= 3; ++dx) {
-    for (int dy = -2; dy <= 2; ++dy) {
-      const QPoint at(static_cast<int>(column) + dx, static_cast<int>(row) + dy);
-      if (!image.rect().contains(at)) continue;
-      const QColor color = image.pixelColor(at);
-      if (color.red() > 150 && color.green() < 110) return true;
-    }
-  }
-  return false;
+  return hasColorAt(image, panel, x, ms, isRed);
 }
 
 struct Cells {

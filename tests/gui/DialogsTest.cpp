@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
@@ -128,6 +129,50 @@ TEST_F(Dialogs, shareNoMnemonicInAnyLanguage) {
         }
       });
     }
+  }
+}
+
+/// The button that Return presses from a field; none where it only ends the field.
+const QPushButton* pressedByReturn(const QDialog& dialog) {
+  for (const QPushButton* button : dialog.findChildren<QPushButton*>()) {
+    if (button->window() == &dialog && button->isDefault()) return button;
+  }
+  return nullptr;
+}
+
+TEST_F(Dialogs, neverOpenTheGuideByReturnUnlessTheKeyboardIsOnItsButton) {
+  openSurvey();
+  for (const Case& each : cases()) {
+    SCOPED_TRACE(each.name);
+    const auto dialog = each.make();
+    show(*dialog);
+    auto* buttons = dialog->findChild<QDialogButtonBox*>();
+    QPushButton* help = buttons != nullptr ? buttons->button(QDialogButtonBox::Help) : nullptr;
+    const QPushButton* pressed = pressedByReturn(*dialog);
+    RecordProperty(each.name, nameOf(pressed) + " " +
+                                  (pressed != nullptr ? pressed->text().toStdString() : ""));
+    EXPECT_TRUE(pressed == nullptr || pressed != help);
+    if (help == nullptr) continue;
+    EXPECT_FALSE(help->autoDefault());
+    int opened = 0;
+    buttons->disconnect(SIGNAL(helpRequested()));
+    QObject::connect(buttons, &QDialogButtonBox::helpRequested, [&opened] { ++opened; });
+    help->setFocus();
+    EXPECT_FALSE(help->isDefault());
+    QTest::keyClick(help, Qt::Key_Return);
+    EXPECT_EQ(opened, 1);
+    EXPECT_TRUE(dialog->isVisible());
+  }
+}
+
+TEST_F(Dialogs, haveAPageOfTheGuideEach) {
+  openSurvey();
+  for (const Case& each : cases()) {
+    const auto dialog = each.make();
+    show(*dialog);
+    const auto* buttons = dialog->findChild<QDialogButtonBox*>();
+    if (buttons == nullptr) continue;
+    EXPECT_NE(buttons->button(QDialogButtonBox::Help), nullptr) << each.name;
   }
 }
 

@@ -15,6 +15,9 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
 
 namespace talvesk {
 namespace {
@@ -170,6 +173,36 @@ TEST_F(Reports, standOnThePageOfACampaignWhichNamesWhatFailed) {
   dialogs.expectBox("Warning", "2 files exist already.", "a.html", QMessageBox::No);
   action("actionCampaign_page").trigger();
   EXPECT_FALSE(QFile::exists(path("all.html")));
+}
+
+TEST_F(Reports, onManyLinesStopWithinAProjectAndSayWhatIsThere) {
+  takeSection();
+  dialogs.expectFiles("Save Project", {path("a.tvsk")});
+  action("actionSave_Project_As").trigger();
+  home.put("b.tvsk", TestFolder::get(home.file("a.tvsk")));
+  dialogs.expect([this](QWidget& widget) {
+    dynamic_cast<CampaignDialog&>(widget).add({path("a.tvsk"), path("b.tvsk")});
+    EXPECT_NE(widget.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help), nullptr);
+    button(widget, QDialogButtonBox::Save).click();
+  });
+  dialogs.expectFiles("Save campaign page", {path("index.html")});
+  bool stayed = false;
+  QTimer soon;
+  QObject::connect(&soon, &QTimer::timeout, [&] {
+    auto* bar = window->findChild<QProgressDialog*>();
+    if (bar == nullptr || !bar->isVisible()) return;
+    soon.stop();
+    QTest::keyClick(bar, Qt::Key_Escape);
+    stayed = bar->isVisible() && bar->labelText().startsWith(QStringLiteral("Stopping: a.tvsk"));
+    EXPECT_FALSE(bar->findChild<QPushButton*>()->isEnabled());
+  });
+  soon.start(0);
+  action("actionCampaign_page").trigger();
+  EXPECT_TRUE(stayed) << "who has stopped it sees what is still at work";
+  EXPECT_FALSE(QFile::exists(path("index.html")));
+  EXPECT_FALSE(QFile::exists(path("b.html")));
+  EXPECT_THAT(window->statusBar()->currentMessage().toStdString(),
+              HasSubstr("Stopped; the campaign page has not been saved, pages of 0 of its 2"));
 }
 
 TEST_F(Reports, tellWhereTheyCouldNotBeWritten) {

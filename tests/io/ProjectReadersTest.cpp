@@ -126,5 +126,27 @@ TEST_F(ProjectReaders, haveAFileOfManyShotsReadOncePerSave) {
   EXPECT_EQ(times, 1U) << said;
 }
 
+/// One that was made of two others has its name from nowhere else.
+TEST_F(ProjectReaders, keepTheNameOfAShotWithoutAFile) {
+  LoadedProject made;
+  ShotFileData data;
+  for (const Trace& trace : project.document.recordings->traceSets[0]) {
+    data.traces.push_back({trace.samples, trace.sourcePosition, trace.receiverPosition, trace.delay,
+                           trace.sampleInterval});
+  }
+  made.document = project.document;
+  appendShot({}, std::move(data), made.document);
+  const std::string name = "difference of shots 1 and 2";
+  made.document.recordings.edit().noteOf(5).nameInFile = name;
+  const std::string file = folder.file("made.tvsk");
+  ASSERT_EQ(save(file, made), 0) << writer.message();
+  ASSERT_EQ(load(file, back), 0) << reader.message();
+  EXPECT_THAT(reader.warnings(), IsEmpty());
+  ASSERT_EQ(back.document.recordings->notes.size(), 6U);
+  EXPECT_EQ(back.document.recordings->notes[5].nameInFile, name);
+  EXPECT_EQ(back.document.recordings->notes[5].reader, ShotReader::kRules);
+  EXPECT_EQ(back.document.recordings->notes[4].reader, ShotReader::kStandard);
+}
+
 }  // namespace
 }  // namespace talvesk

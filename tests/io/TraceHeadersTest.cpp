@@ -9,6 +9,7 @@
 #include "support/CommaLocale.h"
 #include "support/ConsoleCapture.h"
 #include "support/ShotDocument.h"
+#include "support/ShotFiles.h"
 #include "support/TestFolder.h"
 
 #include <algorithm>
@@ -68,8 +69,8 @@ TomoDocument loaded(const std::vector<std::string>& files) {
 TEST(TraceHeaders, haveARowForEveryTraceInTheOrderOfShots) {
   const TraceHeaders headers(shotDocument(3, 4, 10));
   EXPECT_EQ(headers.rows(), 12U);
-  EXPECT_EQ(headers.shotOf(0), 0U);
-  EXPECT_EQ(headers.shotOf(11), 2U);
+  EXPECT_EQ(headers.setOf(0), 0U);
+  EXPECT_EQ(headers.setOf(11), 2U);
   EXPECT_EQ(headers.traceOf(7), 3U);
   EXPECT_EQ(headers.rowOf(1, 2), 6U);
   EXPECT_EQ(headers.rowOf(1, 4), headers.rows());
@@ -102,6 +103,22 @@ TEST(TraceHeaders, tellTheSurveyBesideWhatTheFileSays) {
   EXPECT_EQ(textAt(headers, row, "file"), "2.dat");
   EXPECT_TRUE(std::isnan(numberAt(headers, row + 1, "pick_ms")));
   EXPECT_TRUE(std::isnan(numberAt(headers, row + 1, "pick_error_ms")));
+}
+
+/// Records of a project may stand in another order than its recordings.
+TEST(TraceHeaders, takeTheRecordThatIsOfTheRecording) {
+  TomoDocument document = shotDocument(3, 2, 20);
+  std::vector<TravelTime>& records = document.ttArray.edit();
+  std::swap(records[0], records[2]);
+  records[1].traceSetID = 7;
+  const TraceHeaders headers(std::move(document));
+  EXPECT_EQ(numberAt(headers, 0, "shot"), 3.0);
+  EXPECT_EQ(numberAt(headers, 0, "shot_x_m"), 9.0);
+  EXPECT_EQ(textAt(headers, 0, "file"), "1.dat");
+  EXPECT_EQ(numberAt(headers, 4, "shot"), 1.0);
+  EXPECT_EQ(numberAt(headers, 4, "shot_x_m"), 17.0);
+  EXPECT_TRUE(std::isnan(numberAt(headers, 2, "shot_x_m"))) << "a recording without a record";
+  EXPECT_TRUE(std::isnan(numberAt(headers, 2, "pick_ms")));
 }
 
 TEST(TraceHeaders, nameTheMendsOfATrace) {
@@ -155,6 +172,28 @@ TEST(TraceHeaders, sayWhichFilesHaveNoFields) {
   EXPECT_THAT(notes[0].english(), HasSubstr("gone.sg2"));
 }
 
+TEST(TraceHeaders, sayWhichFieldsTheyHaveNoRoomFor) {
+  const TestFolder folder;
+  std::vector<Seg2Channel> channels;
+  for (int trace = 0; trace < 3; ++trace) {
+    std::vector<std::string> strings = {"SAMPLE_INTERVAL 0.001"};
+    for (int i = 0; i < 200; ++i) strings.push_back("F" + std::to_string(1000 * trace + i) + " 1");
+    channels.push_back({4, {1, 2, 3}, seg2Area(strings)});
+  }
+  const std::string file = folder.put("many.sg2", seg2Bytes(channels));
+  TraceHeaders headers(loaded({file}));
+  const std::size_t known = headers.columns().size();
+  EXPECT_TRUE(headers.fieldsLeftOut().empty());
+  std::vector<Message> notes;
+  headers.addFieldsOfFiles(notes);
+  EXPECT_EQ(headers.columns().size(), known + 400);
+  EXPECT_EQ(headers.fieldsLeftOut().english(),
+            "201 fields that there is no room for, among them F1199");
+  TraceHeaders other;
+  other.takeFieldsOfFiles(headers);
+  EXPECT_FALSE(other.fieldsLeftOut().empty());
+}
+
 TEST(TraceHeaders, areWrittenByTheCLocaleWithQuotedFields) {
   const CommaStreams streams;
   const CommaNumbers numbers;
@@ -185,6 +224,17 @@ TEST(ShotFileFields, ofBrokenFilesAreNoneOrShort) {
   ShotFileFields none;
   EXPECT_FALSE(readShotFileFields("no shot at all", "a.txt", none).ok());
   EXPECT_FALSE(readShotFileFields("", "a.su", none).ok());
+}
+
+TEST(ShotFileFields, sayWhatTheyLeaveOutAndCut) {
+  std::vector<std::string> strings = {"NOTE " + std::string(300, 'x')};
+  for (int i = 0; i < 260; ++i) strings.push_back("F" + std::to_string(1000 + i) + " 1");
+  ShotFileFields fields;
+  const std::string bytes = seg2Bytes({Seg2Channel{4, {1, 2, 3}, seg2Area(strings)}});
+  ASSERT_TRUE(readShotFileFields(bytes, "a.sg2", fields).ok());
+  EXPECT_EQ(fields.traces[0].size(), 256U);
+  EXPECT_THAT(fields.leftOut, ElementsAre("F1255", "F1256", "F1257", "F1258", "F1259"));
+  EXPECT_EQ(fields.traces[0][0].value, std::string(197, 'x') + "\xE2\x80\xA6");
 }
 
 TEST(ShotFileFields, areOneLineOfPrintableTextEach) {

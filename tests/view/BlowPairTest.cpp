@@ -137,6 +137,78 @@ INSTANTIATE_TEST_SUITE_P(All, BlowPairStarts,
                          ::testing::Values(Delays{0.0, 0.0, 0}, Delays{-0.005, -0.0025, 10},
                                            Delays{-0.0025, -0.005, -10}));
 
+struct TooFar {
+  double later;     ///< that the second begins, seconds
+  double interval;  ///< of the second
+  bool laid;
+};
+
+class BlowPairFarApart : public ::testing::TestWithParam<TooFar> {};
+
+/// A delay of hours in a header would be gigabytes of nothing before the second.
+TEST_P(BlowPairFarApart, areRefusedUnlessTheyMeetInFewSamples) {
+  const auto [later, interval, laid] = GetParam();
+  TomoDocument document = oppositeBlows();
+  for (Trace& trace : document.recordings.edit().traceSets[1]) {
+    trace.delay = later;
+    trace.sampleInterval = interval;
+  }
+  BlowPair pair;
+  const Status status = layOver(document, {0}, {1}, {}, pair);
+  EXPECT_EQ(status.ok(), laid) << status.message();
+  if (!laid) {
+    EXPECT_THAT(status.message(), HasSubstr("begin too far apart in time"));
+    return;
+  }
+  for (const TraceSet& set : pair.document.recordings->traceSets) {
+    for (const Trace& trace : set) EXPECT_LE(trace.samples.size(), 10U * 80U);
+  }
+}
+
+// 80 samples of 0.25 ms are 20 ms.
+INSTANTIATE_TEST_SUITE_P(
+    All, BlowPairFarApart,
+    ::testing::Values(TooFar{0.01, kInterval, true}, TooFar{0.02, kInterval, false},
+                      TooFar{-0.02, kInterval, false}, TooFar{3600.0, kInterval, false},
+                      TooFar{-1e300, kInterval, false}, TooFar{0.019, 1e-9, false},
+                      TooFar{0.019, kInterval / 8, true}));
+
+TEST(BlowPair, leavesOutTheTracesWhoseRecordsDoNotMeet) {
+  TomoDocument document = oppositeBlows();
+  document.recordings.edit().traceSets[1][4].delay = 60.0;
+  const BlowPair pair = layered(document);
+  EXPECT_EQ(pair.matched, 5U);
+  EXPECT_EQ(pair.tooFarInTime, 1U);
+  EXPECT_THAT(describeLosses(pair),
+              ::testing::ElementsAre(
+                  Message("left out: 1 pairs whose records begin too far apart in time")));
+}
+
+struct Places {
+  double apart;  ///< metres; geophones are 2 m apart
+  bool matters;
+  const char* words;
+};
+
+class BlowPairPlaces : public ::testing::TestWithParam<Places> {};
+
+TEST_P(BlowPairPlaces, areToldAndDoubtedBeyondATenthOfTheSpacing) {
+  TomoDocument document = oppositeBlows();
+  document.ttArray.edit()[1].shotPos2d.x += GetParam().apart;
+  const BlowPair pair = layered(document);
+  EXPECT_NEAR(pair.shotsApart, GetParam().apart, 1e-12);
+  EXPECT_EQ(pair.spacing, 2.0);
+  EXPECT_EQ(pair.isOfTwoPlaces(), GetParam().matters);
+  EXPECT_EQ(describeShotPlaces(pair).english(), GetParam().words);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, BlowPairPlaces,
+    ::testing::Values(
+        Places{0.0, false, "the shots are at one place"},
+        Places{0.125, false, "the shots are 0.125 m apart"},
+        Places{0.5, true, "the shots are 0.5 m apart: difference and sum are not of one place"}));
+
 TEST(BlowPair, refusesASumOfWhatIsSampledOtherwise) {
   TomoDocument document = oppositeBlows();
   for (Trace& trace : document.recordings.edit().traceSets[1]) trace.sampleInterval = 0.0005;

@@ -1,9 +1,11 @@
 #include "app/dialogs/BlowPairDialog.h"
 
 #include "app/MessageText.h"
+#include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "app/WaitCursor.h"
 #include "base/LengthUnit.h"
+#include "io/ShotLoader.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "ui_BlowPairDialog.h"
@@ -89,6 +91,7 @@ BlowPairDialog::BlowPairDialog(QWidget* parent)
   wrapToolTips(*this);
   mSheet->setAccessibleName(tr("Traces of both shots, their difference and their sum"));
   mUi->sheetLayout->addWidget(mSheet);
+  mUi->buttonBox->button(QDialogButtonBox::Close)->setAutoDefault(false);
   mSoon.setSingleShot(true);
   mSoon.setInterval(kSoon);
   connectAll();
@@ -130,12 +133,12 @@ QString BlowPairDialog::nameOf(const Blow& blow) const {
   const TravelTime& record = mDocument.ttArray[blow.shot];
   const Recordings& recordings = *mDocument.recordings;
   const auto set = static_cast<std::size_t>(record.traceSetID);
-  std::string file = shotFile(mDocument, blow.shot);
+  std::string file = shotFile(mDocument, set);
   if (blow.part == Blow::Part::kSX && set < recordings.filenames_SX.size()) {
     file = recordings.filenames_SX[set];
   }
   QStringList parts = {QFileInfo(QString::fromStdString(file)).fileName(),
-                       QString::fromStdString(shotRecord(mDocument, blow.shot))};
+                       QString::fromStdString(shotRecord(mDocument, set))};
   if (blow.part == Blow::Part::kDX) parts << tr("one sense", "of a pair of blows");
   if (blow.part == Blow::Part::kSX) parts << tr("other sense", "of a pair of blows");
   const QString place = QLocale().toString(shownLength(record.shotPos2d.x), 'f', 1);
@@ -202,13 +205,36 @@ void BlowPairDialog::compute() {
     if (!mHasPair) whyNot = textOf(status.text());
   }
   mSheet->redraw(whyNot);
+  refreshNotices();
+  refreshButtons();
+}
+
+/// How far apart the shots are, in the unit that is shown.
+void BlowPairDialog::refreshNotices() {
+  QString places = mHasPair ? textOf(describeShotPlaces(mPair)) : QString();
+  if (!places.isEmpty()) places[0] = places[0].toUpper();
+  const bool doubtful = mHasPair && mPair.isOfTwoPlaces();
+  mUi->placesLabel->setText(places);
+  mUi->placesLabel->setStyleSheet(doubtful ? warningStyle(*mUi->placesLabel) : QString());
+  mUi->placesLabel->setVisible(!places.isEmpty());
+}
+
+void BlowPairDialog::refreshButtons() {
   const bool sums = mHasPair && mPair.hasSum();
-  for (QWidget* widget :
-       {static_cast<QWidget*>(mUi->resultCBox), static_cast<QWidget*>(mUi->addButton),
-        static_cast<QWidget*>(mUi->saveShotButton)}) {
-    widget->setEnabled(sums);
-  }
+  const Status takes = checkTakesShots(mDocument);
+  mUi->resultCBox->setEnabled(sums);
+  mUi->addButton->setEnabled(sums && takes.ok());
+  mUi->saveShotButton->setEnabled(sums);
   mUi->savePictureButton->setEnabled(mHasPair);
+  QString reason;
+  if (mHasPair && !sums) {
+    reason = textOf(mPair.noSum);
+  } else if (sums && !takes.ok()) {
+    reason = tr("Not to be added, only saved as a shot file: %1").arg(textOf(takes.text()));
+  }
+  if (!reason.isEmpty()) reason[0] = reason[0].toUpper();
+  mUi->reasonLabel->setText(reason);
+  mUi->reasonLabel->setVisible(!reason.isEmpty());
 }
 
 void BlowPairDialog::redraw() {

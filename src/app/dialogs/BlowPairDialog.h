@@ -51,6 +51,8 @@ class BlowPairDialog : public QDialog {
   void connectAll();
   void fillChoosers();
   void compute();
+  void refreshNotices();
+  void refreshButtons();
   void redraw();
   QString nameOf(const Blow& blow) const;
   static std::optional<Blow> chosen(const QComboBox& box, const std::vector<Blow>& blows);

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numeric>
 #include <utility>
 
 namespace talvesk {
@@ -21,26 +20,23 @@ constexpr int kColumns = 8;
 void ReciprocityModel::setTable(doctor::ReciprocityTable table) {
   beginResetModel();
   mTable = std::move(table);
-  mOrder.resize(mTable.pairs.size());
-  arrange();
+  setEntries(mTable.pairs.size());
   endResetModel();
 }
 
 const doctor::ReciprocalTimes& ReciprocityModel::pairAt(int row) const {
-  return mTable.pairs[mOrder[static_cast<std::size_t>(row)]];
+  return mTable.pairs[entryAt(row)];
 }
 
 int ReciprocityModel::rowOf(std::size_t shot, std::size_t other) const {
   const std::size_t first = std::min(shot, other);
   const std::size_t second = std::max(shot, other);
-  const auto found = std::find_if(mOrder.begin(), mOrder.end(), [&](std::size_t pair) {
-    return mTable.pairs[pair].first == first && mTable.pairs[pair].second == second;
-  });
-  return found == mOrder.end() ? -1 : static_cast<int>(found - mOrder.begin());
-}
-
-int ReciprocityModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(mOrder.size());
+  const auto& pairs = mTable.pairs;
+  const auto found =
+      std::find_if(pairs.begin(), pairs.end(), [&](const doctor::ReciprocalTimes& pair) {
+        return pair.first == first && pair.second == second;
+      });
+  return found == pairs.end() ? -1 : rowOfEntry(static_cast<std::size_t>(found - pairs.begin()));
 }
 
 int ReciprocityModel::columnCount(const QModelIndex& parent) const {
@@ -114,40 +110,15 @@ QVariant ReciprocityModel::headerData(int section, Qt::Orientation orientation, 
   }
 }
 
-/// Differences by their size: it does not matter which of two shots came first. What is not known
-/// stands last, whatever the order.
-void ReciprocityModel::arrange() {
-  std::iota(mOrder.begin(), mOrder.end(), std::size_t{0});
-  const bool down = mSortOrder == Qt::DescendingOrder;
-  const auto key = [&](std::size_t i) {
-    const double value = valueOf(mTable.pairs[i], mColumn);
-    if (std::isnan(value)) return std::numeric_limits<double>::infinity();
-    const double size = mColumn == kDifference ? std::fabs(value) : value;
-    return down ? -size : size;
-  };
-  std::stable_sort(mOrder.begin(), mOrder.end(),
-                   [&](std::size_t a, std::size_t b) { return key(a) < key(b); });
-}
-
-void ReciprocityModel::sort(int column, Qt::SortOrder order) {
-  if (column < 0 || column >= kColumns) return;
-  emit layoutAboutToBeChanged();
-  std::vector<std::size_t> pairs;
-  const QModelIndexList before = persistentIndexList();
-  for (const QModelIndex& index : before) {
-    pairs.push_back(mOrder[static_cast<std::size_t>(index.row())]);
+/// Differences by their size: it does not matter which of two shots came first.
+void ReciprocityModel::arrange(std::vector<std::size_t>& pairs, int column,
+                               Qt::SortOrder order) const {
+  std::vector<double> values;
+  for (const doctor::ReciprocalTimes& pair : mTable.pairs) {
+    const double value = valueOf(pair, column);
+    values.push_back(column == kDifference ? std::fabs(value) : value);
   }
-  mColumn = column;
-  mSortOrder = order;
-  arrange();
-  std::vector<int> rows(mOrder.size());
-  for (std::size_t i = 0; i < mOrder.size(); ++i) rows[mOrder[i]] = static_cast<int>(i);
-  QModelIndexList after;
-  for (int i = 0; i < before.size(); ++i) {
-    after << index(rows[pairs[static_cast<std::size_t>(i)]], before[i].column());
-  }
-  changePersistentIndexList(before, after);
-  emit layoutChanged();
+  arrangeBy(std::move(values), order, pairs);
 }
 
 }  // namespace talvesk

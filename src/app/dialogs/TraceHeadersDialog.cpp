@@ -1,5 +1,6 @@
 #include "app/dialogs/TraceHeadersDialog.h"
 
+#include "app/MessageText.h"
 #include "app/ToolTips.h"
 #include "app/dialogs/TraceHeadersModel.h"
 #include "ui_TraceHeadersDialog.h"
@@ -40,7 +41,7 @@ TraceHeadersDialog::TraceHeadersDialog(QWidget* parent)
           [this](const QModelIndex& current) {
             if (mQuiet || !current.isValid() || !traceWanted) return;
             const std::size_t record = mModel->recordAt(current.row());
-            traceWanted(headers().shotOf(record), headers().traceOf(record));
+            traceWanted(headers().setOf(record), headers().traceOf(record));
           });
   connect(mUi->fieldsBox, &QCheckBox::toggled, this, [this] {
     if (fieldsWanted) fieldsWanted();
@@ -64,11 +65,11 @@ bool TraceHeadersDialog::wantsFields() const {
 
 void TraceHeadersDialog::showHeaders(TraceHeaders all) {
   const QModelIndex current = mUi->headersTable->currentIndex();
-  std::size_t shot = 0;
+  std::size_t set = 0;
   std::size_t trace = 0;
   if (current.isValid()) {
     const std::size_t record = mModel->recordAt(current.row());
-    shot = headers().shotOf(record);
+    set = headers().setOf(record);
     trace = headers().traceOf(record);
   }
   const bool otherColumns = all.columns().size() != headers().columns().size();
@@ -77,7 +78,7 @@ void TraceHeadersDialog::showHeaders(TraceHeaders all) {
   mModel->setHeaders(std::move(all));
   mQuiet = false;
   if (first || otherColumns) fitColumns();
-  if (current.isValid()) goTo(shot, trace);
+  if (current.isValid()) goTo(set, trace);
   const bool any = headers().rows() > 0;
   mUi->copyButton->setEnabled(any);
   mUi->saveButton->setEnabled(any);
@@ -93,8 +94,8 @@ void TraceHeadersDialog::fitColumns() {
   }
 }
 
-void TraceHeadersDialog::goTo(std::size_t shot, std::size_t trace) {
-  const int row = mModel->rowOf(shot, trace);
+void TraceHeadersDialog::goTo(std::size_t set, std::size_t trace) {
+  const int row = mModel->rowOf(set, trace);
   if (row < 0) return;
   const int column = std::max(mUi->headersTable->currentIndex().column(), 0);
   mQuiet = true;
@@ -103,8 +104,11 @@ void TraceHeadersDialog::goTo(std::size_t shot, std::size_t trace) {
 }
 
 void TraceHeadersDialog::tell(const QString& text) {
-  const QString count = tr("Traces: %1").arg(QLocale().toString(mModel->rowCount()));
-  mUi->statusLabel->setText(text.isEmpty() ? count : count + QStringLiteral("\n") + text);
+  QStringList lines = {tr("Traces: %1").arg(QLocale().toString(mModel->rowCount()))};
+  const Message& leftOut = headers().fieldsLeftOut();
+  if (!leftOut.empty()) lines << tr("Not in the table: %1").arg(textOf(leftOut));
+  if (!text.isEmpty()) lines << text;
+  mUi->statusLabel->setText(lines.join(QLatin1Char('\n')));
 }
 
 /// The selected rows, or all of them.

@@ -27,12 +27,12 @@ class TraceHeadersDialog : public QDialog {
   const TraceHeaders& headers() const;
   bool wantsFields() const;  ///< of the files
   /// The row of a trace becomes the current one, and nobody is asked to go there.
-  void goTo(std::size_t shot, std::size_t trace);
+  void goTo(std::size_t set, std::size_t trace);
   void tell(const QString& text);  ///< below the table; empty: how many rows there are
 
   std::function<void()> fieldsWanted;  ///< the files are to be read, or are no more wanted
   std::function<void()> saveWanted;
-  std::function<void(std::size_t shot, std::size_t trace)> traceWanted;
+  std::function<void(std::size_t set, std::size_t trace)> traceWanted;
 
  protected:
   void changeEvent(QEvent* event) override;

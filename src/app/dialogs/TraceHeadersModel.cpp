@@ -4,6 +4,7 @@
 #include "base/LengthUnit.h"
 
 #include <QCollator>
+#include <QHash>
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
@@ -23,20 +24,12 @@ constexpr int kDigits = 8;  ///< of what single precision holds, one more than i
 void TraceHeadersModel::setHeaders(TraceHeaders headers) {
   beginResetModel();
   mHeaders = std::move(headers);
-  mOrder.resize(mHeaders.rows());
-  if (mColumn >= columnCount()) mColumn = 0;
-  arrange();
+  setEntries(mHeaders.rows());
   endResetModel();
 }
 
-std::size_t TraceHeadersModel::recordAt(int row) const {
-  return mOrder[static_cast<std::size_t>(row)];
-}
-
-int TraceHeadersModel::rowOf(std::size_t shot, std::size_t trace) const {
-  const std::size_t record = mHeaders.rowOf(shot, trace);
-  const auto found = std::find(mOrder.begin(), mOrder.end(), record);
-  return found == mOrder.end() ? -1 : static_cast<int>(found - mOrder.begin());
+int TraceHeadersModel::rowOf(std::size_t set, std::size_t trace) const {
+  return rowOfEntry(mHeaders.rowOf(set, trace));
 }
 
 QString TraceHeadersModel::titleOf(std::size_t column) const {
@@ -83,10 +76,6 @@ QString TraceHeadersModel::textOfRows(const std::vector<int>& rows) const {
   return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
-int TraceHeadersModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(mOrder.size());
-}
-
 int TraceHeadersModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(mHeaders.columns().size());
 }
@@ -110,68 +99,44 @@ QVariant TraceHeadersModel::headerData(int section, Qt::Orientation orientation,
   return {};
 }
 
-/// What is not known stands last, whatever the order.
-void TraceHeadersModel::arrange() {
-  std::iota(mOrder.begin(), mOrder.end(), std::size_t{0});
-  if (mOrder.empty()) return;
-  const auto column = static_cast<std::size_t>(mColumn);
-  if (mHeaders.columns()[column].kind == Kind::kText) return arrangeByText(column);
-  const double sign = mSortOrder == Qt::DescendingOrder ? -1.0 : 1.0;
-  std::vector<double> keys(mOrder.size());
-  for (std::size_t i = 0; i < keys.size(); ++i) {
-    const double value = mHeaders.number(i, column);
-    keys[i] = std::isfinite(value) ? sign * value : std::numeric_limits<double>::infinity();
-  }
-  std::stable_sort(mOrder.begin(), mOrder.end(),
-                   [&keys](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
+void TraceHeadersModel::arrange(std::vector<std::size_t>& records, int column,
+                                Qt::SortOrder order) const {
+  const auto at = static_cast<std::size_t>(column);
+  if (mHeaders.columns()[at].kind == Kind::kText) return arrangeBy(ranksOf(at), order, records);
+  std::vector<double> numbers(records.size());
+  for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] = mHeaders.number(i, at);
+  arrangeBy(std::move(numbers), order, records);
 }
 
-/// Numbers within texts count as such: 9.dat stands before 10.dat. Most cells of a column are
-/// alike, so texts are compared once each.
-void TraceHeadersModel::arrangeByText(std::size_t column) {
-  std::vector<QString> texts(mOrder.size());
-  for (std::size_t i = 0; i < texts.size(); ++i) texts[i] = cell(i, column);
-  std::vector<QString> distinct = texts;
-  std::sort(distinct.begin(), distinct.end());
-  distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
+/// Where the text of every record stands among all; not a number where there is none. Numbers
+/// within texts count as such: 9.dat stands before 10.dat. Most cells of a column are alike, so
+/// texts are compared once each.
+std::vector<double> TraceHeadersModel::ranksOf(std::size_t column) const {
+  std::vector<std::size_t> textAt(mHeaders.rows());
+  std::vector<QString> texts;
+  QHash<QString, std::size_t> known;
+  for (std::size_t i = 0; i < textAt.size(); ++i) {
+    const QString text = cell(i, column);
+    const auto found = known.constFind(text);
+    textAt[i] = found == known.constEnd() ? texts.size() : *found;
+    if (found != known.constEnd()) continue;
+    known.insert(text, texts.size());
+    texts.push_back(text);
+  }
   QCollator collator;
   collator.setNumericMode(true);
-  std::vector<std::size_t> byWords(distinct.size());
+  std::vector<std::size_t> byWords(texts.size());
   std::iota(byWords.begin(), byWords.end(), std::size_t{0});
-  const bool down = mSortOrder == Qt::DescendingOrder;
   std::stable_sort(byWords.begin(), byWords.end(), [&](std::size_t a, std::size_t b) {
-    if (distinct[a].isEmpty() || distinct[b].isEmpty()) return distinct[b].isEmpty() && a != b;
-    const int order = collator.compare(distinct[a], distinct[b]);
-    return down ? order > 0 : order < 0;
+    return collator.compare(texts[a], texts[b]) < 0;
   });
-  std::vector<std::size_t> rank(distinct.size());
-  for (std::size_t i = 0; i < byWords.size(); ++i) rank[byWords[i]] = i;
-  std::vector<std::size_t> keys(texts.size());
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    const auto at = std::lower_bound(distinct.begin(), distinct.end(), texts[i]);
-    keys[i] = rank[static_cast<std::size_t>(at - distinct.begin())];
+  std::vector<double> rank(texts.size(), std::numeric_limits<double>::quiet_NaN());
+  for (std::size_t i = 0; i < byWords.size(); ++i) {
+    if (!texts[byWords[i]].isEmpty()) rank[byWords[i]] = static_cast<double>(i);
   }
-  std::stable_sort(mOrder.begin(), mOrder.end(),
-                   [&keys](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
-}
-
-void TraceHeadersModel::sort(int column, Qt::SortOrder order) {
-  if (column < 0 || column >= columnCount()) return;
-  emit layoutAboutToBeChanged();
-  std::vector<std::size_t> records;
-  const QModelIndexList before = persistentIndexList();
-  for (const QModelIndex& index : before) records.push_back(recordAt(index.row()));
-  mColumn = column;
-  mSortOrder = order;
-  arrange();
-  std::vector<int> rows(mOrder.size());
-  for (std::size_t i = 0; i < mOrder.size(); ++i) rows[mOrder[i]] = static_cast<int>(i);
-  QModelIndexList after;
-  for (int i = 0; i < before.size(); ++i) {
-    after << index(rows[records[static_cast<std::size_t>(i)]], before[i].column());
-  }
-  changePersistentIndexList(before, after);
-  emit layoutChanged();
+  std::vector<double> ranks(textAt.size());
+  for (std::size_t i = 0; i < ranks.size(); ++i) ranks[i] = rank[textAt[i]];
+  return ranks;
 }
 
 }  // namespace talvesk

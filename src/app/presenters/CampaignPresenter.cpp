@@ -3,6 +3,7 @@
 #include "app/BusyWork.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
+#include "app/StoppingProgress.h"
 #include "app/dialogs/CampaignDialog.h"
 #include "export/campaign/CampaignPlace.h"
 #include "figures/ProfileLines.h"
@@ -18,8 +19,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
-#include <QProgressDialog>
 #include <QSettings>
+#include <algorithm>
 #include <utility>
 
 namespace talvesk {
@@ -27,6 +28,33 @@ namespace {
 
 constexpr int kSteps = 100;       ///< of the bar, for each project
 constexpr int kStepsToRead = 30;  ///< of them
+
+/// Reads a project until somebody wants to stop: then no further part of it.
+class StoppableReader : public projectReader {
+ public:
+  explicit StoppableReader(const StoppingProgress& progress) : mProgress(progress) {}
+
+  int read_ZIP(const std::string& archive, const std::string& folder) override {
+    return stops() ? 1 : projectReader::read_ZIP(archive, folder);
+  }
+  int readTomoDocument_XML(const std::string& path, SurveyMember& survey) override {
+    return stops() ? 1 : projectReader::readTomoDocument_XML(path, survey);
+  }
+  int readTomoDocumentGrid_XML(const std::string& path, SurveyMember& survey) override {
+    return stops() ? 1 : projectReader::readTomoDocumentGrid_XML(path, survey);
+  }
+  int readTomoDocumentTraces_XML(const std::string& path, TomoDocument& document) override {
+    return stops() ? 1 : projectReader::readTomoDocumentTraces_XML(path, document);
+  }
+  int readPalettes_XML(const std::string& path, ColorPaletteList& palettes) override {
+    return stops() ? 1 : projectReader::readPalettes_XML(path, palettes);
+  }
+
+ private:
+  bool stops() const { return mProgress.isStopping(); }
+
+  const StoppingProgress& mProgress;
+};
 
 }  // namespace
 
@@ -98,29 +126,29 @@ void CampaignPresenter::writeAll(const QStringList& projects, const QString& pag
   const std::vector<std::string> files = place.linePages(names);
   if (!mayOverwrite(place, files)) return;
 
-  QProgressDialog progress({}, tr("Stop"), 0, kSteps * projects.size(), &mDesk.window);
-  progress.setWindowTitle(tr("Campaign page"));
-  progress.setWindowModality(Qt::WindowModal);
-  progress.setMinimumDuration(0);
-  progress.setAutoClose(false);
-  progress.setAutoReset(false);
+  StoppingProgress progress(tr("Campaign page"), kSteps * projects.size(), &mDesk.window);
   Notes notes;
   std::vector<CampaignLine> lines;
   CampaignTexts all = texts;
   all.language = reportLanguage();
-  for (int i = 0; i < projects.size() && !progress.wasCanceled(); ++i) {
-    progress.setLabelText(tr("%1: project %2 of %3", "file, number, count")
-                              .arg(QFileInfo(projects[i]).fileName())
-                              .arg(i + 1)
-                              .arg(projects.size()));
+  for (int i = 0; i < projects.size() && !progress.isStopping(); ++i) {
+    progress.say(tr("%1: project %2 of %3", "file, number, count")
+                     .arg(QFileInfo(projects[i]).fileName())
+                     .arg(i + 1)
+                     .arg(projects.size()));
     progress.setValue(kSteps * i);
     const auto at = static_cast<std::size_t>(i);
     lines.push_back(writeLine(projects[i], names[at], files[at], place, texts, progress, notes));
   }
-  const bool stopped = progress.wasCanceled();
-  progress.close();
+  const bool stopped = progress.isStopping();
+  progress.hide();
   if (stopped) {
-    mDesk.tell(tr("Stopped; the campaign page has not been saved."));
+    const auto written = std::count_if(
+        lines.begin(), lines.end(), [](const CampaignLine& line) { return !line.files.empty(); });
+    mDesk.tell(tr("Stopped; the campaign page has not been saved, pages of %1 of its %2 projects "
+                  "have.")
+                   .arg(written)
+                   .arg(projects.size()));
   } else if (const Status status = writeCampaignPage(place.page(), lines, all); status.ok()) {
     const bool behind = mDesk.session.modified() && projects.contains(mDesk.project.path());
     mDesk.tell(
@@ -134,7 +162,7 @@ void CampaignPresenter::writeAll(const QStringList& projects, const QString& pag
 
 CampaignLine CampaignPresenter::writeLine(const QString& project, const std::string& name,
                                           const std::string& file, const CampaignPlace& place,
-                                          const CampaignTexts& texts, QProgressDialog& progress,
+                                          const CampaignTexts& texts, StoppingProgress& progress,
                                           Notes& notes) {
   const auto failed = [&](const Status& status) {
     mDesk.log.write(status.message(), 1);
@@ -142,7 +170,8 @@ CampaignLine CampaignPresenter::writeLine(const QString& project, const std::str
         << tr("%1: %2", "file, why").arg(QFileInfo(project).fileName(), textOf(status.text()));
   };
   LoadedProject loaded;
-  Status status = read(project, loaded, notes);
+  Status status = read(project, progress, loaded, notes);
+  if (progress.isStopping()) return {};
   if (!status.ok()) {
     failed(status);
     return failedLine(name, textOf(withoutFolder(status, project.toStdString())).toStdString());
@@ -150,7 +179,7 @@ CampaignLine CampaignPresenter::writeLine(const QString& project, const std::str
   CampaignLine line = campaignLineOf(loaded.document, name);
   const int begin = progress.value() + kStepsToRead;
   progress.setValue(begin);
-  if (progress.wasCanceled()) return line;
+  if (progress.isStopping()) return line;
   status = place.mayReplace(file);
   ReportOptions options;
   options.client = texts.client;
@@ -166,7 +195,7 @@ CampaignLine CampaignPresenter::writeLine(const QString& project, const std::str
   if (status.ok()) {
     status = writeReport(content, place.file(file), [&](double done) {
       progress.setValue(begin + static_cast<int>(done * (kSteps - kStepsToRead - 1)));
-      return !progress.wasCanceled();
+      return !progress.isStopping();
     });
   }
   if (status.ok()) {
@@ -179,16 +208,18 @@ CampaignLine CampaignPresenter::writeLine(const QString& project, const std::str
 }
 
 /// With its rays, which are not in its file.
-Status CampaignPresenter::read(const QString& file, LoadedProject& project, Notes& notes) {
-  projectReader reader;
+Status CampaignPresenter::read(const QString& file, const StoppingProgress& progress,
+                               LoadedProject& project, Notes& notes) {
+  StoppableReader reader(progress);
   const Status status = onOwnThread([&] {
     if (reader.load(file.toStdString(), mDesk.folder.path, project) != 0) {
       return Status::failure(reader.reason());
     }
-    return project.document.result->has_tomographic_info
+    return project.document.result->has_tomographic_info && !progress.isStopping()
                ? recomputeRays(project.document, mDesk.log)
                : Status();
   });
+  if (progress.isStopping()) return status;
   for (const auto* told : {&reader.repairs(), &reader.warnings()}) {
     for (const QString& line : linesOf(*told)) {
       notes.repairs << tr("%1: %2", "file, why").arg(QFileInfo(file).fileName(), line);

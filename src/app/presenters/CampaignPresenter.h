@@ -6,12 +6,11 @@
 #include <QObject>
 #include <QStringList>
 
-class QProgressDialog;
-
 namespace talvesk {
 
 class CampaignDialog;
 class CampaignPlace;
+class StoppingProgress;
 struct LoadedProject;
 
 /// A web page of each of several projects, and one on all of them. The survey stays as it is.
@@ -39,8 +38,9 @@ class CampaignPresenter : public QObject {
   void writeAll(const QStringList& projects, const QString& page, const CampaignTexts& texts);
   CampaignLine writeLine(const QString& project, const std::string& name, const std::string& file,
                          const CampaignPlace& place, const CampaignTexts& texts,
-                         QProgressDialog& progress, Notes& notes);
-  Status read(const QString& file, LoadedProject& project, Notes& notes);
+                         StoppingProgress& progress, Notes& notes);
+  Status read(const QString& file, const StoppingProgress& progress, LoadedProject& project,
+              Notes& notes);
   void tell(const Notes& notes);
 
   Desk& mDesk;

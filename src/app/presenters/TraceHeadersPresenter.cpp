@@ -39,10 +39,14 @@ void TraceHeadersPresenter::show() {
     mDialog->setAttribute(Qt::WA_DeleteOnClose);
     mDialog->fieldsWanted = [this] { refresh(); };
     mDialog->saveWanted = [this] { save(); };
-    mDialog->traceWanted = [this](std::size_t shot, std::size_t trace) { goTo(shot, trace); };
+    mDialog->traceWanted = [this](std::size_t set, std::size_t trace) { goTo(set, trace); };
   }
   refresh();
-  if (mDesk.shot.index() >= 0) mDialog->goTo(static_cast<std::size_t>(mDesk.shot.index()), 0);
+  const auto& records = mDesk.document().ttArray;
+  if (mDesk.shot.index() >= 0) {
+    const std::int32_t set = records[static_cast<std::size_t>(mDesk.shot.index())].traceSetID;
+    if (set >= 0) mDialog->goTo(static_cast<std::size_t>(set), 0);
+  }
   mDialog->show();
   mDialog->raise();
   mDialog->activateWindow();
@@ -90,10 +94,10 @@ void TraceHeadersPresenter::refresh() {
 }
 
 /// The keys stay where they are, so that one can go on to the next row.
-void TraceHeadersPresenter::goTo(std::size_t shot, std::size_t trace) {
+void TraceHeadersPresenter::goTo(std::size_t set, std::size_t trace) {
   const auto& records = mDesk.document().ttArray;
-  const auto found = std::find_if(records.begin(), records.end(), [shot](const TravelTime& record) {
-    return record.traceSetID == static_cast<std::int32_t>(shot);
+  const auto found = std::find_if(records.begin(), records.end(), [set](const TravelTime& record) {
+    return record.traceSetID == static_cast<std::int32_t>(set);
   });
   if (found == records.end()) return;
   const auto index = static_cast<int>(found - records.begin());

@@ -22,7 +22,7 @@ class TraceHeadersPresenter : public QObject {
 
  private:
   void refresh();
-  void goTo(std::size_t shot, std::size_t trace);
+  void goTo(std::size_t set, std::size_t trace);
   void save();
 
   Desk& mDesk;

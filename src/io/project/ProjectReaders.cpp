@@ -23,6 +23,13 @@ std::string fileOf(const Recordings& recordings, std::size_t set) {
                                            : std::string();
 }
 
+/// Read by the standard, or a shot with a name that no file gives: one that was made of two.
+bool isToKeep(const Recordings& recordings, std::size_t set) {
+  if (set >= recordings.notes.size()) return false;
+  const RecordingNote& note = recordings.notes[set];
+  return byStandard(note) || (!note.nameInFile.empty() && fileOf(recordings, set).empty());
+}
+
 bool isFormat(const std::string& id) {
   const std::vector<StandardFormat>& formats = standardFormats();
   return std::any_of(formats.begin(), formats.end(),
@@ -33,11 +40,12 @@ bool fits(const ReadersMember& member, const Recordings& recordings) {
   if (member.sets.size() != recordings.traceSets.size()) return false;
   for (std::size_t i = 0; i < member.sets.size(); ++i) {
     const StoredReader& stored = member.sets[i];
-    if (stored.reader == ShotReader::kRules) continue;
-    if (stored.reader != ShotReader::kStandard || !isFormat(stored.format) ||
-        stored.name.size() > kLongestName || stored.file != fileOf(recordings, i)) {
+    const bool rules = stored.reader == ShotReader::kRules;
+    if (rules && stored.name.empty()) continue;
+    if (!rules && (stored.reader != ShotReader::kStandard || !isFormat(stored.format))) {
       return false;
     }
+    if (stored.name.size() > kLongestName || stored.file != fileOf(recordings, i)) return false;
   }
   return true;
 }
@@ -46,18 +54,22 @@ bool fits(const ReadersMember& member, const Recordings& recordings) {
 
 std::optional<ReadersMember> readersOf(const TomoDocument& document) {
   const Recordings& recordings = *document.recordings;
-  if (std::none_of(recordings.notes.begin(), recordings.notes.end(), byStandard)) {
-    return std::nullopt;
-  }
   ReadersMember member;
   member.sets.resize(recordings.traceSets.size());
-  const std::size_t known = std::min(recordings.notes.size(), member.sets.size());
-  for (std::size_t i = 0; i < known; ++i) {
+  bool any = false;
+  for (std::size_t i = 0; i < member.sets.size(); ++i) {
+    if (!isToKeep(recordings, i)) continue;
+    any = true;
     const RecordingNote& note = recordings.notes[i];
+    StoredReader& stored = member.sets[i];
+    stored.name = beginningOf(withoutControls(note.nameInFile), kLongestName);
     if (!byStandard(note)) continue;
-    member.sets[i] = {fileOf(recordings, i), note.reader, note.format, note.recordInFile,
-                      beginningOf(withoutControls(note.nameInFile), kLongestName)};
+    stored.file = fileOf(recordings, i);
+    stored.reader = note.reader;
+    stored.format = note.format;
+    stored.record = note.recordInFile;
   }
+  if (!any) return std::nullopt;
   return member;
 }
 
@@ -68,12 +80,14 @@ Status installReaders(ReadersMember member, TomoDocument& document) {
   Recordings& recordings = document.recordings.edit();
   for (std::size_t i = 0; i < member.sets.size(); ++i) {
     StoredReader& stored = member.sets[i];
-    if (stored.reader == ShotReader::kRules) continue;
+    const bool standard = stored.reader == ShotReader::kStandard;
+    if (!standard && stored.name.empty()) continue;
     RecordingNote& note = recordings.noteOf(i);
+    note.nameInFile = withoutControls(std::move(stored.name));
+    if (!standard) continue;
     note.reader = stored.reader;
     note.format = std::move(stored.format);
     note.recordInFile = static_cast<std::size_t>(stored.record);
-    note.nameInFile = withoutControls(std::move(stored.name));
   }
   return {};
 }
