@@ -2,6 +2,7 @@
 
 #include "app/NumberText.h"
 #include "base/LengthUnit.h"
+#include "figures/ShownLength.h"
 
 #include <QLocale>
 #include <cmath>
@@ -58,16 +59,11 @@ QString lengthDigits(double metres, int significant) {
 }
 
 QString lengthWithUnit(double metres, int decimals) {
-  return lengthWithUnit(lengthNumber(metres, decimals));
-}
-
-QString lengthWithUnit(const QString& number) {
-  return number + QLatin1Char(' ') + QLatin1String(lengthUnitName());
+  return withLengthUnit(lengthNumber(metres, decimals));
 }
 
 QString velocityWithUnit(double metresPerSecond, int decimals) {
-  return lengthNumber(metresPerSecond, decimals) + QLatin1Char(' ') +
-         QLatin1String(velocityUnitName());
+  return withVelocityUnit(lengthNumber(metresPerSecond, decimals));
 }
 
 }  // namespace talvesk

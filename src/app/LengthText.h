@@ -27,6 +27,5 @@ QString lengthNumber(double metres, int decimals);
 QString lengthDigits(double metres, int significant);            ///< "12.5"
 QString lengthWithUnit(double metres, int decimals);             ///< "12.50 m"
 QString velocityWithUnit(double metresPerSecond, int decimals);  ///< "1500 m/s"
-QString lengthWithUnit(const QString& number);                   ///< number in the unit shown
 
 }  // namespace talvesk

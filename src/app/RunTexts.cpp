@@ -3,7 +3,7 @@
 #include "app/InversionTexts.h"
 #include "app/LengthText.h"
 #include "app/MessageText.h"
-#include "base/LengthUnit.h"
+#include "figures/ShownLength.h"
 #include "model/ChiSquare.h"
 #include "model/KeptRuns.h"
 #include "model/TomoDocument.h"
@@ -54,11 +54,9 @@ QString runSettings(const KeptRun& run) {
   words += RunTexts::tr("%1 rows and %2 columns of %3")
                .arg(run.size.righe)
                .arg(run.size.col)
-               .arg(lengthWithUnit(lengthDigits(run.size.aLato, 6)));
+               .arg(withLengthUnit(lengthText(run.size.aLato)));
   words += RunTexts::tr("velocities from %1 to %2")
-               .arg(lengthDigits(record.minVelocity, 6), lengthDigits(record.maxVelocity, 6) +
-                                                             QLatin1Char(' ') +
-                                                             QLatin1String(velocityUnitName()));
+               .arg(lengthNumber(record.minVelocity, 0), velocityWithUnit(record.maxVelocity, 0));
   words += RunTexts::tr("errors of %1").arg(runErrors(run));
   if (record.fit) {
     words += RunTexts::tr("from \"%1\"").arg(referenceText(record.fit->reference));

@@ -4,6 +4,7 @@
 #include "app/CommandIndex.h"
 #include "app/DialogRoom.h"
 #include "app/KeypadArrows.h"
+#include "app/UnitWords.h"
 #include "app/WindowPlace.h"
 #include "app/presenters/CommandTable.h"
 #include "app/presenters/Presenters.h"
@@ -223,6 +224,8 @@ void Talvesk_MainWindows::changeEvent(QEvent* event) {
 
 void Talvesk_MainWindows::retranslate() {
   mUi->retranslateUi(this);
+  QAction& marked = *mUi->actionMarked_isolines;
+  marked.setToolTip(inShownVelocities(marked.toolTip()));
   mPresenters->retranslate();
 }
 

@@ -1,5 +1,6 @@
 #include "app/UnitWords.h"
 
+#include "app/LengthText.h"
 #include "app/dialogs/LengthBox.h"
 #include "base/LengthUnit.h"
 
@@ -44,6 +45,17 @@ void showUnitsOf(QWidget& widget) {
 QString inShownUnits(QString text) {
   static const QRegularExpression unit(QStringLiteral("([(\\[])(?:m|ft)((?:/s)?[)\\]])"));
   return text.replace(unit, QStringLiteral("\\1%1\\2").arg(QLatin1String(lengthUnitName())));
+}
+
+QString inShownVelocities(QString text) {
+  if (lengthUnit() == LengthUnit::kMetre) return text;
+  static const QRegularExpression velocity(QStringLiteral("\\b(\\d+) m/s"));
+  for (QRegularExpressionMatch match = velocity.match(text); match.hasMatch();
+       match = velocity.match(text)) {
+    text.replace(match.capturedStart(), match.capturedLength(),
+                 velocityWithUnit(match.captured(1).toDouble(), 0));
+  }
+  return text;
 }
 
 void showUnits(QWidget& form) {

@@ -10,6 +10,10 @@ namespace talvesk {
 /// back. Sentences have their unit in brackets, too, so that translations need no other way.
 QString inShownUnits(QString text);
 
+/// A text with "1500 m/s" or the like in a sentence, which is the same in every language, with
+/// whole feet per second instead where these are shown.
+QString inShownVelocities(QString text);
+
 /// Puts the unit shown into the brackets of labels, buttons, headers and tips below a form, and
 /// behind the numbers of its LengthBox and VelocityBox fields. To be called after setupUi and
 /// after retranslateUi. Other number fields keep their " m", for they count in metres.

@@ -3,6 +3,7 @@
 #include "base/LengthUnit.h"
 #include "base/TextNumber.h"
 
+#include <cmath>
 #include <ostream>
 
 namespace talvesk {
@@ -26,6 +27,16 @@ std::string filled(const std::string& text, std::size_t arguments, const ShowArg
   return out;
 }
 
+/// With all digits before the point, so that no measure has an exponent where more digits come with
+/// feet: 3050 m/s to three digits are 10007 ft/s.
+std::string measured(double value, int significantDigits) {
+  constexpr double kMost = 1e15;  // what is larger, is no measure
+  std::string text = formatDouble(value, significantDigits);
+  const bool isLarge = std::fabs(value) > 1.0 && std::fabs(value) < kMost;
+  if (isLarge && text.find('e') != std::string::npos) text = formatDouble(std::round(value), 15);
+  return text;
+}
+
 }  // namespace
 
 Message Message::tr(const char* source) {
@@ -42,7 +53,7 @@ Message Message::number(double value, int significantDigits) {
 }
 
 Message Message::measure(Kind kind, double metres, int significantDigits, const char* unit) {
-  Message message(formatDouble(metres, significantDigits) + ' ' + unit);
+  Message message(measured(metres, significantDigits) + ' ' + unit);
   message.mKind = kind;
   message.mMetres = metres;
   message.mDigits = significantDigits;
@@ -87,7 +98,7 @@ std::string Message::in(const Language& language) const {
   if (mKind == Kind::kNumber) return language.number(mEnglish);
   if (mKind == Kind::kLength || mKind == Kind::kVelocity) {
     const char* unit = mKind == Kind::kLength ? lengthUnitName() : velocityUnitName();
-    return language.number(formatDouble(shownLength(mMetres), mDigits)) + ' ' + unit;
+    return language.number(measured(shownLength(mMetres), mDigits)) + ' ' + unit;
   }
   return filled(language.text(mSource), mArguments.size(),
                 [&](std::size_t i) { return mArguments[i].in(language); });

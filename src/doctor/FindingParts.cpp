@@ -23,10 +23,6 @@ Message numberList(const std::vector<std::size_t>& indices) {
 
 }  // namespace
 
-Message metres(double value) {
-  return Message::number(value, 5);
-}
-
 Message milliseconds(double seconds) {
   return Message::number(seconds * 1e3, 4);
 }

@@ -10,8 +10,7 @@ namespace talvesk::doctor {
 
 // What findings are put together of.
 
-Message metres(double value);          ///< as a number, without the unit
-Message milliseconds(double seconds);  ///< the same
+Message milliseconds(double seconds);  ///< as a number, without the unit
 
 /// That a record is late, or early, by what the times to other shots and back say.
 /// \param shift, error seconds; positive is late \param pairs that agree

@@ -95,10 +95,10 @@ Message describe(const Proposal& proposal) {
     case Proposal::Kind::kMoveShot:
       return Message::tr("put the shot at %1").arg(Message::length(first().x, 5));
     case Proposal::Kind::kMoveGeophones:
-      return Message::tr("put the %1 geophones of its string at %2 to %3 m")
+      return Message::tr("put the %1 geophones of its string at %2 to %3")
           .arg(proposal.points.size())
-          .arg(metres(first().x))
-          .arg(metres(last().x));
+          .arg(Message::length(first().x, 5))
+          .arg(Message::length(last().x, 5));
     case Proposal::Kind::kStack:
       return Message::tr("stack it with %1; the stack alone counts then")
           .arg(shotList(proposal.others));

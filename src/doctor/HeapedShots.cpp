@@ -68,11 +68,11 @@ void checkHeapedShots(const std::vector<const ShotView*>& shots, std::vector<Fin
                        .arg(distinct.size());
     if (reading) {
       text = Message::tr(
-                 "%1; over %2 shots the least times move by %3 channels for each metre of "
-                 "the shot, so geophone 1 is at %4 and the last one at %5")
+                 "%1; over %2 shots the least times move by one channel as the shot "
+                 "moves by %3, so geophone 1 is at %4 and the last one at %5")
                  .arg(std::move(text))
                  .arg(reading->line.fitCount)
-                 .arg(metres(1.0 / reading->line.slope))
+                 .arg(Message::length(reading->line.slope, 5))
                  .arg(Message::length(points.front().x, 5))
                  .arg(Message::length(points.back().x, 5));
     }

@@ -69,10 +69,10 @@ void findGaps(const Strings& strings, std::vector<Finding>& findings) {
   for (const auto& [first, last] : extents) {
     if (first - end > kGap * spacing) {
       findings.push_back(ofSpreads(
-          0.4, Message::tr("no geophone stands between %1 and %2 m: the ground there is seen from "
+          0.4, Message::tr("no geophone stands between %1 and %2: the ground there is seen from "
                            "neither side unless shots reach over it")
-                   .arg(metres(end))
-                   .arg(metres(first))));
+                   .arg(Message::length(end, 5))
+                   .arg(Message::length(first, 5))));
     }
     end = std::max(end, last);
   }

@@ -57,7 +57,7 @@ void placeShots(const Shots& shots, const StationLine& line, const std::vector<d
         Finding::Kind::kStationNumbers, *shot, confidenceOf(line),
         Message::tr("the shot's position %1 counts stations: over %2 shots the least times move by "
                     "%3 for each 1 in the position")
-            .arg(metres(shot->source.x))
+            .arg(Message::number(shot->source.x, 5))
             .arg(line.fitCount)
             .arg(Message::length(found, 5)));
     finding.proposal = moveShot({x, shot->source.z});
@@ -83,10 +83,10 @@ void placeGeophones(const Shots& shots, const StationLine& line, const std::vect
     Finding finding = aboutShot(
         Finding::Kind::kStationNumbers, shot, confidenceOf(line),
         Message::tr("the positions of the geophones are no metres: over %1 shots the least times "
-                    "move by %2 for each metre of the shot; geophones %3 apart from %4 on have "
-                    "them beside the shots")
+                    "move by 1 as the shot moves by %2; geophones %3 apart from %4 on have them "
+                    "beside the shots")
             .arg(line.fitCount)
-            .arg(metres(1.0 / line.slope))
+            .arg(Message::length(line.slope, 5))
             .arg(Message::length(scale * spacing, 5))
             .arg(Message::length(points.front().x, 5)));
     finding.expected = veeAround(shot, points, shot.source.x);

@@ -166,15 +166,14 @@ std::optional<Finding> byNearest(std::size_t i, const Clocks& clocks, const Shot
     return std::nullopt;
   }
   const double shift = clocks.shifts[i].seconds - clocks.usual;
-  return ofShift(
-      shot, shift, 0.5,
-      Message::tr("the record is about %1 ms %2: the geophones nearest to the shot, %3 m "
-                  "away, would put the blow between %4 and %5 ms, whatever the ground")
-          .arg(milliseconds(std::fabs(shift)))
-          .arg(lateOrEarly(shift))
-          .arg(metres(nearestOffset(shot)))
-          .arg(milliseconds(bounds.least))
-          .arg(milliseconds(bounds.most)));
+  return ofShift(shot, shift, 0.5,
+                 Message::tr("the record is about %1 ms %2: the geophones nearest to the shot, %3 "
+                             "away, would put the blow between %4 and %5 ms, whatever the ground")
+                     .arg(milliseconds(std::fabs(shift)))
+                     .arg(lateOrEarly(shift))
+                     .arg(Message::length(nearestOffset(shot), 5))
+                     .arg(milliseconds(bounds.least))
+                     .arg(milliseconds(bounds.most)));
 }
 
 void checkBlock(const std::vector<const ShotView*>& shots, std::vector<Finding>& findings) {

@@ -1,6 +1,7 @@
 #include "figures/FigureWords.h"
 
 #include "base/TextNumber.h"
+#include "figures/ToldLength.h"
 #include "view/SectionTexts.h"
 
 #include <algorithm>
@@ -177,7 +178,7 @@ QString FigureWords::profileBand() {
 }
 
 QString FigureWords::velocity(double velocity, const QLocale& locale) {
-  return withVelocityUnit(number(formatDouble(shownLength(velocity), 6), locale));
+  return withVelocityUnit(number(formatDouble(toldVelocity(velocity), 6), locale));
 }
 
 QString FigureWords::depthBand(double value, const QLocale& locale) {

@@ -5,6 +5,7 @@
 #include "figures/FigureWords.h"
 #include "figures/GatherWindow.h"
 #include "figures/ShownLength.h"
+#include "figures/ToldLength.h"
 #include "model/Recordings.h"
 #include "model/SurveyGeometry.h"
 #include "model/SurveyLine.h"
@@ -165,7 +166,7 @@ std::string titleOf(const TomoDocument& document, std::size_t shot, const Travel
       (receiversKnown || record->shotPos2d.x != 0.0)) {
     number = FigureWords::tr("%1 at %2", "shot, place")
                  .arg(number, withLengthUnit(QString::fromStdString(
-                                  valueText(shownLength(record->shotPos2d.x), 0.1))));
+                                  valueText(toldLength(record->shotPos2d.x), 0.1))));
   }
   return FigureWords::joined(parts << number).toStdString();
 }

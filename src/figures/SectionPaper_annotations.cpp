@@ -6,6 +6,7 @@
 #include "figures/SectionItems.h"
 #include "figures/SectionPaper_painter.h"
 #include "figures/ShownLength.h"
+#include "figures/ToldLength.h"
 #include "view/SectionScene.h"
 
 #include <QPolygonF>
@@ -121,7 +122,7 @@ void SectionPaperPainter::paintMarkedIsolines() {
 namespace {
 
 QString velocityOf(const MarkedIsoline& mark, const QLocale& locale) {
-  return withVelocityUnit(locale.toString(shownLength(mark.velocity), 'g', 6));
+  return withVelocityUnit(locale.toString(toldVelocity(mark.velocity), 'g', 6));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "figures/FigureWords.h"
 #include "figures/SectionPaper_painter.h"
 #include "figures/ShownLength.h"
+#include "figures/ToldLength.h"
 #include "view/SectionScene.h"
 #include "view/SectionTexts.h"
 
@@ -47,7 +48,7 @@ QRectF boreholeBox(const QPointF& top, const QPointF& bottom) {
 }
 
 QString SectionPaperPainter::velocityWords(double velocity) const {
-  return QString::fromStdString(valueText(shownLength(velocity), 1.0))
+  return QString::fromStdString(valueText(toldVelocity(velocity), 1.0))
       .replace(QLatin1Char('.'), mDress.locale.decimalPoint());
 }
 
@@ -103,7 +104,7 @@ void SectionPaperPainter::paintKnown() {
     QString name = QString::fromStdString(borehole.name);
     if (borehole.offset != 0.0) {
       name = FigureWords::tr("%1 (%2 beside the line)")
-                 .arg(name, withLengthUnit(mDress.locale.toString(shownLength(borehole.offset))));
+                 .arg(name, withLengthUnit(mDress.locale.toString(toldLength(borehole.offset))));
     }
     const KnownMarks::Layer& last = borehole.layers.back();
     putOnSection(name, place(borehole.x, last.bottom) + QPointF(0.0, 0.5 * mLine + kGap));

@@ -86,7 +86,8 @@ Status checkLayers(const GridSize& size, const std::vector<VelocityLayer>& layer
     // What the spline tells of it are its nodes, which nobody has typed.
     return Status::failure(
         Message::tr("The layers make no velocity model. Order them by depth, without overlap, each "
-                    "more than 0.02 m thick."));
+                    "more than %1 thick.")
+            .arg(Message::length(0.02, 2)));
   }
 }
 

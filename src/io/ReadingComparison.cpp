@@ -100,7 +100,9 @@ template <typename XOf>
 Message placesOf(const Traces& traces, XOf x) {
   const Span span = spanOf(traces, x);
   return span.least == span.most ? Message::length(span.least)
-                                 : Message::tr("%1 to %2 m").arg(span.least).arg(span.most);
+                                 : Message::tr("%1 to %2")
+                                       .arg(Message::length(span.least))
+                                       .arg(Message::length(span.most));
 }
 
 /// Finds the losses of one file; traces are compared in the order of the file.

@@ -98,10 +98,10 @@ Message nameOf(Lithology pattern) {
 
 Message faultOf(const MarkedIsoline& isoline) {
   if (!within(isoline.velocity, kSlowest, kFastest)) {
-    return Message::tr("%1 m/s is no velocity of ground (%2 to %3)")
-        .arg(isoline.velocity)
-        .arg(kSlowest)
-        .arg(kFastest);
+    return Message::tr("%1 is no velocity of ground (%2 to %3)")
+        .arg(Message::velocity(isoline.velocity))
+        .arg(Message::velocity(kSlowest))
+        .arg(Message::velocity(kFastest));
   }
   return faultOfLook(isoline.name, isoline.color, isoline.width);
 }

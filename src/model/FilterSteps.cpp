@@ -34,7 +34,9 @@ Message describeBand(const std::vector<double>& numbers) {
 
 Message describeVelocity(const std::vector<double>& numbers) {
   const Message range = numbers[1] > 0.0
-                            ? Message::tr("%1 to %2 m/s").arg(numbers[0]).arg(numbers[1])
+                            ? Message::tr("%1 to %2")
+                                  .arg(Message::velocity(numbers[0]))
+                                  .arg(Message::velocity(numbers[1]))
                             : Message::tr("%1 and more").arg(Message::velocity(numbers[0]));
   const Message way = numbers[2] > 0.0   ? Message::tr("forth along the line")
                       : numbers[2] < 0.0 ? Message::tr("back along the line")

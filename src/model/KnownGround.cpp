@@ -45,16 +45,16 @@ bool isVelocityOrNone(double v) {
 }
 
 Message noVelocity(double value) {
-  return Message::tr("%1 m/s is no velocity of ground (%2 to %3)")
-      .arg(value)
-      .arg(KnownGround::kSlowest)
-      .arg(KnownGround::kFastest);
+  return Message::tr("%1 is no velocity of ground (%2 to %3)")
+      .arg(Message::velocity(value))
+      .arg(Message::velocity(KnownGround::kSlowest))
+      .arg(Message::velocity(KnownGround::kFastest));
 }
 
 Message noDepth(double value) {
-  return Message::tr("%1 m is no depth below the surface (0 to %2)")
-      .arg(value)
-      .arg(KnownGround::kDeepest);
+  return Message::tr("%1 is no depth below the surface (0 to %2)")
+      .arg(Message::length(value))
+      .arg(Message::length(KnownGround::kDeepest));
 }
 
 Message noPlace(double value) {
@@ -107,15 +107,15 @@ Message faultOf(const KnownLayer& layer) {
     if (!isDepth(depth)) return noDepth(depth);
   }
   if (!(layer.top < layer.bottom)) {
-    return Message::tr("a layer from %1 to %2 m has its bottom not below its top")
-        .arg(layer.top)
-        .arg(layer.bottom);
+    return Message::tr("a layer from %1 to %2 has its bottom not below its top")
+        .arg(Message::length(layer.top))
+        .arg(Message::length(layer.bottom));
   }
   if (!isVelocity(layer.velocity)) return noVelocity(layer.velocity);
   if (!(layer.error >= 0.0 && layer.error < layer.velocity)) {
-    return Message::tr("an error of %1 m/s must not be negative, and less than its velocity, %2")
-        .arg(layer.error)
-        .arg(layer.velocity);
+    return Message::tr("an error of %1 must not be negative, and less than its velocity, %2")
+        .arg(Message::velocity(layer.error))
+        .arg(Message::velocity(layer.velocity));
   }
   return {};
 }

@@ -143,7 +143,7 @@ void findDoubtful(const std::vector<MapPoint>& places, LineShape shape, Surveyed
 
 Message describe(const SurveyedFinding& finding, const SurveyedOutcome& outcome,
                  const std::vector<SurveyedRow>& rows) {
-  const Message spacing = Message::number(outcome.spacing, 3);
+  const Message spacing = Message::length(outcome.spacing, 3);
   switch (finding.fault) {
     case SurveyedFault::kRowUnused:
       return Message::tr("Not used, for no geophone or shot of the survey is there: %1")
@@ -163,7 +163,7 @@ Message describe(const SurveyedFinding& finding, const SurveyedOutcome& outcome,
       return Message::tr("Without an elevation, raised to the line between the others: %1")
           .arg(namesOf(finding, outcome));
     case SurveyedFault::kFarAcross:
-      return Message::tr("Farther from the line than half the spacing of %1 m: %2")
+      return Message::tr("Farther from the line than half the spacing of %1: %2")
           .arg(spacing)
           .arg(namesOf(finding, outcome));
     case SurveyedFault::kDoubled:

@@ -302,15 +302,15 @@ Message whyProfileFitsLess(const std::vector<ShotArrivals>& shots, const Layered
   const auto [shot, goesOn] = firstBadShot(shots, rmsOfShots(fit), limit);
   Message text = goesOn ? Message::tr(
                               "the profile fits its picks to %1 ms only, the waves of the "
-                              "proposal to %2 ms: it is off from shot %3 at %4 m on")
+                              "proposal to %2 ms: it is off from shot %3 at %4 on")
                         : Message::tr(
                               "the profile fits its picks to %1 ms only, the waves of the "
-                              "proposal to %2 ms: it is off most at shot %3 at %4 m");
+                              "proposal to %2 ms: it is off most at shot %3 at %4");
   text = std::move(text)
              .arg(milliseconds(fit.total.rms))
              .arg(milliseconds(waves))
              .arg(shot + 1)
-             .arg(shots[shot].shot.x);
+             .arg(Message::length(shots[shot].shot.x));
   Message why = interpretation.refractData.isFitted()
                     ? Message::tr(
                           "the delays of the waves change so fast along the line that no "

@@ -72,9 +72,9 @@ Message SurveyProposal::statement() const {
     const GroundFit& two = grounds[1];
     const Message steady =
         Message::tr(
-            "no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per "
-            "metre, has a misfit of %3 ms")
-            .arg(Message::number(fit.velocities.front(), 3))
+            "no layers: a velocity that grows steadily with depth, from %1 with a gradient of "
+            "%2 1/s, has a misfit of %3 ms")
+            .arg(Message::velocity(fit.velocities.front(), 3))
             .arg(Message::number(fit.gradient, 2))
             .arg(milliseconds(fit.misfit));
     if (!two.fitted) return steady;

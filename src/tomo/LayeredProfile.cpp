@@ -200,11 +200,11 @@ void noteReach(const Grid& grid, double xOffset, const LayeredProfile& profile,
     const double first = profile.firstX(refractor);
     const double last = profile.lastX(refractor);
     if (left < first || right > last) {
-      notes.push_back(Message::tr("Layer %1 is known from %2 to %3 m; its depth and velocity stay "
+      notes.push_back(Message::tr("Layer %1 is known from %2 to %3; its depth and velocity stay "
                                   "as they are there to the ends of the grid.")
                           .arg(refractor + 2)
-                          .arg(first)
-                          .arg(last));
+                          .arg(Message::length(first))
+                          .arg(Message::length(last)));
     }
     std::uint32_t above = 0;
     for (std::uint32_t column = 0; column < grid.col() && grid.righe() > 0; ++column) {

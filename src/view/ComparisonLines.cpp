@@ -41,7 +41,7 @@ Message layersLineName(const LayerComparison& comparison) {
 
 Message sectionLineName(const LayerComparison& comparison) {
   if (!comparison.sign.velocity) return Message::tr("Section, steepest gradient");
-  return Message::tr("Section, %1").arg(Message::velocity(*comparison.sign.velocity));
+  return Message::tr("Section, %1").arg(Message::velocity(*comparison.sign.velocity, 4));
 }
 
 }  // namespace talvesk

@@ -5,8 +5,10 @@
 #include "support/InFeet.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QTest>
 #include <QWheelEvent>
+#include <cmath>
 
 #include <gtest/gtest.h>
 
@@ -240,33 +242,95 @@ TEST(VelocityBox, isAPlainFieldInMetres) {
   EXPECT_EQ(box.value(), plain.value());
 }
 
-TEST(VelocityBox, keepsWholeMetresPerSecondAndShowsWhatWasTyped) {
+TEST(VelocityBox, takesFeetExactlyAndKeepsToTheBitWhatWasNotEdited) {
   const InFeet feet;
   VelocityBox box;
   setUpField(box, kVelocityOf);
-  for (int velocity = 1; velocity < 12000; velocity += 7) {
-    box.setValue(velocity);
-    type(box, box.cleanText());
-    ASSERT_EQ(box.value(), velocity);
+  for (double velocity = 1.0; velocity < 12000.0; velocity += 7.3) {
+    box.setVelocity(velocity);
+    QTest::keyClick(&box, Qt::Key_Return);
+    box.interpretText();
+    ASSERT_EQ(box.velocity(), velocity);
+    ASSERT_EQ(box.value(), static_cast<int>(std::round(velocity)));
   }
-  type(box, "4000");  // 1219.2 m/s
+  type(box, "4000");
+  EXPECT_EQ(box.velocity(), 1219.2);
   EXPECT_EQ(box.value(), 1219);
   EXPECT_EQ(box.text(), QStringLiteral("4000"));
+  VelocityBox again;
+  setUpField(again, kVelocityOf);
+  again.setVelocity(box.velocity());
+  EXPECT_EQ(again.text(), QStringLiteral("4000"));
   box.setValue(1500);
+  QTest::keyClick(&box, Qt::Key_Return);
+  box.interpretText();
+  EXPECT_EQ(box.velocity(), 1500.0);
   EXPECT_EQ(box.text(), QStringLiteral("4921"));
   QTest::keyClick(&box, Qt::Key_Up);
   EXPECT_EQ(box.text(), QStringLiteral("4925"));
-  EXPECT_EQ(box.value(), 1501);
+  EXPECT_EQ(box.velocity(), 1501.14);
   box.setSingleStep(10);  // 32.8 ft/s
   QTest::keyClick(&box, Qt::Key_Down);
   EXPECT_EQ(box.text(), QStringLiteral("4900"));
+}
+
+TEST(VelocityBox, staysWithinItsLimitsAsTheyAreSeen) {
+  const InFeet feet;
+  VelocityBox box;
+  setUpField(box, kVelocityOf);
   box.setValue(box.maximum());
   EXPECT_EQ(box.text(), QStringLiteral("3280839892")) << "more than an int holds";
   type(box, "3280839892");
-  EXPECT_EQ(box.value(), box.maximum());
-  box.setValue(1);
+  EXPECT_EQ(box.velocity(), box.maximum());
+  type(box, "3");  // 0.91 m/s; the least is 3.28 ft/s
+  EXPECT_EQ(box.velocity(), 1.0);
   box.stepBy(-1);
-  EXPECT_EQ(box.value(), 1);
+  EXPECT_EQ(box.velocity(), 1.0);
+  for (const double none : {std::nan(""), -5.0, 1e12}) {
+    box.setVelocity(none);
+    EXPECT_EQ(box.velocity(), none > 0.0 ? box.maximum() : box.minimum());
+  }
+}
+
+TEST(VelocityBox, tellsOfFeetThatAreTheSameWholeMetres) {
+  const InFeet feet;
+  VelocityBox box;
+  setUpField(box, kVelocityOf);
+  type(box, "4000");
+  int whole = 0;
+  int told = 0;
+  QObject::connect(&box, QOverload<int>::of(&QSpinBox::valueChanged), [&] { ++whole; });
+  QObject::connect(&box, &VelocityBox::velocityChanged, [&] { ++told; });
+  box.findChild<QLineEdit*>()->setCursorPosition(4);
+  QTest::keyClick(&box, Qt::Key_Backspace);
+  QTest::keyClick(&box, Qt::Key_1);  // 4001
+  whole = told = 0;
+  QTest::keyClick(&box, Qt::Key_Backspace);
+  QTest::keyClick(&box, Qt::Key_2);  // 4002, by way of 400
+  EXPECT_EQ(box.velocity(), 1219.8096);
+  EXPECT_EQ(told, 2);
+  box.setVelocity(1219.8);
+  EXPECT_EQ(told, 3);
+  EXPECT_EQ(whole, 2) << "1220 before and after";
+  box.setVelocity(1219.8);
+  EXPECT_EQ(told, 3);
+}
+
+TEST(VelocityBox, truncatesWhatItIsGivenInMetres) {
+  VelocityBox box;
+  setUpField(box, kVelocityOf);
+  box.setVelocity(1219.8);
+  EXPECT_EQ(box.velocity(), 1219.0);
+  type(box, "1500");
+  EXPECT_EQ(box.velocity(), 1500.0);
+}
+
+TEST(UnitWords, turnVelocitiesInSentences) {
+  const OfLocale c(QLocale::c());
+  const QString text = QStringLiteral("such as 1500 m/s for the water table (m/s)");
+  EXPECT_EQ(inShownVelocities(text), text);
+  const InFeet feet;
+  EXPECT_EQ(inShownVelocities(text).toStdString(), "such as 4921 ft/s for the water table (m/s)");
 }
 
 TEST(UnitWords, reachTheFieldsOfAFormAndLeaveThoseInMetres) {

@@ -2,6 +2,8 @@
 #include "base/Message.h"
 #include "base/Status.h"
 
+#include <algorithm>
+
 #include <gmock/gmock.h>
 
 namespace talvesk {
@@ -63,6 +65,29 @@ TEST(Message, showsLengthsInTheUnitAskedForAndLogsMetres) {
   setLengthUnit(LengthUnit::kMetre);
   EXPECT_EQ(shownLength(0.1), 0.1);
   EXPECT_EQ(metresOf(0.1), 0.1);
+}
+
+TEST(Message, writesMeasuresWithoutExponent) {
+  const struct {
+    Message measure;
+    const char* inMetres;
+    const char* inFeet;
+  } cases[] = {{Message::velocity(3050.0, 3), "3050 m/s", "10007 ft/s"},
+               {Message::velocity(1234.4, 3), "1234 m/s", "4050 ft/s"},
+               {Message::velocity(999.96, 4), "1000 m/s", "3281 ft/s"},
+               {Message::velocity(1500.0, 1), "1500 m/s", "4921 ft/s"},
+               {Message::length(-400000.0), "-400000 m", "-1312336 ft"},
+               {Message::length(12.34, 2), "12 m", "40 ft"},
+               {Message::length(1e300), "1e+300 m", "3.28084e+300 ft"},
+               {Message::length(2.5e-7), "2.5e-07 m", "8.2021e-07 ft"}};
+  for (const auto& each : cases) {
+    EXPECT_EQ(each.measure.english(), each.inMetres);
+    setLengthUnit(LengthUnit::kFoot);
+    std::string shown = each.measure.in(Backwards());
+    setLengthUnit(LengthUnit::kMetre);
+    std::replace(shown.begin(), shown.end(), ',', '.');
+    EXPECT_EQ(shown, each.inFeet);
+  }
 }
 
 TEST(Message, isAStringWhereOneIsWanted) {

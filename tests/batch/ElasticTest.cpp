@@ -182,7 +182,7 @@ TEST_F(Elastic, refusesWhatItCannotPutTogether) {
       {{p, bare}, 1, "The project of S has no layered profile"},
       {{p, s, "--shift", "1000"},
        1,
-       "P and S have no place in common: P was interpreted from 0 to 147.5 m, S from 1000 to "},
+       "P and S have no place in common: P was interpreted from 0 m to 147.5 m, S from 1000 m to "},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.says);

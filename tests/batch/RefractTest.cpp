@@ -346,7 +346,7 @@ TEST(Refract, claimsNoLayersOnGroundWithASteadyGradient) {
   const Outcome outcome = runBatch({"refract", picks, "--propose", "survey", "--json", out});
   EXPECT_EQ(outcome.code, 1);
   EXPECT_THAT(outcome.err, HasSubstr("no layers: a velocity that grows steadily with depth, from "
-                                     "400 m/s by 30 m/s per metre"));
+                                     "400 m/s with a gradient of 30 1/s"));
   EXPECT_EQ(runBatch({"refract", picks, "--layer-count", "2", "--json", out}).code, 2);
   EXPECT_EQ(runBatch({"refract", picks, "--propose", "guess", "--json", out}).code, 2);
 }

@@ -3,22 +3,23 @@
 #include "figures/FigureWords.h"
 #include "figures/GatherFigure.h"
 #include "figures/RefractionFigure.h"
+#include "figures/ReportedLine.h"
 #include "figures/ResidualFigures.h"
 #include "figures/SectionFigure.h"
 #include "figures/SectionPaper.h"
+#include "figures/SectionPaper_layout.h"
 #include "figures/ShownScale.h"
+#include "figures/ToldLength.h"
 #include "figures/TravelTimeFigure.h"
 #include "figures/report/Report.h"
 #include "figures/report/ReportContent.h"
 #include "figures/web/WebData.h"
 #include "model/TomographyOutcome.h"
-#include "support/ConsoleCapture.h"
 #include "support/InFeet.h"
 #include "support/SectionDocument.h"
 #include "support/ShotDocument.h"
 #include "support/TestFolder.h"
 #include "support/TestSurveys.h"
-#include "tomo/TomographyRun.h"
 
 #include <QImage>
 #include <QJsonArray>
@@ -29,6 +30,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <utility>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -48,31 +50,14 @@ using testing::InFeet;
 using ::testing::IsEmpty;
 
 TomoDocument invertedLine() {
-  const testing::ConsoleCapture console;
   TomoDocument line = testing::testLine(13, 2.0, {0.0, 12.0, 24.0}, 1.0);
   testing::pickTwoLayers(line, 450.0, 1800.0, 3.0);
-  testing::putGrid(line, 10.0, 1.0);
-  TomographyParameters few;
-  few.externalIterations = 2;
-  few.solverIterations = 2;
-  Log log;
-  EXPECT_TRUE(runInversion(line, few, log).status.ok());
-  return line;
+  return testing::inverted(std::move(line));
 }
 
+/// Round in feet.
 refractionDataStructure::Interpretation oneRefractor() {
-  refractionDataStructure::Interpretation interpretation;
-  refractionDataStructure::computedData refractor;
-  for (int i = 0; i < 13; ++i) {
-    refractor.x.push_back(2.0 * i);
-    refractor.elevation.push_back(100.0);
-    refractor.depth.push_back(3.048);
-    refractor.velocity.push_back(1800.0 + i);
-  }
-  interpretation.refractData.v1 = 457.2;
-  interpretation.refractData.cData = {refractor};
-  interpretation.refractData.v2 = refractor.velocity;
-  return interpretation;
+  return testing::oneRefractor(457.2, 3.048);
 }
 
 /// All texts of an SVG.
@@ -184,6 +169,20 @@ TEST(Feet, areAtTheAxesTheBarAndInTheCaptionOfASection) {
   }
   EXPECT_THAT(words.join('|').toStdString(), HasSubstr("Contours every 1000 ft/s"));
   EXPECT_THAT(inMetres(words), IsEmpty());
+}
+
+TEST(Feet, areRoundedAlikeWhereverAVelocityIsTold) {
+  MarkedIsoline mark;
+  mark.velocity = 1500.0;
+  const QLocale c = QLocale::c();
+  EXPECT_EQ(isolineName(mark, c).toStdString(), "1500 m/s");
+  EXPECT_EQ(FigureWords::velocity(1234.5, c).toStdString(), "1234.5 m/s");
+  EXPECT_EQ(toldLength(9.25), 9.25);
+  const InFeet feet;
+  EXPECT_EQ(isolineName(mark, c).toStdString(), "4921 ft/s");
+  EXPECT_EQ(FigureWords::velocity(1500.0, c).toStdString(), "4921 ft/s");
+  EXPECT_EQ(FigureWords::layer(2, 1500.0, std::nan(""), c).toStdString(), "Layer 2, 4921 ft/s");
+  EXPECT_EQ(toldLength(9.0), 29.5);
 }
 
 TEST(Feet, areInTheTablesOfAReport) {

@@ -1,5 +1,6 @@
 #include "figures/MisfitFigures.h"
 #include "figures/ProfileLines.h"
+#include "figures/ReportedLine.h"
 #include "figures/SectionFigure.h"
 #include "figures/report/Report.h"
 #include "figures/report/ReportBuilder.h"
@@ -52,30 +53,11 @@ TomoDocument pickedLine(int shots = 3) {
 }
 
 TomoDocument invertedLine(int shots = 3) {
-  const testing::ConsoleCapture console;
-  TomoDocument line = pickedLine(shots);
-  testing::putGrid(line, 10.0, 1.0);
-  TomographyParameters few;
-  few.externalIterations = 2;
-  few.solverIterations = 2;
-  Log log;
-  EXPECT_TRUE(runInversion(line, few, log).status.ok());
-  return line;
+  return testing::inverted(pickedLine(shots));
 }
 
 refractionDataStructure::Interpretation oneRefractor() {
-  refractionDataStructure::Interpretation interpretation;
-  refractionDataStructure::computedData refractor;
-  for (int i = 0; i < 13; ++i) {
-    refractor.x.push_back(2.0 * i);
-    refractor.elevation.push_back(100.0);
-    refractor.depth.push_back(3.0);
-    refractor.velocity.push_back(1800.0 + i);
-  }
-  interpretation.refractData.v1 = 450.0;
-  interpretation.refractData.cData = {refractor};
-  interpretation.refractData.v2 = refractor.velocity;
-  return interpretation;
+  return testing::oneRefractor(450.0, 3.0);
 }
 
 ReportContent reportOn(const ReportSource& source, const ReportOptions& options = {}) {

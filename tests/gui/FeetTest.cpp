@@ -50,8 +50,7 @@ QStringList textsOf(const QWidget& widget) {
 }
 
 /// What stays in metres whatever is shown: coordinates of the map, files for other programs, the
-/// choice of the unit itself, a figure that a rule of the literature has, and what the rooms below
-/// tell by themselves.
+/// choice of the unit itself, and a figure that a rule of the literature has.
 const std::pair<const char*, const char*> kMetric[] = {
     {"coordinates", "eastingLabel"},  {"coordinates", "northingLabel"},
     {"coordinates", "checkLabel"},    {"coordinates", "estFstGeoph"},
@@ -62,7 +61,7 @@ const std::pair<const char*, const char*> kMetric[] = {
     {"drawing", "mapButton"},         {"settings", "lengthUnit"},
     {"trace headers", "saveButton"},  {"P and S", "densityLabel"},
     {"P and S", "densityCombo"},      {"P and S", "tableButton"},
-    {"P and S", "notesLabel"},        {"start from layers", "notesLabel"}};
+    {"contours", "load_button"},      {"contours", "save_button"}};
 
 bool staysMetric(const std::string& dialog, const QWidget& widget, const QString& text) {
   if (text.contains(QStringLiteral(", in metres"))) return true;  // told of a file
@@ -185,7 +184,7 @@ TEST_F(Feet, leaveTheProgramWhatItWasAskedInMetres) {
            [inFeet](QWidget& dialog) { type(dialog, "v1Edit", inFeet ? "2500" : "762"); });
     dialogs.expect([inFeet](QWidget& dialog) {
       type(dialog, "extIter_edit", "1");
-      type(dialog, "minVelEdit", inFeet ? "500" : "152");
+      type(dialog, "minVelEdit", inFeet ? "1250" : "381");
       type(dialog, "maxVelEdit", inFeet ? "10000" : "3048");
       QTest::keyClick(&dialog, Qt::Key_Return);
     });
@@ -203,6 +202,22 @@ TEST_F(Feet, leaveTheProgramWhatItWasAskedInMetres) {
   EXPECT_EQ(layers[0][0].initialVelocity, 762.0);
   EXPECT_EQ(layers[1][0].initialVelocity, 762.0);
   EXPECT_EQ(layers[0][0].finalDepth, layers[1][0].finalDepth);
+}
+
+TEST_F(Feet, ofVelocitiesAreKeptExactlyAndSeenAgain) {
+  openLine();
+  const InFeet feet;
+  answer("actionGrid", [](QWidget&) {});
+  for (const bool again : {false, true}) {
+    answer("actionDefine_model_velocity", [again](QWidget& dialog) {
+      auto& velocity = *dialog.findChild<QAbstractSpinBox*>("v1Edit");
+      if (again) {
+        EXPECT_EQ(velocity.text().toStdString(), "4000");
+      }
+      type(dialog, "v1Edit", again ? "4001" : "4000");
+    });
+    EXPECT_EQ(writable().model->layers[0].initialVelocity, again ? 1219.5048 : 1219.2);
+  }
 }
 
 TEST_F(Feet, leaveIsovaluesAsTheyAreAndTakeTypedOnesExactly) {
@@ -273,6 +288,47 @@ TEST_F(Feet, setTheRangeOfTheColours) {
   EXPECT_EQ(palettes.current().min_db, 304.8);
   EXPECT_EQ(told, 305);
   EXPECT_EQ(palettes.current().max_db, 3500.0) << "was not touched";
+}
+
+/// Counts how often a widget is drawn.
+class Paints : public QObject {
+ public:
+  explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+  int count = 0;
+};
+
+TEST_F(Feet, reachAProfileThatIsOpen) {
+  openSurvey();
+  DepthProfileDialog dialog;
+  dialog.setSection(DepthProfiles(writable()));
+  show(dialog);
+  auto& place = *dialog.findChild<QAbstractSpinBox*>("placeSpin");
+  EXPECT_THAT(place.text().toStdString(), ::testing::EndsWith(" m"));
+  Paints paints(*dialog.findChild<QWidget*>("profileSheet"));
+  const InFeet feet;
+  QEvent change(QEvent::LanguageChange);
+  QApplication::sendEvent(&dialog, &change);
+  QCoreApplication::processEvents();
+  EXPECT_THAT(place.text().toStdString(), ::testing::EndsWith(" ft"));
+  EXPECT_GT(paints.count, 0);
+}
+
+TEST_F(Feet, standInTipsThatNameAVelocity) {
+  openSurvey();
+  const auto tip = [&] { return action("actionMarked_isolines").toolTip().toStdString(); };
+  EXPECT_THAT(tip(), HasSubstr("1500 m/s"));
+  QEvent change(QEvent::LanguageChange);
+  {
+    const InFeet feet;
+    QApplication::sendEvent(window.get(), &change);
+    EXPECT_THAT(tip(), HasSubstr("4,921 ft/s"));
+  }
+  QApplication::sendEvent(window.get(), &change);
+  EXPECT_THAT(tip(), HasSubstr("1500 m/s"));
 }
 
 TEST_F(Feet, areReadOutInTheWindow) {

@@ -69,7 +69,7 @@ TEST(KnownGroundFile, namesTheLineThatCannotBe) {
       {"borehole,B1,1,,0,2,400\nborehole,B1,2,,2,3,500\n", "line 3: borehole B1 stands somewhere"},
       {"borehole,B1,1,,0,2,400\nborehole,B1,1,,1,3,500\n",
        "line 3: the layer from 1 m begins above"},
-      {"borehole,B1,1,,2,2,400\n", "line 2: a layer from 2 to 2 m"},
+      {"borehole,B1,1,,2,2,400\n", "line 2: a layer from 2 m to 2 m"},
       {"borehole,,1,,0,2,400\n", "line 2: it has no name"},
       {"borehole,B1,1,,0,2,\n", "line 2: there is no velocity"},
       {"borehole,B1,1,,0,2\n", "line 2: there is no velocity"},

@@ -109,12 +109,12 @@ TEST(LostByRules, isWhatTheStandardHasBesides) {
          });
        },
        false},
-      {"geophones are at 0 m by the program's rules, at 0 to 15 m by",
+      {"geophones are at 0 m by the program's rules, at 0 m to 15 m by",
        [&](TwoReadings& two) {
          forAll(two.rules, [](ShotRecord& trace) { trace.receiver.x = 0.0; });
        },
        true},
-      {"geophones are at 0 to 1500 m by the program's rules, at 0 to 15 m",
+      {"geophones are at 0 m to 1500 m by the program's rules, at 0 m to 15 m",
        [&](TwoReadings& two) {
          forAll(two.rules, [](ShotRecord& trace) { trace.receiver.x *= 100.0; });
        },

@@ -190,7 +190,7 @@ TEST(StandardSegyShots, warnsOfCoordinatesThatAreNoMetres) {
 }
 
 TEST(StandardSegyShots, warnsOfALineOfHundredsOfKilometres) {
-  expectTold(read(fileOf({{{81, 4, 0}}, {{81, 4, 950000}}})), "along 950 km");
+  expectTold(read(fileOf({{{81, 4, 0}}, {{81, 4, 950000}}})), "along 950000 m");
 }
 
 TEST(StandardSegyShots, countsTimeFromTheShot) {

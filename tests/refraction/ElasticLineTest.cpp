@@ -114,7 +114,7 @@ TEST(ElasticLine, refusesWhatCannotBeMatched) {
       {LayeredWave(), good, "The project of P has no layered profile"},
       {good, LayeredWave(), "The project of S has no layered profile"},
       {good, waveOf(300, 700, 5, 2.0, 11, 50.0),
-       "P and S have no place in common: P was interpreted from 0 to 20 m, S from 50 to 70 m"},
+       "P and S have no place in common: P was interpreted from 0 m to 20 m, S from 50 m to 70 m"},
   };
   for (const Row& row : rows) {
     ElasticLine line;

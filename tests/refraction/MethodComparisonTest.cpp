@@ -163,7 +163,7 @@ TEST(MethodComparison, standsInATableSideBySide) {
   EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 62);
   std::string summary;
   for (const Message& line : comparisonSummary(comparison)) summary += line.english() + '\n';
-  EXPECT_THAT(summary, HasSubstr("Layer 2, delay times: 1799 ± "));
+  EXPECT_THAT(summary, HasSubstr("Layer 2, delay times: 1799 m/s ± "));
   EXPECT_THAT(summary, HasSubstr(" of 60 geophones, in velocity at "));
 }
 

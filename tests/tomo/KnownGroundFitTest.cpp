@@ -186,10 +186,11 @@ TEST_F(HeldFit, saysWhatTheGridCannotHold) {
   const auto cells = cellsOf(known);
   std::vector<std::string> unused;
   for (const Message& each : cells->unused) unused.push_back(each.english());
-  EXPECT_THAT(unused, ::testing::UnorderedElementsAre(
-                          HasSubstr("borehole far"), HasSubstr("borehole deep reaches 40 m"),
-                          HasSubstr("borehole thin, 1.05 to 1.15 m"), HasSubstr("known depth low"),
-                          HasSubstr("known depth high"), HasSubstr("body away")));
+  EXPECT_THAT(unused,
+              ::testing::UnorderedElementsAre(
+                  HasSubstr("borehole far"), HasSubstr("borehole deep reaches 40 m"),
+                  HasSubstr("borehole thin, 1.05 m to 1.15 m"), HasSubstr("known depth low"),
+                  HasSubstr("known depth high"), HasSubstr("body away")));
   for (const KnownCells::Pull& pull : cells->pulls) {
     EXPECT_LT(pull.cell, line.geometry->cellCount());
     EXPECT_GT(pull.sigma, 0.0);

@@ -71,8 +71,8 @@ TEST(LayeredProfile, fillsTheCellsOfItsLayers) {
   for (const Case& c : cases) {
     EXPECT_NEAR(velocityAt(line, c.x, c.depth), c.velocity, 2.6) << c.x << ' ' << c.depth;
   }
-  EXPECT_THAT(notes, says("Layer 2 is known from 2 to 20 m"));
-  EXPECT_THAT(notes, says("Layer 3 is known from 2 to 20 m"));
+  EXPECT_THAT(notes, says("Layer 2 is known from 2 m to 20 m"));
+  EXPECT_THAT(notes, says("Layer 3 is known from 2 m to 20 m"));
   EXPECT_EQ(notes.size(), 2U);
   EXPECT_EQ(line.result->info_density, std::vector<double>(line.model->grid->cellCount(), -1.0));
 }

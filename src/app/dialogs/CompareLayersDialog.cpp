@@ -57,8 +57,7 @@ CompareLayersDialog::CompareLayersDialog(const TomoDocument& document,
           &CompareLayersDialog::chooseRefractor);
   connect(mUi->signCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
           &CompareLayersDialog::show);
-  connect(mUi->velocityEdit, QOverload<int>::of(&QSpinBox::valueChanged), this,
-          &CompareLayersDialog::show);
+  connect(mUi->velocityEdit, &VelocityBox::velocityChanged, this, &CompareLayersDialog::show);
   connect(mUi->pictureButton, &QPushButton::clicked, this, [this] { pictureWanted(picture()); });
   connect(mUi->tableButton, &QPushButton::clicked, this, [this] { tableWanted(mComparison); });
   chooseRefractor();
@@ -71,8 +70,7 @@ void CompareLayersDialog::chooseRefractor() {
   const int refractor = mUi->refractorCombo->currentIndex();
   if (refractor >= 0) {
     const QSignalBlocker quiet(mUi->velocityEdit);
-    mUi->velocityEdit->setValue(
-        static_cast<int>(mProfile.middleVelocity(static_cast<std::size_t>(refractor))));
+    mUi->velocityEdit->setVelocity(mProfile.middleVelocity(static_cast<std::size_t>(refractor)));
   }
   show();
 }
@@ -80,7 +78,7 @@ void CompareLayersDialog::chooseRefractor() {
 void CompareLayersDialog::show() {
   RefractorSign sign;
   const bool byVelocity = mUi->signCombo->currentIndex() == kVelocity;
-  if (byVelocity) sign.velocity = mUi->velocityEdit->value();
+  if (byVelocity) sign.velocity = mUi->velocityEdit->velocity();
   mUi->velocityEdit->setEnabled(byVelocity);
   const auto refractor = static_cast<std::size_t>(std::max(mUi->refractorCombo->currentIndex(), 0));
   mComparison = {};

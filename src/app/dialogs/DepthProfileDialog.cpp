@@ -5,6 +5,7 @@
 #include "figures/DepthProfileFigure.h"
 #include "ui_DepthProfileDialog.h"
 
+#include <QEvent>
 #include <QLocale>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -38,10 +39,8 @@ class ProfileSheet : public QWidget {
 DepthProfileDialog::DepthProfileDialog(QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::DepthProfileDialog>()) {
   mUi->setupUi(this);
-  showUnits(*this);
-  wrapToolTips(*this);
   mSheet = new ProfileSheet(*this);
-  mSheet->setAccessibleName(tr("Velocity, gradient and certainty against depth"));
+  retranslate();
   mUi->sheetLayout->addWidget(mSheet);
   connect(mUi->placeSpin, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
           [this](double x) {
@@ -55,6 +54,22 @@ DepthProfileDialog::DepthProfileDialog(QWidget* parent)
 }
 
 DepthProfileDialog::~DepthProfileDialog() = default;
+
+void DepthProfileDialog::retranslate() {
+  showUnits(*this);
+  wrapToolTips(*this);
+  mSheet->setAccessibleName(tr("Velocity, gradient and certainty against depth"));
+  mSheet->update();
+}
+
+/// Another language or another unit.
+void DepthProfileDialog::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::LanguageChange) {
+    mUi->retranslateUi(this);
+    retranslate();
+  }
+  QDialog::changeEvent(event);
+}
 
 void DepthProfileDialog::setSection(DepthProfiles section) {
   mSection = std::move(section);

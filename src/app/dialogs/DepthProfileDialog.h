@@ -32,8 +32,12 @@ class DepthProfileDialog : public QDialog {
   /// Asked for a file of the profile that is shown.
   std::function<void()> saveWanted;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void showAt(double x);
+  void retranslate();
 
   std::unique_ptr<Ui::DepthProfileDialog> mUi;
   QWidget* mSheet = nullptr;

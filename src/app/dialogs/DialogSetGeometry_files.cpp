@@ -1,5 +1,4 @@
 #include "app/FileFolders.h"
-#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/Messages.h"
 #include "app/TableTexts.h"
@@ -10,6 +9,7 @@
 #include "app/dialogs/GeometryTexts.h"
 #include "app/dialogs/SelectCSVDelimiterDialog.h"
 #include "base/Console.h"
+#include "figures/ShownLength.h"
 #include "io/ElevationTable.h"
 #include "io/FileFormats.h"
 #include "io/NamedPositions.h"
@@ -208,7 +208,7 @@ void DialogSetGeometry::loadElevations(ElevationProfile::Course course) {
                                   "elevation there.",
                                   nullptr, static_cast<int>(outcome.beyond))
                                    .arg(geometryLength(profile.firstX()))
-                                   .arg(lengthWithUnit(geometryLength(profile.lastX())));
+                                   .arg(withLengthUnit(geometryLength(profile.lastX())));
   }
   notice(text, outcome.beyond > 0);
 }

@@ -129,8 +129,8 @@ void FitPanel::setUpFields() {
   const FittedOptions usual;
   setUpField(*mUi->fitMinVelEdit, parameters::kMinVelocity);
   setUpField(*mUi->fitMaxVelEdit, parameters::kMaxVelocity);
-  mUi->fitMinVelEdit->setValue(static_cast<int>(usual.minVelocity));
-  mUi->fitMaxVelEdit->setValue(static_cast<int>(usual.maxVelocity));
+  mUi->fitMinVelEdit->setVelocity(usual.minVelocity);
+  mUi->fitMaxVelEdit->setVelocity(usual.maxVelocity);
   mUi->fitIterationsEdit->setRange(1, kMostFitIterations);
   mUi->fitIterationsEdit->setValue(usual.mostIterations);
   mUi->triggerEdit->setRange(0.1, kMilliseconds);
@@ -155,8 +155,8 @@ void FitPanel::connectAll() {
       makeModelsSoon();
     });
   }
-  for (QSpinBox* box : {mUi->fitMinVelEdit, mUi->fitMaxVelEdit}) {
-    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] {
+  for (VelocityBox* box : {mUi->fitMinVelEdit, mUi->fitMaxVelEdit}) {
+    connect(box, &VelocityBox::velocityChanged, this, [this] {
       makeModelsSoon();
       emit changed();
     });
@@ -183,8 +183,8 @@ FittedSettings FitPanel::settings() const {
   FittedSettings settings;
   settings.errors.floor = mUi->floorEdit->value() / kMilliseconds;
   settings.errors.share = mUi->shareEdit->value() / 100.0;
-  settings.fit.minVelocity = mUi->fitMinVelEdit->value();
-  settings.fit.maxVelocity = mUi->fitMaxVelEdit->value();
+  settings.fit.minVelocity = mUi->fitMinVelEdit->velocity();
+  settings.fit.maxVelocity = mUi->fitMaxVelEdit->velocity();
   settings.fit.mostIterations = mUi->fitIterationsEdit->value();
   settings.fit.robust = mUi->robustBox->isChecked();
   settings.fit.blocky = mUi->blockyBox->isChecked();
@@ -198,7 +198,7 @@ FittedSettings FitPanel::settings() const {
 }
 
 bool FitPanel::limitsCross() const {
-  return mUi->fitMinVelEdit->value() >= mUi->fitMaxVelEdit->value();
+  return mUi->fitMinVelEdit->velocity() >= mUi->fitMaxVelEdit->velocity();
 }
 
 bool FitPanel::modelsKnown() const {

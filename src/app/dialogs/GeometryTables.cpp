@@ -7,6 +7,7 @@
 #include "app/dialogs/GeometrySession.h"
 #include "app/dialogs/GeometryTexts.h"
 #include "base/TypedTable.h"
+#include "figures/ShownLength.h"
 
 #include <QBrush>
 #include <QColor>
@@ -208,7 +209,7 @@ bool GeophoneTable::isMistaken(int row) const {
 }
 
 QString GeophoneTable::refusal(int /*column*/, double value) const {
-  return tooFar(value) ? tr("%1 is too far away.").arg(lengthWithUnit(geometryLength(value)))
+  return tooFar(value) ? tr("%1 is too far away.").arg(withLengthUnit(geometryLength(value)))
                        : QString();
 }
 
@@ -325,7 +326,7 @@ bool ShotTable::isMistaken(int row) const {
 
 QString ShotTable::refusal(int column, double value) const {
   if (column != kString) {
-    return tooFar(value) ? tr("%1 is too far away.").arg(lengthWithUnit(geometryLength(value)))
+    return tooFar(value) ? tr("%1 is too far away.").arg(withLengthUnit(geometryLength(value)))
                          : QString();
   }
   const auto count = static_cast<double>(mSession.geometry().strings.size());

@@ -5,6 +5,7 @@
 
 #include <QDoubleValidator>
 #include <QEvent>
+#include <QLineEdit>
 #include <algorithm>
 #include <cmath>
 
@@ -133,31 +134,60 @@ void LengthBox::changeEvent(QEvent* event) {
   QDoubleSpinBox::changeEvent(event);
 }
 
-VelocityBox::VelocityBox(QWidget* parent) : QSpinBox(parent) {}
+VelocityBox::VelocityBox(QWidget* parent) : QSpinBox(parent), mTold(value()) {
+  connect(this, QOverload<int>::of(&QSpinBox::valueChanged), this, &VelocityBox::tell);
+  // The whole metres per second may be the same.
+  connect(lineEdit(), &QLineEdit::textChanged, this, &VelocityBox::tell);
+  connect(this, &QSpinBox::editingFinished, this, &VelocityBox::tell);
+}
+
+void VelocityBox::tell() {
+  if (velocity() == mTold) return;
+  mTold = velocity();
+  emit velocityChanged();
+}
+
+double VelocityBox::velocity() const {
+  return velocityOf(value());
+}
+
+void VelocityBox::setVelocity(double metresPerSecond) {
+  const double held = within(std::isfinite(metresPerSecond) ? metresPerSecond : 0.0);
+  mExact = inMetres() ? std::nullopt : std::make_optional(held);
+  setValue(mExact ? whole(held) : static_cast<int>(held));
+  tell();
+}
 
 void VelocityBox::followUnit() {
-  mTyped.reset();
+  if (inMetres()) mExact.reset();
   showUnitBehind(*this);
   setSuffix(suffix());  // the number is written anew
 }
 
-/// What was typed where it is this velocity, or else the nearest whole number.
-double VelocityBox::shown(int metresPerSecond) const {
-  if (mTyped && std::round(metresOf(*mTyped)) == metresPerSecond) return *mTyped;
-  return std::round(shownLength(metresPerSecond));
+double VelocityBox::within(double metresPerSecond) const {
+  return std::clamp<double>(metresPerSecond, minimum(), maximum());
+}
+
+int VelocityBox::whole(double metresPerSecond) const {
+  return static_cast<int>(within(std::round(metresPerSecond)));
+}
+
+/// What was typed or given where it rounds to this.
+double VelocityBox::velocityOf(int metresPerSecond) const {
+  return mExact && whole(*mExact) == metresPerSecond ? *mExact : metresPerSecond;
 }
 
 QString VelocityBox::textFromValue(int metresPerSecond) const {
   if (inMetres()) return QSpinBox::textFromValue(metresPerSecond);
-  return shownText(*this, shown(metresPerSecond), 0);
+  return shownText(*this, shownLength(velocityOf(metresPerSecond)), 0);
 }
 
 int VelocityBox::valueFromText(const QString& text) const {
   if (inMetres()) return QSpinBox::valueFromText(text);
   const std::optional<double> typed = typedNumber(*this, bare(text, suffix()));
-  if (!typed) return value();
-  mTyped = typed;
-  return static_cast<int>(std::clamp<double>(std::round(metresOf(*typed)), minimum(), maximum()));
+  if (!typed || *typed == std::round(shownLength(velocity()))) return value();
+  mExact = within(metresTyped(*typed));
+  return whole(*mExact);
 }
 
 QValidator::State VelocityBox::validate(QString& text, int& position) const {
@@ -167,12 +197,8 @@ QValidator::State VelocityBox::validate(QString& text, int& position) const {
 
 void VelocityBox::stepBy(int steps) {
   if (inMetres()) return QSpinBox::stepBy(steps);
-  // A step of less than a metre per second would stay where it is.
-  const double step = roundStep(std::max(shownLength(singleStep()), shownLength(1.0)));
-  const double to = stepped(shown(value()), step, steps);
-  const double metres = std::clamp<double>(std::round(metresOf(to)), minimum(), maximum());
-  if (std::round(metresOf(to)) == metres) mTyped = to;
-  setValue(static_cast<int>(metres));
+  const double step = roundStep(shownLength(singleStep()));
+  setVelocity(metresTyped(stepped(shownLength(velocity()), step, steps)));
   selectAll();
 }
 

@@ -39,11 +39,18 @@ class LengthBox : public QDoubleSpinBox {
   int mDecimals = 2;
 };
 
-/// The same for whole metres per second: a QSpinBox in metres, whole feet per second in feet. What
-/// was typed stays to be seen, though the value is the nearest metre per second.
+/// The same for a velocity in whole numbers of the unit shown. In metres it is a QSpinBox. In feet
+/// velocity() is what was typed, exactly (4000 ft/s are 1219.2 m/s), or what was given, to the bit;
+/// value() is the nearest whole metre per second.
 class VelocityBox : public QSpinBox {
+  Q_OBJECT
+
  public:
   explicit VelocityBox(QWidget* parent = nullptr);
+
+  double velocity() const;  ///< m/s
+  /// \param metresPerSecond taken into the range; where metres are shown, without its decimals
+  void setVelocity(double metresPerSecond);
 
   void followUnit();
 
@@ -52,13 +59,20 @@ class VelocityBox : public QSpinBox {
   QValidator::State validate(QString& text, int& position) const override;
   void stepBy(int steps) override;
 
+ signals:
+  void velocityChanged();  ///< also where value() stays what it is
+
  protected:
   void changeEvent(QEvent* event) override;
 
  private:
-  mutable std::optional<double> mTyped;  ///< in the unit shown
+  mutable std::optional<double> mExact;  ///< m/s, of the value() that it rounds to
+  double mTold = 0.0;                    ///< m/s
 
-  double shown(int metresPerSecond) const;
+  double within(double metresPerSecond) const;
+  int whole(double metresPerSecond) const;
+  double velocityOf(int metresPerSecond) const;
+  void tell();
 };
 
 }  // namespace talvesk

@@ -1,13 +1,11 @@
 #include "app/dialogs/MarkedIsolinesDialog.h"
 
 #include "app/CellWalk.h"
-#include "app/LengthText.h"
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
 #include "app/UnitWords.h"
 #include "app/dialogs/ColorField.h"
 #include "app/dialogs/LengthBox.h"
-#include "base/LengthUnit.h"
 #include "ui_MarkedIsolinesDialog.h"
 
 #include <QDoubleSpinBox>
@@ -30,10 +28,7 @@ MarkedIsolinesDialog::MarkedIsolinesDialog(const std::vector<MarkedIsoline>& iso
     : QDialog(parent), mUi(std::make_unique<Ui::MarkedIsolinesDialog>()) {
   mUi->setupUi(this);
   showUnits(*this);
-  if (lengthUnit() == LengthUnit::kFoot) {
-    mUi->explainLabel->setText(mUi->explainLabel->text().replace(
-        QStringLiteral("1500 m/s"), velocityWithUnit(1500.0, 0)));  // the same in every language
-  }
+  mUi->explainLabel->setText(inShownVelocities(mUi->explainLabel->text()));
   wrapToolTips(*this);
   mUi->isolinesTable->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
   mUi->isolinesTable->setColumnWidth(

@@ -7,6 +7,7 @@
 #include "app/Messages.h"
 #include "app/dialogs/ParameterField.h"
 #include "base/LengthUnit.h"
+#include "figures/ToldLength.h"
 #include "io/PaletteFile.h"
 #include "ui_PaletteDialog.h"
 #include "view/PaletteRepair.h"
@@ -135,10 +136,9 @@ void PaletteDialog::refreshChooser() {
 void PaletteDialog::refreshCurrent() {
   const ColorPalette& palette = mPalettes.current();
   ColorPalette shown = palette;
-  if (lengthUnit() == LengthUnit::kFoot) {  // the editor would cut what is behind the point
-    shown.min_db = std::round(shownLength(palette.min_db));
-    shown.max_db = std::round(shownLength(palette.max_db));
-  }
+  // Of feet the editor would cut what is behind the point.
+  shown.min_db = toldVelocity(palette.min_db);
+  shown.max_db = toldVelocity(palette.max_db);
   mUi->paletteEditor->setColorPalette(shown);
   const QSignalBlocker quiet(mUi->colorsSpinBox);
   mUi->colorsSpinBox->setValue(palette.n_colors);
@@ -151,10 +151,9 @@ void PaletteDialog::refreshInformation() {
   const ColorPalette& palette = mPalettes.current();
   QLocale locale;
   locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  const int digits = lengthUnit() == LengthUnit::kMetre ? 10 : 6;
   mUi->infoLabel->setText(tr("MIN: %1, MAX: %2")
-                              .arg(locale.toString(shownLength(palette.min_db), 'g', digits),
-                                   locale.toString(shownLength(palette.max_db), 'g', digits)));
+                              .arg(locale.toString(toldVelocity(palette.min_db), 'g', 10),
+                                   locale.toString(toldVelocity(palette.max_db), 'g', 10)));
 }
 
 void PaletteDialog::refreshIcon() {

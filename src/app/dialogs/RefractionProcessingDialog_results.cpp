@@ -8,6 +8,8 @@
 #include "app/dialogs/RefractionProcessingDialog.h"
 #include "app/dialogs/RefractionTexts.h"
 #include "figures/RefractionItems.h"
+#include "figures/ShownLength.h"
+#include "figures/ToldLength.h"
 #include "model/ChiSquare.h"
 #include "model/TomoDocument.h"
 #include "refraction/Course.h"
@@ -37,6 +39,11 @@ namespace {
 using namespace refractionDataStructure;
 
 constexpr double kMs = 1e3;
+
+/// A distance XY in the unit shown, as the report has it.
+QString xyText(double metres) {
+  return QLocale().toString(toldLength(metres), 'g', 6);
+}
 
 /// The colour of a layer on the paper of the plots.
 QColor shown(std::uint32_t layer) {
@@ -322,8 +329,8 @@ void RefractionProcessingDialog::showFunctions() {
         plot.back().color = faint(shown(kNoLayer), 0.6);
         plot.back().width = 1.0;
       }
-      plot.push_back(seriesOf(tr("XY = %1").arg(lengthWithUnit(lengthDigits(found.chosenXY, 6))),
-                              found.x, own, kMs));
+      plot.push_back(
+          seriesOf(tr("XY = %1").arg(withLengthUnit(xyText(found.chosenXY))), found.x, own, kMs));
       plot.back().color = strong;
       plot.back().width = 2.2;
       plot.back().symbols = true;
@@ -343,15 +350,15 @@ void RefractionProcessingDialog::fillXY(std::uint32_t refractor) {
   const XYChoice choice = findXY(mWork, refractor);
   const QLocale locale;
   combo.clear();
-  for (const double xy : kXYFamily) combo.addItem(lengthDigits(xy, 6), xy);
+  for (const double xy : kXYFamily) combo.addItem(xyText(xy), xy);
   const auto offer = [&](double xy) {
-    if (combo.findData(xy) < 0) combo.addItem(lengthDigits(xy, 6), xy);
+    if (combo.findData(xy) < 0) combo.addItem(xyText(xy), xy);
   };
   offer(chosen);
   QStringList found;
   const auto propose = [&](const XYProposal& proposal, const QString& name) {
     if (proposal.told) offer(proposal.xy);
-    found << (proposal.told ? tr("%1 at %2").arg(name, lengthWithUnit(lengthDigits(proposal.xy, 6)))
+    found << (proposal.told ? tr("%1 at %2").arg(name, withLengthUnit(xyText(proposal.xy)))
                             : tr("%1: the picks do not tell").arg(name));
   };
   propose(choice.smoothest, tr("smoothest tV"));
@@ -362,10 +369,10 @@ void RefractionProcessingDialog::fillXY(std::uint32_t refractor) {
   for (const XYTried& tried : choice.tried) {
     texts << QString();
     if (!std::isfinite(tried.roughness) || !std::isfinite(tried.unevenness)) continue;
-    texts.back() = tr("%1: tV rough by %2 ms, velocity uneven by %3 %")
-                       .arg(lengthWithUnit(lengthDigits(tried.xy, 6)),
-                            locale.toString(kMs * tried.roughness, 'f', 3),
-                            locale.toString(100.0 * tried.unevenness, 'f', 1));
+    texts.back() =
+        tr("%1: tV rough by %2 ms, velocity uneven by %3 %")
+            .arg(withLengthUnit(xyText(tried.xy)), locale.toString(kMs * tried.roughness, 'f', 3),
+                 locale.toString(100.0 * tried.unevenness, 'f', 1));
     criteria << texts.back();
   }
   mUi->xyCriteria->setChoice(choice, chosen, texts);

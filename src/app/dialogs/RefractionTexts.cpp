@@ -2,6 +2,7 @@
 
 #include "app/LengthText.h"
 #include "base/LengthUnit.h"
+#include "figures/ShownLength.h"
 #include "refraction/PlausibleResults.h"
 
 #include <QCoreApplication>
@@ -130,8 +131,8 @@ QString noShotPairText(const ShotPairReach& reach) {
   return Texts::tr(
              "At each end of the line, or beyond, there must be a shot with picks of layer 2. Such "
              "shots reach from %1 to %2, but the geophones from %3 to %4.")
-      .arg(length(reach.firstShot), lengthWithUnit(length(reach.lastShot)),
-           length(reach.firstReceiver), lengthWithUnit(length(reach.lastReceiver)));
+      .arg(length(reach.firstShot), withLengthUnit(length(reach.lastShot)),
+           length(reach.firstReceiver), withLengthUnit(length(reach.lastReceiver)));
 }
 
 }  // namespace talvesk

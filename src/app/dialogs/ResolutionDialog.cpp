@@ -7,6 +7,7 @@
 #include "app/UnitWords.h"
 #include "app/dialogs/FigureSheetWidget.h"
 #include "app/dialogs/ParameterField.h"
+#include "figures/ShownLength.h"
 #include "model/GroundModel.h"
 #include "model/SurveyFacts.h"
 #include "tomo/ForwardPass.h"
@@ -128,7 +129,7 @@ void ResolutionDialog::end() {
           : tr("Stopped: %n test(s) completed.", nullptr, static_cast<int>(report.tests.size())));
   mSheet->setNothing(tr("No test was completed."));
   for (const ResolutionResult& test : report.tests) {
-    mUi->shownBox->addItem(lengthWithUnit(lengthDigits(test.settings.size, 6)));
+    mUi->shownBox->addItem(withLengthUnit(lengthDigits(test.settings.size, 6)));
   }
   mUi->smallestLabel->setText(smallestSizes());
   enable(false);
@@ -162,11 +163,11 @@ QString ResolutionDialog::smallestSizes() const {
   QStringList words;
   const std::size_t step = std::max<std::size_t>(1, (rows + kMostDepthsTold - 1) / kMostDepthsTold);
   for (std::size_t row = 0; row < rows; row += step) {
-    const QString depth = lengthWithUnit(lengthDigits(report.smallest[row].depth, 3));
+    const QString depth = withLengthUnit(lengthDigits(report.smallest[row].depth, 3));
     const double size = report.smallest[row].size;
     words += std::isnan(size)
                  ? tr("at %1 none").arg(depth)
-                 : tr("at %1 depth %2").arg(depth, lengthWithUnit(lengthDigits(size, 3)));
+                 : tr("at %1 depth %2").arg(depth, withLengthUnit(lengthDigits(size, 3)));
   }
   return tr("Smallest size that is resolved (correlation from %1 on): %2.")
       .arg(QLocale().toString(kResolved), words.join(QStringLiteral("; ")));

@@ -7,7 +7,6 @@
 #include "app/TableTexts.h"
 #include "app/dialogs/ParameterField.h"
 #include "app/dialogs/SelectCSVDelimiterDialog.h"
-#include "base/LengthUnit.h"
 #include "io/GeometryFile.h"
 #include "io/IsovalueFile.h"
 #include "ui_contourlines_dialog.h"
@@ -32,19 +31,6 @@ constexpr const char* kValue = "isovalue";  ///< property of a field: the value 
 /// Digits of a value in feet, which has as many as one likes.
 constexpr int kDigits = 7;
 
-/// What values of a quantity are multiplied by to be shown; 1 where the unit has no length.
-double factorOf(SectionQuantity quantity) {
-  if (lengthUnit() == LengthUnit::kMetre) return 1.0;
-  if (quantity == SectionQuantity::kVelocity) return shownLength(1.0);
-  return quantity == SectionQuantity::kLaplacian ? metresOf(1.0) : 1.0;
-}
-
-QString shownUnitOf(SectionQuantity quantity) {
-  QString unit = QString::fromStdString(quantityUnit(quantity));
-  if (factorOf(quantity) != 1.0) unit.replace(QLatin1Char('m'), QLatin1String(lengthUnitName()));
-  return unit;
-}
-
 QString isovalueFilter() {
   return contourlines_dialog::tr("Isolines (*.csv)");
 }
@@ -56,7 +42,8 @@ contourlines_dialog::contourlines_dialog(const ContourSettings& settings, Sectio
     : QDialog(parent),
       mUi(std::make_unique<Ui::contourlines_dialog>()),
       mList(contourList(shown)),
-      mFactor(factorOf(contouredQuantity(shown))),
+      mQuantity(contouredQuantity(shown)),
+      mUnit(shownUnit(quantityUnit(mQuantity))),
       mRange(range),
       mFolders(folders),
       mAtFirst(settings) {
@@ -89,8 +76,10 @@ void contourlines_dialog::connectControls() {
   connect(mUi->remove_all_button, &QPushButton::clicked, this, &contourlines_dialog::removeAll);
   connect(mUi->round_button, &QPushButton::clicked, this, [this] {
     removeAll();
-    const ValueRange seen{mFactor * mRange.min, mFactor * mRange.max};
-    for (const double value : roundValues(seen, kMostRoundContours)) addRow(valueOf(value));
+    for (const double value :
+         shownRoundValues(mRange, kMostRoundContours, quantityUnit(mQuantity))) {
+      addRow(value);
+    }
     check();
   });
   for (QCheckBox* each : {mUi->profileContours, mUi->filledContours, mUi->gradientContours,
@@ -101,13 +90,17 @@ void contourlines_dialog::connectControls() {
 }
 
 void contourlines_dialog::showRange(SectionQuantity shown) {
-  const SectionQuantity contoured = contouredQuantity(shown);
-  const QString text = shown == contoured
+  const QString text = shown == mQuantity
                            ? tr("The section shows values from %1 to %2 %3")
                            : tr("What the section shows has no contours. Those of the velocity "
                                 "lie between %1 and %2 %3");
   mUi->rangeLabel->setText(
-      text.arg(limitText(mRange.min), limitText(mRange.max), shownUnitOf(contoured)));
+      text.arg(limitText(mRange.min), limitText(mRange.max), QString::fromStdString(mUnit.name)));
+  const QString inFile =
+      tr("; the file has them in %1").arg(QString::fromStdString(quantityUnit(mQuantity)));
+  for (QPushButton* button : {mUi->load_button, mUi->save_button}) {
+    button->setToolTip(button->toolTip() + inFile);
+  }
 }
 
 void contourlines_dialog::fillIn(const ContourSettings& settings) {
@@ -189,21 +182,21 @@ void contourlines_dialog::add_value() {
 QString contourlines_dialog::shownText(double value) const {
   QLocale locale;
   locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  if (mFactor != 1.0) return locale.toString(mFactor * value, 'g', kDigits);
+  if (mUnit.factor != 1.0) return locale.toString(mUnit.shown(value), 'g', kDigits);
   return locale.toString(value, 'g', QLocale::FloatingPointShortest);
 }
 
 QString contourlines_dialog::limitText(double value) const {
-  return QLocale().toString(mFactor * value, 'g', 6);
+  return QLocale().toString(mUnit.shown(value), 'g', 6);
 }
 
 /// The value of a number in the unit shown; a limit that is typed as it is told is the limit.
 double contourlines_dialog::valueOf(double shown) const {
-  if (mFactor == 1.0) return shown;
+  if (mUnit.factor == 1.0) return shown;
   for (const double limit : {mRange.min, mRange.max}) {
     if (QLocale().toDouble(limitText(limit)) == shown) return limit;
   }
-  return QString::number(shown / mFactor, 'g', 15).toDouble();
+  return QString::number(shown / mUnit.factor, 'g', 15).toDouble();
 }
 
 /// What a field has: as it was given, or what was typed.

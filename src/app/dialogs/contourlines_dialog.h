@@ -1,6 +1,7 @@
 #pragma once
 
 #include "view/SectionViewSettings.h"
+#include "view/ShownUnit.h"
 
 #include <QColor>
 #include <QDialog>
@@ -70,7 +71,8 @@ class contourlines_dialog : public QDialog {
 
   std::unique_ptr<Ui::contourlines_dialog> mUi;
   std::vector<double> ContourSettings::*const mList;  ///< that is edited
-  const double mFactor;                               ///< of what is shown
+  const SectionQuantity mQuantity;                    ///< of the list
+  const ShownUnit mUnit;                              ///< of it
   const ValueRange mRange;
   FileFolders& mFolders;
   QColor mColor;

@@ -7,6 +7,7 @@
 #include "app/ToolTips.h"
 #include "app/UnitWords.h"
 #include "app/dialogs/ParameterField.h"
+#include "figures/ShownLength.h"
 #include "model/GroundModel.h"
 #include "model/TomoDocument.h"
 #include "model/TomographyOutcome.h"
@@ -43,7 +44,7 @@ gridDialog::gridDialog(const TomoDocument& survey, const SurveyProfile& profile,
   mUi->setupUi(this);
   showUnits(*this);
   mUi->proposeCBox->setToolTip(mUi->proposeCBox->toolTip().arg(
-      lengthWithUnit(lengthText(parameters::kCellSize.limits.least))));
+      withLengthUnit(lengthText(parameters::kCellSize.limits.least))));
   wrapToolTips(*this);
   setUpField(*mUi->maxDepthEdit, parameters::kDepth);
   setUpField(*mUi->cellSizeEdit, parameters::kCellSize);
@@ -157,7 +158,7 @@ QStringList gridDialog::warningsOf(const GridPreview& preview) const {
 void gridDialog::offer(QPushButton& button, const std::optional<double>& cellSize) {
   button.setVisible(cellSize.has_value());
   if (!cellSize) return;
-  button.setText(lengthWithUnit(lengthText(*cellSize)));
+  button.setText(withLengthUnit(lengthText(*cellSize)));
   button.setProperty(kCellSize, *cellSize);
 }
 

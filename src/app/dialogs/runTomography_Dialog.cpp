@@ -20,11 +20,6 @@ constexpr int kHintLines = 2;  // that the place for the hint holds without movi
 constexpr int kFitWidth = 1000;  // a table and a plot beside the fields
 constexpr int kFitHeight = 640;
 
-int wholeNumber(double velocity) {
-  constexpr double kMost = parameters::kMaxVelocity.limits.most;
-  return std::isfinite(velocity) ? static_cast<int>(std::clamp(velocity, 0.0, kMost)) : 0;
-}
-
 }  // namespace
 
 runTomography_Dialog::runTomography_Dialog(double minVelocity, double maxVelocity, QWidget* parent)
@@ -38,16 +33,16 @@ runTomography_Dialog::runTomography_Dialog(double minVelocity, double maxVelocit
   setUpField(*mUi->minVelEdit, parameters::kMinVelocity);
   setUpField(*mUi->maxVelEdit, parameters::kMaxVelocity);
   mUi->typeOfSmoothingCBox->setCurrentIndex(parameters::kSmoothingType.initial);
-  mUi->minVelEdit->setValue(wholeNumber(minVelocity));
-  mUi->maxVelEdit->setValue(wholeNumber(maxVelocity));
+  mUi->minVelEdit->setVelocity(minVelocity);
+  mUi->maxVelEdit->setVelocity(maxVelocity);
   connect(mUi->minVelEdit, QOverload<int>::of(&QSpinBox::valueChanged), this,
           &runTomography_Dialog::checkMinWRTMax);
   connect(mUi->maxVelEdit, QOverload<int>::of(&QSpinBox::valueChanged), this,
           &runTomography_Dialog::checkMaxWRTMin);
   mUi->hintLabel->setStyleSheet(warningStyle(*this));
   mUi->hintLabel->setMinimumHeight(kHintLines * fontMetrics().lineSpacing());
-  for (QSpinBox* box : {mUi->minVelEdit, mUi->maxVelEdit}) {
-    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] { showHint(); });
+  for (VelocityBox* box : {mUi->minVelEdit, mUi->maxVelEdit}) {
+    connect(box, &VelocityBox::velocityChanged, this, [this] { showHint(); });
   }
   connect(mUi->methodBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
           [this] { showMethod(); });
@@ -95,8 +90,8 @@ TomographyParameters runTomography_Dialog::parameters() const {
   parameters.symmetric = mUi->symmetricSmoothCBox->isChecked();
   parameters.coarseToFine = mUi->coarseToFineCBox->isChecked();
   parameters.singleThread = mUi->checkBox->isChecked();
-  parameters.minVelocity = mUi->minVelEdit->value();
-  parameters.maxVelocity = mUi->maxVelEdit->value();
+  parameters.minVelocity = mUi->minVelEdit->velocity();
+  parameters.maxVelocity = mUi->maxVelEdit->velocity();
   return parameters;
 }
 
@@ -130,8 +125,8 @@ void runTomography_Dialog::setProposal(const std::optional<RunProposal>& proposa
   if (!proposal) return;
   const RunProposal values = *proposal;
   connect(mUi->proposeButton, &QPushButton::clicked, this, [this, values, gridDepth] {
-    mUi->minVelEdit->setValue(wholeNumber(values.minVelocity));
-    mUi->maxVelEdit->setValue(wholeNumber(values.maxVelocity));
+    mUi->minVelEdit->setVelocity(values.minVelocity);
+    mUi->maxVelEdit->setVelocity(values.maxVelocity);
     mUi->smooth_Edit->setValue(values.smoothing);
     mUi->proposalLabel->setText(
         tr("Rays are expected down to %1; the grid reaches %2.")
@@ -155,7 +150,7 @@ void runTomography_Dialog::showHint() {
                                        : QString());
     return;
   }
-  const bool crossed = mUi->minVelEdit->value() > mUi->maxVelEdit->value();
+  const bool crossed = mUi->minVelEdit->velocity() > mUi->maxVelEdit->velocity();
   mUi->hintLabel->setText(crossed ? tr("The minimum is above the maximum: every cell that changes "
                                        "will end at the maximum.")
                                   : QString());

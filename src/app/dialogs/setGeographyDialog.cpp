@@ -1,8 +1,8 @@
 #include "app/dialogs/setGeographyDialog.h"
 
-#include "app/LengthText.h"
 #include "app/NumberText.h"
 #include "base/LengthUnit.h"
+#include "figures/ShownLength.h"
 #include "ui_setGeographyDialog.h"
 
 #include <QLocale>
@@ -25,7 +25,7 @@ QString degrees(double value, const QString& positive, const QString& negative) 
 QString along(double metres) {
   QLocale locale;
   locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  return lengthWithUnit(locale.toString(shownLength(metres), 'f', 1));
+  return withLengthUnit(locale.toString(shownLength(metres), 'f', 1));
 }
 
 }  // namespace

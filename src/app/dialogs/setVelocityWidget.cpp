@@ -4,9 +4,6 @@
 #include "app/dialogs/ParameterField.h"
 #include "ui_setVelocityWidget.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace talvesk {
 
 setVelocityWidget::setVelocityWidget(const VelocityLayer& layer, QWidget* parent)
@@ -16,7 +13,7 @@ setVelocityWidget::setVelocityWidget(const VelocityLayer& layer, QWidget* parent
   for (LengthBox* depth : {mUi->d1Edit, mUi->d2Edit}) {
     setUpField(*depth, parameters::kLayerDepth);
   }
-  for (QSpinBox* velocity : {mUi->v1Edit, mUi->v2Edit}) {
+  for (VelocityBox* velocity : {mUi->v1Edit, mUi->v2Edit}) {
     setUpField(*velocity, parameters::kLayerVelocity);
     velocity->setMinimum(0);  // what a layer has that makes no model, of which the dialog tells
   }
@@ -25,9 +22,8 @@ setVelocityWidget::setVelocityWidget(const VelocityLayer& layer, QWidget* parent
     connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             &setVelocityWidget::lineEditModified);
   }
-  for (QSpinBox* box : {mUi->v1Edit, mUi->v2Edit}) {
-    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this,
-            &setVelocityWidget::lineEditModified);
+  for (VelocityBox* box : {mUi->v1Edit, mUi->v2Edit}) {
+    connect(box, &VelocityBox::velocityChanged, this, &setVelocityWidget::lineEditModified);
   }
   connect(mUi->checkBox, &QCheckBox::toggled, this, &setVelocityWidget::markChanged);
 }
@@ -35,22 +31,18 @@ setVelocityWidget::setVelocityWidget(const VelocityLayer& layer, QWidget* parent
 setVelocityWidget::~setVelocityWidget() = default;
 
 void setVelocityWidget::setLayer(const VelocityLayer& layer) {
-  const auto whole = [](const QSpinBox& box, double velocity) {
-    if (!std::isfinite(velocity)) return 0;
-    return static_cast<int>(std::clamp(velocity, 0.0, static_cast<double>(box.maximum())));
-  };
   mUi->d1Edit->setValue(layer.initialDepth);
-  mUi->v1Edit->setValue(whole(*mUi->v1Edit, layer.initialVelocity));
+  mUi->v1Edit->setVelocity(layer.initialVelocity);
   mUi->d2Edit->setValue(layer.finalDepth);
-  mUi->v2Edit->setValue(whole(*mUi->v2Edit, layer.finalVelocity));
+  mUi->v2Edit->setVelocity(layer.finalVelocity);
 }
 
 VelocityLayer setVelocityWidget::layer() const {
   VelocityLayer layer;
   layer.initialDepth = mUi->d1Edit->value();
-  layer.initialVelocity = mUi->v1Edit->value();
+  layer.initialVelocity = mUi->v1Edit->velocity();
   layer.finalDepth = mUi->d2Edit->value();
-  layer.finalVelocity = mUi->v2Edit->value();
+  layer.finalVelocity = mUi->v2Edit->velocity();
   return layer;
 }
 

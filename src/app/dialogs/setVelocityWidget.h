@@ -11,12 +11,13 @@ namespace Ui {
 class setVelocityWidget;
 }
 
-/// One layer of the starting model as a row of fields. Velocities are whole numbers.
+/// One layer of the starting model as a row of fields. Velocities are whole numbers of the
+/// unit shown.
 class setVelocityWidget : public QWidget {
   Q_OBJECT
 
  public:
-  /// \param layer shown; velocities are truncated
+  /// \param layer shown; velocities are truncated where metres are shown
   explicit setVelocityWidget(const VelocityLayer& layer, QWidget* parent = nullptr);
   ~setVelocityWidget() override;
 

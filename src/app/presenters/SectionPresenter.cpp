@@ -6,6 +6,7 @@
 #include "base/LengthUnit.h"
 #include "base/TextNumber.h"
 #include "figures/ProfileLines.h"
+#include "figures/ToldLength.h"
 #include "io/Survey.h"
 #include "model/ChiSquare.h"
 #include "model/GroundModel.h"
@@ -27,7 +28,7 @@ namespace {
 /// A velocity as it is offered for bands, in the unit shown.
 QString bandText(double velocity) {
   return lengthUnit() == LengthUnit::kMetre ? QString::fromStdString(exactDouble(velocity))
-                                            : QString::number(shownLength(velocity), 'g', 6);
+                                            : QString::number(toldVelocity(velocity), 'g', 6);
 }
 
 /// The velocity that was typed, m/s: one that was offered, or as it is.

@@ -232,10 +232,12 @@ void repairVelocities(std::vector<double>& velocities, Repairs& repairs) {
   }
   if (held == 0) return;
   Message text =
-      held == 1
-          ? Message::tr("velocities of %1 cell cannot be; they are held within %2 and %3 m/s")
-          : Message::tr("velocities of %1 cells cannot be; they are held within %2 and %3 m/s");
-  repairs.push_back(std::move(text).arg(held).arg(kLeastVelocity).arg(kLargestVelocity));
+      held == 1 ? Message::tr("velocities of %1 cell cannot be; they are held within %2 and %3")
+                : Message::tr("velocities of %1 cells cannot be; they are held within %2 and %3");
+  repairs.push_back(std::move(text)
+                        .arg(held)
+                        .arg(Message::velocity(kLeastVelocity))
+                        .arg(Message::velocity(kLargestVelocity)));
 }
 
 void repairResults(Interpretation& interpretation, Repairs& repairs) {

@@ -92,12 +92,13 @@ int projectReader::readRefraction_XML(const std::string& path, const TomoDocumen
   const Status status = checkInterpretation(document, interpretation, mRepairs);
   if (!status.ok()) return fail(joined(kRefractionMember, status.text()));
   if (left > 0) {
-    mRepairs.push_back(
-        joined(kRefractionMember,
-               Message::tr(
-                   "%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, "
-                   "or deeper than the line is long")
-                   .arg(left)));
+    mRepairs.push_back(joined(
+        kRefractionMember,
+        Message::tr("%1 velocities and depths of the layers are left out: outside %2 to %3, or "
+                    "deeper than the line is long")
+            .arg(left)
+            .arg(Message::velocity(kLeastVelocity))
+            .arg(Message::velocity(kGreatestVelocity))));
   }
   return 0;
 }

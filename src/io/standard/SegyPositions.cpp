@@ -219,9 +219,9 @@ class Placing {
         [](const SegyPosition& a, const SegyPosition& b) { return a.receiver.x < b.receiver.x; });
     const double length = last->receiver.x - first->receiver.x;
     if (inDegrees() || length <= kLongestLine) return;
-    warn(Message::tr("by its headers the geophones stand along %1 km; their scalar or unit is "
+    warn(Message::tr("by its headers the geophones stand along %1; their scalar or unit is "
                      "likely wrong, so check them or load a geometry file")
-             .arg(length / 1000.0));
+             .arg(Message::length(length)));
   }
 
   void takeElevations() {

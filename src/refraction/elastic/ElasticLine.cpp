@@ -33,13 +33,17 @@ std::vector<Message> elasticSummary(const ElasticLine& line) {
       return std::fabs(median) < 1e3 ? Message::number(median, digits)
                                      : Message::number(std::round(median), 15);
     };
+    const auto velocity = [&layer](Quantity quantity) {
+      const double median = layer.median(quantity);
+      return std::isfinite(median) ? Message::velocity(median, 4) : Message("-");
+    };
     lines.push_back(
         Message::tr("Layer %1, medians of %2 places: %3; %4")
             .arg(layer.layer)
             .arg(layer.points.size())
-            .arg(Message::tr("Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson's ratio %4")
-                     .arg(value(Quantity::kVp, 4))
-                     .arg(value(Quantity::kVs, 4))
+            .arg(Message::tr("Vp %1, Vs %2, Vp/Vs %3, Poisson's ratio %4")
+                     .arg(velocity(Quantity::kVp))
+                     .arg(velocity(Quantity::kVs))
                      .arg(value(Quantity::kRatio, 3))
                      .arg(value(Quantity::kPoisson, 3)))
             .arg(Message::tr("density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa")

@@ -67,8 +67,9 @@ void remarkOnDensity(const ElasticLine& line, std::vector<Message>& remarks) {
     }
   }
   if (slow == 0) return;
-  remarks.push_back(Message::tr("Gardner's rule was found for rocks faster than 1500 m/s; at %1 of "
-                                "%2 places Vp is less, and the density a guess.")
+  remarks.push_back(Message::tr("Gardner's rule was found for rocks faster than %1; at %2 of "
+                                "%3 places Vp is less, and the density a guess.")
+                        .arg(Message::velocity(DensityRule::kSlowest, 4))
                         .arg(slow)
                         .arg(all));
 }

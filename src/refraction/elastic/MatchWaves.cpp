@@ -70,7 +70,9 @@ ElasticLayer matchLayer(const LayeredWave& wave, const WaveLayer& p, const WaveL
 }
 
 Message reachOf(const WaveLayer& layer) {
-  return Message::tr("%1 to %2 m").arg(layer.x.front()).arg(layer.x.back());
+  return Message::tr("%1 to %2")
+      .arg(Message::length(layer.x.front()))
+      .arg(Message::length(layer.x.back()));
 }
 
 Status checkWave(const LayeredWave& wave, const Message& without) {

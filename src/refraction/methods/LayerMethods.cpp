@@ -96,9 +96,11 @@ void leaveOut(double length, MethodLayer& layer, std::vector<Message>& remarks) 
   if (left > 0) {
     remarks.push_back(
         Message::tr("Layer %1: no velocity and no depth at %2 receivers, where the velocity comes "
-                    "out outside 50 to 12 000 m/s.")
+                    "out outside %3 to %4.")
             .arg(layer.layer)
-            .arg(left));
+            .arg(left)
+            .arg(Message::velocity(kLeastVelocity))
+            .arg(Message::velocity(kGreatestVelocity)));
   }
   if (deep > 0) {
     remarks.push_back(Message::tr("Layer %1: no depth at %2 receivers, where it comes out deeper "

@@ -75,15 +75,12 @@ Message wordOf(LayerMethod method) {
   return {};
 }
 
-/// With two digits, and all those before the point.
-Message errorText(double error) {
-  return error < 99.5 ? Message::number(error, 2) : Message::number(std::round(error));
-}
+using Measure = Message (*)(double value, int significantDigits);
 
-/// "5.2 ± 0.3", without the error where there is none.
-Message withError(double value, double error, int digits) {
-  if (!std::isfinite(error)) return Message::number(value, digits);
-  return Message::tr("%1 ± %2").arg(Message::number(value, digits)).arg(errorText(error));
+/// "5.2 m ± 0.3 m", without the error where there is none.
+Message withError(Measure measure, double value, double error, int digits) {
+  if (!std::isfinite(error)) return measure(value, digits);
+  return Message::tr("%1 ± %2").arg(measure(value, digits)).arg(measure(error, 2));
 }
 
 Message summaryOf(LayerMethod method, const MethodLayer& layer) {
@@ -91,20 +88,21 @@ Message summaryOf(LayerMethod method, const MethodLayer& layer) {
   if (!std::isfinite(figures.velocity)) {
     return Message::tr("Layer %1, %2: nothing").arg(layer.layer).arg(wordOf(method));
   }
-  const Message velocity = withError(figures.velocity, figures.velocityError, 4);
+  const Message velocity =
+      withError(&Message::velocity, figures.velocity, figures.velocityError, 4);
   if (!std::isfinite(figures.depth)) {
-    return Message::tr("Layer %1, %2: %3 m/s, no depth")
+    return Message::tr("Layer %1, %2: %3, no depth")
         .arg(layer.layer)
         .arg(wordOf(method))
         .arg(velocity);
   }
   return Message::tr(
-             "Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 "
+             "Layer %1, %2: %3 at a depth of %4 (medians); depths at %5 of %6 "
              "geophones, %7 of them not carried by picks there")
       .arg(layer.layer)
       .arg(wordOf(method))
       .arg(velocity)
-      .arg(withError(figures.depth, figures.depthError, 3))
+      .arg(withError(&Message::length, figures.depth, figures.depthError, 3))
       .arg(figures.known)
       .arg(figures.receivers)
       .arg(figures.carried);
@@ -112,13 +110,13 @@ Message summaryOf(LayerMethod method, const MethodLayer& layer) {
 
 /// \param text with places for layer, x, least value, its method, greatest value and its method
 Message farthestApart(Message text, const MethodComparison& comparison, std::uint32_t layer,
-                      const GreatestDifference& found, int digits) {
+                      const GreatestDifference& found, Measure measure, int digits) {
   return std::move(text)
       .arg(layer)
-      .arg(comparison.results.front().receivers[found.receiver].x)
-      .arg(Message::number(found.least, digits))
+      .arg(Message::length(comparison.results.front().receivers[found.receiver].x))
+      .arg(measure(found.least, digits))
       .arg(wordOf(found.low))
-      .arg(Message::number(found.greatest, digits))
+      .arg(measure(found.greatest, digits))
       .arg(wordOf(found.high));
 }
 
@@ -160,14 +158,13 @@ std::vector<Message> comparisonDifferences(const MethodComparison& comparison,
   std::vector<Message> lines;
   if (const auto depth = greatestDifference(comparison, layer, &MethodLayer::depth)) {
     lines.push_back(farthestApart(
-        Message::tr("Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)"),
-        comparison, layer, *depth, 3));
+        Message::tr("Layer %1: depths are farthest apart at %2, from %3 (%4) to %5 (%6)"),
+        comparison, layer, *depth, &Message::length, 3));
   }
   if (const auto velocity = greatestDifference(comparison, layer, &MethodLayer::velocity)) {
     lines.push_back(farthestApart(
-        Message::tr(
-            "Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)"),
-        comparison, layer, *velocity, 4));
+        Message::tr("Layer %1: velocities are farthest apart at %2, from %3 (%4) to %5 (%6)"),
+        comparison, layer, *velocity, &Message::velocity, 4));
   }
   if (const Disagreement* disagreement = comparison.disagreement(layer)) {
     const auto count = [](const std::vector<bool>& flags) {

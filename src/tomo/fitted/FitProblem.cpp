@@ -57,9 +57,9 @@ Message FitProblem::invalid() const {
       !std::isfinite(1.0 / o.minVelocity)) {
     return Message::tr(
                "The velocity limits must be positive numbers, the least below the "
-               "greatest; %1 and %2 m/s are not.")
-        .arg(o.minVelocity)
-        .arg(o.maxVelocity);
+               "greatest; %1 and %2 are not.")
+        .arg(Message::velocity(o.minVelocity))
+        .arg(Message::velocity(o.maxVelocity));
   }
   if (o.mostIterations < 1 || (o.statics && !positive(o.triggerError))) {
     return Message::tr("The fit needs one iteration at least and a positive trigger error.");

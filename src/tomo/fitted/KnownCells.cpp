@@ -201,8 +201,10 @@ void Translator::pullColumn(const KnownBorehole& borehole, std::uint32_t column)
   const double reach = std::max(borehole.layers.back().bottom, mSide);
   for (std::size_t i = 0; i < borehole.layers.size(); ++i) {
     const KnownLayer& layer = borehole.layers[i];
-    const Message name =
-        Message::tr("%1, %2 to %3 m").arg(titleOf(borehole)).arg(layer.top).arg(layer.bottom);
+    const Message name = Message::tr("%1, %2 to %3")
+                             .arg(titleOf(borehole))
+                             .arg(Message::length(layer.top))
+                             .arg(Message::length(layer.bottom));
     const std::size_t before = mCells.pulls.size();
     mCells.conditions.push_back({name, 0.0, 0.0, 0.0, column});
     for (std::uint32_t row = 0; row < mRows; ++row) {

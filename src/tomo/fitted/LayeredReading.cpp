@@ -118,9 +118,9 @@ Message unlikely(const LayeredReading& reading, const VelocityBounds& bounds) {
       return Message::tr("the times of a refractor grow too little with offset for the bounds");
     }
     if (!(above >= kFaster * refractor.slowness)) {
-      return Message::tr("velocities of %1 and %2 m/s do not increase with depth")
-          .arg(Message::number(1.0 / above, 4))
-          .arg(Message::number(1.0 / refractor.slowness, 4));
+      return Message::tr("velocities of %1 and %2 do not increase with depth")
+          .arg(Message::velocity(1.0 / above, 4))
+          .arg(Message::velocity(1.0 / refractor.slowness, 4));
     }
     above = refractor.slowness;
   }

@@ -19,28 +19,29 @@ constexpr double kDoubt = 1.25;
 constexpr double kSameSlope = 1e-6;
 constexpr double kHuber = 1.345;  // robust deviations; 95 % as good as squares on clean data
 
+/// Whole numbers.
 Message speed(double value) {
-  return Message::number(std::round(value));
+  return Message::velocity(std::round(value), 1);
 }
 
-Message metres(double value) {
-  return Message::number(std::round(10.0 * value) / 10.0);
+Message depthText(double metres) {
+  return Message::length(std::round(10.0 * metres) / 10.0, metres < 100.0 ? 3 : 4);
 }
 
-/// "4 to 6.5": the depths along the line but for the tenth at either end.
+/// "4 m to 6.5 m": the depths along the line but for the tenth at either end.
 Message rangeOf(std::vector<double> depths) {
   std::sort(depths.begin(), depths.end());
   const std::size_t tenth = depths.size() / 10;
-  const Message least = metres(depths[tenth]);
-  const Message most = metres(depths[depths.size() - 1 - tenth]);
+  const Message least = depthText(depths[tenth]);
+  const Message most = depthText(depths[depths.size() - 1 - tenth]);
   return least == most ? least : Message::tr("%1 to %2").arg(least).arg(most);
 }
 
 Message describe(const GradientProfile& profile) {
-  return Message::tr("%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down")
+  return Message::tr("%1 at the surface, %2 where the deepest ray turns, %3 down")
       .arg(speed(profile.velocities.front()))
       .arg(speed(interpolated(profile.depths, profile.velocities, profile.deepestTurn)))
-      .arg(metres(profile.deepestTurn));
+      .arg(depthText(profile.deepestTurn));
 }
 
 Message describe(const ReferenceModel& model) {
@@ -48,7 +49,7 @@ Message describe(const ReferenceModel& model) {
   const ReferenceRefractor& first = model.refractors.front();
   if (model.kind == ReferenceKind::kThreeLayers) {
     const ReferenceRefractor& second = model.refractors.back();
-    return Message::tr("%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down")
+    return Message::tr("%1, %2 from %3 down, %4 from %5 down")
         .arg(near)
         .arg(speed(first.velocity))
         .arg(rangeOf(first.depths))
@@ -56,13 +57,13 @@ Message describe(const ReferenceModel& model) {
         .arg(rangeOf(second.depths));
   }
   if (model.kind == ReferenceKind::kOverburdenGradient) {
-    return Message::tr("%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down")
+    return Message::tr("%1 with a gradient of %2 1/s, %3 from %4 down")
         .arg(near)
-        .arg(speed(model.gradient))
+        .arg(std::round(model.gradient))
         .arg(speed(first.velocity))
         .arg(rangeOf(first.depths));
   }
-  return Message::tr("%1 m/s, %2 m/s from %3 m down")
+  return Message::tr("%1, %2 from %3 down")
       .arg(near)
       .arg(speed(first.velocity))
       .arg(rangeOf(first.depths));

@@ -46,8 +46,9 @@ ReferenceModel givenModel(ReferenceKind kind, std::vector<double> slownesses,
     slowness = std::clamp(slowness, 1.0 / bounds.greatest, 1.0 / bounds.least);
   }
   const auto [fastest, slowest] = std::minmax_element(slownesses.begin(), slownesses.end());
-  model.description =
-      Message::tr("%1 to %2 m/s").arg(std::round(1.0 / *slowest)).arg(std::round(1.0 / *fastest));
+  model.description = Message::tr("%1 to %2")
+                          .arg(Message::velocity(std::round(1.0 / *slowest), 1))
+                          .arg(Message::velocity(std::round(1.0 / *fastest), 1));
   model.slownesses = std::move(slownesses);
   return model;
 }

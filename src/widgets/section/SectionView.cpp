@@ -133,7 +133,7 @@ void SectionView::retranslate() {
   State& s = *mState;
   s.exaggeration->setLocale(QLocale());
   s.exaggerationLabel->setText(tr("Vertical exaggeration:"));
-  s.exaggeration->setToolTip(tr("How much higher than wide a metre is drawn"));
+  s.exaggeration->setToolTip(tr("How much larger heights are drawn than distances"));
   s.exaggeration->setAccessibleName(tr("Vertical exaggeration"));
   s.turn->setText(tr("Turn in 3-D"));
   s.turn->setToolTip(tr("Dragging turns the section instead of moving it"));
