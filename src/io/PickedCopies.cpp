@@ -138,12 +138,15 @@ Status putPicks(const TomoDocument& document, const Source& source, std::string&
                 std::size_t& written, std::size_t& replaced) {
   const std::string_view head = std::string_view(bytes).substr(0, 8192);
   const bool seg2 = head.substr(0, 2) == "\x55\x3A" || head.substr(0, 2) == "\x3A\x55";
-  const bool su = QString::fromStdString(source.path).endsWith(".su", Qt::CaseInsensitive);
-  const bool seed =
+  const std::string& format =
       noteOf(*document.recordings,
              static_cast<std::size_t>(document.ttArray[source.records.begin()->second].traceSetID))
-          .format == "mseed";
-  if (seed) return Status::failure(Message::tr("miniSEED has no headers for picks"));
+          .format;
+  if (format == "mseed") return Status::failure(Message::tr("miniSEED has no headers for picks"));
+  // By its content, where that has decided what it is; not all SU files are named so.
+  const bool su = format.empty()
+                      ? QString::fromStdString(source.path).endsWith(".su", Qt::CaseInsensitive)
+                      : format == "su";
   HeaderPicks picks;
   Status status = picksOf(document, source, bytes, !seg2, picks);
   if (!status.ok()) return status;

@@ -1,5 +1,6 @@
 #include "io/PickHeaders.h"
 #include "io/PickedCopies.h"
+#include "io/ShotFileFields.h"
 #include "io/ShotLoader.h"
 #include "io/standard/StandardReader.h"
 #include "model/Mending.h"
@@ -217,6 +218,29 @@ TEST_F(Copies, keepRecordsOfOneFileApart) {
   for (const auto& [t, time] : {std::pair(0, 0), {1, 0}, {2, 1300}, {3, 1400}}) {
     EXPECT_EQ(bytes.substr(3600 + t * trace + 232, 4), integerBytes(time, 4, segy.order)) << t;
   }
+}
+
+TEST_F(Copies, knowSuByItsContentWhateverItIsCalled) {
+  StandardSegy su;
+  su.traces.resize(2);
+  for (std::size_t t = 0; t < 2; ++t) {
+    su.traces[t].samples = {1.0, 2.0, 3.0};
+    su.traces[t].fields = {{9, 4, 1}, {13, 4, static_cast<int>(t) + 1}};
+  }
+  load({in.put("line.first", standardSuBytes(su))}, ShotReader::kStandard);
+  ASSERT_EQ(document.ttArray.size(), 1U);
+  pick(0, {0.0011, kUnpicked});
+  ASSERT_TRUE(writePickedCopies(document, out.path(), notes).ok());
+  EXPECT_THAT(notes, IsEmpty());
+  const std::string bytes = TestFolder::get(target("line.first"));
+  EXPECT_EQ(bytes.substr(232, 4), integerBytes(1100, 4, su.order));
+  // And the table of trace headers shows what stands there.
+  ShotFileFields fields;
+  ASSERT_TRUE(readShotFileFields(bytes, "line.first", fields).ok());
+  ASSERT_EQ(fields.traces.size(), 2U);
+  EXPECT_EQ(fields.traces[0].back().name, "bytes 233 to 236");
+  EXPECT_EQ(fields.traces[0].back().value, "1100");
+  EXPECT_EQ(fields.traces[1].back().value, "0");
 }
 
 TEST_F(Copies, areNeverWrittenOverTheFilesOfTheSurvey) {
