@@ -80,6 +80,9 @@ void SectionPaperLayout::flow(const SectionDress& dress, std::vector<LegendEntry
   double x = left;
   double y = 0.0;
   for (LegendEntry& entry : entries) {
+    // A name that no row has room for gives up its middle, and keeps the velocity at its end.
+    entry.text = metrics.elidedText(entry.text, Qt::ElideMiddle,
+                                    std::max(right - left - kSymbol - kSymbolGap, 0.0));
     const double width = kSymbol + kSymbolGap + metrics.horizontalAdvance(entry.text);
     if (x > left && x + width > right) {
       x = left;
