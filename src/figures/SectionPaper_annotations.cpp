@@ -104,20 +104,20 @@ void SectionPaperPainter::paintAreas() {
 /// A text of an annotation. It stands where the user put it, whatever lies below; at the edge of
 /// the plot it gives way, so that all of it is read.
 void SectionPaperPainter::putNote(const Annotation& item, const QPointF& middle) {
-  if (item.text.empty()) return;
+  if (item.text.empty() || !mPlot.contains(middle)) return;
   mPainter.save();
   mPainter.setFont(fontOf(mDress.font, item.textSize));
-  const QString text = QString::fromStdString(item.text);
+  const QString text =
+      QFontMetricsF(mPainter.font())
+          .elidedText(QString::fromStdString(item.text), Qt::ElideRight, mPlot.width() - 4.0);
   const QRectF outline = outlineOf(text, middle, 0.0).boundingRect().adjusted(-2, 0, 2, 0);
-  if (mPlot.intersects(outline)) {
-    const QPointF shift = mPlot.contains(middle) ? intoRoom(outline, mPlot) : QPointF();
-    mPainter.setPen(Qt::NoPen);
-    mPainter.setBrush(QColor(255, 255, 255, 190));
-    mPainter.drawRect(outline.translated(shift));
-    mPainter.setBrush(Qt::NoBrush);
-    mPainter.setPen(QColor(QRgb(item.color)));
-    put(text, middle + shift);
-  }
+  const QPointF shift = intoRoom(outline, mPlot);
+  mPainter.setPen(Qt::NoPen);
+  mPainter.setBrush(QColor(255, 255, 255, 190));
+  mPainter.drawRect(outline.translated(shift));
+  mPainter.setBrush(Qt::NoBrush);
+  mPainter.setPen(QColor(QRgb(item.color)));
+  put(text, middle + shift);
   mPainter.restore();
 }
 

@@ -69,7 +69,7 @@ struct SectionPaperLayout {
 
  private:
   void flow(const SectionDress& dress, std::vector<LegendEntry> entries, const QStringList& facts,
-            double left, double right);
+            double left, double right, double most);
   double mRows = 0.0;  ///< of words
 };
 
