@@ -259,6 +259,23 @@ TEST_F(Copies, areNeverWrittenOverTheFilesOfTheSurvey) {
   EXPECT_FALSE(writePickedCopies(TomoDocument(), out.path(), notes).ok());
 }
 
+/// A project brings its recordings along, and does not know where they came from.
+TEST_F(Copies, areNeverWrittenOverTheFilesThatAProjectWasMadeFrom) {
+  load({in.put("a.sg2", seg2File()), in.put("b.sg2", seg2File())}, ShotReader::kRules);
+  pick(0, {0.02, 0.02, 0.03});
+  out.put("a.sg2", seg2File());
+  EXPECT_THAT(writePickedCopies(document, out.path(), notes).message(),
+              HasSubstr("choose another folder"));
+  EXPECT_EQ(TestFolder::get(target("a.sg2")), seg2File());
+  EXPECT_EQ(out.entries(), 1) << "nothing is written when one is in the way";
+  // Copies that were made before may be made anew, with picks or without.
+  QFile::remove(QString::fromStdString(target("a.sg2")));
+  ASSERT_TRUE(writePickedCopies(document, out.path(), notes).ok());
+  pick(0, {0.02, 0.02, 0.04});
+  ASSERT_TRUE(writePickedCopies(document, out.path(), notes).ok());
+  EXPECT_THAT(TestFolder::get(target("a.sg2")), HasSubstr("FIRST_BREAK 0.038000"));
+}
+
 TEST_F(Copies, leaveOutAndNameWhatCannotTakePicks) {
   load({in.put("mixed.sg2", seg2File(ByteOrder::kLittle, 2))}, ShotReader::kStandard);
   const std::size_t shots = document.ttArray.size();
