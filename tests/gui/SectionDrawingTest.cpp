@@ -380,6 +380,10 @@ TEST_F(SectionDrawing, standsLinesInAFenceAndSaysWhatHasNoPlace) {
     EXPECT_THAT(part<QLabel>(dialog, "leftOutLabel").text().toStdString(),
                 HasSubstr("other (2): it stands in the fence already"));
     part<QPushButton>(dialog, "removeButton").click();
+    const QImage plain = dialog.picture();
+    part<QDoubleSpinBox>(dialog, "exaggerationSpin").setValue(2.0);
+    const QRect corner(0, plain.height() - 30, 120, 30);
+    EXPECT_NE(dialog.picture().copy(corner), plain.copy(corner)) << "it says so";
     const double before = fence.camera().azimuth;
     QTest::keyClick(dialog.findChild<FenceView*>(), Qt::Key_Right);
     EXPECT_NE(fence.camera().azimuth, before);

@@ -1,9 +1,12 @@
 #include "widgets/fence/FenceView.h"
 
+#include "figures/FigureWords.h"
 #include "view/FenceFrame.h"
 #include "widgets/fence/FenceLabels.h"
 
+#include <QFontMetricsF>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPolygonF>
@@ -146,6 +149,11 @@ void FenceView::Parts::paintWords(QPainter& painter) const {
   paintFenceNorth(painter, camera);
   paintFenceAxes(painter, axes, [this](const FencePoint& p) { return toPicture(p); });
   paintNames(painter);
+  if (camera.exaggeration != 1.0) {
+    const QString note = FigureWords::exaggeration(camera.exaggeration, QLocale());
+    const double width = QFontMetricsF(painter.font()).horizontalAdvance(note);
+    paintFenceName(painter, note, {14.0 + 0.5 * width, canvas->height() - 16.0});
+  }
   paintFenceBar(painter, colors, canvas->size());
 }
 
