@@ -169,16 +169,19 @@ QString isolineName(const MarkedIsoline& mark, const QLocale& locale) {
   return velocityOf(mark, locale);
 }
 
-namespace {
-
-LegendEntry legendOf(const DrawnIsoline& isoline, const QLocale& locale) {
+QString isolineText(const DrawnIsoline& isoline, const QLocale& locale) {
   QString text = isolineName(isoline.mark, locale);
   if (!isoline.mark.name.empty()) {
     text = FigureWords::tr("%1: %2").arg(text, velocityOf(isoline.mark, locale));
   }
-  if (isoline.lines.empty()) text = FigureWords::tr("%1 (not reached)").arg(text);
+  return isoline.lines.empty() ? FigureWords::tr("%1 (not reached)").arg(text) : text;
+}
+
+namespace {
+
+LegendEntry legendOf(const DrawnIsoline& isoline, const QLocale& locale) {
   const QPen pen = penOf(isoline.mark.color, isoline.mark.width);
-  return {text, [pen](QPainter& painter, const QPointF& middle) {
+  return {isolineText(isoline, locale), [pen](QPainter& painter, const QPointF& middle) {
             painter.setPen(pen);
             painter.drawLine(middle - QPointF(9, 0), middle + QPointF(9, 0));
           }};
