@@ -54,11 +54,11 @@ AxisTicks section_paper::barTicks(const SectionScene& scene, const ColorTable& c
 
 namespace {
 
-constexpr double kSmallWindow = 14.0;    ///< lines; too low for legend and title
-constexpr double kLowWindow = 24.0;      ///< lines; too low for more caption than the exaggeration
-constexpr double kNarrowWindow = 26.0;   ///< lines; too narrow for a colour bar
-constexpr double kRowHeight = 1.3;       ///< lines
-constexpr double kMostOfWindow = 0.35;   ///< of its height, for the words below the section
+constexpr double kSmallWindow = 14.0;     ///< lines; too low for legend and title
+constexpr double kLowWindow = 24.0;       ///< lines; too low for more caption than the exaggeration
+constexpr double kNarrowWindow = 26.0;    ///< lines; too narrow for a colour bar
+constexpr double kRowHeight = 1.3;        ///< lines
+constexpr double kMostOfWindow = 0.35;    ///< of its height, for the words below the section
 constexpr double kNarrowestEntry = 0.25;  ///< of a row, for an entry of the legend
 constexpr double kWordGap = 18.0;
 
