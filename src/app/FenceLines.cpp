@@ -50,9 +50,23 @@ class ToFence {
   std::unique_ptr<GeoTransformer> mFence;
 };
 
+/// Why metres along a line are none of its system; empty where they are, or nobody knows.
+QString whyNotInMetres(std::int32_t epsg) {
+  const GeoTransformer system(epsg);
+  switch (system.status().code()) {
+    case kNotProjected:
+    case kNotInMetres:
+    case kCountsBackward:
+      return textOf(system.status().text());
+    default:
+      return {};
+  }
+}
+
 /// Why a line has no place on the map; empty when it has one.
 QString whyNowhere(const TomoDocument& document) {
   if (!document.map->geoCoord_isSet) return FenceWords::tr("it has no position on the map");
+  if (QString why = whyNotInMetres(document.map->geoCoord.CRS); !why.isEmpty()) return why;
   if (!lineEnds(document)) return FenceWords::tr("it has no geophones");
   const double length = LinePlacement(document.map->geoCoord, courseOf(document)).length();
   if (!(length > 0.0) || !std::isfinite(length)) {
@@ -82,15 +96,18 @@ QString whyNot(const FenceLine& line, std::int32_t fence, FenceScene& scene) {
 
 FenceScene fenceOf(const std::vector<FenceLine>& lines, FenceNotes& notes) {
   FenceScene scene;
+  QStringList standing;  // two sheets in one place flicker, and one of them is not seen
   std::optional<std::int32_t> fence;
   for (const FenceLine& line : lines) {
     const std::int32_t own = line.document.map->geoCoord.CRS;
-    QString why = whyNowhere(line.document);
+    QString why = standing.contains(line.path) ? FenceWords::tr("it stands in the fence already")
+                                               : whyNowhere(line.document);
     if (why.isEmpty()) why = whyNot(line, fence.value_or(own), scene);
     if (!why.isEmpty()) {
       notes.leftOut << FenceWords::tr("%1: %2", "line, why").arg(line.name, why);
       continue;
     }
+    if (!line.path.isEmpty()) standing << line.path;
     if (!fence) fence = own;
     if (own != *fence) {
       notes.converted << FenceWords::tr("%1 from EPSG:%2 to EPSG:%3", "line, systems")

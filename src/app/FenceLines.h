@@ -13,6 +13,7 @@ namespace talvesk {
 struct FenceLine {
   QString name;
   TomoDocument document;
+  QString path{};  ///< of its project, canonical; empty where it is in none
 };
 
 /// What users are told of lines that do not stand in a fence as their projects have them, a text

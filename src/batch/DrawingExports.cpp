@@ -53,8 +53,8 @@ std::vector<OutputFile> filesOf(const DrawingExports& exports) {
 std::vector<CLI::Option*> addDrawingExports(CLI::App& command, DrawingExports& exports) {
   CLI::Option* dxf = mustEndIn(
       addPath(command, "--dxf", exports.dxf,
-              "Surface, isolines, refractors, geophones and shots as a drawing in metres, distance "
-              "to the right and elevation up, named *.dxf")
+              "Surface, isolines, refractors, geophones, shots and annotations as a drawing in "
+              "metres, distance to the right and elevation up, named *.dxf")
           ->group(kGroup),
       {".dxf"}, true);
   CLI::Option* dxfOnMap = command

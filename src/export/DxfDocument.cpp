@@ -1,6 +1,7 @@
 #include "export/DxfDocument.h"
 
 #include "base/AtomicFile.h"
+#include "export/DxfColor.h"
 
 #include <QString>
 #include <algorithm>
@@ -93,6 +94,7 @@ void DxfDocument::put(int code, double value) {
 void DxfDocument::begin(const char* entity) {
   put(0, entity);
   put(8, mLayers[mLayer].name);
+  if (mColor) put(62, std::to_string(*mColor));
 }
 
 void DxfDocument::putPlace(const DxfPoint& place) {
@@ -109,6 +111,11 @@ void DxfDocument::useLayer(const std::string& name, int color) {
                                   [&](const Layer& layer) { return layer.name == plain; });
   mLayer = static_cast<std::size_t>(known - mLayers.begin());
   if (known == mLayers.end()) mLayers.push_back({plain, color});
+  mColor.reset();
+}
+
+void DxfDocument::useColor(std::uint32_t rgb) {
+  mColor = nearestDxfColor(rgb);
 }
 
 void DxfDocument::addLine(const std::vector<DxfPoint>& points, bool closed) {
@@ -134,18 +141,26 @@ void DxfDocument::addPoint(const DxfPoint& place) {
 }
 
 void DxfDocument::addText(const DxfPoint& place, double height, const std::string& text,
-                          double east, double north) {
+                          double east, double north, DxfAnchor anchor) {
+  // In space a text lies in a plane of its own, given by the normal; its place is in axes of that
+  // plane: along the line, up, and towards who looks at it from the right hand of the line.
+  const DxfPoint inPlane =
+      mFlat ? place
+            : DxfPoint{place.x * east + place.y * north, place.z, place.x * north - place.y * east};
   begin("TEXT");
   if (mFlat) {
     putPlace(place);
   } else {
-    // A text lies in a plane of its own, given by the normal; its place is in axes of that plane:
-    // along the line, up, and towards who looks at it from the right hand of the line.
-    mEntities +=
-        pointGroups({place.x * east + place.y * north, place.z, place.x * north - place.y * east});
+    mEntities += pointGroups(inPlane);
   }
   put(40, height);
   put(1, dxfText(text));
+  if (anchor == DxfAnchor::kMiddle) {
+    put(72, "4");
+    put(11, inPlane.x);
+    put(21, inPlane.y);
+    put(31, inPlane.z);
+  }
   if (mFlat) return;
   std::array<char, 40> digits;
   const double normal[] = {north, -east, 0.0};

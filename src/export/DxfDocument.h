@@ -3,6 +3,8 @@
 #include "base/Status.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +16,9 @@ struct DxfPoint {
   double y = 0.0;
   double z = 0.0;
 };
+
+/// Where a text begins, or its middle.
+enum class DxfAnchor { kStart, kMiddle };
 
 /// A drawing in DXF of release 12, which every program that knows the format reads, as ASCII text.
 /// Put together in memory and written in one go. One drawing unit is a metre; numbers have tenths
@@ -27,13 +32,16 @@ class DxfDocument {
   /// the rest becomes "_"; at most 31 characters. \param color of the AutoCAD colour index, 1 to
   /// 255
   void useLayer(const std::string& name, int color);
+  /// A colour of its own for what follows in this layer, the nearest of the index. \param rgb
+  /// 0xRRGGBB
+  void useColor(std::uint32_t rgb);
   void addLine(const std::vector<DxfPoint>& points, bool closed);  ///< nothing for fewer than two
   void addPoint(const DxfPoint& place);
   /// Text that reads along a direction, upright in space or in the plane of a flat drawing. \param
   /// text UTF-8, of which a line is left \param east, north unit vector of the direction; of no
-  /// meaning in a flat drawing
+  /// meaning in a flat drawing \param anchor which point of the text is at the place
   void addText(const DxfPoint& place, double height, const std::string& text, double east = 1.0,
-               double north = 0.0);
+               double north = 0.0, DxfAnchor anchor = DxfAnchor::kStart);
 
   /// How large points are shown, metres.
   void setPointSize(double size) { mPointSize = size; }
@@ -57,6 +65,7 @@ class DxfDocument {
   double mPointSize = 1.0;
   std::vector<Layer> mLayers;
   std::size_t mLayer = 0;
+  std::optional<int> mColor;  ///< in place of that of the layer
   std::string mEntities;
   bool mAny = false;
   DxfPoint mLeast;

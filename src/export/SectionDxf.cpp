@@ -1,11 +1,14 @@
 #include "export/SectionDxf.h"
 
 #include "base/TextNumber.h"
+#include "export/DxfColor.h"
 #include "export/DxfDocument.h"
 #include "export/ExportFailure.h"
 #include "export/LineOnMap.h"
 #include "model/TomoDocument.h"
+#include "view/LabelPlace.h"
 
+#include <QString>
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -21,6 +24,20 @@ constexpr int kShotColor = 1;          // red
 constexpr int kSlowest = 170;          // blue, of the hues that go by tens
 constexpr int kHues = 16;              // from there down to red
 constexpr int kRefractors[] = {5, 6};  // blue, magenta
+
+/// By what is drawn; areas by the name of their ground.
+std::string annotationLayer(const Annotation& item) {
+  switch (item.kind) {
+    case AnnotationKind::kText:
+      return "ANNOTATION_TEXT";
+    case AnnotationKind::kLine:
+      return "ANNOTATION_LINE";
+    case AnnotationKind::kPolygon:
+      break;
+  }
+  if (item.pattern == Lithology::kNone) return "ANNOTATION_AREA";
+  return "GROUND_" + QString::fromStdString(nameOf(item.pattern).english()).toUpper().toStdString();
+}
 
 constexpr double kLettersPerLine = 120.0;  ///< heights of a text in the length of the line
 
@@ -43,7 +60,9 @@ class Drawing {
       line(mScene.coverageLimit);
     }
     putIsolines();
+    putMarkedIsolines();
     putRefractors();
+    for (const Annotation& item : mScene.annotations.items) putAnnotation(item);
     putPoints("GEOPHONES", kGeophoneColor, mScene.geophones);
     putPoints("SHOTS", kShotColor, mScene.shots);
     return mDxf.write(path);
@@ -63,9 +82,10 @@ class Drawing {
     mDxf.addLine(corners, closed);
   }
 
-  void text(const Point2D& place, double height, const std::string& words) {
+  void text(const Point2D& place, double height, const std::string& words,
+            DxfAnchor anchor = DxfAnchor::kStart) {
     const MapPoint along = mMap ? mMap->direction(place.x) : MapPoint{1.0, 0.0};
-    mDxf.addText(placed(place), height, words, along.easting, along.northing);
+    mDxf.addText(placed(place), height, words, along.easting, along.northing, anchor);
   }
 
   void putTitle() {
@@ -86,13 +106,40 @@ class Drawing {
       const std::string value = formatDouble(isoline.value, 10);
       mDxf.useLayer("ISOLINE_" + value,
                     kSlowest - 10 * static_cast<int>(std::lround(kHues * rank)));
-      line(isoline.points, isoline.closed);
-      const auto ends =
-          std::minmax_element(isoline.points.begin(), isoline.points.end(),
-                              [](const Point2D& a, const Point2D& b) { return a.x < b.x; });
-      if (ends.second->x - ends.first->x < 8.0 * mHeight) continue;
-      text(isoline.points[isoline.points.size() / 2], mHeight, value + " m/s");
+      putIsoline(isoline, value + " m/s");
     }
+  }
+
+  void putIsoline(const ContourLine& isoline, const std::string& name) {
+    line(isoline.points, isoline.closed);
+    const auto ends =
+        std::minmax_element(isoline.points.begin(), isoline.points.end(),
+                            [](const Point2D& a, const Point2D& b) { return a.x < b.x; });
+    if (ends.second->x - ends.first->x < 8.0 * mHeight) return;
+    text(isoline.points[isoline.points.size() / 2], mHeight, name);
+  }
+
+  void putMarkedIsolines() {
+    for (const DrawnIsoline& isoline : mScene.annotations.isolines) {
+      if (isoline.lines.empty()) continue;
+      const MarkedIsoline& mark = isoline.mark;
+      const std::string value = formatDouble(mark.velocity, 10);
+      mDxf.useLayer("MARKED_ISOLINE_" + value, nearestDxfColor(mark.color));
+      mDxf.useColor(mark.color);
+      const std::string name = mark.name.empty() ? std::string() : mark.name + ": ";
+      for (const ContourLine& piece : isoline.lines) putIsoline(piece, name + value + " m/s");
+    }
+  }
+
+  void putAnnotation(const Annotation& item) {
+    mDxf.useLayer(annotationLayer(item), kBlackOrWhite);
+    mDxf.useColor(item.color);
+    if (item.kind != AnnotationKind::kText) {
+      line(item.points, item.kind == AnnotationKind::kPolygon);
+    }
+    if (item.text.empty()) return;
+    const double height = mHeight * item.textSize / Annotation().textSize;
+    text(labelPlace(item), height, item.text, DxfAnchor::kMiddle);
   }
 
   void putRefractors() {

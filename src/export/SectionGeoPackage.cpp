@@ -6,6 +6,8 @@
 #include "model/SurveyLine.h"
 #include "model/TomoDocument.h"
 
+#include <algorithm>
+
 namespace talvesk {
 namespace {
 
@@ -48,6 +50,14 @@ class Layers {
     return corners;
   }
 
+  /// Of the marked isoline of a velocity; empty where it is none.
+  std::string nameOf(double velocity) const {
+    for (const MarkedIsoline& mark : mDocument.annotations->isolines) {
+      if (mark.velocity == velocity && !mark.name.empty()) return mark.name;
+    }
+    return {};
+  }
+
   void putLine() {
     mFile.addLayer("line", "Ground surface along the seismic line", Geometry::kLine,
                    {{"title", Type::kText}, {"length_m", Type::kReal}});
@@ -83,11 +93,11 @@ class Layers {
 
   void putIsolines() {
     mFile.addLayer("isolines", "Lines of equal velocity in the section", Geometry::kLine,
-                   {{"velocity_m_s", Type::kReal}});
+                   {{"velocity_m_s", Type::kReal}, {"name", Type::kText}});
     for (const ContourLine& isoline : mScene.contours) {
       std::vector<GeoPackageVertex> corners = placed(isoline.points);
       if (isoline.closed && !corners.empty()) corners.push_back(corners.front());
-      mFile.addFeature(corners, {isoline.value});
+      mFile.addFeature(corners, {isoline.value, nameOf(isoline.value)});
     }
   }
 
@@ -107,10 +117,11 @@ class Layers {
                    {{"distance_m", Type::kReal},
                     {"surface_m", Type::kReal},
                     {"velocity_m_s", Type::kReal},
-                    {"depth_m", Type::kReal}});
+                    {"depth_m", Type::kReal},
+                    {"name", Type::kText}});
     for (const IsovalueDepth& at : isovalueDepths(mScene)) {
       mFile.addFeature({placed(Point2D{at.x, at.surface - at.depth})},
-                       {at.x, at.surface, at.velocity, at.depth});
+                       {at.x, at.surface, at.velocity, at.depth, nameOf(at.velocity)});
     }
   }
 
@@ -120,12 +131,24 @@ class Layers {
   GeoPackage mFile;
 };
 
+/// The isovalues with those that the user has marked, as far as there is room for more.
+DrawingOptions withMarks(DrawingOptions options, const TomoDocument& document) {
+  std::vector<double>& values = options.isovalues;
+  for (const MarkedIsoline& mark : document.annotations->isolines) {
+    const bool known = std::find(values.begin(), values.end(), mark.velocity) != values.end();
+    if (!known && values.size() < SectionSceneOptions::kMaxContours)
+      values.push_back(mark.velocity);
+  }
+  return options;
+}
+
 }  // namespace
 
 Status writeSectionGeoPackage(const std::string& path, const TomoDocument& document,
                               const DrawingOptions& options) {
   SectionScene scene;
-  if (const Status status = buildDrawing(document, options, scene); !status.ok()) {
+  if (const Status status = buildDrawing(document, withMarks(options, document), scene);
+      !status.ok()) {
     return cannotWrite(path, status.text());
   }
   const LineOnMap map(document);

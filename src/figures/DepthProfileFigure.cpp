@@ -6,7 +6,6 @@
 #include "figures/FigureWords.h"
 #include "figures/ShownLength.h"
 #include "view/AxisTicks.h"
-#include "view/ShownUnit.h"
 
 #include <QByteArray>
 #include <QFontMetricsF>
@@ -16,6 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <vector>
 
 namespace talvesk {
@@ -184,12 +184,32 @@ class ProfilePainter {
     }
   }
 
+  /// Whether the numbers of an axis stand clear of each other.
+  bool standClear(const AxisTicks& ticks, const Panel& panel, const QRectF& area) const {
+    double end = -std::numeric_limits<double>::infinity();
+    for (const double value : ticks.major) {
+      const QString text = number(value * ticks.factor, ticks.decimals);
+      const double half = 0.5 * mMetrics.horizontalAdvance(text);
+      const double middle = xOf(panel, area, value);
+      if (middle - half < end + 0.4 * mLine) return false;
+      end = middle + half;
+    }
+    return true;
+  }
+
+  /// As many as have room beside each other.
+  AxisTicks valueTicks(const Panel& panel, const QRectF& area) const {
+    constexpr int kMost = 10;
+    AxisTicks ticks;
+    for (int most = kMost; most > 0; --most) {
+      ticks = shownTicks(panel.range.min, panel.range.max, most, panel.unit);
+      if (standClear(ticks, panel, area)) break;
+    }
+    return ticks;
+  }
+
   void paintValues(const Panel& panel, const QRectF& area) {
-    const QString widest =
-        number(shownUnit(panel.unit).shown(panel.range.max), 0) + QStringLiteral("..");
-    const double spacing = mMetrics.horizontalAdvance(widest) + 1.2 * mLine;
-    const int most = std::max(static_cast<int>(area.width() / spacing), 1);
-    const AxisTicks ticks = shownTicks(panel.range.min, panel.range.max, most, panel.unit);
+    const AxisTicks ticks = valueTicks(panel, area);
     mPainter.setPen(QPen(Qt::black, 1.0));
     for (const double value : ticks.minor) {
       const double x = xOf(panel, area, value);

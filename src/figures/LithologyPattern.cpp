@@ -1,5 +1,7 @@
 #include "figures/LithologyPattern.h"
 
+#include "view/LabelPlace.h"
+
 #include <QLineF>
 #include <QPainter>
 #include <QPen>
@@ -41,17 +43,11 @@ Raster rasterOf(Lithology pattern) {
   return {1.0, 1.0, 0.0};
 }
 
-/// Where a level line is inside a polygon: pairs of x, ascending; even-odd, as it is filled.
-std::vector<double> crossings(const QPolygonF& area, double y) {
-  std::vector<double> xs;
-  for (int i = 0; i < area.size(); ++i) {
-    const QPointF& a = area[i];
-    const QPointF& b = area[(i + 1) % area.size()];
-    if ((a.y() <= y) == (b.y() <= y)) continue;
-    xs.push_back(a.x() + (y - a.y()) / (b.y() - a.y()) * (b.x() - a.x()));
-  }
-  std::sort(xs.begin(), xs.end());
-  return xs;
+std::vector<Point2D> pointsOf(const QPolygonF& area) {
+  std::vector<Point2D> points;
+  points.reserve(static_cast<std::size_t>(area.size()));
+  for (const QPointF& p : area) points.push_back({p.x(), p.y()});
+  return points;
 }
 
 /// Gathers the signs, for painting many at once is what makes them quick.
@@ -125,12 +121,13 @@ void paintLithology(QPainter& painter, const QPolygonF& area, Lithology pattern,
   if (pattern == Lithology::kNone || seen.isEmpty()) return;
   const Raster raster = rasterOf(pattern);
   Signs signs(pattern, raster);
+  const std::vector<Point2D> corners = pointsOf(area);
   const auto yOf = [&](long row) { return origin.y() + static_cast<double>(row) * raster.dy; };
   auto row = static_cast<long>(std::ceil((seen.top() - origin.y()) / raster.dy));
   for (; yOf(row) <= seen.bottom(); ++row) {
     const double start = origin.x() + (row % 2 != 0 ? 0.5 * raster.dx : 0.0);
     const auto xOf = [&](long column) { return start + static_cast<double>(column) * raster.dx; };
-    const std::vector<double> xs = crossings(area, yOf(row));
+    const std::vector<double> xs = crossings(corners, yOf(row));
     for (std::size_t i = 0; i + 1 < xs.size(); i += 2) {
       const double left = std::max(xs[i], seen.left()) + raster.halfWidth;
       const double right = std::min(xs[i + 1], seen.right()) - raster.halfWidth;

@@ -54,10 +54,12 @@ AxisTicks section_paper::barTicks(const SectionScene& scene, const ColorTable& c
 
 namespace {
 
-constexpr double kSmallWindow = 14.0;   ///< lines; too low for legend and title
-constexpr double kLowWindow = 24.0;     ///< lines; too low for more caption than the exaggeration
-constexpr double kNarrowWindow = 26.0;  ///< lines; too narrow for a colour bar
-constexpr double kRowHeight = 1.3;      ///< lines
+constexpr double kSmallWindow = 14.0;     ///< lines; too low for legend and title
+constexpr double kLowWindow = 24.0;       ///< lines; too low for more caption than the exaggeration
+constexpr double kNarrowWindow = 26.0;    ///< lines; too narrow for a colour bar
+constexpr double kRowHeight = 1.3;        ///< lines
+constexpr double kMostOfWindow = 0.35;    ///< of its height, for the words below the section
+constexpr double kNarrowestEntry = 0.25;  ///< of a row, for an entry of the legend
 constexpr double kWordGap = 18.0;
 
 /// The widest number that the elevation axis must have room for.
@@ -72,14 +74,19 @@ double elevationWidth(const SectionExtent& extent, const SectionDress& dress,
 }  // namespace
 
 /// Sets words one after the other and begins a row where the next has no room. The caption follows
-/// in the last row when all of it fits, else in rows of its own.
+/// in the last row when all of it fits, else in rows of its own. \param most how wide an entry may
+/// be, as a part of a row
 void SectionPaperLayout::flow(const SectionDress& dress, std::vector<LegendEntry> entries,
-                              const QStringList& facts, double left, double right) {
+                              const QStringList& facts, double left, double right, double most) {
+  words.clear();
   const QFontMetricsF metrics(dress.font);
   const double rowHeight = kRowHeight * metrics.height();
   double x = left;
   double y = 0.0;
   for (LegendEntry& entry : entries) {
+    // A name that there is no room for gives up its middle, and keeps the velocity at its end.
+    entry.text = metrics.elidedText(entry.text, Qt::ElideMiddle,
+                                    std::max(most * (right - left) - kSymbol - kSymbolGap, 0.0));
     const double width = kSymbol + kSymbolGap + metrics.horizontalAdvance(entry.text);
     if (x > left && x + width > right) {
       x = left;
@@ -138,7 +145,13 @@ SectionPaperLayout::SectionPaperLayout(const SectionScene& scene, const SectionE
       facts = FigureWords::certaintyWarnings(scene, dress.locale);
       if (factor != 1.0) facts << FigureWords::exaggeration(factor, dress.locale);
     }
-    flow(dress, sectionLegend(scene, dress), facts, left, size.width() - kGap);
+    // In a window the section is what is looked at, and not a legend of long names.
+    const double room = kMostOfWindow * size.height() / (kRowHeight * line);
+    double part = 1.0;
+    do {
+      flow(dress, sectionLegend(scene, dress), facts, left, size.width() - kGap, part);
+      part *= 0.7;
+    } while (dress.mayShrink && mRows > room && part > kNarrowestEntry);
   }
   const double wordsHeight = mRows > 0.0 ? kGap + mRows * kRowHeight * line : 0.0;
   const double bottom = kTick + 2.0 + line + 2.0 + line + (small ? 2.0 : wordsHeight + kGap);

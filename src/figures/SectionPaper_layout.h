@@ -13,6 +13,7 @@ class QFontMetricsF;
 
 namespace talvesk {
 
+struct DrawnIsoline;
 struct MarkedIsoline;
 
 /// What the parts of a sheet agree on, logical pixels.
@@ -47,6 +48,8 @@ std::vector<LegendEntry> certaintyLegend(const SectionScene& scene, const QLocal
 std::vector<LegendEntry> annotationLegend(const SectionScene& scene, const QLocale& locale);
 /// What a marked isoline is called on a section: its name, else its velocity.
 QString isolineName(const MarkedIsoline& mark, const QLocale& locale);
+/// The same with its velocity behind its name, and whether the section does not reach it.
+QString isolineText(const DrawnIsoline& isoline, const QLocale& locale);
 
 /// What goes where on a sheet of some size.
 struct SectionPaperLayout {
@@ -69,7 +72,7 @@ struct SectionPaperLayout {
 
  private:
   void flow(const SectionDress& dress, std::vector<LegendEntry> entries, const QStringList& facts,
-            double left, double right);
+            double left, double right, double most);
   double mRows = 0.0;  ///< of words
 };
 

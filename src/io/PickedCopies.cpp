@@ -52,6 +52,11 @@ std::string targetOf(const Source& source, const std::string& folder) {
       .toStdString();
 }
 
+Status isShotFile(const std::string& target) {
+  return Status::failure(
+      Message::tr("%1 is one of the shot files of this survey; choose another folder").arg(target));
+}
+
 /// Whether all copies have a place of their own beside the files of the survey.
 Status checkTargets(const TomoDocument& document, const std::vector<Source>& sources,
                     const std::string& folder) {
@@ -72,9 +77,7 @@ Status checkTargets(const TomoDocument& document, const std::vector<Source>& sou
     }
     const QFileInfo file(QString::fromStdString(target));
     if (file.exists() && own.count(file.canonicalFilePath()) > 0) {
-      return Status::failure(
-          Message::tr("%1 is one of the shot files of this survey; choose another folder")
-              .arg(target));
+      return isShotFile(target);
     }
   }
   return {};
@@ -138,12 +141,15 @@ Status putPicks(const TomoDocument& document, const Source& source, std::string&
                 std::size_t& written, std::size_t& replaced) {
   const std::string_view head = std::string_view(bytes).substr(0, 8192);
   const bool seg2 = head.substr(0, 2) == "\x55\x3A" || head.substr(0, 2) == "\x3A\x55";
-  const bool su = QString::fromStdString(source.path).endsWith(".su", Qt::CaseInsensitive);
-  const bool seed =
+  const std::string& format =
       noteOf(*document.recordings,
              static_cast<std::size_t>(document.ttArray[source.records.begin()->second].traceSetID))
-          .format == "mseed";
-  if (seed) return Status::failure(Message::tr("miniSEED has no headers for picks"));
+          .format;
+  if (format == "mseed") return Status::failure(Message::tr("miniSEED has no headers for picks"));
+  // By its content, where that has decided what it is; not all SU files are named so.
+  const bool su = format.empty()
+                      ? QString::fromStdString(source.path).endsWith(".su", Qt::CaseInsensitive)
+                      : format == "su";
   HeaderPicks picks;
   Status status = picksOf(document, source, bytes, !seg2, picks);
   if (!status.ok()) return status;
@@ -151,6 +157,32 @@ Status putPicks(const TomoDocument& document, const Source& source, std::string&
       std::count_if(picks.begin(), picks.end(), [](const auto& pick) { return pick.has_value(); }));
   if (seg2) return putPicksIntoSeg2(bytes, picks);
   return putPicksIntoSegy(bytes, su ? SegyKind::kSu : SegyKind::kSegy, picks, replaced);
+}
+
+/// Whether a file is a recording of the survey, to the byte, that its copy would change. A project
+/// knows no more of the file that it was made from.
+bool isRecordingItself(const TomoDocument& document, const Source& source,
+                       const std::string& target) {
+  const QFileInfo file(QString::fromStdString(target));
+  if (!file.exists() || file.size() != QFileInfo(QString::fromStdString(source.path)).size()) {
+    return false;
+  }
+  std::string bytes;
+  std::string there;
+  if (!readWholeFile(source.path, bytes).ok() || !readWholeFile(target, there).ok()) return false;
+  if (bytes != there) return false;
+  std::size_t written = 0;
+  std::size_t replaced = 0;
+  return putPicks(document, source, bytes, written, replaced).ok() && bytes != there;
+}
+
+Status checkRecordings(const TomoDocument& document, const std::vector<Source>& sources,
+                       const std::string& folder) {
+  for (const Source& source : sources) {
+    const std::string target = targetOf(source, folder);
+    if (isRecordingItself(document, source, target)) return isShotFile(target);
+  }
+  return {};
 }
 
 }  // namespace
@@ -167,6 +199,7 @@ Status writePickedCopies(const TomoDocument& document, const std::string& folder
   const std::vector<Source> sources = sourcesOf(document);
   if (sources.empty()) return Status::failure(Message::tr("the survey has no shot files"));
   if (Status status = checkTargets(document, sources, folder); !status.ok()) return status;
+  if (Status status = checkRecordings(document, sources, folder); !status.ok()) return status;
   std::size_t shots = 0;
   std::size_t replaced = 0;
   std::size_t copies = 0;

@@ -110,7 +110,7 @@ struct SegyField {
   std::uint16_t bytes;  ///< 2 or 4
 };
 
-constexpr std::array<SegyField, 70> kSegyFields = {{
+constexpr std::array<SegyField, 71> kSegyFields = {{
     {"trace in line", 1, 4},
     {"trace in file", 5, 4},
     {"field record", 9, 4},
@@ -181,6 +181,7 @@ constexpr std::array<SegyField, 70> kSegyFields = {{
     {"geophone group of first trace", 173, 2},
     {"geophone group of last trace", 175, 2},
     {"transduction units", 203, 2},
+    {"bytes 233 to 236", 233, 4},  // without a meaning in the standard; copies with picks use them
 }};
 
 ShotFileFields segyFields(std::string_view bytes, const SegyTraces& found) {
@@ -216,11 +217,12 @@ Status readShotFileFields(std::string_view bytes, const std::string& path, ShotF
     return {};
   }
   const ShotFormat* format = shotFormatOf(path);
-  const bool su = format != nullptr && std::string_view(format->id) == "su";
+  const std::string_view head = bytes.substr(0, std::size_t{8} << 10);
+  bool su = format != nullptr && std::string_view(format->id) == "su";
   SegyTraces found;
-  if (!su &&
-      likelihoodOfSegy(bytes.substr(0, std::size_t{8} << 10), bytes.size()) == Likelihood::kNo) {
-    return Status::failure(Message::tr("its format names no fields of headers"));
+  if (!su && likelihoodOfSegy(head, bytes.size()) == Likelihood::kNo) {
+    su = likelihoodOfSu(head, bytes.size()) != Likelihood::kNo;
+    if (!su) return Status::failure(Message::tr("its format names no fields of headers"));
   }
   const Status status = su ? findSuByStandard(bytes, found) : findSegyByStandard(bytes, found);
   if (!status.ok()) return status;

@@ -26,8 +26,8 @@ struct ShotFileFields {
 /// Reads the headers of SEG-2, SEG-Y and SU bytes, whatever their samples. Texts are printable
 /// UTF-8 of one line, at most kLongestField bytes, with "…" where they are cut; fields that are 0
 /// in all traces of a SEG-Y or SU file are left out, for nobody filled them. \param path whose
-/// suffix tells SU, which has no mark of its own \return failure for bytes of none of these;
-/// `fields` is as before then
+/// suffix tells SU, which has no mark of its own; without one what is no SEG-Y may be SU \return
+/// failure for bytes of none of these; `fields` is as before then
 Status readShotFileFields(std::string_view bytes, const std::string& path, ShotFileFields& fields);
 
 constexpr std::size_t kLongestField = 200;

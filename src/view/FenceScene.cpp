@@ -15,41 +15,78 @@ namespace {
 
 constexpr double kDegree = 3.14159265358979323846 / 180.0;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kFilled = 0.8;  ///< part of a picture that a fence takes; the rest is for words
+constexpr double kLeastShare = 0.15;  ///< of the longer side of the grid, for the shorter one
+constexpr double kFilled = 0.7;  ///< part of a picture that a fence takes; the rest is for words
 
 bool isFinitePoint(const FencePoint& p) {
   return std::isfinite(p.east) && std::isfinite(p.north) && std::isfinite(p.z);
 }
 
 template <typename Better>
-FencePoint extreme(const FenceScene& scene, double start, double without, Better better) {
-  FencePoint corner{start, start, start};
-  for (const FencePanel& panel : scene.panels) {
-    const SectionMesh& mesh = panel.mesh;
-    for (std::uint32_t row = 0; row < mesh.rows; ++row) {
-      for (std::uint32_t column = 0; column < mesh.columns; ++column) {
-        if (!mesh.isDrawn(row, column)) continue;
-        for (const std::size_t at :
-             {mesh.corner(row, column), mesh.corner(row, column + 1), mesh.corner(row + 1, column),
-              mesh.corner(row + 1, column + 1)}) {
-          const FencePoint& p = panel.corners[at];
-          corner = {better(corner.east, p.east), better(corner.north, p.north),
-                    better(corner.z, p.z)};
-        }
+FencePoint better(const FencePoint& a, const FencePoint& b, Better pick) {
+  return {pick(a.east, b.east), pick(a.north, b.north), pick(a.z, b.z)};
+}
+
+constexpr auto kLower = [](double a, double b) { return std::min(a, b); };
+constexpr auto kHigher = [](double a, double b) { return std::max(a, b); };
+
+/// Once, for views ask at every move of the mouse.
+void measure(FencePanel& panel) {
+  const SectionMesh& mesh = panel.mesh;
+  panel.low = {kInfinity, kInfinity, kInfinity};
+  panel.high = {-kInfinity, -kInfinity, -kInfinity};
+  for (std::uint32_t row = 0; row < mesh.rows; ++row) {
+    for (std::uint32_t column = 0; column < mesh.columns; ++column) {
+      if (!mesh.isDrawn(row, column)) continue;
+      for (const std::size_t at :
+           {mesh.corner(row, column), mesh.corner(row, column + 1), mesh.corner(row + 1, column),
+            mesh.corner(row + 1, column + 1)}) {
+        panel.low = better(panel.low, panel.corners[at], kLower);
+        panel.high = better(panel.high, panel.corners[at], kHigher);
       }
     }
   }
-  return std::isfinite(corner.z) ? corner : FencePoint{without, without, without};
+}
+
+void widen(double& low, double& high, double least) {
+  const double lack = 0.5 * std::max(least - (high - low), 0.0);
+  low -= lack;
+  high += lack;
 }
 
 }  // namespace
 
+ValueRange velocityRange(const FencePanel& panel) {
+  ValueRange range{kInfinity, -kInfinity};
+  for (std::size_t cell = 0; cell < panel.velocities.size(); ++cell) {
+    if (panel.mesh.drawn[cell] == 0) continue;
+    range.min = std::min(range.min, panel.velocities[cell]);
+    range.max = std::max(range.max, panel.velocities[cell]);
+  }
+  return range;
+}
+
 FencePoint FenceScene::low() const {
-  return extreme(*this, kInfinity, 0.0, [](double a, double b) { return std::min(a, b); });
+  if (panels.empty()) return {};
+  FencePoint corner = panels.front().low;
+  for (const FencePanel& panel : panels) corner = better(corner, panel.low, kLower);
+  return corner;
 }
 
 FencePoint FenceScene::high() const {
-  return extreme(*this, -kInfinity, 1.0, [](double a, double b) { return std::max(a, b); });
+  if (panels.empty()) return {1.0, 1.0, 1.0};
+  FencePoint corner = panels.front().high;
+  for (const FencePanel& panel : panels) corner = better(corner, panel.high, kHigher);
+  return corner;
+}
+
+std::pair<FencePoint, FencePoint> frameBox(const FenceScene& scene) {
+  FencePoint low = scene.low();
+  FencePoint high = scene.high();
+  const double least = kLeastShare * std::max(high.east - low.east, high.north - low.north);
+  widen(low.east, high.east, least);
+  widen(low.north, high.north, least);
+  return {low, high};
 }
 
 Status addFencePanel(const TomoDocument& document, const std::string& name,
@@ -68,13 +105,18 @@ Status addFencePanel(const TomoDocument& document, const std::string& name,
   if (std::none_of(drawn.begin(), drawn.end(), [](std::uint8_t d) { return d != 0; })) {
     return Status::failure(Message::tr("no cell of its section is drawn"));
   }
-  for (const Point2D& corner : panel.mesh.corners) {
-    FencePoint p = place(corner.x);
+  const std::size_t width = std::size_t{panel.mesh.columns} + 1;
+  for (std::size_t i = 0; i < panel.mesh.corners.size(); ++i) {
+    // Corners of a column lie one below the other, and another system is slow to ask.
+    const Point2D& corner = panel.mesh.corners[i];
+    const bool below = i >= width && corner.x == panel.mesh.corners[i % width].x;
+    FencePoint p = below ? panel.corners[i % width] : place(corner.x);
     p.z = corner.z;
     if (!isFinitePoint(p)) return Status::failure(Message::tr("its line is nowhere on the map"));
     panel.corners.push_back(p);
   }
   panel.surface.assign(panel.corners.begin(), panel.corners.begin() + panel.mesh.columns + 1);
+  measure(panel);
   scene.panels.push_back(std::move(panel));
   return {};
 }
@@ -107,8 +149,7 @@ void FenceCamera::panBy(double right, double up) {
 }
 
 void FenceCamera::fit(const FenceScene& scene, double width, double height) {
-  const FencePoint low = scene.low();
-  const FencePoint high = scene.high();
+  const auto [low, high] = frameBox(scene);
   centre = {0.5 * (low.east + high.east), 0.5 * (low.north + high.north), 0.5 * (low.z + high.z)};
   metresPerPixel = 1.0;
   Offset most;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "base/Status.h"
+#include "view/ColorPalette.h"
 #include "view/ContourLines.h"
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace talvesk {
@@ -25,7 +27,12 @@ struct FencePanel {
   std::vector<FencePoint> corners;  ///< the same on the map
   std::vector<double> velocities;   ///< per cell, m/s
   std::vector<FencePoint> surface;  ///< its upper edge, along the line
+  FencePoint low;                   ///< of the drawn cells
+  FencePoint high;
 };
+
+/// Of the drawn cells, m/s.
+ValueRange velocityRange(const FencePanel& panel);
 
 /// Sections of several lines at their places on the map, coloured alike.
 struct FenceScene {
@@ -35,6 +42,10 @@ struct FenceScene {
   FencePoint low() const;
   FencePoint high() const;
 };
+
+/// Low and high corner of what a frame stands around: all panels, and some width for a line that
+/// runs along an axis of the map.
+std::pair<FencePoint, FencePoint> frameBox(const FenceScene& scene);
 
 /// Puts the section of a document up. Fails, with the scene as it was, without a drawn cell and
 /// where the line leaves the numbers. \param place of a survey distance (metres), z is not asked

@@ -1,3 +1,4 @@
+#include "export/DxfColor.h"
 #include "export/DxfDocument.h"
 #include "export/SectionDxf.h"
 #include "model/GeographicsCoord.h"
@@ -166,6 +167,70 @@ TEST(SectionDxf, standsUprightOnTheMap) {
   EXPECT_NEAR(name.number(10) * -ny + name.number(30) * nx, 652000.6, 1e-3);
   EXPECT_NEAR(name.number(10) * nx + name.number(30) * ny, 5074000.8, 1e-3);
   EXPECT_NEAR(name.number(20), 97.0, 1e-4);
+}
+
+TomoDocument annotated() {
+  TomoDocument document = placed();
+  Annotations& drawn = document.annotations.edit();
+  drawn.isolines = {{"Grundwasser", 600.0, 0x0000ff, 2.0}, {"", 9000.0}};
+  drawn.items = {
+      {AnnotationKind::kText, "old quarry", {{104.0, 98.0}}, Lithology::kNone, 0xff0000, 1.5, 18.0},
+      {AnnotationKind::kLine, "fault", {{102.0, 97.0}, {102.0, 99.0}}},
+      {AnnotationKind::kPolygon, "", {{103, 99}, {106, 99}, {105, 97}}, Lithology::kGravel},
+      {AnnotationKind::kPolygon, "pit", {{103, 97}, {106, 97}, {105, 96}}}};
+  return document;
+}
+
+TEST(SectionDxf, hasWhatTheUserHasDrawnInLayersOfItsKind) {
+  const ConsoleCapture console;
+  const TestFolder folder;
+  ASSERT_TRUE(writeSectionDxf(folder.file("s.dxf"), annotated(), {}, DrawingPlace::kSection).ok());
+  const Drawing drawing(folder.file("s.dxf"));
+  EXPECT_FALSE(drawing.of("POLYLINE", "MARKED_ISOLINE_600").empty());
+  EXPECT_EQ(drawing.of("TEXT", "MARKED_ISOLINE_600").front().text(1), "Grundwasser: 600 m/s");
+  EXPECT_EQ(drawing.of("POLYLINE", "MARKED_ISOLINE_600").front().text(62), "170") << "its blue";
+  EXPECT_EQ(drawing.layers.count("MARKED_ISOLINE_9000"), 0U) << "so fast nothing is";
+
+  const Entity text = drawing.of("TEXT", "ANNOTATION_TEXT").front();
+  EXPECT_EQ(text.text(1), "old quarry");
+  EXPECT_EQ(text.text(62), "10") << "red";
+  EXPECT_EQ(text.text(72), "4") << "in its middle";
+  EXPECT_EQ(text.number(11), 104.0);
+  EXPECT_EQ(text.number(21), 98.0);
+  const Entity fault = drawing.of("TEXT", "ANNOTATION_LINE").front();
+  EXPECT_NEAR(fault.number(40) * 2.0, text.number(40), 2e-4) << "of 9 and of 18 points";
+  EXPECT_EQ(fault.number(21), 98.0) << "halfway";
+  const auto gravel = drawing.of("POLYLINE", "GROUND_GRAVEL");
+  ASSERT_EQ(gravel.size(), 1U);
+  EXPECT_EQ(gravel[0].text(70), "1") << "closed";
+  EXPECT_EQ(drawing.of("VERTEX", "GROUND_GRAVEL").size(), 3U);
+  EXPECT_TRUE(drawing.of("TEXT", "GROUND_GRAVEL").empty());
+  EXPECT_EQ(drawing.of("TEXT", "ANNOTATION_AREA").front().text(1), "pit");
+}
+
+TEST(SectionDxf, standsAnnotationsOnTheMapToo) {
+  const ConsoleCapture console;
+  const TestFolder folder;
+  ASSERT_TRUE(writeSectionDxf(folder.file("s.dxf"), annotated(), {}, DrawingPlace::kMap).ok());
+  const Drawing drawing(folder.file("s.dxf"));
+  const Entity corner = drawing.of("VERTEX", "ANNOTATION_LINE")[0];
+  EXPECT_NEAR(corner.number(10), 652000.0 + 0.6 * 2.0, 1e-4);
+  EXPECT_NEAR(corner.number(30), 97.0, 1e-4);
+  // Its middle in the plane of the text: along the line, up, and out of the plane.
+  const Entity text = drawing.of("TEXT", "ANNOTATION_TEXT").front();
+  const double nx = text.number(210);
+  const double ny = text.number(220);
+  EXPECT_NEAR(text.number(11) * -ny + text.number(31) * nx, 652000.0 + 0.6 * 4.0, 1e-3);
+  EXPECT_NEAR(text.number(11) * nx + text.number(31) * ny, 5074000.0 + 0.8 * 4.0, 1e-3);
+  EXPECT_NEAR(text.number(21), 98.0, 1e-4);
+}
+
+TEST(DxfColor, isTheNearestOfTheIndex) {
+  const std::pair<std::uint32_t, int> kColors[] = {
+      {0x000000, 7},   {0xffffff, 255}, {0xff0000, 10}, {0xffff00, 50},  {0x00ff00, 90},
+      {0x0000ff, 170}, {0xff00ff, 210}, {0xff7f7f, 11}, {0x808080, 253}, {0x4c0000, 16}};
+  for (const auto& [rgb, index] : kColors)
+    EXPECT_EQ(nearestDxfColor(rgb), index) << std::hex << rgb;
 }
 
 TEST(SectionDxf, isWrittenBeforeThereIsAGrid) {

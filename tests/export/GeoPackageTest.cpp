@@ -1,5 +1,6 @@
 #include "export/GeoPackage.h"
 #include "export/SectionGeoPackage.h"
+#include "model/Annotations.h"
 #include "model/GeographicsCoord.h"
 #include "model/SurveyLine.h"
 #include "support/ConsoleCapture.h"
@@ -139,6 +140,21 @@ TEST(SectionGeoPackage, tellsHowDeepAnIsovalueIs) {
               ElementsAre("10", "1.5", "1.5"));
   EXPECT_THAT(tables.ask("SELECT count(*) FROM isovalue_depths WHERE velocity_m_s = 9000"),
               ElementsAre("0"));
+}
+
+TEST(SectionGeoPackage, hasMarkedIsolinesWithTheirNamesWhateverElseIsAskedFor) {
+  const ConsoleCapture console;
+  const TestFolder folder;
+  TomoDocument document = placed();
+  document.annotations.edit().isolines = {
+      {"water 'table'", 625.0}, {"known", 650.0}, {"", 575.0}, {"rock", 9000.0}};
+  ASSERT_TRUE(writeSectionGeoPackage(folder.file("s.gpkg"), document, lines()).ok());
+  const Tables tables(folder.file("s.gpkg"));
+  EXPECT_THAT(tables.ask("SELECT DISTINCT velocity_m_s, name FROM isolines ORDER BY 1"),
+              ElementsAre("575.0", "", "600.0", "", "625.0", "water 'table'", "650.0", "known"));
+  EXPECT_THAT(tables.ask("SELECT count(*), min(round(depth_m, 9)) FROM isovalue_depths WHERE name "
+                         "LIKE 'water%'"),
+              ElementsAre("10", "1.75"));
 }
 
 TEST(IsovalueDepths, areThoseOfTheShallowestLine) {

@@ -3,6 +3,7 @@
 #include "support/SectionDocument.h"
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
 #include <QPolygonF>
@@ -52,6 +53,77 @@ TEST(AnnotationFigure, bringsWhatWasDrawnWithALegend) {
   SectionFigureOptions without;
   without.scene.annotations = false;
   EXPECT_THAT(svgOf(document, without), Not(HasSubstr("old quarry")));
+}
+
+TEST(AnnotationFigure, explainsAPatternInEachOfItsColours) {
+  TomoDocument document = annotated();
+  const std::vector<Point2D> area = {{110, 99}, {125, 99}, {120, 96}};
+  Annotations& drawn = document.annotations.edit();
+  drawn.items = {{AnnotationKind::kPolygon, "dune", area, Lithology::kSand, 0xaa7700},
+                 {AnnotationKind::kPolygon, "marine", area, Lithology::kSand, 0x0077aa}};
+  std::string svg = svgOf(document);
+  for (const char* text : {">Sand: dune<", ">Sand: marine<"}) EXPECT_THAT(svg, HasSubstr(text));
+  drawn.items.push_back({AnnotationKind::kPolygon, "wet", area, Lithology::kSand, 0xaa7700});
+  svg = svgOf(document);
+  EXPECT_THAT(svg, Not(HasSubstr("Sand: dune"))) << "of that colour is not dune alone";
+  EXPECT_THAT(svg, HasSubstr(">Sand<"));
+  for (std::uint32_t color = 1; color < 40; ++color) {
+    drawn.items.push_back({AnnotationKind::kPolygon, "", area, Lithology::kClay, color});
+  }
+  svg = svgOf(document);
+  EXPECT_THAT(svg, Not(HasSubstr("Sand: marine"))) << "so many have no room";
+  EXPECT_THAT(svg, HasSubstr(">Clay<"));
+}
+
+/// Names of 200 letters are wider than a sheet.
+TEST(AnnotationFigure, shortensLongNamesInTheLegendAndKeepsTheirVelocities) {
+  TomoDocument document = annotated();
+  document.annotations.edit().isolines[0].name = std::string(150, 'w') + " table";
+  const std::string svg = svgOf(document);
+  EXPECT_THAT(svg, Not(HasSubstr(std::string(150, 'w') + " table: 1500 m/s")));
+  EXPECT_THAT(svg, HasSubstr("w\u2026w"));
+  EXPECT_THAT(svg, HasSubstr("w table: 1500 m/s<"));
+}
+
+/// As a hostile survey may bring them, with all the points that one may have: as one stroke, and
+/// without a limit for each, this took a minute.
+TEST(AnnotationFigure, paintsOutlinesThatCrossThemselvesSoon) {
+  TomoDocument document = annotated();
+  Annotation tangle{AnnotationKind::kPolygon, "", {}, Lithology::kRock, 0x0000aa, 10.0};
+  for (int i = 0; i < 500; ++i) {
+    tangle.points.push_back({100.0 + (i * 7919) % 601 * 0.1, 86.0 + (i * 104729) % 141 * 0.1});
+  }
+  ASSERT_TRUE(faultOf(tangle).empty());
+  document.annotations.edit().items.assign(10, tangle);
+  QByteArray bytes;
+  QElapsedTimer timer;
+  timer.start();
+  ASSERT_TRUE(renderSectionFigure(document, {}, FigureFormat::kPng, bytes).ok());
+  EXPECT_LT(timer.elapsed(), 10000);
+  tangle.points.push_back({100.0, 90.0});
+  EXPECT_THAT(faultOf(tangle).english(), HasSubstr("501 points"));
+}
+
+/// Where the middle of a text is in a figure: it is painted around an origin of its own.
+double xOfText(const std::string& svg, const std::string& text) {
+  const std::size_t at = svg.find('>' + text + '<');
+  EXPECT_NE(at, std::string::npos) << text;
+  const std::string origin = "matrix(1,0,0,1,";
+  return std::stod(svg.substr(svg.rfind(origin, at) + origin.size()));
+}
+
+TEST(AnnotationFigure, movesTextsAtTheEdgeOfThePlotIntoIt) {
+  TomoDocument document = annotated();
+  const SectionFigureOptions options;
+  const auto placeOf = [&](double x, const char* text) {
+    document.annotations.edit().items = {{AnnotationKind::kText, text, {{x, 95.0}}}};
+    return xOfText(svgOf(document, options), text);
+  };
+  const double middle = placeOf(130.0, "old quarry");
+  const double right = placeOf(159.0, "old quarry");
+  const double further = placeOf(159.5, "old quarry");
+  EXPECT_GT(right, middle);
+  EXPECT_EQ(right, further) << "both at the edge";
 }
 
 TEST(AnnotationFigure, saysHowManyAnnotationsItDoesNotShow) {

@@ -196,5 +196,37 @@ TEST_F(SectionPaperOf, aSmallWindowShowsTheSectionAndSaysThatItIsExaggerated) {
   EXPECT_GT(paper().plotRect(size, 2.0).height(), 70);
 }
 
+/// Twenty isolines may be marked, with names of 200 bytes.
+TEST_F(SectionPaperOf, aWindowKeepsItsSectionWhateverTheLegendSays) {
+  for (int i = 0; i < 20; ++i) {
+    const MarkedIsoline mark{std::string(190, 'n') + " " + std::to_string(i), 5000.0 + i};
+    scene.annotations.isolines.push_back({mark, {}});
+  }
+  dress.mayShrink = true;
+  const QSize size(1340, 526);
+  EXPECT_GT(paper().plotRect(size, 1.0).height(), 200);
+  const std::vector<PlacedText> texts = textsOf(paper(), size, fitted(paper(), size, 1.0));
+  EXPECT_THAT(words(texts), Contains(::testing::EndsWith(" 19: 5019 m/s (not reached)")));
+  dress.mayShrink = false;
+  scene.annotations.isolines.resize(1);
+  const std::vector<std::string> whole =
+      words(textsOf(paper(), QSize(4000, 900), fitted(paper(), QSize(4000, 900), 1.0)));
+  EXPECT_THAT(whole, Contains(std::string(190, 'n') + " 0: 5000 m/s (not reached)"));
+}
+
+TEST_F(SectionPaperOf, textsOfAnnotationsLeaveTheAxesTheirNumbers) {
+  const QSize size(1100, 700);
+  const std::vector<std::string> before = words(textsOf(paper(), size, fitted(paper(), size, 1.0)));
+  for (const double x : {102.0, 130.0, 158.0}) {
+    Annotation note{AnnotationKind::kText, std::string(200, 'W'), {{x, 96.0}}};
+    note.textSize = 48.0;
+    scene.annotations.items = {note};
+    const std::vector<std::string> found =
+        words(textsOf(paper(), size, fitted(paper(), size, 1.0)));
+    for (const char* word : {"Elevation [m]", "Distance [m]"}) EXPECT_THAT(found, Contains(word));
+    EXPECT_GE(found.size(), before.size()) << "no number has gone";
+  }
+}
+
 }  // namespace
 }  // namespace talvesk

@@ -2,6 +2,7 @@
 #include "figures/report/Report.h"
 #include "figures/web/WebPage.h"
 #include "figures/web/WebPicture.h"
+#include "support/SectionDocument.h"
 #include "support/TestFolder.h"
 #include "support/TestSurveys.h"
 
@@ -66,6 +67,16 @@ TEST(WebPage, hasTheTextsOfTheOtherReportsInTheirOrder) {
         EXPECT_THAT(page, HasSubstr(web::escaped(text).toStdString()));
     }
   }
+}
+
+/// It has no legend that would tell the velocity of a name.
+TEST(WebPage, namesMarkedIsolinesWithTheirVelocities) {
+  TomoDocument line = testing::sectionDocument(
+      10, 30, 0.0, [](std::uint32_t row, std::uint32_t) { return 400.0 + 100.0 * row; });
+  line.annotations.edit().isolines = {{"water table", 850.0}, {"", 650.0}};
+  const std::string page = pageOf(reportOn(line));
+  EXPECT_THAT(page, HasSubstr("\"water table: 850 m/s\""));
+  EXPECT_THAT(page, HasSubstr("\"650 m/s\""));
 }
 
 TEST(WebPage, showsTextsAsTheyAre) {

@@ -1,3 +1,4 @@
+#include "app/ElidedLabel.h"
 #include "app/FenceLines.h"
 #include "app/dialogs/AnnotationsDialog.h"
 #include "app/dialogs/DepthProfileDialog.h"
@@ -18,6 +19,8 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
+#include <QFile>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -25,6 +28,7 @@
 #include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
+#include <QToolTip>
 
 namespace talvesk::testing {
 namespace {
@@ -137,6 +141,50 @@ TEST_F(SectionDrawing, drawsAnAreaByMouseAndNamesItsGround) {
   EXPECT_TRUE(drawn().empty());
 }
 
+TEST_F(SectionDrawing, dragsWhatIsDrawnAndItsCornersAndUndoesEach) {
+  openLine();
+  const double z = top();
+  const Annotation area{
+      AnnotationKind::kPolygon, "", {{10.0, z - 2}, {20.0, z - 2}, {20.0, z - 6}, {10.0, z - 6}}};
+  const Annotation note{AnnotationKind::kText, "old quarry", {{30.0, z - 3.0}}};
+  const Status put = window->session().apply(Edit::kAnnotations, [&](Survey& survey) {
+    survey.document.annotations.edit().items = {note, area};
+    return Status();
+  });
+  ASSERT_TRUE(put.ok());
+  const auto dragged = [&](const Point2D& from, const Point2D& to) {
+    drag(from, to);
+    QApplication::processEvents();
+    return drawn().items;
+  };
+  view().findChild<QAction*>("moveAnnotations")->trigger();
+  ASSERT_TRUE(view().hasTool());
+  std::vector<Annotation> items = dragged({15.0, -4.0}, {18.0, -5.0});
+  EXPECT_NEAR(items[1].points[0].x, 13.0, 0.2) << "all of it";
+  EXPECT_NEAR(items[1].points[2].z, z - 7.0, 0.2);
+  EXPECT_EQ(items[0], note);
+
+  const std::vector<Annotation> before = items;
+  items = dragged({items[1].points[1].x, items[1].points[1].z - z}, {28.0, -1.0});
+  EXPECT_NEAR(items[1].points[1].x, 28.0, 0.2) << "a corner alone";
+  EXPECT_EQ(items[1].points[0], before[1].points[0]);
+  EXPECT_EQ(items[1].points[2], before[1].points[2]);
+
+  items = dragged({30.0, -3.0}, {35.0, -8.0});
+  EXPECT_NEAR(items[0].points[0].x, 35.0, 0.2) << "a text by its letters";
+  EXPECT_EQ(dragged({2.0, -11.0}, {9.0, -11.0}), items) << "there is nothing";
+  EXPECT_TRUE(view().hasTool()) << "until Escape";
+  for (int i = 0; i < 3; ++i) action("actionUndo").trigger();
+  EXPECT_EQ(drawn().items, (std::vector<Annotation>{note, area})) << "to the bit";
+
+  QTest::mousePress(view().sheet(), Qt::LeftButton, Qt::NoModifier, at(15.0, -4.0));
+  point(18.0, -5.0, Qt::LeftButton);
+  QTest::keyClick(view().sheet(), Qt::Key_Escape);
+  QTest::mouseRelease(view().sheet(), Qt::LeftButton, Qt::NoModifier, at(18.0, -5.0));
+  QApplication::processEvents();
+  EXPECT_EQ(drawn().items, (std::vector<Annotation>{note, area})) << "given up halfway";
+}
+
 TEST_F(SectionDrawing, needsNoMouseAndTakesNothingThatCannotBe) {
   openLine();
   expectDialog<AnnotationsDialog>([](AnnotationsDialog& dialog) {
@@ -216,6 +264,26 @@ TEST_F(SectionDrawing, showsTheGroundBelowThePointerUntilItIsHeld) {
   EXPECT_THAT(TestFolder::get(file.toStdString()), HasSubstr("Vertical gradient [1/s]"));
 }
 
+TEST_F(SectionDrawing, saysByDotsWhereTheStatusBarHasNoRoom) {
+  const QString text = "Distance 140.09 m   Elevation 575.04 m   Velocity 2,152 m/s";
+  ElidedLabel label(text);
+  QLabel plain(text);
+  const auto pictureOf = [](QLabel& shown, int width) {
+    shown.resize(width, 24);
+    return shown.grab().toImage();
+  };
+  EXPECT_LE(label.minimumSizeHint().width(), 1) << "a long text does not widen the window";
+  EXPECT_EQ(pictureOf(label, 900), pictureOf(plain, 900));
+  EXPECT_NE(pictureOf(label, 150), pictureOf(plain, 150)) << "not cut off within a number";
+  QHelpEvent hover(QEvent::ToolTip, QPoint(5, 5), QPoint(5, 5));
+  QApplication::sendEvent(&label, &hover);
+  EXPECT_EQ(QToolTip::text(), text);
+  QToolTip::hideText();
+  open();
+  EXPECT_NE(dynamic_cast<ElidedLabel*>(&child<QLabel>("cursorLabel")), nullptr);
+  EXPECT_NE(dynamic_cast<ElidedLabel*>(&child<QLabel>("misfitLabel")), nullptr);
+}
+
 TEST_F(SectionDrawing, convertsLinesOfOtherSystemsIntoThatOfTheFence) {
   openLine();
   // The same line by the next zone, 6 degrees further: both are at 12 degrees east, 45.15 north.
@@ -250,21 +318,72 @@ TEST_F(SectionDrawing, convertsLinesOfOtherSystemsIntoThatOfTheFence) {
   }
 }
 
+TEST_F(SectionDrawing, standsNoLineInAFenceTwiceAndNoneThatCountsInFeet) {
+  openLine();
+  TomoDocument line = window->document();
+  line.map.edit() = {{32632, 500000.0, 500040.0, 5.0e6, 5.0e6 + 20.0}, true};
+  TomoDocument feet = line;
+  feet.map.edit().geoCoord.CRS = 2272;
+  FenceNotes notes;
+  const FenceScene scene = fenceOf({{"feet", feet, "feet.tvsk"},
+                                    {"one", line, "line.tvsk"},
+                                    {"two", line, "line.tvsk"},
+                                    {"unsaved", line, {}},
+                                    {"unsaved too", line, {}}},
+                                   notes);
+  EXPECT_EQ(scene.panels.size(), 3U);
+  ASSERT_EQ(notes.leftOut.size(), 2);
+  EXPECT_THAT(notes.leftOut[0].toStdString(), HasSubstr("counts in another unit than the metre"))
+      << "though it is the first";
+  EXPECT_EQ(notes.leftOut[1], "two: it stands in the fence already");
+}
+
+TEST_F(SectionDrawing, saysWhichLinesOfAFenceAreBeyondItsColours) {
+  openLine();
+  TomoDocument line = window->document();
+  line.map.edit() = {{32632, 500000.0, 500040.0, 5.0e6, 5.0e6 + 20.0}, true};
+  ColorPalette palette = ColorPaletteList().current();
+  palette.min_db = 100.0;
+  palette.max_db = 9000.0;
+  FenceDialog wide({"own", line, {}}, palette, 1.0);
+  const auto message = [](const FenceDialog& dialog) {
+    return part<QLabel>(dialog, "messageLabel").text().toStdString();
+  };
+  EXPECT_EQ(message(wide), "Lines that stand in the fence: 1.");
+  wide.add({"own", line, {}});
+  EXPECT_EQ(part<QListWidget>(wide, "linesList").item(1)->text(), "own (2)");
+  palette.max_db = 1000.0;
+  FenceDialog narrow({"own", line, {}}, palette, 1.0);
+  EXPECT_THAT(message(narrow), HasSubstr("Beyond the colours: own "));
+}
+
 TEST_F(SectionDrawing, standsLinesInAFenceAndSaysWhatHasNoPlace) {
   openLine();
   const QString other = QString::fromStdString(home.file("other.tvsk"));
   dialogs.expectFiles("Save Project", {other});
   action("actionSave_Project_As").trigger();
+  const QString second = QString::fromStdString(home.file("second.tvsk"));
+  ASSERT_TRUE(QFile::copy(other, second));
   writable().map.edit() = {{32632, 500000.0, 500040.0, 5.0e6, 5.0e6 + 20.0}, true};
   showWritten();
   expectDialog<FenceDialog>([&](FenceDialog& dialog) {
     const auto& fence = part<FenceView>(dialog, "fenceView");
     ASSERT_EQ(fence.scene().panels.size(), 1U);
-    dialogs.expectFiles("Add projects to the fence", {other});
+    dialogs.expectFiles("Add projects to the fence", {second});
     part<QPushButton>(dialog, "addButton").click();
     EXPECT_EQ(fence.scene().panels.size(), 1U);
-    EXPECT_THAT(part<QLabel>(dialog, "messageLabel").text().toStdString(),
-                HasSubstr("Left out: other: it has no position on the map"));
+    EXPECT_EQ(part<QLabel>(dialog, "leftOutLabel").text(),
+              "Left out: second: it has no position on the map.");
+    EXPECT_TRUE(part<QLabel>(dialog, "leftOutLabel").isVisible());
+    dialogs.expectFiles("Add projects to the fence", {other});
+    part<QPushButton>(dialog, "addButton").click();
+    EXPECT_THAT(part<QLabel>(dialog, "leftOutLabel").text().toStdString(),
+                HasSubstr("other (2): it stands in the fence already"));
+    part<QPushButton>(dialog, "removeButton").click();
+    const QImage plain = dialog.picture();
+    part<QDoubleSpinBox>(dialog, "exaggerationSpin").setValue(2.0);
+    const QRect corner(0, plain.height() - 30, 120, 30);
+    EXPECT_NE(dialog.picture().copy(corner), plain.copy(corner)) << "it says so";
     const double before = fence.camera().azimuth;
     QTest::keyClick(dialog.findChild<FenceView*>(), Qt::Key_Right);
     EXPECT_NE(fence.camera().azimuth, before);
@@ -274,6 +393,8 @@ TEST_F(SectionDrawing, standsLinesInAFenceAndSaysWhatHasNoPlace) {
   });
   action("actionFence").trigger();
   EXPECT_TRUE(window->document().map->geoCoord_isSet) << "nothing here changes the survey";
+  EXPECT_EQ(TestFolder::get(second.toStdString()), TestFolder::get(other.toStdString()))
+      << "nor the projects beside it";
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "io/PickHeaders.h"
 #include "io/PickedCopies.h"
+#include "io/ShotFileFields.h"
 #include "io/ShotLoader.h"
 #include "io/standard/StandardReader.h"
 #include "model/Mending.h"
@@ -219,6 +220,29 @@ TEST_F(Copies, keepRecordsOfOneFileApart) {
   }
 }
 
+TEST_F(Copies, knowSuByItsContentWhateverItIsCalled) {
+  StandardSegy su;
+  su.traces.resize(2);
+  for (std::size_t t = 0; t < 2; ++t) {
+    su.traces[t].samples = {1.0, 2.0, 3.0};
+    su.traces[t].fields = {{9, 4, 1}, {13, 4, static_cast<int>(t) + 1}};
+  }
+  load({in.put("line.first", standardSuBytes(su))}, ShotReader::kStandard);
+  ASSERT_EQ(document.ttArray.size(), 1U);
+  pick(0, {0.0011, kUnpicked});
+  ASSERT_TRUE(writePickedCopies(document, out.path(), notes).ok());
+  EXPECT_THAT(notes, IsEmpty());
+  const std::string bytes = TestFolder::get(target("line.first"));
+  EXPECT_EQ(bytes.substr(232, 4), integerBytes(1100, 4, su.order));
+  // And the table of trace headers shows what stands there.
+  ShotFileFields fields;
+  ASSERT_TRUE(readShotFileFields(bytes, "line.first", fields).ok());
+  ASSERT_EQ(fields.traces.size(), 2U);
+  EXPECT_EQ(fields.traces[0].back().name, "bytes 233 to 236");
+  EXPECT_EQ(fields.traces[0].back().value, "1100");
+  EXPECT_EQ(fields.traces[1].back().value, "0");
+}
+
 TEST_F(Copies, areNeverWrittenOverTheFilesOfTheSurvey) {
   load({in.put("a.sg2", seg2File())}, ShotReader::kRules);
   pick(0, {0.02, 0.02, 0.03});
@@ -233,6 +257,23 @@ TEST_F(Copies, areNeverWrittenOverTheFilesOfTheSurvey) {
               HasSubstr("two shot files"));
   EXPECT_EQ(out.entries(), 0);
   EXPECT_FALSE(writePickedCopies(TomoDocument(), out.path(), notes).ok());
+}
+
+/// A project brings its recordings along, and does not know where they came from.
+TEST_F(Copies, areNeverWrittenOverTheFilesThatAProjectWasMadeFrom) {
+  load({in.put("a.sg2", seg2File()), in.put("b.sg2", seg2File())}, ShotReader::kRules);
+  pick(0, {0.02, 0.02, 0.03});
+  out.put("a.sg2", seg2File());
+  EXPECT_THAT(writePickedCopies(document, out.path(), notes).message(),
+              HasSubstr("choose another folder"));
+  EXPECT_EQ(TestFolder::get(target("a.sg2")), seg2File());
+  EXPECT_EQ(out.entries(), 1) << "nothing is written when one is in the way";
+  // Copies that were made before may be made anew, with picks or without.
+  QFile::remove(QString::fromStdString(target("a.sg2")));
+  ASSERT_TRUE(writePickedCopies(document, out.path(), notes).ok());
+  pick(0, {0.02, 0.02, 0.04});
+  ASSERT_TRUE(writePickedCopies(document, out.path(), notes).ok());
+  EXPECT_THAT(TestFolder::get(target("a.sg2")), HasSubstr("FIRST_BREAK 0.038000"));
 }
 
 TEST_F(Copies, leaveOutAndNameWhatCannotTakePicks) {

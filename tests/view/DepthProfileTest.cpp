@@ -1,6 +1,7 @@
 #include "support/CertainDocument.h"
 #include "support/SectionDocument.h"
 #include "view/DepthProfile.h"
+#include "view/FenceFrame.h"
 #include "view/FenceScene.h"
 
 #include <cmath>
@@ -118,6 +119,45 @@ TEST(FenceCamera, bringsAllIntoThePicture) {
   }
   camera.fit(FenceScene(), 400.0, 300.0);
   EXPECT_TRUE(std::isfinite(camera.metresPerPixel)) << "of nothing, too";
+}
+
+TEST(FenceFrame, liesBelowTheFenceWithRoundNumbersOnTheNearSides) {
+  const TomoDocument document = sectionDocument(4, 10, 0.0, layered);
+  FenceScene scene;
+  ASSERT_TRUE(addFencePanel(document, "A", northward, scene).ok());
+  EXPECT_TRUE(fenceFrame(FenceScene(), FenceCamera()).lines.empty());
+  const auto [low, high] = frameBox(scene);
+  EXPECT_GT(high.east - low.east, 1.0) << "a line to the north has some width";
+  for (const double azimuth : {20.0, 110.0, 200.0, 290.0}) {
+    FenceCamera camera;
+    camera.azimuth = azimuth;
+    camera.fit(scene, 800.0, 600.0);
+    const FenceFrame frame = fenceFrame(scene, camera);
+    ASSERT_EQ(frame.northing.places.size(), frame.northing.ticks.major.size());
+    ASSERT_GE(frame.northing.places.size(), 2U) << azimuth;
+    for (std::size_t i = 0; i < frame.northing.places.size(); ++i) {
+      EXPECT_EQ(frame.northing.places[i].north, frame.northing.ticks.major[i]);
+      EXPECT_EQ(frame.northing.places[i].z, low.z);
+    }
+    // Who looks sees the numbers below the grid, and elevations left of it.
+    const FencePoint centre{0.5 * (low.east + high.east), 0.5 * (low.north + high.north), low.z};
+    EXPECT_LT(camera.project(frame.northing.middle).up, camera.project(centre).up) << azimuth;
+    EXPECT_LT(camera.project(frame.easting.middle).up, camera.project(centre).up) << azimuth;
+    EXPECT_LT(frame.easting.outward.up, 0.0);
+    for (const FencePoint& corner : scene.panels[0].corners) {
+      EXPECT_LE(camera.project(frame.elevation.middle).right, camera.project(corner).right);
+    }
+    for (const FenceFrame::Line& line : frame.lines) {
+      for (const FencePoint& end : {line.from, line.to}) {
+        EXPECT_LE(std::fabs(camera.project(end).right), 400.0);
+        EXPECT_LE(std::fabs(camera.project(end).up), 300.0);
+      }
+    }
+  }
+  FenceCamera above;
+  above.tilt = 90.0;
+  above.fit(scene, 800.0, 600.0);
+  EXPECT_TRUE(fenceFrame(scene, above).elevation.places.empty()) << "it is a point from there";
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "support/SectionDocument.h"
+#include "view/LabelPlace.h"
 #include "view/SectionMeasure.h"
 #include "view/SectionScene.h"
 #include "view/SectionViewSettings.h"
@@ -55,6 +56,21 @@ TEST(SectionAnnotations, goWithTheSwitchOfTheViewAndTellWhatIsOutOfSight) {
   EXPECT_EQ(scene.annotations.outside, 1U);
   view.annotations = false;
   EXPECT_TRUE(sceneOf(document, view).annotations.empty());
+}
+
+TEST(SectionAnnotations, haveTheirTextsWhereTheyAre) {
+  const std::vector<Point2D> horseshoe = {{0, 0}, {10, 0}, {10, 8}, {7, 8}, {7, 2},
+                                          {3, 2}, {3, 8},  {1, 8},  {0, 8}};
+  const Annotation area{AnnotationKind::kPolygon, "pit", horseshoe};
+  EXPECT_EQ(labelPlace(area).x, 1.5) << "in its left arm, not in the gap between both";
+  EXPECT_EQ(labelPlace(area).z, 4.0);
+  const Point2D seen = labelPlace(horseshoe, {2.5, -1.0}, {20.0, 20.0});
+  EXPECT_EQ(seen.x, 8.5) << "of the left arm less is seen than of the right one";
+  const Annotation line{AnnotationKind::kLine, "fault", {{0, 0}, {0, 0}, {6, 0}, {6, -2}}};
+  EXPECT_EQ(labelPlace(line).x, 4.0) << "halfway, not at a middle corner";
+  EXPECT_EQ(labelPlace(line).z, 0.0);
+  const Annotation spot{AnnotationKind::kLine, "", {{5, 5}, {5, 5}}};
+  EXPECT_EQ(labelPlace(spot).x, 5.0);
 }
 
 TEST(Annotations, sayWhatCannotBe) {

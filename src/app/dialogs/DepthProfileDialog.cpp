@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace talvesk {
@@ -85,7 +86,9 @@ void DepthProfileDialog::setSection(DepthProfiles section) {
 }
 
 void DepthProfileDialog::pointAt(double x) {
-  if (mUi->followBox->isChecked() && x >= mSection.left() && x <= mSection.right()) showAt(x);
+  if (!mUi->followBox->isChecked() || x < mSection.left() || x > mSection.right()) return;
+  // A pixel is not known finer, and the field has no more decimals.
+  showAt(std::clamp(std::round(100.0 * x) / 100.0, mSection.left(), mSection.right()));
 }
 
 void DepthProfileDialog::showAt(double x) {

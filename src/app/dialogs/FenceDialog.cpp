@@ -1,5 +1,7 @@
 #include "app/dialogs/FenceDialog.h"
 
+#include "app/LengthText.h"
+#include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "model/Parameters.h"
 #include "ui_FenceDialog.h"
@@ -8,6 +10,7 @@
 #include <QImage>
 #include <QPixmap>
 #include <QScreen>
+#include <algorithm>
 #include <utility>
 
 namespace talvesk {
@@ -49,10 +52,18 @@ FenceDialog::FenceDialog(FenceLine own, const ColorPalette& palette, double exag
 FenceDialog::~FenceDialog() = default;
 
 void FenceDialog::add(FenceLine line) {
-  mUi->linesList->addItem(line.name);
+  const QString name = line.name;
+  for (int n = 2; isTaken(line.name); ++n) line.name = QStringLiteral("%1 (%2)").arg(name).arg(n);
+  auto* row = new QListWidgetItem(line.name, mUi->linesList);
+  row->setToolTip(line.path);
   mLines.push_back(std::move(line));
   mUi->linesList->setCurrentRow(mUi->linesList->count() - 1);
   refresh();
+}
+
+bool FenceDialog::isTaken(const QString& name) const {
+  return std::any_of(mLines.begin(), mLines.end(),
+                     [&name](const FenceLine& line) { return line.name == name; });
 }
 
 void FenceDialog::remove() {
@@ -63,21 +74,36 @@ void FenceDialog::remove() {
   refresh();
 }
 
+/// Lines whose velocities the scale of colours does not hold, and what they are.
+QStringList FenceDialog::beyondColors(const FenceScene& scene) const {
+  QStringList lines;
+  for (const FencePanel& panel : scene.panels) {
+    const ValueRange range = velocityRange(panel);
+    if (range.min >= mPalette.min_db && range.max <= mPalette.max_db) continue;
+    lines << tr("%1 %2 to %3", "line, velocities")
+                 .arg(QString::fromStdString(panel.name), lengthNumber(range.min, 0),
+                      velocityWithUnit(range.max, 0));
+  }
+  return lines;
+}
+
 void FenceDialog::refresh() {
   FenceNotes notes;
   FenceScene scene = fenceOf(mLines, notes);
   mUi->saveButton->setEnabled(!scene.panels.empty());
   QString text = tr("Lines that stand in the fence: %1.").arg(scene.panels.size());
-  const bool complete = notes.leftOut.isEmpty();
   if (!notes.converted.isEmpty()) {
     text += QLatin1Char('\n') +
             tr("Converted: %1.", "lines").arg(notes.converted.join(QStringLiteral("; ")));
   }
-  if (!complete) {
-    text += QLatin1Char('\n') + tr("Left out: %1.").arg(notes.leftOut.join(QStringLiteral("; ")));
+  if (const QStringList beyond = beyondColors(scene); !beyond.isEmpty()) {
+    text += QLatin1Char('\n') +
+            tr("Beyond the colours: %1.", "lines").arg(beyond.join(QStringLiteral("; ")));
   }
-  mUi->messageLabel->setStyleSheet(complete ? QString() : QStringLiteral("color: red;"));
   mUi->messageLabel->setText(text);
+  mUi->leftOutLabel->setStyleSheet(warningStyle(*this));
+  mUi->leftOutLabel->setText(tr("Left out: %1.").arg(notes.leftOut.join(QStringLiteral("; "))));
+  mUi->leftOutLabel->setVisible(!notes.leftOut.isEmpty());
   mView->setScene(std::move(scene), mPalette);
 }
 

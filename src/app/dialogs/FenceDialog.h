@@ -36,6 +36,8 @@ class FenceDialog : public QDialog {
   std::function<void()> saveWanted;  ///< asked for a file of the picture
 
  private:
+  bool isTaken(const QString& name) const;
+  QStringList beyondColors(const FenceScene& scene) const;
   void remove();
   void refresh();
 

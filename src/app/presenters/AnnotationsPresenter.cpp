@@ -18,10 +18,16 @@ void showAnnotations(Desk& desk) {
   desk.session.setView([](SectionViewSettings& section) { section.annotations = true; });
 }
 
+/// A pixel is not known finer than a centimetre.
+Point2D byMouse(const Point2D& p) {
+  return {std::round(100.0 * p.x) / 100.0, std::round(100.0 * p.z) / 100.0};
+}
+
 }  // namespace
 
 AnnotationsPresenter::AnnotationsPresenter(Desk& desk) : mDesk(desk) {
   connect(desk.ui.vtk_widget, &SectionView::annotationDrawn, this, &AnnotationsPresenter::drawn);
+  connect(desk.ui.vtk_widget, &SectionView::annotationMoved, this, &AnnotationsPresenter::moved);
 }
 
 void AnnotationsPresenter::markIsolines() {
@@ -42,19 +48,33 @@ void AnnotationsPresenter::edit() {
 void AnnotationsPresenter::drawn(AnnotationKind kind, const std::vector<Point2D>& points) {
   Annotation item;
   item.kind = kind;
-  item.points = points;
-  // A pixel is not known finer than that.
-  for (Point2D& p : item.points) {
-    p = {std::round(100.0 * p.x) / 100.0, std::round(100.0 * p.z) / 100.0};
-  }
+  for (const Point2D& p : points) item.points.push_back(byMouse(p));
   ask(&item);
+}
+
+void AnnotationsPresenter::moved(std::size_t item, const std::vector<Point2D>& points) {
+  if (mDesk.inversionRuns) return tellToWait();
+  const std::vector<Annotation>& items = mDesk.document().annotations->items;
+  if (item >= items.size() || items[item].points.size() != points.size()) return;
+  Annotation there = items[item];
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    // A corner that stayed keeps its bits.
+    if (!(points[i] == there.points[i])) there.points[i] = byMouse(points[i]);
+  }
+  if (there == items[item] || !faultOf(there).empty()) return;
+  mDesk.edit(Edit::kAnnotations,
+             [&](Survey& survey) { survey.document.annotations.edit().items[item] = there; });
+}
+
+void AnnotationsPresenter::tellToWait() {
+  mDesk.tell(tr("Annotations wait for the inversion to end."));
 }
 
 void AnnotationsPresenter::ask(const Annotation* begun) {
   const SectionScene* scene = mDesk.ui.vtk_widget->scene();
   if (scene == nullptr) return;
   // Nothing can be drawn while an inversion is about to replace the survey.
-  if (mDesk.inversionRuns) return mDesk.tell(tr("Annotations wait for the inversion to end."));
+  if (mDesk.inversionRuns) return tellToWait();
   const Point2D low = scene->lowerLeft();
   const Point2D high = scene->upperRight();
   AnnotationsDialog dialog(mDesk.document().annotations->items,

@@ -13,7 +13,7 @@ class AnnotationsPresenter : public QObject {
   Q_DECLARE_TR_FUNCTIONS(talvesk::Talvesk_MainWindows)
 
  public:
-  /// Takes what the section view draws.
+  /// Takes what the section view draws and moves.
   explicit AnnotationsPresenter(Desk& desk);
 
   void markIsolines();
@@ -21,6 +21,8 @@ class AnnotationsPresenter : public QObject {
 
  private:
   void drawn(AnnotationKind kind, const std::vector<Point2D>& points);
+  void tellToWait();
+  void moved(std::size_t item, const std::vector<Point2D>& points);
   /// Asks with the dialog. \param begun shown as the last one, to be named; null: none
   void ask(const Annotation* begun);
 

@@ -1,5 +1,6 @@
 #include "app/presenters/Desk.h"
 
+#include "app/ElidedLabel.h"
 #include "app/MessageText.h"
 #include "app/Outcomes.h"
 #include "app/WaitCursor.h"
@@ -19,12 +20,11 @@ Desk::Desk(QMainWindow& mainWindow, Ui::Talvesk_MainWindows& form)
       folder(WorkingFolder::ofUser()),
       settings(folder.settings),
       folders(History(folder.history)),
-      cursorLabel(new QLabel(&mainWindow)) {
+      cursorLabel(new ElidedLabel(&mainWindow)) {
   folder.create();
   log = Log(folder.log);
   log.write("Application Start", 0);
   cursorLabel->setObjectName(QStringLiteral("cursorLabel"));
-  cursorLabel->setMinimumWidth(1);  // a long text must not widen the window
   // What was read in one view says nothing about another.
   QObject::connect(ui.tabWidget, &QTabWidget::currentChanged, cursorLabel, &QLabel::clear);
   ui.statusBar->addPermanentWidget(cursorLabel);

@@ -28,7 +28,8 @@ Status writePng(const std::string& path, const QImage& image) {
 
 void FencePresenter::show() {
   const QString name = proposedName(mDesk);
-  FenceDialog dialog({name.isEmpty() ? tr("This survey") : name, mDesk.document()},
+  FenceDialog dialog({name.isEmpty() ? tr("This survey") : name, mDesk.document(),
+                      QFileInfo(mDesk.project.path()).canonicalFilePath()},
                      mDesk.palettes().current(), mDesk.section().verticalExaggeration,
                      &mDesk.window);
   dialog.addWanted = [&] { addTo(dialog); };
@@ -44,7 +45,8 @@ void FencePresenter::addTo(FenceDialog& dialog) {
     mDesk.folders.opened(file);
     LoadedProject project;
     if (!mProjects.read(file, project)) continue;
-    dialog.add({QFileInfo(file).completeBaseName(), std::move(project.document)});
+    dialog.add({QFileInfo(file).completeBaseName(), std::move(project.document),
+                QFileInfo(file).canonicalFilePath()});
   }
 }
 

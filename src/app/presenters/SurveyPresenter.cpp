@@ -1,5 +1,6 @@
 #include "app/presenters/SurveyPresenter.h"
 
+#include "app/ElidedLabel.h"
 #include "app/InversionTexts.h"
 #include "app/MessageText.h"
 #include "io/Survey.h"
@@ -16,7 +17,7 @@ namespace talvesk {
 
 SurveyPresenter::SurveyPresenter(Desk& desk)
     : mDesk(desk),
-      mMisfitLabel(new QLabel(&desk.window)),
+      mMisfitLabel(new ElidedLabel(&desk.window)),
       mSubscription(desk.session.subscribe([this](const SurveyChange& change) {
         PartSet fitted;
         for (const Part part : {Part::kPicks, Part::kGeometry, Part::kResult}) fitted.add(part);
@@ -25,7 +26,6 @@ SurveyPresenter::SurveyPresenter(Desk& desk)
         tellUndone(change);
       })) {
   mMisfitLabel->setObjectName(QStringLiteral("misfitLabel"));
-  mMisfitLabel->setMinimumWidth(1);  // a long text must not widen the window
   desk.ui.statusBar->insertPermanentWidget(0, mMisfitLabel);
 }
 

@@ -232,13 +232,14 @@ class SectionWriter {
             {QStringLiteral("width"), width}};
   }
 
-  /// Marked isolines, with their names at each piece, and what else the user has drawn.
+  /// Marked isolines, with name and velocity at each piece, for the page has no legend, and what
+  /// else the user has drawn.
   QJsonArray drawnJson() const {
     QJsonArray list;
     for (const DrawnIsoline& isoline : mScene.annotations.isolines) {
       const MarkedIsoline& mark = isoline.mark;
       for (const ContourLine& contour : isoline.lines) {
-        QJsonObject json = lookJson(QStringLiteral("line"), isolineName(mark, QLocale::c()),
+        QJsonObject json = lookJson(QStringLiteral("line"), isolineText(isoline, QLocale::c()),
                                     mark.color, mark.width);
         std::vector<Point2D> points = simplifiedLine(contour.points, 0.02);
         if (contour.closed && !points.empty()) points.push_back(points.front());

@@ -1,8 +1,8 @@
 #include "widgets/fence/FenceView.h"
 
-#include "figures/FigurePlot.h"
-#include "figures/ShownLength.h"
-#include "view/AxisTicks.h"
+#include "figures/FigureWords.h"
+#include "view/FenceFrame.h"
+#include "widgets/fence/FenceLabels.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -82,6 +82,20 @@ void buildPanel(const FencePanel& panel, const FencePoint& origin, vtkPolyData& 
   data.GetCellData()->SetScalars(values);
 }
 
+void buildFrame(const FenceFrame& frame, const FencePoint& origin, vtkPolyData& data) {
+  vtkNew<vtkPoints> points;
+  vtkNew<vtkCellArray> cells;
+  for (const FenceFrame::Line& line : frame.lines) {
+    cells->InsertNextCell(2);
+    for (const FencePoint& p : {line.from, line.to}) {
+      cells->InsertCellPoint(
+          points->InsertNextPoint(p.east - origin.east, p.north - origin.north, p.z - origin.z));
+    }
+  }
+  data.SetPoints(points);
+  data.SetLines(cells);
+}
+
 }  // namespace
 
 struct FenceView::Parts {
@@ -94,6 +108,8 @@ struct FenceView::Parts {
   vtkNew<vtkGenericOpenGLRenderWindow> window;
   vtkNew<vtkRenderer> renderer;
   vtkNew<vtkLookupTable> table;
+  FenceFrame axes;  ///< another whenever the view turns
+  vtkNew<vtkPolyData> frame;
   QWidget* overlay = nullptr;
   FenceCanvas* canvas = nullptr;
 
@@ -103,8 +119,6 @@ struct FenceView::Parts {
   }
   void paintWords(QPainter& painter) const;
   void paintNames(QPainter& painter) const;
-  void paintNorth(QPainter& painter) const;
-  void paintBar(QPainter& painter) const;
 };
 
 namespace {
@@ -128,24 +142,19 @@ class FenceOverlay : public QWidget {
   std::function<void(QPainter&)> mPaint;
 };
 
-void paintName(QPainter& painter, const QString& text, const QPointF& middle) {
-  const QFontMetricsF metrics(painter.font());
-  QRectF box(0.0, 0.0, metrics.horizontalAdvance(text) + 8.0, metrics.height() + 2.0);
-  box.moveCenter(middle);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(255, 255, 255, 215));
-  painter.drawRoundedRect(box, 3.0, 3.0);
-  painter.setPen(Qt::black);
-  painter.drawText(box, Qt::AlignCenter, text);
-}
-
 }  // namespace
 
 void FenceView::Parts::paintWords(QPainter& painter) const {
   if (scene.panels.empty()) return;
+  paintFenceNorth(painter, camera);
+  paintFenceAxes(painter, axes, [this](const FencePoint& p) { return toPicture(p); });
   paintNames(painter);
-  paintNorth(painter);
-  paintBar(painter);
+  if (camera.exaggeration != 1.0) {
+    const QString note = FigureWords::exaggeration(camera.exaggeration, QLocale());
+    const double width = QFontMetricsF(painter.font()).horizontalAdvance(note);
+    paintFenceName(painter, note, {14.0 + 0.5 * width, canvas->height() - 16.0});
+  }
+  paintFenceBar(painter, colors, canvas->size());
 }
 
 void FenceView::Parts::paintNames(QPainter& painter) const {
@@ -157,69 +166,8 @@ void FenceView::Parts::paintNames(QPainter& painter) const {
     painter.drawPolyline(edge);
     // At the end that stands higher in the picture, where less lies behind it.
     const QPointF end = edge.front().y() < edge.back().y() ? edge.front() : edge.back();
-    paintName(painter, QString::fromStdString(panel.name), end - QPointF(0.0, 16.0));
+    paintFenceName(painter, QString::fromStdString(panel.name), end - QPointF(0.0, 16.0));
   }
-}
-
-void FenceView::Parts::paintNorth(QPainter& painter) const {
-  constexpr double kLength = 34.0;
-  const QPointF middle(52.0, 62.0);
-  FencePoint north = camera.centre;
-  north.north += kLength * camera.metresPerPixel;
-  const FenceCamera::Offset tip = camera.project(north);
-  const QPointF way(tip.right, -tip.up);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(255, 255, 255, 215));
-  painter.drawEllipse(middle, kLength + 14.0, kLength + 14.0);
-  painter.setPen(QPen(Qt::black, 2.0));
-  painter.drawLine(middle - way, middle + way);
-  const double length = std::hypot(way.x(), way.y());
-  if (length > 4.0) {  // else it points into the picture
-    const QPointF along = way / length;
-    const QPointF across(-along.y(), along.x());
-    painter.setBrush(Qt::black);
-    painter.drawPolygon(QPolygonF({middle + way, middle + way - 10.0 * along + 5.0 * across,
-                                   middle + way - 10.0 * along - 5.0 * across}));
-    paintName(painter, FenceView::tr("N", "north"), middle + way + 10.0 * along);
-  }
-}
-
-void FenceView::Parts::paintBar(QPainter& painter) const {
-  constexpr double kWidth = 16.0;
-  const QFontMetricsF metrics(painter.font());
-  const double line = metrics.height();
-  QLocale locale;
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  const QString title = FenceView::tr("Velocity [%1]").arg(velocityUnitText());
-  const AxisTicks ticks = shownTicks(colors.range().min, colors.range().max, 8, "m/s");
-  const double right = canvas->width() - 14.0 - 5.0 * metrics.horizontalAdvance(QLatin1Char('8'));
-  const QRectF bar(right - kWidth, 3.0 * line, kWidth,
-                   std::max(canvas->height() - 5.0 * line, 20.0));
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(255, 255, 255, 215));
-  painter.drawRect(
-      QRectF(QPointF(bar.left() - 10.0, 0.0), QPointF(canvas->width(), bar.bottom() + line)));
-  const auto yOf = [&](double value) {
-    return bar.bottom() - (value - colors.range().min) / colors.range().span() * bar.height();
-  };
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  for (int i = 0; i < colors.size(); ++i) {
-    const RgbColor& c = colors[i];
-    const double low = yOf(colors.classRange(i).min);
-    painter.fillRect(QRectF(bar.topLeft(), QPointF(bar.right(), low)),
-                     QColor::fromRgbF(c.r, c.g, c.b));
-  }
-  paintFigureFrame(painter, bar);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::black);
-  for (const double value : ticks.major) {
-    const double y = yOf(value);
-    painter.drawLine(QPointF(bar.right(), y), QPointF(bar.right() + 4.0, y));
-    painter.drawText(QPointF(bar.right() + 7.0, y + 0.35 * line),
-                     locale.toString(value * ticks.factor, 'f', ticks.decimals));
-  }
-  painter.drawText(QPointF(canvas->width() - 8.0 - metrics.horizontalAdvance(title), 1.6 * line),
-                   title);
 }
 
 FenceView::FenceView(QWidget* parent) : QWidget(parent), mParts(std::make_unique<Parts>()) {
@@ -283,6 +231,13 @@ void FenceView::setScene(FenceScene scene, const ColorPalette& palette) {
     actor->GetProperty()->LightingOff();
     parts.renderer->AddActor(actor);
   }
+  vtkNew<vtkPolyDataMapper> frameMapper;
+  frameMapper->SetInputData(parts.frame);
+  vtkNew<vtkActor> frame;
+  frame->SetMapper(frameMapper);
+  frame->GetProperty()->SetColor(0.72, 0.72, 0.72);
+  frame->GetProperty()->LightingOff();
+  parts.renderer->AddActor(frame);
   if (parts.fits) parts.camera.fit(parts.scene, width(), height());
   look();
 }
@@ -303,6 +258,8 @@ void FenceView::showAll() {
 void FenceView::look() {
   Parts& parts = *mParts;
   const FenceCamera& view = parts.camera;
+  parts.axes = fenceFrame(parts.scene, view);
+  buildFrame(parts.axes, parts.origin, *parts.frame);
   vtkActorCollection& actors = *parts.renderer->GetActors();
   actors.InitTraversal();
   while (vtkActor* actor = actors.GetNextActor()) actor->SetScale(1.0, 1.0, view.exaggeration);
@@ -328,6 +285,13 @@ void FenceView::look() {
   camera.SetClippingRange(0.001 * reach, 2.5 * reach);
   parts.canvas->update();
   parts.overlay->update();
+}
+
+/// Who has not chosen a part of the fence goes on seeing all of it.
+void FenceView::turn(double turned, double tilted) {
+  mParts->camera.turnBy(turned, tilted);
+  if (mParts->fits) mParts->camera.fit(mParts->scene, width(), height());
+  look();
 }
 
 void FenceView::zoom(double factor) {
@@ -360,7 +324,7 @@ void FenceView::mouseMoveEvent(QMouseEvent* event) {
     mParts->camera.panBy(by.x(), -by.y());
     mParts->fits = false;
   } else {
-    mParts->camera.turnBy(-kTurnPerPixel * by.x(), kTurnPerPixel * by.y());
+    return turn(-kTurnPerPixel * by.x(), kTurnPerPixel * by.y());
   }
   look();
 }
@@ -372,17 +336,13 @@ void FenceView::wheelEvent(QWheelEvent* event) {
 void FenceView::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Left:
-      mParts->camera.turnBy(-kTurnPerKey, 0.0);
-      return look();
+      return turn(-kTurnPerKey, 0.0);
     case Qt::Key_Right:
-      mParts->camera.turnBy(kTurnPerKey, 0.0);
-      return look();
+      return turn(kTurnPerKey, 0.0);
     case Qt::Key_Up:
-      mParts->camera.turnBy(0.0, kTurnPerKey);
-      return look();
+      return turn(0.0, kTurnPerKey);
     case Qt::Key_Down:
-      mParts->camera.turnBy(0.0, -kTurnPerKey);
-      return look();
+      return turn(0.0, -kTurnPerKey);
     case Qt::Key_Plus:
     case Qt::Key_Equal:
       return zoom(kZoomStep);

@@ -40,6 +40,7 @@ class FenceView : public QWidget {
 
  private:
   void look();
+  void turn(double turned, double tilted);
   void zoom(double factor);
 
   struct Parts;

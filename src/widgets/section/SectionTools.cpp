@@ -20,20 +20,6 @@ struct ToolWords {
   Q_DECLARE_TR_FUNCTIONS(talvesk::SectionView)
 };
 
-void strokeTwice(QPainter& painter, const QPolygonF& line) {
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(Qt::white, 4.0));
-  painter.drawPolyline(line);
-  painter.setPen(QPen(kToolColor, 1.8));
-  painter.drawPolyline(line);
-}
-
-void paintPoint(QPainter& painter, const QPointF& at) {
-  painter.setPen(QPen(kToolColor, 1.8));
-  painter.setBrush(Qt::white);
-  painter.drawEllipse(at, 3.5, 3.5);
-}
-
 /// Lines of text in a box beside a point, within what the painter has room for.
 void paintNote(QPainter& painter, const QStringList& lines, const QPointF& beside) {
   const QFontMetricsF metrics(painter.font());
@@ -53,6 +39,20 @@ void paintNote(QPainter& painter, const QStringList& lines, const QPointF& besid
 
 }  // namespace
 
+void strokeAsTool(QPainter& painter, const QPolygonF& line) {
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(Qt::white, 4.0));
+  painter.drawPolyline(line);
+  painter.setPen(QPen(kToolColor, 1.8));
+  painter.drawPolyline(line);
+}
+
+void paintToolPoint(QPainter& painter, const QPointF& at) {
+  painter.setPen(QPen(kToolColor, 1.8));
+  painter.setBrush(Qt::white);
+  painter.drawEllipse(at, 3.5, 3.5);
+}
+
 void SectionMeasureTool::press(const Point2D& at) {
   mFrom = at;
   mTo = at;
@@ -66,9 +66,9 @@ void SectionMeasureTool::paint(QPainter& painter, const ToSheet& toSheet) const 
   if (!mFrom) return;
   const QPointF from = toSheet(*mFrom);
   const QPointF to = toSheet(mTo);
-  strokeTwice(painter, {QVector<QPointF>{from, to}});
-  paintPoint(painter, from);
-  paintPoint(painter, to);
+  strokeAsTool(painter, {QVector<QPointF>{from, to}});
+  paintToolPoint(painter, from);
+  paintToolPoint(painter, to);
   const SectionMeasure measure = measureSection(*mFrom, mTo);
   const QLocale locale;
   const auto length = [&](double value) {
@@ -112,8 +112,8 @@ void SectionDrawTool::paint(QPainter& painter, const ToSheet& toSheet) const {
   QPolygonF whole = line;
   whole << toSheet(mMouse);
   if (mKind == AnnotationKind::kPolygon) whole << line.front();
-  strokeTwice(painter, whole);
-  for (const QPointF& p : line) paintPoint(painter, p);
+  strokeAsTool(painter, whole);
+  for (const QPointF& p : line) paintToolPoint(painter, p);
   paintNote(painter,
             {mPoints.size() < fewestPoints(mKind)
                  ? ToolWords::tr("Click the next point; Esc ends")

@@ -10,6 +10,7 @@
 #include <vector>
 
 class QPainter;
+class QPolygonF;
 
 namespace talvesk {
 
@@ -27,6 +28,10 @@ class SectionTool {
   virtual void takeBack() {}  ///< the last point
   virtual void paint(QPainter& painter, const ToSheet& toSheet) const = 0;
 };
+
+/// How tools draw, over whatever lies below.
+void strokeAsTool(QPainter& painter, const QPolygonF& line);
+void paintToolPoint(QPainter& painter, const QPointF& at);
 
 /// The line between the point where the button went down and where the mouse is, with its length
 /// along the ground, level and upright, and its slope.

@@ -55,7 +55,7 @@ class SectionView : public QWidget {
   enum class Part { kWhole, kSeen };
   QImage picture(const QSize& size, Part part = Part::kSeen, double ratio = 1.0) const;
 
-  bool hasTool() const;  ///< the left button measures or draws
+  bool hasTool() const;  ///< the left button measures, draws or moves
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -70,6 +70,7 @@ class SectionView : public QWidget {
   void setTurning(bool turning);                ///< false: back to the front, too
   void startMeasuring();
   void startDrawing(AnnotationKind kind);  ///< one after the other, each told by annotationDrawn()
+  void startMoving();                      ///< of annotations, each told by annotationMoved()
   void endTool();
 
  signals:
@@ -79,6 +80,8 @@ class SectionView : public QWidget {
   void viewChanged();
   /// \param points survey positions, as many as the kind needs
   void annotationDrawn(AnnotationKind kind, const std::vector<Point2D>& points);
+  /// \param item of the scene's annotations \param points all of it, survey positions
+  void annotationMoved(std::size_t item, const std::vector<Point2D>& points);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

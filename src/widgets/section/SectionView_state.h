@@ -52,7 +52,7 @@ struct SectionView::State {
   QToolButton* reset = nullptr;
   QToolButton* measure = nullptr;
   QToolButton* draw = nullptr;
-  std::vector<QAction*> drawActions;  ///< as kAnnotationKinds
+  std::vector<QAction*> drawActions;  ///< as kAnnotationKinds, and to move
   QStackedLayout* pages = nullptr;
   EmptyPage* empty = nullptr;  ///< shown without a scene
   QWidget* paper = nullptr;

@@ -1,3 +1,4 @@
+#include "widgets/section/SectionMoveTool.h"
 #include "widgets/section/SectionView_state.h"
 
 #include <QAction>
@@ -35,6 +36,12 @@ void SectionView::layOutTools(QHBoxLayout& row) {
             [this, kind](bool on) { on ? startDrawing(kind) : endTool(); });
     s.drawActions.push_back(action);
   }
+  menu->addSeparator();
+  QAction* move = menu->addAction(QString());
+  move->setObjectName(QStringLiteral("moveAnnotations"));
+  move->setCheckable(true);
+  connect(move, &QAction::triggered, this, [this](bool on) { on ? startMoving() : endTool(); });
+  s.drawActions.push_back(move);
   row.addWidget(s.draw);
 }
 
@@ -45,13 +52,16 @@ void SectionView::retranslateTools() {
       tr("Drag between two points: distance, horizontal, vertical and slope; Esc "
          "ends"));
   s.draw->setText(tr("Draw"));
-  s.draw->setToolTip(tr("Click texts, lines and areas of ground into the section; Esc ends"));
+  s.draw->setToolTip(
+      tr("Click texts, lines and areas of ground into the section, or move them; Esc ends"));
   s.drawActions[0]->setText(tr("Text"));
   s.drawActions[0]->setToolTip(tr("Click where a text is to stand on the section"));
   s.drawActions[1]->setText(tr("Line"));
   s.drawActions[1]->setToolTip(tr("Click the points of a line on the section"));
   s.drawActions[2]->setText(tr("Polygon"));
   s.drawActions[2]->setToolTip(tr("Click the corners of an area of the section"));
+  s.drawActions[3]->setText(tr("Move"));
+  s.drawActions[3]->setToolTip(tr("Drag what has been drawn, or one of its corners"));
 }
 
 void SectionView::startMeasuring() {
@@ -67,6 +77,17 @@ void SectionView::startDrawing(AnnotationKind kind) {
   };
   setTool(std::make_unique<SectionDrawTool>(kind, done));
   mState->drawActions[static_cast<std::size_t>(kind)]->setChecked(hasTool());
+}
+
+void SectionView::startMoving() {
+  const auto items = [this] { return scene() ? &scene()->annotations.items : nullptr; };
+  const auto done = [this](std::size_t item, const std::vector<Point2D>& points) {
+    QMetaObject::invokeMethod(
+        this, [this, item, points] { emit annotationMoved(item, points); }, Qt::QueuedConnection);
+  };
+  setTool(std::make_unique<SectionMoveTool>(
+      items, [this](const Point2D& at) { return pointOf(at); }, done));
+  mState->drawActions.back()->setChecked(hasTool());
 }
 
 void SectionView::endTool() {
