@@ -108,11 +108,12 @@ StepJudgement judgePicks(const TomoDocument& document) {
     traces += record.ttMisurati.size();
   }
   if (picks == 0) return missing(Message::tr("no picks yet"), command);
+  const bool complete = document.picksComplete();
+  const Message few = Message::tr("only %1 of %2 traces have a pick").arg(picks).arg(traces);
+  // The inversion asks whether it is meant so. Where there is nothing to pick on, it has to be.
+  if (!complete && hasTraces(document)) return missing(few, command);
   if (without > 0) return doubtful(Message::tr("shots without picks: %1").arg(without), command);
-  if (!document.picksComplete()) {
-    return doubtful(Message::tr("only %1 of %2 traces have a pick").arg(picks).arg(traces),
-                    command);
-  }
+  if (!complete) return doubtful(few, command);
   return done(Message::tr("%1 picks on %2 traces").arg(picks).arg(traces), command);
 }
 
