@@ -1,8 +1,10 @@
 #include "app/dialogs/FenceDialog.h"
 
+#include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "model/Parameters.h"
 #include "ui_FenceDialog.h"
+#include "widgets/EmptyPage.h"
 #include "widgets/fence/FenceView.h"
 
 #include <QImage>
@@ -26,7 +28,13 @@ FenceDialog::FenceDialog(FenceLine own, const ColorPalette& palette, double exag
   mView = new FenceView(this);
   mView->setObjectName(QStringLiteral("fenceView"));
   mUi->viewLayout->addWidget(mView);
+  mEmpty = new EmptyPage(this);
+  mEmpty->setText(
+      tr("No line stands in the fence yet.\n\nA line needs a section and a place on the map. Give "
+         "this survey its place, or add projects that have theirs."));
+  mUi->viewLayout->addWidget(mEmpty);
   setTabOrder(mUi->exaggerationSpin, mView);
+  mEmpty->setTabOrderAfter(mView);
   constexpr auto kRange = parameters::kExaggeration.limits;
   mUi->exaggerationSpin->setRange(kRange.least, kRange.most);
   mUi->exaggerationSpin->setValue(exaggeration);
@@ -48,6 +56,10 @@ FenceDialog::FenceDialog(FenceLine own, const ColorPalette& palette, double exag
 
 FenceDialog::~FenceDialog() = default;
 
+void FenceDialog::offerWhereEmpty(const QList<QAction*>& commands) {
+  mEmpty->setCommands(commands);
+}
+
 void FenceDialog::add(FenceLine line) {
   mUi->linesList->addItem(line.name);
   mLines.push_back(std::move(line));
@@ -66,7 +78,11 @@ void FenceDialog::remove() {
 void FenceDialog::refresh() {
   FenceNotes notes;
   FenceScene scene = fenceOf(mLines, notes);
-  mUi->saveButton->setEnabled(!scene.panels.empty());
+  const bool any = !scene.panels.empty();
+  mView->setVisible(any);
+  mEmpty->setVisible(!any);
+  mUi->allButton->setEnabled(any);
+  mUi->saveButton->setEnabled(any);
   QString text = tr("Lines that stand in the fence: %1.").arg(scene.panels.size());
   const bool complete = notes.leftOut.isEmpty();
   if (!notes.converted.isEmpty()) {
@@ -76,7 +92,7 @@ void FenceDialog::refresh() {
   if (!complete) {
     text += QLatin1Char('\n') + tr("Left out: %1.").arg(notes.leftOut.join(QStringLiteral("; ")));
   }
-  mUi->messageLabel->setStyleSheet(complete ? QString() : QStringLiteral("color: red;"));
+  mUi->messageLabel->setStyleSheet(complete ? QString() : warningStyle(*this));
   mUi->messageLabel->setText(text);
   mView->setScene(std::move(scene), mPalette);
 }
