@@ -6,9 +6,12 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStyleOptionComboBox>
 #include <QTextEdit>
 
 namespace talvesk {
@@ -43,6 +46,53 @@ TEST_F(DialogAccess, leavesEveryDialogWithinASmallScreenInEveryLanguage) {
     const QSize least = window->minimumSizeHint();
     EXPECT_LE(least.width(), kSmallest.width()) << language;
     EXPECT_LE(least.height(), kSmallest.height()) << language;
+  }
+}
+
+/// The text of a widget that has too little room for it; empty where all of it is there.
+QString cutTextOf(const QWidget& widget) {
+  if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
+    QStyleOptionComboBox option;
+    option.initFrom(box);
+    const QRect field = box->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                     QStyle::SC_ComboBoxEditField, box);
+    const bool fits = box->fontMetrics().horizontalAdvance(box->currentText()) <= field.width();
+    return fits || box->isEditable() ? QString() : box->currentText();
+  }
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+    const bool fits = label->wordWrap() || label->sizeHint().width() <= label->width();
+    return fits ? QString() : label->text();
+  }
+  if (const auto* heads = qobject_cast<const QHeaderView*>(&widget)) {
+    for (int i = 0; heads->orientation() == Qt::Horizontal && i < heads->count(); ++i) {
+      if (heads->isSectionHidden(i) || heads->sectionSizeHint(i) <= heads->sectionSize(i)) continue;
+      return heads->model()->headerData(i, Qt::Horizontal).toString();
+    }
+    return {};
+  }
+  const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+  const bool fits = button == nullptr || button->text().isEmpty() ||
+                    button->sizeHint().width() <= button->width();
+  return fits ? QString() : button->text();
+}
+
+TEST_F(DialogAccess, cutsNoTextOfADialogAsItOpens) {
+  for (const char* language : {"de", "en", "es", "fr", "it"}) {
+    writeSettings(language);
+    openSurvey();
+    for (const Case& each : cases()) {
+      const auto dialog = each.make();
+      show(*dialog);
+      onEveryPage(*dialog, [&](int page) {
+        for (const QWidget* widget : dialog->findChildren<QWidget*>()) {
+          if (!widget->isVisible()) continue;
+          const QString cut = cutTextOf(*widget);
+          EXPECT_TRUE(cut.isEmpty())
+              << language << ' ' << each.name << ' ' << page << ' '
+              << widget->objectName().toStdString() << ": " << cut.toStdString();
+        }
+      });
+    }
   }
 }
 
