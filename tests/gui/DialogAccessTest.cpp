@@ -13,6 +13,8 @@
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QTextEdit>
+#include <algorithm>
+#include <cmath>
 
 namespace talvesk {
 namespace {
@@ -94,6 +96,48 @@ TEST_F(DialogAccess, cutsNoTextOfADialogAsItOpens) {
       });
     }
   }
+}
+
+/// As of a desktop with dark colours.
+QPalette darkPalette() {
+  QPalette dark(QColor(0x31, 0x36, 0x3b));
+  dark.setColor(QPalette::Base, QColor(0x23, 0x26, 0x29));
+  return dark;
+}
+
+/// By which a text stands out from its ground, from 1 to 21 (WCAG 2).
+double contrastOf(const QColor& text, const QColor& ground) {
+  const auto luminance = [](const QColor& color) {
+    const auto linear = [](double c) {
+      return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+  };
+  const auto [low, high] = std::minmax({luminance(text), luminance(ground)});
+  return (high + 0.05) / (low + 0.05);
+}
+
+TEST_F(DialogAccess, keepsTextsLegibleOnLightAndOnDarkDesktops) {
+  constexpr double kLegible = 4.5;
+  openSurvey();
+  const QPalette light = QApplication::palette();
+  for (const QPalette& palette : {light, darkPalette()}) {
+    QApplication::setPalette(palette);
+    const QColor ground = palette.color(QPalette::Window);
+    for (const Case& each : cases()) {
+      const auto dialog = each.make();
+      show(*dialog);
+      for (const QLabel* label : dialog->findChildren<QLabel*>()) {
+        if (!label->isEnabled()) continue;
+        const QColor color = label->palette().color(label->foregroundRole());
+        EXPECT_GE(contrastOf(color, ground), kLegible)
+            << each.name << ' ' << label->objectName().toStdString() << ' '
+            << color.name().toStdString() << " on " << ground.name().toStdString();
+      }
+    }
+  }
+  QApplication::setPalette(light);
 }
 
 template <typename... Types>

@@ -3,6 +3,7 @@
 #include "app/CellWalk.h"
 #include "app/LengthText.h"
 #include "app/MessageText.h"
+#include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "app/UnitWords.h"
 #include "app/dialogs/ColorField.h"
@@ -282,7 +283,7 @@ void AnnotationsDialog::changed() {
   Annotations all;
   all.items = mItems;
   const Message fault = faultOf(all);
-  mUi->messageLabel->setStyleSheet(fault.empty() ? QString() : QStringLiteral("color: red;"));
+  mUi->messageLabel->setStyleSheet(fault.empty() ? QString() : warningStyle(*this));
   mUi->messageLabel->setText(fault.empty() ? tr("Annotations: %1.").arg(mItems.size())
                                            : textOf(fault));
   const Annotation* item = currentItem();

@@ -3,6 +3,7 @@
 #include "app/CellWalk.h"
 #include "app/LengthText.h"
 #include "app/MessageText.h"
+#include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "app/UnitWords.h"
 #include "app/dialogs/ColorField.h"
@@ -96,7 +97,7 @@ void MarkedIsolinesDialog::refresh() {
   Annotations all;
   all.isolines = isolines();
   const Message fault = faultOf(all);
-  mUi->messageLabel->setStyleSheet(QStringLiteral("color: red;"));
+  mUi->messageLabel->setStyleSheet(warningStyle(*this));
   mUi->messageLabel->setText(fault.empty() ? QString() : textOf(fault));
 }
 
