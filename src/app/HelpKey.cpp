@@ -26,7 +26,12 @@ constexpr Page kPages[] = {
     {"TraceHeadersDialog", "load.html"},
     {"BlowPairDialog", "load.html"},
     {"ShotFileDialog", "load.html"},
+    {"CheckDialog", "load.html"},
+    {"SurveyedPositionsDialog", "geometry.html"},
+    {"ReciprocityDialog", "curves.html"},
     {"doFilteringDialog", "filter.html"},
+    {"NotchDialog", "filter.html"},
+    {"VelocityFilterDialog", "filter.html"},
     {"gridDialog", "inversion.html"},
     {"select_speed_Dialog", "inversion.html"},
     {"runTomography_Dialog", "inversion.html"},
@@ -38,6 +43,10 @@ constexpr Page kPages[] = {
     {"DepthProfileDialog", "section.html"},
     {"FenceDialog", "section.html"},
     {"progressTomographyDialog", "inversion.html"},
+    {"RunsDialog", "inversion.html"},
+    {"CompareRunsDialog", "inversion.html"},
+    {"CertaintyDialog", "judge.html"},
+    {"ResolutionDialog", "judge.html"},
     {"smoothingDialog", "inversion.html"},
     {"RefractionProcessingDialog", "refraction.html"},
     {"LayerMethodsDialog", "refraction.html"},
@@ -52,6 +61,9 @@ constexpr Page kPages[] = {
     {"GatherSheetDialog", "report.html"},
     {"ScreenshotDialog", "report.html"},
     {"ReportDialog", "report.html"},
+    {"CampaignDialog", "report.html"},
+    {"PrintDialog", "report.html"},
+    {"DrawingDialog", "export.html"},
     {"progressDialog", "projects.html"},
     {"SettingsDialog", "settings.html"},
 };
@@ -101,7 +113,8 @@ void HelpKey::addHelpButton(QWidget& dialog) {
   const QString page = guidePageOf(&dialog);
   auto* buttons = dialog.findChild<QDialogButtonBox*>();
   if (page.isEmpty() || buttons == nullptr || buttons->button(QDialogButtonBox::Help)) return;
-  buttons->addButton(QDialogButtonBox::Help);
+  // Enter is for what the dialog does.
+  buttons->addButton(QDialogButtonBox::Help)->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::helpRequested, this, [this, page] { mOpen(page); });
 }
 

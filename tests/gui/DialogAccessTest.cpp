@@ -6,9 +6,11 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
@@ -94,6 +96,18 @@ TEST_F(DialogAccess, cutsNoTextOfADialogAsItOpens) {
               << widget->objectName().toStdString() << ": " << cut.toStdString();
         }
       });
+    }
+  }
+}
+
+TEST_F(DialogAccess, keepsTheEnterKeyFromOpeningTheGuide) {
+  openSurvey();
+  for (const Case& each : cases()) {
+    const auto dialog = each.make();
+    show(*dialog);
+    for (const QDialogButtonBox* buttons : dialog->findChildren<QDialogButtonBox*>()) {
+      const QPushButton* help = buttons->button(QDialogButtonBox::Help);
+      EXPECT_FALSE(help != nullptr && help->isDefault()) << each.name;
     }
   }
 }
