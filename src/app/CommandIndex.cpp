@@ -113,7 +113,8 @@ int fitOf(const IndexedCommand& command, const QStringList& typed) {
     int best = fit(word, text);
     best = std::max(best, fit(word, english) - 2);
     best = std::max(best, fitBesides(word, besides));
-    best = std::max(best, fit(word, path) / 3);
+    const int inMenu = fit(word, path);
+    if (inMenu > kMisspelt) best = std::max(best, inMenu / 3);
     const bool inTip = word.size() >= kShortest &&
                        std::any_of(tip.begin(), tip.end(), [&word](const QString& other) {
                          return other.startsWith(word);

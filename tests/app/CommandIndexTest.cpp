@@ -59,6 +59,7 @@ TEST(CommandIndex, findsByTheEnglishNameTheMenuAndTheToolTip) {
 TEST(CommandIndex, findsWhereLettersAreLeftOut) {
   EXPECT_THAT(found("invrs"), ElementsAre("Run tomography inversion"));
   EXPECT_THAT(found("nvrs"), IsEmpty()) << "a word is begun with its first letter";
+  EXPECT_THAT(found("gph"), IsEmpty()) << "whole menus would be found";
 }
 
 TEST(CommandIndex, findsWhereALetterIsNotAsItShouldBe) {
