@@ -118,7 +118,7 @@ const Case kCases[] = {
        mends.disabled = true;
        ASSERT_TRUE(setMends(1, mends, document).ok());
      }},
-    {"only 1 of 36 traces have a pick", Step::kPicks, State::kMissing, StepCommand::kPickLine,
+    {"shots without picks: 2", Step::kPicks, State::kMissing, StepCommand::kPickLine,
      [](TomoDocument& document, Survey&) {
        for (TravelTime& each : document.ttArray.edit()) {
          each.ttMisurati.edit().assign(12, kUnpicked);
