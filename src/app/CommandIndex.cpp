@@ -1,5 +1,6 @@
 #include "app/CommandIndex.h"
 
+#include "app/CommandWords.h"
 #include "app/StepTexts.h"
 
 #include <QAction>
@@ -17,9 +18,11 @@ constexpr char kEnglish[] = "englishText";
 constexpr int kWhole = 40;
 constexpr int kBeginning = 30;
 constexpr int kInside = 20;
+constexpr int kMisspelt = 9;
 constexpr int kWithGaps = 8;
 constexpr int kOfTip = 5;
 constexpr int kShortest = 3;  ///< letters that a word must have to be found with gaps, or in a tip
+constexpr int kShortestMisspelt = 5;
 
 void take(const QMenu& menu, const QString& path, const QAction* but,
           std::vector<IndexedCommand>& commands) {
@@ -35,6 +38,9 @@ void take(const QMenu& menu, const QString& path, const QAction* but,
     command.key = action->objectName().isEmpty() ? text : action->objectName();
     command.text = text;
     command.english = action->property(kEnglish).toString();
+    const CommandWords more = wordsOfCommand(action->objectName());
+    command.words = more.words;
+    command.englishWords = more.english;
     command.path = path;
     command.shortcut = action->shortcut().toString(QKeySequence::NativeText);
     // Without one of its own an action answers with its text.
@@ -56,17 +62,39 @@ bool fitsWithGaps(const QString& letters, const QString& word) {
   return at == letters.size();
 }
 
+/// Whether a letter is wrong, lacking or too many, or two neighbours are exchanged. Who has typed
+/// the word and goes on means another.
+bool isMisspelt(const QString& letters, const QString& word) {
+  if (letters.startsWith(word)) return false;
+  const int shorter = std::min(letters.size(), word.size());
+  int front = 0;
+  while (front < shorter && letters[front] == word[front]) ++front;
+  int back = 0;
+  while (back < shorter - front && *(letters.crbegin() + back) == *(word.crbegin() + back)) ++back;
+  const QString typed = letters.mid(front, letters.size() - front - back);
+  const QString meant = word.mid(front, word.size() - front - back);
+  if (typed.size() <= 1 && meant.size() <= 1) return true;
+  return typed.size() == 2 && meant.size() == 2 && typed[0] == meant[1] && typed[1] == meant[0];
+}
+
+int fit(const QString& typed, const QString& word) {
+  if (word == typed) return kWhole;
+  if (word.startsWith(typed)) return kBeginning;
+  if (word.contains(typed)) return kInside;
+  if (typed.size() >= kShortestMisspelt && isMisspelt(typed, word)) return kMisspelt;
+  return typed.size() >= kShortest && fitsWithGaps(typed, word) ? kWithGaps : 0;
+}
+
 int fit(const QString& typed, const QStringList& words) {
   int best = 0;
-  for (const QString& word : words) {
-    const int here = word == typed                                            ? kWhole
-                     : word.startsWith(typed)                                 ? kBeginning
-                     : word.contains(typed)                                   ? kInside
-                     : typed.size() >= kShortest && fitsWithGaps(typed, word) ? kWithGaps
-                                                                              : 0;
-    best = std::max(best, here);
-  }
+  for (const QString& word : words) best = std::max(best, fit(typed, word));
   return best;
+}
+
+/// What a command is called besides is less than its name, and too much to be guessed at by gaps.
+int fitBesides(const QString& typed, const QStringList& words) {
+  const int best = fit(typed, words);
+  return best > kWithGaps ? best * 2 / 3 : 0;
 }
 
 QStringList wordsOf(const QString& text) {
@@ -77,13 +105,16 @@ QStringList wordsOf(const QString& text) {
 int fitOf(const IndexedCommand& command, const QStringList& typed) {
   const QStringList text = wordsOf(command.text);
   const QStringList english = wordsOf(command.english);
+  const QStringList besides = wordsOf(command.words) + wordsOf(command.englishWords);
   const QStringList path = wordsOf(command.path);
   const QStringList tip = wordsOf(command.toolTip);
   int sum = 0;
   for (const QString& word : typed) {
     int best = fit(word, text);
     best = std::max(best, fit(word, english) - 2);
-    best = std::max(best, fit(word, path) / 3);
+    best = std::max(best, fitBesides(word, besides));
+    const int inMenu = fit(word, path);
+    if (inMenu > kMisspelt) best = std::max(best, inMenu / 3);
     const bool inTip = word.size() >= kShortest &&
                        std::any_of(tip.begin(), tip.end(), [&word](const QString& other) {
                          return other.startsWith(word);

@@ -15,9 +15,11 @@ namespace talvesk {
 /// A command of the menus, as it is looked for.
 struct IndexedCommand {
   QPointer<QAction> action;
-  QString key;       ///< by which it is remembered in any language
-  QString text;      ///< without mnemonic
-  QString english;   ///< the same in English; empty where nobody knows it
+  QString key;      ///< by which it is remembered in any language
+  QString text;     ///< without mnemonic
+  QString english;  ///< the same in English; empty where nobody knows it
+  QString words;    ///< what else it is called
+  QString englishWords;
   QString path;      ///< of its menu: "File > Export"
   QString shortcut;  ///< as the desktop writes it; empty without one
   QString toolTip;
@@ -35,11 +37,11 @@ std::vector<IndexedCommand> commandsOf(const QMenuBar& menus, const QAction* but
 /// A text as it is compared: without case, accents and what is neither letter nor digit.
 QString folded(const QString& text);
 
-/// The commands that fit what somebody typed, best first: every word of it is in the text, the
-/// English text, the menu or the tool tip, whole, as a beginning, or with letters left out. Of
-/// equals, and of all where nothing is typed, those come first that were used last.
-/// \param recent keys, the last one first
-/// \return indices
+/// The commands that fit what somebody typed, best first: every word of it, in any order, is in the
+/// text, the English text, what the command is called besides, the menu or the tool tip: whole, as
+/// a beginning, with letters left out, or, from five letters on, with one of them wrong, lacking,
+/// too many or exchanged with the next. Of equals, and of all where nothing is typed, those come
+/// first that were used last. \param recent keys, the last one first \return indices
 std::vector<std::size_t> findCommands(const std::vector<IndexedCommand>& commands,
                                       const QString& typed, const QStringList& recent);
 

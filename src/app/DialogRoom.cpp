@@ -1,8 +1,10 @@
 #include "app/DialogRoom.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QLayout>
 #include <QScreen>
 
 namespace talvesk {
@@ -10,6 +12,17 @@ namespace {
 
 /// What the desktop lays around a dialog, pixels. It tells its own only when one has been shown.
 constexpr QSize kFrame(10, 30);
+
+/// A form lays out its boxes before they have their texts, and Qt keeps the least width that a box
+/// had then: the texts would be cut off wherever there is little room.
+void measureBoxes(QDialog& dialog) {
+  for (QComboBox* box : dialog.findChildren<QComboBox*>()) {
+    QEvent forget(QEvent::StyleChange);
+    QCoreApplication::sendEvent(box, &forget);
+    box->updateGeometry();
+  }
+  if (dialog.layout() != nullptr) dialog.layout()->activate();
+}
 
 }  // namespace
 
@@ -21,6 +34,7 @@ bool DialogRoom::eventFilter(QObject* watched, QEvent* event) {
   // It comes before the dialog is on the screen, and before it looks for its place there.
   if (event->type() == QEvent::Show && !event->spontaneous()) {
     if (auto* dialog = qobject_cast<QDialog*>(watched)) {
+      measureBoxes(*dialog);
       const QSize room = dialog->screen()->availableSize() - kFrame;
       const QSize bounded = dialog->size().boundedTo(room);
       if (bounded != dialog->size()) dialog->resize(bounded);

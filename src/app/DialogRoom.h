@@ -5,7 +5,8 @@
 namespace talvesk {
 
 /// Keeps dialogs, while it lives, from opening larger than what the screen has left beside panels
-/// and a title bar: forms are drawn on large screens.
+/// and a title bar, for forms are drawn on large screens, and their boxes from opening narrower
+/// than their texts.
 class DialogRoom : public QObject {
  public:
   explicit DialogRoom(QObject* parent);

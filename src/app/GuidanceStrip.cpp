@@ -83,6 +83,8 @@ void GuidanceStrip::show(const StepJudgements& steps) {
   showNext();
   tellStep(nextStep(mSteps));
   fitInto(mRow->width());
+  // Drawn anew button by button, a column between two of them stays black at some widths.
+  mRow->update();
 }
 
 void GuidanceStrip::retranslate() {

@@ -1,5 +1,7 @@
 #include "app/Messages.h"
 
+#include "app/DarkDesktop.h"
+
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMessageBox>
@@ -120,8 +122,8 @@ RecoveryAnswer askToRecover(QWidget* parent, const QString& details) {
 }
 
 QString warningStyle(const QWidget& widget) {
-  const bool dark = widget.palette().color(QPalette::Window).lightness() < 128;
-  return dark ? QStringLiteral("color: #ff7a7a;") : QStringLiteral("color: #c00020;");
+  return isDark(widget.palette()) ? QStringLiteral("color: #ff7a7a;")
+                                  : QStringLiteral("color: #c00020;");
 }
 
 QString shortList(const QStringList& lines, int limit) {

@@ -1,3 +1,4 @@
+#include "app/DarkDesktop.h"
 #include "app/LineIcon.h"
 #include "app/StartOptions.h"
 #include "app/Talvesk_MainWindows.h"
@@ -65,6 +66,7 @@ int main(int argc, char** argv) {
     return 2;
   }
 
+  talvesk::outlineBoxes();
   QSplashScreen splash(
       talvesk::picture(QStringLiteral(":/splash20220"), application.devicePixelRatio()));
   splash.show();

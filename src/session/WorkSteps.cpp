@@ -98,17 +98,24 @@ StepJudgement judgePicks(const TomoDocument& document) {
                                                    : Command::kImportTimes;
   std::size_t picks = 0;
   std::size_t traces = 0;
+  std::size_t shots = 0;
   std::size_t without = 0;
   for (std::size_t shot = 0; shot < document.ttArray.size(); ++shot) {
     const TravelTime& record = document.ttArray[shot];
     if (mendsOfRecord(document, static_cast<std::int32_t>(shot)).disabled) continue;
+    ++shots;
     const std::size_t found = pickCount(record);
     if (found == 0) ++without;
     picks += found;
     traces += record.ttMisurati.size();
   }
   if (picks == 0) return missing(Message::tr("no picks yet"), command);
-  if (without > 0) return doubtful(Message::tr("shots without picks: %1").arg(without), command);
+  if (without > 0) {
+    const Message some = Message::tr("shots without picks: %1").arg(without);
+    // Picking has only begun, as long as there is something to pick on.
+    return 2 * without > shots && hasTraces(document) ? missing(some, command)
+                                                      : doubtful(some, command);
+  }
   if (!document.picksComplete()) {
     return doubtful(Message::tr("only %1 of %2 traces have a pick").arg(picks).arg(traces),
                     command);

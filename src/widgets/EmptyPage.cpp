@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace talvesk {
 namespace {
@@ -24,24 +25,40 @@ CommandButtons::CommandButtons(QWidget* parent) : QWidget(parent) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->addStretch(1);
+  for (int i = 0; i < kMost; ++i) {
+    auto* button = new QPushButton(this);
+    button->setAutoDefault(false);
+    button->hide();
+    row->addWidget(button);
+    mButtons << button;
+  }
   row->addStretch(1);
   hide();
 }
 
 void CommandButtons::setCommands(const QList<QAction*>& commands) {
+  Q_ASSERT(commands.size() <= kMost);
   if (commands == mCommands) return;
   mCommands = commands;
-  qDeleteAll(findChildren<QPushButton*>());
-  auto* row = static_cast<QHBoxLayout*>(layout());
-  for (QAction* command : commands) {
-    auto* button = new QPushButton(this);
-    button->setAutoDefault(false);
+  mWires = std::make_unique<QObject>();
+  for (int i = 0; i < kMost; ++i) {
+    QPushButton* button = mButtons[i];
+    button->setVisible(i < commands.size());
+    if (i >= commands.size()) continue;
+    QAction* command = commands[i];
     dress(*button, *command);
-    connect(command, &QAction::changed, button, [button, command] { dress(*button, *command); });
-    connect(button, &QPushButton::clicked, command, &QAction::trigger);
-    row->insertWidget(row->count() - 1, button);
+    connect(command, &QAction::changed, mWires.get(),
+            [button, command] { dress(*button, *command); });
+    connect(button, &QPushButton::clicked, mWires.get(), [command] { command->trigger(); });
   }
   setVisible(!commands.isEmpty());
+}
+
+void CommandButtons::setTabOrderAfter(QWidget* before) {
+  for (QPushButton* button : mButtons) {
+    setTabOrder(before, button);
+    before = button;
+  }
 }
 
 EmptyPage::EmptyPage(QWidget* parent)
@@ -54,6 +71,21 @@ EmptyPage::EmptyPage(QWidget* parent)
   column->addWidget(mLabel);
   column->addWidget(mButtons);
   column->addStretch(1);
+}
+
+void EmptyPage::setText(const QString& text) {
+  const QString blank = QStringLiteral("\n\n");
+  const auto html = [](const QString& tag, const QString& plain) {
+    const QString inside = plain.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+    return QStringLiteral("<%1>%2</%1>").arg(tag, inside);
+  };
+  const int end = text.indexOf(blank);
+  QString heading = text.left(std::max(end, 0));
+  if (heading.endsWith(QLatin1Char('.'))) heading.chop(1);
+  const QString rest = end < 0 ? text : text.mid(end + blank.size());
+  mLabel->setTextFormat(Qt::RichText);
+  mLabel->setText((end < 0 ? QString() : html(QStringLiteral("h2"), heading)) +
+                  html(QStringLiteral("p"), rest));
 }
 
 }  // namespace talvesk

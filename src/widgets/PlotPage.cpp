@@ -58,7 +58,6 @@ PlotPage::PlotPage(QWidget* parent) : QWidget(parent) {
   mColumn->setContentsMargins(0, 0, 0, 0);
   mColumn->addWidget(mPlot, 1);
   mEmpty = new EmptyPage(this);
-  mEmpty->label().setTextFormat(Qt::PlainText);
   mPages = new QStackedLayout(this);
   mPages->addWidget(page);
   mPages->addWidget(mEmpty);
@@ -99,11 +98,12 @@ void PlotPage::setTexts(const QString& title, const QString& xTitle, const QStri
 }
 
 void PlotPage::setEmptyText(const QString& text) {
-  mEmpty->label().setText(text);
+  mEmpty->setText(text);
 }
 
 void PlotPage::setEmptyCommands(const QList<QAction*>& commands) {
   mEmpty->setCommands(commands);
+  mEmpty->setTabOrderAfter(this);  // others may have placed the plot since
 }
 
 QWidget* PlotPage::canvas() const {
@@ -150,6 +150,7 @@ void PlotPage::alignNumbers() {
 
 void PlotPage::setWhole(const QRectF& content, bool empty) {
   mPages->setCurrentIndex(empty ? 1 : 0);
+  if (isVisible()) takeKeysIfAny();
   mContent = content;
   if (empty) {
     mGestures->giveUpDrag();
@@ -212,6 +213,17 @@ bool PlotPage::eventFilter(QObject* watched, QEvent* event) {
     }
   }
   return QWidget::eventFilter(watched, event);
+}
+
+/// The Tab key has no business where there is nothing to walk in. Not before it is shown: forms
+/// order only what takes the keys.
+void PlotPage::takeKeysIfAny() {
+  setFocusPolicy(hasNothing() ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+void PlotPage::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  takeKeysIfAny();
 }
 
 void PlotPage::focusInEvent(QFocusEvent* event) {

@@ -77,10 +77,12 @@ class PlotPage : public QWidget, protected PlotSurface {
 
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  void takeKeysIfAny();
   void followContent();
 
   QStackedLayout* mPages = nullptr;

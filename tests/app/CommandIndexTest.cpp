@@ -59,6 +59,29 @@ TEST(CommandIndex, findsByTheEnglishNameTheMenuAndTheToolTip) {
 TEST(CommandIndex, findsWhereLettersAreLeftOut) {
   EXPECT_THAT(found("invrs"), ElementsAre("Run tomography inversion"));
   EXPECT_THAT(found("nvrs"), IsEmpty()) << "a word is begun with its first letter";
+  EXPECT_THAT(found("gph"), IsEmpty()) << "whole menus would be found";
+}
+
+TEST(CommandIndex, findsWhereALetterIsNotAsItShouldBe) {
+  EXPECT_THAT(found("invesrion"), ElementsAre("Run tomography inversion")) << "exchanged";
+  EXPECT_THAT(found("inwersion"), ElementsAre("Run tomography inversion")) << "wrong";
+  EXPECT_THAT(found("inverssion"), ElementsAre("Run tomography inversion")) << "too many";
+  EXPECT_THAT(found("inwerssion"), IsEmpty()) << "two are";
+  EXPECT_THAT(found("grad"), IsEmpty()) << "short words would be found everywhere";
+}
+
+TEST(CommandIndex, findsByWhatACommandIsCalledBesidesAfterItsName) {
+  IndexedCommand grid = command("Gitter ...");
+  grid.words = QStringLiteral("Netz, Zellgröße");
+  grid.englishWords = QStringLiteral("mesh, cell size");
+  const std::vector<IndexedCommand> both = {grid, command("Netzbrummen")};
+  using Indices = std::vector<std::size_t>;
+  EXPECT_EQ(findCommands(both, QStringLiteral("mesh"), {}), Indices{0});
+  EXPECT_EQ(findCommands(both, QStringLiteral("size cell"), {}), Indices{0});
+  EXPECT_EQ(findCommands(both, QStringLiteral("zellgrosse"), {}), Indices{0});
+  EXPECT_EQ(findCommands(both, QStringLiteral("zellgroses"), {}), Indices{0}) << "misspelt";
+  EXPECT_EQ(findCommands(both, QStringLiteral("netz"), {}), (Indices{1, 0}));
+  EXPECT_EQ(findCommands(both, QStringLiteral("msh"), {}), Indices{}) << "no gaps there";
 }
 
 TEST(CommandIndex, putsTheBetterFitFirstAndOfEqualsTheOneUsedLast) {

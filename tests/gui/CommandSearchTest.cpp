@@ -1,3 +1,6 @@
+#include "app/CommandIndex.h"
+#include "app/CommandWords.h"
+#include "app/StepTexts.h"
 #include "app/presenters/CommandTable.h"
 #include "gui/WindowTest.h"
 
@@ -5,7 +8,11 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
+#include <QSet>
 #include <QTest>
+#include <algorithm>
+#include <iterator>
 
 namespace talvesk {
 namespace {
@@ -89,6 +96,87 @@ TEST_F(CommandSearch, findsByTheTextOfTheLanguageAndByTheEnglishOne) {
     search(words.c_str(), Qt::Key_Escape, [&german](QListWidget& list) {
       EXPECT_EQ(list.currentItem()->text().toStdString(), german);
     });
+  }
+}
+
+/// The commands that lead from recordings to a result, by what those call them who come from other
+/// programs. Each must be among the first three.
+struct SaidAs {
+  const char* typed;
+  const char* action;
+};
+constexpr SaidAs kTrade[] = {
+    {"load seismograms", "actionOpen_shot_files"},
+    {"raw data", "actionOpen_shot_files"},
+    {"segy", "actionOpen_shot_files"},
+    {"sampling rate", "actionRecording_details"},
+    {"file headers", "actionRecording_details"},
+    {"trigger", "actionCount_from_shot"},
+    {"time zero", "actionCount_from_shot"},
+    {"geophone positions", "actionGeometry"},
+    {"topography", "actionGeometry"},
+    {"shot points", "actionGeometry"},
+    {"gps", "actionSurveyed_positions"},
+    {"easting northing", "actionSurveyed_positions"},
+    {"load picks", "actionLoad_TT"},
+    {"first arrivals", "actionLoad_TT"},
+    {"first breaks", "actionAutoPick"},
+    {"automatic picking", "actionAutoPick_survey"},
+    {"first breaks line", "actionAutoPick_survey"},
+    {"reduction velocity", "actionReduction_velocity"},
+    {"reduced travel time", "actionReduced_time"},
+    {"outliers", "actionNext_doubtful"},
+    {"check picks", "actionNext_doubtful"},
+    {"quality control", "actionCheck_recordings"},
+    {"bad traces", "actionCheck_recordings"},
+    {"reciprocal times", "actionReciprocity"},
+    {"reverse shots", "actionReciprocity"},
+    {"mesh", "actionGrid"},
+    {"cell size", "actionGrid"},
+    {"starting model", "actionDefine_model_velocity"},
+    {"initial model", "actionDefine_model_velocity"},
+    {"intial modle", "actionDefine_model_velocity"},
+    {"invert", "actionRun_tomography_inversion"},
+    {"iterations", "actionRun_tomography_inversion"},
+    {"chi-square", "actionSecond_look"},
+    {"misfit", "actionSecond_look"},
+    {"rms", "actionResiduals"},
+    {"computed measured", "actionResiduals"},
+    {"plus minus", "actionRefraction"},
+    {"layered model", "actionRefraction"},
+    {"uncertainty", "actionCertainty"},
+    {"standard deviation", "actionCertainty"},
+    {"html", "actionWeb_page"},
+    {"interactive report", "actionWeb_page"},
+};
+
+TEST_F(CommandSearch, findsTheCommandsOfTheWayToASectionByTheWordsOfTheTrade) {
+  for (const char* language : {"en", "de"}) {  // everybody types English words at times
+    writeSettings(language);
+    open();
+    const std::vector<IndexedCommand> all = commandsOf(*window->menuBar(), nullptr);
+    for (const SaidAs& said : kTrade) {
+      const auto found = findCommands(all, QString::fromUtf8(said.typed), {});
+      QStringList first;
+      for (std::size_t i = 0; i < found.size() && i < 3; ++i) first << all[found[i]].key;
+      EXPECT_TRUE(first.contains(QLatin1String(said.action)))
+          << language << ": " << said.typed << " gives " << first.join(", ").toStdString();
+    }
+  }
+}
+
+TEST_F(CommandSearch, hasWordsForCommandsThatThereAreAndTwoForEachStep) {
+  open();
+  const QStringList named = commandsWithWords();
+  for (const QString& name : named) {
+    EXPECT_NE(window->findChild<QAction*>(name), nullptr) << name.toStdString();
+  }
+  EXPECT_EQ(QSet<QString>(named.begin(), named.end()).size(), named.size()) << "one list each";
+  for (int i = 0; i <= static_cast<int>(StepCommand::kReport); ++i) {
+    const std::string action = StepTexts::action(static_cast<StepCommand>(i));
+    const auto ways = std::count_if(std::begin(kTrade), std::end(kTrade),
+                                    [&](const SaidAs& said) { return action == said.action; });
+    EXPECT_GE(ways, 2) << action;
   }
 }
 

@@ -191,7 +191,19 @@ class DialogTest : public WindowTest {
          }},
         {"runs", [&] { return make<RunsDialog>(); }},
         {"two runs", [&] { return make<CompareRunsDialog>(line, SectionFigureOptions(), false); }},
-        {"second look", [&] { return make<SecondLookDialog>(); }},
+        {"second look",
+         [&] {
+           auto dialog = std::make_unique<SecondLookDialog>(window.get());
+           SecondLook look;
+           look.known = true;
+           look.limit = 12.0;
+           look.beyond = 12;
+           look.suspects = {{7, 3, 0.0046, 0.0237, 0.0007}};
+           look.shifts = {{1, -0.0038, true, true, true}, {3, 0.0048, false, true, false}};
+           look.atLeast = {6, -20.0, -17.0, 0.0, 0.5};
+           dialog->setLook(std::move(look));
+           return std::unique_ptr<QDialog>(std::move(dialog));
+         }},
         {"layers and section",
          [&] {
            return make<CompareLayersDialog>(line, layers.refractData, SectionFigureOptions());

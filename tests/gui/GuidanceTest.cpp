@@ -101,6 +101,25 @@ TEST_F(Guidance, isReachedByTheTabKeyAndSaysWhyWhereTheFocusIs) {
   EXPECT_EQ(child<QLabel>("guidanceReason").text().toStdString(), "Picks: no picks yet");
 }
 
+/// The Tab key meets what an empty view offers where it stands, and stops nowhere else in it.
+TEST_F(Guidance, leadsTheTabKeyThroughEmptyViewsInTheOrderOfReading) {
+  const auto nextStop = [] {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    const auto* button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+    return button != nullptr ? button->text() : QStringLiteral("no button");
+  };
+  open();
+  child<QTabWidget>("tabWidget").setFocus();
+  for (const char* text : {"Open shot files...", "Load Project...", "Import TravelTimes..."}) {
+    EXPECT_EQ(nextStop().toStdString(), text);
+  }
+  loadShots(1);
+  child<QWidget>("showTracesWidget").setFocus();
+  for (const char* text : {"AutoPick all shots along the line", "Import TravelTimes..."}) {
+    EXPECT_EQ(nextStop().toStdString(), text);
+  }
+}
+
 TEST_F(Guidance, staysHiddenInTheNextSession) {
   open();
   auto* bar = &child<QToolBar>("guidanceBar");

@@ -165,7 +165,14 @@ TEST_F(ReciprocityWindow, saysWhyThereIsNothingToCompare) {
   }
   showWritten();
   compare();
-  EXPECT_EQ(child<QLabel>("emptyPage").text().toStdString(), "There are no picks yet.");
+  const QWidget& empty = *child<QStackedWidget>("pages").currentWidget();
+  EXPECT_THAT(empty.findChild<QLabel*>()->text().toStdString(),
+              ::testing::HasSubstr("There are no picks yet"));
+  QStringList offered;
+  for (const QPushButton* button : empty.findChildren<QPushButton*>()) {
+    if (button->isVisible()) offered << button->text();
+  }
+  EXPECT_EQ(offered.join(", ").toStdString(), "AutoPick all shots along the line, Geometry ...");
   EXPECT_EQ(child<QStackedWidget>("pages").currentWidget()->objectName().toStdString(),
             "emptyPage");
   child<editTravelTimesWidget>("showTracesWidget").editPick(0, 3, 0.012);

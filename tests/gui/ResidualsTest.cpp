@@ -178,6 +178,12 @@ TEST_F(ResidualsWindow, followsPicksUndoAndTheSection) {
   EXPECT_TRUE(settled("There is no section yet")) << head();
   EXPECT_TRUE(map().picture().isEmpty());
   EXPECT_FALSE(child<QPushButton>("tableButton").isEnabled());
+  child<QTabWidget>("viewsTabs").setCurrentIndex(1);
+  bool offered = false;
+  for (const QPushButton* button : child<QWidget>("offsetPlot").findChildren<QPushButton*>()) {
+    offered |= button->isVisible() && button->text() == QLatin1String("Run tomography inversion");
+  }
+  EXPECT_TRUE(offered);
 }
 
 TEST_F(ResidualsWindow, givesItsTableAndPicturesAway) {

@@ -79,7 +79,15 @@ TEST_F(Runs, sayWhatToDoWhileThereIsNone) {
     for (const char* name : {"useButton", "compareButton", "renameButton", "deleteButton"}) {
       EXPECT_FALSE(dialog.findChild<QPushButton*>(QLatin1String(name))->isEnabled()) << name;
     }
+    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+      if (button->text() == QLatin1String("Run tomography inversion")) return button->click();
+    }
+    FAIL() << "no way to a run is offered";
   });
+  // Once the list is gone the command asks what it must ask.
+  dialogs.expectBox("Warning:", "Uncomplete set of picks. \n \n", "", QMessageBox::No);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(dialogs.finished());
 }
 
 TEST_F(Runs, becomeTheSectionByUse) {

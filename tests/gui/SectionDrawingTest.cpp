@@ -357,6 +357,30 @@ TEST_F(SectionDrawing, saysWhichLinesOfAFenceAreBeyondItsColours) {
   EXPECT_THAT(message(narrow), HasSubstr("Beyond the colours: own "));
 }
 
+TEST_F(SectionDrawing, offersAPlaceToALineThatCannotStandInTheFence) {
+  openLine();
+  const auto buttonOf = [](const QDialog& dialog, const QString& text) {
+    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+      if (button->text() == text && button->isVisible()) return button;
+    }
+    return static_cast<QPushButton*>(nullptr);
+  };
+  expectDialog<FenceDialog>([&](FenceDialog& dialog) {
+    EXPECT_FALSE(part<FenceView>(dialog, "fenceView").isVisible());
+    EXPECT_NE(buttonOf(dialog, "Surveyed positions ..."), nullptr);
+    QPushButton* place = buttonOf(dialog, "Set geographic coordinates ...");
+    ASSERT_NE(place, nullptr);
+    place->click();
+  });
+  action("actionFence").trigger();
+  dialogs.expect([](QWidget& dialog) {
+    EXPECT_EQ(dialog.objectName(), QStringLiteral("setGeographyDialog"));
+    dialog.close();
+  });
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(dialogs.finished());
+}
+
 TEST_F(SectionDrawing, standsLinesInAFenceAndSaysWhatHasNoPlace) {
   openLine();
   const QString other = QString::fromStdString(home.file("other.tvsk"));

@@ -118,6 +118,13 @@ const Case kCases[] = {
        mends.disabled = true;
        ASSERT_TRUE(setMends(1, mends, document).ok());
      }},
+    {"shots without picks: 2", Step::kPicks, State::kMissing, StepCommand::kPickLine,
+     [](TomoDocument& document, Survey&) {
+       for (TravelTime& each : document.ttArray.edit()) {
+         each.ttMisurati.edit().assign(12, kUnpicked);
+       }
+       record(document, 1).ttMisurati.edit()[4] = 0.012;
+     }},
     {"only 18 of 36 traces have a pick", Step::kPicks, State::kDoubtful, StepCommand::kImportTimes,
      [](TomoDocument& document, Survey&) {
        document.recordings = {};

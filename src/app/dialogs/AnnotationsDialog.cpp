@@ -81,6 +81,7 @@ AnnotationsDialog::AnnotationsDialog(const std::vector<Annotation>& items, const
   mUi->setupUi(this);
   showUnits(*this);
   wrapToolTips(*this);
+  mUi->itemsTable->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   mUi->itemsTable->horizontalHeader()->setSectionResizeMode(kText, QHeaderView::Stretch);
   mUi->pointsTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   connect(mUi->addTextButton, &QPushButton::clicked, this, [this] { add(AnnotationKind::kText); });

@@ -17,6 +17,8 @@ constexpr int kWidth = 620;  ///< pixels, where the window has them
 constexpr int kHeight = 420;
 constexpr int kEdge = 20;  ///< to the sides of the window
 constexpr int kPadding = 6;
+constexpr double kSmall = 0.75;   ///< opacity of what stands below a command
+constexpr double kNotNow = 0.55;  ///< and of the name of one that cannot work
 
 enum Role { kIndexRole = Qt::UserRole, kBelowRole, kShortcutRole, kWorksRole };
 
@@ -37,14 +39,16 @@ class CommandDelegate : public QStyledItemDelegate {
     option.text.clear();
     const bool works = index.data(kWorksRole).toBool();
     const bool marked = (option.state & QStyle::State_Selected) != 0;
+    if (!works && !marked) option.state &= ~QStyle::State_Enabled;  // pales the picture
     const QWidget* list = option.widget;
     list->style()->drawControl(QStyle::CE_ItemViewItem, &option, painter, list);
 
     const QPalette::ColorRole role = marked ? QPalette::HighlightedText : QPalette::Text;
-    const QPalette::ColorGroup group = works || marked ? QPalette::Active : QPalette::Disabled;
-    const QColor strong = option.palette.color(group, role);
-    QColor weak = option.palette.color(QPalette::Active, role);
-    weak.setAlphaF(0.75);
+    // The colour of what is disabled is too pale for what somebody is to read.
+    QColor strong = option.palette.color(QPalette::Active, role);
+    QColor weak = strong;
+    if (!works && !marked) strong.setAlphaF(kNotNow);
+    weak.setAlphaF(kSmall);
     const QRect row = option.rect.adjusted(2 * kPadding + option.decorationSize.width(),
                                            kPadding / 2, -kPadding, -kPadding / 2);
     const QString keys = index.data(kShortcutRole).toString();

@@ -277,7 +277,7 @@ void DialogSetGeometry::refreshMistakes() {
 
 void DialogSetGeometry::notice(const QString& text, bool refused) {
   mUi->noticeLabel->setText(text);
-  mUi->noticeLabel->setStyleSheet(refused ? QStringLiteral("color: red;") : QString());
+  mUi->noticeLabel->setStyleSheet(refused ? warningStyle(*this) : QString());
 }
 
 void DialogSetGeometry::show(const GeometryMistake& mistake) {

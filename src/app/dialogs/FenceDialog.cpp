@@ -5,6 +5,7 @@
 #include "app/ToolTips.h"
 #include "model/Parameters.h"
 #include "ui_FenceDialog.h"
+#include "widgets/EmptyPage.h"
 #include "widgets/fence/FenceView.h"
 
 #include <QImage>
@@ -29,7 +30,13 @@ FenceDialog::FenceDialog(FenceLine own, const ColorPalette& palette, double exag
   mView = new FenceView(this);
   mView->setObjectName(QStringLiteral("fenceView"));
   mUi->viewLayout->addWidget(mView);
+  mEmpty = new EmptyPage(this);
+  mEmpty->setText(
+      tr("No line stands in the fence yet.\n\nA line needs a section and a place on the map. Give "
+         "this survey its place, or add projects that have theirs."));
+  mUi->viewLayout->addWidget(mEmpty);
   setTabOrder(mUi->exaggerationSpin, mView);
+  mEmpty->setTabOrderAfter(mView);
   constexpr auto kRange = parameters::kExaggeration.limits;
   mUi->exaggerationSpin->setRange(kRange.least, kRange.most);
   mUi->exaggerationSpin->setValue(exaggeration);
@@ -50,6 +57,10 @@ FenceDialog::FenceDialog(FenceLine own, const ColorPalette& palette, double exag
 }
 
 FenceDialog::~FenceDialog() = default;
+
+void FenceDialog::offerWhereEmpty(const QList<QAction*>& commands) {
+  mEmpty->setCommands(commands);
+}
 
 void FenceDialog::add(FenceLine line) {
   const QString name = line.name;
@@ -90,7 +101,11 @@ QStringList FenceDialog::beyondColors(const FenceScene& scene) const {
 void FenceDialog::refresh() {
   FenceNotes notes;
   FenceScene scene = fenceOf(mLines, notes);
-  mUi->saveButton->setEnabled(!scene.panels.empty());
+  const bool any = !scene.panels.empty();
+  mView->setVisible(any);
+  mEmpty->setVisible(!any);
+  mUi->allButton->setEnabled(any);
+  mUi->saveButton->setEnabled(any);
   QString text = tr("Lines that stand in the fence: %1.").arg(scene.panels.size());
   if (!notes.converted.isEmpty()) {
     text += QLatin1Char('\n') +

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class QAction;
 class QImage;
 
 namespace talvesk {
@@ -15,6 +16,7 @@ namespace talvesk {
 namespace Ui {
 class FenceDialog;
 }
+class EmptyPage;
 class FenceView;
 
 /// Shows the sections of several lines where they stand on the map. The lines are copies: nothing
@@ -29,6 +31,8 @@ class FenceDialog : public QDialog {
               QWidget* parent = nullptr);
   ~FenceDialog() override;
 
+  /// Commands that give the survey what it lacks to stand in the fence.
+  void offerWhereEmpty(const QList<QAction*>& commands);
   void add(FenceLine line);
   QImage picture() const;
 
@@ -43,6 +47,7 @@ class FenceDialog : public QDialog {
 
   std::unique_ptr<Ui::FenceDialog> mUi;
   FenceView* mView = nullptr;
+  EmptyPage* mEmpty = nullptr;  ///< in place of the view while no line stands in it
   std::vector<FenceLine> mLines;
   ColorPalette mPalette;
 };

@@ -1,6 +1,7 @@
 #include "app/dialogs/KnownGroundDialog.h"
 
 #include "app/MessageText.h"
+#include "app/Messages.h"
 #include "app/ToolTips.h"
 #include "app/UnitWords.h"
 #include "app/dialogs/KnownTables.h"
@@ -78,7 +79,7 @@ void KnownGroundDialog::removeRows() {
 }
 
 void KnownGroundDialog::say(const QString& text, bool refused) {
-  mUi->messageLabel->setStyleSheet(refused ? QStringLiteral("color: red;") : QString());
+  mUi->messageLabel->setStyleSheet(refused ? warningStyle(*this) : QString());
   mUi->messageLabel->setText(text);
 }
 

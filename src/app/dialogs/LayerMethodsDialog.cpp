@@ -96,6 +96,7 @@ LayerMethodsDialog::LayerMethodsDialog(LayerPicks picks, QWidget* parent)
     if (tableWanted) tableWanted(mComparison);
   });
   connect(mUi->copyButton, &QPushButton::clicked, this, &LayerMethodsDialog::copyTable);
+  mUi->summaryTable->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   mSheet->setNothing(tr("Layers are being interpreted..."));
   start(0);
 }

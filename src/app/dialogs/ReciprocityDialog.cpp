@@ -84,6 +84,10 @@ const doctor::ReciprocityTable& ReciprocityDialog::table() const {
   return mModel->table();
 }
 
+void ReciprocityDialog::offerWhereEmpty(const QList<QAction*>& commands) {
+  mUi->emptyPage->setCommands(commands);
+}
+
 void ReciprocityDialog::showSurvey(const TomoDocument& document) {
   doctor::ReciprocityTable table = doctor::reciprocityOf(document);
   const QModelIndex current = mUi->pairsTable->currentIndex();
@@ -110,7 +114,9 @@ void ReciprocityDialog::showSurvey(const TomoDocument& document) {
 
 void ReciprocityDialog::summarize(const TomoDocument& document) {
   const doctor::ReciprocityTable& all = table();
-  mUi->emptyPage->setText(textOf(doctor::whyNoPairs(document)));
+  mUi->emptyPage->setText(textOf(doctor::whyNoPairs(document)) + QStringLiteral("\n\n") +
+                          tr("Pick the traces of more shots. Where they have picks, see whether "
+                             "geophones and shots stand where they stood."));
   QStringList lines;
   if (!all.pairs.empty()) {
     lines << tr("Pairs of shots: %1, RMS of their differences: %2 ms. A wave takes as long on the "

@@ -6,6 +6,8 @@
 #include <memory>
 #include <optional>
 
+class QAction;
+
 namespace talvesk {
 
 namespace Ui {
@@ -23,6 +25,8 @@ class ReciprocityDialog : public QDialog {
  public:
   explicit ReciprocityDialog(QWidget* parent = nullptr);
   ~ReciprocityDialog() override;
+
+  void offerWhereEmpty(const QList<QAction*>& commands);
 
   /// Compares the picks anew and shows what comes of it; the chosen pair stays chosen.
   void showSurvey(const TomoDocument& document);

@@ -124,6 +124,13 @@ void ResidualsDialog::showSurvey(const TomoDocument& document,
   showViews();
 }
 
+void ResidualsDialog::offerWhereEmpty(const QList<QAction*>& commands) {
+  for (PlotPage* plot :
+       std::initializer_list<PlotPage*>{mUi->offsetPlot, mUi->shotsPlot, mUi->geophonesPlot}) {
+    plot->setEmptyCommands(commands);
+  }
+}
+
 void ResidualsDialog::fillShots() {
   const QSignalBlocker quiet(mUi->shotBox);
   const int before = mUi->shotBox->currentIndex();

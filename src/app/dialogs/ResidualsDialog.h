@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+class QAction;
+
 namespace talvesk {
 
 namespace Ui {
@@ -24,6 +26,8 @@ class ResidualsDialog : public QDialog {
  public:
   explicit ResidualsDialog(QWidget* parent = nullptr);
   ~ResidualsDialog() override;
+
+  void offerWhereEmpty(const QList<QAction*>& commands);
 
   /// Shows the residuals of a survey as it is; the current pick stays current.
   /// \param section how the window draws the section

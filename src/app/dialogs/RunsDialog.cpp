@@ -4,11 +4,13 @@
 #include "figures/RunThumbnail.h"
 #include "model/KeptRuns.h"
 #include "ui_RunsDialog.h"
+#include "widgets/EmptyPage.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QStyle>
 #include <algorithm>
 
 namespace talvesk {
@@ -56,8 +58,17 @@ QTableWidgetItem* fixedItem(const QString& text, bool number) {
 
 RunsDialog::RunsDialog(QWidget* parent) : QDialog(parent), mUi(std::make_unique<Ui::RunsDialog>()) {
   mUi->setupUi(this);
-  resize(size().boundedTo(screen()->availableSize() * kMostOfScreen));
+  mWays = new CommandButtons(this);
+  mWays->setTabOrderAfter(mUi->runsTable);
+  mUi->emptyLayout->insertStretch(0, 1);
+  mUi->emptyLayout->addWidget(mWays);
+  mUi->emptyLayout->addStretch(1);
   QTableWidget& table = *mUi->runsTable;
+  int heads = 4 * style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+  for (int i = 0; i < table.columnCount(); ++i) {
+    heads += table.horizontalHeader()->sectionSizeHint(i);
+  }
+  resize(size().expandedTo({heads, 0}).boundedTo(screen()->availableSize() * kMostOfScreen));
   table.verticalHeader()->setDefaultSectionSize(table.iconSize().height() + 8);
   table.horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   table.horizontalHeader()->setStretchLastSection(true);
@@ -70,6 +81,10 @@ RunsDialog::RunsDialog(QWidget* parent) : QDialog(parent), mUi(std::make_unique<
 }
 
 RunsDialog::~RunsDialog() = default;
+
+void RunsDialog::offerWhereEmpty(QAction& command) {
+  mWays->setCommands({&command});
+}
 
 void RunsDialog::setRuns(const TomoDocument& document, const ColorPalette& palette) {
   const std::vector<unsigned> before = selected();

@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+class QAction;
 class QTableWidgetItem;
 
 namespace talvesk {
@@ -16,6 +17,7 @@ namespace talvesk {
 namespace Ui {
 class RunsDialog;
 }
+class CommandButtons;
 
 /// Lists the inversions that have been run, the latest first. It changes nothing itself: what the
 /// user wants of a run, which it knows by its number, it tells.
@@ -25,6 +27,8 @@ class RunsDialog : public QDialog {
  public:
   explicit RunsDialog(QWidget* parent = nullptr);
   ~RunsDialog() override;
+
+  void offerWhereEmpty(QAction& command);
 
   /// Lists the runs of a survey; those stay selected that were. \param palette of the thumbnails
   void setRuns(const TomoDocument& document, const ColorPalette& palette);
@@ -51,6 +55,7 @@ class RunsDialog : public QDialog {
   void takeName(QTableWidgetItem* item);
 
   std::unique_ptr<Ui::RunsDialog> mUi;
+  CommandButtons* mWays;  ///< of a list that is empty
   TomoDocument mDocument;
   ColorPalette mPalette;
   unsigned mShown = 0;    ///< number of the run in use; 0: none

@@ -39,6 +39,7 @@ SecondLookDialog::SecondLookDialog(QWidget* parent)
   setModal(false);
   for (QTableWidget* table : {mUi->suspectsTable, mUi->shiftsTable}) {
     table->verticalHeader()->hide();
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->horizontalHeader()->setStretchLastSection(true);
   }
   // By click and by key alike.
@@ -107,6 +108,7 @@ void SecondLookDialog::fillShifts() {
     if (!shift.recording) reason = tr("no recording: its picks are shifted");
     if (shift.seeming) reason = tr("seems so: run again with shifts of shots");
     auto* why = new QTableWidgetItem(reason);
+    why->setToolTip(reason);
     table.setItem(row, kWhy, why);
   }
   table.setCurrentCell(-1, -1);

@@ -1,10 +1,12 @@
 #include "app/presenters/FencePresenter.h"
 
+#include "app/AfterClosing.h"
 #include "app/dialogs/FenceDialog.h"
 #include "app/presenters/FileExport.h"
 #include "app/presenters/ProjectPresenter.h"
 #include "base/AtomicFile.h"
 #include "io/project/projectReader.h"
+#include "ui_Talvesk_MainWindows.h"
 
 #include <QBuffer>
 #include <QFileDialog>
@@ -32,6 +34,8 @@ void FencePresenter::show() {
                       QFileInfo(mDesk.project.path()).canonicalFilePath()},
                      mDesk.palettes().current(), mDesk.section().verticalExaggeration,
                      &mDesk.window);
+  dialog.offerWhereEmpty({afterClosing(dialog, *mDesk.ui.actionSet_geography_coordinates),
+                          afterClosing(dialog, *mDesk.ui.actionSurveyed_positions)});
   dialog.addWanted = [&] { addTo(dialog); };
   dialog.saveWanted = [&] { save(dialog); };
   dialog.exec();

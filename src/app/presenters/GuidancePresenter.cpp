@@ -40,6 +40,7 @@ GuidancePresenter::GuidancePresenter(Desk& desk)
       {desk.ui.actionOpen_shot_files, desk.ui.actionLoad_Project, desk.ui.actionLoad_TT});
   desk.ui.emptyLayout->insertStretch(0, 1);
   desk.ui.emptyLayout->addWidget(ways);
+  ways->setTabOrderAfter(desk.ui.tabWidget);
   desk.ui.emptyLayout->addStretch(1);
   mDue.setSingleShot(true);
   mDue.setInterval(kTogether);

@@ -32,6 +32,7 @@ void ReciprocityPresenter::show() {
   if (!mDialog) {
     mDialog = new ReciprocityDialog(&mDesk.window);
     mDialog->setAttribute(Qt::WA_DeleteOnClose);
+    mDialog->offerWhereEmpty({mDesk.ui.actionAutoPick_survey, mDesk.ui.actionGeometry});
     connect(mDialog, &ReciprocityDialog::pickWanted, this, &ReciprocityPresenter::goTo);
     connect(mDialog, &ReciprocityDialog::mendWanted, this, &ReciprocityPresenter::mend);
     connect(mDialog, &ReciprocityDialog::saveWanted, this, &ReciprocityPresenter::save);

@@ -31,6 +31,7 @@ void ResidualsPresenter::show() {
   if (!mDialog) {
     mDialog = new ResidualsDialog(&mDesk.window);
     mDialog->setAttribute(Qt::WA_DeleteOnClose);
+    mDialog->offerWhereEmpty({mDesk.ui.actionRun_tomography_inversion});
     connect(mDialog, &ResidualsDialog::pickWanted, this, &ResidualsPresenter::goTo);
     connect(mDialog, &ResidualsDialog::pictureWanted, this, &ResidualsPresenter::savePicture);
     connect(mDialog, &ResidualsDialog::tableWanted, this, &ResidualsPresenter::saveTable);

@@ -1,5 +1,6 @@
 #include "app/presenters/RunsPresenter.h"
 
+#include "app/AfterClosing.h"
 #include "app/RunTexts.h"
 #include "app/WaitCursor.h"
 #include "app/dialogs/CompareRunsDialog.h"
@@ -46,6 +47,7 @@ Status useBeside(std::size_t index, TomoDocument& document, Log& log) {
 
 void RunsPresenter::show() {
   RunsDialog dialog(&mDesk.window);
+  dialog.offerWhereEmpty(*afterClosing(dialog, *mDesk.ui.actionRun_tomography_inversion));
   const auto refresh = [&] { dialog.setRuns(mDesk.document(), mDesk.palettes().current()); };
   connect(&dialog, &RunsDialog::useWanted, this, [&](unsigned number) {
     use(number);
