@@ -290,31 +290,26 @@ TEST_F(Feet, setTheRangeOfTheColours) {
   EXPECT_EQ(palettes.current().max_db, 3500.0) << "was not touched";
 }
 
-/// Counts how often a widget is drawn.
-class Paints : public QObject {
- public:
-  explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
-  bool eventFilter(QObject*, QEvent* event) override {
-    count += event->type() == QEvent::Paint ? 1 : 0;
-    return false;
-  }
-  int count = 0;
-};
-
 TEST_F(Feet, reachAProfileThatIsOpen) {
   openSurvey();
   DepthProfileDialog dialog;
   dialog.setSection(DepthProfiles(writable()));
   show(dialog);
   auto& place = *dialog.findChild<QAbstractSpinBox*>("placeSpin");
+  auto& sheet = *dialog.findChild<QWidget*>("profileSheet");
   EXPECT_THAT(place.text().toStdString(), ::testing::EndsWith(" m"));
-  Paints paints(*dialog.findChild<QWidget*>("profileSheet"));
+  const QImage inMetres = sheet.grab().toImage();
+  // Words as they would be in another language.
+  auto& label = *dialog.findChild<QLabel*>("placeLabel");
+  label.setText(QStringLiteral("Ort:"));
+  sheet.setAccessibleName(QStringLiteral("Geschwindigkeit"));
   const InFeet feet;
   QEvent change(QEvent::LanguageChange);
   QApplication::sendEvent(&dialog, &change);
-  QCoreApplication::processEvents();
   EXPECT_THAT(place.text().toStdString(), ::testing::EndsWith(" ft"));
-  EXPECT_GT(paints.count, 0);
+  EXPECT_EQ(label.text().toStdString(), "&Distance:");
+  EXPECT_THAT(sheet.accessibleName().toStdString(), HasSubstr("Velocity"));
+  EXPECT_NE(sheet.grab().toImage(), inMetres);
 }
 
 TEST_F(Feet, standInTipsThatNameAVelocity) {

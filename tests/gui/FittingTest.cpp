@@ -8,6 +8,7 @@
 #include "model/GroundModel.h"
 #include "model/Recordings.h"
 #include "model/TomographyOutcome.h"
+#include "support/InFeet.h"
 #include "support/TestSurveys.h"
 #include "view/SectionScene.h"
 #include "widgets/SeriesPlot.h"
@@ -278,6 +279,14 @@ TEST_F(Fitting, leadsFromTheStatusBarToGroundAtALimit) {
     if (cells.item(row)->text().contains(QStringLiteral("at the limit of"))) atLimit = row;
   }
   ASSERT_GE(atLimit, 0);
+  QEvent change(QEvent::LanguageChange);
+  {
+    const testing::InFeet feet;
+    QApplication::sendEvent(window.get(), &change);
+    EXPECT_THAT(cells.item(atLimit)->text().toStdString(), HasSubstr(" ft/s: "));
+  }
+  QApplication::sendEvent(window.get(), &change);
+  EXPECT_THAT(cells.item(atLimit)->text().toStdString(), HasSubstr(" m/s: "));
   cells.setCurrentRow(atLimit);
   EXPECT_EQ(child<QTabWidget>("tabWidget").currentWidget(), &child<QWidget>("vtk_tab"));
   auto& view = child<SectionView>("vtk_widget");

@@ -309,8 +309,10 @@ TEST_F(Refraction, marksNothingOnAGradientUnlessTheUserWants) {
     dialogs.expect([answer](QWidget& box) {
       const auto& message = dynamic_cast<QMessageBox&>(box);
       EXPECT_THAT(message.text().toStdString(), HasSubstr("No layers are proposed. Mark "));
-      EXPECT_THAT(message.informativeText().toStdString(),
-                  HasSubstr("a velocity that grows steadily with depth, from 500 m/s by 30 m/s"));
+      EXPECT_THAT(
+          message.informativeText().toStdString(),
+          HasSubstr(
+              "a velocity that grows steadily with depth, from 500 m/s with a gradient of 30 1/s"));
       message.button(answer)->click();
     });
     press("proposeSurveyButton");

@@ -44,6 +44,7 @@ SecondLookPresenter::SecondLookPresenter(Desk& desk)
 
 void SecondLookPresenter::retranslate() {
   tell();
+  if (mDialog != nullptr && mDialog->isVisible()) refresh();
 }
 
 void SecondLookPresenter::tell() {

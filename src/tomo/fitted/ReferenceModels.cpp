@@ -24,8 +24,10 @@ Message speed(double value) {
   return Message::velocity(std::round(value), 1);
 }
 
+/// To a tenth of a metre, and in feet with no more digits.
 Message depthText(double metres) {
-  return Message::length(std::round(10.0 * metres) / 10.0, metres < 100.0 ? 3 : 4);
+  const double tenths = std::round(10.0 * metres) / 10.0;
+  return Message::length(tenths, tenths < 10.0 ? 2 : tenths < 100.0 ? 3 : 4);
 }
 
 /// "4 m to 6.5 m": the depths along the line but for the tenth at either end.
