@@ -1,6 +1,7 @@
 #include "figures/FigurePlot.h"
 
 #include "figures/FigureFile.h"
+#include "figures/FigureNumbers.h"
 #include "figures/FigureOutput.h"
 #include "figures/ShownScale.h"
 
@@ -248,7 +249,7 @@ Status fitSheet(const CanvasSize& wanted, double& widthMm, double& heightMm, con
 }
 
 QString figureNumber(double value, int digits) {
-  return QString::number(value, 'g', digits);
+  return figureLocale().toString(value, 'g', digits);
 }
 
 void paintFigureFrame(QPainter& painter, const QRectF& rect) {

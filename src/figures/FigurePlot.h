@@ -97,7 +97,7 @@ struct CanvasSize {
 Status fitSheet(const CanvasSize& wanted, double& widthMm, double& heightMm, const PlotPlace& place,
                 const std::function<Status()>& fit);
 
-/// Numbers in a file look the same whatever the user's language.
+/// A number on a picture, see FigureNumbers.h.
 QString figureNumber(double value, int digits = 10);
 
 /// The thin frame around a canvas or a colour bar.

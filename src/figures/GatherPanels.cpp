@@ -290,7 +290,7 @@ class PanelPainter {
   QFont mTitle;
   QFont mHeading;
   QFont mNumber;
-  QLocale mLocale = QLocale::c();
+  QLocale mLocale = figureLocale();
   Measures mAt;
 };
 

@@ -75,7 +75,7 @@ RefractionSheet::RefractionSheet(const TomoDocument& document,
 }
 
 void RefractionSheet::addLayers() {
-  for (QwtPlotItem* item : refraction_items::layers(mScene, QLocale::c())) mPlot.add(item);
+  for (QwtPlotItem* item : refraction_items::layers(mScene, figureLocale())) mPlot.add(item);
   mPlot.add(refraction_items::surface(mScene));
   using namespace section_items;
   mPlot.add(markers(mScene.geophones, FigureWords::tr("Geophones"), Marker::kGeophone));

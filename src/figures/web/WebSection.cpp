@@ -238,7 +238,7 @@ class SectionWriter {
     for (const DrawnIsoline& isoline : mScene.annotations.isolines) {
       const MarkedIsoline& mark = isoline.mark;
       for (const ContourLine& contour : isoline.lines) {
-        QJsonObject json = lookJson(QStringLiteral("line"), isolineName(mark, QLocale::c()),
+        QJsonObject json = lookJson(QStringLiteral("line"), isolineName(mark, figureLocale()),
                                     mark.color, mark.width);
         std::vector<Point2D> points = simplifiedLine(contour.points, 0.02);
         if (contour.closed && !points.empty()) points.push_back(points.front());
