@@ -232,6 +232,11 @@ PlotPlace FigurePlot::paint(QPainter& painter, const QRectF& sheet, double width
   return place;
 }
 
+CanvasSize sizeOfPart(const CanvasSize& whole, const std::optional<PlotPart>& part) {
+  if (!part) return whole;
+  return {whole.widthMm > 0.0 ? part->widthMm : 0.0, whole.heightMm > 0.0 ? part->heightMm : 0.0};
+}
+
 Status fitSheet(const CanvasSize& wanted, double& widthMm, double& heightMm, const PlotPlace& place,
                 const std::function<Status()>& fit) {
   constexpr double kBesideMm = 40.0;  // about what axes and texts take

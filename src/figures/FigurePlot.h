@@ -1,9 +1,11 @@
 #pragma once
 
 #include "base/Status.h"
+#include "figures/PlotPart.h"
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class QPainter;
@@ -88,6 +90,9 @@ struct CanvasSize {
   double widthMm = 0.0;
   double heightMm = 0.0;
 };
+
+/// What a part of a plot wants of a sheet, where the whole wants so much.
+CanvasSize sizeOfPart(const CanvasSize& whole, const std::optional<PlotPart>& part);
 
 /// Gives a sheet the size at which its canvas has that wanted. One larger than any sheet
 /// (FigureSheet::kMaxMm) is only measured, about, and not laid out.
