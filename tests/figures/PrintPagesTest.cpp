@@ -3,6 +3,7 @@
 #include "figures/print/PrintPages.h"
 #include "model/InversionRecord.h"
 #include "model/SurveyLine.h"
+#include "support/PrintedSheets.h"
 #include "support/SectionDocument.h"
 #include "support/ShotDocument.h"
 #include "support/TestFolder.h"
@@ -27,73 +28,17 @@ namespace talvesk {
 namespace {
 
 using ::testing::HasSubstr;
+using testing::geophonesApartMm;
 using ::testing::Not;
+using testing::imageOf;
+using testing::layers;
+using testing::lengthOf;
 using testing::sectionDocument;
+using testing::on;
+using testing::prepared;
 using testing::shotDocument;
 using testing::TestFolder;
-
-double layers(std::uint32_t row, std::uint32_t) {
-  return 400.0 + 150.0 * row;
-}
-
-PrintSettings on(const std::string& name, bool landscape, double scale) {
-  for (const Paper& known : papers()) {
-    if (known.name != name) continue;
-    PrintSettings settings;
-    settings.sheet = PrintSheet::on(known, landscape, scale);
-    return settings;
-  }
-  throw std::invalid_argument(name);
-}
-
-PrintPages prepared(const PrintFigure& figure, const PrintSettings& settings) {
-  PrintPages pages;
-  const Status status = preparePrint(figure, settings, pages);
-  EXPECT_TRUE(status.ok()) << status.message();
-  return pages;
-}
-
-/// \param dpi a whole number of pixels
-QImage imageOf(const PrintPages& pages, double dpi, std::size_t page = 0) {
-  const double perMm = dpi / kMmPerInch;
-  QImage image(static_cast<int>(std::lround(pages.sheet.widthMm * perMm)),
-               static_cast<int>(std::lround(pages.sheet.heightMm * perMm)), QImage::Format_RGB32);
-  setResolution(image, dpi);
-  QPainter painter(&image);
-  pages.paint(page, painter, QRectF(image.rect()));
-  return image;
-}
-
-/// Middles of the runs of one colour along a row of pixels.
-std::vector<double> runsOf(const QImage& image, int row, QRgb color) {
-  std::vector<double> middles;
-  int begin = -1;
-  for (int column = 0; column < image.width(); ++column) {
-    const bool same = image.pixel(column, row) == color;
-    if (same && begin < 0) begin = column;
-    if (!same && begin >= 0) {
-      middles.push_back(0.5 * (begin + column - 1));
-      begin = -1;
-    }
-  }
-  return middles;
-}
-
-/// Between the first and the last geophone of level ground, as a ruler on the paper has it.
-double geophonesApartMm(const QImage& image, std::size_t geophones, double dpi) {
-  for (int row = 0; row < image.height(); ++row) {
-    const std::vector<double> middles = runsOf(image, row, qRgb(32, 32, 32));
-    if (middles.size() == geophones) {
-      return (middles.back() - middles.front()) / dpi * kMmPerInch;
-    }
-  }
-  return 0.0;
-}
-
-double lengthOf(const TomoDocument& document) {
-  const std::vector<Point2D>& geophones = document.line->goephonesStringSet[0];
-  return geophones.back().x - geophones.front().x;
-}
+using testing::svgOf;
 
 TEST(PrintPages, geophonesAreAsFarApartOnPaperAsTheScaleHasIt) {
   const TomoDocument section = sectionDocument(8, 30, 0.0, layers);
@@ -313,15 +258,6 @@ TEST(PrintPages, figuresWithoutALengthFillTheSheetAtAnyScale) {
                          pages.figureHeightMm / (pages.sheet.heightMm - 39.0)),
                 1.0, 1e-6);
   }
-}
-
-std::string svgOf(const PrintPages& pages, std::size_t page = 0) {
-  QByteArray bytes;
-  const Status status = paintFigure(
-      FigureFormat::kSvg, pages.sheet,
-      [&](QPainter& painter, const QRectF& rect) { pages.paint(page, painter, rect); }, bytes);
-  EXPECT_TRUE(status.ok()) << status.message();
-  return bytes.toStdString();
 }
 
 TEST(PrintPages, theBlockTellsTitleScalesAndLengthOfTheBar) {
