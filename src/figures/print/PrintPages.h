@@ -34,6 +34,8 @@ struct PrintPages {
   double scale = 0.0;  ///< as printed, metres along the line to one of paper; 0: there is none
   double figureWidthMm = 0.0;  ///< without the block below
   double figureHeightMm = 0.0;
+  /// Where the plot of each sheet lies on it, of a figure along the line.
+  std::vector<PlotPlace> places;
   /// \param page from 0, row by row \param rect of the whole sheet, in units of the device
   std::function<void(std::size_t page, QPainter& painter, const QRectF& rect)> paint;
 
