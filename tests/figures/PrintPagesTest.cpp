@@ -192,37 +192,6 @@ TEST(PrintPages, refusesScalesThatAreNone) {
   EXPECT_FALSE(preparePrint(printedSection(section, {}), settings, pages).ok());
 }
 
-TEST(PrintPages, sheetsPutTogetherAreOneFigureTrueToScale) {
-  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
-  PrintSettings settings = on("A4", true, 40.0);
-  settings.tiles = true;
-  const PrintPages pages = prepared(printedSection(document, {}), settings);
-  ASSERT_GT(pages.columns, 2U);
-  constexpr double kDpi = 254.0;  // ten pixels to a millimetre
-  const int margin = 100;
-  const QSize room(2770, 1900);
-  const QSize step(room.width() - 100, room.height() - 100);
-  QImage whole(step.width() * static_cast<int>(pages.columns) + 100, room.height(),
-               QImage::Format_RGB32);
-  const std::size_t row = 0;
-  for (std::size_t column = 0; column < pages.columns; ++column) {
-    const QImage all = imageOf(pages, kDpi, row * pages.columns + column);
-    for (int x = 0; x < margin; ++x) {
-      ASSERT_EQ(all.pixel(x, 300), qRgb(255, 255, 255)) << "the margin is blank at " << x;
-    }
-    const QImage sheet = all.copy(QRect({margin, margin}, room));
-    const int left = static_cast<int>(column) * step.width();
-    if (column > 0) {
-      // Above the block, what two sheets have in common is the same, marks and all.
-      const QRect common(left, 0, 100, 1600);
-      EXPECT_EQ(whole.copy(common), sheet.copy(QRect(0, 0, 100, 1600))) << column;
-    }
-    QPainter(&whole).drawImage(left, 0, sheet);
-  }
-  EXPECT_NEAR(geophonesApartMm(whole, document.line->goephonesStringSet[0].size(), kDpi),
-              1e3 * lengthOf(document) / 40.0, 0.2);
-}
-
 TEST(PrintPages, toFitIsTheLargestScaleOfThreeDigits) {
   const TomoDocument section = sectionDocument(8, 30, 0.0, layers);
   const TomoDocument shots = shotDocument(5, 24, 400);
