@@ -91,11 +91,13 @@ Status layOutSection(SectionPlots& plots, const PrintSize& size, LaidFigure& lai
 
 PrintFigure printedSection(const TomoDocument& document, const SectionFigureOptions& options) {
   PrintFigure figure;
-  figure.title = options.title;
-  if (figure.title.empty()) figure.title = titleOr(document, FigureWords::tr("Section"));
   figure.alongLine = true;
   figure.upright = Upright::kElevation;
   const auto plots = std::make_shared<SectionPlots>(SectionPlots{document, options, {}});
+  // As above the section on the screen: without a title of its own it is what the colours show.
+  std::shared_ptr<SectionPlot> plot;
+  if (plots->at(0.0, plot).ok()) figure.title = plot->title();
+  if (figure.title.empty()) figure.title = titleOr(document, FigureWords::tr("Section"));
   figure.layOut = [plots](const PrintSize& size, LaidFigure& laid) {
     return layOutSection(*plots, size, laid);
   };
@@ -196,7 +198,10 @@ PrintFigure printedDepthProfile(const TomoDocument& document, const DepthProfile
                                 double x) {
   PrintFigure figure;
   figure.title = titleAnd(document, FigureWords::tr("Depth profile"));
-  figure.layOut = [&section, profile = section.at(x)](const PrintSize& size, LaidFigure& laid) {
+  // Places that are shown rounded may lie a hair beyond the ends.
+  const double within = std::clamp(x, section.left(), std::max(section.left(), section.right()));
+  figure.layOut = [&section, profile = section.at(within)](const PrintSize& size,
+                                                           LaidFigure& laid) {
     const double high = std::min(size.heightMm, size.widthMm);
     return prepareDepthProfileFigure(profile, section, size.widthMm, high, laid.drawing);
   };
