@@ -11,6 +11,7 @@
 #include <QByteArray>
 #include <QColor>
 #include <QImage>
+#include <QLocale>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -27,18 +28,18 @@
 namespace talvesk {
 namespace {
 
-using ::testing::HasSubstr;
 using testing::geophonesApartMm;
-using ::testing::Not;
+using ::testing::HasSubstr;
 using testing::imageOf;
 using testing::layers;
 using testing::lengthOf;
-using testing::sectionDocument;
+using ::testing::Not;
 using testing::on;
 using testing::prepared;
+using testing::sectionDocument;
 using testing::shotDocument;
-using testing::TestFolder;
 using testing::svgOf;
+using testing::TestFolder;
 
 TEST(PrintPages, geophonesAreAsFarApartOnPaperAsTheScaleHasIt) {
   const TomoDocument section = sectionDocument(8, 30, 0.0, layers);
@@ -249,14 +250,89 @@ TEST(PrintPages, theBlockTellsTitleScalesAndLengthOfTheBar) {
   setLengthUnit(LengthUnit::kMetre);
 }
 
-TEST(PrintPages, sheetsOfSeveralTellTheirPlace) {
+TEST(PrintPages, proposesTheFirstUsualScaleThatFitsOneSheet) {
+  const TomoDocument section = sectionDocument(8, 30, 0.0, layers);  // 15 m and a bit
+  const TomoDocument shots = shotDocument(12, 24, 400);
+  const PrintFigure figures[] = {printedSection(section, {}), printedCurves(shots, {})};
+  for (const PrintFigure& figure : figures) {
+    for (const double side : {60.0, 100.0, 210.0}) {
+      PrintSettings settings;
+      settings.sheet = {500.0, 1.4 * side, side};
+      const double scale = proposedScale(figure, settings);
+      PrintPages pages;
+      settings.sheet.scale = scale;
+      const bool fitting = preparePrint(figure, settings, pages).ok();
+      EXPECT_TRUE(fitting || scale == 500.0) << side;
+      settings.sheet.scale = 500.0;
+      const bool first = preparePrint(figure, settings, pages).ok();
+      EXPECT_EQ(scale == 500.0, first || !fitting) << side;
+    }
+  }
+  TomoDocument longLine = shotDocument(12, 24, 400);
+  PrintSettings narrow;
+  narrow.sheet = {500.0, 130.0, 210.0};
+  double last = 0.0;
+  for (const double longer : {1.0, 10.0, 30.0}) {
+    for (Point2D& geophone : longLine.line.edit().goephonesStringSet[0]) geophone.x *= longer;
+    const double scale = proposedScale(printedCurves(longLine, {}), narrow);
+    EXPECT_GE(scale, last);
+    last = scale;
+  }
+  EXPECT_GT(last, 5000.0);
+}
+
+TEST(PrintPages, aScaleAtWhichAFigureIsTooSmallDoesNotHideThoseThatFit) {
+  TomoDocument document = shotDocument(12, 24, 400);
+  for (Point2D& geophone : document.line.edit().goephonesStringSet[0]) geophone.x *= 4.0;
+  const PrintFigure curves = printedCurves(document, {});
+  PrintFigure figure = curves;
+  figure.layOut = [&curves](const PrintSize& size, LaidFigure& laid) {
+    if (size.scale > 20000.0) return Status::failure("too small");
+    return curves.layOut(size, laid);
+  };
+  EXPECT_EQ(proposedScale(figure, on("A4", false, 500.0)),
+            proposedScale(curves, on("A4", false, 500.0)));
+  PrintFigure nothing = curves;
+  nothing.layOut = [](const PrintSize&, LaidFigure&) { return Status::failure("nothing"); };
+  EXPECT_EQ(proposedScale(nothing, on("A4", false, 500.0)), 500.0);
+}
+
+TEST(PrintPages, aPlaceBesideTheSectionIsItsEnd) {
   const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
-  PrintSettings settings = on("A4", true, 40.0);
+  const DepthProfiles profiles(document);
+  ASSERT_FALSE(profiles.empty());
+  for (const double x : {profiles.left() - 0.004, profiles.right() + 0.004}) {
+    const PrintPages pages =
+        prepared(printedDepthProfile(document, profiles, x), on("A4", true, 1));
+    EXPECT_EQ(svgOf(pages).find("no section here"), std::string::npos) << x;
+  }
+}
+
+TEST(PrintPages, theTitleOfASectionWithoutOneIsWhatItShows) {
+  TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  SectionFigureOptions options;
+  EXPECT_EQ(printedSection(document, options).title, "Velocity");
+  options.scene.quantity = SectionQuantity::kVerticalGradient;
+  EXPECT_EQ(printedSection(document, options).title, "Vertical gradient of velocity");
+  document.title = "Dam";
+  EXPECT_EQ(printedSection(document, options).title, "Dam");
+}
+
+TEST(PrintPages, numbersAreThoseOfTheLanguage) {
+  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  const QLocale before;
+  QLocale::setDefault(QLocale(QLocale::German));
+  PrintSettings settings = on("A3", true, 40.0);
+  settings.exaggeration = 1.5;
   settings.tiles = true;
-  const PrintPages pages = prepared(printedSection(document, {}), settings);
-  const std::string second = svgOf(pages, 1);
-  EXPECT_THAT(second,
-              HasSubstr("Sheet 2 of " + std::to_string(pages.count()) + ": row 1, column 2"));
+  const std::string german = svgOf(prepared(printedSection(document, {}), settings));
+  settings.sheet.scale = 12500.0;
+  const std::string small = svgOf(prepared(printedSection(document, {}), settings));
+  QLocale::setDefault(before);
+  EXPECT_NE(german.find(">1,25<"), std::string::npos);
+  EXPECT_NE(german.find("1:26,67"), std::string::npos);
+  EXPECT_EQ(german.find("1:26.67"), std::string::npos);
+  EXPECT_NE(small.find("1:12500"), std::string::npos) << "and nothing stands between thousands";
 }
 
 TEST(PrintPages, aFileHasAllSheetsOfAllFigures) {

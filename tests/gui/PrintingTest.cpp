@@ -40,10 +40,10 @@ class Printing : public WindowTest {
  protected:
   Printing() { open(); }
 
-  void takeSection() {
+  void takeSection(std::uint32_t columns = 20) {
     TomoDocument& document = writable();
     document = testing::sectionDocument(
-        6, 20, 0.5, [](std::uint32_t row, std::uint32_t) { return 400.0 + 300.0 * row; });
+        6, columns, 0.5, [](std::uint32_t row, std::uint32_t) { return 400.0 + 300.0 * row; });
     document.title = "Hill 7/b";
     showWritten();
     window->showFile(0);
@@ -169,6 +169,29 @@ TEST_F(Printing, remembersItsFieldsAndBeginsWithWhatIsInView) {
 }
 
 TEST_F(Printing, greysWhatIsNotThereWithTheReasonAndDrawsAllElse) {
+TEST_F(Printing, proposesAScaleThatFitsUntilOneIsChosen) {
+  takeSection(300);
+  const auto scaleIn = [](QWidget& dialog) {
+    return in<QComboBox>(dialog, "scaleCombo").currentText().toStdString();
+  };
+  expectDialog([&](QWidget& dialog) {
+    EXPECT_EQ(scaleIn(dialog), "1:1000");
+    EXPECT_THAT(said(dialog), AllOf(HasSubstr("At 1:1000 the figure takes"),
+                                    HasSubstr("the first usual scale from 1:500 on")));
+    in<QComboBox>(dialog, "paperCombo").setCurrentText(QStringLiteral("A1"));
+    settle(dialog);
+    EXPECT_EQ(scaleIn(dialog), "1:500") << "a proposal follows the paper";
+    EXPECT_THAT(said(dialog), Not(HasSubstr("first usual")));
+  });
+  expectDialog([&](QWidget& dialog) {
+    setScale(dialog, "1:200");
+    settle(dialog);
+    EXPECT_EQ(scaleIn(dialog), "1:200") << "what is chosen stays";
+    EXPECT_FALSE(in<QPushButton>(dialog, "pdfButton").isEnabled());
+  });
+  expectDialog([&](QWidget& dialog) { EXPECT_EQ(scaleIn(dialog), "1:200"); });
+}
+
   takeSection();
   expectDialog([](QWidget& dialog) {
     auto& figures = in<QComboBox>(dialog, "figureCombo");

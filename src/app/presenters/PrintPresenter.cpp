@@ -173,11 +173,13 @@ void PrintPresenter::ask(std::vector<PrintChoice> choices, std::size_t first) {
   PrintDialog dialog(std::move(choices), first, &mDesk.window);
   QSettings remembered(mDesk.windowStateFile(), QSettings::IniFormat);
   dialog.recall(remembered);
+  if (mScale) dialog.setScale(*mScale);
   dialog.setPrinters(!QPrinterInfo::availablePrinterNames().isEmpty());
   dialog.printWanted = [this](const PrintPages& pages) { toPrinter(pages); };
   dialog.pdfWanted = [this](const PrintPages& pages) { toPdf(pages); };
   dialog.exec();
   dialog.remember(remembered);
+  mScale = dialog.chosenScale();
 }
 
 void PrintPresenter::toPrinter(const PrintPages& pages) {

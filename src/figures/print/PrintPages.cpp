@@ -47,11 +47,14 @@ Status layOut(const PrintFigure& figure, const PrintSettings& settings, double s
 /// The first of ascending scales at which the figure has room; 0: none.
 double firstThatFits(const PrintFigure& figure, const PrintSettings& settings, const QSizeF& room,
                      const std::vector<double>& scales) {
+  // One that cannot be laid out is none that is too large: it may be too small for its axes.
   const auto first = std::partition_point(scales.begin(), scales.end(), [&](double scale) {
     LaidFigure laid;
     return !layOut(figure, settings, scale, room, laid).ok() || !fits(laid.drawing.sheet, room);
   });
-  return first == scales.end() ? 0.0 : *first;
+  LaidFigure laid;
+  const bool found = first != scales.end() && layOut(figure, settings, *first, room, laid).ok();
+  return found ? *first : 0.0;
 }
 
 /// Those of three digits.
@@ -238,6 +241,14 @@ Status preparePrint(const PrintFigure& figure, const PrintSettings& settings, Pr
     tiles.paint(page, painter, rect);
   };
   return {};
+}
+
+double proposedScale(const PrintFigure& figure, const PrintSettings& settings) {
+  constexpr double kFirst = PrintSheet::kFirstScale;
+  if (!figure.alongLine) return kFirst;
+  const double fitting = firstThatFits(figure, settings, roomOn(settings.sheet),
+                                       roundNumbers(kFirst, PrintSheet::kMostScale));
+  return fitting > 0.0 ? fitting : kFirst;
 }
 
 Status writePrint(const std::vector<PrintPages>& sets, const std::string& path) {

@@ -65,6 +65,10 @@ struct PrintFit {
 Status preparePrint(const PrintFigure& figure, const PrintSettings& settings, PrintPages& pages,
                     PrintFit* fit = nullptr);
 
+/// The scale to begin with: PrintSheet::kFirstScale where the figure fits one sheet at it, else the
+/// next of the usual ones at which it does; kFirstScale, too, where it has room at none.
+double proposedScale(const PrintFigure& figure, const PrintSettings& settings);
+
 /// Prints as a PDF, one set of sheets after the other, and replaces the file at `path` by it, whole
 /// or not at all. All sheets are as large as the first.
 Status writePrint(const std::vector<PrintPages>& sets, const std::string& path);
