@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPrintEngine>
 #include <QPrinter>
 #include <QPushButton>
 #include <QStandardItemModel>
@@ -168,7 +169,6 @@ TEST_F(Printing, remembersItsFieldsAndBeginsWithWhatIsInView) {
   });
 }
 
-TEST_F(Printing, greysWhatIsNotThereWithTheReasonAndDrawsAllElse) {
 TEST_F(Printing, proposesAScaleThatFitsUntilOneIsChosen) {
   takeSection(300);
   const auto scaleIn = [](QWidget& dialog) {
@@ -192,6 +192,7 @@ TEST_F(Printing, proposesAScaleThatFitsUntilOneIsChosen) {
   expectDialog([&](QWidget& dialog) { EXPECT_EQ(scaleIn(dialog), "1:200"); });
 }
 
+TEST_F(Printing, greysWhatIsNotThereWithTheReasonAndDrawsAllElse) {
   takeSection();
   expectDialog([](QWidget& dialog) {
     auto& figures = in<QComboBox>(dialog, "figureCombo");
@@ -244,6 +245,57 @@ TEST(PagePrinter, printsTheSheetsOfTheFileAndOnNoOtherPaper) {
   setUpPrinter(other, pages);
   other.setPageSize(QPageSize(QPageSize::A5));
   EXPECT_THAT(printPages(other, pages).message(), HasSubstr("the sheets are made for 297 x 210"));
+}
+
+/// A printer that is out of paper after some sheets.
+class EmptyPrinter : public QPrinter {
+ public:
+  EmptyPrinter(const std::string& file, int sheets) : mEngine(file, sheets) {
+    setEngines(&mEngine, mEngine.pdf.paintEngine());
+  }
+
+ private:
+  struct Engine : QPrintEngine {
+    Engine(const std::string& file, int sheets) : left(sheets) {
+      pdf.setOutputFormat(QPrinter::PdfFormat);
+      pdf.setOutputFileName(QString::fromStdString(file));
+    }
+    void setProperty(PrintEnginePropertyKey key, const QVariant& value) override {
+      pdf.printEngine()->setProperty(key, value);
+    }
+    QVariant property(PrintEnginePropertyKey key) const override {
+      return pdf.printEngine()->property(key);
+    }
+    bool newPage() override { return --left > 0 && pdf.printEngine()->newPage(); }
+    bool abort() override { return pdf.printEngine()->abort(); }
+    int metric(QPaintDevice::PaintDeviceMetric id) const override {
+      return pdf.printEngine()->metric(id);
+    }
+    QPrinter::PrinterState printerState() const override {
+      return pdf.printEngine()->printerState();
+    }
+
+    QPrinter pdf{QPrinter::HighResolution};
+    int left;
+  };
+
+  Engine mEngine;
+};
+
+TEST(PagePrinter, tellsHowManySheetsAPrinterTookThatFailed) {
+  PrintPages pages;
+  pages.sheet = {297.0, 210.0, 150.0, {}};
+  pages.columns = 4;
+  pages.paint = [](std::size_t, QPainter&, const QRectF&) {};
+  const TestFolder folder;
+  for (const int lasts : {1, 3, 4}) {
+    EmptyPrinter printer(folder.file("a.pdf"), lasts);
+    setUpPrinter(printer, pages);
+    PrintedSheets sheets;
+    EXPECT_EQ(printPages(printer, pages, &sheets).ok(), lasts == 4);
+    EXPECT_EQ(sheets.sent, lasts);
+    EXPECT_EQ(sheets.wanted, 4);
+  }
 }
 
 }  // namespace
