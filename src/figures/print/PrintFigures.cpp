@@ -184,7 +184,11 @@ PrintFigure printedResiduals(const TomoDocument& document, const ResidualTable& 
     return figure;
   }
   PrintFigure figure;
-  figure.title = titleAnd(document, FigureWords::tr("Residuals"));
+  figure.title = titleAnd(document, view == ResidualView::kMap
+                                        ? FigureWords::tr("Residuals by shot and geophone")
+                                    : view == ResidualView::kOffset
+                                        ? FigureWords::tr("Residuals over the offset")
+                                        : FigureWords::tr("Residuals of shots and of geophones"));
   figure.layOut = [&document, &table, view](const PrintSize& size, LaidFigure& laid) {
     SectionFigureOptions sheet;
     sheet.widthMm = size.widthMm;
