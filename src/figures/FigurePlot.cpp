@@ -205,9 +205,12 @@ Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, doubl
                        const std::function<void(double, double)>& setScales, PlotPlace& place) {
   const double perMm = pointsPerMm();
   // How wide the numbers at the axes are depends on the scales, which depend on the room that the
-  // numbers leave: twice round settles it.
+  // numbers leave: twice round settles it as a rule. A scale for another room would not be true.
+  constexpr int kRounds = 5;
+  double setWidth = 0.0;
+  double setHeight = 0.0;
   setScales(0.9 * widthMm * perMm, 0.8 * heightMm * perMm);
-  for (int round = 0; round < 2; ++round) {
+  for (int round = 0; round < kRounds; ++round) {
     place = measure(widthMm, heightMm);
     const double width = (place.rightMm - place.leftMm) * perMm;
     const double height = (place.bottomMm - place.topMm) * perMm;
@@ -216,7 +219,10 @@ Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, doubl
           Message::tr("The picture is too small for what it shows with its axes and texts: "
                       "choose a larger size."));
     }
+    if (width == setWidth && height == setHeight) return {};
     setScales(width, height);
+    setWidth = width;
+    setHeight = height;
   }
   place = measure(widthMm, heightMm);
   return {};
