@@ -50,7 +50,7 @@ double firstThatFits(const PrintFigure& figure, const PrintSettings& settings, c
   // One that cannot be laid out is none that is too large: it may be too small for its axes.
   const auto first = std::partition_point(scales.begin(), scales.end(), [&](double scale) {
     LaidFigure laid;
-    return !layOut(figure, settings, scale, room, laid).ok() || !fits(laid.drawing.sheet, room);
+    return layOut(figure, settings, scale, room, laid).ok() && !fits(laid.drawing.sheet, room);
   });
   LaidFigure laid;
   const bool found = first != scales.end() && layOut(figure, settings, *first, room, laid).ok();
