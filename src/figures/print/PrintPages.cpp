@@ -133,25 +133,14 @@ PrintFit fitOf(const PrintSettings& settings, const FigureSheet& figure) {
 
 /// Into parts that have room, where there is a way.
 PrintCut cutOf(const PrintFigure& figure, const PrintSettings& settings, double scale,
-               const LaidFigure& whole) {
+               const LaidFigure& whole, std::vector<LaidFigure>& parts) {
   const FigureSheet& sheet = whole.drawing.sheet;
   if (!figure.alongLine || std::max(sheet.widthMm, sheet.heightMm) > FigureSheet::kMaxMm) return {};
   const QSizeF room = roomOn(settings.sheet);
-  return cutToSheets(whole, room, [&](const PlotPart& part, LaidFigure& laid) {
+  const auto layOutPart = [&](const PlotPart& part, LaidFigure& laid) {
     return layOut(figure, settings, scale, room, laid, part);
-  });
-}
-
-Status layOutParts(const PrintFigure& figure, const PrintSettings& settings, double scale,
-                   const PrintCut& cut, std::vector<LaidFigure>& parts) {
-  parts.clear();
-  const QSizeF room = roomOn(settings.sheet);
-  for (std::size_t page = 0; page < cut.count(); ++page) {
-    LaidFigure& part = parts.emplace_back();
-    const Status status = layOut(figure, settings, scale, room, part, cut.part(page));
-    if (!status.ok()) return status;
-  }
-  return {};
+  };
+  return cutToSheets(whole, room, layOutPart, parts);
 }
 
 void findWays(const PrintFigure& figure, const PrintSettings& settings, PrintFit& fit) {
@@ -203,24 +192,18 @@ Status preparePrint(const PrintFigure& figure, const PrintSettings& settings, Pr
   if (Status status = layOutOnPaper(figure, settings, scale, laid); !status.ok()) return status;
   PrintFit fit = fitOf(settings, laid.drawing.sheet);
   const bool split = settings.tiles && figure.alongLine;
-  PrintCut cut;
+  std::vector<LaidFigure> parts{laid};
   if (!fit.fits) {
-    cut = cutOf(figure, settings, scale, laid);
+    const PrintCut cut = cutOf(figure, settings, scale, laid, parts);
     fit.columns = cut.columns;
     fit.rows = cut.rows;
   }
-  if (!fit.fits && !(split && cut.count() > 0)) {
+  if (!fit.fits && !(split && fit.columns > 0)) {
     findWays(figure, settings, fit);
     if (told != nullptr) *told = fit;
     return refuse(fit, scale, split);
   }
   if (told != nullptr) *told = fit;
-  std::vector<LaidFigure> parts{laid};
-  if (!fit.fits) {
-    if (Status status = layOutParts(figure, settings, scale, cut, parts); !status.ok()) {
-      return status;
-    }
-  }
   PrintTiles tiles(settings.sheet, std::move(parts), fit.columns);
   const std::string& title = settings.title.empty() ? figure.title : settings.title;
   tiles.block.title = QString::fromStdString(title).simplified();
@@ -234,8 +217,9 @@ Status preparePrint(const PrintFigure& figure, const PrintSettings& settings, Pr
   pages.figureWidthMm = fit.figureWidthMm;
   pages.figureHeightMm = fit.figureHeightMm;
   pages.places.clear();
-  for (std::size_t page = 0; page < pages.count(); ++page)
+  for (std::size_t page = 0; page < pages.count(); ++page) {
     pages.places.push_back(tiles.place(page));
+  }
   pages.paint = [tiles = std::move(tiles)](std::size_t page, QPainter& painter,
                                            const QRectF& rect) {
     tiles.paint(page, painter, rect);

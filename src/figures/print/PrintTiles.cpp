@@ -74,15 +74,17 @@ PlotPart PrintCut::part(std::size_t page) const {
 }
 
 PrintCut cutToSheets(const LaidFigure& whole, const QSizeF& room,
-                     const std::function<Status(const PlotPart&, LaidFigure&)>& layOut) {
+                     const std::function<Status(const PlotPart&, LaidFigure&)>& layOut,
+                     std::vector<LaidFigure>& parts) {
   const QSizeF plot = plotOf(whole.place);
   QSizeF beside = besidePlot(whole);
   // A narrower sheet may have words in more rows, and other numbers at its axes.
   for (int round = 0; round < 4; ++round) {
     const PrintCut cut = cutFor(plot, room - beside);
     bool all = cut.count() > 0;
+    parts.clear();
     for (std::size_t page = 0; page < cut.count(); ++page) {
-      LaidFigure part;
+      LaidFigure& part = parts.emplace_back();
       if (!layOut(cut.part(page), part).ok()) return {};
       all = all && fits(part.drawing.sheet, room);
       beside = beside.expandedTo(besidePlot(part));

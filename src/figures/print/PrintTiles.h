@@ -35,9 +35,10 @@ struct PrintCut {
 };
 
 /// Cuts a figure along the line that is laid out on `whole`, and larger than the room.
-/// \param layOut a part of it
+/// \param layOut a part of it \param parts as laid out, row by row
 PrintCut cutToSheets(const LaidFigure& whole, const QSizeF& room,
-                     const std::function<Status(const PlotPart&, LaidFigure&)>& layOut);
+                     const std::function<Status(const PlotPart&, LaidFigure&)>& layOut,
+                     std::vector<LaidFigure>& parts);
 
 /// The sheets of a figure, each with its block; one as a rule. Of several each has axes of its own,
 /// tells its place among them, and has a line where it meets a neighbour.
