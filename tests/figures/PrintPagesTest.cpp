@@ -230,6 +230,27 @@ TEST(PrintPages, figuresWithoutALengthFillTheSheetAtAnyScale) {
   }
 }
 
+TEST(PrintPages, misfitNamesThePassesOfASolverThatThereWere) {
+  TomoDocument document;
+  InversionRecord record;
+  for (int i = 0; i < 3; ++i) {
+    SectionMisfit misfit;
+    misfit.rmse = 0.002 / (1 + i);
+    misfit.count = 40;
+    record.sectionHistory.push_back(misfit);
+    Misfit pass;
+    pass.rmse = 0.001;
+    pass.count = 40;
+    record.history.push_back(pass);
+  }
+  const std::string solved = svgOf(prepared(printedMisfit(document, record), on("A4", true, 1.0)));
+  EXPECT_NE(solved.find("Last solver pass"), std::string::npos);
+  EXPECT_NE(solved.find(">Section<"), std::string::npos);
+  record.fit = FitRecord();
+  const std::string fitted = svgOf(prepared(printedMisfit(document, record), on("A4", true, 1.0)));
+  EXPECT_EQ(fitted.find("Last solver pass"), std::string::npos);
+}
+
 TEST(PrintPages, theBlockTellsTitleScalesAndLengthOfTheBar) {
   TomoDocument document = sectionDocument(8, 30, 0.0, layers);
   document.title = "Dam & toe";
