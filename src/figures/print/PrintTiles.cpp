@@ -67,10 +67,9 @@ bool fits(const FigureSheet& figure, const QSizeF& room) {
 }
 
 PlotPart PrintCut::part(std::size_t page) const {
-  const auto column = static_cast<double>(page % columns);
-  const auto row = static_cast<double>(page / columns);
-  return {column * (partWidthMm - kPrintOverlapMm), row * (partHeightMm - kPrintOverlapMm),
-          partWidthMm, partHeightMm};
+  const std::size_t row = page / columns;
+  return {static_cast<double>(page % columns) * (partWidthMm - kPrintOverlapMm),
+          static_cast<double>(row) * (partHeightMm - kPrintOverlapMm), partWidthMm, partHeightMm};
 }
 
 PrintCut cutToSheets(const LaidFigure& whole, const QSizeF& room,

@@ -101,9 +101,9 @@ double TitleBlock::paintPlace(QPainter& painter, const QRectF& room) const {
   painter.save();
   painter.setPen(QPen(Qt::black, 0.15 * kUnitsPerMm));
   for (std::size_t i = 0; i < columns * rows; ++i) {
-    const QRectF cell(corner + QPointF(wide * static_cast<double>(i % columns),
-                                       high * static_cast<double>(i / columns)),
-                      QSizeF(wide, high));
+    const std::size_t row = i / columns;
+    const QPointF at(wide * static_cast<double>(i % columns), high * static_cast<double>(row));
+    const QRectF cell(corner + at, QSizeF(wide, high));
     painter.setBrush(i == page ? QBrush(Qt::black) : QBrush(Qt::NoBrush));
     painter.drawRect(cell);
   }
