@@ -180,13 +180,15 @@ struct Common {
   double scale = 0.0;  ///< metres to a metre of the sheet; 0: to fit
   Span distances;
   std::optional<PlotPart> part;
-  PlotPlace place;  ///< of the plot that was last laid out
+  double extraExtent = 0.0;  ///< of the next plot, points
+  PlotPlace place;           ///< of the plot that was last laid out
 };
 
 /// A plot and how high it is.
 struct Placed {
   std::shared_ptr<FigurePlot> plot;
   double heightMm = 0.0;
+  double leftMm = 0.0;  ///< of its canvas
 };
 
 CanvasSize wholeCanvas(const Common& common) {
@@ -217,7 +219,8 @@ Status addPanel(const Panel& panel, const std::vector<PlotSeries>& series, Commo
   plot.addAxis(QwtPlot::xBottom, lowest ? FigureWords::distanceAxis() : QString());
   plot.addAxis(QwtPlot::yLeft, panel.axis);
   // The curves stand under each other.
-  plot.plot().axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kNumberExtent);
+  plot.plot().axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kNumberExtent + common.extraExtent);
+  plot.keepEndsFree();
   plot.setTexts(title, caption, common.widthMm);
   Span values;
   double z = kItems;
@@ -239,6 +242,7 @@ Status addPanel(const Panel& panel, const std::vector<PlotSeries>& series, Commo
         plot.plot().updateAxes();
       },
       common.place);
+  placed.leftMm = common.place.leftMm;
   if (status.ok()) sheet.push_back(std::move(placed));
   return status;
 }
@@ -254,16 +258,35 @@ FilledPanels filledPanels(const std::vector<ElasticLayer>& layers) {
   return filled;
 }
 
+/// \param extents what numbers of each get beyond theirs, points
 Status addPanels(const FilledPanels& filled, const std::string& title, const std::string& caption,
-                 Common& common, std::vector<Placed>& sheet) {
+                 const std::vector<double>& extents, Common& common, std::vector<Placed>& sheet) {
+  sheet.clear();
   for (std::size_t i = 0; i < filled.size(); ++i) {
     const bool lowest = i + 1 == filled.size();
+    common.extraExtent = extents[i];
     const Status status =
         addPanel(filled[i].first, filled[i].second, common, i == 0 ? title : std::string(),
                  lowest ? caption : std::string(), lowest, sheet);
     if (!status.ok()) return status;
   }
   return {};
+}
+
+/// So that all begin at the same place: titles take one line or two.
+Status alignPanels(const FilledPanels& filled, const std::string& title, const std::string& caption,
+                   Common& common, std::vector<Placed>& sheet) {
+  std::vector<double> extents(filled.size(), 0.0);
+  Status status = addPanels(filled, title, caption, extents, common, sheet);
+  if (!status.ok()) return status;
+  double furthest = 0.0;
+  for (const Placed& placed : sheet) furthest = std::max(furthest, placed.leftMm);
+  bool aligned = true;
+  for (std::size_t i = 0; i < sheet.size(); ++i) {
+    extents[i] = std::round((furthest - sheet[i].leftMm) * sheet[i].plot->pointsPerMm());
+    aligned = aligned && extents[i] == 0.0;
+  }
+  return aligned ? status : addPanels(filled, title, caption, extents, common, sheet);
 }
 
 std::vector<ElasticLayer> layersShown(const ElasticLine& line, std::uint32_t only) {
@@ -378,8 +401,7 @@ Status prepareElasticFigure(const ElasticLine& line, const ElasticFigureOptions&
   std::vector<Placed> plots;
   const CanvasSize wanted = sizeOfPart(wholeCanvas(common), common.part);
   const Status status = fitSheet(wanted, common.widthMm, height, common.place, [&] {
-    plots.clear();
-    return addPanels(filled, options.title, captionOf(line), common, plots);
+    return alignPanels(filled, options.title, captionOf(line), common, plots);
   });
   if (!status.ok()) return status;
   drawing.sheet = {common.widthMm, height, options.dpi, options.title};

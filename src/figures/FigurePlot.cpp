@@ -201,12 +201,18 @@ PlotPlace FigurePlot::measure(double widthMm, double heightMm) {
   return place;
 }
 
+void FigurePlot::keepEndsFree() {
+  constexpr int kHalfNumber = 26;
+  mPlot->axisWidget(QwtPlot::xBottom)->setMinBorderDist(kHalfNumber, kHalfNumber);
+}
+
 Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, double leastHeight,
                        const std::function<void(double, double)>& setScales, PlotPlace& place) {
   const double perMm = pointsPerMm();
   // How wide the numbers at the axes are depends on the scales, which depend on the room that the
   // numbers leave: twice round settles it as a rule. A scale for another room would not be true.
-  constexpr int kRounds = 5;
+  constexpr int kPatience = 2;
+  constexpr int kRounds = 6;
   double setWidth = 0.0;
   double setHeight = 0.0;
   setScales(0.9 * widthMm * perMm, 0.8 * heightMm * perMm);
@@ -220,6 +226,9 @@ Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, doubl
                       "choose a larger size."));
     }
     if (width == setWidth && height == setHeight) return {};
+    // A last number that stands beyond the end, takes its room, and is gone from the scale that is
+    // left goes to and fro: room for it is kept, then.
+    if (round == kPatience) keepEndsFree();
     setScales(width, height);
     setWidth = width;
     setHeight = height;

@@ -75,6 +75,9 @@ class FigurePlot {
   Status fit(double widthMm, double heightMm, double leastWidth, double leastHeight,
              const std::function<void(double width, double height)>& setScales, PlotPlace& place);
 
+  /// Keeps room beside the lower axis for numbers at its ends, whether there are some or not.
+  void keepEndsFree();
+
   /// Paints onto a device that knows its resolution; `sheet` is the whole sheet.
   /// \param widthMm of the sheet, by which the result is measured; it is the place as painted, for
   /// a sheet of whole pixels is not quite the sheet that was measured

@@ -95,6 +95,36 @@ TEST(PrintTiles, partsOfCurvesAndTracesMeetTrueToScale) {
   }
 }
 
+TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
+  ElasticLine line;
+  line.layers.resize(2);
+  for (std::uint32_t layer = 0; layer < 2; ++layer) {
+    line.layers[layer].layer = layer + 1;
+    for (int i = 0; i < 40; ++i) {
+      ElasticPoint point;
+      point.x = 2.0 * i;
+      double value = 150.0 * (layer + 1) + i;
+      for (Estimate& quantity : point.state.values) quantity.value = value *= 1.3;
+      line.layers[layer].points.push_back(point);
+    }
+  }
+  PrintSettings settings = on("A4", true, 200.0);
+  settings.tiles = true;
+  const PrintPages pages = prepared(printedElastic(line, {}), settings);
+  ASSERT_EQ(pages.columns, 2U);
+  ASSERT_EQ(pages.rows, 1U);
+  EXPECT_NEAR(pages.places[0].right - pages.places[1].left, 0.2 * kPrintOverlapMm, 0.05);
+  for (std::size_t page = 0; page < 2; ++page) {
+    const PlotPlace& place = pages.places[page];
+    EXPECT_NEAR((place.right - place.left) / (place.rightMm - place.leftMm), 0.2, 1e-9);
+    EXPECT_GT(place.bottomMm - place.topMm, 100.0) << "from the first plot to the last";
+    const std::string picture = svgOf(pages, page);
+    for (const char* words : {"Distance [m]", "Vp/Vs", "Match line: sheet "}) {
+      EXPECT_NE(picture.find(words), std::string::npos) << words;
+    }
+  }
+}
+
 TEST(PrintTiles, eachOfSeveralSheetsHasAxesAndTellsItsPlace) {
   const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
   PrintSettings settings = on("A4", true, 40.0);
