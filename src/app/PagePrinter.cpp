@@ -23,7 +23,10 @@ void setUpPrinter(QPrinter& printer, const PrintPages& pages) {
   printer.setCreator(QStringLiteral("Talvesk"));
 }
 
-Status printPages(QPrinter& printer, const PrintPages& pages) {
+Status printPages(QPrinter& printer, const PrintPages& pages, PrintedSheets* sheets) {
+  PrintedSheets counted;
+  if (sheets == nullptr) sheets = &counted;
+  *sheets = {};
   constexpr double kSlackMm = 1.0;
   const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Millimeter).size();
   if (std::abs(paper.width() - pages.sheet.widthMm) > kSlackMm ||
@@ -39,6 +42,7 @@ Status printPages(QPrinter& printer, const PrintPages& pages) {
   const auto count = static_cast<int>(pages.count());
   const int first = std::max(printer.fromPage(), 1);
   const int last = printer.toPage() > 0 ? std::min(printer.toPage(), count) : count;
+  sheets->wanted = std::max(last - first + 1, 0);
   QPainter painter;
   if (first > last || !painter.begin(&printer)) {
     return Status::failure(Message::tr("The printer does not take the sheets."));
@@ -51,10 +55,12 @@ Status printPages(QPrinter& printer, const PrintPages& pages) {
       return Status::failure(Message::tr("The printer does not take the sheets."));
     }
     pages.paint(static_cast<std::size_t>(page - 1), painter, rect);
+    ++sheets->sent;
   }
-  return painter.end() && printer.printerState() != QPrinter::Error
-             ? Status()
-             : Status::failure(Message::tr("The printer does not take the sheets."));
+  const bool ended = painter.end();
+  const bool failed = !ended || printer.printerState() == QPrinter::Error ||
+                      printer.printerState() == QPrinter::Aborted;
+  return failed ? Status::failure(Message::tr("The printer does not take the sheets.")) : Status();
 }
 
 }  // namespace talvesk

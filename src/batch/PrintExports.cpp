@@ -64,8 +64,9 @@ void addChoices(CLI::App& command, PrintExports& prints, std::vector<CLI::Option
                 "(default: as the sheet has room)",
                 [&prints](double value) { prints.msPerCm = value; }));
   choices.push_back(command.add_flag("--tiles", prints.tiles,
-                                     "What is larger than the sheet goes over several, with marks "
-                                     "to put them together (default: it is not printed)"));
+                                     "What is larger than the sheet goes over several, each with "
+                                     "axes of its own and lines to put them together (default: it "
+                                     "is not printed)"));
 }
 
 PrintSettings settingsOf(const PrintExports& prints) {

@@ -2,6 +2,7 @@
 
 #include "base/Status.h"
 #include "figures/FigureFile.h"
+#include "figures/FigureNumbers.h"
 #include "figures/GatherPanels.h"
 #include "view/BlowPair.h"
 
@@ -28,7 +29,7 @@ struct BlowPairLook {
   std::optional<double> endMs;  ///< of the axis of time; none: by the picks
   QString firstName;            ///< of the blows, for the heading
   QString secondName;
-  QLocale locale = QLocale::c();  ///< of numbers; files look the same in every language
+  QLocale locale = figureLocale();  ///< of numbers
 };
 
 /// Lays the panels out that are wanted and that there are; difference and sum by the measure of the

@@ -2,6 +2,7 @@
 
 #include "base/Status.h"
 #include "figures/FigureFile.h"
+#include "figures/FigureNumbers.h"
 #include "view/DepthProfile.h"
 
 #include <QFont>
@@ -16,7 +17,7 @@ namespace talvesk {
 /// How a profile against depth is dressed.
 struct DepthProfileDress {
   QFont font;
-  QLocale locale = QLocale::c();  ///< of numbers
+  QLocale locale = figureLocale();  ///< of numbers
 };
 
 /// Paints velocity, its gradient and how sure it is against depth, side by side with one axis of

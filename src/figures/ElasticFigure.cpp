@@ -1,7 +1,6 @@
 #include "figures/ElasticFigure.h"
 
 #include "figures/FigureOutput.h"
-#include "figures/FigurePlot.h"
 #include "figures/FigureWords.h"
 #include "figures/PlotSeries.h"
 
@@ -180,14 +179,35 @@ struct Common {
   double panelMm = kPanelHeight;
   double scale = 0.0;  ///< metres to a metre of the sheet; 0: to fit
   Span distances;
-  PlotPlace place;  ///< of the plot that was last laid out
+  std::optional<PlotPart> part;
+  double extraExtent = 0.0;  ///< of the next plot, points
+  PlotPlace place;           ///< of the plot that was last laid out
 };
 
 /// A plot and how high it is.
 struct Placed {
   std::shared_ptr<FigurePlot> plot;
   double heightMm = 0.0;
+  double leftMm = 0.0;  ///< of its canvas
 };
+
+CanvasSize wholeCanvas(const Common& common) {
+  if (!(common.scale > 0.0)) return {};
+  const double perMm = FigurePlot().pointsPerMm();
+  const double metres = std::max(common.distances.to - common.distances.from, 1e-3);
+  return {std::max(1e3 * metres / common.scale + 2.0 * kPadding / perMm, 80.0 / perMm + 1.0), 0.0};
+}
+
+/// Moved so far that the middle of a part is theirs.
+Span distancesOf(const Common& common) {
+  Span moved = common.distances;
+  if (!common.part || !(common.scale > 0.0)) return moved;
+  const double by =
+      1e-3 * common.scale * (common.part->middleMm() - 0.5 * wholeCanvas(common).widthMm);
+  moved.from += by;
+  moved.to += by;
+  return moved;
+}
 
 Status addPanel(const Panel& panel, const std::vector<PlotSeries>& series, Common& common,
                 const std::string& title, const std::string& caption, bool lowest,
@@ -199,7 +219,8 @@ Status addPanel(const Panel& panel, const std::vector<PlotSeries>& series, Commo
   plot.addAxis(QwtPlot::xBottom, lowest ? FigureWords::distanceAxis() : QString());
   plot.addAxis(QwtPlot::yLeft, panel.axis);
   // The curves stand under each other.
-  plot.plot().axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kNumberExtent);
+  plot.plot().axisScaleDraw(QwtPlot::yLeft)->setMinimumExtent(kNumberExtent + common.extraExtent);
+  plot.keepEndsFree();
   plot.setTexts(title, caption, common.widthMm);
   Span values;
   double z = kItems;
@@ -212,14 +233,16 @@ Status addPanel(const Panel& panel, const std::vector<PlotSeries>& series, Commo
   }
   const bool logarithmic = panel.moduli && values.from > 0.0;
   const double perPoint = 1e-3 * common.scale / plot.pointsPerMm();
+  const Span distances = distancesOf(common);
   const Status status = plot.fit(
       common.widthMm, placed.heightMm, 80.0, 50.0,
       [&](double width, double height) {
-        plot.setScale(QwtPlot::xBottom, scaleOf(common.distances, width, 60.0, false, perPoint));
+        plot.setScale(QwtPlot::xBottom, scaleOf(distances, width, 60.0, false, perPoint));
         plot.setScale(QwtPlot::yLeft, scaleOf(values, height, 22.0, logarithmic));
         plot.plot().updateAxes();
       },
       common.place);
+  placed.leftMm = common.place.leftMm;
   if (status.ok()) sheet.push_back(std::move(placed));
   return status;
 }
@@ -235,10 +258,13 @@ FilledPanels filledPanels(const std::vector<ElasticLayer>& layers) {
   return filled;
 }
 
+/// \param extents what numbers of each get beyond theirs, points
 Status addPanels(const FilledPanels& filled, const std::string& title, const std::string& caption,
-                 Common& common, std::vector<Placed>& sheet) {
+                 const std::vector<double>& extents, Common& common, std::vector<Placed>& sheet) {
+  sheet.clear();
   for (std::size_t i = 0; i < filled.size(); ++i) {
     const bool lowest = i + 1 == filled.size();
+    common.extraExtent = extents[i];
     const Status status =
         addPanel(filled[i].first, filled[i].second, common, i == 0 ? title : std::string(),
                  lowest ? caption : std::string(), lowest, sheet);
@@ -247,11 +273,20 @@ Status addPanels(const FilledPanels& filled, const std::string& title, const std
   return {};
 }
 
-CanvasSize wantedCanvas(const Common& common) {
-  if (!(common.scale > 0.0)) return {};
-  const double perMm = FigurePlot().pointsPerMm();
-  const double metres = std::max(common.distances.to - common.distances.from, 1e-3);
-  return {std::max(1e3 * metres / common.scale + 2.0 * kPadding / perMm, 80.0 / perMm + 1.0), 0.0};
+/// So that all begin at the same place: titles take one line or two.
+Status alignPanels(const FilledPanels& filled, const std::string& title, const std::string& caption,
+                   Common& common, std::vector<Placed>& sheet) {
+  std::vector<double> extents(filled.size(), 0.0);
+  Status status = addPanels(filled, title, caption, extents, common, sheet);
+  if (!status.ok()) return status;
+  double furthest = 0.0;
+  for (const Placed& placed : sheet) furthest = std::max(furthest, placed.leftMm);
+  bool aligned = true;
+  for (std::size_t i = 0; i < sheet.size(); ++i) {
+    extents[i] = std::round((furthest - sheet[i].leftMm) * sheet[i].plot->pointsPerMm());
+    aligned = aligned && extents[i] == 0.0;
+  }
+  return aligned ? status : addPanels(filled, title, caption, extents, common, sheet);
 }
 
 std::vector<ElasticLayer> layersShown(const ElasticLine& line, std::uint32_t only) {
@@ -265,6 +300,16 @@ std::string captionOf(const ElasticLine& line) {
   QStringList parts = {densityText(line.options.density)};
   if (line.hasErrors) parts << FigureWords::tr("Bars: one standard deviation, of the picks");
   return FigureWords::joined(parts).toStdString();
+}
+
+/// From the first plot, which begins as the last does, to the foot of the last.
+PlotPlace aroundAll(const Common& common, const std::vector<Placed>& plots, double heightMm) {
+  PlotPlace place = common.place;
+  if (plots.empty()) return place;
+  place.bottomMm += heightMm - plots.back().heightMm;
+  place.heightMm = heightMm;
+  place.top = place.bottom = 0.0;
+  return place;
 }
 
 void paintSheet(const std::vector<Placed>& plots, double widthMm, QPainter& painter,
@@ -333,7 +378,7 @@ QString densityText(const DensityRule& rule) {
 }
 
 Status prepareElasticFigure(const ElasticLine& line, const ElasticFigureOptions& options,
-                            FigureDrawing& drawing) {
+                            FigureDrawing& drawing, PlotPlace* place) {
   if (Status status = checkApplication("A figure"); !status.ok()) return status;
   const std::vector<ElasticLayer> layers = layersShown(line, options.layer);
   const FilledPanels filled = filledPanels(layers);
@@ -343,6 +388,7 @@ Status prepareElasticFigure(const ElasticLine& line, const ElasticFigureOptions&
   Common common;
   common.widthMm = options.widthMm;
   common.scale = options.scale;
+  common.part = options.part;
   for (const ElasticLayer& layer : layers) {
     for (const ElasticPoint& point : layer.points) common.distances.take(point.x);
   }
@@ -353,12 +399,13 @@ Status prepareElasticFigure(const ElasticLine& line, const ElasticFigureOptions&
   }
   double height = extra + static_cast<double>(filled.size()) * common.panelMm;
   std::vector<Placed> plots;
-  const Status status = fitSheet(wantedCanvas(common), common.widthMm, height, common.place, [&] {
-    plots.clear();
-    return addPanels(filled, options.title, captionOf(line), common, plots);
+  const CanvasSize wanted = sizeOfPart(wholeCanvas(common), common.part);
+  const Status status = fitSheet(wanted, common.widthMm, height, common.place, [&] {
+    return alignPanels(filled, options.title, captionOf(line), common, plots);
   });
   if (!status.ok()) return status;
   drawing.sheet = {common.widthMm, height, options.dpi, options.title};
+  if (place != nullptr) *place = aroundAll(common, plots, height);
   drawing.paint = [plots, widthMm = common.widthMm](QPainter& painter, const QRectF& sheet) {
     paintSheet(plots, widthMm, painter, sheet);
   };

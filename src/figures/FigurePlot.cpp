@@ -1,6 +1,7 @@
 #include "figures/FigurePlot.h"
 
 #include "figures/FigureFile.h"
+#include "figures/FigureNumbers.h"
 #include "figures/FigureOutput.h"
 #include "figures/ShownScale.h"
 
@@ -200,13 +201,22 @@ PlotPlace FigurePlot::measure(double widthMm, double heightMm) {
   return place;
 }
 
+void FigurePlot::keepEndsFree() {
+  constexpr int kHalfNumber = 26;
+  mPlot->axisWidget(QwtPlot::xBottom)->setMinBorderDist(kHalfNumber, kHalfNumber);
+}
+
 Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, double leastHeight,
                        const std::function<void(double, double)>& setScales, PlotPlace& place) {
   const double perMm = pointsPerMm();
   // How wide the numbers at the axes are depends on the scales, which depend on the room that the
-  // numbers leave: twice round settles it.
+  // numbers leave: twice round settles it as a rule. A scale for another room would not be true.
+  constexpr int kPatience = 2;
+  constexpr int kRounds = 6;
+  double setWidth = 0.0;
+  double setHeight = 0.0;
   setScales(0.9 * widthMm * perMm, 0.8 * heightMm * perMm);
-  for (int round = 0; round < 2; ++round) {
+  for (int round = 0; round < kRounds; ++round) {
     place = measure(widthMm, heightMm);
     const double width = (place.rightMm - place.leftMm) * perMm;
     const double height = (place.bottomMm - place.topMm) * perMm;
@@ -215,7 +225,13 @@ Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, doubl
           Message::tr("The picture is too small for what it shows with its axes and texts: "
                       "choose a larger size."));
     }
+    if (width == setWidth && height == setHeight) return {};
+    // A last number that stands beyond the end, takes its room, and is gone from the scale that is
+    // left goes to and fro: room for it is kept, then.
+    if (round == kPatience) keepEndsFree();
     setScales(width, height);
+    setWidth = width;
+    setHeight = height;
   }
   place = measure(widthMm, heightMm);
   return {};
@@ -229,6 +245,11 @@ PlotPlace FigurePlot::paint(QPainter& painter, const QRectF& sheet, double width
   place.widthMm = widthMm;
   place.heightMm = widthMm * sheet.height() / sheet.width();
   return place;
+}
+
+CanvasSize sizeOfPart(const CanvasSize& whole, const std::optional<PlotPart>& part) {
+  if (!part) return whole;
+  return {whole.widthMm > 0.0 ? part->widthMm : 0.0, whole.heightMm > 0.0 ? part->heightMm : 0.0};
 }
 
 Status fitSheet(const CanvasSize& wanted, double& widthMm, double& heightMm, const PlotPlace& place,
@@ -248,7 +269,7 @@ Status fitSheet(const CanvasSize& wanted, double& widthMm, double& heightMm, con
 }
 
 QString figureNumber(double value, int digits) {
-  return QString::number(value, 'g', digits);
+  return figureLocale().toString(value, 'g', digits);
 }
 
 void paintFigureFrame(QPainter& painter, const QRectF& rect) {

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "base/Status.h"
+#include "figures/PlotPart.h"
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class QPainter;
@@ -73,6 +75,9 @@ class FigurePlot {
   Status fit(double widthMm, double heightMm, double leastWidth, double leastHeight,
              const std::function<void(double width, double height)>& setScales, PlotPlace& place);
 
+  /// Keeps room beside the lower axis for numbers at its ends, whether there are some or not.
+  void keepEndsFree();
+
   /// Paints onto a device that knows its resolution; `sheet` is the whole sheet.
   /// \param widthMm of the sheet, by which the result is measured; it is the place as painted, for
   /// a sheet of whole pixels is not quite the sheet that was measured
@@ -89,6 +94,9 @@ struct CanvasSize {
   double heightMm = 0.0;
 };
 
+/// What a part of a plot wants of a sheet, where the whole wants so much.
+CanvasSize sizeOfPart(const CanvasSize& whole, const std::optional<PlotPart>& part);
+
 /// Gives a sheet the size at which its canvas has that wanted. One larger than any sheet
 /// (FigureSheet::kMaxMm) is only measured, about, and not laid out.
 /// \param widthMm, heightMm of the sheet, in and out
@@ -97,7 +105,7 @@ struct CanvasSize {
 Status fitSheet(const CanvasSize& wanted, double& widthMm, double& heightMm, const PlotPlace& place,
                 const std::function<Status()>& fit);
 
-/// Numbers in a file look the same whatever the user's language.
+/// A number on a picture, see FigureNumbers.h.
 QString figureNumber(double value, int digits = 10);
 
 /// The thin frame around a canvas or a colour bar.

@@ -14,11 +14,6 @@ QString qt(const std::string& utf8) {
   return QString::fromStdString(utf8);
 }
 
-/// A number as formatDouble() writes it, with the decimal point of a locale.
-QString number(const std::string& digits, const QLocale& locale) {
-  return qt(digits).replace(QLatin1Char('.'), locale.decimalPoint());
-}
-
 /// The context that the texts of Message::tr() have in the translations.
 constexpr char kMessages[] = "talvesk::Message";
 
@@ -29,7 +24,7 @@ class LanguageOfProgram : public Message::Language {
     return QCoreApplication::translate(kMessages, source).toStdString();
   }
   std::string number(const std::string& c) const override {
-    return talvesk::number(c, mLocale).toStdString();
+    return withSignOf(mLocale, c).toStdString();
   }
 
  private:
@@ -55,7 +50,7 @@ QStringList FigureWords::mends(const ShotMends& mends, const QLocale& locale) {
   QStringList words;
   if (mends.disabled) words += tr("shot disabled");
   if (mends.timeShift != 0.0) {
-    words += tr("shifted by %1 ms").arg(number(formatDouble(1e3 * mends.timeShift), locale));
+    words += tr("shifted by %1 ms").arg(withSignOf(locale, formatDouble(1e3 * mends.timeShift)));
   }
   if (mends.orderReversed) words += tr("order reversed");
   if (!mends.stackedWith.empty()) {
@@ -80,7 +75,7 @@ QString FigureWords::pickError(double sigma, const QLocale& locale) {
 
 QString FigureWords::errorBars() {
   return tr("bars of one standard deviation, dashed above %1 ms")
-      .arg(QString::fromStdString(formatDouble(parameters::kGoodPick.value)));
+      .arg(figureDigits(formatDouble(parameters::kGoodPick.value)));
 }
 
 QString FigureWords::grades(const PickGrades& grades) {
@@ -108,7 +103,7 @@ QString FigureWords::quantity(SectionQuantity quantity) {
 }
 
 QString FigureWords::quantity(const SectionScene& scene) {
-  return scene.values ? message(scene.values->name, QLocale::c()) : quantity(scene.quantity);
+  return scene.values ? message(scene.values->name) : quantity(scene.quantity);
 }
 
 QString FigureWords::quantityAxis(const SectionScene& scene) {
@@ -137,19 +132,19 @@ QString FigureWords::computedTimes(std::size_t count) {
 
 QString FigureWords::misfit(const SectionMisfit& misfit, const QLocale& locale) {
   return tr("RMS misfit %1 ms, %2 %")
-      .arg(number(formatDouble(1e3 * misfit.rmse, 3), locale),
-           number(formatDouble(1e2 * misfit.relativeRms, 3), locale));
+      .arg(withSignOf(locale, formatDouble(1e3 * misfit.rmse, 3)),
+           withSignOf(locale, formatDouble(1e2 * misfit.relativeRms, 3)));
 }
 
 QString FigureWords::chiSquare(const ChiSquare& fit, const QLocale& locale) {
   if (fit.count == 0) return {};
-  const QString value = number(formatDouble(fit.chi2, 3), locale);
+  const QString value = withSignOf(locale, formatDouble(fit.chi2, 3));
   return fit.shifted ? tr("chi-square %1 with the time shifts of shots").arg(value)
                      : tr("chi-square %1").arg(value);
 }
 
 QString FigureWords::lastPassMisfit(double percent, const QLocale& locale) {
-  return tr("last solver pass %1 %").arg(number(formatDouble(percent, 3), locale));
+  return tr("last solver pass %1 %").arg(withSignOf(locale, formatDouble(percent, 3)));
 }
 
 QString FigureWords::picksChanged() {
@@ -178,7 +173,7 @@ QString FigureWords::profileBand() {
 }
 
 QString FigureWords::velocity(double velocity, const QLocale& locale) {
-  return withVelocityUnit(number(formatDouble(toldVelocity(velocity), 6), locale));
+  return withVelocityUnit(withSignOf(locale, formatDouble(toldVelocity(velocity), 6)));
 }
 
 QString FigureWords::depthBand(double value, const QLocale& locale) {
@@ -215,14 +210,14 @@ QString FigureWords::exaggeration(double factor, const QLocale& locale) {
   if (std::abs(factor - 1.0) <= 1e-9) return {};
   std::string digits = formatDouble(factor, 4);
   if (digits.find_first_of(".e") == std::string::npos) digits += ".0";
-  return tr("Vertical exaggeration %1").arg(number(digits, locale));
+  return tr("Vertical exaggeration %1").arg(withSignOf(locale, digits));
 }
 
 QStringList FigureWords::sectionFacts(const SectionScene& scene, double verticalExaggeration,
                                       const QLocale& locale) {
   const ShownUnit shown = unitOf(scene);
   const auto text = [&](double value, double step) {
-    return number(valueText(shown.shown(value), shown.shown(step)), locale);
+    return withSignOf(locale, valueText(shown.shown(value), shown.shown(step)));
   };
   const double step = scene.range.span() / 100.0;
   QString unit = qt(shown.name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Message.h"
+#include "figures/FigureNumbers.h"
 #include "figures/ShownLength.h"
 #include "model/Mends.h"
 #include "model/PickGrades.h"
@@ -16,8 +17,7 @@
 
 namespace talvesk {
 
-/// The words on figures, in the language of the program. In files numbers look the same in every
-/// language; on the screen they are the locale's.
+/// The words on figures, in the language of the program, as are numbers; see FigureNumbers.h.
 struct FigureWords {
   Q_DECLARE_TR_FUNCTIONS(talvesk::FigureWords)
 
@@ -34,7 +34,7 @@ struct FigureWords {
   static QString traces(std::size_t count);
   static QString picks(std::size_t count);
   /// Milliseconds without their unit; a dash where it is not known. \param sigma seconds
-  static QString pickError(double sigma, const QLocale& locale = QLocale::c());
+  static QString pickError(double sigma, const QLocale& locale = figureLocale());
   /// "20 good, 3 doubtful, 1 of unknown error"; a dash for none.
   static QString grades(const PickGrades& grades);
   /// What error bars in a picture are.
@@ -42,17 +42,17 @@ struct FigureWords {
   static QString shots(std::size_t count);
   static QString computedTimes(std::size_t count);
   static QString misfit(const SectionMisfit& misfit,
-                        const QLocale& locale = QLocale::c());  ///< "RMS misfit 1.21 ms, 2.34 %"
+                        const QLocale& locale = figureLocale());  ///< "RMS misfit 1.21 ms, 2.34 %"
   /// "chi-square 1.02"; empty without a pick.
-  static QString chiSquare(const ChiSquare& fit, const QLocale& locale = QLocale::c());
+  static QString chiSquare(const ChiSquare& fit, const QLocale& locale = figureLocale());
   static QString lastPassMisfit(
       double percent,
-      const QLocale& locale = QLocale::c());  ///< of the solver, before its last smoothing
-  static QString picksChanged();              ///< since the section was inverted from them
+      const QLocale& locale = figureLocale());  ///< of the solver, before its last smoothing
+  static QString picksChanged();                ///< since the section was inverted from them
   /// What is put right of a shot, in a few words each: "shot disabled", "2 traces killed".
-  static QStringList mends(const ShotMends& mends, const QLocale& locale = QLocale::c());
+  static QStringList mends(const ShotMends& mends, const QLocale& locale = figureLocale());
   /// A message of the rooms below, translated as the window does it.
-  static QString message(const Message& message, const QLocale& locale = QLocale::c());
+  static QString message(const Message& message, const QLocale& locale = figureLocale());
   static QString refractor(std::size_t index);     ///< "Refractor 1" for 0, the shallowest
   static QString oldRefractor(std::size_t index);  ///< the same of a profile of other picks
 
@@ -61,23 +61,23 @@ struct FigureWords {
 
   /// Of a legend: "Layer 2, 1850 ± 60 m/s", without what is not known.
   static QString layer(std::uint32_t layer, double velocity, double error,
-                       const QLocale& locale = QLocale::c());
+                       const QLocale& locale = figureLocale());
   static QString uncarried();    ///< what dashed lines of a profile are
   static QString profileBand();  ///< what the band round a line of a profile is
-  static QString velocity(double velocity, const QLocale& locale = QLocale::c());  ///< "800 m/s"
+  static QString velocity(double velocity, const QLocale& locale = figureLocale());  ///< "800 m/s"
   /// What the legend calls a DepthBand, and ground that fades.
-  static QString depthBand(double velocity, const QLocale& locale = QLocale::c());
+  static QString depthBand(double velocity, const QLocale& locale = figureLocale());
   static QString fading();
   /// Why a section's certainty may not be its own; as a rule nothing.
   static QStringList certaintyWarnings(const SectionScene& scene,
-                                       const QLocale& locale = QLocale::c());
+                                       const QLocale& locale = figureLocale());
 
   /// "Vertical exaggeration 2.0": height of a metre over its width; empty for 1.
-  static QString exaggeration(double factor, const QLocale& locale = QLocale::c());
+  static QString exaggeration(double factor, const QLocale& locale = figureLocale());
   /// What a reader must know of a section beside its axes: values shown, contour distance, number
   /// of rays, misfit, what its certainty is, and a vertical exaggeration other than 1.
   static QStringList sectionFacts(const SectionScene& scene, double verticalExaggeration,
-                                  const QLocale& locale = QLocale::c());
+                                  const QLocale& locale = figureLocale());
   /// The title of a document without one: what the section shows. Empty when that is no value.
   static QString sectionTitle(const SectionScene& scene);
   /// Puts parts of a caption into one line.

@@ -104,7 +104,11 @@ void GatherPlot::setScales(double width, double height) {
   const double perPoint = wanted.widthMm > 0.0 ? 1e-3 * mOptions.scale / mPlot.pointsPerMm()
                                                : (mScene.high - mScene.low + 2.0 * swing()) /
                                                      (width - 2.0 * kSidePadding);
-  const double middle = 0.5 * (mScene.low + mScene.high);
+  const bool isPart = wanted.widthMm > 0.0 && mOptions.part;
+  double middle = 0.5 * (mScene.low + mScene.high);
+  if (isPart) {
+    middle += 1e-3 * mOptions.scale * (mOptions.part->middleMm() - 0.5 * wanted.widthMm);
+  }
   FigurePlot::Scale x;
   x.from = middle - 0.5 * width * perPoint;
   x.to = middle + 0.5 * width * perPoint;
@@ -121,9 +125,10 @@ void GatherPlot::setScales(double width, double height) {
                                                         (height - kTopPadding - kBottomPadding);
   FigurePlot::Scale time;
   time.to = window.beginMs - kTopPadding * msPerPoint;
+  if (isPart && wanted.heightMm > 0.0) time.to += 0.1 * mOptions.msPerCm * mOptions.part->topMm;
   time.from = time.to + height * msPerPoint;
-  time.firstTick = window.beginMs;
-  time.lastTick = window.endMs;
+  time.firstTick = std::max(window.beginMs, time.to);
+  time.lastTick = std::min(window.endMs, time.from);
   time.length = height;
   time.spacing = 40.0;
   mPlot.setScale(QwtPlot::yLeft, time);
@@ -132,12 +137,13 @@ void GatherPlot::setScales(double width, double height) {
 
 Status GatherPlot::layOut() {
   const auto scale = [this](double width, double height) { setScales(width, height); };
-  return fitSheet(wantedCanvas(), mOptions.widthMm, mOptions.heightMm, mPlace, [&] {
-    mPlot.setTexts(mOptions.showTitle ? mScene.title : std::string(), mScene.caption,
-                   mOptions.widthMm);
-    return mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth, kMinCanvasHeight, scale,
-                     mPlace);
-  });
+  return fitSheet(sizeOfPart(wantedCanvas(), mOptions.part), mOptions.widthMm, mOptions.heightMm,
+                  mPlace, [&] {
+                    mPlot.setTexts(mOptions.showTitle ? mScene.title : std::string(),
+                                   mScene.caption, mOptions.widthMm);
+                    return mPlot.fit(mOptions.widthMm, mOptions.heightMm, kMinCanvasWidth,
+                                     kMinCanvasHeight, scale, mPlace);
+                  });
 }
 
 FigureSheet GatherPlot::sheet() const {
@@ -203,7 +209,8 @@ Status writePages(const TomoDocument& document, const GatherFigureOptions& optio
 }  // namespace
 
 Status prepareGatherFigure(const TomoDocument& document, std::size_t shot,
-                           const GatherFigureOptions& options, FigureDrawing& drawing) {
+                           const GatherFigureOptions& options, FigureDrawing& drawing,
+                           PlotPlace* place) {
   GatherScene scene;
   if (Status status = buildGatherScene(document, shot, options, scene); !status.ok()) {
     return status;
@@ -212,6 +219,7 @@ Status prepareGatherFigure(const TomoDocument& document, std::size_t shot,
   const auto plot = std::make_shared<GatherPlot>(std::move(scene), options);
   if (Status status = plot->layOut(); !status.ok()) return status;
   drawing.sheet = plot->sheet();
+  if (place != nullptr) *place = plot->layout().place;
   drawing.paint = [plot](QPainter& painter, const QRectF& rect) { plot->paint(painter, rect); };
   return {};
 }

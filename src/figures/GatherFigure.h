@@ -46,9 +46,10 @@ Status writeGatherFigures(const TomoDocument& document, const GatherFigureOption
                           const std::string& path, std::vector<std::string>& written);
 
 /// The same of one shot for who paints it himself. The document must outlive the drawing.
-/// \param shot trace set, from 0
+/// \param shot trace set, from 0 \param place of the plot; null when nobody asks
 Status prepareGatherFigure(const TomoDocument& document, std::size_t shot,
-                           const GatherFigureOptions& options, FigureDrawing& drawing);
+                           const GatherFigureOptions& options, FigureDrawing& drawing,
+                           PlotPlace* place = nullptr);
 
 /// One shot into memory. \param shot trace set, from 0 \param layout null when nobody asks
 Status renderGatherFigure(const TomoDocument& document, std::size_t shot,

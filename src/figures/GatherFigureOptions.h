@@ -1,5 +1,6 @@
 #pragma once
 
+#include "figures/PlotPart.h"
 #include "view/ColorPalette.h"
 #include "view/GatherMapping.h"
 
@@ -29,6 +30,7 @@ struct GatherFigureOptions {
                          ///< as wide as the sheet has room for, as are channels
   double msPerCm = 0.0;  ///< times to a centimetre of the sheet, whose height follows; 0: as high
                          ///< as the sheet has room for
+  std::optional<PlotPart> part;  ///< at a scale; its height counts with msPerCm only
 
   /// The one shot to draw, from 0; none: all of them. Counts in writeGatherFigures() only.
   std::optional<std::size_t> shot;

@@ -316,7 +316,7 @@ class PanelPainter {
   QFont mTitle;
   QFont mHeading;
   QFont mNumber;
-  QLocale mLocale = QLocale::c();
+  QLocale mLocale = figureLocale();
   Measures mAt;
 };
 

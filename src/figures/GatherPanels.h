@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Status.h"
+#include "figures/FigureNumbers.h"
 #include "figures/GatherItems.h"
 #include "figures/GatherScene.h"
 
@@ -52,7 +53,7 @@ struct GatherPanelSheet {
   TimeWindow window;
   QString title;    ///< above all; may be empty
   QString caption;  ///< below all, in as many lines as it takes
-  QLocale locale = QLocale::c();
+  QLocale locale = figureLocale();
 };
 
 /// Where a panel lies; what its sides stand for.

@@ -164,9 +164,10 @@ std::string titleOf(const TomoDocument& document, std::size_t shot, const Travel
   // Where nothing else has a position, 0 is what stands for none.
   if (record != nullptr && isPosition(record->shotPos2d.x) &&
       (receiversKnown || record->shotPos2d.x != 0.0)) {
-    number = FigureWords::tr("%1 at %2", "shot, place")
-                 .arg(number, withLengthUnit(QString::fromStdString(
-                                  valueText(toldLength(record->shotPos2d.x), 0.1))));
+    number =
+        FigureWords::tr("%1 at %2", "shot, place")
+            .arg(number,
+                 withLengthUnit(figureDigits(valueText(toldLength(record->shotPos2d.x), 0.1))));
   }
   return FigureWords::joined(parts << number).toStdString();
 }
@@ -203,7 +204,7 @@ std::string captionOf(const Counts& counts, std::size_t step, const ShotMends& m
   const bool own = options.scaling == GatherScaling::kEachTrace;
   parts += (own ? FigureWords::tr("Each trace to its own maximum, gain %1")
                 : FigureWords::tr("All traces to one maximum, gain %1"))
-               .arg(QString::fromStdString(formatDouble(options.gain, 3)));
+               .arg(figureDigits(formatDouble(options.gain, 3)));
   parts += gainWords(mapping.manner());
   parts += offsetWords(mapping);
   if (options.picks) {
@@ -371,7 +372,7 @@ std::size_t shotsLackingOffsets(const TomoDocument& document, const GatherFigure
 QStringList gainWords(const GatherManner& manner) {
   if (!(manner.timeGain > 0.0)) return {};
   return {FigureWords::tr("gain with time t^%1", "exponent")
-              .arg(QString::fromStdString(formatDouble(manner.timeGain, 3)))};
+              .arg(figureDigits(formatDouble(manner.timeGain, 3)))};
 }
 
 QString placeAxis(const GatherScene& scene) {

@@ -2,6 +2,7 @@
 
 #include "base/Status.h"
 #include "figures/FigureFile.h"
+#include "figures/FigureNumbers.h"
 #include "figures/GatherFigureOptions.h"
 #include "figures/GatherPanels.h"
 
@@ -28,7 +29,7 @@ struct GatherSheetOptions {
   /// How each is drawn. Size, shot and title of it do not count, and its swings are not larger than
   /// the room of the panels. Without a window every sheet has one that all its shots fit in.
   GatherFigureOptions gather;
-  QLocale locale = QLocale::c();  ///< of numbers; files look the same in every language
+  QLocale locale = figureLocale();  ///< of numbers
 };
 
 /// Sheets that the shots fill.

@@ -26,6 +26,8 @@ Status prepareMisfitHistoryFigure(const InversionRecord& record, double widthMm,
                                   FigureDrawing& drawing) {
   PlotSeries section = curve(kInk);
   PlotSeries pass = curve(kPale);
+  section.name = FigureWords::tr("Section");
+  pass.name = FigureWords::tr("Last solver pass");
   const auto take = [](std::vector<Point2D>& points, std::size_t iteration, int count,
                        double rmse) {
     if (count == 0 || !std::isfinite(rmse)) return;
@@ -34,14 +36,17 @@ Status prepareMisfitHistoryFigure(const InversionRecord& record, double widthMm,
   for (std::size_t i = 0; i < record.sectionHistory.size(); ++i) {
     take(section.points, i, record.sectionHistory[i].count, record.sectionHistory[i].rmse);
   }
-  for (std::size_t i = 0; i < record.history.size(); ++i) {
+  const bool fitted = record.fit && !section.points.empty();  // without solver passes
+  for (std::size_t i = 0; !fitted && i < record.history.size(); ++i) {
     take(pass.points, i + 1, record.history[i].count, record.history[i].rmse);
   }
   if (section.points.empty() && pass.points.empty()) {
     return Status::failure(Message::tr("The inversion has no misfit to draw."));
   }
   SeriesFigure figure;
-  figure.series = {pass, section};
+  for (const PlotSeries& each : {pass, section}) {
+    if (!each.points.empty()) figure.series.push_back(each);
+  }
   figure.xTitle = FigureWords::tr("External iteration");
   figure.yTitle = FigureWords::tr("RMS misfit [ms]");
   figure.wholeNumbers = figure.zeroBased = true;

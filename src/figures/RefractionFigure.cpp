@@ -75,7 +75,7 @@ RefractionSheet::RefractionSheet(const TomoDocument& document,
 }
 
 void RefractionSheet::addLayers() {
-  for (QwtPlotItem* item : refraction_items::layers(mScene, QLocale::c())) mPlot.add(item);
+  for (QwtPlotItem* item : refraction_items::layers(mScene, figureLocale())) mPlot.add(item);
   mPlot.add(refraction_items::surface(mScene));
   using namespace section_items;
   mPlot.add(markers(mScene.geophones, FigureWords::tr("Geophones"), Marker::kGeophone));
@@ -110,10 +110,20 @@ CanvasSize RefractionSheet::wantedCanvas() const {
 
 void RefractionSheet::setScales(double width, double height) {
   const double metresPerPoint = 1e-3 * mOptions.scale / mPlot.pointsPerMm();  // 0: to fit
+  // By how much the middle of a part lies from that of the whole, points rightward and upward.
+  double right = 0.0;
+  double up = 0.0;
+  if (const auto& part = mOptions.part) {
+    const CanvasSize whole = wantedCanvas();
+    right = (part->middleMm() - 0.5 * whole.widthMm) * mPlot.pointsPerMm();
+    up = (0.5 * (whole.heightMm - part->heightMm) - part->topMm) * mPlot.pointsPerMm();
+  }
   const auto set = [this](int axis, double from, double to, double length, double spacing,
-                          double perPoint) {
+                          double perPoint, double moved) {
     double padding = (to - from) * kPadding / std::max(length - 2.0 * kPadding, 1.0);
     if (perPoint > 0.0) padding = 0.5 * (length * perPoint - (to - from));
+    from += moved * perPoint;
+    to += moved * perPoint;
     FigurePlot::Scale scale;
     scale.from = scale.firstTick = from - padding;
     scale.to = scale.lastTick = to + padding;
@@ -121,9 +131,9 @@ void RefractionSheet::setScales(double width, double height) {
     scale.spacing = spacing;
     mPlot.setScale(axis, scale);
   };
-  set(QwtPlot::xBottom, low().x, high().x, width, 60.0, metresPerPoint);
+  set(QwtPlot::xBottom, low().x, high().x, width, 60.0, metresPerPoint, right);
   set(QwtPlot::yLeft, low().z, high().z, height, 35.0,
-      metresPerPoint > 0.0 ? metresPerPoint / mOptions.verticalExaggeration : 0.0);
+      metresPerPoint > 0.0 ? metresPerPoint / mOptions.verticalExaggeration : 0.0, up);
   mPlot.plot().updateAxes();
 }
 
@@ -153,12 +163,13 @@ Status RefractionSheet::layOut() {
                      mPlace);
   };
   chooseExaggeration();
-  return fitSheet(wantedCanvas(), mOptions.widthMm, mOptions.heightMm, mPlace, [&] {
-    // The caption tells the exaggeration, which comes of the layout; any other caption takes the
-    // same room.
-    if (Status status = fitWith("x"); !status.ok()) return status;
-    return fitWith(caption());
-  });
+  return fitSheet(sizeOfPart(wantedCanvas(), mOptions.part), mOptions.widthMm, mOptions.heightMm,
+                  mPlace, [&] {
+                    // The caption tells the exaggeration, which comes of the layout; any other
+                    // caption takes the same room.
+                    if (Status status = fitWith("x"); !status.ok()) return status;
+                    return fitWith(caption());
+                  });
 }
 
 Status layOut(const TomoDocument& document, const refractionDataStructure::Interpretation& profile,
@@ -180,11 +191,12 @@ Status layOut(const TomoDocument& document, const refractionDataStructure::Inter
 Status prepareRefractionFigure(const TomoDocument& document,
                                const refractionDataStructure::Interpretation& profile,
                                const RefractionFigureOptions& options, FigureDrawing& drawing,
-                               double* exaggeration) {
+                               double* exaggeration, PlotPlace* place) {
   std::unique_ptr<RefractionSheet> plot;
   Status status = layOut(document, profile, options, FigureFormat::kPdf, drawing.sheet, plot);
   if (!status.ok()) return status;
   if (exaggeration != nullptr) *exaggeration = plot->exaggeration();
+  if (place != nullptr) *place = plot->place();
   drawing.paint = [shared = std::shared_ptr<RefractionSheet>(std::move(plot))](
                       QPainter& painter, const QRectF& rect) { shared->paint(painter, rect); };
   return {};

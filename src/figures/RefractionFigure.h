@@ -5,6 +5,7 @@
 #include "figures/FigurePlot.h"
 #include "model/RefractionDataStructure.h"
 
+#include <optional>
 #include <string>
 
 class QByteArray;
@@ -22,6 +23,7 @@ struct RefractionFigureOptions {
                        ///< large as the sheet has room for
   double verticalExaggeration = 0.0;  ///< height of a metre over its width, at a scale; 0: what
                                       ///< makes the profile legible
+  std::optional<PlotPart> part;       ///< at a scale
   std::string title;  ///< UTF-8; empty: the document's title, and without one "Refraction Profile"
   bool showTitle = true;  ///< false: the title is for the properties of the file only
   const ProfileErrors* errors = nullptr;  ///< of the profile, for bands; null for none
@@ -39,10 +41,11 @@ Status writeRefractionFigure(const TomoDocument& document,
                              const RefractionFigureOptions& options, const std::string& path);
 
 /// The same for who paints it himself. \param exaggeration as drawn; null when nobody asks
+/// \param place of the plot; null when nobody asks
 Status prepareRefractionFigure(const TomoDocument& document,
                                const refractionDataStructure::Interpretation& profile,
                                const RefractionFigureOptions& options, FigureDrawing& drawing,
-                               double* exaggeration = nullptr);
+                               double* exaggeration = nullptr, PlotPlace* place = nullptr);
 
 /// The same into memory. \param place where the section lies; null when nobody asks
 Status renderRefractionFigure(const TomoDocument& document,

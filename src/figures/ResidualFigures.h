@@ -2,6 +2,7 @@
 
 #include "base/Status.h"
 #include "figures/FigureFile.h"
+#include "figures/FigureNumbers.h"
 #include "figures/MatrixPicture.h"
 #include "figures/PlotSeries.h"
 #include "figures/SectionFigureOptions.h"
@@ -24,9 +25,9 @@ enum class ResidualView { kMap, kOffset, kGroups, kSection };
 /// What a view is made of.
 struct ResidualLook {
   ResidualUnit unit = ResidualUnit::kMilliseconds;
-  std::optional<std::size_t> shot;  ///< whose dots have a colour of their own, from 0
-  bool onDark = false;              ///< of a dark desktop
-  QLocale numbers = QLocale::c();   ///< files have those of C
+  std::optional<std::size_t> shot;   ///< whose dots have a colour of their own, from 0
+  bool onDark = false;               ///< of a dark desktop
+  QLocale numbers = figureLocale();  ///< as they are written
 };
 
 /// "Computed minus measured [ms]", or in errors of the picks.

@@ -73,7 +73,7 @@ class Panel {
     mPainter.drawRect(mPlace);
     const auto each = [](double from, double to, const ShownUnit& unit, const auto& mark) {
       for (const double shown : ticks(unit.shown(from), unit.shown(to))) {
-        mark(shown / unit.factor, QString::number(shown));
+        mark(shown / unit.factor, figureLocale().toString(shown, 'g', 6));
       }
     };
     each(mFrame.left, mFrame.right, mUnit, [this](double value, const QString& number) {
@@ -155,7 +155,7 @@ void paintLegend(QPainter& painter, const QRectF& place, double strength) {
     painter.drawRect(QRectF(place.left() + i * step, place.top(), step + 0.03, 3.0));
   }
   painter.setPen(Qt::black);
-  const QString percent = QString::number(100.0 * strength);
+  const QString percent = figureLocale().toString(100.0 * strength, 'g', 6);
   const QRectF below(place.left() - 20.0, place.top() + 3.5, place.width() + 40.0, 4.0);
   painter.drawText(
       below, Qt::AlignCenter | Qt::TextDontClip,

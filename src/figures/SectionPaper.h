@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Point2D.h"
+#include "figures/FigureNumbers.h"
 #include "figures/SectionCamera.h"
 #include "figures/SectionFigureOptions.h"
 
@@ -19,9 +20,9 @@ namespace talvesk {
 
 /// How the sheet of a section is dressed.
 struct SectionDress {
-  QFont font;                     ///< of all words; the title is larger
-  QLocale locale = QLocale::c();  ///< of numbers
-  QString title;                  ///< empty: none
+  QFont font;                       ///< of all words; the title is larger
+  QLocale locale = figureLocale();  ///< of numbers
+  QString title;                    ///< empty: none
   ColorBar colorBar = ColorBar::kVertical;
   bool gridLines = false;  ///< at the numbers of the axes
   GeophoneMarkers geophones = GeophoneMarkers::kNormal;

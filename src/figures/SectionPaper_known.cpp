@@ -48,8 +48,7 @@ QRectF boreholeBox(const QPointF& top, const QPointF& bottom) {
 }
 
 QString SectionPaperPainter::velocityWords(double velocity) const {
-  return QString::fromStdString(valueText(toldVelocity(velocity), 1.0))
-      .replace(QLatin1Char('.'), mDress.locale.decimalPoint());
+  return withSignOf(mDress.locale, valueText(toldVelocity(velocity), 1.0));
 }
 
 /// A word that stands out from what is below it.

@@ -97,10 +97,7 @@ void SectionPaperPainter::paintContourValues(std::vector<QRectF>& taken) {
   const double step = shown.shown(mScene.range.span() / 50.0);
   paintContourLabels(
       mPainter, mScene, lines, mDress.contours, mPlot,
-      [&](double value) {
-        const QString text = QString::fromStdString(valueText(shown.shown(value), step));
-        return QString(text).replace(QLatin1Char('.'), mDress.locale.decimalPoint());
-      },
+      [&](double value) { return withSignOf(mDress.locale, valueText(shown.shown(value), step)); },
       taken);
 }
 

@@ -71,6 +71,7 @@ struct SectionPlot::Parts {
         paper(scene, extent, colors, dressOf(options, title)) {}
 
   Status chooseExaggeration();
+  QPointF cornerOf(const PlotPart& part, const QSizeF& whole);
   QRect plotRect(const QSizeF& size) const { return paper.plotRect(size, camera.exaggeration); }
   SectionFigureLayout place(const QSizeF& size);
   void paintFill(QPainter& painter, const QRect& plot) const;
@@ -82,7 +83,8 @@ struct SectionPlot::Parts {
   QString title;
   SectionPaper paper;
   SectionCamera camera;
-  double metresPerPoint = 0.0;  ///< 0: as large as the sheet has room for
+  double metresPerPoint = 0.0;    ///< 0: as large as the sheet has room for
+  std::optional<QPointF> corner;  ///< upper left of a part, survey position; none: all of it
 };
 
 /// By the options or by the section's own shape, which it must have.
@@ -97,6 +99,14 @@ Status SectionPlot::Parts::chooseExaggeration() {
   return {};
 }
 
+/// \param whole plot, points, at metresPerPoint
+QPointF SectionPlot::Parts::cornerOf(const PlotPart& part, const QSizeF& whole) {
+  paper.fit(camera, whole);
+  camera.zoomAt(QRectF(QPointF(), whole).center(), camera.metresPerPixel / metresPerPoint, whole);
+  const QTransform back = camera.toPicture(whole).inverted();
+  return back.map(QPointF(part.leftMm, part.topMm) * kPointsPerMm);
+}
+
 /// Brings the section into a sheet of that size, points.
 SectionFigureLayout SectionPlot::Parts::place(const QSizeF& size) {
   const QRectF plot(plotRect(size));
@@ -104,6 +114,10 @@ SectionFigureLayout SectionPlot::Parts::place(const QSizeF& size) {
   if (metresPerPoint > 0.0) {
     camera.zoomAt(QRectF(QPointF(), plot.size()).center(), camera.metresPerPixel / metresPerPoint,
                   plot.size());
+  }
+  if (corner) {
+    camera.centre.x = corner->x() + 0.5 * plot.width() * metresPerPoint;
+    camera.centre.z = corner->y() - 0.5 * plot.height() * metresPerPoint / camera.exaggeration;
   }
   const QRectF seen =
       camera.toPicture(plot.size()).inverted().mapRect(QRectF(QPointF(), plot.size()));
@@ -150,6 +164,7 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
   Parts& parts = *mParts;
   if (Status status = parts.chooseExaggeration(); !status.ok()) return status;
   parts.metresPerPoint = 0.0;
+  parts.corner.reset();
 
   QSizeF size = QSizeF(widthMm, heightMm > 0.0 ? heightMm : 0.6 * widthMm) * kPointsPerMm;
   // How wide the numbers of the colour bar are depends on how many its height takes: twice round
@@ -173,7 +188,7 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
   return {};
 }
 
-Status SectionPlot::layOutToScale(double scale) {
+Status SectionPlot::layOutToScale(double scale, const std::optional<PlotPart>& part) {
   Parts& parts = *mParts;
   if (Status status = parts.chooseExaggeration(); !status.ok()) return status;
   parts.metresPerPoint = 1e-3 * scale / kPointsPerMm;
@@ -181,7 +196,12 @@ Status SectionPlot::layOutToScale(double scale) {
   const double width = std::max(along + 2.0 * SectionCamera::Padding().side, kMinPlotWidth);
   const double height =
       std::max(parts.paper.heightToFill(width, parts.camera.exaggeration), kLowPlotHeight);
-  const QSizeF held(std::ceil(width), std::ceil(height));
+  QSizeF held(std::ceil(width), std::ceil(height));
+  parts.corner.reset();
+  if (part) {
+    parts.corner = parts.cornerOf(*part, held);
+    held = {std::ceil(part->widthMm * kPointsPerMm), std::ceil(part->heightMm * kPointsPerMm)};
+  }
   mLayout = {};
   mLayout.widthMm = held.width() / kPointsPerMm;
   mLayout.heightMm = held.height() / kPointsPerMm;

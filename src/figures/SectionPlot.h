@@ -1,9 +1,11 @@
 #pragma once
 
 #include "base/Status.h"
+#include "figures/PlotPart.h"
 #include "figures/SectionFigureOptions.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 class QPainter;
@@ -27,7 +29,8 @@ class SectionPlot {
   Status layOut(double widthMm, double heightMm);
   /// Lays out so that `scale` metres along the line are a metre of the sheet, whose size follows.
   /// Of a section larger than any sheet (FigureSheet::kMaxMm) only the size is told, without axes.
-  Status layOutToScale(double scale);
+  /// \param part of the plot of this size, for a section that goes over several sheets
+  Status layOutToScale(double scale, const std::optional<PlotPart>& part = std::nullopt);
   /// As laid out; after paint() as painted.
   const SectionFigureLayout& layout() const { return mLayout; }
   const std::string& title() const { return mTitle; }

@@ -42,6 +42,7 @@ class TravelTimeSheet {
   void setScales(double width, double height);
   double span() const { return mCurves.high > mCurves.low ? mCurves.high - mCurves.low : 2.0; }
   Status fit();
+  CanvasSize wholeCanvas() const;
   std::string caption(const TomoDocument& document) const;
 
   TravelTimeFigureOptions mOptions;
@@ -95,9 +96,14 @@ std::string TravelTimeSheet::caption(const TomoDocument& document) const {
 }
 
 void TravelTimeSheet::setScales(double width, double height) {
-  const double middle = 0.5 * (mCurves.low + mCurves.high);
+  const CanvasSize whole = wholeCanvas();
+  const bool isPart = mOptions.part.has_value();
+  double middle = 0.5 * (mCurves.low + mCurves.high);
   const double metresPerPoint = mOptions.scale > 0.0 ? 1e-3 * mOptions.scale / mPlot.pointsPerMm()
                                                      : span() / (width - 2.0 * kPadding);
+  if (isPart) {
+    middle += 1e-3 * mOptions.scale * (mOptions.part->middleMm() - 0.5 * whole.widthMm);
+  }
   const double side = 0.5 * width * metresPerPoint;
   FigurePlot::Scale x;
   x.from = x.firstTick = middle - side;
@@ -108,14 +114,33 @@ void TravelTimeSheet::setScales(double width, double height) {
 
   const double perPoint = mOptions.msPerCm > 0.0 ? 0.1 * mOptions.msPerCm / mPlot.pointsPerMm()
                                                  : mCurves.latestMs / (height - 2.0 * kPadding);
+  const double mm = mPlot.pointsPerMm();
+  double above = height - kPadding;  // of time 0
+  if (isPart && whole.heightMm > 0.0) {
+    above = (whole.heightMm - mOptions.part->topMm) * mm - kPadding;
+  }
   FigurePlot::Scale time;
-  time.from = -kPadding * perPoint;
-  time.to = time.lastTick = (height - kPadding) * perPoint;
-  time.firstTick = 0.0;
+  time.from = (above - height) * perPoint;
+  time.to = time.lastTick = above * perPoint;
+  time.firstTick = std::max(time.from, 0.0);
   time.length = height;
   time.spacing = 40.0;
   mPlot.setScale(QwtPlot::yLeft, time);
   mPlot.plot().updateAxes();
+}
+
+CanvasSize TravelTimeSheet::wholeCanvas() const {
+  const double padding = 2.0 * kPadding / mPlot.pointsPerMm();
+  CanvasSize whole;
+  if (mOptions.scale > 0.0) {
+    whole.widthMm = std::max(1e3 * span() / mOptions.scale + padding,
+                             kMinCanvasWidth / mPlot.pointsPerMm() + 1.0);
+  }
+  if (mOptions.msPerCm > 0.0) {
+    whole.heightMm = std::max(10.0 * mCurves.latestMs / mOptions.msPerCm + padding,
+                              kMinCanvasHeight / mPlot.pointsPerMm() + 1.0);
+  }
+  return whole;
 }
 
 Status TravelTimeSheet::layOut() {
@@ -123,18 +148,8 @@ Status TravelTimeSheet::layOut() {
     return Status::failure(Message::tr(
         "There are no travel times to draw: pick first breaks, or load travel times, first."));
   }
-  const double padding = 2.0 * kPadding / mPlot.pointsPerMm();
-  CanvasSize wanted;
-  if (mOptions.scale > 0.0) {
-    wanted.widthMm = std::max(1e3 * span() / mOptions.scale + padding,
-                              kMinCanvasWidth / mPlot.pointsPerMm() + 1.0);
-  }
-  if (mOptions.msPerCm > 0.0) {
-    wanted.heightMm = std::max(10.0 * mCurves.latestMs / mOptions.msPerCm + padding,
-                               kMinCanvasHeight / mPlot.pointsPerMm() + 1.0);
-  }
-  return fitSheet(wanted, mOptions.widthMm, mOptions.heightMm, mLayout.place,
-                  [this] { return fit(); });
+  return fitSheet(sizeOfPart(wholeCanvas(), mOptions.part), mOptions.widthMm, mOptions.heightMm,
+                  mLayout.place, [this] { return fit(); });
 }
 
 Status TravelTimeSheet::fit() {
@@ -161,10 +176,11 @@ Status layOut(const TomoDocument& document, const TravelTimeFigureOptions& optio
 }  // namespace
 
 Status prepareTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,
-                               FigureDrawing& drawing) {
+                               FigureDrawing& drawing, PlotPlace* place) {
   std::unique_ptr<TravelTimeSheet> plot;
   Status status = layOut(document, options, FigureFormat::kPdf, drawing.sheet, plot);
   if (!status.ok()) return status;
+  if (place != nullptr) *place = plot->layout().place;
   drawing.paint = [shared = std::shared_ptr<TravelTimeSheet>(std::move(plot))](
                       QPainter& painter, const QRectF& rect) { shared->paint(painter, rect); };
   return {};

@@ -5,6 +5,7 @@
 #include "figures/FigurePlot.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,8 @@ struct TravelTimeFigureOptions {
                          ///< follows; 0: as wide as the sheet has room for
   double msPerCm = 0.0;  ///< times to a centimetre of the sheet, whose height follows; 0: as high
                          ///< as the sheet has room for
-  bool computed = true;  ///< computed times, where there are any
+  std::optional<PlotPart> part;  ///< at a scale; its height counts with msPerCm only
+  bool computed = true;          ///< computed times, where there are any
   /// Times computed through layers, per record and geophone, seconds; empty for none.
   std::vector<std::vector<double>> layered;
   bool errorBars = true;  ///< where errors of picks are known
@@ -60,8 +62,9 @@ Status writeTravelTimeFigure(const TomoDocument& document, const TravelTimeFigur
                              const std::string& path);
 
 /// The same for who paints it himself.
+/// \param place of the plot; null when nobody asks
 Status prepareTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,
-                               FigureDrawing& drawing);
+                               FigureDrawing& drawing, PlotPlace* place = nullptr);
 
 /// The same into memory. \param layout null when nobody asks
 Status renderTravelTimeFigure(const TomoDocument& document, const TravelTimeFigureOptions& options,

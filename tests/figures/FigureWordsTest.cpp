@@ -1,4 +1,6 @@
+#include "figures/FigurePlot.h"
 #include "figures/FigureWords.h"
+#include "figures/report/ReportBuilder.h"
 #include "model/PickFingerprint.h"
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
@@ -55,6 +57,27 @@ TEST(FigureWords, theCaptionStatesWhatTheReaderCannotSee) {
   EXPECT_THAT(captionOf(scene, 1.25), HasSubstr("Vertical exaggeration 1.25"));
   document.result.edit().has_tomographic_info = false;
   EXPECT_THAT(captionOf(sceneOf(document), 1.0), Not(HasSubstr("RMS")));
+}
+
+TEST(FigureWords, numbersAreThoseOfTheLanguageWithoutMarksBetweenThousands) {
+  const QLocale before;
+  const struct {
+    QLocale language;
+    const char* exaggeration;
+    const char* measured;
+    const char* large;
+  } cases[] = {{QLocale::c(), "Vertical exaggeration 2.5", "-0.25", "12500.5"},
+               {QLocale(QLocale::German), "Vertical exaggeration 2,5", "-0,25", "12500,5"},
+               {QLocale(QLocale::English), "Vertical exaggeration 2.5", "-0.25", "12500.5"}};
+  for (const auto& c : cases) {
+    QLocale::setDefault(c.language);
+    EXPECT_EQ(FigureWords::exaggeration(2.5).toStdString(), c.exaggeration);
+    EXPECT_EQ(report::number(-0.25, 2).toStdString(), c.measured);
+    EXPECT_EQ(report::number(12500.5, 1).toStdString(), c.large);
+    EXPECT_EQ(report::number(-0.001, 0).toStdString(), "0") << "nothing is minus nothing";
+    EXPECT_EQ(figureNumber(12500.5).toStdString(), c.large);
+  }
+  QLocale::setDefault(before);
 }
 
 }  // namespace

@@ -461,17 +461,20 @@ TEST(GatherFigure, manyTracesAreThinnedAndTheCaptionSaysSo) {
   EXPECT_THAT(gather.bytes, HasSubstr("One of every 3 is drawn"));
 }
 
-TEST(GatherFigure, isTheSamePictureInEveryLocale) {
+TEST(GatherFigure, onlyTheLanguageOfTheProgramChangesItsNumbers) {
   const TomoDocument document = shotDocument(2, 6, 400);
   GatherFigureOptions options;
   options.gain = 1.5;
   const std::string before = gatherOf(document, options, FigureFormat::kSvg, 1).bytes;
   const testing::CommaStreams streams;
   const testing::CommaNumbers numbers;
+  EXPECT_EQ(gatherOf(document, options, FigureFormat::kSvg, 1).bytes, before);
   const QLocale locale;
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-  EXPECT_EQ(gatherOf(document, options, FigureFormat::kSvg, 1).bytes, before);
+  const std::string german = gatherOf(document, options, FigureFormat::kSvg, 1).bytes;
   QLocale::setDefault(locale);
+  EXPECT_THAT(before, HasSubstr("gain 1.5 "));
+  EXPECT_THAT(german, HasSubstr("gain 1,5 "));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "figures/print/PrintPages.h"
 #include "model/InversionRecord.h"
 #include "model/SurveyLine.h"
+#include "support/PrintedSheets.h"
 #include "support/SectionDocument.h"
 #include "support/ShotDocument.h"
 #include "support/TestFolder.h"
@@ -10,6 +11,7 @@
 #include <QByteArray>
 #include <QColor>
 #include <QImage>
+#include <QLocale>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -26,74 +28,18 @@
 namespace talvesk {
 namespace {
 
+using testing::geophonesApartMm;
 using ::testing::HasSubstr;
+using testing::imageOf;
+using testing::layers;
+using testing::lengthOf;
 using ::testing::Not;
+using testing::on;
+using testing::prepared;
 using testing::sectionDocument;
 using testing::shotDocument;
+using testing::svgOf;
 using testing::TestFolder;
-
-double layers(std::uint32_t row, std::uint32_t) {
-  return 400.0 + 150.0 * row;
-}
-
-PrintSettings on(const std::string& name, bool landscape, double scale) {
-  for (const Paper& known : papers()) {
-    if (known.name != name) continue;
-    PrintSettings settings;
-    settings.sheet = PrintSheet::on(known, landscape, scale);
-    return settings;
-  }
-  throw std::invalid_argument(name);
-}
-
-PrintPages prepared(const PrintFigure& figure, const PrintSettings& settings) {
-  PrintPages pages;
-  const Status status = preparePrint(figure, settings, pages);
-  EXPECT_TRUE(status.ok()) << status.message();
-  return pages;
-}
-
-/// \param dpi a whole number of pixels
-QImage imageOf(const PrintPages& pages, double dpi, std::size_t page = 0) {
-  const double perMm = dpi / kMmPerInch;
-  QImage image(static_cast<int>(std::lround(pages.sheet.widthMm * perMm)),
-               static_cast<int>(std::lround(pages.sheet.heightMm * perMm)), QImage::Format_RGB32);
-  setResolution(image, dpi);
-  QPainter painter(&image);
-  pages.paint(page, painter, QRectF(image.rect()));
-  return image;
-}
-
-/// Middles of the runs of one colour along a row of pixels.
-std::vector<double> runsOf(const QImage& image, int row, QRgb color) {
-  std::vector<double> middles;
-  int begin = -1;
-  for (int column = 0; column < image.width(); ++column) {
-    const bool same = image.pixel(column, row) == color;
-    if (same && begin < 0) begin = column;
-    if (!same && begin >= 0) {
-      middles.push_back(0.5 * (begin + column - 1));
-      begin = -1;
-    }
-  }
-  return middles;
-}
-
-/// Between the first and the last geophone of level ground, as a ruler on the paper has it.
-double geophonesApartMm(const QImage& image, std::size_t geophones, double dpi) {
-  for (int row = 0; row < image.height(); ++row) {
-    const std::vector<double> middles = runsOf(image, row, qRgb(32, 32, 32));
-    if (middles.size() == geophones) {
-      return (middles.back() - middles.front()) / dpi * kMmPerInch;
-    }
-  }
-  return 0.0;
-}
-
-double lengthOf(const TomoDocument& document) {
-  const std::vector<Point2D>& geophones = document.line->goephonesStringSet[0];
-  return geophones.back().x - geophones.front().x;
-}
 
 TEST(PrintPages, geophonesAreAsFarApartOnPaperAsTheScaleHasIt) {
   const TomoDocument section = sectionDocument(8, 30, 0.0, layers);
@@ -247,37 +193,6 @@ TEST(PrintPages, refusesScalesThatAreNone) {
   EXPECT_FALSE(preparePrint(printedSection(section, {}), settings, pages).ok());
 }
 
-TEST(PrintPages, sheetsPutTogetherAreOneFigureTrueToScale) {
-  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
-  PrintSettings settings = on("A4", true, 40.0);
-  settings.tiles = true;
-  const PrintPages pages = prepared(printedSection(document, {}), settings);
-  ASSERT_GT(pages.columns, 2U);
-  constexpr double kDpi = 254.0;  // ten pixels to a millimetre
-  const int margin = 100;
-  const QSize room(2770, 1900);
-  const QSize step(room.width() - 100, room.height() - 100);
-  QImage whole(step.width() * static_cast<int>(pages.columns) + 100, room.height(),
-               QImage::Format_RGB32);
-  const std::size_t row = 0;
-  for (std::size_t column = 0; column < pages.columns; ++column) {
-    const QImage all = imageOf(pages, kDpi, row * pages.columns + column);
-    for (int x = 0; x < margin; ++x) {
-      ASSERT_EQ(all.pixel(x, 300), qRgb(255, 255, 255)) << "the margin is blank at " << x;
-    }
-    const QImage sheet = all.copy(QRect({margin, margin}, room));
-    const int left = static_cast<int>(column) * step.width();
-    if (column > 0) {
-      // Above the block, what two sheets have in common is the same, marks and all.
-      const QRect common(left, 0, 100, 1600);
-      EXPECT_EQ(whole.copy(common), sheet.copy(QRect(0, 0, 100, 1600))) << column;
-    }
-    QPainter(&whole).drawImage(left, 0, sheet);
-  }
-  EXPECT_NEAR(geophonesApartMm(whole, document.line->goephonesStringSet[0].size(), kDpi),
-              1e3 * lengthOf(document) / 40.0, 0.2);
-}
-
 TEST(PrintPages, toFitIsTheLargestScaleOfThreeDigits) {
   const TomoDocument section = sectionDocument(8, 30, 0.0, layers);
   const TomoDocument shots = shotDocument(5, 24, 400);
@@ -315,13 +230,25 @@ TEST(PrintPages, figuresWithoutALengthFillTheSheetAtAnyScale) {
   }
 }
 
-std::string svgOf(const PrintPages& pages, std::size_t page = 0) {
-  QByteArray bytes;
-  const Status status = paintFigure(
-      FigureFormat::kSvg, pages.sheet,
-      [&](QPainter& painter, const QRectF& rect) { pages.paint(page, painter, rect); }, bytes);
-  EXPECT_TRUE(status.ok()) << status.message();
-  return bytes.toStdString();
+TEST(PrintPages, misfitNamesThePassesOfASolverThatThereWere) {
+  TomoDocument document;
+  InversionRecord record;
+  for (int i = 0; i < 3; ++i) {
+    SectionMisfit misfit;
+    misfit.rmse = 0.002 / (1 + i);
+    misfit.count = 40;
+    record.sectionHistory.push_back(misfit);
+    Misfit pass;
+    pass.rmse = 0.001;
+    pass.count = 40;
+    record.history.push_back(pass);
+  }
+  const std::string solved = svgOf(prepared(printedMisfit(document, record), on("A4", true, 1.0)));
+  EXPECT_NE(solved.find("Last solver pass"), std::string::npos);
+  EXPECT_NE(solved.find(">Section<"), std::string::npos);
+  record.fit = FitRecord();
+  const std::string fitted = svgOf(prepared(printedMisfit(document, record), on("A4", true, 1.0)));
+  EXPECT_EQ(fitted.find("Last solver pass"), std::string::npos);
 }
 
 TEST(PrintPages, theBlockTellsTitleScalesAndLengthOfTheBar) {
@@ -344,14 +271,89 @@ TEST(PrintPages, theBlockTellsTitleScalesAndLengthOfTheBar) {
   setLengthUnit(LengthUnit::kMetre);
 }
 
-TEST(PrintPages, sheetsOfSeveralTellTheirPlace) {
+TEST(PrintPages, proposesTheFirstUsualScaleThatFitsOneSheet) {
+  const TomoDocument section = sectionDocument(8, 30, 0.0, layers);  // 15 m and a bit
+  const TomoDocument shots = shotDocument(12, 24, 400);
+  const PrintFigure figures[] = {printedSection(section, {}), printedCurves(shots, {})};
+  for (const PrintFigure& figure : figures) {
+    for (const double side : {60.0, 100.0, 210.0}) {
+      PrintSettings settings;
+      settings.sheet = {500.0, 1.4 * side, side};
+      const double scale = proposedScale(figure, settings);
+      PrintPages pages;
+      settings.sheet.scale = scale;
+      const bool fitting = preparePrint(figure, settings, pages).ok();
+      EXPECT_TRUE(fitting || scale == 500.0) << side;
+      settings.sheet.scale = 500.0;
+      const bool first = preparePrint(figure, settings, pages).ok();
+      EXPECT_EQ(scale == 500.0, first || !fitting) << side;
+    }
+  }
+  TomoDocument longLine = shotDocument(12, 24, 400);
+  PrintSettings narrow;
+  narrow.sheet = {500.0, 130.0, 210.0};
+  double last = 0.0;
+  for (const double longer : {1.0, 10.0, 30.0}) {
+    for (Point2D& geophone : longLine.line.edit().goephonesStringSet[0]) geophone.x *= longer;
+    const double scale = proposedScale(printedCurves(longLine, {}), narrow);
+    EXPECT_GE(scale, last);
+    last = scale;
+  }
+  EXPECT_GT(last, 5000.0);
+}
+
+TEST(PrintPages, aScaleAtWhichAFigureIsTooSmallDoesNotHideThoseThatFit) {
+  TomoDocument document = shotDocument(12, 24, 400);
+  for (Point2D& geophone : document.line.edit().goephonesStringSet[0]) geophone.x *= 4.0;
+  const PrintFigure curves = printedCurves(document, {});
+  PrintFigure figure = curves;
+  figure.layOut = [&curves](const PrintSize& size, LaidFigure& laid) {
+    if (size.scale > 20000.0) return Status::failure("too small");
+    return curves.layOut(size, laid);
+  };
+  EXPECT_EQ(proposedScale(figure, on("A4", false, 500.0)),
+            proposedScale(curves, on("A4", false, 500.0)));
+  PrintFigure nothing = curves;
+  nothing.layOut = [](const PrintSize&, LaidFigure&) { return Status::failure("nothing"); };
+  EXPECT_EQ(proposedScale(nothing, on("A4", false, 500.0)), 500.0);
+}
+
+TEST(PrintPages, aPlaceBesideTheSectionIsItsEnd) {
   const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
-  PrintSettings settings = on("A4", true, 40.0);
+  const DepthProfiles profiles(document);
+  ASSERT_FALSE(profiles.empty());
+  for (const double x : {profiles.left() - 0.004, profiles.right() + 0.004}) {
+    const PrintPages pages =
+        prepared(printedDepthProfile(document, profiles, x), on("A4", true, 1));
+    EXPECT_EQ(svgOf(pages).find("no section here"), std::string::npos) << x;
+  }
+}
+
+TEST(PrintPages, theTitleOfASectionWithoutOneIsWhatItShows) {
+  TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  SectionFigureOptions options;
+  EXPECT_EQ(printedSection(document, options).title, "Velocity");
+  options.scene.quantity = SectionQuantity::kVerticalGradient;
+  EXPECT_EQ(printedSection(document, options).title, "Vertical gradient of velocity");
+  document.title = "Dam";
+  EXPECT_EQ(printedSection(document, options).title, "Dam");
+}
+
+TEST(PrintPages, numbersAreThoseOfTheLanguage) {
+  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  const QLocale before;
+  QLocale::setDefault(QLocale(QLocale::German));
+  PrintSettings settings = on("A3", true, 40.0);
+  settings.exaggeration = 1.5;
   settings.tiles = true;
-  const PrintPages pages = prepared(printedSection(document, {}), settings);
-  const std::string second = svgOf(pages, 1);
-  EXPECT_THAT(second,
-              HasSubstr("Sheet 2 of " + std::to_string(pages.count()) + ": row 1, column 2"));
+  const std::string german = svgOf(prepared(printedSection(document, {}), settings));
+  settings.sheet.scale = 12500.0;
+  const std::string small = svgOf(prepared(printedSection(document, {}), settings));
+  QLocale::setDefault(before);
+  EXPECT_NE(german.find(">1,25<"), std::string::npos);
+  EXPECT_NE(german.find("1:26,67"), std::string::npos);
+  EXPECT_EQ(german.find("1:26.67"), std::string::npos);
+  EXPECT_NE(small.find("1:12500"), std::string::npos) << "and nothing stands between thousands";
 }
 
 TEST(PrintPages, aFileHasAllSheetsOfAllFigures) {

@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPrintEngine>
 #include <QPrinter>
 #include <QPushButton>
 #include <QStandardItemModel>
@@ -40,10 +41,10 @@ class Printing : public WindowTest {
  protected:
   Printing() { open(); }
 
-  void takeSection() {
+  void takeSection(std::uint32_t columns = 20) {
     TomoDocument& document = writable();
     document = testing::sectionDocument(
-        6, 20, 0.5, [](std::uint32_t row, std::uint32_t) { return 400.0 + 300.0 * row; });
+        6, columns, 0.5, [](std::uint32_t row, std::uint32_t) { return 400.0 + 300.0 * row; });
     document.title = "Hill 7/b";
     showWritten();
     window->showFile(0);
@@ -168,6 +169,29 @@ TEST_F(Printing, remembersItsFieldsAndBeginsWithWhatIsInView) {
   });
 }
 
+TEST_F(Printing, proposesAScaleThatFitsUntilOneIsChosen) {
+  takeSection(300);
+  const auto scaleIn = [](QWidget& dialog) {
+    return in<QComboBox>(dialog, "scaleCombo").currentText().toStdString();
+  };
+  expectDialog([&](QWidget& dialog) {
+    EXPECT_EQ(scaleIn(dialog), "1:1000");
+    EXPECT_THAT(said(dialog), AllOf(HasSubstr("At 1:1000 the figure takes"),
+                                    HasSubstr("the first usual scale from 1:500 on")));
+    in<QComboBox>(dialog, "paperCombo").setCurrentText(QStringLiteral("A1"));
+    settle(dialog);
+    EXPECT_EQ(scaleIn(dialog), "1:500") << "a proposal follows the paper";
+    EXPECT_THAT(said(dialog), Not(HasSubstr("first usual")));
+  });
+  expectDialog([&](QWidget& dialog) {
+    setScale(dialog, "1:200");
+    settle(dialog);
+    EXPECT_EQ(scaleIn(dialog), "1:200") << "what is chosen stays";
+    EXPECT_FALSE(in<QPushButton>(dialog, "pdfButton").isEnabled());
+  });
+  expectDialog([&](QWidget& dialog) { EXPECT_EQ(scaleIn(dialog), "1:200"); });
+}
+
 TEST_F(Printing, greysWhatIsNotThereWithTheReasonAndDrawsAllElse) {
   takeSection();
   expectDialog([](QWidget& dialog) {
@@ -221,6 +245,57 @@ TEST(PagePrinter, printsTheSheetsOfTheFileAndOnNoOtherPaper) {
   setUpPrinter(other, pages);
   other.setPageSize(QPageSize(QPageSize::A5));
   EXPECT_THAT(printPages(other, pages).message(), HasSubstr("the sheets are made for 297 x 210"));
+}
+
+/// A printer that is out of paper after some sheets.
+class EmptyPrinter : public QPrinter {
+ public:
+  EmptyPrinter(const std::string& file, int sheets) : mEngine(file, sheets) {
+    setEngines(&mEngine, mEngine.pdf.paintEngine());
+  }
+
+ private:
+  struct Engine : QPrintEngine {
+    Engine(const std::string& file, int sheets) : left(sheets) {
+      pdf.setOutputFormat(QPrinter::PdfFormat);
+      pdf.setOutputFileName(QString::fromStdString(file));
+    }
+    void setProperty(PrintEnginePropertyKey key, const QVariant& value) override {
+      pdf.printEngine()->setProperty(key, value);
+    }
+    QVariant property(PrintEnginePropertyKey key) const override {
+      return pdf.printEngine()->property(key);
+    }
+    bool newPage() override { return --left > 0 && pdf.printEngine()->newPage(); }
+    bool abort() override { return pdf.printEngine()->abort(); }
+    int metric(QPaintDevice::PaintDeviceMetric id) const override {
+      return pdf.printEngine()->metric(id);
+    }
+    QPrinter::PrinterState printerState() const override {
+      return pdf.printEngine()->printerState();
+    }
+
+    QPrinter pdf{QPrinter::HighResolution};
+    int left;
+  };
+
+  Engine mEngine;
+};
+
+TEST(PagePrinter, tellsHowManySheetsAPrinterTookThatFailed) {
+  PrintPages pages;
+  pages.sheet = {297.0, 210.0, 150.0, {}};
+  pages.columns = 4;
+  pages.paint = [](std::size_t, QPainter&, const QRectF&) {};
+  const TestFolder folder;
+  for (const int lasts : {1, 3, 4}) {
+    EmptyPrinter printer(folder.file("a.pdf"), lasts);
+    setUpPrinter(printer, pages);
+    PrintedSheets sheets;
+    EXPECT_EQ(printPages(printer, pages, &sheets).ok(), lasts == 4);
+    EXPECT_EQ(sheets.sent, lasts);
+    EXPECT_EQ(sheets.wanted, 4);
+  }
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "app/dialogs/PrintPreview.h"
 #include "app/dialogs/TraceHeadersDialog.h"
 #include "base/AtomicFile.h"
 #include "gui/WindowTest.h"
@@ -264,6 +265,35 @@ TEST_F(ShotTables, sheetsAreWrittenAsThePreviewShowsThem) {
   std::string bytes;
   ASSERT_TRUE(readWholeFile(path, bytes).ok());
   EXPECT_THAT(bytes, HasSubstr("/Count 2"));
+}
+
+TEST_F(ShotTables, sheetsAreDrawnAsTheTracesAreInView) {
+  openShots(2, 6);
+  action("actionBy_offset").trigger();
+  action("actionTime_gain").trigger();
+  const std::string path = home.file("sheet.svg");
+  dialogs.expect([](QWidget& widget) {
+    EXPECT_FALSE(widget.findChild<QCheckBox*>("channelsBox")->isEnabled());
+    auto* preview = widget.findChild<PrintPreview*>("preview");
+    for (int waited = 0; waited < 3000 && preview->sheets().empty(); waited += 20) QTest::qWait(20);
+    ASSERT_EQ(preview->sheets().size(), 1U);
+    EXPECT_LE(preview->widget()->width(), preview->width()) << "all of it is in view";
+    EXPECT_LE(preview->widget()->height(), preview->height());
+    QTest::keyClick(preview, Qt::Key_Plus);
+    QTest::keyClick(preview, Qt::Key_Plus);
+    EXPECT_GT(preview->widget()->width(), preview->width());
+    QTest::keyClick(preview, Qt::Key_Minus);
+    EXPECT_FALSE(preview->isWhole());
+    QTest::keyClick(preview, Qt::Key_0);
+    EXPECT_TRUE(preview->isWhole());
+    dynamic_cast<QDialog&>(widget).accept();
+  });
+  dialogs.expectFiles(QStringLiteral("Save Sheets of Shots"), {QString::fromStdString(path)});
+  action("actionShot_sheet").trigger();
+  std::string bytes;
+  ASSERT_TRUE(readWholeFile(path, bytes).ok());
+  EXPECT_NE(bytes.find("Offset [m]"), std::string::npos);
+  EXPECT_NE(bytes.find("gain with time t^1"), std::string::npos);
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include "app/MessageText.h"
 #include "app/ToolTips.h"
 #include "app/WaitCursor.h"
-#include "app/dialogs/FigureSheetWidget.h"
+#include "app/dialogs/PrintPreview.h"
 #include "model/Recordings.h"
 #include "ui_GatherSheetDialog.h"
 
@@ -47,33 +47,14 @@ bool hasFilteredCopies(const TomoDocument& document) {
   return false;
 }
 
-/// The sheet as large as there is room, everything on it in proportion: what is small on paper is
-/// small here.
-FigureDrawing scaled(const FigureDrawing& drawing, double widthMm) {
-  const double factor = widthMm / drawing.sheet.widthMm;
-  FigureDrawing small = drawing;
-  small.sheet.widthMm = widthMm;
-  small.sheet.heightMm *= factor;
-  small.paint = [drawing, factor](QPainter& painter, const QRectF& rect) {
-    painter.save();
-    painter.translate(rect.topLeft());
-    painter.scale(factor, factor);
-    drawing.paint(painter, QRectF(QPointF(), rect.size() / factor));
-    painter.restore();
-  };
-  return small;
-}
-
 }  // namespace
 
 GatherSheetDialog::GatherSheetDialog(TomoDocument document, QWidget* parent)
     : QDialog(parent),
       mUi(std::make_unique<Ui::GatherSheetDialog>()),
-      mPreview(new FigureSheetWidget(this)),
       mDocument(std::move(document)) {
   mUi->setupUi(this);
   wrapToolTips(*this);
-  mPreview->putInto(*mUi->previewArea);
   fillPapers();
   const int shots = std::max(static_cast<int>(mDocument.recordings->traceSets.size()), 1);
   mUi->firstSpin->setRange(1, shots);
@@ -100,6 +81,13 @@ GatherSheetDialog::GatherSheetDialog(TomoDocument document, QWidget* parent)
 }
 
 GatherSheetDialog::~GatherSheetDialog() = default;
+
+void GatherSheetDialog::setManner(const GatherManner& manner) {
+  mManner = manner;
+  // They stand by offset, then, and are no channels.
+  mUi->channelsBox->setEnabled(manner.byOffset == OffsetOrder::kNone);
+  refresh();
+}
 
 void GatherSheetDialog::showShot(int shot) {
   const GatherSheetOptions now = options();
@@ -129,6 +117,7 @@ GatherSheetOptions GatherSheetDialog::options() const {
   options.gather.picks = mUi->picksBox->isChecked();
   options.gather.byChannel = mUi->channelsBox->isChecked();
   options.gather.gain = mUi->gainSpin->value();
+  options.gather.manner = mManner;
   if (mUi->amplitudesBox->isChecked()) options.gather.scaling = GatherScaling::kWholeShot;
   if (mUi->endSpin->value() > 0) {
     options.gather.window = TimeWindow{0.0, static_cast<double>(mUi->endSpin->value())};
@@ -145,6 +134,7 @@ void GatherSheetDialog::refresh() {
   }
   mUi->sheetSpin->setEnabled(sheets > 1);
   mUi->sheetsLabel->setText(tr("of %1", "sheets").arg(QLocale().toString(sheets)));
+  mUi->preview->setWaiting();
   mSoon.start();
 }
 
@@ -156,11 +146,14 @@ void GatherSheetDialog::draw() {
   const auto sheet = static_cast<std::size_t>(mUi->sheetSpin->value() - 1);
   FigureDrawing full;
   const Status status = prepareGatherSheet(mDocument, shown, sheet, full);
-  if (!status.ok()) return mPreview->setNothing(textOf(status.text()));
-  mPreview->setFigure([full](double widthMm, FigureDrawing& drawing) {
-    drawing = scaled(full, widthMm);
-    return Status();
-  });
+  if (!status.ok()) return mUi->preview->setNothing(textOf(status.text()));
+  PrintPages pages;
+  pages.sheet = full.sheet;
+  pages.paint = [paint = full.paint](std::size_t, QPainter& painter, const QRectF& rect) {
+    painter.fillRect(rect, Qt::white);
+    paint(painter, rect);
+  };
+  mUi->preview->setPages(pages);
 }
 
 void GatherSheetDialog::remember(QSettings& settings) const {

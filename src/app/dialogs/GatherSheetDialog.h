@@ -14,7 +14,6 @@ namespace talvesk {
 namespace Ui {
 class GatherSheetDialog;
 }
-class FigureSheetWidget;
 
 /// Asks how several shots are laid out on a sheet, and shows it as it will be. Accepted, the sheets
 /// are to be written.
@@ -26,7 +25,8 @@ class GatherSheetDialog : public QDialog {
   ~GatherSheetDialog() override;
 
   GatherSheetOptions options() const;
-  void showShot(int shot);  ///< the sheet that it is on; from 0, -1 none
+  void setManner(const GatherManner& manner);  ///< in which the traces are drawn; plain before
+  void showShot(int shot);                     ///< the sheet that it is on; from 0, -1 none
 
   /// Rows, columns, paper and look, from one use to the next.
   void remember(QSettings& settings) const;
@@ -38,8 +38,8 @@ class GatherSheetDialog : public QDialog {
   void fillPapers();
 
   std::unique_ptr<Ui::GatherSheetDialog> mUi;
-  FigureSheetWidget* mPreview;
   TomoDocument mDocument;
+  GatherManner mManner;
   QTimer mSoon;  ///< draws
 };
 

@@ -22,7 +22,6 @@ namespace talvesk {
 namespace {
 
 constexpr double kScales[] = {100.0, 200.0, 250.0, 500.0, 1000.0, 2000.0, 5000.0, 10000.0};
-constexpr double kFirstScale = 500.0;
 const char kFirstPaper[] = "A3";
 constexpr int kSoon = 150;  ///< milliseconds without a change
 constexpr int kFit = 0;     ///< of the scales
@@ -68,8 +67,13 @@ PrintDialog::PrintDialog(std::vector<PrintChoice> choices, std::size_t first, QW
   for (QComboBox* combo : {mUi->paperCombo, mUi->orientationCombo}) {
     connect(combo, changed, this, &PrintDialog::wait);
   }
-  connect(mUi->scaleCombo, &QComboBox::editTextChanged, this, &PrintDialog::wait);
+  connect(mUi->scaleCombo, &QComboBox::editTextChanged, this, [this] {
+    mProposes = false;
+    wait();
+  });
   connect(mUi->scaleCombo->lineEdit(), &QLineEdit::returnPressed, this, &PrintDialog::refresh);
+  connect(mUi->scaleCombo, QOverload<int>::of(&QComboBox::activated), this,
+          [this] { mProposes = false; });
   connect(mUi->titleEdit, &QLineEdit::textChanged, this, &PrintDialog::wait);
   connect(mUi->tilesBox, &QCheckBox::toggled, this, &PrintDialog::wait);
   const auto set = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
@@ -111,7 +115,7 @@ void PrintDialog::fillScales() {
   mUi->scaleCombo->setCompleter(nullptr);
   mUi->scaleCombo->addItem(tr("Fit to the page"));
   for (const double scale : kScales) mUi->scaleCombo->addItem(scaleText(scale));
-  mUi->scaleCombo->setEditText(scaleText(kFirstScale));
+  mUi->scaleCombo->setEditText(scaleText(PrintSheet::kFirstScale));
 }
 
 void PrintDialog::setPrinters(bool any) {
@@ -162,7 +166,7 @@ PrintSettings PrintDialog::settings() const {
   PrintSettings chosen;
   const auto paper = static_cast<std::size_t>(std::max(mUi->paperCombo->currentIndex(), 0));
   chosen.sheet = PrintSheet::on(papers()[paper], mUi->orientationCombo->currentIndex() == 0,
-                                scale().value_or(kFirstScale));
+                                scale().value_or(PrintSheet::kFirstScale));
   chosen.exaggeration = mUi->exaggerationEdit->value();
   chosen.msPerCm = mUi->timesEdit->value();
   chosen.title = mUi->titleEdit->text().trimmed().toStdString();
@@ -182,6 +186,7 @@ void PrintDialog::refresh() {
     if (!mFigure) {
       mFigure = mChoices[static_cast<std::size_t>(row)].make(metresOf(mUi->placeEdit->value()));
     }
+    if (mProposes && mFigure->alongLine) propose();
     if (mFigure->alongLine && !scale()) {
       return Status::failure(Message::tr("Choose a scale, or type one such as 1:750."));
     }
@@ -206,15 +211,27 @@ void PrintDialog::refresh() {
   }
 }
 
+/// A scale at which the figure fits one sheet, as long as nobody has chosen another.
+void PrintDialog::propose() {
+  const QSignalBlocker quiet(mUi->scaleCombo);
+  mUi->scaleCombo->setEditText(scaleText(proposedScale(*mFigure, settings())));
+}
+
 /// How large the figure is; else what would fit, to be clicked on.
 void PrintDialog::show(const PrintFit& fit, const Status& status) {
   mUi->sheetsLabel->setText(
       status.ok() ? tr("%n sheet(s)", nullptr, static_cast<int>(mPages.count())) : QString());
   if (status.ok()) {
     const QString size = millimetres(mPages.figureWidthMm, mPages.figureHeightMm);
-    mUi->fitLabel->setText(mPages.scale > 0.0
-                               ? tr("At %1 the figure takes %2.").arg(scaleText(mPages.scale), size)
-                               : tr("The figure takes %1.").arg(size));
+    QString text = mPages.scale > 0.0
+                       ? tr("At %1 the figure takes %2.").arg(scaleText(mPages.scale), size)
+                       : tr("The figure takes %1.").arg(size);
+    if (mProposes && mPages.scale > PrintSheet::kFirstScale) {
+      text += QLatin1Char(' ') +
+              tr("This is the first usual scale from %1 on at which it fits one sheet.")
+                  .arg(scaleText(PrintSheet::kFirstScale));
+    }
+    mUi->fitLabel->setText(text);
     return;
   }
   if (fit.figureWidthMm <= 0.0) {
@@ -264,10 +281,18 @@ void PrintDialog::follow(const QString& link) {
   }
 }
 
+void PrintDialog::setScale(double scale) {
+  mProposes = false;
+  mUi->scaleCombo->setEditText(scale == PrintSheet::kToFit ? mUi->scaleCombo->itemText(kFit)
+                                                           : scaleText(scale));
+}
+
+std::optional<double> PrintDialog::chosenScale() const {
+  return mProposes ? std::nullopt : scale();
+}
+
 void PrintDialog::remember(QSettings& settings) const {
   settings.beginGroup(kGroup);
-  const std::optional<double> chosen = scale();
-  if (chosen) settings.setValue(QStringLiteral("scale"), *chosen);
   settings.setValue(QStringLiteral("exaggeration"), mUi->exaggerationEdit->value());
   settings.setValue(QStringLiteral("msPerCm"), mUi->timesEdit->value());
   settings.setValue(QStringLiteral("paper"), mUi->paperCombo->currentText());
@@ -280,9 +305,6 @@ void PrintDialog::recall(const QSettings& settings) {
   const auto value = [&settings](const char* name, const QVariant& fallback) {
     return settings.value(kGroup + QLatin1Char('/') + QLatin1String(name), fallback);
   };
-  const double scale = value("scale", kFirstScale).toDouble();
-  mUi->scaleCombo->setEditText(scale == PrintSheet::kToFit ? mUi->scaleCombo->itemText(kFit)
-                                                           : scaleText(scale));
   mUi->exaggerationEdit->setValue(value("exaggeration", 0.0).toDouble());
   mUi->timesEdit->setValue(value("msPerCm", 0.0).toDouble());
   mUi->paperCombo->setCurrentText(value("paper", QLatin1String(kFirstPaper)).toString());

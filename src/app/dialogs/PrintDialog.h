@@ -49,7 +49,12 @@ class PrintDialog : public QDialog {
   std::function<void(const PrintPages&)> printWanted;
   std::function<void(const PrintPages&)> pdfWanted;
 
-  /// Scale, paper and the rest, from one use to the next.
+  /// The scale that is asked for, or PrintSheet::kToFit. Without, and until the user chooses one,
+  /// it is proposed as the figure and the paper have it.
+  void setScale(double scale);
+  std::optional<double> chosenScale() const;
+
+  /// Paper and the rest, from one use to the next.
   void remember(QSettings& settings) const;
   void recall(const QSettings& settings);
 
@@ -59,6 +64,7 @@ class PrintDialog : public QDialog {
   void chooseFigure();
   void wait();     ///< something has changed
   void refresh();  ///< now
+  void propose();
   std::optional<double> scale() const;
   PrintSettings settings() const;
   void show(const PrintFit& fit, const Status& status);
@@ -67,7 +73,8 @@ class PrintDialog : public QDialog {
   std::unique_ptr<Ui::PrintDialog> mUi;
   std::vector<PrintChoice> mChoices;
   std::optional<PrintFigure> mFigure;
-  PrintPages mPages;  ///< where the figure fits
+  PrintPages mPages;      ///< where the figure fits
+  bool mProposes = true;  ///< a scale; false once one is chosen
   bool mReady = false;
   bool mPrinters = true;
   QTimer mSoon;

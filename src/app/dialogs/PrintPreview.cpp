@@ -1,5 +1,6 @@
 #include "app/dialogs/PrintPreview.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QResizeEvent>
 #include <QScrollBar>
@@ -189,6 +190,20 @@ void PrintPreview::resizeEvent(QResizeEvent* event) {
     mCanvas->resize(maximumViewportSize());
   } else {
     mSoon.start();
+  }
+}
+
+void PrintPreview::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:  // on the same key
+      return zoomBy(1);
+    case Qt::Key_Minus:
+      return zoomBy(-1);
+    case Qt::Key_0:
+      return showWhole();
+    default:
+      QScrollArea::keyPressEvent(event);
   }
 }
 

@@ -11,7 +11,8 @@
 namespace talvesk {
 
 /// Sheets as they will be printed, painted by what prints them and put together as they belong. One
-/// is painted at a time, and the window lives in between; what waits for it says so.
+/// is painted at a time, and the window lives in between; what waits for it says so. Ctrl with the
+/// wheel, + and - make it larger and smaller, 0 shows all of it.
 class PrintPreview : public QScrollArea {
   Q_OBJECT
 
@@ -33,6 +34,7 @@ class PrintPreview : public QScrollArea {
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   class Canvas;

@@ -3,6 +3,7 @@
 #include "app/Messages.h"
 #include "app/dialogs/GatherSheetDialog.h"
 #include "app/presenters/FileExport.h"
+#include "ui_Talvesk_MainWindows.h"
 
 #include <QFileInfo>
 #include <QProgressDialog>
@@ -14,6 +15,7 @@ void GatherSheetPresenter::ask() {
   GatherSheetDialog dialog(mDesk.document(), &mDesk.window);
   QSettings remembered(mDesk.windowStateFile(), QSettings::IniFormat);
   dialog.recall(remembered);
+  dialog.setManner(mDesk.ui.showTracesWidget->options().manner);
   dialog.showShot(mDesk.shot.index());
   if (dialog.exec() != QDialog::Accepted) return;
   dialog.remember(remembered);

@@ -173,11 +173,13 @@ void PrintPresenter::ask(std::vector<PrintChoice> choices, std::size_t first) {
   PrintDialog dialog(std::move(choices), first, &mDesk.window);
   QSettings remembered(mDesk.windowStateFile(), QSettings::IniFormat);
   dialog.recall(remembered);
+  if (mScale) dialog.setScale(*mScale);
   dialog.setPrinters(!QPrinterInfo::availablePrinterNames().isEmpty());
   dialog.printWanted = [this](const PrintPages& pages) { toPrinter(pages); };
   dialog.pdfWanted = [this](const PrintPages& pages) { toPdf(pages); };
   dialog.exec();
   dialog.remember(remembered);
+  mScale = dialog.chosenScale();
 }
 
 void PrintPresenter::toPrinter(const PrintPages& pages) {
@@ -186,8 +188,15 @@ void PrintPresenter::toPrinter(const PrintPages& pages) {
   QPrintDialog dialog(&printer, &mDesk.window);
   dialog.setMinMax(1, static_cast<int>(pages.count()));
   if (dialog.exec() != QDialog::Accepted) return;
-  const Status status = whileWaiting([&] { return printPages(printer, pages); });
-  if (!status.ok()) return mDesk.tellFailure(tr("Nothing has been printed."), status);
+  PrintedSheets sheets;
+  const Status status = whileWaiting([&] { return printPages(printer, pages, &sheets); });
+  if (!status.ok()) {
+    return mDesk.tellFailure(
+        sheets.sent == 0
+            ? tr("Nothing has been printed.")
+            : tr("The printer failed after %1 of %2 sheets.").arg(sheets.sent).arg(sheets.wanted),
+        status);
+  }
   mDesk.tell(tr("Sent to %1.").arg(printer.printerName()));
 }
 

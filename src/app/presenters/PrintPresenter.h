@@ -9,6 +9,7 @@
 #include "view/ResidualTable.h"
 
 #include <QObject>
+#include <optional>
 #include <vector>
 
 namespace talvesk {
@@ -49,6 +50,7 @@ class PrintPresenter : public QObject {
   void toPrinter(const PrintPages& pages);
   void toPdf(const PrintPages& pages);
 
+  std::optional<double> mScale;  ///< that was last chosen; none before
   Desk& mDesk;
   LayeredModel& mLayered;
   const DepthProfilePresenter& mProfile;

@@ -55,17 +55,34 @@ struct SectionPlots {
   }
 };
 
+PlotPlace placeOf(const SectionFigureLayout& layout) {
+  PlotPlace place;
+  place.widthMm = layout.widthMm;
+  place.heightMm = layout.heightMm;
+  place.leftMm = layout.leftMm;
+  place.topMm = layout.topMm;
+  place.rightMm = layout.rightMm;
+  place.bottomMm = layout.bottomMm;
+  place.left = layout.minX;
+  place.right = layout.maxX;
+  place.bottom = layout.minElevation;
+  place.top = layout.maxElevation;
+  return place;
+}
+
 Status layOutSection(SectionPlots& plots, const PrintSize& size, LaidFigure& laid) {
   std::shared_ptr<SectionPlot> plot;
   Status status = plots.at(size.exaggeration, plot);
-  if (status.ok()) status = plot->layOutToScale(size.scale);
+  if (status.ok()) status = plot->layOutToScale(size.scale, size.part);
   if (!status.ok()) return status;
   const SectionFigureLayout& layout = plot->layout();
   laid.drawing.sheet = {layout.widthMm, layout.heightMm, 150.0, plot->title()};
   laid.exaggeration = layout.verticalExaggeration;
-  laid.drawing.paint = [plot, scale = size.scale](QPainter& painter, const QRectF& rect) {
+  laid.place = placeOf(layout);
+  laid.drawing.paint = [plot, scale = size.scale, part = size.part](QPainter& painter,
+                                                                    const QRectF& rect) {
     // Others may have had it laid out at theirs meanwhile.
-    if (plot->layOutToScale(scale).ok()) plot->paint(painter, rect);
+    if (plot->layOutToScale(scale, part).ok()) plot->paint(painter, rect);
   };
   return {};
 }
@@ -74,11 +91,13 @@ Status layOutSection(SectionPlots& plots, const PrintSize& size, LaidFigure& lai
 
 PrintFigure printedSection(const TomoDocument& document, const SectionFigureOptions& options) {
   PrintFigure figure;
-  figure.title = options.title;
-  if (figure.title.empty()) figure.title = titleOr(document, FigureWords::tr("Section"));
   figure.alongLine = true;
   figure.upright = Upright::kElevation;
   const auto plots = std::make_shared<SectionPlots>(SectionPlots{document, options, {}});
+  // As above the section on the screen: without a title of its own it is what the colours show.
+  std::shared_ptr<SectionPlot> plot;
+  if (plots->at(0.0, plot).ok()) figure.title = plot->title();
+  if (figure.title.empty()) figure.title = titleOr(document, FigureWords::tr("Section"));
   figure.layOut = [plots](const PrintSize& size, LaidFigure& laid) {
     return layOutSection(*plots, size, laid);
   };
@@ -96,7 +115,8 @@ PrintFigure printedCurves(const TomoDocument& document, const TravelTimeFigureOp
     dress.scale = size.scale;
     dress.msPerCm = size.msPerCm;
     dress.heightMm = heightOf(size);
-    return prepareTravelTimeFigure(document, dress, laid.drawing);
+    dress.part = size.part;
+    return prepareTravelTimeFigure(document, dress, laid.drawing, &laid.place);
   };
   return figure;
 }
@@ -113,8 +133,9 @@ PrintFigure printedLayers(const TomoDocument& document,
     dress.showTitle = false;
     dress.scale = size.scale;
     dress.verticalExaggeration = size.exaggeration;
-    double& used = laid.exaggeration;
-    return prepareRefractionFigure(document, profile, dress, laid.drawing, &used);
+    dress.part = size.part;
+    return prepareRefractionFigure(document, profile, dress, laid.drawing, &laid.exaggeration,
+                                   &laid.place);
   };
   return figure;
 }
@@ -135,7 +156,8 @@ PrintFigure printedGather(const TomoDocument& document, std::size_t shot,
     dress.msPerCm = alongLine ? size.msPerCm : 0.0;
     dress.widthMm = size.widthMm;
     dress.heightMm = alongLine ? heightOf(size) : size.heightMm;
-    return prepareGatherFigure(document, shot, dress, laid.drawing);
+    dress.part = size.part;
+    return prepareGatherFigure(document, shot, dress, laid.drawing, &laid.place);
   };
   return figure;
 }
@@ -162,7 +184,11 @@ PrintFigure printedResiduals(const TomoDocument& document, const ResidualTable& 
     return figure;
   }
   PrintFigure figure;
-  figure.title = titleAnd(document, FigureWords::tr("Residuals"));
+  figure.title = titleAnd(document, view == ResidualView::kMap
+                                        ? FigureWords::tr("Residuals by shot and geophone")
+                                    : view == ResidualView::kOffset
+                                        ? FigureWords::tr("Residuals over the offset")
+                                        : FigureWords::tr("Residuals of shots and of geophones"));
   figure.layOut = [&document, &table, view](const PrintSize& size, LaidFigure& laid) {
     SectionFigureOptions sheet;
     sheet.widthMm = size.widthMm;
@@ -176,7 +202,10 @@ PrintFigure printedDepthProfile(const TomoDocument& document, const DepthProfile
                                 double x) {
   PrintFigure figure;
   figure.title = titleAnd(document, FigureWords::tr("Depth profile"));
-  figure.layOut = [&section, profile = section.at(x)](const PrintSize& size, LaidFigure& laid) {
+  // Places that are shown rounded may lie a hair beyond the ends.
+  const double within = std::clamp(x, section.left(), std::max(section.left(), section.right()));
+  figure.layOut = [&section, profile = section.at(within)](const PrintSize& size,
+                                                           LaidFigure& laid) {
     const double high = std::min(size.heightMm, size.widthMm);
     return prepareDepthProfileFigure(profile, section, size.widthMm, high, laid.drawing);
   };
@@ -192,7 +221,8 @@ PrintFigure printedElastic(const ElasticLine& line, const ElasticFigureOptions& 
     dress.title.clear();
     dress.scale = size.scale;
     dress.heightMm = size.heightMm;
-    return prepareElasticFigure(line, dress, laid.drawing);
+    dress.part = size.part;
+    return prepareElasticFigure(line, dress, laid.drawing, &laid.place);
   };
   return figure;
 }

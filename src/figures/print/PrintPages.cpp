@@ -10,6 +10,8 @@
 #include <QString>
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <utility>
 
 namespace talvesk {
 namespace {
@@ -17,20 +19,10 @@ namespace {
 /// Figures without a scale have words made for sheets of this width, and grow with larger ones.
 constexpr double kReadableMm = 280.0;
 
-QSizeF roomOn(const PrintSheet& sheet) {
-  return {sheet.widthMm - 2.0 * PrintSheet::kMarginMm,
-          sheet.heightMm - 2.0 * PrintSheet::kMarginMm - PrintTiles::kBlockGapMm -
-              TitleBlock::kHeightMm};
-}
-
-bool fits(const FigureSheet& figure, const QSizeF& room) {
-  constexpr double kRounding = 1e-6;
-  return figure.widthMm <= room.width() + kRounding && figure.heightMm <= room.height() + kRounding;
-}
-
 Status layOut(const PrintFigure& figure, const PrintSettings& settings, double scale,
-              const QSizeF& room, LaidFigure& laid) {
-  const PrintSize size{scale, room.width(), room.height(), settings.exaggeration, settings.msPerCm};
+              const QSizeF& room, LaidFigure& laid, const std::optional<PlotPart>& part = {}) {
+  const PrintSize size{scale, room.width(), room.height(), settings.exaggeration, settings.msPerCm,
+                       part};
   if (figure.alongLine) return figure.layOut(size, laid);
   const double magnified = std::max(room.width() / kReadableMm, 1.0);
   PrintSize readable = size;
@@ -55,11 +47,14 @@ Status layOut(const PrintFigure& figure, const PrintSettings& settings, double s
 /// The first of ascending scales at which the figure has room; 0: none.
 double firstThatFits(const PrintFigure& figure, const PrintSettings& settings, const QSizeF& room,
                      const std::vector<double>& scales) {
+  // One that cannot be laid out is none that is too large: it may be too small for its axes.
   const auto first = std::partition_point(scales.begin(), scales.end(), [&](double scale) {
     LaidFigure laid;
-    return !layOut(figure, settings, scale, room, laid).ok() || !fits(laid.drawing.sheet, room);
+    return layOut(figure, settings, scale, room, laid).ok() && !fits(laid.drawing.sheet, room);
   });
-  return first == scales.end() ? 0.0 : *first;
+  LaidFigure laid;
+  const bool found = first != scales.end() && layOut(figure, settings, *first, room, laid).ok();
+  return found ? *first : 0.0;
 }
 
 /// Those of three digits.
@@ -132,13 +127,20 @@ PrintFit fitOf(const PrintSettings& settings, const FigureSheet& figure) {
   fit.figureHeightMm = figure.heightMm;
   fit.roomWidthMm = room.width();
   fit.roomHeightMm = room.height();
-  const bool drawable = std::max(figure.widthMm, figure.heightMm) <= FigureSheet::kMaxMm;
-  const PrintTiles tiles(settings.sheet, {figure.widthMm, figure.heightMm});
-  if (drawable && tiles.columns * tiles.rows <= kMostPrintPages) {
-    fit.columns = tiles.columns;
-    fit.rows = tiles.rows;
-  }
+  if (fit.fits) fit.columns = fit.rows = 1;
   return fit;
+}
+
+/// Into parts that have room, where there is a way.
+PrintCut cutOf(const PrintFigure& figure, const PrintSettings& settings, double scale,
+               const LaidFigure& whole, std::vector<LaidFigure>& parts) {
+  const FigureSheet& sheet = whole.drawing.sheet;
+  if (!figure.alongLine || std::max(sheet.widthMm, sheet.heightMm) > FigureSheet::kMaxMm) return {};
+  const QSizeF room = roomOn(settings.sheet);
+  const auto layOutPart = [&](const PlotPart& part, LaidFigure& laid) {
+    return layOut(figure, settings, scale, room, laid, part);
+  };
+  return cutToSheets(whole, room, layOutPart, parts);
 }
 
 void findWays(const PrintFigure& figure, const PrintSettings& settings, PrintFit& fit) {
@@ -190,29 +192,47 @@ Status preparePrint(const PrintFigure& figure, const PrintSettings& settings, Pr
   if (Status status = layOutOnPaper(figure, settings, scale, laid); !status.ok()) return status;
   PrintFit fit = fitOf(settings, laid.drawing.sheet);
   const bool split = settings.tiles && figure.alongLine;
+  std::vector<LaidFigure> parts{laid};
+  if (!fit.fits) {
+    const PrintCut cut = cutOf(figure, settings, scale, laid, parts);
+    fit.columns = cut.columns;
+    fit.rows = cut.rows;
+  }
   if (!fit.fits && !(split && fit.columns > 0)) {
     findWays(figure, settings, fit);
     if (told != nullptr) *told = fit;
     return refuse(fit, scale, split);
   }
   if (told != nullptr) *told = fit;
-  PrintTiles tiles(settings.sheet, {fit.figureWidthMm, fit.figureHeightMm});
+  PrintTiles tiles(settings.sheet, std::move(parts), fit.columns);
   const std::string& title = settings.title.empty() ? figure.title : settings.title;
   tiles.block.title = QString::fromStdString(title).simplified();
   if (figure.alongLine) tiles.block.scale = scale;
   tiles.block.exaggeration = laid.exaggeration;
   if (figure.upright == PrintFigure::Upright::kTime) tiles.block.msPerCm = settings.msPerCm;
   pages.sheet = {settings.sheet.widthMm, settings.sheet.heightMm, 150.0, title};
-  pages.columns = tiles.columns;
-  pages.rows = tiles.rows;
+  pages.columns = fit.columns;
+  pages.rows = fit.rows;
   pages.scale = tiles.block.scale;
   pages.figureWidthMm = fit.figureWidthMm;
   pages.figureHeightMm = fit.figureHeightMm;
-  pages.paint = [tiles, paint = laid.drawing.paint](std::size_t page, QPainter& painter,
-                                                    const QRectF& rect) {
-    tiles.paint(page, painter, rect, paint);
+  pages.places.clear();
+  for (std::size_t page = 0; page < pages.count(); ++page) {
+    pages.places.push_back(tiles.place(page));
+  }
+  pages.paint = [tiles = std::move(tiles)](std::size_t page, QPainter& painter,
+                                           const QRectF& rect) {
+    tiles.paint(page, painter, rect);
   };
   return {};
+}
+
+double proposedScale(const PrintFigure& figure, const PrintSettings& settings) {
+  constexpr double kFirst = PrintSheet::kFirstScale;
+  if (!figure.alongLine) return kFirst;
+  const double fitting = firstThatFits(figure, settings, roomOn(settings.sheet),
+                                       roundNumbers(kFirst, PrintSheet::kMostScale));
+  return fitting > 0.0 ? fitting : kFirst;
 }
 
 Status writePrint(const std::vector<PrintPages>& sets, const std::string& path) {

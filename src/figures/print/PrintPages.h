@@ -34,6 +34,8 @@ struct PrintPages {
   double scale = 0.0;  ///< as printed, metres along the line to one of paper; 0: there is none
   double figureWidthMm = 0.0;  ///< without the block below
   double figureHeightMm = 0.0;
+  /// Where the plot of each sheet lies on it, of a figure along the line.
+  std::vector<PlotPlace> places;
   /// \param page from 0, row by row \param rect of the whole sheet, in units of the device
   std::function<void(std::size_t page, QPainter& painter, const QRectF& rect)> paint;
 
@@ -62,6 +64,10 @@ struct PrintFit {
 /// \param fit whether there is room; left alone where something else fails. Null when nobody asks
 Status preparePrint(const PrintFigure& figure, const PrintSettings& settings, PrintPages& pages,
                     PrintFit* fit = nullptr);
+
+/// The scale to begin with: PrintSheet::kFirstScale where the figure fits one sheet at it, else the
+/// next of the usual ones at which it does; kFirstScale, too, where it has room at none.
+double proposedScale(const PrintFigure& figure, const PrintSettings& settings);
 
 /// Prints as a PDF, one set of sheets after the other, and replaces the file at `path` by it, whole
 /// or not at all. All sheets are as large as the first.

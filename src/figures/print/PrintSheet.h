@@ -23,8 +23,10 @@ struct PrintSheet {
   static constexpr double kToFit = 0.0;      ///< the scale that fills the sheet
   static constexpr double kMarginMm = 10.0;  ///< on every side; printers leave some of it blank
 
-  double scale = 500.0;    ///< metres along the line to a metre of paper, or kToFit
-  double widthMm = 420.0;  ///< of the paper as it is turned
+  static constexpr double kFirstScale = 500.0;
+
+  double scale = kFirstScale;  ///< metres along the line to a metre of paper, or kToFit
+  double widthMm = 420.0;      ///< of the paper as it is turned
   double heightMm = 297.0;
 
   /// \param landscape the longer side lies below

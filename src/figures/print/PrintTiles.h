@@ -1,44 +1,70 @@
 #pragma once
 
+#include "figures/print/PrintFigure.h"
 #include "figures/print/PrintSheet.h"
 #include "figures/print/TitleBlock.h"
 
+#include <QPointF>
 #include <QSizeF>
 #include <cstddef>
 #include <functional>
+#include <vector>
 
 class QPainter;
 class QRectF;
 
 namespace talvesk {
 
-/// A figure with its block below, cut into the sheets that it takes; one sheet as a rule. Of
-/// several each has crosses where it meets its neighbours, and tells its place among them.
+/// What a sheet has above its block, millimetres.
+QSizeF roomOn(const PrintSheet& sheet);
+
+/// Whether it has room there.
+bool fits(const FigureSheet& figure, const QSizeF& room);
+
+/// Into how many parts of one size a plot is cut, so that each has room on a sheet beside its own
+/// axes. Neighbours have kPrintOverlapMm in common.
+struct PrintCut {
+  std::size_t columns = 0;  ///< 0: too many
+  std::size_t rows = 0;
+  double partWidthMm = 0.0;  ///< of the plot
+  double partHeightMm = 0.0;
+
+  std::size_t count() const { return columns * rows; }
+  /// \param page row by row, from 0
+  PlotPart part(std::size_t page) const;
+};
+
+/// Cuts a figure along the line that is laid out on `whole`, and larger than the room.
+/// \param layOut a part of it \param parts as laid out, row by row
+PrintCut cutToSheets(const LaidFigure& whole, const QSizeF& room,
+                     const std::function<Status(const PlotPart&, LaidFigure&)>& layOut,
+                     std::vector<LaidFigure>& parts);
+
+/// The sheets of a figure, each with its block; one as a rule. Of several each has axes of its own,
+/// tells its place among them, and has a line where it meets a neighbour.
 class PrintTiles {
  public:
   static constexpr double kBlockGapMm = 3.0;  ///< between figure and block
 
-  /// \param figureMm what the figure takes
-  PrintTiles(const PrintSheet& sheet, const QSizeF& figureMm);
+  /// \param parts row by row, as many as there are sheets
+  PrintTiles(const PrintSheet& sheet, std::vector<LaidFigure> parts, std::size_t columns);
 
   TitleBlock block;
-  std::size_t columns = 1;
-  std::size_t rows = 1;
 
-  /// \param page row by row, from 0 \param rect of the whole sheet, in units of the device
-  void paint(std::size_t page, QPainter& painter, const QRectF& rect,
-             const std::function<void(QPainter&, const QRectF&)>& figure) const;
+  /// \param rect of the whole sheet, in units of the device
+  void paint(std::size_t page, QPainter& painter, const QRectF& rect) const;
+
+  /// Where the plot lies on its sheet.
+  PlotPlace place(std::size_t page) const;
 
  private:
-  QSizeF room() const;  ///< within the margins, millimetres
-  QSizeF step() const;  ///< from a sheet to the next
-  QSizeF whole() const;
-  void paintCrosses(QPainter& painter) const;
-  void clearMargins(QPainter& painter) const;
-  void paintPlace(QPainter& painter, std::size_t row, std::size_t column) const;
+  std::size_t rows() const { return mParts.size() / mColumns; }
+  QPointF corner(std::size_t page) const;
+  void paintMeetings(QPainter& painter, std::size_t page) const;
 
   PrintSheet mSheet;
-  QSizeF mFigure;
+  std::vector<LaidFigure> mParts;
+  std::size_t mColumns;
 };
 
 }  // namespace talvesk

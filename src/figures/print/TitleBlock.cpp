@@ -17,9 +17,20 @@ namespace {
 constexpr double kPaddingMm = 3.0;      ///< inside the block
 constexpr double kLongestBarMm = 80.0;  ///< of the scale bar; at least three tenths of it are used
 constexpr double kBarMm = 2.0;          ///< its height
+constexpr double kTitleLineMm = 3.5;    ///< from the upper edge within the block
+constexpr double kMapMm = 4.0;          ///< height of the little map of sheets
+constexpr double kWidestMapMm = 60.0;
+
+/// With four digits at least, and never as a power of ten.
+QString plain(double number) {
+  const int decimals = std::clamp(3 - static_cast<int>(std::floor(std::log10(number))), 0, 6);
+  const double unit = std::pow(10.0, decimals);
+  return figureLocale().toString(std::round(number * unit) / unit, 'f',
+                                 QLocale::FloatingPointShortest);
+}
 
 QString ratio(double scale) {
-  return QStringLiteral("1:") + figureNumber(scale, 4);
+  return QStringLiteral("1:") + plain(scale);
 }
 
 }  // namespace
@@ -49,7 +60,7 @@ QString TitleBlock::scales() const {
   if (exaggeration > 0.0 && exaggeration != 1.0) {
     parts += FigureWords::tr("Elevation %1").arg(ratio(scale / exaggeration));
   }
-  if (msPerCm > 0.0) parts += FigureWords::tr("1 cm is %1 ms").arg(figureNumber(msPerCm, 4));
+  if (msPerCm > 0.0) parts += FigureWords::tr("1 cm is %1 ms").arg(plain(msPerCm));
   return FigureWords::joined(parts);
 }
 
@@ -75,6 +86,31 @@ double TitleBlock::paintBar(QPainter& painter, const QRectF& room) const {
   return bar.left();
 }
 
+/// Above the bar, with a little map of the sheets. \return its left end
+double TitleBlock::paintPlace(QPainter& painter, const QRectF& room) const {
+  const QString words = FigureWords::tr("Sheet %1 of %2").arg(page + 1).arg(columns * rows);
+  const QFontMetricsF metrics(painter.font());
+  const double left = room.right() - metrics.horizontalAdvance(words);
+  painter.drawText(QPointF(left, room.top() + kTitleLineMm * kUnitsPerMm), words);
+  const double high = kMapMm * kUnitsPerMm / static_cast<double>(std::max<std::size_t>(rows, 2));
+  const double wide =
+      std::min(1.4 * high, kWidestMapMm * kUnitsPerMm / static_cast<double>(columns));
+  const QPointF corner(
+      left - kPaddingMm * kUnitsPerMm - wide * static_cast<double>(columns),
+      room.top() + 0.5 * (kMapMm * kUnitsPerMm - high * static_cast<double>(rows)));
+  painter.save();
+  painter.setPen(QPen(Qt::black, 0.15 * kUnitsPerMm));
+  for (std::size_t i = 0; i < columns * rows; ++i) {
+    const std::size_t row = i / columns;
+    const QPointF at(wide * static_cast<double>(i % columns), high * static_cast<double>(row));
+    const QRectF cell(corner + at, QSizeF(wide, high));
+    painter.setBrush(i == page ? QBrush(Qt::black) : QBrush(Qt::NoBrush));
+    painter.drawRect(cell);
+  }
+  painter.restore();
+  return corner.x();
+}
+
 void TitleBlock::paint(QPainter& painter, const QRectF& room) const {
   painter.setPen(QPen(Qt::black, 0.25 * kUnitsPerMm, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
   painter.setBrush(Qt::NoBrush);
@@ -83,14 +119,16 @@ void TitleBlock::paint(QPainter& painter, const QRectF& room) const {
   const QRectF inside = room.adjusted(padding, padding, -padding, -padding);
   painter.setFont(sheetFont(3.0));
   const double end = scale > 0.0 ? paintBar(painter, inside) - padding : inside.right();
-  const auto put = [&](const QString& text, double baseline) {
+  const auto put = [&](const QString& text, double baseline, double right) {
     painter.drawText(QPointF(inside.left(), baseline),
                      QFontMetricsF(painter.font())
-                         .elidedText(text, Qt::ElideRight, std::max(end - inside.left(), 0.0)));
+                         .elidedText(text, Qt::ElideRight, std::max(right - inside.left(), 0.0)));
   };
-  put(scales(), inside.bottom());
+  put(scales(), inside.bottom(), end);
   painter.setFont(sheetFont(4.0, true));
-  put(title, inside.top() + 3.5 * kUnitsPerMm);
+  const double titleEnd =
+      columns * rows > 1 ? paintPlace(painter, inside) - padding : inside.right();
+  put(title, inside.top() + kTitleLineMm * kUnitsPerMm, titleEnd);
 }
 
 }  // namespace talvesk

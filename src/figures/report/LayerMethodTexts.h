@@ -1,5 +1,6 @@
 #pragma once
 
+#include "figures/FigureNumbers.h"
 #include "figures/report/ReportContent.h"
 #include "refraction/methods/MethodResult.h"
 
@@ -23,6 +24,6 @@ QStringList layerMethodNotes(const MethodComparison& comparison);
 /// A row per geophone with depth and velocity by each method, and with bands what they disagree in.
 /// \param locale of the numbers
 ReportTable layerMethodTable(const MethodComparison& comparison, std::uint32_t layer,
-                             const QLocale& locale = QLocale::c());
+                             const QLocale& locale = figureLocale());
 
 }  // namespace talvesk

@@ -1,5 +1,7 @@
 #include "figures/report/ReportBuilder.h"
 
+#include "figures/FigureNumbers.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -35,9 +37,9 @@ namespace report {
 
 QString number(double value, int places) {
   if (!std::isfinite(value)) return QStringLiteral("\u2013");
-  const QString text = QString::number(value, 'f', places);
   // Nothing is minus nothing.
-  return text.toDouble() == 0.0 ? QString::number(0.0, 'f', places) : text;
+  const bool nothing = QString::number(value, 'f', places).toDouble() == 0.0;
+  return figureLocale().toString(nothing ? 0.0 : value, 'f', places);
 }
 
 QString span(double from, double to, int places) {

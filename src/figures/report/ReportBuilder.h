@@ -62,7 +62,7 @@ void addMethod(ReportBuilder& builder);
 /// quantity.
 SectionFigureOptions sectionOptions(const ReportOptions& options, SectionQuantity quantity);
 
-/// A number with as many places, "." before them in every language; "–" for what is no number.
+/// A number with as many places, as figureLocale() writes it; "–" for what is no number.
 QString number(double value, int places);
 /// Two values with "–" between them, or one where both read the same.
 QString span(double from, double to, int places);

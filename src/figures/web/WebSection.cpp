@@ -239,7 +239,7 @@ class SectionWriter {
     for (const DrawnIsoline& isoline : mScene.annotations.isolines) {
       const MarkedIsoline& mark = isoline.mark;
       for (const ContourLine& contour : isoline.lines) {
-        QJsonObject json = lookJson(QStringLiteral("line"), isolineText(isoline, QLocale::c()),
+        QJsonObject json = lookJson(QStringLiteral("line"), isolineText(isoline, figureLocale()),
                                     mark.color, mark.width);
         std::vector<Point2D> points = simplifiedLine(contour.points, 0.02);
         if (contour.closed && !points.empty()) points.push_back(points.front());

@@ -1,0 +1,147 @@
+#include "support/PrintedSheets.h"
+#include "support/SectionDocument.h"
+#include "support/ShotDocument.h"
+
+#include <QImage>
+#include <QPainter>
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace talvesk {
+namespace {
+
+using testing::geophonesApartMm;
+using testing::imageOf;
+using testing::layers;
+using testing::lengthOf;
+using testing::on;
+using testing::prepared;
+using testing::sectionDocument;
+using testing::shotDocument;
+using testing::svgOf;
+
+TEST(PrintTiles, sheetsPutTogetherAreOneFigureTrueToScale) {
+  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  PrintSettings settings = on("A4", true, 40.0);
+  settings.tiles = true;
+  const PrintPages pages = prepared(printedSection(document, {}), settings);
+  ASSERT_GT(pages.columns, 2U);
+  ASSERT_GT(pages.rows, 1U);
+  ASSERT_EQ(pages.places.size(), pages.count());
+  constexpr double kDpi = 254.0;  // ten pixels to a millimetre
+  constexpr double kHalfOverlap = 50.0;
+  QImage whole(8000, 1500, QImage::Format_RGB32);
+  whole.fill(Qt::white);
+  double end = 0.0;
+  for (std::size_t column = 0; column < pages.columns; ++column) {
+    const PlotPlace& place = pages.places[column];
+    if (column > 0) {
+      const PlotPlace& before = pages.places[column - 1];
+      EXPECT_NEAR((before.right - place.left) / 40.0, 1e-3 * kPrintOverlapMm, 6e-4);
+      EXPECT_EQ(place.topMm, before.topMm) << "they lie beside each other";
+      end -= 2.0 * kHalfOverlap;
+    }
+    const QRectF plot(10.0 * place.leftMm, 10.0 * place.topMm,
+                      10.0 * (place.rightMm - place.leftMm), 10.0 * (place.bottomMm - place.topMm));
+    // From match line to match line: beyond them are the words.
+    const double cut = column > 0 ? kHalfOverlap + 4.0 : 0.0;
+    QPainter(&whole).drawImage(QPointF(end + cut, 0.0), imageOf(pages, kDpi, column),
+                               plot.adjusted(cut, 0.0, -kHalfOverlap - 4.0, 0.0));
+    end += plot.width();
+  }
+  EXPECT_NEAR(geophonesApartMm(whole, document.line->goephonesStringSet[0].size(), kDpi),
+              1e3 * lengthOf(document) / 40.0, 0.8);
+  const PlotPlace& upper = pages.places.front();
+  const PlotPlace& lower = pages.places[pages.columns];
+  EXPECT_NEAR((lower.top - upper.bottom) / 40.0, 1e-3 * kPrintOverlapMm, 6e-4);
+}
+
+TEST(PrintTiles, partsOfCurvesAndTracesMeetTrueToScale) {
+  const TomoDocument shots = shotDocument(12, 24, 400);
+  const struct {
+    PrintFigure figure;
+    double msPerCm;
+  } cases[] = {{printedCurves(shots, {}), 0.0},
+               {printedCurves(shots, {}), 1.0},
+               {printedGather(shots, 2, {}), 0.0},
+               {printedGather(shots, 2, {}), 3.0}};
+  for (const auto& c : cases) {
+    PrintSettings settings = on("A4", true, 100.0);
+    settings.tiles = true;
+    settings.msPerCm = c.msPerCm;
+    const PrintPages pages = prepared(c.figure, settings);
+    ASSERT_GT(pages.columns, 1U);
+    EXPECT_EQ(pages.rows > 1, c.msPerCm > 0.0);
+    for (std::size_t page = 0; page < pages.count(); ++page) {
+      const PlotPlace& own = pages.places[page];
+      EXPECT_NEAR((own.right - own.left) / (own.rightMm - own.leftMm), 0.1, 1e-9);
+      EXPECT_GE(own.leftMm, PrintSheet::kMarginMm);
+      EXPECT_LE(own.rightMm, settings.sheet.widthMm - PrintSheet::kMarginMm);
+      EXPECT_LE(own.bottomMm, settings.sheet.heightMm - PrintSheet::kMarginMm);
+      const double perMm = std::abs(own.top - own.bottom) / (own.bottomMm - own.topMm);
+      if (c.msPerCm > 0.0) {
+        EXPECT_NEAR(perMm, 0.1 * c.msPerCm, 1e-9);
+      }
+      if (page % pages.columns > 0) {
+        EXPECT_NEAR(pages.places[page - 1].right - own.left, 0.1 * kPrintOverlapMm, 0.03);
+      }
+      if (page >= pages.columns) {
+        const double common = std::abs(pages.places[page - pages.columns].bottom - own.top);
+        EXPECT_NEAR(common, perMm * kPrintOverlapMm, 0.03 * common);
+      }
+    }
+  }
+}
+
+TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
+  ElasticLine line;
+  line.layers.resize(2);
+  for (std::uint32_t layer = 0; layer < 2; ++layer) {
+    line.layers[layer].layer = layer + 1;
+    for (int i = 0; i < 40; ++i) {
+      ElasticPoint point;
+      point.x = 2.0 * i;
+      double value = 150.0 * (layer + 1) + i;
+      for (Estimate& quantity : point.state.values) quantity.value = value *= 1.3;
+      line.layers[layer].points.push_back(point);
+    }
+  }
+  PrintSettings settings = on("A4", true, 200.0);
+  settings.tiles = true;
+  const PrintPages pages = prepared(printedElastic(line, {}), settings);
+  ASSERT_EQ(pages.columns, 2U);
+  ASSERT_EQ(pages.rows, 1U);
+  EXPECT_NEAR(pages.places[0].right - pages.places[1].left, 0.2 * kPrintOverlapMm, 0.05);
+  for (std::size_t page = 0; page < 2; ++page) {
+    const PlotPlace& place = pages.places[page];
+    EXPECT_NEAR((place.right - place.left) / (place.rightMm - place.leftMm), 0.2, 1e-9);
+    EXPECT_GT(place.bottomMm - place.topMm, 100.0) << "from the first plot to the last";
+    const std::string picture = svgOf(pages, page);
+    for (const char* words : {"Distance [m]", "Vp/Vs", "Match line: sheet "}) {
+      EXPECT_NE(picture.find(words), std::string::npos) << words;
+    }
+  }
+}
+
+TEST(PrintTiles, eachOfSeveralSheetsHasAxesAndTellsItsPlace) {
+  const TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  PrintSettings settings = on("A4", true, 40.0);
+  settings.tiles = true;
+  const PrintPages pages = prepared(printedSection(document, {}), settings);
+  ASSERT_GT(pages.columns, 2U);
+  const std::string below = std::to_string(pages.columns + 2);
+  for (const std::string& words :
+       {"Sheet 2 of " + std::to_string(pages.count()), std::string("Match line: sheet 1<"),
+        std::string("Match line: sheet 3<"), "Match line: sheet " + below + "<",
+        std::string("Distance [m]"), std::string("Elevation [m]"), std::string("Velocity [m/s]"),
+        std::string("Scale 1:40")}) {
+    EXPECT_NE(svgOf(pages, 1).find(words), std::string::npos) << words;
+  }
+  EXPECT_EQ(svgOf(prepared(printedSection(document, {}), on("A3", true, 500.0))).find("Sheet "),
+            std::string::npos);
+}
+
+}  // namespace
+}  // namespace talvesk
