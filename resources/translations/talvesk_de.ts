@@ -2,6 +2,313 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CommandWords</name>
+    <message>
+        <source>start over, empty, close survey, clear</source>
+        <translation>neu anfangen, von vorn, leeren, Messung schließen, neues Projekt, zurücksetzen</translation>
+    </message>
+    <message>
+        <source>load recordings, seismograms, records, raw data, gathers, seg2, segy</source>
+        <translation>Aufzeichnungen laden, einlesen, Seismogramme, Records, Rohdaten, Messdaten, Felddaten, Gather, Schüsse importieren, seg2, segy, dat, sgy</translation>
+    </message>
+    <message>
+        <source>file headers, metadata, sampling rate, sample interval</source>
+        <translation>Dateiheader, Dateikopf, Dateiköpfe, Metadaten, Abtastrate, Abtastintervall, Samplerate, Samples, Messprotokoll, Eigenschaften</translation>
+    </message>
+    <message>
+        <source>metadata, channels, trace table</source>
+        <translation>Metadaten, Kanäle, Spurtabelle, Traceheader, Spurkopf, Kopfdaten</translation>
+    </message>
+    <message>
+        <source>trigger, pretrigger, time zero, t0, recording delay</source>
+        <translation>Trigger, Pretrigger, Vorlauf, Vorlaufzeit, Nullzeit, Zeitnullpunkt, t0, Schusszeit, Aufzeichnungsverzögerung, Delay</translation>
+    </message>
+    <message>
+        <source>trigger shift, time correction, static, reverse channels</source>
+        <translation>Triggerfehler, Triggerversatz, Zeitkorrektur, Zeitversatz, statische Korrektur, Statik, Kanäle umkehren, Kanäle vertauscht, reparieren</translation>
+    </message>
+    <message>
+        <source>delete shot, discard recording</source>
+        <translation>Schuss löschen, Aufzeichnung verwerfen, Record löschen</translation>
+    </message>
+    <message>
+        <source>convert, seg2, segy</source>
+        <translation>umwandeln, konvertieren, Konverter, seg2, segy, sgy</translation>
+    </message>
+    <message>
+        <source>geophone positions, receivers, source positions, shot points, spacing, spread, layout, elevations, topography, coordinates</source>
+        <translation>Geophonpositionen, Geophonabstand, Empfänger, Aufnehmer, Quellpositionen, Schusspunkte, Schusspositionen, Schlagpunkte, Auslage, Aufstellung, Messanordnung, Geländehöhen, Topographie, Topografie, Koordinaten</translation>
+    </message>
+    <message>
+        <source>gps, gnss, total station, easting northing, longitude latitude, utm, topography, elevations, geophone positions</source>
+        <translation>GPS, GNSS, Tachymeter, Einmessung, Vermessung, Ostwert Nordwert, Rechtswert Hochwert, Länge Breite, UTM, Gauß-Krüger, Topographie, Topografie, Geländehöhen, Geophonpositionen</translation>
+    </message>
+    <message>
+        <source>map position, easting northing, utm, epsg, georeference, reference system</source>
+        <translation>Ostwert Nordwert, Rechtswert Hochwert, UTM, Gauß-Krüger, EPSG, Georeferenz, georeferenzieren, Bezugssystem, Koordinatensystem, Lageplan</translation>
+    </message>
+    <message>
+        <source>band pass, bandpass, low pass, high pass, lowpass, highpass, frequencies</source>
+        <translation>Bandpass, Tiefpass, Hochpass, Butterworth, Frequenzfilter, Frequenzband, Grenzfrequenz, Eckfrequenz</translation>
+    </message>
+    <message>
+        <source>mains, power line noise, hertz</source>
+        <translation>Netzfrequenz, Stromleitung, Hochspannungsleitung, Bahnstrom, Notchfilter, Bandsperre, Hertz</translation>
+    </message>
+    <message>
+        <source>f-k, fk, fan filter, dip filter, ground roll, surface waves</source>
+        <translation>f-k, fk, f-k-Filter, Fächerfilter, Dip-Filter, Neigungsfilter, Oberflächenwellen, Bodenrollen, Ground Roll, Luftschall</translation>
+    </message>
+    <message>
+        <source>balance, normalise, normalize, level</source>
+        <translation>angleichen, normieren, normalisieren, Amplitudenausgleich, Amplitudenregelung, Pegel, Gain</translation>
+    </message>
+    <message>
+        <source>denoise, suppress noise</source>
+        <translation>entrauschen, Rauschen unterdrücken, Störungen, Rauschfilter, Signal-Rausch-Verhältnis</translation>
+    </message>
+    <message>
+        <source>reduction velocity, reduced travel times, linear moveout, flatten</source>
+        <translation>Reduktionsgeschwindigkeit, Reduziergeschwindigkeit, reduzierte Laufzeit, reduzierte Laufzeiten, linearer Moveout, LMO, einebnen, waagrecht</translation>
+    </message>
+    <message>
+        <source>reduction velocity, reducing velocity, linear moveout, flatten</source>
+        <translation>Reduktionsgeschwindigkeit, Reduziergeschwindigkeit, reduzierte Laufzeit, linearer Moveout, LMO, einebnen</translation>
+    </message>
+    <message>
+        <source>tn, t^n, amplitude recovery, spreading, amplify</source>
+        <translation>tn, t^n, Amplitudenausgleich, Amplitudenrückgewinnung, Divergenzkorrektur, sphärische Divergenz, Abklingen, Gain, Tiefenverstärkung</translation>
+    </message>
+    <message>
+        <source>tn, t^n, amplitude recovery, spreading, power</source>
+        <translation>tn, t^n, Amplitudenausgleich, Amplitudenrückgewinnung, Divergenzkorrektur, sphärische Divergenz, Gain</translation>
+    </message>
+    <message>
+        <source>sort traces, common shot, distance</source>
+        <translation>Spuren sortieren, Sortierung, Reihenfolge, Schussgather, Entfernung, Schussabstand</translation>
+    </message>
+    <message>
+        <source>sort traces, distance</source>
+        <translation>sortieren, Sortierung, Reihenfolge, Schussabstand, Betrag</translation>
+    </message>
+    <message>
+        <source>dead, bad, noisy traces, disable, delete, zero</source>
+        <translation>tote, schlechte, verrauschte Spuren, deaktivieren, löschen, nullen, ausblenden, Kill, unbrauchbar</translation>
+    </message>
+    <message>
+        <source>flip, invert, sign, phase</source>
+        <translation>umpolen, verpolt, invertieren, spiegeln, Phase, negativ</translation>
+    </message>
+    <message>
+        <source>silence, blank, cut noise</source>
+        <translation>muten, Mute, ausblenden, abschneiden, Rauschen entfernen, nullen, Luftschall</translation>
+    </message>
+    <message>
+        <source>gain, scale, louder</source>
+        <translation>Gain, Verstärkung, skalieren, lauter, Amplitude</translation>
+    </message>
+    <message>
+        <source>gain, scale, quieter</source>
+        <translation>Gain, Dämpfung, dämpfen, skalieren, leiser, Amplitude</translation>
+    </message>
+    <message>
+        <source>shear waves, SH, opposite blows, hammer, subtract, stack</source>
+        <translation>Scherwellen, S-Wellen, SH, gegensinnige Schläge, Gegenschlag, Hammerschlag, links rechts, subtrahieren, addieren, stapeln, vergleichen</translation>
+    </message>
+    <message>
+        <source>gathers, record section, plot</source>
+        <translation>Seismogramme, Seismogrammmontage, Montage, Gather, Schussgather, plotten, Übersicht</translation>
+    </message>
+    <message>
+        <source>measure, slope</source>
+        <translation>messen, Steigung, Messwerkzeug, Laufzeitgerade</translation>
+    </message>
+    <message>
+        <source>loupe, lens</source>
+        <translation>Vergrößerungsglas, Linse, zoomen</translation>
+    </message>
+    <message>
+        <source>zoom all, fit, whole shot</source>
+        <translation>Zoom zurücksetzen, einpassen, ganzer Schuss, Gesamtansicht, Vollansicht</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, onsets, automatic picking, picker</source>
+        <translation>Ersteinsätze, erste Einsätze, Erstankünfte, First Breaks, automatisch picken, automatische Picks, Picker, Autopicker, Laufzeiten bestimmen</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, by hand, manual picking</source>
+        <translation>Ersteinsätze, erste Einsätze, Erstankünfte, First Breaks, von Hand, manuell, Laufzeiten ablesen</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, load picks, time picks</source>
+        <translation>Ersteinsätze, erste Einsätze, Erstankünfte, First Breaks, Picks laden, Picks einlesen, Zeiten, sgt, otte</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, save picks, time picks</source>
+        <translation>Ersteinsätze, erste Einsätze, Erstankünfte, First Breaks, speichern, Zeiten, sgt, otte, pyGIMLi</translation>
+    </message>
+    <message>
+        <source>review, check picks, outliers, bad picks, quality</source>
+        <translation>durchsehen, Picks prüfen, kontrollieren, Ausreißer, schlechte Picks, Fehlpicks, unsicher, Qualität</translation>
+    </message>
+    <message>
+        <source>quality control, qc, doctor, bad traces, dead traces, wrong headers</source>
+        <translation>Qualitätskontrolle, Datenkontrolle, QC, Messfehler, schlechte Spuren, tote Spuren, falsche Header, Geometriefehler</translation>
+    </message>
+    <message>
+        <source>reciprocal times, reverse shots, trigger errors, quality control, qc</source>
+        <translation>reziproke Zeiten, Reziprokzeiten, Totalzeiten, Gegenschuss, Gegenschüsse, Triggerfehler, Qualitätskontrolle, QC</translation>
+    </message>
+    <message>
+        <source>mesh, cell size, discretisation, depth</source>
+        <translation>Netz, Mesh, Zellen, Zellgröße, Diskretisierung, Raster, Modelltiefe, Parametrisierung</translation>
+    </message>
+    <message>
+        <source>starting model, initial model, velocity model, gradient</source>
+        <translation>Startmodell, Anfangsmodell, Ausgangsmodell, Geschwindigkeitsmodell, Gradientenmodell</translation>
+    </message>
+    <message>
+        <source>starting model, initial model, velocity model</source>
+        <translation>Startmodell, Anfangsmodell, Ausgangsmodell, Geschwindigkeitsmodell, Schichtmodell</translation>
+    </message>
+    <message>
+        <source>wells, drilling, constraints, a priori, soundings</source>
+        <translation>Bohrloch, Bohrprofil, Zwangsbedingungen, Randbedingungen, a priori, Vorwissen, Vorinformation, Sondierungen, Rammsondierung, Aufschlüsse, Schurf</translation>
+    </message>
+    <message>
+        <source>invert, calculate, iterations, velocity model, sirt, start inversion</source>
+        <translation>invertieren, Inversion rechnen, berechnen, Iterationen, Geschwindigkeitsmodell, Tomografie, Laufzeittomographie, Refraktionstomographie, SIRT</translation>
+    </message>
+    <message>
+        <source>history, earlier results, compare models</source>
+        <translation>Verlauf, Historie, frühere Ergebnisse, Modelle vergleichen, Modellvergleich</translation>
+    </message>
+    <message>
+        <source>chi-square, chi2, misfit, quality of the inversion</source>
+        <translation>Chi-Quadrat, chi2, Misfit, Abweichung, Güte der Inversion, Qualitätskontrolle, Ausreißer</translation>
+    </message>
+    <message>
+        <source>misfit, rms, errors of the fit, measured and computed times</source>
+        <translation>Abweichung, Misfit, RMS, Restfehler, Anpassungsfehler, Datenanpassung, gemessene und berechnete Zeiten</translation>
+    </message>
+    <message>
+        <source>uncertainty, ensemble, standard deviation, confidence</source>
+        <translation>Unsicherheit, Ungenauigkeit, Ensemble, Standardabweichung, Vertrauensbereich, Konfidenz, Fehlerabschätzung</translation>
+    </message>
+    <message>
+        <source>checkerboard, chequerboard, spike test, sensitivity</source>
+        <translation>Schachbrett, Schachbretttest, Checkerboard, Spike-Test, Auflösungsvermögen, Empfindlichkeit, Sensitivität</translation>
+    </message>
+    <message>
+        <source>smoother model, average</source>
+        <translation>glatteres Modell, weicher, mitteln, Mittelwert, Glättungsfilter</translation>
+    </message>
+    <message>
+        <source>refractors, layered model, plus minus, delay times, intercept times, grm, time depth</source>
+        <translation>Refraktoren, Refraktorhorizont, Schichtmodell, Schichtenmodell, Plus-Minus, Hagedoorn, Verzögerungszeiten, Interceptzeiten, Knickpunkt, GRM, Palmer, Tiefenzeiten</translation>
+    </message>
+    <message>
+        <source>shear modulus, Young, elastic, stiffness</source>
+        <translation>Schubmodul, Schermodul, Elastizitätsmodul, E-Modul, Kompressionsmodul, Young, Querdehnzahl, elastisch, Steifigkeit, Dichte, Gardner</translation>
+    </message>
+    <message>
+        <source>ray paths, ray tracing</source>
+        <translation>Strahlenwege, Strahlwege, Strahlverlauf, Laufwege, Raytracing</translation>
+    </message>
+    <message>
+        <source>ray coverage, hit count</source>
+        <translation>Abdeckung, Überdeckung, Strahlenüberdeckung, Strahldichte, Strahlendichte, Trefferzahl</translation>
+    </message>
+    <message>
+        <source>isolines, isovalues</source>
+        <translation>Konturen, Konturlinien, Höhenlinien, Isotachen, Isowerte</translation>
+    </message>
+    <message>
+        <source>contour, groundwater, bedrock</source>
+        <translation>Kontur, Isotache, Grundwasser, Fels, Felsoberkante, Festgestein</translation>
+    </message>
+    <message>
+        <source>labels, lithology, geology, polygons, legend</source>
+        <translation>Beschriftung, Kommentare, Lithologie, Geologie, Deutung, Interpretation, Polygone, Legende, zeichnen</translation>
+    </message>
+    <message>
+        <source>velocity depth function, 1-D, 1d, log</source>
+        <translation>Geschwindigkeits-Tiefen-Funktion, Tiefenfunktion, Vertikalprofil, 1-D, 1d, Log, virtuelle Bohrung</translation>
+    </message>
+    <message>
+        <source>3-D, 3d, fence diagram, crossing lines</source>
+        <translation>3-D, 3d, Fence-Diagramm, Kulissendiagramm, räumlich, kreuzende Profile, Profilkreuzung, Lageplan</translation>
+    </message>
+    <message>
+        <source>colour scale, colors, colormap, range, legend</source>
+        <translation>Farbskala, Farbtabelle, Farbverlauf, Farbpalette, Colormap, Wertebereich, Legende</translation>
+    </message>
+    <message>
+        <source>colour bar, color bar, legend</source>
+        <translation>Farbbalken, Farbleiste, Colorbar, Legende</translation>
+    </message>
+    <message>
+        <source>template, look, appearance</source>
+        <translation>Vorlage, Formatvorlage, Aussehen, Darstellung, Layout</translation>
+    </message>
+    <message>
+        <source>plot, printer, page, a3, a4</source>
+        <translation>ausdrucken, Drucker, Plotter, plotten, Seite, Blatt, maßstäblich, A3, A4</translation>
+    </message>
+    <message>
+        <source>figures, png, svg, save picture</source>
+        <translation>Abbildungen, Grafiken, PNG, SVG, Bild exportieren</translation>
+    </message>
+    <message>
+        <source>document</source>
+        <translation>Dokument, Messbericht, Gutachten</translation>
+    </message>
+    <message>
+        <source>word processor, editable report</source>
+        <translation>Textverarbeitung, bearbeitbarer Bericht, Word, Writer, LibreOffice, Messbericht, Gutachten</translation>
+    </message>
+    <message>
+        <source>html, interactive report</source>
+        <translation>HTML, interaktiver Bericht, Internetseite, Website</translation>
+    </message>
+    <message>
+        <source>html, several lines, report</source>
+        <translation>HTML, mehrere Messlinien, mehrere Profile, Übersicht, Bericht, Internetseite</translation>
+    </message>
+    <message>
+        <source>cad, contours</source>
+        <translation>AutoCAD, Konturen, Konturlinien, dwg, Profilzeichnung</translation>
+    </message>
+    <message>
+        <source>gis, shape file, gpkg</source>
+        <translation>GIS, QGIS, ArcGIS, Shapefile, Shape-Datei, gpkg, Geodaten</translation>
+    </message>
+    <message>
+        <source>gis, 3-D, 3d, georeferenced</source>
+        <translation>GIS, QGIS, ParaView, 3-D, 3d, georeferenziert, Koordinaten</translation>
+    </message>
+    <message>
+        <source>xyz, ascii, velocities</source>
+        <translation>xyz, ASCII, Geschwindigkeiten, txt, Tabelle</translation>
+    </message>
+    <message>
+        <source>ascii, velocities, section</source>
+        <translation>ASCII, Geschwindigkeiten, Schnitt, txt, Tabelle, Surfer</translation>
+    </message>
+    <message>
+        <source>preferences, feet, metres, units, memory, undo</source>
+        <translation>Optionen, Voreinstellungen, Konfiguration, Fuß, Feet, Meter, Einheiten, Arbeitsspeicher, rückgängig</translation>
+    </message>
+    <message>
+        <source>manual, handbook, documentation, help</source>
+        <translation>Handbuch, Anleitung, Bedienungsanleitung, Gebrauchsanweisung, Dokumentation, Hilfe, Manual</translation>
+    </message>
+    <message>
+        <source>manual, handbook, documentation</source>
+        <translation>Onlinehandbuch, Anleitung, Bedienungsanleitung, Dokumentation, Manual</translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -323,6 +630,10 @@
     <message>
         <source>There are no two recordings to be compared.</source>
         <translation>Es gibt keine zwei Aufzeichnungen, die verglichen werden könnten.</translation>
+    </message>
+    <message>
+        <source>Not to be added, only saved as a shot file: %1</source>
+        <translation>Lässt sich nicht hinzufügen, nur als Schussdatei speichern: %1</translation>
     </message>
 </context>
 <context>
@@ -2006,6 +2317,28 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <comment>line, systems</comment>
         <translation>%1 von EPSG:%2 nach EPSG:%3</translation>
     </message>
+    <message>
+        <source>No line stands in the fence yet.
+
+A line needs a section and a place on the map. Give this survey its place, or add projects that have theirs.</source>
+        <translation>Noch keine Messlinie im Zaundiagramm.
+
+Eine Messlinie braucht einen Schnitt und eine Lage auf der Karte. Geben Sie dieser Messung ihre Lage, oder fügen Sie Projekte hinzu, die ihre haben.</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>line, velocities</comment>
+        <translation>%1 %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Beyond the colours: %1.</source>
+        <comment>lines</comment>
+        <translation>Außerhalb der Farbskala: %1.</translation>
+    </message>
+    <message>
+        <source>it stands in the fence already</source>
+        <translation>ist schon im Zaundiagramm</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FenceView</name>
@@ -2021,6 +2354,18 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
     <message>
         <source>Sections at their places on the map</source>
         <translation>Schnitte an ihrer Stelle auf der Karte</translation>
+    </message>
+    <message>
+        <source>Easting [m]</source>
+        <translation>Ostwert [m]</translation>
+    </message>
+    <message>
+        <source>Northing [m]</source>
+        <translation>Nordwert [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [%1]</source>
+        <translation>Höhe [%1]</translation>
     </message>
 </context>
 <context>
@@ -2680,10 +3025,6 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>Residuen entlang der Strahlen</translation>
     </message>
     <message>
-        <source>Residuals</source>
-        <translation>Residuen</translation>
-    </message>
-    <message>
         <source>Depth profile</source>
         <translation>Tiefenprofil</translation>
     </message>
@@ -2692,12 +3033,28 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <translation>P und S</translation>
     </message>
     <message>
-        <source>Sheet %1 of %2: row %3, column %4</source>
-        <translation>Blatt %1 von %2: Zeile %3, Spalte %4</translation>
-    </message>
-    <message>
         <source>1 cm is %1 ms</source>
         <translation>1 cm sind %1 ms</translation>
+    </message>
+    <message>
+        <source>Last solver pass</source>
+        <translation>Letzter Durchgang des Lösers</translation>
+    </message>
+    <message>
+        <source>Residuals by shot and geophone</source>
+        <translation>Residuen nach Schuss und Geophon</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residuen über dem Offset</translation>
+    </message>
+    <message>
+        <source>Residuals of shots and of geophones</source>
+        <translation>Residuen der Schüsse und der Geophone</translation>
+    </message>
+    <message>
+        <source>Match line: sheet %1</source>
+        <translation>Anschlusslinie: Blatt %1</translation>
     </message>
 </context>
 <context>
@@ -3004,6 +3361,10 @@ Tasten: Links und Rechts verschieben den ausgewählten Regler (mit Strg um eins)
         <source>of %1</source>
         <comment>sheets</comment>
         <translation>von %1</translation>
+    </message>
+    <message>
+        <source>Preview of the sheets</source>
+        <translation>Vorschau der Blätter</translation>
     </message>
 </context>
 <context>
@@ -5028,10 +5389,6 @@ durch Picks belegt</translation>
         <translation>Das Projekt kann nicht entpackt werden: %1.</translation>
     </message>
     <message>
-        <source>%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, or deeper than the line is long</source>
-        <translation>%1 Geschwindigkeiten und Tiefen der Schichten werden weggelassen: außerhalb von 50 bis 12 000 m/s oder tiefer, als die Messlinie lang ist</translation>
-    </message>
-    <message>
         <source>No temporary folder can be created in %1.</source>
         <translation>In %1 kann kein temporärer Ordner angelegt werden.</translation>
     </message>
@@ -5082,14 +5439,6 @@ durch Picks belegt</translation>
     <message>
         <source>its geophone markers have a size that does not exist; it is normal now</source>
         <translation>die Geophonsymbole haben eine Größe, die es nicht gibt; sie ist jetzt normal</translation>
-    </message>
-    <message>
-        <source>velocities of %1 cell cannot be; they are held within %2 and %3 m/s</source>
-        <translation>die Geschwindigkeit von %1 Zelle ist nicht möglich; sie wird zwischen %2 und %3 m/s gehalten</translation>
-    </message>
-    <message>
-        <source>velocities of %1 cells cannot be; they are held within %2 and %3 m/s</source>
-        <translation>die Geschwindigkeiten von %1 Zellen sind nicht möglich; sie werden zwischen %2 und %3 m/s gehalten</translation>
     </message>
     <message>
         <source>a time shift of its arrivals cannot be; it is 0 now</source>
@@ -6200,10 +6549,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>den Schuss auf %1 setzen</translation>
     </message>
     <message>
-        <source>put the %1 geophones of its string at %2 to %3 m</source>
-        <translation>die %1 Geophone seiner Auslage auf %2 bis %3 m setzen</translation>
-    </message>
-    <message>
         <source>stack it with %1; the stack alone counts then</source>
         <translation>stapeln mit: %1; dann zählt nur noch die Stapelung</translation>
     </message>
@@ -6222,10 +6567,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 Geophone sollen an nur %2 Stellen stehen</translation>
-    </message>
-    <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
-        <translation>%1; über %2 Schüsse wandern die kürzesten Zeiten um %3 Kanäle je Meter des Schusses, also steht Geophon 1 bei %4 und das letzte bei %5</translation>
     </message>
     <message>
         <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
@@ -6300,10 +6641,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>%1: das Abtastintervall ist %2 ms, bei den meisten anderen %3 ms; richtig, wenn die Apparatur so eingestellt war</translation>
     </message>
     <message>
-        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
-        <translation>zwischen %1 und %2 m steht kein Geophon: der Untergrund dort wird von keiner Seite gesehen, sofern nicht Schüsse darüber hinwegreichen</translation>
-    </message>
-    <message>
         <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
         <translation>die Auslagen %1 und %2 überlappen sich und haben an %3 Stellen verschiedene Höhen, um bis zu %4 bei %5</translation>
     </message>
@@ -6314,10 +6651,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
         <translation>die Position %1 des Schusses zählt Stationen: über %2 Schüsse wandern die kürzesten Zeiten um %3 je 1 in der Position</translation>
-    </message>
-    <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
-        <translation>die Positionen der Geophone sind keine Meter: über %1 Schüsse wandern die kürzesten Zeiten um %2 je Meter des Schusses; mit Geophonen im Abstand von %3 ab %4 liegen sie neben den Schüssen</translation>
     </message>
     <message>
         <source>late</source>
@@ -6338,10 +6671,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
         <translation>die Aufzeichnung kommt %1 ms %2: alle Kanäle haben bei %3 ms gleichzeitig eine Spitze, bevor etwas eingetroffen sein kann</translation>
-    </message>
-    <message>
-        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
-        <translation>die Aufzeichnung kommt etwa %1 ms %2: nach den nächsten Geophonen, %3 m vom Schuss, läge der Schlag zwischen %4 und %5 ms, gleich in welchem Untergrund</translation>
     </message>
     <message>
         <source>it is empty</source>
@@ -6462,10 +6791,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>es betrifft andere Schussdateien als die des Projekts</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m</source>
-        <translation>%1 bis %2 m</translation>
     </message>
     <message>
         <source>the program&apos;s rules find no trace in it</source>
@@ -6798,10 +7123,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
         <translation>die Koordinaten liegen nicht entlang x; Entfernungen sind die entlang der Geraden durch die Geophone ab dem ersten Geophon dieser Datei, das bei x %1, y %2 steht; Geophone stehen bis zu %3 daneben, Schüsse bis zu %4</translation>
-    </message>
-    <message>
-        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
-        <translation>nach den Headern stehen die Geophone über %1 km verteilt; wahrscheinlich ist ihr Skalar oder ihre Einheit falsch, prüfen Sie sie also oder laden Sie eine Geometriedatei</translation>
     </message>
     <message>
         <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
@@ -7160,10 +7481,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Das Startmodell hat nicht für jede Zelle des Gitters eine gültige Geschwindigkeit.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 m/s are not.</source>
-        <translation>Die Geschwindigkeitsgrenzen müssen positive Zahlen sein, die untere kleiner als die obere; %1 und %2 m/s sind es nicht.</translation>
-    </message>
-    <message>
         <source>The fit needs one iteration at least and a positive trigger error.</source>
         <translation>Die Anpassung braucht mindestens eine Iteration und einen positiven Triggerfehler.</translation>
     </message>
@@ -7212,10 +7529,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Zeiten eines Refraktors wachsen mit dem Offset weniger, als die Grenzen zulassen</translation>
     </message>
     <message>
-        <source>velocities of %1 and %2 m/s do not increase with depth</source>
-        <translation>Geschwindigkeiten von %1 und %2 m/s nehmen nicht mit der Tiefe zu</translation>
-    </message>
-    <message>
         <source>the picks do not settle its delay times</source>
         <translation>die Picks legen die Verzögerungszeiten nicht fest</translation>
     </message>
@@ -7246,22 +7559,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>%1 to %2</source>
         <translation>%1 bis %2</translation>
-    </message>
-    <message>
-        <source>%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down</source>
-        <translation>%1 m/s an der Oberfläche, %2 m/s am Scheitel des tiefsten Strahls in %3 m Tiefe</translation>
-    </message>
-    <message>
-        <source>%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down</source>
-        <translation>%1 m/s, ab %3 m Tiefe %2 m/s, ab %5 m Tiefe %4 m/s</translation>
-    </message>
-    <message>
-        <source>%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down</source>
-        <translation>%1 m/s und je Meter %2 m/s mehr, ab %4 m Tiefe %3 m/s</translation>
-    </message>
-    <message>
-        <source>%1 m/s, %2 m/s from %3 m down</source>
-        <translation>%1 m/s, ab %3 m Tiefe %2 m/s</translation>
     </message>
     <message>
         <source>it takes times that grow with offset, at three offsets or more</source>
@@ -7374,10 +7671,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>No model explains the picks to within their errors (chi-square up to %1), so that nothing can be said of how sure the section is. Their errors may be stated too small, or shots may be shifted in time.</source>
         <translation>Kein Modell erklärt die Picks innerhalb ihrer Fehler (Chi-Quadrat bis %1), sodass sich nicht sagen lässt, wie zuverlässig der Schnitt ist. Vielleicht sind die Fehler zu klein angegeben oder Schüsse zeitlich verschoben.</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m/s</source>
-        <translation>%1 bis %2 m/s</translation>
     </message>
     <message>
         <source>There is no reference model &quot;%1&quot;.</source>
@@ -7504,28 +7797,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Tiefenbänder lassen sich so nicht zeichnen; es gibt nun keine</translation>
     </message>
     <message>
-        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
-        <translation>%1 m/s ist keine Geschwindigkeit von Untergrund (%2 bis %3)</translation>
-    </message>
-    <message>
-        <source>%1 m is no depth below the surface (0 to %2)</source>
-        <translation>%1 m ist keine Tiefe unter der Oberfläche (0 bis %2)</translation>
-    </message>
-    <message>
         <source>%1 is no position along the line</source>
         <translation>%1 ist keine Position entlang der Messlinie</translation>
     </message>
     <message>
         <source>it has no name</source>
         <translation>der Name fehlt</translation>
-    </message>
-    <message>
-        <source>a layer from %1 to %2 m has its bottom not below its top</source>
-        <translation>bei einer Schicht von %1 bis %2 m liegt die Unterkante nicht unter der Oberkante</translation>
-    </message>
-    <message>
-        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
-        <translation>ein Fehler von %1 m/s darf nicht negativ sein und muss kleiner sein als seine Geschwindigkeit, %2</translation>
     </message>
     <message>
         <source>it has no layer</source>
@@ -7600,10 +7877,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>kein Schuss hat auf einer Seite drei Picks von ihr, neben denen Wellen in der Gegenrichtung liegen und die schneller sind als die erste Schicht</translation>
     </message>
     <message>
-        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation>Schicht %1: keine Geschwindigkeit und keine Tiefe an %2 Empfängern, wo sich eine Geschwindigkeit außerhalb von 50 bis 12 000 m/s ergibt.</translation>
-    </message>
-    <message>
         <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
         <translation>Schicht %1: keine Tiefe an %2 Empfängern, wo sie sich größer als die Länge der Messlinie ergibt.</translation>
     </message>
@@ -7626,14 +7899,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Layer %1, %2: nothing</source>
         <translation>Schicht %1, %2: nichts</translation>
-    </message>
-    <message>
-        <source>Layer %1, %2: %3 m/s, no depth</source>
-        <translation>Schicht %1, %2: %3 m/s, keine Tiefe</translation>
-    </message>
-    <message>
-        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
-        <translation>Schicht %1, %2: %3 m/s in einer Tiefe von %4 m (Mediane); Tiefen an %5 von %6 Geophonen, %7 davon dort nicht durch Picks gestützt</translation>
     </message>
     <message>
         <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
@@ -7672,10 +7937,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>keine Schichten vorgeschlagen: es gibt zu wenige Picks, um welche anzupassen</translation>
     </message>
     <message>
-        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
-        <translation>keine Schichten: eine Geschwindigkeit, die stetig mit der Tiefe zunimmt, von %1 m/s um %2 m/s pro Meter, hat eine Abweichung von %3 ms</translation>
-    </message>
-    <message>
         <source>%1; without layers, by a steady gradient, %2 ms</source>
         <translation>%1; ohne Schichten, mit einem stetigen Gradienten, %2 ms</translation>
     </message>
@@ -7710,10 +7971,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
         <translation>%1 reicht %2 hinab, bis unter das Gitter; was unter %3 liegt, zählt nicht.</translation>
-    </message>
-    <message>
-        <source>%1, %2 to %3 m</source>
-        <translation>%1, %2 bis %3 m</translation>
     </message>
     <message>
         <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
@@ -7832,10 +8089,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Schicht 3 beginnt an %1 von %2 Empfängern über Schicht 2; Schicht 2 wird dort weggelassen.</translation>
     </message>
     <message>
-        <source>Layer %1 is known from %2 to %3 m; its depth and velocity stay as they are there to the ends of the grid.</source>
-        <translation>Schicht %1 ist von %2 bis %3 m bekannt; bis zu den Enden des Gitters bleiben Tiefe und Geschwindigkeit wie dort.</translation>
-    </message>
-    <message>
         <source>The grid ends above layer %1 in %2 of %3 columns.</source>
         <translation>Das Gitter endet in %2 von %3 Spalten über Schicht %1.</translation>
     </message>
@@ -7866,10 +8119,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>No method gives a depth.</source>
         <translation>Keine Methode ergibt eine Tiefe.</translation>
-    </message>
-    <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
-        <translation>Die Schichten ergeben kein Geschwindigkeitsmodell. Ordnen Sie sie nach der Tiefe, ohne Überlappung, jede mehr als 0,02 m mächtig.</translation>
     </message>
     <message>
         <source>this is no file with the members of an ensemble</source>
@@ -7908,10 +8157,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Schicht %1, Mediane von %2 Stellen: %3; %4</translation>
     </message>
     <message>
-        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
-        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poissonzahl %4</translation>
-    </message>
-    <message>
         <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
         <translation>Dichte %1 kg/m³, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
@@ -7930,10 +8175,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
         <translation>Schicht %1: an %2 von %3 Stellen liegt Vp/Vs unter 1,41 und ist die Poissonzahl negativ, was es bei Boden und Fels nicht gibt: Die Geschwindigkeiten stammen aus verschiedenem Untergrund oder sind falsch.</translation>
-    </message>
-    <message>
-        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
-        <translation>Die Gardner-Beziehung wurde für Gesteine gefunden, die schneller als 1500 m/s sind; an %1 von %2 Stellen ist Vp kleiner und die Dichte eine Vermutung.</translation>
     </message>
     <message>
         <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
@@ -7980,14 +8221,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>die Kurven von Schicht %1 folgen den Linien der Schüsse %2 und %3, die für den Weg zwischen diesen Schüssen %4 und %5 ms ergeben</translation>
     </message>
     <message>
-        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
-        <translation>das Profil passt nur auf %1 ms zu seinen Picks, die Wellen des Vorschlags auf %2 ms: es weicht ab Schuss %3 bei %4 m ab</translation>
-    </message>
-    <message>
-        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
-        <translation>das Profil passt nur auf %1 ms zu seinen Picks, die Wellen des Vorschlags auf %2 ms: am stärksten weicht es bei Schuss %3 bei %4 m ab</translation>
-    </message>
-    <message>
         <source>the delays of the waves change so fast along the line that no boundary has them all</source>
         <translation>die Verzögerungen der Wellen ändern sich entlang der Messlinie so schnell, dass keine Schichtgrenze sie alle ergibt</translation>
     </message>
@@ -8006,14 +8239,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>plus-minus</source>
         <translation>Plus-Minus</translation>
-    </message>
-    <message>
-        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
-        <translation>Schicht %1: die Tiefen liegen bei %2 m am weitesten auseinander, von %3 m (%4) bis %5 m (%6)</translation>
-    </message>
-    <message>
-        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
-        <translation>Schicht %1: die Geschwindigkeiten liegen bei %2 m am weitesten auseinander, von %3 m/s (%4) bis %5 m/s (%6)</translation>
     </message>
     <message>
         <source>to the right of shot %1</source>
@@ -8450,10 +8675,6 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>Without an elevation, raised to the line between the others: %1</source>
         <translation>Ohne Höhe, auf die Linie zwischen den anderen gehoben: %1</translation>
-    </message>
-    <message>
-        <source>Farther from the line than half the spacing of %1 m: %2</source>
-        <translation>Weiter von der Messlinie entfernt als der halbe Geophonabstand von %1 m: %2</translation>
     </message>
     <message>
         <source>Hardly apart from their neighbours: %1</source>
@@ -8996,10 +9217,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>ohne Partner: %1 Spuren von Schuss %2, %3 von Schuss %4</translation>
     </message>
     <message>
-        <source>left out: %1 pairs with a trace that is killed or has no sample interval</source>
-        <translation>weggelassen: %1 Paare mit einer Spur, die ausgeschaltet ist oder kein Abtastintervall hat</translation>
-    </message>
-    <message>
         <source>the second is %1 times as strong</source>
         <translation>der zweite ist %1-mal so stark</translation>
     </message>
@@ -9034,6 +9251,170 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>At 1:%1 the figure is too large even for many sheets: choose 1:%2, or a scale between them.</source>
         <translation>Bei 1:%1 ist die Abbildung selbst für viele Blätter zu groß: Wählen Sie 1:%2 oder einen Maßstab dazwischen.</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3</source>
+        <translation>die %1 Geophone seiner Auslage auf %2 bis %3 setzen</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by one channel as the shot moves by %3, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1; über %2 Schüsse wandern die kürzesten Zeiten um einen Kanal, wenn der Schuss um %3 wandert, also steht Geophon 1 bei %4 und das letzte bei %5</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>zwischen %1 und %2 steht kein Geophon: der Untergrund dort wird von keiner Seite gesehen, sofern nicht Schüsse darüber hinwegreichen</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by 1 as the shot moves by %2; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>die Positionen der Geophone sind keine Meter: über %1 Schüsse wandern die kürzesten Zeiten um 1, wenn der Schuss um %2 wandert; mit Geophonen im Abstand von %3 ab %4 liegen sie neben den Schüssen</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>die Aufzeichnung kommt etwa %1 ms %2: nach den nächsten Geophonen, %3 vom Schuss, läge der Schlag zwischen %4 und %5 ms, gleich in welchem Untergrund</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than %1 thick.</source>
+        <translation>Die Schichten ergeben kein Geschwindigkeitsmodell. Ordnen Sie sie nach der Tiefe, ohne Überlappung, jede mehr als %1 mächtig.</translation>
+    </message>
+    <message>
+        <source>%1 velocities and depths of the layers are left out: outside %2 to %3, or deeper than the line is long</source>
+        <translation>%1 Geschwindigkeiten und Tiefen der Schichten werden weggelassen: außerhalb von %2 bis %3 oder tiefer, als die Messlinie lang ist</translation>
+    </message>
+    <message>
+        <source>velocities of %1 cell cannot be; they are held within %2 and %3</source>
+        <translation>die Geschwindigkeit von %1 Zelle ist nicht möglich; sie wird zwischen %2 und %3 gehalten</translation>
+    </message>
+    <message>
+        <source>velocities of %1 cells cannot be; they are held within %2 and %3</source>
+        <translation>die Geschwindigkeiten von %1 Zellen sind nicht möglich; sie werden zwischen %2 und %3 gehalten</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>nach den Headern stehen die Geophone über %1 verteilt; wahrscheinlich ist ihr Skalar oder ihre Einheit falsch, prüfen Sie sie also oder laden Sie eine Geometriedatei</translation>
+    </message>
+    <message>
+        <source>%1 fields that there is no room for, among them %2</source>
+        <translation>%1 Felder, für die kein Platz ist, darunter %2</translation>
+    </message>
+    <message>
+        <source>%1 is no velocity of ground (%2 to %3)</source>
+        <translation>%1 ist keine Geschwindigkeit von Untergrund (%2 bis %3)</translation>
+    </message>
+    <message>
+        <source>it has %1 points, more than %2</source>
+        <translation>sie hat %1 Punkte, mehr als %2</translation>
+    </message>
+    <message>
+        <source>%1 is no depth below the surface (0 to %2)</source>
+        <translation>%1 ist keine Tiefe unter der Oberfläche (0 bis %2)</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 has its bottom not below its top</source>
+        <translation>bei einer Schicht von %1 bis %2 liegt die Unterkante nicht unter der Oberkante</translation>
+    </message>
+    <message>
+        <source>an error of %1 must not be negative, and less than its velocity, %2</source>
+        <translation>ein Fehler von %1 darf nicht negativ sein und muss kleiner sein als seine Geschwindigkeit, %2</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1: %2</source>
+        <translation>Weiter von der Messlinie entfernt als der halbe Geophonabstand von %1: %2</translation>
+    </message>
+    <message>
+        <source>Vp %1, Vs %2, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1, Vs %2, Vp/Vs %3, Poissonzahl %4</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than %1; at %2 of %3 places Vp is less, and the density a guess.</source>
+        <translation>Die Gardner-Beziehung wurde für Gesteine gefunden, die schneller als %1 sind; an %2 von %3 Stellen ist Vp kleiner und die Dichte eine Vermutung.</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 on</source>
+        <translation>das Profil passt nur auf %1 ms zu seinen Picks, die Wellen des Vorschlags auf %2 ms: es weicht ab Schuss %3 bei %4 ab</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4</source>
+        <translation>das Profil passt nur auf %1 ms zu seinen Picks, die Wellen des Vorschlags auf %2 ms: am stärksten weicht es bei Schuss %3 bei %4 ab</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside %3 to %4.</source>
+        <translation>Schicht %1: keine Geschwindigkeit und keine Tiefe an %2 Empfängern, wo sich die Geschwindigkeit außerhalb von %3 bis %4 ergibt.</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3, no depth</source>
+        <translation>Schicht %1, %2: %3, keine Tiefe</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 at a depth of %4 (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Schicht %1, %2: %3 in einer Tiefe von %4 (Mediane); Tiefen an %5 von %6 Geophonen, %7 davon dort nicht durch Picks gestützt</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2, from %3 (%4) to %5 (%6)</source>
+        <translation>Schicht %1: die Tiefen liegen bei %2 am weitesten auseinander, von %3 (%4) bis %5 (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2, from %3 (%4) to %5 (%6)</source>
+        <translation>Schicht %1: die Geschwindigkeiten liegen bei %2 am weitesten auseinander, von %3 (%4) bis %5 (%6)</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 with a gradient of %2 1/s, has a misfit of %3 ms</source>
+        <translation>keine Schichten: eine Geschwindigkeit, die stetig mit der Tiefe zunimmt, ab %1 mit einem Gradienten von %2 1/s, hat eine Abweichung von %3 ms</translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 are not.</source>
+        <translation>Die Geschwindigkeitsgrenzen müssen positive Zahlen sein, die untere kleiner als die obere; %1 und %2 sind es nicht.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <translation>%1, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>velocities of %1 and %2 do not increase with depth</source>
+        <translation>Geschwindigkeiten von %1 und %2 nehmen nicht mit der Tiefe zu</translation>
+    </message>
+    <message>
+        <source>%1 at the surface, %2 where the deepest ray turns, %3 down</source>
+        <translation>%1 an der Oberfläche, %2 am Scheitel des tiefsten Strahls in %3 Tiefe</translation>
+    </message>
+    <message>
+        <source>%1, %2 from %3 down, %4 from %5 down</source>
+        <translation>%1, ab %3 Tiefe %2, ab %5 Tiefe %4</translation>
+    </message>
+    <message>
+        <source>%1 with a gradient of %2 1/s, %3 from %4 down</source>
+        <translation>%1 mit einem Gradienten von %2 1/s, ab %4 Tiefe %3</translation>
+    </message>
+    <message>
+        <source>%1, %2 from %3 down</source>
+        <translation>%1, ab %3 Tiefe %2</translation>
+    </message>
+    <message>
+        <source>Layer %1 is known from %2 to %3; its depth and velocity stay as they are there to the ends of the grid.</source>
+        <translation>Schicht %1 ist von %2 bis %3 bekannt; bis zu den Enden des Gitters bleiben Tiefe und Geschwindigkeit wie dort.</translation>
+    </message>
+    <message>
+        <source>the records of shot %1 and shot %2 begin too far apart in time to be laid over each other; look at the delays in their headers</source>
+        <translation>die Aufzeichnungen von Schuss %1 und Schuss %2 beginnen zeitlich zu weit auseinander, um sie übereinanderzulegen; prüfen Sie die Verzögerungen in ihren Headern</translation>
+    </message>
+    <message>
+        <source>the shots are at one place</source>
+        <translation>die Schüsse liegen an derselben Stelle</translation>
+    </message>
+    <message>
+        <source>the shots are %1 apart</source>
+        <translation>die Schüsse liegen %1 auseinander</translation>
+    </message>
+    <message>
+        <source>the shots are %1 apart: difference and sum are not of one place</source>
+        <translation>die Schüsse liegen %1 auseinander: Differenz und Summe gehören nicht zu einer Stelle</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs with a trace that is killed, or has no samples or no interval</source>
+        <translation>weggelassen: %1 Paare mit einer Spur, die ausgeschaltet ist oder keine Abtastwerte oder kein Intervall hat</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs whose records begin too far apart in time</source>
+        <translation>weggelassen: %1 Paare, deren Aufzeichnungen zeitlich zu weit auseinander beginnen</translation>
     </message>
 </context>
 <context>
@@ -9503,6 +9884,10 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>What would fit:</source>
         <translation>Was passen würde:</translation>
     </message>
+    <message>
+        <source>This is the first usual scale from %1 on at which it fits one sheet.</source>
+        <translation>Dies ist ab %1 der erste übliche Maßstab, in dem sie auf ein Blatt passt.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::PrintPreview</name>
@@ -9762,6 +10147,10 @@ Bitte legen Sie die Positionen der Geophone fest
     <message>
         <source>none: there is no recording to shift</source>
         <translation>keine: es gibt keine Aufzeichnung zu verschieben</translation>
+    </message>
+    <message>
+        <source>Pick the traces of more shots. Where they have picks, see whether geophones and shots stand where they stood.</source>
+        <translation>Picken Sie die Spuren weiterer Schüsse. Haben diese Picks, prüfen Sie, ob Geophone und Schüsse dort eingetragen sind, wo sie standen.</translation>
     </message>
 </context>
 <context>
@@ -12307,16 +12696,24 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <source>Shots that seem to be shifted in time; a click shows the shot:</source>
         <translation>Schüsse, die zeitlich verschoben scheinen; ein Klick zeigt den Schuss:</translation>
     </message>
+    <message>
+        <source>Picks that the section cannot explain</source>
+        <translation>Picks, die der Schnitt nicht erklären kann</translation>
+    </message>
+    <message>
+        <source>Shots shifted in time</source>
+        <translation>Zeitlich verschobene Schüsse</translation>
+    </message>
+    <message>
+        <source>Ground to look at</source>
+        <translation>Stellen, die man ansehen sollte</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
         <translation>Überhöhung:</translation>
-    </message>
-    <message>
-        <source>How much higher than wide a metre is drawn</source>
-        <translation>Wie viel höher als breit ein Meter gezeichnet wird</translation>
     </message>
     <message>
         <source>Vertical exaggeration</source>
@@ -12379,10 +12776,6 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <translation>Zeichnen</translation>
     </message>
     <message>
-        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
-        <translation>Texte, Linien und Flächen des Untergrunds in den Schnitt klicken; Esc beendet</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Text</translation>
     </message>
@@ -12405,6 +12798,22 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
     <message>
         <source>Click the corners of an area of the section</source>
         <translation>Die Ecken einer Fläche des Schnitts anklicken</translation>
+    </message>
+    <message>
+        <source>How much larger heights are drawn than distances</source>
+        <translation>Wie viel größer Höhen gezeichnet werden als Entfernungen</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section, or move them; Esc ends</source>
+        <translation>Texte, Linien und Flächen des Untergrunds in den Schnitt klicken oder verschieben; Esc beendet</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Drag what has been drawn, or one of its corners</source>
+        <translation>Gezeichnetes oder eine seiner Ecken mit der Maus ziehen</translation>
     </message>
 </context>
 <context>
@@ -12730,6 +13139,22 @@ Wählen Sie dafür „Reziprokmethode“ und drücken Sie „Profile erstellen�
         <source>%1: %2</source>
         <comment>step, reason</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StoppingProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Stopping ...</source>
+        <translation>Wird angehalten ...</translation>
+    </message>
+    <message>
+        <source>Stopping: %1</source>
+        <comment>work</comment>
+        <translation>Wird angehalten: %1</translation>
     </message>
 </context>
 <context>
@@ -15347,10 +15772,6 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>Zeichnung als DXF ...</translation>
     </message>
     <message>
-        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
-        <translation>Oberfläche, Isolinien, Refraktoren, Geophone und Schüsse als CAD-Zeichnung exportieren</translation>
-    </message>
-    <message>
         <source>Section as curtain on the map ...</source>
         <translation>Schnitt als Vorhang auf der Karte ...</translation>
     </message>
@@ -15700,10 +16121,6 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <translation>%1: Projekt %2 von %3</translation>
     </message>
     <message>
-        <source>Stopped; the campaign page has not been saved.</source>
-        <translation>Angehalten; die Kampagnenseite wurde nicht gespeichert.</translation>
-    </message>
-    <message>
         <source>Saved in %1, without the changes of this survey that are not saved</source>
         <translation>In %1 gespeichert, ohne die nicht gespeicherten Änderungen dieser Messung</translation>
     </message>
@@ -15835,6 +16252,18 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
         <source>Section as it is shown</source>
         <translation>Schnitt, wie er gezeigt wird</translation>
     </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones, shots and annotations as a drawing for CAD</source>
+        <translation>Oberfläche, Isolinien, Refraktoren, Geophone, Schüsse und Anmerkungen als CAD-Zeichnung exportieren</translation>
+    </message>
+    <message>
+        <source>Stopped; the campaign page has not been saved, pages of %1 of its %2 projects have.</source>
+        <translation>Angehalten; die Kampagnenseite wurde nicht gespeichert, wohl aber die Seiten von %1 ihrer %2 Projekte.</translation>
+    </message>
+    <message>
+        <source>The printer failed after %1 of %2 sheets.</source>
+        <translation>Der Drucker ist nach %1 von %2 Blättern ausgefallen.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -15914,6 +16343,10 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     <message>
         <source>Rows copied: %1</source>
         <translation>Zeilen kopiert: %1</translation>
+    </message>
+    <message>
+        <source>Not in the table: %1</source>
+        <translation>Nicht in der Tabelle: %1</translation>
     </message>
 </context>
 <context>
@@ -16838,6 +17271,10 @@ Picken Sie Ersteinsätze in den Spuren, von Hand oder mit AutoPick, oder importi
     <message>
         <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
         <translation>Was der Schnitt zeigt, hat keine Isolinien. Die der Geschwindigkeit liegen zwischen %1 und %2 %3</translation>
+    </message>
+    <message>
+        <source>; the file has them in %1</source>
+        <translation>; in der Datei stehen sie in %1</translation>
     </message>
 </context>
 <context>
