@@ -2,6 +2,313 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>CommandWords</name>
+    <message>
+        <source>start over, empty, close survey, clear</source>
+        <translation>empezar de cero, vaciar, cerrar levantamiento, campaña nueva, limpiar</translation>
+    </message>
+    <message>
+        <source>load recordings, seismograms, records, raw data, gathers, seg2, segy</source>
+        <translation>cargar registros, sismogramas, datos brutos, datos crudos, tiros, golpes, seg2, segy</translation>
+    </message>
+    <message>
+        <source>file headers, metadata, sampling rate, sample interval</source>
+        <translation>cabeceras, metadatos, frecuencia de muestreo, tasa de muestreo, formato</translation>
+    </message>
+    <message>
+        <source>metadata, channels, trace table</source>
+        <translation>metadatos, canales, headers, encabezados, tabla de trazas</translation>
+    </message>
+    <message>
+        <source>trigger, pretrigger, time zero, t0, recording delay</source>
+        <translation>trigger, pretrigger, tiempo cero, t0, retardo del registro, instante del golpe</translation>
+    </message>
+    <message>
+        <source>trigger shift, time correction, static, reverse channels</source>
+        <translation>trigger, error de disparo, corrección de tiempo, estáticas, invertir canales, reparar, arreglar</translation>
+    </message>
+    <message>
+        <source>delete shot, discard recording</source>
+        <translation>eliminar disparo, borrar tiro, descartar registro, suprimir golpe</translation>
+    </message>
+    <message>
+        <source>convert, seg2, segy</source>
+        <translation>convertir, guardar trazas, sismogramas, seg2, segy, sgy</translation>
+    </message>
+    <message>
+        <source>geophone positions, receivers, source positions, shot points, spacing, spread, layout, elevations, topography, coordinates</source>
+        <translation>ubicación de geófonos, receptores, fuentes, puntos de tiro, puntos de disparo, espaciamiento, separación, tendido, dispositivo, cotas, elevaciones, topografía, coordenadas</translation>
+    </message>
+    <message>
+        <source>gps, gnss, total station, easting northing, longitude latitude, utm, topography, elevations, geophone positions</source>
+        <translation>gps, gnss, estación total, taquímetro, este norte, longitud latitud, utm, topografía, cotas, elevaciones, ubicación de geófonos</translation>
+    </message>
+    <message>
+        <source>map position, easting northing, utm, epsg, georeference, reference system</source>
+        <translation>posición, ubicación, este norte, utm, epsg, georreferenciar, sistema de referencia, datum</translation>
+    </message>
+    <message>
+        <source>band pass, bandpass, low pass, high pass, lowpass, highpass, frequencies</source>
+        <translation>paso banda, pasa banda, pasabanda, pasobanda, paso bajo, pasa bajo, pasabajos, paso alto, pasa alto, pasaaltos, frecuencias</translation>
+    </message>
+    <message>
+        <source>mains, power line noise, hertz</source>
+        <translation>filtro de muesca, rechazo de banda, ruido de red, línea eléctrica, tendido eléctrico, hercios, Hertz</translation>
+    </message>
+    <message>
+        <source>f-k, fk, fan filter, dip filter, ground roll, surface waves</source>
+        <translation>f-k, fk, filtro de abanico, filtro de buzamiento, ground roll, ondas superficiales, onda aérea, pendiente</translation>
+    </message>
+    <message>
+        <source>balance, normalise, normalize, level</source>
+        <translation>normalizar, equilibrar, balancear, CAG, nivelar, ecualizar</translation>
+    </message>
+    <message>
+        <source>denoise, suppress noise</source>
+        <translation>eliminar ruido, suprimir ruido, limpiar, relación señal ruido</translation>
+    </message>
+    <message>
+        <source>reduction velocity, reduced travel times, linear moveout, flatten</source>
+        <translation>velocidad de reducción, tiempos reducidos, linear moveout, LMO, aplanar, horizontalizar</translation>
+    </message>
+    <message>
+        <source>reduction velocity, reducing velocity, linear moveout, flatten</source>
+        <translation>velocidad de reducción, velocidad reductora, linear moveout, LMO, aplanar, horizontalizar</translation>
+    </message>
+    <message>
+        <source>tn, t^n, amplitude recovery, spreading, amplify</source>
+        <translation>tn, t^n, recuperación de amplitud, divergencia esférica, expansión geométrica, amplificar, TVG</translation>
+    </message>
+    <message>
+        <source>tn, t^n, amplitude recovery, spreading, power</source>
+        <translation>tn, t^n, recuperación de amplitud, divergencia esférica, expansión geométrica, TVG</translation>
+    </message>
+    <message>
+        <source>sort traces, common shot, distance</source>
+        <translation>offset, ordenar trazas, disparo común, tiro común, alejamiento</translation>
+    </message>
+    <message>
+        <source>sort traces, distance</source>
+        <translation>offset, ordenar trazas, alejamiento</translation>
+    </message>
+    <message>
+        <source>dead, bad, noisy traces, disable, delete, zero</source>
+        <translation>muertas, malas, ruidosas, desactivar, eliminar, borrar, excluir, cero, kill</translation>
+    </message>
+    <message>
+        <source>flip, invert, sign, phase</source>
+        <translation>voltear, dar la vuelta, fase, cambio de polaridad, signo contrario</translation>
+    </message>
+    <message>
+        <source>silence, blank, cut noise</source>
+        <translation>mute, enmudecer, blanquear, cortar ruido, recortar, borrar</translation>
+    </message>
+    <message>
+        <source>gain, scale, louder</source>
+        <translation>ganancia, escalar, más fuerte, realzar</translation>
+    </message>
+    <message>
+        <source>gain, scale, quieter</source>
+        <translation>ganancia, escalar, más débil, bajar</translation>
+    </message>
+    <message>
+        <source>shear waves, SH, opposite blows, hammer, subtract, stack</source>
+        <translation>ondas de cizalla, ondas transversales, SH, golpes opuestos, martillo, maza, restar, apilar, stack, comparar</translation>
+    </message>
+    <message>
+        <source>gathers, record section, plot</source>
+        <translation>sismogramas, montaje de trazas, sección de registros, trazar, figura, lámina</translation>
+    </message>
+    <message>
+        <source>measure, slope</source>
+        <translation>medir, pendiente, inclinación</translation>
+    </message>
+    <message>
+        <source>loupe, lens</source>
+        <translation>lente, aumentar, ampliar</translation>
+    </message>
+    <message>
+        <source>zoom all, fit, whole shot</source>
+        <translation>ver todo, ajustar a la ventana, encajar, disparo completo, zoom</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, onsets, automatic picking, picker</source>
+        <translation>primeros quiebres, primeros arribos, primeras rupturas, primeras entradas, picado automático, picking</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, by hand, manual picking</source>
+        <translation>primeras llegadas, primeros quiebres, primeros arribos, picar a mano, picado manual, picking, marcar</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, load picks, time picks</source>
+        <translation>primeras llegadas, primeros quiebres, primeros arribos, abrir picados, leer tiempos, picking</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, save picks, time picks</source>
+        <translation>primeras llegadas, primeros quiebres, primeros arribos, guardar picados, picking</translation>
+    </message>
+    <message>
+        <source>review, check picks, outliers, bad picks, quality</source>
+        <translation>repasar, revisar picados, valores atípicos, picados malos, erróneos, calidad</translation>
+    </message>
+    <message>
+        <source>quality control, qc, doctor, bad traces, dead traces, wrong headers</source>
+        <translation>control de calidad, qc, diagnóstico, comprobar, trazas malas, trazas muertas, cabeceras erróneas</translation>
+    </message>
+    <message>
+        <source>reciprocal times, reverse shots, trigger errors, quality control, qc</source>
+        <translation>tiempos recíprocos, tiro directo e inverso, contratiro, disparos inversos, errores de trigger, control de calidad, qc</translation>
+    </message>
+    <message>
+        <source>mesh, cell size, discretisation, depth</source>
+        <translation>mallado, grilla, retícula, tamaño de celda, discretización, profundidad</translation>
+    </message>
+    <message>
+        <source>starting model, initial model, velocity model, gradient</source>
+        <translation>modelo inicial, modelo de partida, gradiente</translation>
+    </message>
+    <message>
+        <source>starting model, initial model, velocity model</source>
+        <translation>modelo de partida, modelo de velocidad, perfil de refracción</translation>
+    </message>
+    <message>
+        <source>wells, drilling, constraints, a priori, soundings</source>
+        <translation>pozos, perforaciones, barrenos, calicatas, restricciones, a priori, información previa</translation>
+    </message>
+    <message>
+        <source>invert, calculate, iterations, velocity model, sirt, start inversion</source>
+        <translation>calcular, iteraciones, modelo de velocidad, sirt, iniciar inversión, lanzar, tomografía sísmica</translation>
+    </message>
+    <message>
+        <source>history, earlier results, compare models</source>
+        <translation>historial, resultados anteriores, comparar modelos</translation>
+    </message>
+    <message>
+        <source>chi-square, chi2, misfit, quality of the inversion</source>
+        <translation>chi cuadrado, chi2, desajuste, ajuste, calidad de la inversión</translation>
+    </message>
+    <message>
+        <source>misfit, rms, errors of the fit, measured and computed times</source>
+        <translation>desajuste, rms, errores del ajuste, discrepancia, tiempos medidos y calculados, observados</translation>
+    </message>
+    <message>
+        <source>uncertainty, ensemble, standard deviation, confidence</source>
+        <translation>incertidumbre, conjunto de modelos, desviación estándar, desviación típica, confianza, fiabilidad</translation>
+    </message>
+    <message>
+        <source>checkerboard, chequerboard, spike test, sensitivity</source>
+        <translation>tablero de ajedrez, damero, checkerboard, test de picos, sensibilidad</translation>
+    </message>
+    <message>
+        <source>smoother model, average</source>
+        <translation>alisar, modelo más suave, promediar, filtrar</translation>
+    </message>
+    <message>
+        <source>refractors, layered model, plus minus, delay times, intercept times, grm, time depth</source>
+        <translation>refractores, modelo de capas, más menos, plus minus, tiempos de retardo, tiempos de intercepción, dromocronas, grm, tiempo profundidad, Hagedoorn</translation>
+    </message>
+    <message>
+        <source>shear modulus, Young, elastic, stiffness</source>
+        <translation>módulo de corte, módulo de cizalla, módulo de rigidez, Young, elástico, constantes elásticas, rigidez</translation>
+    </message>
+    <message>
+        <source>ray paths, ray tracing</source>
+        <translation>trayectorias, trazado de rayos, recorrido</translation>
+    </message>
+    <message>
+        <source>ray coverage, hit count</source>
+        <translation>cobertura de rayos, número de rayos, hit count, recubrimiento</translation>
+    </message>
+    <message>
+        <source>isolines, isovalues</source>
+        <translation>curvas de nivel, contornos, isovalores, isovelocidades</translation>
+    </message>
+    <message>
+        <source>contour, groundwater, bedrock</source>
+        <translation>contorno, agua subterránea, sustrato rocoso, roca firme, basamento</translation>
+    </message>
+    <message>
+        <source>labels, lithology, geology, polygons, legend</source>
+        <translation>etiquetas, rótulos, litología, geología, polígonos, leyenda, comentarios, notas</translation>
+    </message>
+    <message>
+        <source>velocity depth function, 1-D, 1d, log</source>
+        <translation>función velocidad profundidad, 1-D, 1d, diagrafía, log, sondeo virtual</translation>
+    </message>
+    <message>
+        <source>3-D, 3d, fence diagram, crossing lines</source>
+        <translation>3-D, 3d, diagrama de vallas, diagrama de cercas, fence, líneas cruzadas, perfiles cruzados</translation>
+    </message>
+    <message>
+        <source>colour scale, colors, colormap, range, legend</source>
+        <translation>escala de color, gama, mapa de colores, rango, leyenda, colormap</translation>
+    </message>
+    <message>
+        <source>colour bar, color bar, legend</source>
+        <translation>leyenda, barra de escala, colores, colorbar</translation>
+    </message>
+    <message>
+        <source>template, look, appearance</source>
+        <translation>plantilla, apariencia, formato, presentación</translation>
+    </message>
+    <message>
+        <source>plot, printer, page, a3, a4</source>
+        <translation>plotear, impresora, hoja, página, a3, a4, plano</translation>
+    </message>
+    <message>
+        <source>figures, png, svg, save picture</source>
+        <translation>figuras, png, svg, guardar imagen, gráficos</translation>
+    </message>
+    <message>
+        <source>document</source>
+        <translation>documento, memoria</translation>
+    </message>
+    <message>
+        <source>word processor, editable report</source>
+        <translation>procesador de textos, memoria, informe editable, Word, LibreOffice</translation>
+    </message>
+    <message>
+        <source>html, interactive report</source>
+        <translation>html, informe interactivo</translation>
+    </message>
+    <message>
+        <source>html, several lines, report</source>
+        <translation>html, varias líneas, varios perfiles, informe, resumen</translation>
+    </message>
+    <message>
+        <source>cad, contours</source>
+        <translation>autocad, contornos, curvas de nivel, plano, exportar</translation>
+    </message>
+    <message>
+        <source>gis, shape file, gpkg</source>
+        <translation>sig, gis, shapefile, qgis, gpkg, cartografía</translation>
+    </message>
+    <message>
+        <source>gis, 3-D, 3d, georeferenced</source>
+        <translation>sig, gis, 3-D, 3d, georreferenciada, vtu</translation>
+    </message>
+    <message>
+        <source>xyz, ascii, velocities</source>
+        <translation>xyz, ascii, txt, velocidades</translation>
+    </message>
+    <message>
+        <source>ascii, velocities, section</source>
+        <translation>ascii, xyz, txt, velocidades, sección</translation>
+    </message>
+    <message>
+        <source>preferences, feet, metres, units, memory, undo</source>
+        <translation>preferencias, ajustes, opciones del programa, pies, metros, unidades, memoria, deshacer</translation>
+    </message>
+    <message>
+        <source>manual, handbook, documentation, help</source>
+        <translation>manual, instrucciones, documentación, ayuda, tutorial</translation>
+    </message>
+    <message>
+        <source>manual, handbook, documentation</source>
+        <translation>manual, instrucciones, documentación</translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -323,6 +630,10 @@
     <message>
         <source>There are no two recordings to be compared.</source>
         <translation>No hay dos registros que comparar.</translation>
+    </message>
+    <message>
+        <source>Not to be added, only saved as a shot file: %1</source>
+        <translation>No se puede añadir, solo guardar como archivo de disparo: %1</translation>
     </message>
 </context>
 <context>
@@ -2006,6 +2317,28 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <comment>line, systems</comment>
         <translation>%1 de EPSG:%2 a EPSG:%3</translation>
     </message>
+    <message>
+        <source>No line stands in the fence yet.
+
+A line needs a section and a place on the map. Give this survey its place, or add projects that have theirs.</source>
+        <translation>Aún no hay ninguna línea en el panel.
+
+Una línea necesita una sección y un lugar en el mapa. Dé a este levantamiento su lugar, o añada proyectos que tengan el suyo.</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>line, velocities</comment>
+        <translation>%1 de %2 a %3</translation>
+    </message>
+    <message>
+        <source>Beyond the colours: %1.</source>
+        <comment>lines</comment>
+        <translation>Fuera de la escala de colores: %1.</translation>
+    </message>
+    <message>
+        <source>it stands in the fence already</source>
+        <translation>ya está en el panel</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FenceView</name>
@@ -2021,6 +2354,18 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
     <message>
         <source>Sections at their places on the map</source>
         <translation>Secciones en su lugar del mapa</translation>
+    </message>
+    <message>
+        <source>Easting [m]</source>
+        <translation>Este [m]</translation>
+    </message>
+    <message>
+        <source>Northing [m]</source>
+        <translation>Norte [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [%1]</source>
+        <translation>Cota [%1]</translation>
     </message>
 </context>
 <context>
@@ -2680,10 +3025,6 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>Residuos a lo largo de los rayos</translation>
     </message>
     <message>
-        <source>Residuals</source>
-        <translation>Residuos</translation>
-    </message>
-    <message>
         <source>Depth profile</source>
         <translation>Perfil de profundidad</translation>
     </message>
@@ -2692,12 +3033,28 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <translation>P y S</translation>
     </message>
     <message>
-        <source>Sheet %1 of %2: row %3, column %4</source>
-        <translation>Hoja %1 de %2: fila %3, columna %4</translation>
-    </message>
-    <message>
         <source>1 cm is %1 ms</source>
         <translation>1 cm son %1 ms</translation>
+    </message>
+    <message>
+        <source>Last solver pass</source>
+        <translation>Última pasada del solucionador</translation>
+    </message>
+    <message>
+        <source>Residuals by shot and geophone</source>
+        <translation>Residuos por disparo y geófono</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residuos según la distancia al disparo</translation>
+    </message>
+    <message>
+        <source>Residuals of shots and of geophones</source>
+        <translation>Residuos de disparos y de geófonos</translation>
+    </message>
+    <message>
+        <source>Match line: sheet %1</source>
+        <translation>Línea de unión: hoja %1</translation>
     </message>
 </context>
 <context>
@@ -3004,6 +3361,10 @@ Teclas: Izquierda y Derecha mueven el cursor seleccionado (con Ctrl, de uno en u
         <source>of %1</source>
         <comment>sheets</comment>
         <translation>de %1</translation>
+    </message>
+    <message>
+        <source>Preview of the sheets</source>
+        <translation>Vista previa de las hojas</translation>
     </message>
 </context>
 <context>
@@ -5028,10 +5389,6 @@ respaldo de picados</translation>
         <translation>No se puede extraer: %1.</translation>
     </message>
     <message>
-        <source>%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, or deeper than the line is long</source>
-        <translation>se han descartado %1 velocidades y profundidades de las capas: quedan fuera del rango de 50 a 12&#xa0;000 m/s o son mayores que la longitud de la línea</translation>
-    </message>
-    <message>
         <source>No temporary folder can be created in %1.</source>
         <translation>No se puede crear ninguna carpeta temporal en %1.</translation>
     </message>
@@ -5082,14 +5439,6 @@ respaldo de picados</translation>
     <message>
         <source>its geophone markers have a size that does not exist; it is normal now</source>
         <translation>sus marcas de geófonos tienen un tamaño que no existe; ahora es el normal</translation>
-    </message>
-    <message>
-        <source>velocities of %1 cell cannot be; they are held within %2 and %3 m/s</source>
-        <translation>las velocidades de %1 celda son imposibles; se mantienen entre %2 y %3 m/s</translation>
-    </message>
-    <message>
-        <source>velocities of %1 cells cannot be; they are held within %2 and %3 m/s</source>
-        <translation>las velocidades de %1 celdas son imposibles; se mantienen entre %2 y %3 m/s</translation>
     </message>
     <message>
         <source>a time shift of its arrivals cannot be; it is 0 now</source>
@@ -6200,10 +6549,6 @@ Defina la posición de los geófonos
         <translation>situar el disparo en %1</translation>
     </message>
     <message>
-        <source>put the %1 geophones of its string at %2 to %3 m</source>
-        <translation>situar los %1 geófonos de su tendido de %2 a %3 m</translation>
-    </message>
-    <message>
         <source>stack it with %1; the stack alone counts then</source>
         <translation>apilarlo con otros (%1); después solo cuenta el apilado</translation>
     </message>
@@ -6222,10 +6567,6 @@ Defina la posición de los geófonos
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 geófonos figuran en solo %2 lugares</translation>
-    </message>
-    <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
-        <translation>%1; en %2 disparos los tiempos mínimos se desplazan %3 canales por cada metro del disparo, así que el geófono 1 está en %4 y el último en %5</translation>
     </message>
     <message>
         <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
@@ -6300,10 +6641,6 @@ Defina la posición de los geófonos
         <translation>%1: el intervalo de muestreo es de %2 ms, y de %3 ms en la mayoría de los demás; es correcto si el sismógrafo se configuró así</translation>
     </message>
     <message>
-        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
-        <translation>no hay ningún geófono entre %1 y %2 m: el terreno de ahí no se ve desde ningún lado, salvo que haya disparos que lo rebasen</translation>
-    </message>
-    <message>
         <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
         <translation>los tendidos %1 y %2 se solapan y sus cotas difieren en %3 lugares, hasta %4 en %5</translation>
     </message>
@@ -6314,10 +6651,6 @@ Defina la posición de los geófonos
     <message>
         <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
         <translation>la posición del disparo, %1, cuenta estaciones: en %2 disparos los tiempos mínimos se desplazan %3 por cada 1 de la posición</translation>
-    </message>
-    <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
-        <translation>las posiciones de los geófonos no son metros: en %1 disparos los tiempos mínimos se desplazan %2 por cada metro del disparo; con geófonos cada %3 a partir de %4 quedan junto a los disparos</translation>
     </message>
     <message>
         <source>late</source>
@@ -6338,10 +6671,6 @@ Defina la posición de los geófonos
     <message>
         <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
         <translation>el registro está %2 en %1 ms: todos los canales tienen a la vez un pico en %3 ms, antes de que pudiera llegar nada</translation>
-    </message>
-    <message>
-        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
-        <translation>el registro está %2 en unos %1 ms: los geófonos más próximos al disparo, a %3 m, situarían el golpe entre %4 y %5 ms, sea cual sea el terreno</translation>
     </message>
     <message>
         <source>it is empty</source>
@@ -6462,10 +6791,6 @@ Defina la posición de los geófonos
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>se refiere a archivos de disparos distintos de los del proyecto</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m</source>
-        <translation>de %1 a %2 m</translation>
     </message>
     <message>
         <source>the program&apos;s rules find no trace in it</source>
@@ -6798,10 +7123,6 @@ Defina la posición de los geófonos
     <message>
         <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
         <translation>sus coordenadas no siguen x; las distancias son las medidas a lo largo de la recta que pasa por los geófonos, desde el primer geófono de este archivo, que está en x %1, y %2; los geófonos quedan hasta a %3 de ella y los disparos hasta a %4</translation>
-    </message>
-    <message>
-        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
-        <translation>según sus cabeceras los geófonos se extienden a lo largo de %1 km; es probable que su factor de escala o su unidad sean erróneos, así que compruébelos o cargue un archivo de geometría</translation>
     </message>
     <message>
         <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
@@ -7160,10 +7481,6 @@ Defina la posición de los geófonos
         <translation>El modelo inicial no tiene una velocidad válida por cada celda de la malla.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 m/s are not.</source>
-        <translation>Los límites de velocidad deben ser números positivos, el mínimo menor que el máximo; %1 y %2 m/s no lo son.</translation>
-    </message>
-    <message>
         <source>The fit needs one iteration at least and a positive trigger error.</source>
         <translation>El ajuste necesita al menos una iteración y un error positivo del tiempo de disparo.</translation>
     </message>
@@ -7212,10 +7529,6 @@ Defina la posición de los geófonos
         <translation>los tiempos de un refractor crecen con la distancia al disparo menos de lo que permiten los límites</translation>
     </message>
     <message>
-        <source>velocities of %1 and %2 m/s do not increase with depth</source>
-        <translation>las velocidades de %1 y %2 m/s no aumentan con la profundidad</translation>
-    </message>
-    <message>
         <source>the picks do not settle its delay times</source>
         <translation>los picados no bastan para determinar sus tiempos de retardo</translation>
     </message>
@@ -7246,22 +7559,6 @@ Defina la posición de los geófonos
     <message>
         <source>%1 to %2</source>
         <translation>%1–%2</translation>
-    </message>
-    <message>
-        <source>%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down</source>
-        <translation>%1 m/s en la superficie, %2 m/s en el punto de retorno del rayo más profundo, a %3 m de profundidad</translation>
-    </message>
-    <message>
-        <source>%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down</source>
-        <translation>%1 m/s, %2 m/s a partir de %3 m de profundidad, %4 m/s a partir de %5 m de profundidad</translation>
-    </message>
-    <message>
-        <source>%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down</source>
-        <translation>%1 m/s más %2 m/s por metro, %3 m/s a partir de %4 m de profundidad</translation>
-    </message>
-    <message>
-        <source>%1 m/s, %2 m/s from %3 m down</source>
-        <translation>%1 m/s, %2 m/s a partir de %3 m de profundidad</translation>
     </message>
     <message>
         <source>it takes times that grow with offset, at three offsets or more</source>
@@ -7374,10 +7671,6 @@ Defina la posición de los geófonos
     <message>
         <source>No model explains the picks to within their errors (chi-square up to %1), so that nothing can be said of how sure the section is. Their errors may be stated too small, or shots may be shifted in time.</source>
         <translation>Ningún modelo explica los picados dentro de sus errores (chi cuadrado hasta %1), de modo que nada se puede decir de la certeza de la sección. Quizá los errores indicados sean demasiado pequeños, o haya disparos desplazados en tiempo.</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m/s</source>
-        <translation>%1 a %2 m/s</translation>
     </message>
     <message>
         <source>There is no reference model &quot;%1&quot;.</source>
@@ -7504,28 +7797,12 @@ Defina la posición de los geófonos
         <translation>sus bandas de profundidad no se pueden dibujar así; ahora no hay ninguna</translation>
     </message>
     <message>
-        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
-        <translation>%1 m/s no es una velocidad del terreno (de %2 a %3)</translation>
-    </message>
-    <message>
-        <source>%1 m is no depth below the surface (0 to %2)</source>
-        <translation>%1 m no es una profundidad bajo la superficie (de 0 a %2)</translation>
-    </message>
-    <message>
         <source>%1 is no position along the line</source>
         <translation>%1 no es una posición a lo largo de la línea</translation>
     </message>
     <message>
         <source>it has no name</source>
         <translation>no tiene nombre</translation>
-    </message>
-    <message>
-        <source>a layer from %1 to %2 m has its bottom not below its top</source>
-        <translation>una capa de %1 a %2 m no tiene la base por debajo del techo</translation>
-    </message>
-    <message>
-        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
-        <translation>un error de %1 m/s no debe ser negativo, y ha de ser menor que su velocidad, %2</translation>
     </message>
     <message>
         <source>it has no layer</source>
@@ -7600,10 +7877,6 @@ Defina la posición de los geófonos
         <translation>ningún disparo tiene en un lado tres picados de ella, con ondas en sentido contrario junto a ellos, que sean más rápidos que la primera capa</translation>
     </message>
     <message>
-        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation>Capa %1: sin velocidad ni profundidad en %2 receptores, donde la velocidad resulta fuera del rango de 50 a 12 000 m/s.</translation>
-    </message>
-    <message>
         <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
         <translation>Capa %1: sin profundidad en %2 receptores, donde resulta mayor que la longitud de la línea.</translation>
     </message>
@@ -7626,14 +7899,6 @@ Defina la posición de los geófonos
     <message>
         <source>Layer %1, %2: nothing</source>
         <translation>Capa %1, %2: nada</translation>
-    </message>
-    <message>
-        <source>Layer %1, %2: %3 m/s, no depth</source>
-        <translation>Capa %1, %2: %3 m/s, sin profundidad</translation>
-    </message>
-    <message>
-        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
-        <translation>Capa %1, %2: %3 m/s a una profundidad de %4 m (medianas); profundidades en %5 de %6 geófonos, %7 de ellas sin picados que las respalden allí</translation>
     </message>
     <message>
         <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
@@ -7672,10 +7937,6 @@ Defina la posición de los geófonos
         <translation>no se proponen capas: hay muy pocos picados para ajustarlas</translation>
     </message>
     <message>
-        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
-        <translation>sin capas: una velocidad que crece de forma uniforme con la profundidad, desde %1 m/s y %2 m/s por metro, tiene un desajuste de %3 ms</translation>
-    </message>
-    <message>
         <source>%1; without layers, by a steady gradient, %2 ms</source>
         <translation>%1; sin capas, con un gradiente uniforme, %2 ms</translation>
     </message>
@@ -7710,10 +7971,6 @@ Defina la posición de los geófonos
     <message>
         <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
         <translation>%1 llega a %2 de profundidad, por debajo de la malla; lo que está por debajo de %3 no cuenta.</translation>
-    </message>
-    <message>
-        <source>%1, %2 to %3 m</source>
-        <translation>%1, de %2 a %3 m</translation>
     </message>
     <message>
         <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
@@ -7832,10 +8089,6 @@ Defina la posición de los geófonos
         <translation>La capa 3 empieza por encima de la capa 2 en %1 de %2 receptores; ahí se omite la capa 2.</translation>
     </message>
     <message>
-        <source>Layer %1 is known from %2 to %3 m; its depth and velocity stay as they are there to the ends of the grid.</source>
-        <translation>La capa %1 se conoce de %2 a %3 m; desde ahí, su profundidad y su velocidad se mantienen hasta los extremos de la malla.</translation>
-    </message>
-    <message>
         <source>The grid ends above layer %1 in %2 of %3 columns.</source>
         <translation>La malla termina por encima de la capa %1 en %2 de %3 columnas.</translation>
     </message>
@@ -7866,10 +8119,6 @@ Defina la posición de los geófonos
     <message>
         <source>No method gives a depth.</source>
         <translation>Ningún método da una profundidad.</translation>
-    </message>
-    <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
-        <translation>Las capas no forman un modelo de velocidad. Ordénelas por profundidad, sin solapes y con más de 0,02 m de espesor cada una.</translation>
     </message>
     <message>
         <source>this is no file with the members of an ensemble</source>
@@ -7908,10 +8157,6 @@ Defina la posición de los geófonos
         <translation>Capa %1, medianas de %2 puntos: %3; %4</translation>
     </message>
     <message>
-        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
-        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, coeficiente de Poisson %4</translation>
-    </message>
-    <message>
         <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
         <translation>densidad %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
@@ -7930,10 +8175,6 @@ Defina la posición de los geófonos
     <message>
         <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
         <translation>Capa %1: en %2 de %3 puntos Vp/Vs es menor que 1,41 y el coeficiente de Poisson negativo, lo que no ocurre en suelos ni rocas: las velocidades son de terrenos distintos o erróneas.</translation>
-    </message>
-    <message>
-        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
-        <translation>La relación de Gardner se halló para rocas de más de 1500 m/s; en %1 de %2 puntos Vp es menor, y la densidad, una conjetura.</translation>
     </message>
     <message>
         <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
@@ -7980,14 +8221,6 @@ Defina la posición de los geófonos
         <translation>las dromocronas de la capa %1 siguen las líneas de los disparos %2 y %3, que dan %4 y %5 ms para el trayecto entre estos disparos</translation>
     </message>
     <message>
-        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
-        <translation>el perfil solo se ajusta a sus picados en %1 ms, y las ondas de la propuesta en %2 ms: se desvía a partir del disparo %3, en %4 m</translation>
-    </message>
-    <message>
-        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
-        <translation>el perfil solo se ajusta a sus picados en %1 ms, y las ondas de la propuesta en %2 ms: donde más se desvía es en el disparo %3, en %4 m</translation>
-    </message>
-    <message>
         <source>the delays of the waves change so fast along the line that no boundary has them all</source>
         <translation>los retardos de las ondas cambian tan deprisa a lo largo de la línea que ningún contacto los reproduce todos</translation>
     </message>
@@ -8006,14 +8239,6 @@ Defina la posición de los geófonos
     <message>
         <source>plus-minus</source>
         <translation>más-menos</translation>
-    </message>
-    <message>
-        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
-        <translation>Capa %1: las profundidades difieren más en %2 m, de %3 m (%4) a %5 m (%6)</translation>
-    </message>
-    <message>
-        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
-        <translation>Capa %1: las velocidades difieren más en %2 m, de %3 m/s (%4) a %5 m/s (%6)</translation>
     </message>
     <message>
         <source>to the right of shot %1</source>
@@ -8450,10 +8675,6 @@ Defina la posición de los geófonos
     <message>
         <source>Without an elevation, raised to the line between the others: %1</source>
         <translation>Sin cota, elevados a la línea entre los demás: %1</translation>
-    </message>
-    <message>
-        <source>Farther from the line than half the spacing of %1 m: %2</source>
-        <translation>A más de la mitad de la separación de %1 m de la línea: %2</translation>
     </message>
     <message>
         <source>Hardly apart from their neighbours: %1</source>
@@ -8996,10 +9217,6 @@ Defina la posición de los geófonos
         <translation>sin pareja: trazas del disparo %2: %1; del disparo %4: %3</translation>
     </message>
     <message>
-        <source>left out: %1 pairs with a trace that is killed or has no sample interval</source>
-        <translation>excluidos: pares con una traza anulada o sin intervalo de muestreo: %1</translation>
-    </message>
-    <message>
         <source>the second is %1 times as strong</source>
         <translation>la intensidad del segundo es %1 veces la del primero</translation>
     </message>
@@ -9034,6 +9251,170 @@ Defina la posición de los geófonos
     <message>
         <source>At 1:%1 the figure is too large even for many sheets: choose 1:%2, or a scale between them.</source>
         <translation>A 1:%1 la figura es demasiado grande incluso para muchas hojas: elija 1:%2 o una escala intermedia.</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3</source>
+        <translation>situar los %1 geófonos de su tendido de %2 a %3</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by one channel as the shot moves by %3, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1; en %2 disparos los tiempos mínimos se desplazan un canal cuando el disparo se desplaza %3, así que el geófono 1 está en %4 y el último en %5</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>no hay ningún geófono entre %1 y %2: el terreno de ahí no se ve desde ningún lado, salvo que haya disparos que lo rebasen</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by 1 as the shot moves by %2; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>las posiciones de los geófonos no son metros: en %1 disparos los tiempos mínimos se desplazan 1 cuando el disparo se desplaza %2; con geófonos cada %3 a partir de %4 quedan junto a los disparos</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>el registro está %2 en unos %1 ms: los geófonos más próximos al disparo, a %3, situarían el golpe entre %4 y %5 ms, sea cual sea el terreno</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than %1 thick.</source>
+        <translation>Las capas no forman un modelo de velocidad. Ordénelas por profundidad, sin solapes y con más de %1 de espesor cada una.</translation>
+    </message>
+    <message>
+        <source>%1 velocities and depths of the layers are left out: outside %2 to %3, or deeper than the line is long</source>
+        <translation>se han descartado %1 velocidades y profundidades de las capas: quedan fuera del rango de %2 a %3 o son mayores que la longitud de la línea</translation>
+    </message>
+    <message>
+        <source>velocities of %1 cell cannot be; they are held within %2 and %3</source>
+        <translation>las velocidades de %1 celda son imposibles; se mantienen entre %2 y %3</translation>
+    </message>
+    <message>
+        <source>velocities of %1 cells cannot be; they are held within %2 and %3</source>
+        <translation>las velocidades de %1 celdas son imposibles; se mantienen entre %2 y %3</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>según sus cabeceras los geófonos se extienden a lo largo de %1; es probable que su factor de escala o su unidad sean erróneos, así que compruébelos o cargue un archivo de geometría</translation>
+    </message>
+    <message>
+        <source>%1 fields that there is no room for, among them %2</source>
+        <translation>%1 campos para los que no hay sitio, entre ellos %2</translation>
+    </message>
+    <message>
+        <source>%1 is no velocity of ground (%2 to %3)</source>
+        <translation>%1 no es una velocidad del terreno (de %2 a %3)</translation>
+    </message>
+    <message>
+        <source>it has %1 points, more than %2</source>
+        <translation>tiene %1 puntos, más de %2</translation>
+    </message>
+    <message>
+        <source>%1 is no depth below the surface (0 to %2)</source>
+        <translation>%1 no es una profundidad bajo la superficie (de 0 a %2)</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 has its bottom not below its top</source>
+        <translation>una capa de %1 a %2 no tiene la base por debajo del techo</translation>
+    </message>
+    <message>
+        <source>an error of %1 must not be negative, and less than its velocity, %2</source>
+        <translation>un error de %1 no debe ser negativo, y ha de ser menor que su velocidad, %2</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1: %2</source>
+        <translation>A más de la mitad de la separación de %1 de la línea: %2</translation>
+    </message>
+    <message>
+        <source>Vp %1, Vs %2, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1, Vs %2, Vp/Vs %3, coeficiente de Poisson %4</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than %1; at %2 of %3 places Vp is less, and the density a guess.</source>
+        <translation>La relación de Gardner se halló para rocas de más de %1; en %2 de %3 puntos Vp es menor, y la densidad, una conjetura.</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 on</source>
+        <translation>el perfil solo se ajusta a sus picados en %1 ms, y las ondas de la propuesta en %2 ms: se desvía a partir del disparo %3, en %4</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4</source>
+        <translation>el perfil solo se ajusta a sus picados en %1 ms, y las ondas de la propuesta en %2 ms: donde más se desvía es en el disparo %3, en %4</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside %3 to %4.</source>
+        <translation>Capa %1: sin velocidad ni profundidad en %2 receptores, donde la velocidad resulta fuera del rango de %3 a %4.</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3, no depth</source>
+        <translation>Capa %1, %2: %3, sin profundidad</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 at a depth of %4 (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Capa %1, %2: %3 a una profundidad de %4 (medianas); profundidades en %5 de %6 geófonos, %7 de ellas sin picados que las respalden allí</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2, from %3 (%4) to %5 (%6)</source>
+        <translation>Capa %1: las profundidades difieren más en %2, de %3 (%4) a %5 (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2, from %3 (%4) to %5 (%6)</source>
+        <translation>Capa %1: las velocidades difieren más en %2, de %3 (%4) a %5 (%6)</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 with a gradient of %2 1/s, has a misfit of %3 ms</source>
+        <translation>sin capas: una velocidad que crece de forma uniforme con la profundidad, desde %1 con un gradiente de %2 1/s, tiene un desajuste de %3 ms</translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 are not.</source>
+        <translation>Los límites de velocidad deben ser números positivos, el mínimo menor que el máximo; %1 y %2 no lo son.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <translation>%1, de %2 a %3</translation>
+    </message>
+    <message>
+        <source>velocities of %1 and %2 do not increase with depth</source>
+        <translation>las velocidades de %1 y %2 no aumentan con la profundidad</translation>
+    </message>
+    <message>
+        <source>%1 at the surface, %2 where the deepest ray turns, %3 down</source>
+        <translation>%1 en la superficie, %2 en el punto de retorno del rayo más profundo, a %3 de profundidad</translation>
+    </message>
+    <message>
+        <source>%1, %2 from %3 down, %4 from %5 down</source>
+        <translation>%1, %2 a partir de %3 de profundidad, %4 a partir de %5 de profundidad</translation>
+    </message>
+    <message>
+        <source>%1 with a gradient of %2 1/s, %3 from %4 down</source>
+        <translation>%1 con un gradiente de %2 1/s, %3 a partir de %4 de profundidad</translation>
+    </message>
+    <message>
+        <source>%1, %2 from %3 down</source>
+        <translation>%1, %2 a partir de %3 de profundidad</translation>
+    </message>
+    <message>
+        <source>Layer %1 is known from %2 to %3; its depth and velocity stay as they are there to the ends of the grid.</source>
+        <translation>La capa %1 se conoce de %2 a %3; desde ahí, su profundidad y su velocidad se mantienen hasta los extremos de la malla.</translation>
+    </message>
+    <message>
+        <source>the records of shot %1 and shot %2 begin too far apart in time to be laid over each other; look at the delays in their headers</source>
+        <translation>los registros del disparo %1 y del disparo %2 empiezan demasiado separados en el tiempo para superponerlos; revise los retardos de sus cabeceras</translation>
+    </message>
+    <message>
+        <source>the shots are at one place</source>
+        <translation>los disparos están en un mismo lugar</translation>
+    </message>
+    <message>
+        <source>the shots are %1 apart</source>
+        <translation>los disparos están a %1 uno de otro</translation>
+    </message>
+    <message>
+        <source>the shots are %1 apart: difference and sum are not of one place</source>
+        <translation>los disparos están a %1 uno de otro: la diferencia y la suma no son de un mismo lugar</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs with a trace that is killed, or has no samples or no interval</source>
+        <translation>excluidos: pares con una traza anulada, sin muestras o sin intervalo: %1</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs whose records begin too far apart in time</source>
+        <translation>excluidos: pares cuyos registros empiezan demasiado separados en el tiempo: %1</translation>
     </message>
 </context>
 <context>
@@ -9503,6 +9884,10 @@ Defina la posición de los geófonos
         <source>What would fit:</source>
         <translation>Lo que cabría:</translation>
     </message>
+    <message>
+        <source>This is the first usual scale from %1 on at which it fits one sheet.</source>
+        <translation>Es la primera escala habitual a partir de %1 a la que cabe en una hoja.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::PrintPreview</name>
@@ -9762,6 +10147,10 @@ Defina la posición de los geófonos
     <message>
         <source>none: there is no recording to shift</source>
         <translation>ninguna: no hay registro que desplazar</translation>
+    </message>
+    <message>
+        <source>Pick the traces of more shots. Where they have picks, see whether geophones and shots stand where they stood.</source>
+        <translation>Pique las trazas de más disparos. Donde tengan picados, compruebe si los geófonos y los disparos figuran donde estaban.</translation>
     </message>
 </context>
 <context>
@@ -12307,16 +12696,24 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <source>Shots that seem to be shifted in time; a click shows the shot:</source>
         <translation>Disparos que parecen desplazados en el tiempo; un clic muestra el disparo:</translation>
     </message>
+    <message>
+        <source>Picks that the section cannot explain</source>
+        <translation>Picados que la sección no puede explicar</translation>
+    </message>
+    <message>
+        <source>Shots shifted in time</source>
+        <translation>Disparos desplazados en el tiempo</translation>
+    </message>
+    <message>
+        <source>Ground to look at</source>
+        <translation>Terreno que revisar</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
         <translation>Exageración vertical:</translation>
-    </message>
-    <message>
-        <source>How much higher than wide a metre is drawn</source>
-        <translation>Cuánto más alto que ancho se dibuja un metro</translation>
     </message>
     <message>
         <source>Vertical exaggeration</source>
@@ -12379,10 +12776,6 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <translation>Dibujar</translation>
     </message>
     <message>
-        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
-        <translation>Dibuje con clics textos, líneas y áreas de terreno en la sección; Esc termina</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Texto</translation>
     </message>
@@ -12405,6 +12798,22 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
     <message>
         <source>Click the corners of an area of the section</source>
         <translation>Haga clic en los vértices de un área de la sección</translation>
+    </message>
+    <message>
+        <source>How much larger heights are drawn than distances</source>
+        <translation>Cuántas veces mayores se dibujan las alturas que las distancias</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section, or move them; Esc ends</source>
+        <translation>Dibuje con clics textos, líneas y áreas de terreno en la sección, o muévalos; Esc termina</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Drag what has been drawn, or one of its corners</source>
+        <translation>Arrastre lo dibujado, o uno de sus vértices</translation>
     </message>
 </context>
 <context>
@@ -12730,6 +13139,22 @@ Para tenerlas, elija «Método recíproco» y pulse «Construir perfiles».</tra
         <source>%1: %2</source>
         <comment>step, reason</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StoppingProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Stopping ...</source>
+        <translation>Deteniendo ...</translation>
+    </message>
+    <message>
+        <source>Stopping: %1</source>
+        <comment>work</comment>
+        <translation>Deteniendo: %1</translation>
     </message>
 </context>
 <context>
@@ -15347,10 +15772,6 @@ Do you want to run refraction processing anyway? </source>
         <translation>Dibujo como DXF ...</translation>
     </message>
     <message>
-        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
-        <translation>Exporta superficie, isolíneas, refractores, geófonos y disparos como dibujo para CAD</translation>
-    </message>
-    <message>
         <source>Section as curtain on the map ...</source>
         <translation>Sección como cortina en el mapa ...</translation>
     </message>
@@ -15700,10 +16121,6 @@ Do you want to run refraction processing anyway? </source>
         <translation>%1: proyecto %2 de %3</translation>
     </message>
     <message>
-        <source>Stopped; the campaign page has not been saved.</source>
-        <translation>Detenido; no se ha guardado la página de campaña.</translation>
-    </message>
-    <message>
         <source>Saved in %1, without the changes of this survey that are not saved</source>
         <translation>Guardado en %1, sin los cambios de este levantamiento que no se han guardado</translation>
     </message>
@@ -15835,6 +16252,18 @@ Do you want to run refraction processing anyway? </source>
         <source>Section as it is shown</source>
         <translation>Sección como se muestra</translation>
     </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones, shots and annotations as a drawing for CAD</source>
+        <translation>Exporta superficie, isolíneas, refractores, geófonos, disparos y anotaciones como dibujo para CAD</translation>
+    </message>
+    <message>
+        <source>Stopped; the campaign page has not been saved, pages of %1 of its %2 projects have.</source>
+        <translation>Detenido; no se ha guardado la página de campaña, pero sí las de %1 de sus %2 proyectos.</translation>
+    </message>
+    <message>
+        <source>The printer failed after %1 of %2 sheets.</source>
+        <translation>La impresora ha fallado tras %1 de %2 hojas.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -15914,6 +16343,10 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>Rows copied: %1</source>
         <translation>Filas copiadas: %1</translation>
+    </message>
+    <message>
+        <source>Not in the table: %1</source>
+        <translation>No están en la tabla: %1</translation>
     </message>
 </context>
 <context>
@@ -16838,6 +17271,10 @@ Pique primeras llegadas en las trazas, a mano o con AutoPick, o importe tiempos 
     <message>
         <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
         <translation>Lo que muestra la sección no tiene isolíneas. Las de la velocidad están entre %1 y %2 %3</translation>
+    </message>
+    <message>
+        <source>; the file has them in %1</source>
+        <translation>; el archivo los tiene en %1</translation>
     </message>
 </context>
 <context>
