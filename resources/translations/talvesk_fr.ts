@@ -2,6 +2,313 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>CommandWords</name>
+    <message>
+        <source>start over, empty, close survey, clear</source>
+        <translation>recommencer, repartir de zéro, vider, fermer le levé, effacer tout</translation>
+    </message>
+    <message>
+        <source>load recordings, seismograms, records, raw data, gathers, seg2, segy</source>
+        <translation>charger les enregistrements, importer, sismogrammes, données brutes, données de terrain, points de tir, seg2, segy</translation>
+    </message>
+    <message>
+        <source>file headers, metadata, sampling rate, sample interval</source>
+        <translation>en-têtes de fichiers, métadonnées, fréquence d&apos;échantillonnage, cadence, pas d&apos;échantillonnage</translation>
+    </message>
+    <message>
+        <source>metadata, channels, trace table</source>
+        <translation>métadonnées, canaux, voies, tableau des traces, headers</translation>
+    </message>
+    <message>
+        <source>trigger, pretrigger, time zero, t0, recording delay</source>
+        <translation>trigger, déclenchement, prétrigger, pré-déclenchement, temps zéro, t0, retard d&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>trigger shift, time correction, static, reverse channels</source>
+        <translation>décalage du trigger, retard au déclenchement, correction de temps, statique, inverser les canaux, inverser les voies</translation>
+    </message>
+    <message>
+        <source>delete shot, discard recording</source>
+        <translation>effacer le tir, éliminer l&apos;enregistrement, rejeter</translation>
+    </message>
+    <message>
+        <source>convert, seg2, segy</source>
+        <translation>convertir, conversion, sauver les sismogrammes, seg2, segy</translation>
+    </message>
+    <message>
+        <source>geophone positions, receivers, source positions, shot points, spacing, spread, layout, elevations, topography, coordinates</source>
+        <translation>position des géophones, récepteurs, capteurs, positions des sources, points de tir, espacement, intertrace, étalement, flûte, altitudes, topographie, coordonnées, en-têtes de géométrie</translation>
+    </message>
+    <message>
+        <source>gps, gnss, total station, easting northing, longitude latitude, utm, topography, elevations, geophone positions</source>
+        <translation>GPS, GNSS, tachéomètre, station totale, topographe, est nord, longitude latitude, UTM, Lambert, topographie, altitudes, positions des géophones</translation>
+    </message>
+    <message>
+        <source>map position, easting northing, utm, epsg, georeference, reference system</source>
+        <translation>position sur la carte, est nord, UTM, Lambert, EPSG, géoréférencement, géoréférencer, système de référence, projection</translation>
+    </message>
+    <message>
+        <source>band pass, bandpass, low pass, high pass, lowpass, highpass, frequencies</source>
+        <translation>passe-bande, passe bande, passe-bas, passe bas, passe-haut, passe haut, coupe-bas, coupe-haut, bandpass, fréquences, Butterworth</translation>
+    </message>
+    <message>
+        <source>mains, power line noise, hertz</source>
+        <translation>notch, coupe-bande, bruit de ligne électrique, réseau électrique, ronflement, hertz</translation>
+    </message>
+    <message>
+        <source>f-k, fk, fan filter, dip filter, ground roll, surface waves</source>
+        <translation>f-k, fk, filtre en éventail, filtre de pendage, ground roll, ondes de surface, ondes de Rayleigh</translation>
+    </message>
+    <message>
+        <source>balance, normalise, normalize, level</source>
+        <translation>équilibrer, égalisation, normaliser, niveau, gain automatique, CAG</translation>
+    </message>
+    <message>
+        <source>denoise, suppress noise</source>
+        <translation>débruiter, débruitage, atténuer le bruit, supprimer le bruit</translation>
+    </message>
+    <message>
+        <source>reduction velocity, reduced travel times, linear moveout, flatten</source>
+        <translation>vitesse de réduction, temps de parcours réduits, correction linéaire, LMO, aplatir, horizontaliser</translation>
+    </message>
+    <message>
+        <source>reduction velocity, reducing velocity, linear moveout, flatten</source>
+        <translation>vitesse de réduction, vitesse réductrice, correction linéaire, LMO, aplatir, horizontaliser</translation>
+    </message>
+    <message>
+        <source>tn, t^n, amplitude recovery, spreading, amplify</source>
+        <translation>tn, t^n, récupération des amplitudes, compensation de la divergence, divergence sphérique, amplifier</translation>
+    </message>
+    <message>
+        <source>tn, t^n, amplitude recovery, spreading, power</source>
+        <translation>tn, t^n, récupération des amplitudes, divergence sphérique, loi de puissance</translation>
+    </message>
+    <message>
+        <source>sort traces, common shot, distance</source>
+        <translation>trier les traces, tri, point de tir commun, distance source-récepteur, offset</translation>
+    </message>
+    <message>
+        <source>sort traces, distance</source>
+        <translation>trier les traces, tri, distance source-récepteur, offset</translation>
+    </message>
+    <message>
+        <source>dead, bad, noisy traces, disable, delete, zero</source>
+        <translation>traces mortes, mauvaises traces, traces bruitées, éditer les traces, désactiver, supprimer, mettre à zéro, annuler</translation>
+    </message>
+    <message>
+        <source>flip, invert, sign, phase</source>
+        <translation>retourner, changer le signe, phase, opposé, géophone inversé</translation>
+    </message>
+    <message>
+        <source>silence, blank, cut noise</source>
+        <translation>silence, blanchir, couper le bruit, mise à zéro, muter, top mute</translation>
+    </message>
+    <message>
+        <source>gain, scale, louder</source>
+        <translation>gain, échelle, plus fort, augmenter</translation>
+    </message>
+    <message>
+        <source>gain, scale, quieter</source>
+        <translation>gain, échelle, plus faible, diminuer</translation>
+    </message>
+    <message>
+        <source>shear waves, SH, opposite blows, hammer, subtract, stack</source>
+        <translation>ondes de cisaillement, ondes SH, ondes S, coups opposés, marteau, masse, soustraire, soustraction, stack, sommation</translation>
+    </message>
+    <message>
+        <source>gathers, record section, plot</source>
+        <translation>gathers, sismogrammes, section sismique, planche, montage, tracer</translation>
+    </message>
+    <message>
+        <source>measure, slope</source>
+        <translation>mesurer, mesure, pente</translation>
+    </message>
+    <message>
+        <source>loupe, lens</source>
+        <translation>verre grossissant, lentille, détail</translation>
+    </message>
+    <message>
+        <source>zoom all, fit, whole shot</source>
+        <translation>zoomer tout, vue d&apos;ensemble, ajuster, tir entier</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, onsets, automatic picking, picker</source>
+        <translation>premières arrivées, premiers bris, first breaks, débuts d&apos;onde, primo-arrivées, pointage automatique, pointeur, picking</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, by hand, manual picking</source>
+        <translation>premières arrivées, premiers bris, first breaks, débuts d&apos;onde, à la main, pointage manuel, picking</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, load picks, time picks</source>
+        <translation>premières arrivées, premiers bris, first breaks, charger les pointés, temps d&apos;arrivée, hodochrones</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, save picks, time picks</source>
+        <translation>premières arrivées, premiers bris, first breaks, sauver les pointés, enregistrer les pointés, temps d&apos;arrivée, hodochrones</translation>
+    </message>
+    <message>
+        <source>review, check picks, outliers, bad picks, quality</source>
+        <translation>passer en revue, vérifier les pointés, contrôler, aberrants, mauvais pointés, qualité</translation>
+    </message>
+    <message>
+        <source>quality control, qc, doctor, bad traces, dead traces, wrong headers</source>
+        <translation>contrôle qualité, QC, diagnostic, mauvaises traces, traces mortes, mauvais en-têtes, erreurs de géométrie</translation>
+    </message>
+    <message>
+        <source>reciprocal times, reverse shots, trigger errors, quality control, qc</source>
+        <translation>temps de bout en bout, temps réciproques, tirs inverses, tirs directs et inverses, erreurs de trigger, retards, contrôle qualité, QC</translation>
+    </message>
+    <message>
+        <source>mesh, cell size, discretisation, depth</source>
+        <translation>maillage, mailles, taille des cellules, pas, discrétisation, profondeur</translation>
+    </message>
+    <message>
+        <source>starting model, initial model, velocity model, gradient</source>
+        <translation>modèle de départ, modèle initial, modèle a priori, gradient</translation>
+    </message>
+    <message>
+        <source>starting model, initial model, velocity model</source>
+        <translation>modèle de départ, modèle initial, modèle de vitesse</translation>
+    </message>
+    <message>
+        <source>wells, drilling, constraints, a priori, soundings</source>
+        <translation>puits, sondages, contraintes, a priori, pénétromètre, géotechnique</translation>
+    </message>
+    <message>
+        <source>invert, calculate, iterations, velocity model, sirt, start inversion</source>
+        <translation>calculer, calcul, itérations, modèle de vitesse, SIRT, démarrer, tomographie sismique</translation>
+    </message>
+    <message>
+        <source>history, earlier results, compare models</source>
+        <translation>historique, résultats antérieurs, anciens résultats, comparer les modèles</translation>
+    </message>
+    <message>
+        <source>chi-square, chi2, misfit, quality of the inversion</source>
+        <translation>khi-deux, chi2, khi2, désajustement, misfit, qualité de l&apos;inversion</translation>
+    </message>
+    <message>
+        <source>misfit, rms, errors of the fit, measured and computed times</source>
+        <translation>désajustement, misfit, RMS, EQM, erreurs d&apos;ajustement, temps observés et calculés</translation>
+    </message>
+    <message>
+        <source>uncertainty, ensemble, standard deviation, confidence</source>
+        <translation>incertitude, ensemble, écart type, confiance, fiabilité</translation>
+    </message>
+    <message>
+        <source>checkerboard, chequerboard, spike test, sensitivity</source>
+        <translation>damier, test du damier, checkerboard, impulsion, sensibilité, pouvoir de résolution</translation>
+    </message>
+    <message>
+        <source>smoother model, average</source>
+        <translation>modèle plus lisse, moyenner, moyenne, adoucir</translation>
+    </message>
+    <message>
+        <source>refractors, layered model, plus minus, delay times, intercept times, grm, time depth</source>
+        <translation>réfracteurs, modèle de couches, plus-minus, Hagedoorn, délais, temps de retard, intercepts, intercept, GRM, Palmer, profondeur en temps</translation>
+    </message>
+    <message>
+        <source>shear modulus, Young, elastic, stiffness</source>
+        <translation>module de cisaillement, module d&apos;Young, élastique, rigidité, Gmax</translation>
+    </message>
+    <message>
+        <source>ray paths, ray tracing</source>
+        <translation>trajets des rais, rayons, trajets sismiques, tracé de rais, ray tracing</translation>
+    </message>
+    <message>
+        <source>ray coverage, hit count</source>
+        <translation>couverture en rais, nombre de rais, couverture par cellule, hit count</translation>
+    </message>
+    <message>
+        <source>isolines, isovalues</source>
+        <translation>isovaleurs, isovitesses, courbes de niveau, contours</translation>
+    </message>
+    <message>
+        <source>contour, groundwater, bedrock</source>
+        <translation>contour, niveau d&apos;eau, eau souterraine, aquifère, substratum, toit du rocher, bedrock</translation>
+    </message>
+    <message>
+        <source>labels, lithology, geology, polygons, legend</source>
+        <translation>étiquettes, légendes, lithologie, géologie, polygones, habillage</translation>
+    </message>
+    <message>
+        <source>velocity depth function, 1-D, 1d, log</source>
+        <translation>fonction vitesse-profondeur, 1-D, 1d, log, diagraphie, sondage virtuel</translation>
+    </message>
+    <message>
+        <source>3-D, 3d, fence diagram, crossing lines</source>
+        <translation>3-D, 3d, diagramme en barrières, fence diagram, profils croisés, lignes sécantes</translation>
+    </message>
+    <message>
+        <source>colour scale, colors, colormap, range, legend</source>
+        <translation>échelle de couleurs, table de couleurs, colormap, plage, légende</translation>
+    </message>
+    <message>
+        <source>colour bar, color bar, legend</source>
+        <translation>barre de couleurs, barre colorée, légende</translation>
+    </message>
+    <message>
+        <source>template, look, appearance</source>
+        <translation>modèle de présentation, gabarit, apparence, mise en forme</translation>
+    </message>
+    <message>
+        <source>plot, printer, page, a3, a4</source>
+        <translation>tracer, traceur, imprimante, page, tirage, a3, a4</translation>
+    </message>
+    <message>
+        <source>figures, png, svg, save picture</source>
+        <translation>figures, png, svg, sauver l&apos;image, exporter la coupe en image</translation>
+    </message>
+    <message>
+        <source>document</source>
+        <translation>document, compte rendu</translation>
+    </message>
+    <message>
+        <source>word processor, editable report</source>
+        <translation>traitement de texte, rapport modifiable, LibreOffice, Word</translation>
+    </message>
+    <message>
+        <source>html, interactive report</source>
+        <translation>html, rapport interactif, compte rendu</translation>
+    </message>
+    <message>
+        <source>html, several lines, report</source>
+        <translation>html, plusieurs lignes, rapport, récapitulatif</translation>
+    </message>
+    <message>
+        <source>cad, contours</source>
+        <translation>CAO, AutoCAD, contours</translation>
+    </message>
+    <message>
+        <source>gis, shape file, gpkg</source>
+        <translation>SIG, QGIS, shapefile, gpkg</translation>
+    </message>
+    <message>
+        <source>gis, 3-D, 3d, georeferenced</source>
+        <translation>SIG, 3-D, 3d, géoréférencé</translation>
+    </message>
+    <message>
+        <source>xyz, ascii, velocities</source>
+        <translation>xyz, ASCII, vitesses</translation>
+    </message>
+    <message>
+        <source>ascii, velocities, section</source>
+        <translation>ASCII, vitesses, coupe</translation>
+    </message>
+    <message>
+        <source>preferences, feet, metres, units, memory, undo</source>
+        <translation>préférences, réglages, pieds, mètres, unités, mémoire, annuler</translation>
+    </message>
+    <message>
+        <source>manual, handbook, documentation, help</source>
+        <translation>manuel, mode d&apos;emploi, notice, documentation, aide</translation>
+    </message>
+    <message>
+        <source>manual, handbook, documentation</source>
+        <translation>manuel, mode d&apos;emploi, notice, documentation</translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -323,6 +630,10 @@
     <message>
         <source>There are no two recordings to be compared.</source>
         <translation>Il n&apos;y a pas deux enregistrements à comparer.</translation>
+    </message>
+    <message>
+        <source>Not to be added, only saved as a shot file: %1</source>
+        <translation>Ne peut pas être ajouté, seulement enregistré en fichier de tir&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2006,6 +2317,28 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <comment>line, systems</comment>
         <translation>%1 d&apos;EPSG:%2 en EPSG:%3</translation>
     </message>
+    <message>
+        <source>No line stands in the fence yet.
+
+A line needs a section and a place on the map. Give this survey its place, or add projects that have theirs.</source>
+        <translation>Aucune ligne n&apos;est encore dans les panneaux.
+
+Une ligne a besoin d&apos;une coupe et d&apos;une place sur la carte. Donnez sa place à ce levé, ou ajoutez des projets qui ont la leur.</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>line, velocities</comment>
+        <translation>%1 de %2 à %3</translation>
+    </message>
+    <message>
+        <source>Beyond the colours: %1.</source>
+        <comment>lines</comment>
+        <translation>Au-delà des couleurs&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>it stands in the fence already</source>
+        <translation>elle est déjà dans les panneaux</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FenceView</name>
@@ -2021,6 +2354,18 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
     <message>
         <source>Sections at their places on the map</source>
         <translation>Coupes à leur place sur la carte</translation>
+    </message>
+    <message>
+        <source>Easting [m]</source>
+        <translation>Est [m]</translation>
+    </message>
+    <message>
+        <source>Northing [m]</source>
+        <translation>Nord [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [%1]</source>
+        <translation>Altitude [%1]</translation>
     </message>
 </context>
 <context>
@@ -2680,10 +3025,6 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>Résidus le long des rais</translation>
     </message>
     <message>
-        <source>Residuals</source>
-        <translation>Résidus</translation>
-    </message>
-    <message>
         <source>Depth profile</source>
         <translation>Profil de profondeur</translation>
     </message>
@@ -2692,12 +3033,28 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <translation>P et S</translation>
     </message>
     <message>
-        <source>Sheet %1 of %2: row %3, column %4</source>
-        <translation>Feuille %1 sur %2&#xa0;: ligne %3, colonne %4</translation>
-    </message>
-    <message>
         <source>1 cm is %1 ms</source>
         <translation>1 cm = %1 ms</translation>
+    </message>
+    <message>
+        <source>Last solver pass</source>
+        <translation>Dernière passe du solveur</translation>
+    </message>
+    <message>
+        <source>Residuals by shot and geophone</source>
+        <translation>Résidus par tir et géophone</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Résidus selon le déport</translation>
+    </message>
+    <message>
+        <source>Residuals of shots and of geophones</source>
+        <translation>Résidus des tirs et des géophones</translation>
+    </message>
+    <message>
+        <source>Match line: sheet %1</source>
+        <translation>Raccord&#xa0;: feuille %1</translation>
     </message>
 </context>
 <context>
@@ -3004,6 +3361,10 @@ Touches&#xa0;: Gauche et Droite déplacent le curseur sélectionné (d&apos;une 
         <source>of %1</source>
         <comment>sheets</comment>
         <translation>sur %1</translation>
+    </message>
+    <message>
+        <source>Preview of the sheets</source>
+        <translation>Aperçu des feuilles</translation>
     </message>
 </context>
 <context>
@@ -5028,10 +5389,6 @@ de pointés</translation>
         <translation>Il ne peut pas être extrait&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, or deeper than the line is long</source>
-        <translation>%1 vitesses et profondeurs des couches sont écartées&#xa0;: hors de la plage de 50 à 12&#xa0;000 m/s, ou plus profondes que la longueur de la ligne</translation>
-    </message>
-    <message>
         <source>No temporary folder can be created in %1.</source>
         <translation>Aucun dossier temporaire ne peut être créé dans %1.</translation>
     </message>
@@ -5082,14 +5439,6 @@ de pointés</translation>
     <message>
         <source>its geophone markers have a size that does not exist; it is normal now</source>
         <translation>ses marques de géophones ont une taille qui n&apos;existe pas&#xa0;; elle est maintenant normale</translation>
-    </message>
-    <message>
-        <source>velocities of %1 cell cannot be; they are held within %2 and %3 m/s</source>
-        <translation>les vitesses de %1 cellule sont impossibles&#xa0;; elles sont maintenues entre %2 et %3 m/s</translation>
-    </message>
-    <message>
-        <source>velocities of %1 cells cannot be; they are held within %2 and %3 m/s</source>
-        <translation>les vitesses de %1 cellules sont impossibles&#xa0;; elles sont maintenues entre %2 et %3 m/s</translation>
     </message>
     <message>
         <source>a time shift of its arrivals cannot be; it is 0 now</source>
@@ -6200,10 +6549,6 @@ Veuillez définir la position des géophones
         <translation>placer le tir à %1</translation>
     </message>
     <message>
-        <source>put the %1 geophones of its string at %2 to %3 m</source>
-        <translation>placer les %1 géophones de son dispositif de %2 à %3 m</translation>
-    </message>
-    <message>
         <source>stack it with %1; the stack alone counts then</source>
         <translation>sommer avec&#xa0;: %1&#xa0;; seule la somme compte alors</translation>
     </message>
@@ -6222,10 +6567,6 @@ Veuillez définir la position des géophones
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 géophones sont indiqués à %2 positions seulement</translation>
-    </message>
-    <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
-        <translation>%1&#xa0;; sur %2 tirs, les temps minimaux se déplacent de %3 canaux pour chaque mètre du tir&#xa0;: le géophone 1 est donc à %4 et le dernier à %5</translation>
     </message>
     <message>
         <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
@@ -6300,10 +6641,6 @@ Veuillez définir la position des géophones
         <translation>le pas d&apos;échantillonnage est de %2 ms (%1), et de %3 ms pour la plupart des autres&#xa0;: correct si le sismographe était réglé ainsi</translation>
     </message>
     <message>
-        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
-        <translation>aucun géophone entre %1 et %2 m&#xa0;: le terrain n&apos;y est vu d&apos;aucun côté, sauf si des tirs portent au-delà</translation>
-    </message>
-    <message>
         <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
         <translation>les dispositifs %1 et %2 se recouvrent et ont des altitudes différentes en %3 endroits, de %4 au plus, à %5</translation>
     </message>
@@ -6314,10 +6651,6 @@ Veuillez définir la position des géophones
     <message>
         <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
         <translation>la position %1 du tir compte des stations&#xa0;: sur %2 tirs, les temps minimaux se déplacent de %3 pour chaque unité de la position</translation>
-    </message>
-    <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
-        <translation>les positions des géophones ne sont pas des mètres&#xa0;: sur %1 tirs, les temps minimaux se déplacent de %2 pour chaque mètre du tir&#xa0;; des géophones espacés de %3 à partir de %4 les ont à côté des tirs</translation>
     </message>
     <message>
         <source>late</source>
@@ -6338,10 +6671,6 @@ Veuillez définir la position des géophones
     <message>
         <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
         <translation>l&apos;enregistrement est %2 de %1 ms&#xa0;: tous les canaux ont une impulsion simultanée à %3 ms, avant que quoi que ce soit ait pu arriver</translation>
-    </message>
-    <message>
-        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
-        <translation>l&apos;enregistrement est %2 d&apos;environ %1 ms&#xa0;: les géophones les plus proches du tir, à %3 m, situeraient le coup entre %4 et %5 ms, quel que soit le terrain</translation>
     </message>
     <message>
         <source>it is empty</source>
@@ -6462,10 +6791,6 @@ Veuillez définir la position des géophones
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>il porte sur d&apos;autres fichiers de tirs que ceux du projet</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m</source>
-        <translation>%1 à %2 m</translation>
     </message>
     <message>
         <source>the program&apos;s rules find no trace in it</source>
@@ -6798,10 +7123,6 @@ Veuillez définir la position des géophones
     <message>
         <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
         <translation>ses coordonnées ne suivent pas x&#xa0;; les distances sont celles le long de la droite passant par les géophones, depuis le premier géophone de ce fichier, qui est à x %1, y %2&#xa0;; des géophones s&apos;en écartent jusqu&apos;à %3, des tirs jusqu&apos;à %4</translation>
-    </message>
-    <message>
-        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
-        <translation>d&apos;après ses en-têtes, les géophones s&apos;étendent sur %1 km&#xa0;; leur facteur d&apos;échelle ou leur unité est sans doute faux, vérifiez-les donc ou chargez un fichier de géométrie</translation>
     </message>
     <message>
         <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
@@ -7160,10 +7481,6 @@ Veuillez définir la position des géophones
         <translation>Le modèle initial n&apos;a pas une vitesse valide pour chaque cellule de la grille.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 m/s are not.</source>
-        <translation>Les limites de vitesse doivent être des nombres positifs, la plus petite inférieure à la plus grande&#xa0;; %1 et %2 m/s ne le sont pas.</translation>
-    </message>
-    <message>
         <source>The fit needs one iteration at least and a positive trigger error.</source>
         <translation>L&apos;ajustement exige au moins une itération et une erreur de déclenchement positive.</translation>
     </message>
@@ -7212,10 +7529,6 @@ Veuillez définir la position des géophones
         <translation>les temps d&apos;un réfracteur croissent trop peu avec le déport pour les limites</translation>
     </message>
     <message>
-        <source>velocities of %1 and %2 m/s do not increase with depth</source>
-        <translation>des vitesses de %1 et %2 m/s n&apos;augmentent pas avec la profondeur</translation>
-    </message>
-    <message>
         <source>the picks do not settle its delay times</source>
         <translation>les pointés ne suffisent pas à déterminer ses temps de retard</translation>
     </message>
@@ -7246,22 +7559,6 @@ Veuillez définir la position des géophones
     <message>
         <source>%1 to %2</source>
         <translation>%1 à %2</translation>
-    </message>
-    <message>
-        <source>%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down</source>
-        <translation>%1 m/s en surface, %2 m/s au point bas du rai le plus profond, à %3 m de profondeur</translation>
-    </message>
-    <message>
-        <source>%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down</source>
-        <translation>%1 m/s, %2 m/s à partir de %3 m de profondeur, %4 m/s à partir de %5 m</translation>
-    </message>
-    <message>
-        <source>%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down</source>
-        <translation>%1 m/s et %2 m/s de plus par mètre, %3 m/s à partir de %4 m de profondeur</translation>
-    </message>
-    <message>
-        <source>%1 m/s, %2 m/s from %3 m down</source>
-        <translation>%1 m/s, %2 m/s à partir de %3 m de profondeur</translation>
     </message>
     <message>
         <source>it takes times that grow with offset, at three offsets or more</source>
@@ -7374,10 +7671,6 @@ Veuillez définir la position des géophones
     <message>
         <source>No model explains the picks to within their errors (chi-square up to %1), so that nothing can be said of how sure the section is. Their errors may be stated too small, or shots may be shifted in time.</source>
         <translation>Aucun modèle n&apos;explique les pointés à leurs erreurs près (khi-deux jusqu&apos;à %1)&#xa0;; on ne peut donc rien dire de la certitude de la coupe. Leurs erreurs sont peut-être indiquées trop petites, ou des tirs décalés dans le temps.</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m/s</source>
-        <translation>%1 à %2 m/s</translation>
     </message>
     <message>
         <source>There is no reference model &quot;%1&quot;.</source>
@@ -7504,28 +7797,12 @@ Veuillez définir la position des géophones
         <translation>ses bandes de profondeur ne peuvent pas être dessinées ainsi&#xa0;; il n&apos;y en a plus aucune</translation>
     </message>
     <message>
-        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
-        <translation>%1 m/s n&apos;est pas une vitesse de terrain (%2 à %3)</translation>
-    </message>
-    <message>
-        <source>%1 m is no depth below the surface (0 to %2)</source>
-        <translation>%1 m n&apos;est pas une profondeur sous la surface (0 à %2)</translation>
-    </message>
-    <message>
         <source>%1 is no position along the line</source>
         <translation>%1 n&apos;est pas une position le long de la ligne</translation>
     </message>
     <message>
         <source>it has no name</source>
         <translation>il n&apos;a pas de nom</translation>
-    </message>
-    <message>
-        <source>a layer from %1 to %2 m has its bottom not below its top</source>
-        <translation>une couche de %1 à %2 m n&apos;a pas sa base au-dessous de son toit</translation>
-    </message>
-    <message>
-        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
-        <translation>une erreur de %1 m/s ne doit pas être négative, et doit être inférieure à sa vitesse, %2</translation>
     </message>
     <message>
         <source>it has no layer</source>
@@ -7600,10 +7877,6 @@ Veuillez définir la position des géophones
         <translation>aucun tir n&apos;a d&apos;un même côté trois pointés de ce réfracteur, accompagnés d&apos;ondes en sens inverse, qui soient plus rapides que la première couche</translation>
     </message>
     <message>
-        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation>Couche %1&#xa0;: ni vitesse ni profondeur à %2 récepteurs, où la vitesse calculée est hors de la plage de 50 à 12&#xa0;000 m/s.</translation>
-    </message>
-    <message>
         <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
         <translation>Couche %1&#xa0;: aucune profondeur à %2 récepteurs, où la profondeur calculée dépasse la longueur de la ligne.</translation>
     </message>
@@ -7626,14 +7899,6 @@ Veuillez définir la position des géophones
     <message>
         <source>Layer %1, %2: nothing</source>
         <translation>Couche %1, %2&#xa0;: rien</translation>
-    </message>
-    <message>
-        <source>Layer %1, %2: %3 m/s, no depth</source>
-        <translation>Couche %1, %2&#xa0;: %3 m/s, aucune profondeur</translation>
-    </message>
-    <message>
-        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
-        <translation>Couche %1, %2&#xa0;: %3 m/s à une profondeur de %4 m (médianes)&#xa0;; profondeurs à %5 des %6 géophones, dont %7 sans appui de pointés à cet endroit</translation>
     </message>
     <message>
         <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
@@ -7672,10 +7937,6 @@ Veuillez définir la position des géophones
         <translation>aucune couche n&apos;est proposée&#xa0;: il y a trop peu de pointés pour en ajuster</translation>
     </message>
     <message>
-        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
-        <translation>pas de couches&#xa0;: une vitesse qui croît régulièrement avec la profondeur, à partir de %1 m/s et de %2 m/s par mètre, a un écart de %3 ms</translation>
-    </message>
-    <message>
         <source>%1; without layers, by a steady gradient, %2 ms</source>
         <translation>%1&#xa0;; sans couches, avec un gradient constant, %2 ms</translation>
     </message>
@@ -7710,10 +7971,6 @@ Veuillez définir la position des géophones
     <message>
         <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
         <translation>%1 descend à %2, sous la grille&#xa0;; ce qui est au-dessous de %3 ne compte pas.</translation>
-    </message>
-    <message>
-        <source>%1, %2 to %3 m</source>
-        <translation>%1, %2 à %3 m</translation>
     </message>
     <message>
         <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
@@ -7832,10 +8089,6 @@ Veuillez définir la position des géophones
         <translation>La couche 3 commence au-dessus de la couche 2 à %1 récepteurs sur %2&#xa0;; la couche 2 y est omise.</translation>
     </message>
     <message>
-        <source>Layer %1 is known from %2 to %3 m; its depth and velocity stay as they are there to the ends of the grid.</source>
-        <translation>La couche %1 est connue de %2 à %3 m&#xa0;; au-delà, jusqu&apos;aux bouts de la grille, sa profondeur et sa vitesse restent celles de ces extrémités.</translation>
-    </message>
-    <message>
         <source>The grid ends above layer %1 in %2 of %3 columns.</source>
         <translation>La grille s&apos;arrête au-dessus de la couche %1 dans %2 colonnes sur %3.</translation>
     </message>
@@ -7866,10 +8119,6 @@ Veuillez définir la position des géophones
     <message>
         <source>No method gives a depth.</source>
         <translation>Aucune méthode ne donne de profondeur.</translation>
-    </message>
-    <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
-        <translation>Les couches ne forment pas un modèle de vitesse. Classez-les par profondeur, sans chevauchement, chacune de plus de 0,02 m d&apos;épaisseur.</translation>
     </message>
     <message>
         <source>this is no file with the members of an ensemble</source>
@@ -7908,10 +8157,6 @@ Veuillez définir la position des géophones
         <translation>Couche %1, médianes de %2 points&#xa0;: %3&#xa0;; %4</translation>
     </message>
     <message>
-        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
-        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, coefficient de Poisson %4</translation>
-    </message>
-    <message>
         <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
         <translation>masse volumique %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
@@ -7930,10 +8175,6 @@ Veuillez définir la position des géophones
     <message>
         <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
         <translation>Couche %1&#xa0;: en %2 points sur %3, Vp/Vs est inférieur à 1,41 et le coefficient de Poisson négatif, ce qui n&apos;est le cas ni des sols ni des roches&#xa0;: les vitesses sont de terrains différents, ou fausses.</translation>
-    </message>
-    <message>
-        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
-        <translation>La relation de Gardner a été établie pour des roches plus rapides que 1500 m/s&#xa0;; en %1 points sur %2, Vp est inférieure et la masse volumique approximative.</translation>
     </message>
     <message>
         <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
@@ -7980,14 +8221,6 @@ Veuillez définir la position des géophones
         <translation>les courbes de la couche %1 suivent les lignes des tirs %2 et %3, qui donnent %4 et %5 ms pour le trajet entre ces tirs</translation>
     </message>
     <message>
-        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
-        <translation>le profil ne s&apos;ajuste à ses pointés qu&apos;à %1 ms près, les ondes de la proposition à %2 ms près&#xa0;: il s&apos;en écarte à partir du tir %3, à %4 m</translation>
-    </message>
-    <message>
-        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
-        <translation>le profil ne s&apos;ajuste à ses pointés qu&apos;à %1 ms près, les ondes de la proposition à %2 ms près&#xa0;: il s&apos;en écarte le plus au tir %3, à %4 m</translation>
-    </message>
-    <message>
         <source>the delays of the waves change so fast along the line that no boundary has them all</source>
         <translation>les retards des ondes changent si vite le long de la ligne qu&apos;aucune interface ne les explique tous</translation>
     </message>
@@ -8006,14 +8239,6 @@ Veuillez définir la position des géophones
     <message>
         <source>plus-minus</source>
         <translation>plus-minus</translation>
-    </message>
-    <message>
-        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
-        <translation>Couche %1&#xa0;: les profondeurs diffèrent le plus à %2 m, de %3 m (%4) à %5 m (%6)</translation>
-    </message>
-    <message>
-        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
-        <translation>Couche %1&#xa0;: les vitesses diffèrent le plus à %2 m, de %3 m/s (%4) à %5 m/s (%6)</translation>
     </message>
     <message>
         <source>to the right of shot %1</source>
@@ -8450,10 +8675,6 @@ Veuillez définir la position des géophones
     <message>
         <source>Without an elevation, raised to the line between the others: %1</source>
         <translation>Sans altitude, placé sur la droite entre les autres&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Farther from the line than half the spacing of %1 m: %2</source>
-        <translation>Plus loin de la ligne que la moitié de l&apos;espacement de %1 m&#xa0;: %2</translation>
     </message>
     <message>
         <source>Hardly apart from their neighbours: %1</source>
@@ -8996,10 +9217,6 @@ Veuillez définir la position des géophones
         <translation>sans vis-à-vis&#xa0;: %1 traces du tir %2, %3 du tir %4</translation>
     </message>
     <message>
-        <source>left out: %1 pairs with a trace that is killed or has no sample interval</source>
-        <translation>écartées&#xa0;: %1 paires avec une trace neutralisée ou sans pas d&apos;échantillonnage</translation>
-    </message>
-    <message>
         <source>the second is %1 times as strong</source>
         <translation>le second est %1 fois aussi fort</translation>
     </message>
@@ -9034,6 +9251,170 @@ Veuillez définir la position des géophones
     <message>
         <source>At 1:%1 the figure is too large even for many sheets: choose 1:%2, or a scale between them.</source>
         <translation>À 1:%1, la figure est trop grande même pour de nombreuses feuilles : choisissez 1:%2 ou une échelle intermédiaire.</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3</source>
+        <translation>placer les %1 géophones de son dispositif de %2 à %3</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by one channel as the shot moves by %3, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1&#xa0;; sur %2 tirs, les temps minimaux se déplacent d&apos;un canal quand le tir se déplace de %3&#xa0;: le géophone 1 est donc à %4 et le dernier à %5</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>aucun géophone entre %1 et %2&#xa0;: le terrain n&apos;y est vu d&apos;aucun côté, sauf si des tirs portent au-delà</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by 1 as the shot moves by %2; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>les positions des géophones ne sont pas des mètres&#xa0;: sur %1 tirs, les temps minimaux se déplacent de 1 quand le tir se déplace de %2&#xa0;; des géophones espacés de %3 à partir de %4 les ont à côté des tirs</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>l&apos;enregistrement est %2 d&apos;environ %1 ms&#xa0;: les géophones les plus proches du tir, à %3, situeraient le coup entre %4 et %5 ms, quel que soit le terrain</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than %1 thick.</source>
+        <translation>Les couches ne forment pas un modèle de vitesse. Classez-les par profondeur, sans chevauchement, chacune de plus de %1 d&apos;épaisseur.</translation>
+    </message>
+    <message>
+        <source>%1 velocities and depths of the layers are left out: outside %2 to %3, or deeper than the line is long</source>
+        <translation>%1 vitesses et profondeurs des couches sont écartées&#xa0;: hors de la plage de %2 à %3, ou plus profondes que la longueur de la ligne</translation>
+    </message>
+    <message>
+        <source>velocities of %1 cell cannot be; they are held within %2 and %3</source>
+        <translation>les vitesses de %1 cellule sont impossibles&#xa0;; elles sont maintenues entre %2 et %3</translation>
+    </message>
+    <message>
+        <source>velocities of %1 cells cannot be; they are held within %2 and %3</source>
+        <translation>les vitesses de %1 cellules sont impossibles&#xa0;; elles sont maintenues entre %2 et %3</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>d&apos;après ses en-têtes, les géophones s&apos;étendent sur %1&#xa0;; leur facteur d&apos;échelle ou leur unité est sans doute faux, vérifiez-les donc ou chargez un fichier de géométrie</translation>
+    </message>
+    <message>
+        <source>%1 fields that there is no room for, among them %2</source>
+        <translation>%1 champs pour lesquels il n&apos;y a pas de place, dont %2</translation>
+    </message>
+    <message>
+        <source>%1 is no velocity of ground (%2 to %3)</source>
+        <translation>%1 n&apos;est pas une vitesse de terrain (%2 à %3)</translation>
+    </message>
+    <message>
+        <source>it has %1 points, more than %2</source>
+        <translation>elle a %1 points, plus que %2</translation>
+    </message>
+    <message>
+        <source>%1 is no depth below the surface (0 to %2)</source>
+        <translation>%1 n&apos;est pas une profondeur sous la surface (0 à %2)</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 has its bottom not below its top</source>
+        <translation>une couche de %1 à %2 n&apos;a pas sa base au-dessous de son toit</translation>
+    </message>
+    <message>
+        <source>an error of %1 must not be negative, and less than its velocity, %2</source>
+        <translation>une erreur de %1 ne doit pas être négative, et doit être inférieure à sa vitesse, %2</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1: %2</source>
+        <translation>Plus loin de la ligne que la moitié de l&apos;espacement de %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Vp %1, Vs %2, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1, Vs %2, Vp/Vs %3, coefficient de Poisson %4</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than %1; at %2 of %3 places Vp is less, and the density a guess.</source>
+        <translation>La relation de Gardner a été établie pour des roches plus rapides que %1&#xa0;; en %2 points sur %3, Vp est inférieure et la masse volumique approximative.</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 on</source>
+        <translation>le profil ne s&apos;ajuste à ses pointés qu&apos;à %1 ms près, les ondes de la proposition à %2 ms près&#xa0;: il s&apos;en écarte à partir du tir %3, à %4</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4</source>
+        <translation>le profil ne s&apos;ajuste à ses pointés qu&apos;à %1 ms près, les ondes de la proposition à %2 ms près&#xa0;: il s&apos;en écarte le plus au tir %3, à %4</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside %3 to %4.</source>
+        <translation>Couche %1&#xa0;: ni vitesse ni profondeur à %2 récepteurs, où la vitesse calculée est hors de la plage de %3 à %4.</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3, no depth</source>
+        <translation>Couche %1, %2&#xa0;: %3, aucune profondeur</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 at a depth of %4 (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Couche %1, %2&#xa0;: %3 à une profondeur de %4 (médianes)&#xa0;; profondeurs à %5 des %6 géophones, dont %7 sans appui de pointés à cet endroit</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2, from %3 (%4) to %5 (%6)</source>
+        <translation>Couche %1&#xa0;: les profondeurs diffèrent le plus à %2, de %3 (%4) à %5 (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2, from %3 (%4) to %5 (%6)</source>
+        <translation>Couche %1&#xa0;: les vitesses diffèrent le plus à %2, de %3 (%4) à %5 (%6)</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 with a gradient of %2 1/s, has a misfit of %3 ms</source>
+        <translation>pas de couches&#xa0;: une vitesse qui croît régulièrement avec la profondeur, à partir de %1 avec un gradient de %2 1/s, a un écart de %3 ms</translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 are not.</source>
+        <translation>Les limites de vitesse doivent être des nombres positifs, la plus petite inférieure à la plus grande&#xa0;; %1 et %2 ne le sont pas.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <translation>%1, %2 à %3</translation>
+    </message>
+    <message>
+        <source>velocities of %1 and %2 do not increase with depth</source>
+        <translation>des vitesses de %1 et %2 n&apos;augmentent pas avec la profondeur</translation>
+    </message>
+    <message>
+        <source>%1 at the surface, %2 where the deepest ray turns, %3 down</source>
+        <translation>%1 en surface, %2 au point bas du rai le plus profond, à %3 de profondeur</translation>
+    </message>
+    <message>
+        <source>%1, %2 from %3 down, %4 from %5 down</source>
+        <translation>%1, %2 à partir de %3 de profondeur, %4 à partir de %5</translation>
+    </message>
+    <message>
+        <source>%1 with a gradient of %2 1/s, %3 from %4 down</source>
+        <translation>%1 avec un gradient de %2 1/s, %3 à partir de %4 de profondeur</translation>
+    </message>
+    <message>
+        <source>%1, %2 from %3 down</source>
+        <translation>%1, %2 à partir de %3 de profondeur</translation>
+    </message>
+    <message>
+        <source>Layer %1 is known from %2 to %3; its depth and velocity stay as they are there to the ends of the grid.</source>
+        <translation>La couche %1 est connue de %2 à %3&#xa0;; au-delà, jusqu&apos;aux bouts de la grille, sa profondeur et sa vitesse restent celles de ces extrémités.</translation>
+    </message>
+    <message>
+        <source>the records of shot %1 and shot %2 begin too far apart in time to be laid over each other; look at the delays in their headers</source>
+        <translation>les enregistrements des tirs %1 et %2 commencent trop loin l&apos;un de l&apos;autre dans le temps pour être superposés&#xa0;; regardez les délais dans leurs en-têtes</translation>
+    </message>
+    <message>
+        <source>the shots are at one place</source>
+        <translation>les tirs sont au même endroit</translation>
+    </message>
+    <message>
+        <source>the shots are %1 apart</source>
+        <translation>les tirs sont distants de %1</translation>
+    </message>
+    <message>
+        <source>the shots are %1 apart: difference and sum are not of one place</source>
+        <translation>les tirs sont distants de %1&#xa0;: différence et somme ne sont pas d&apos;un même endroit</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs with a trace that is killed, or has no samples or no interval</source>
+        <translation>écartées&#xa0;: %1 paires avec une trace neutralisée, ou sans échantillons ou sans pas d&apos;échantillonnage</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs whose records begin too far apart in time</source>
+        <translation>écartées&#xa0;: %1 paires dont les enregistrements commencent trop loin l&apos;un de l&apos;autre dans le temps</translation>
     </message>
 </context>
 <context>
@@ -9503,6 +9884,10 @@ Veuillez définir la position des géophones
         <source>What would fit:</source>
         <translation>Ce qui tiendrait&#xa0;:</translation>
     </message>
+    <message>
+        <source>This is the first usual scale from %1 on at which it fits one sheet.</source>
+        <translation>C&apos;est la première échelle usuelle, à partir de %1, à laquelle cela tient sur une feuille.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::PrintPreview</name>
@@ -9762,6 +10147,10 @@ Veuillez définir la position des géophones
     <message>
         <source>none: there is no recording to shift</source>
         <translation>aucune&#xa0;: il n&apos;y a pas d&apos;enregistrement à décaler</translation>
+    </message>
+    <message>
+        <source>Pick the traces of more shots. Where they have picks, see whether geophones and shots stand where they stood.</source>
+        <translation>Pointez les traces d&apos;autres tirs. Là où il y a des pointés, vérifiez que géophones et tirs sont bien là où ils étaient.</translation>
     </message>
 </context>
 <context>
@@ -12307,16 +12696,24 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <source>Shots that seem to be shifted in time; a click shows the shot:</source>
         <translation>Tirs qui semblent décalés en temps&#xa0;; un clic montre le tir&#xa0;:</translation>
     </message>
+    <message>
+        <source>Picks that the section cannot explain</source>
+        <translation>Pointés que la coupe ne peut pas expliquer</translation>
+    </message>
+    <message>
+        <source>Shots shifted in time</source>
+        <translation>Tirs décalés en temps</translation>
+    </message>
+    <message>
+        <source>Ground to look at</source>
+        <translation>Terrain à examiner</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
         <translation>Exagération verticale&#xa0;:</translation>
-    </message>
-    <message>
-        <source>How much higher than wide a metre is drawn</source>
-        <translation>De combien un mètre est dessiné plus haut que large</translation>
     </message>
     <message>
         <source>Vertical exaggeration</source>
@@ -12379,10 +12776,6 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <translation>Dessiner</translation>
     </message>
     <message>
-        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
-        <translation>Cliquer des textes, des lignes et des zones de terrain sur la coupe&#xa0;; Échap termine</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Texte</translation>
     </message>
@@ -12405,6 +12798,22 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
     <message>
         <source>Click the corners of an area of the section</source>
         <translation>Cliquez les sommets d&apos;une zone de la coupe</translation>
+    </message>
+    <message>
+        <source>How much larger heights are drawn than distances</source>
+        <translation>De combien les hauteurs sont dessinées plus grandes que les distances</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section, or move them; Esc ends</source>
+        <translation>Cliquer des textes, des lignes et des zones de terrain sur la coupe, ou les déplacer&#xa0;; Échap termine</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Drag what has been drawn, or one of its corners</source>
+        <translation>Faire glisser ce qui a été dessiné, ou l&apos;un de ses coins</translation>
     </message>
 </context>
 <context>
@@ -12730,6 +13139,22 @@ Pour les obtenir, choisissez «&#xa0;Méthode réciproque&#xa0;» et cliquez sur
         <source>%1: %2</source>
         <comment>step, reason</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StoppingProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Stopping ...</source>
+        <translation>Arrêt ...</translation>
+    </message>
+    <message>
+        <source>Stopping: %1</source>
+        <comment>work</comment>
+        <translation>Arrêt&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -15347,10 +15772,6 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>Dessin DXF ...</translation>
     </message>
     <message>
-        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
-        <translation>Exporter surface, isolignes, réfracteurs, géophones et tirs en dessin pour la CAO</translation>
-    </message>
-    <message>
         <source>Section as curtain on the map ...</source>
         <translation>Coupe en rideau sur la carte ...</translation>
     </message>
@@ -15700,10 +16121,6 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <translation>%1&#xa0;: projet %2 sur %3</translation>
     </message>
     <message>
-        <source>Stopped; the campaign page has not been saved.</source>
-        <translation>Arrêté&#xa0;; la page de campagne n&apos;a pas été enregistrée.</translation>
-    </message>
-    <message>
         <source>Saved in %1, without the changes of this survey that are not saved</source>
         <translation>Enregistré dans %1, sans les modifications de ce levé qui ne sont pas enregistrées</translation>
     </message>
@@ -15835,6 +16252,18 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
         <source>Section as it is shown</source>
         <translation>Coupe telle qu&apos;elle est affichée</translation>
     </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones, shots and annotations as a drawing for CAD</source>
+        <translation>Exporter surface, isolignes, réfracteurs, géophones, tirs et annotations en dessin pour la CAO</translation>
+    </message>
+    <message>
+        <source>Stopped; the campaign page has not been saved, pages of %1 of its %2 projects have.</source>
+        <translation>Arrêté&#xa0;; la page de campagne n&apos;a pas été enregistrée, les pages de %1 de ses %2 projets l&apos;ont été.</translation>
+    </message>
+    <message>
+        <source>The printer failed after %1 of %2 sheets.</source>
+        <translation>L&apos;imprimante s&apos;est arrêtée en erreur après %1 feuilles sur %2.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -15914,6 +16343,10 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>Rows copied: %1</source>
         <translation>Lignes copiées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not in the table: %1</source>
+        <translation>Absents du tableau&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -16838,6 +17271,10 @@ Pointez les premières arrivées sur les traces, à la main ou avec AutoPick, ou
     <message>
         <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
         <translation>Ce que montre la coupe n&apos;a pas d&apos;isolignes. Celles de la vitesse sont comprises entre %1 et %2 %3</translation>
+    </message>
+    <message>
+        <source>; the file has them in %1</source>
+        <translation>&#xa0;; le fichier les contient en %1</translation>
     </message>
 </context>
 <context>
