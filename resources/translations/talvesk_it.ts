@@ -2,6 +2,313 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>CommandWords</name>
+    <message>
+        <source>start over, empty, close survey, clear</source>
+        <translation>ricominciare, da capo, svuota, chiudi il rilievo, azzera progetto, vuoto</translation>
+    </message>
+    <message>
+        <source>load recordings, seismograms, records, raw data, gathers, seg2, segy</source>
+        <translation>carica registrazioni, sismogrammi, acquisizioni, dati grezzi, shot gather, scoppi, battute, energizzazioni, seg2, segy</translation>
+    </message>
+    <message>
+        <source>file headers, metadata, sampling rate, sample interval</source>
+        <translation>header dei file, metadati, frequenza di campionamento, passo di campionamento, parametri di acquisizione, numero di campioni</translation>
+    </message>
+    <message>
+        <source>metadata, channels, trace table</source>
+        <translation>header, metadati, canali, tabella delle tracce, trace header</translation>
+    </message>
+    <message>
+        <source>trigger, pretrigger, time zero, t0, recording delay</source>
+        <translation>trigger, pretrigger, tempo zero, istante zero, t0, ritardo di registrazione, delay, time break</translation>
+    </message>
+    <message>
+        <source>trigger shift, time correction, static, reverse channels</source>
+        <translation>errore di trigger, trigger in ritardo, correzione dei tempi, statica, canali invertiti, inverti canali, shift</translation>
+    </message>
+    <message>
+        <source>delete shot, discard recording</source>
+        <translation>elimina tiro, cancella tiro, scarta registrazione, elimina scoppio, rimuovi battuta</translation>
+    </message>
+    <message>
+        <source>convert, seg2, segy</source>
+        <translation>converti, conversione, salva sismogrammi, seg2, segy</translation>
+    </message>
+    <message>
+        <source>geophone positions, receivers, source positions, shot points, spacing, spread, layout, elevations, topography, coordinates</source>
+        <translation>posizione dei geofoni, ricevitori, sorgenti, punti di scoppio, punti di battuta, interdistanza, passo intergeofonico, stendimento, quote, topografia, coordinate</translation>
+    </message>
+    <message>
+        <source>gps, gnss, total station, easting northing, longitude latitude, utm, topography, elevations, geophone positions</source>
+        <translation>gps, gnss, stazione totale, rilievo topografico, est nord, longitudine latitudine, utm, gauss-boaga, topografia, quote, punti battuti</translation>
+    </message>
+    <message>
+        <source>map position, easting northing, utm, epsg, georeference, reference system</source>
+        <translation>ubicazione, posizione in pianta, est nord, utm, epsg, georeferenziazione, georeferenzia, sistema di riferimento, gps</translation>
+    </message>
+    <message>
+        <source>band pass, bandpass, low pass, high pass, lowpass, highpass, frequencies</source>
+        <translation>passabanda, passa banda, passabasso, passa basso, passaalto, passa alto, taglia basso, taglia alto, spettro di frequenza, hertz, Butterworth</translation>
+    </message>
+    <message>
+        <source>mains, power line noise, hertz</source>
+        <translation>rete elettrica, disturbo elettrico, rumore di rete, elimina banda, hertz, frequenza di rete</translation>
+    </message>
+    <message>
+        <source>f-k, fk, fan filter, dip filter, ground roll, surface waves</source>
+        <translation>f-k, fk, filtro a ventaglio, filtro di pendenza, ground roll, onde superficiali, onda d&apos;aria</translation>
+    </message>
+    <message>
+        <source>balance, normalise, normalize, level</source>
+        <translation>bilanciamento, normalizza, normalizzazione, equalizza, livella, gain</translation>
+    </message>
+    <message>
+        <source>denoise, suppress noise</source>
+        <translation>denoise, elimina il rumore, attenua il disturbo, pulizia del segnale, rapporto segnale rumore</translation>
+    </message>
+    <message>
+        <source>reduction velocity, reduced travel times, linear moveout, flatten</source>
+        <translation>velocità di riduzione, tempi ridotti, dromocrone ridotte, linear moveout, lmo, spiana, raddrizza</translation>
+    </message>
+    <message>
+        <source>reduction velocity, reducing velocity, linear moveout, flatten</source>
+        <translation>velocità di riduzione, tempi ridotti, linear moveout, lmo, spiana, raddrizza</translation>
+    </message>
+    <message>
+        <source>tn, t^n, amplitude recovery, spreading, amplify</source>
+        <translation>tn, t^n, recupero delle ampiezze, divergenza sferica, espansione geometrica, amplifica, gain</translation>
+    </message>
+    <message>
+        <source>tn, t^n, amplitude recovery, spreading, power</source>
+        <translation>tn, t^n, recupero delle ampiezze, divergenza sferica, espansione geometrica, gain</translation>
+    </message>
+    <message>
+        <source>sort traces, common shot, distance</source>
+        <translation>ordinamento delle tracce, sort, shot gather, distanza sorgente ricevitore</translation>
+    </message>
+    <message>
+        <source>sort traces, distance</source>
+        <translation>ordinamento delle tracce, sort, distanza sorgente ricevitore</translation>
+    </message>
+    <message>
+        <source>dead, bad, noisy traces, disable, delete, zero</source>
+        <translation>tracce morte, cattive, rumorose, disattiva, elimina, annulla tracce, kill, traccia muta</translation>
+    </message>
+    <message>
+        <source>flip, invert, sign, phase</source>
+        <translation>ribalta, rovescia, fase, flip, capovolgi, segno opposto</translation>
+    </message>
+    <message>
+        <source>silence, blank, cut noise</source>
+        <translation>mute, muting, silenzia, cancella il rumore, taglia, top mute</translation>
+    </message>
+    <message>
+        <source>gain, scale, louder</source>
+        <translation>gain, guadagno, scala, ingrandisci oscillazioni, aumenta</translation>
+    </message>
+    <message>
+        <source>gain, scale, quieter</source>
+        <translation>gain, guadagno, scala, riduci oscillazioni, diminuisci</translation>
+    </message>
+    <message>
+        <source>shear waves, SH, opposite blows, hammer, subtract, stack</source>
+        <translation>onde di taglio, onde S, SH, battute opposte, energizzazioni opposte, mazza, martello, sottrai, stack, sommare</translation>
+    </message>
+    <message>
+        <source>gathers, record section, plot</source>
+        <translation>shot gather, montaggio di sismogrammi, tavola dei sismogrammi, sezione delle registrazioni, plot</translation>
+    </message>
+    <message>
+        <source>measure, slope</source>
+        <translation>misurare, pendenza, inclinazione, regolo</translation>
+    </message>
+    <message>
+        <source>loupe, lens</source>
+        <translation>lente d&apos;ingrandimento, zoom, ingranditore</translation>
+    </message>
+    <message>
+        <source>zoom all, fit, whole shot</source>
+        <translation>zoom tutto, adatta alla finestra, tutto il tiro, vista intera, azzera zoom</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, onsets, automatic picking, picker</source>
+        <translation>first break, primi impulsi, tempi di primo arrivo, onset, picking automatico, picker, autopicking</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, by hand, manual picking</source>
+        <translation>first break, primi impulsi, tempi di primo arrivo, a mano, picking manuale, pick</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, load picks, time picks</source>
+        <translation>first break, carica primi arrivi, carica picking, apri pick, dromocrone</translation>
+    </message>
+    <message>
+        <source>first breaks, first arrivals, save picks, time picks</source>
+        <translation>first break, salva picking, salva pick, dromocrone</translation>
+    </message>
+    <message>
+        <source>review, check picks, outliers, bad picks, quality</source>
+        <translation>revisione, verifica dei pick, valori anomali, outlier, picking errati, qualità, incerto</translation>
+    </message>
+    <message>
+        <source>quality control, qc, doctor, bad traces, dead traces, wrong headers</source>
+        <translation>controllo di qualità, qc, diagnosi, tracce cattive, tracce morte, header sbagliati, verifica acquisizione</translation>
+    </message>
+    <message>
+        <source>reciprocal times, reverse shots, trigger errors, quality control, qc</source>
+        <translation>tempi reciproci, tempo totale, tiri coniugati, scoppi coniugati, errori di trigger, controllo di qualità, qc, andata e ritorno</translation>
+    </message>
+    <message>
+        <source>mesh, cell size, discretisation, depth</source>
+        <translation>mesh, maglia, dimensione delle celle, lato delle celle, discretizzazione, profondità</translation>
+    </message>
+    <message>
+        <source>starting model, initial model, velocity model, gradient</source>
+        <translation>modello iniziale, modello di partenza, gradiente, starting model</translation>
+    </message>
+    <message>
+        <source>starting model, initial model, velocity model</source>
+        <translation>modello iniziale, modello di partenza, modello di velocità, starting model</translation>
+    </message>
+    <message>
+        <source>wells, drilling, constraints, a priori, soundings</source>
+        <translation>pozzi, perforazioni, carotaggi, vincoli, stratigrafia, a priori, penetrometrie, down-hole</translation>
+    </message>
+    <message>
+        <source>invert, calculate, iterations, velocity model, sirt, start inversion</source>
+        <translation>calcola, lancia il calcolo, iterazioni, modello di velocità, sirt, avvia inversione, tomografia</translation>
+    </message>
+    <message>
+        <source>history, earlier results, compare models</source>
+        <translation>storico, cronologia, risultati precedenti, confronto dei modelli, versioni</translation>
+    </message>
+    <message>
+        <source>chi-square, chi2, misfit, quality of the inversion</source>
+        <translation>chi quadrato, chi2, scarto, misfit, bontà dell&apos;inversione, qualità</translation>
+    </message>
+    <message>
+        <source>misfit, rms, errors of the fit, measured and computed times</source>
+        <translation>misfit, scarto, rms, errori dell&apos;adattamento, tempi osservati e calcolati, bontà del fit</translation>
+    </message>
+    <message>
+        <source>uncertainty, ensemble, standard deviation, confidence</source>
+        <translation>incertezza, ensemble, deviazione standard, confidenza, attendibilità, errore della velocità, bootstrap</translation>
+    </message>
+    <message>
+        <source>checkerboard, chequerboard, spike test, sensitivity</source>
+        <translation>checkerboard, test della scacchiera, spike test, sensibilità, potere risolutivo</translation>
+    </message>
+    <message>
+        <source>smoother model, average</source>
+        <translation>modello più liscio, media, smoothing, levigare, filtro di media</translation>
+    </message>
+    <message>
+        <source>refractors, layered model, plus minus, delay times, intercept times, grm, time depth</source>
+        <translation>rifrattori, modello a strati, plus minus, delay time, tempi di ritardo, tempi di intercetta, intercept time, grm, Palmer, Hagedoorn, time depth, sismostrati</translation>
+    </message>
+    <message>
+        <source>shear modulus, Young, elastic, stiffness</source>
+        <translation>modulo di taglio, modulo di Young, moduli elastici, rigidezza, rigidità, moduli dinamici, Poisson</translation>
+    </message>
+    <message>
+        <source>ray paths, ray tracing</source>
+        <translation>percorsi dei raggi, traiettorie, ray tracing, raypath</translation>
+    </message>
+    <message>
+        <source>ray coverage, hit count</source>
+        <translation>ray coverage, numero di raggi per cella, hit count, illuminazione</translation>
+    </message>
+    <message>
+        <source>isolines, isovalues</source>
+        <translation>curve di livello, isovalori, isotachie, isovelocità, contouring</translation>
+    </message>
+    <message>
+        <source>contour, groundwater, bedrock</source>
+        <translation>curva di livello, falda acquifera, substrato, bedrock, basamento, tetto della roccia, isotachia</translation>
+    </message>
+    <message>
+        <source>labels, lithology, geology, polygons, legend</source>
+        <translation>etichette, scritte, litologia, geologia, stratigrafia, poligoni, legenda</translation>
+    </message>
+    <message>
+        <source>velocity depth function, 1-D, 1d, log</source>
+        <translation>funzione velocità profondità, 1-D, 1d, monodimensionale, verticale di velocità, log</translation>
+    </message>
+    <message>
+        <source>3-D, 3d, fence diagram, crossing lines</source>
+        <translation>3-D, 3d, fence diagram, linee incrociate, stendimenti incrociati, più linee, vista tridimensionale</translation>
+    </message>
+    <message>
+        <source>colour scale, colors, colormap, range, legend</source>
+        <translation>scala cromatica, colormap, mappa di colori, intervallo di velocità, legenda, minimo e massimo</translation>
+    </message>
+    <message>
+        <source>colour bar, color bar, legend</source>
+        <translation>barra dei colori, barra cromatica, colorbar, legenda</translation>
+    </message>
+    <message>
+        <source>template, look, appearance</source>
+        <translation>modello grafico, template, apparenza, impaginazione, formato</translation>
+    </message>
+    <message>
+        <source>plot, printer, page, a3, a4</source>
+        <translation>plotter, stampante, pagina, tavola, in scala, a3, a4</translation>
+    </message>
+    <message>
+        <source>figures, png, svg, save picture</source>
+        <translation>figure, png, svg, jpg, esporta immagine, salva figura</translation>
+    </message>
+    <message>
+        <source>document</source>
+        <translation>documento, report, rapporto, elaborato</translation>
+    </message>
+    <message>
+        <source>word processor, editable report</source>
+        <translation>word, libreoffice, videoscrittura, rapporto modificabile, report</translation>
+    </message>
+    <message>
+        <source>html, interactive report</source>
+        <translation>html, rapporto interattivo, report, sito</translation>
+    </message>
+    <message>
+        <source>html, several lines, report</source>
+        <translation>html, più linee, rapporto, report, riepilogo, indice dei progetti</translation>
+    </message>
+    <message>
+        <source>cad, contours</source>
+        <translation>cad, autocad, curve di livello, contorni</translation>
+    </message>
+    <message>
+        <source>gis, shape file, gpkg</source>
+        <translation>gis, qgis, shapefile, shape file, gpkg</translation>
+    </message>
+    <message>
+        <source>gis, 3-D, 3d, georeferenced</source>
+        <translation>gis, 3-D, 3d, georeferenziata, paraview, fence</translation>
+    </message>
+    <message>
+        <source>xyz, ascii, velocities</source>
+        <translation>xyz, ascii, surfer, velocità, griglia regolare</translation>
+    </message>
+    <message>
+        <source>ascii, velocities, section</source>
+        <translation>ascii, velocità, xyz, sezione, txt</translation>
+    </message>
+    <message>
+        <source>preferences, feet, metres, units, memory, undo</source>
+        <translation>preferenze, configurazione, piedi, metri, unità di misura, memoria, annulla</translation>
+    </message>
+    <message>
+        <source>manual, handbook, documentation, help</source>
+        <translation>manuale, istruzioni, documentazione, tutorial, aiuto, help</translation>
+    </message>
+    <message>
+        <source>manual, handbook, documentation</source>
+        <translation>manuale, istruzioni, documentazione, help, sito</translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -323,6 +630,10 @@
     <message>
         <source>There are no two recordings to be compared.</source>
         <translation>Non ci sono due registrazioni da confrontare.</translation>
+    </message>
+    <message>
+        <source>Not to be added, only saved as a shot file: %1</source>
+        <translation>Non si può aggiungere, solo salvare come file del tiro: %1</translation>
     </message>
 </context>
 <context>
@@ -2006,6 +2317,28 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <comment>line, systems</comment>
         <translation>%1 da EPSG:%2 a EPSG:%3</translation>
     </message>
+    <message>
+        <source>No line stands in the fence yet.
+
+A line needs a section and a place on the map. Give this survey its place, or add projects that have theirs.</source>
+        <translation>Nessuna linea sta ancora nel diagramma.
+
+Una linea ha bisogno di una sezione e di un posto sulla mappa. Dai a questo rilievo il suo posto, o aggiungi progetti che hanno il loro.</translation>
+    </message>
+    <message>
+        <source>%1 %2 to %3</source>
+        <comment>line, velocities</comment>
+        <translation>%1 da %2 a %3</translation>
+    </message>
+    <message>
+        <source>Beyond the colours: %1.</source>
+        <comment>lines</comment>
+        <translation>Oltre i colori: %1.</translation>
+    </message>
+    <message>
+        <source>it stands in the fence already</source>
+        <translation>sta già nel diagramma</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::FenceView</name>
@@ -2021,6 +2354,18 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
     <message>
         <source>Sections at their places on the map</source>
         <translation>Sezioni al loro posto sulla mappa</translation>
+    </message>
+    <message>
+        <source>Easting [m]</source>
+        <translation>Est [m]</translation>
+    </message>
+    <message>
+        <source>Northing [m]</source>
+        <translation>Nord [m]</translation>
+    </message>
+    <message>
+        <source>Elevation [%1]</source>
+        <translation>Quota [%1]</translation>
     </message>
 </context>
 <context>
@@ -2680,10 +3025,6 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>Residui lungo i raggi</translation>
     </message>
     <message>
-        <source>Residuals</source>
-        <translation>Residui</translation>
-    </message>
-    <message>
         <source>Depth profile</source>
         <translation>Profilo di profondità</translation>
     </message>
@@ -2692,12 +3033,28 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <translation>P e S</translation>
     </message>
     <message>
-        <source>Sheet %1 of %2: row %3, column %4</source>
-        <translation>Foglio %1 di %2: riga %3, colonna %4</translation>
-    </message>
-    <message>
         <source>1 cm is %1 ms</source>
         <translation>1 cm è %1 ms</translation>
+    </message>
+    <message>
+        <source>Last solver pass</source>
+        <translation>Ultimo passaggio del risolutore</translation>
+    </message>
+    <message>
+        <source>Residuals by shot and geophone</source>
+        <translation>Residui per tiro e geofono</translation>
+    </message>
+    <message>
+        <source>Residuals over the offset</source>
+        <translation>Residui in funzione della distanza dal tiro</translation>
+    </message>
+    <message>
+        <source>Residuals of shots and of geophones</source>
+        <translation>Residui di tiri e di geofoni</translation>
+    </message>
+    <message>
+        <source>Match line: sheet %1</source>
+        <translation>Linea di giunzione: foglio %1</translation>
     </message>
 </context>
 <context>
@@ -3004,6 +3361,10 @@ Tasti: Sinistra e Destra spostano il cursore selezionato (con Ctrl di uno), Su e
         <source>of %1</source>
         <comment>sheets</comment>
         <translation>di %1</translation>
+    </message>
+    <message>
+        <source>Preview of the sheets</source>
+        <translation>Anteprima dei fogli</translation>
     </message>
 </context>
 <context>
@@ -5028,10 +5389,6 @@ da arrivi</translation>
         <translation>Non può essere estratto: %1.</translation>
     </message>
     <message>
-        <source>%1 velocities and depths of the layers are left out: outside 50 to 12 000 m/s, or deeper than the line is long</source>
-        <translation>%1 velocità e profondità degli strati tralasciate: fuori da 50 - 12 000 m/s, o più profonde della lunghezza della linea</translation>
-    </message>
-    <message>
         <source>No temporary folder can be created in %1.</source>
         <translation>Non è possibile creare una cartella temporanea in %1.</translation>
     </message>
@@ -5082,14 +5439,6 @@ da arrivi</translation>
     <message>
         <source>its geophone markers have a size that does not exist; it is normal now</source>
         <translation>i suoi simboli dei geofoni hanno una dimensione che non esiste; ora è normale</translation>
-    </message>
-    <message>
-        <source>velocities of %1 cell cannot be; they are held within %2 and %3 m/s</source>
-        <translation>la velocità di %1 cella non è possibile; è stata portata fra %2 e %3 m/s</translation>
-    </message>
-    <message>
-        <source>velocities of %1 cells cannot be; they are held within %2 and %3 m/s</source>
-        <translation>le velocità di %1 celle non sono possibili; sono state portate fra %2 e %3 m/s</translation>
     </message>
     <message>
         <source>a time shift of its arrivals cannot be; it is 0 now</source>
@@ -6200,10 +6549,6 @@ Impostare la posizione dei geofoni
         <translation>mettere il tiro a %1</translation>
     </message>
     <message>
-        <source>put the %1 geophones of its string at %2 to %3 m</source>
-        <translation>mettere i %1 geofoni della sua stesa da %2 a %3 m</translation>
-    </message>
-    <message>
         <source>stack it with %1; the stack alone counts then</source>
         <translation>sommarlo con altri (%1); conta allora soltanto la somma</translation>
     </message>
@@ -6222,10 +6567,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>%1 geophones are said to be at %2 places only</source>
         <translation>%1 geofoni sono indicati in sole %2 posizioni</translation>
-    </message>
-    <message>
-        <source>%1; over %2 shots the least times move by %3 channels for each metre of the shot, so geophone 1 is at %4 and the last one at %5</source>
-        <translation>%1; su %2 tiri i tempi minimi si spostano di %3 canali per ogni metro del tiro: il geofono 1 è quindi a %4 e l&apos;ultimo a %5</translation>
     </message>
     <message>
         <source>the shot is said to be at %1; the name of the file says %2, and the least times of the survey follow the names</source>
@@ -6300,10 +6641,6 @@ Impostare la posizione dei geofoni
         <translation>l&apos;intervallo di campionamento è %2 ms (%1), e %3 ms in quasi tutti gli altri tiri: va bene se lo strumento era impostato così</translation>
     </message>
     <message>
-        <source>no geophone stands between %1 and %2 m: the ground there is seen from neither side unless shots reach over it</source>
-        <translation>nessun geofono fra %1 e %2 m: il terreno lì non si vede da nessun lato, se non vi sono tiri che lo attraversano</translation>
-    </message>
-    <message>
         <source>strings %1 and %2 overlap and have other elevations at %3 places, by up to %4 at %5</source>
         <translation>le stese %1 e %2 si sovrappongono e hanno quote diverse in %3 punti, fino a %4 di differenza a %5</translation>
     </message>
@@ -6314,10 +6651,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>the shot&apos;s position %1 counts stations: over %2 shots the least times move by %3 for each 1 in the position</source>
         <translation>la posizione %1 del tiro conta stazioni: su %2 tiri i tempi minimi si spostano di %3 per ogni unità della posizione</translation>
-    </message>
-    <message>
-        <source>the positions of the geophones are no metres: over %1 shots the least times move by %2 for each metre of the shot; geophones %3 apart from %4 on have them beside the shots</source>
-        <translation>le posizioni dei geofoni non sono metri: su %1 tiri i tempi minimi si spostano di %2 per ogni metro del tiro; con geofoni ogni %3 a partire da %4 cadono accanto ai tiri</translation>
     </message>
     <message>
         <source>late</source>
@@ -6338,10 +6671,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>the record is %1 ms %2: all channels have a spike at %3 ms at once, before anything can have arrived</source>
         <translation>la registrazione è %2 di %1 ms: tutti i canali hanno insieme un impulso a %3 ms, prima che qualcosa possa essere arrivato</translation>
-    </message>
-    <message>
-        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 m away, would put the blow between %4 and %5 ms, whatever the ground</source>
-        <translation>la registrazione è %2 di circa %1 ms: secondo i geofoni più vicini al tiro, a %3 m, l&apos;energizzazione sarebbe fra %4 e %5 ms, qualunque sia il terreno</translation>
     </message>
     <message>
         <source>it is empty</source>
@@ -6462,10 +6791,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>it is about other shot files than those of the project</source>
         <translation>riguarda file dei tiri diversi da quelli del progetto</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m</source>
-        <translation>da %1 a %2 m</translation>
     </message>
     <message>
         <source>the program&apos;s rules find no trace in it</source>
@@ -6798,10 +7123,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>its coordinates do not lie along x; distances are those along the straight line through the geophones from the first geophone of this file, which stands at x %1, y %2; geophones stand up to %3 beside it, shots up to %4</source>
         <translation>le coordinate non sono lungo x; le distanze sono quelle lungo la retta dei geofoni a partire dal primo geofono di questo file, che è a x %1, y %2; i geofoni sono fino a %3 di lato alla retta, i tiri fino a %4</translation>
-    </message>
-    <message>
-        <source>by its headers the geophones stand along %1 km; their scalar or unit is likely wrong, so check them or load a geometry file</source>
-        <translation>secondo le intestazioni i geofoni si estendono per %1 km; il loro fattore di scala o la loro unità è probabilmente sbagliata: controllarli o caricare un file di geometria</translation>
     </message>
     <message>
         <source>the elevations or shot depths of %1 lie beyond all ground; elevations of the file were taken as 0</source>
@@ -7160,10 +7481,6 @@ Impostare la posizione dei geofoni
         <translation>Il modello di partenza non ha una velocità valida per ogni cella della griglia.</translation>
     </message>
     <message>
-        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 m/s are not.</source>
-        <translation>I limiti di velocità devono essere numeri positivi, il minimo sotto il massimo; %1 e %2 m/s non lo sono.</translation>
-    </message>
-    <message>
         <source>The fit needs one iteration at least and a positive trigger error.</source>
         <translation>L&apos;adattamento richiede almeno un&apos;iterazione e un errore del trigger positivo.</translation>
     </message>
@@ -7212,10 +7529,6 @@ Impostare la posizione dei geofoni
         <translation>i tempi di un rifrattore crescono troppo poco con la distanza per rispettare i limiti</translation>
     </message>
     <message>
-        <source>velocities of %1 and %2 m/s do not increase with depth</source>
-        <translation>velocità di %1 e %2 m/s non crescono con la profondità</translation>
-    </message>
-    <message>
         <source>the picks do not settle its delay times</source>
         <translation>i primi arrivi non bastano a determinare i suoi tempi di ritardo</translation>
     </message>
@@ -7246,22 +7559,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>%1 to %2</source>
         <translation>%1 - %2</translation>
-    </message>
-    <message>
-        <source>%1 m/s at the surface, %2 m/s where the deepest ray turns, %3 m down</source>
-        <translation>%1 m/s in superficie, %2 m/s dove il raggio più profondo risale, a %3 m di profondità</translation>
-    </message>
-    <message>
-        <source>%1 m/s, %2 m/s from %3 m down, %4 m/s from %5 m down</source>
-        <translation>%1 m/s, %2 m/s oltre %3 m di profondità, %4 m/s oltre %5 m</translation>
-    </message>
-    <message>
-        <source>%1 m/s and %2 m/s more per metre, %3 m/s from %4 m down</source>
-        <translation>%1 m/s e %2 m/s in più per metro, %3 m/s oltre %4 m di profondità</translation>
-    </message>
-    <message>
-        <source>%1 m/s, %2 m/s from %3 m down</source>
-        <translation>%1 m/s, %2 m/s oltre %3 m di profondità</translation>
     </message>
     <message>
         <source>it takes times that grow with offset, at three offsets or more</source>
@@ -7374,10 +7671,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>No model explains the picks to within their errors (chi-square up to %1), so that nothing can be said of how sure the section is. Their errors may be stated too small, or shots may be shifted in time.</source>
         <translation>Nessun modello spiega i primi arrivi entro i loro errori (chi quadrato fino a %1), perciò non si può dire quanto sia sicura la sezione. I loro errori potrebbero essere indicati troppo piccoli, o alcuni tiri traslati nel tempo.</translation>
-    </message>
-    <message>
-        <source>%1 to %2 m/s</source>
-        <translation>da %1 a %2 m/s</translation>
     </message>
     <message>
         <source>There is no reference model &quot;%1&quot;.</source>
@@ -7504,28 +7797,12 @@ Impostare la posizione dei geofoni
         <translation>le sue fasce di profondità non si possono disegnare così; ora non ce ne sono</translation>
     </message>
     <message>
-        <source>%1 m/s is no velocity of ground (%2 to %3)</source>
-        <translation>%1 m/s non è una velocità del terreno (da %2 a %3)</translation>
-    </message>
-    <message>
-        <source>%1 m is no depth below the surface (0 to %2)</source>
-        <translation>%1 m non è una profondità dal suolo (da 0 a %2)</translation>
-    </message>
-    <message>
         <source>%1 is no position along the line</source>
         <translation>%1 non è una posizione lungo la linea</translation>
     </message>
     <message>
         <source>it has no name</source>
         <translation>non ha un nome</translation>
-    </message>
-    <message>
-        <source>a layer from %1 to %2 m has its bottom not below its top</source>
-        <translation>uno strato da %1 a %2 m ha il letto non più in basso del tetto</translation>
-    </message>
-    <message>
-        <source>an error of %1 m/s must not be negative, and less than its velocity, %2</source>
-        <translation>un errore di %1 m/s non può essere negativo, e deve essere minore della velocità, %2</translation>
     </message>
     <message>
         <source>it has no layer</source>
@@ -7600,10 +7877,6 @@ Impostare la posizione dei geofoni
         <translation>nessun tiro ha tre suoi primi arrivi da un lato, accompagnati da onde in verso opposto, che siano più veloci del primo strato</translation>
     </message>
     <message>
-        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside 50 to 12 000 m/s.</source>
-        <translation>Strato %1: né velocità né profondità a %2 ricevitori, dove la velocità risulta fuori da 50-12 000 m/s.</translation>
-    </message>
-    <message>
         <source>Layer %1: no depth at %2 receivers, where it comes out deeper than the line is long.</source>
         <translation>Strato %1: nessuna profondità a %2 ricevitori, dove risulta maggiore della lunghezza della linea.</translation>
     </message>
@@ -7626,14 +7899,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>Layer %1, %2: nothing</source>
         <translation>Strato %1, %2: nulla</translation>
-    </message>
-    <message>
-        <source>Layer %1, %2: %3 m/s, no depth</source>
-        <translation>Strato %1, %2: %3 m/s, nessuna profondità</translation>
-    </message>
-    <message>
-        <source>Layer %1, %2: %3 m/s at a depth of %4 m (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
-        <translation>Strato %1, %2: %3 m/s a una profondità di %4 m (mediane); profondità a %5 geofoni su %6, di cui %7 non sostenute da primi arrivi in quel punto</translation>
     </message>
     <message>
         <source>Layer %1: methods disagree beyond the errors of the picks in depth at %2 of %3 geophones, in velocity at %4</source>
@@ -7672,10 +7937,6 @@ Impostare la posizione dei geofoni
         <translation>nessuno strato proposto: i primi arrivi sono troppo pochi per adattarne</translation>
     </message>
     <message>
-        <source>no layers: a velocity that grows steadily with depth, from %1 m/s by %2 m/s per metre, has a misfit of %3 ms</source>
-        <translation>nessuno strato: una velocità che cresce costantemente con la profondità, da %1 m/s di %2 m/s al metro, ha uno scarto di %3 ms</translation>
-    </message>
-    <message>
         <source>%1; without layers, by a steady gradient, %2 ms</source>
         <translation>%1; senza strati, con un gradiente costante, %2 ms</translation>
     </message>
@@ -7710,10 +7971,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>%1 reaches %2 down, below the grid; what is below %3 does not count.</source>
         <translation>%1 arriva a %2 di profondità, sotto la griglia; ciò che sta sotto %3 non conta.</translation>
-    </message>
-    <message>
-        <source>%1, %2 to %3 m</source>
-        <translation>%1, da %2 a %3 m</translation>
     </message>
     <message>
         <source>%1: no cell is mostly of this layer; it counts by its share of cells, or lies within a fixed body.</source>
@@ -7832,10 +8089,6 @@ Impostare la posizione dei geofoni
         <translation>Lo strato 3 comincia sopra lo strato 2 a %1 ricevitori su %2; lì lo strato 2 è tralasciato.</translation>
     </message>
     <message>
-        <source>Layer %1 is known from %2 to %3 m; its depth and velocity stay as they are there to the ends of the grid.</source>
-        <translation>Lo strato %1 è noto da %2 a %3 m; oltre, fino ai bordi della griglia, profondità e velocità restano quelle dei due estremi.</translation>
-    </message>
-    <message>
         <source>The grid ends above layer %1 in %2 of %3 columns.</source>
         <translation>La griglia finisce sopra lo strato %1 in %2 colonne su %3.</translation>
     </message>
@@ -7866,10 +8119,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>No method gives a depth.</source>
         <translation>Nessun metodo dà una profondità.</translation>
-    </message>
-    <message>
-        <source>The layers make no velocity model. Order them by depth, without overlap, each more than 0.02 m thick.</source>
-        <translation>Gli strati non formano un modello di velocità. Ordinarli per profondità, senza sovrapposizioni, ognuno spesso più di 0,02 m.</translation>
     </message>
     <message>
         <source>this is no file with the members of an ensemble</source>
@@ -7908,10 +8157,6 @@ Impostare la posizione dei geofoni
         <translation>Strato %1, mediane di %2 punti: %3; %4</translation>
     </message>
     <message>
-        <source>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, Poisson&apos;s ratio %4</source>
-        <translation>Vp %1 m/s, Vs %2 m/s, Vp/Vs %3, coefficiente di Poisson %4</translation>
-    </message>
-    <message>
         <source>density %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</source>
         <translation>densità %1 kg/m3, G0 %2 MPa, E0 %3 MPa, K %4 MPa, M %5 MPa</translation>
     </message>
@@ -7930,10 +8175,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>Layer %1: at %2 of %3 places Vp/Vs is below 1.41 and Poisson&apos;s ratio negative, which soil and rock are not: the velocities are of different ground, or wrong.</source>
         <translation>Strato %1: in %2 punti su %3 Vp/Vs è sotto 1,41 e il coefficiente di Poisson negativo, come in nessun terreno o roccia: le velocità sono di terreni diversi, o sbagliate.</translation>
-    </message>
-    <message>
-        <source>Gardner&apos;s rule was found for rocks faster than 1500 m/s; at %1 of %2 places Vp is less, and the density a guess.</source>
-        <translation>La relazione di Gardner vale per rocce più veloci di 1500 m/s; in %1 punti su %2 Vp è minore, e la densità solo indicativa.</translation>
     </message>
     <message>
         <source>The surfaces of P and S lie up to %1 apart, at %2: they may not be the same line, or not begin at the same place.</source>
@@ -7980,14 +8221,6 @@ Impostare la posizione dei geofoni
         <translation>le dromocrone dello strato %1 seguono le rette dei tiri %2 e %3, che danno %4 e %5 ms per il percorso fra questi tiri</translation>
     </message>
     <message>
-        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 m on</source>
-        <translation>il profilo si adatta ai suoi primi arrivi solo entro %1 ms, le onde della proposta entro %2 ms: se ne scosta dal tiro %3 a %4 m in poi</translation>
-    </message>
-    <message>
-        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4 m</source>
-        <translation>il profilo si adatta ai suoi primi arrivi solo entro %1 ms, le onde della proposta entro %2 ms: se ne scosta di più al tiro %3 a %4 m</translation>
-    </message>
-    <message>
         <source>the delays of the waves change so fast along the line that no boundary has them all</source>
         <translation>i ritardi delle onde cambiano così in fretta lungo la linea che nessuna interfaccia li spiega tutti</translation>
     </message>
@@ -8006,14 +8239,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>plus-minus</source>
         <translation>plus-minus</translation>
-    </message>
-    <message>
-        <source>Layer %1: depths are farthest apart at %2 m, from %3 m (%4) to %5 m (%6)</source>
-        <translation>Strato %1: le profondità discordano di più a %2 m, da %3 m (%4) a %5 m (%6)</translation>
-    </message>
-    <message>
-        <source>Layer %1: velocities are farthest apart at %2 m, from %3 m/s (%4) to %5 m/s (%6)</source>
-        <translation>Strato %1: le velocità discordano di più a %2 m, da %3 m/s (%4) a %5 m/s (%6)</translation>
     </message>
     <message>
         <source>to the right of shot %1</source>
@@ -8450,10 +8675,6 @@ Impostare la posizione dei geofoni
     <message>
         <source>Without an elevation, raised to the line between the others: %1</source>
         <translation>Senza quota, portati sulla linea fra gli altri: %1</translation>
-    </message>
-    <message>
-        <source>Farther from the line than half the spacing of %1 m: %2</source>
-        <translation>Più lontani dalla linea di metà del passo di %1 m: %2</translation>
     </message>
     <message>
         <source>Hardly apart from their neighbours: %1</source>
@@ -8996,10 +9217,6 @@ Impostare la posizione dei geofoni
         <translation>senza corrispondente: %1 tracce del tiro %2, %3 del tiro %4</translation>
     </message>
     <message>
-        <source>left out: %1 pairs with a trace that is killed or has no sample interval</source>
-        <translation>tralasciate: %1 coppie con una traccia esclusa o senza intervallo di campionamento</translation>
-    </message>
-    <message>
         <source>the second is %1 times as strong</source>
         <translation>il secondo è forte %1 volte il primo</translation>
     </message>
@@ -9034,6 +9251,170 @@ Impostare la posizione dei geofoni
     <message>
         <source>At 1:%1 the figure is too large even for many sheets: choose 1:%2, or a scale between them.</source>
         <translation>A 1:%1 la figura è troppo grande anche per molti fogli: scegli 1:%2 o una scala intermedia.</translation>
+    </message>
+    <message>
+        <source>put the %1 geophones of its string at %2 to %3</source>
+        <translation>mettere i %1 geofoni della sua stesa da %2 a %3</translation>
+    </message>
+    <message>
+        <source>%1; over %2 shots the least times move by one channel as the shot moves by %3, so geophone 1 is at %4 and the last one at %5</source>
+        <translation>%1; su %2 tiri i tempi minimi si spostano di un canale quando il tiro si sposta di %3: il geofono 1 è quindi a %4 e l&apos;ultimo a %5</translation>
+    </message>
+    <message>
+        <source>no geophone stands between %1 and %2: the ground there is seen from neither side unless shots reach over it</source>
+        <translation>nessun geofono fra %1 e %2: il terreno lì non si vede da nessun lato, se non vi sono tiri che lo attraversano</translation>
+    </message>
+    <message>
+        <source>the positions of the geophones are no metres: over %1 shots the least times move by 1 as the shot moves by %2; geophones %3 apart from %4 on have them beside the shots</source>
+        <translation>le posizioni dei geofoni non sono metri: su %1 tiri i tempi minimi si spostano di 1 quando il tiro si sposta di %2; con geofoni ogni %3 a partire da %4 cadono accanto ai tiri</translation>
+    </message>
+    <message>
+        <source>the record is about %1 ms %2: the geophones nearest to the shot, %3 away, would put the blow between %4 and %5 ms, whatever the ground</source>
+        <translation>la registrazione è %2 di circa %1 ms: secondo i geofoni più vicini al tiro, a %3, l&apos;energizzazione sarebbe fra %4 e %5 ms, qualunque sia il terreno</translation>
+    </message>
+    <message>
+        <source>The layers make no velocity model. Order them by depth, without overlap, each more than %1 thick.</source>
+        <translation>Gli strati non formano un modello di velocità. Ordinarli per profondità, senza sovrapposizioni, ognuno spesso più di %1.</translation>
+    </message>
+    <message>
+        <source>%1 velocities and depths of the layers are left out: outside %2 to %3, or deeper than the line is long</source>
+        <translation>%1 velocità e profondità degli strati tralasciate: fuori dall&apos;intervallo da %2 a %3, o più profonde della lunghezza della linea</translation>
+    </message>
+    <message>
+        <source>velocities of %1 cell cannot be; they are held within %2 and %3</source>
+        <translation>la velocità di %1 cella non è possibile; è stata portata fra %2 e %3</translation>
+    </message>
+    <message>
+        <source>velocities of %1 cells cannot be; they are held within %2 and %3</source>
+        <translation>le velocità di %1 celle non sono possibili; sono state portate fra %2 e %3</translation>
+    </message>
+    <message>
+        <source>by its headers the geophones stand along %1; their scalar or unit is likely wrong, so check them or load a geometry file</source>
+        <translation>secondo le intestazioni i geofoni si estendono per %1; il loro fattore di scala o la loro unità è probabilmente sbagliata: controllarli o caricare un file di geometria</translation>
+    </message>
+    <message>
+        <source>%1 fields that there is no room for, among them %2</source>
+        <translation>%1 campi per cui non c&apos;è posto, fra cui %2</translation>
+    </message>
+    <message>
+        <source>%1 is no velocity of ground (%2 to %3)</source>
+        <translation>%1 non è una velocità del terreno (da %2 a %3)</translation>
+    </message>
+    <message>
+        <source>it has %1 points, more than %2</source>
+        <translation>ha %1 punti, più di %2</translation>
+    </message>
+    <message>
+        <source>%1 is no depth below the surface (0 to %2)</source>
+        <translation>%1 non è una profondità dal suolo (da 0 a %2)</translation>
+    </message>
+    <message>
+        <source>a layer from %1 to %2 has its bottom not below its top</source>
+        <translation>uno strato da %1 a %2 ha il letto non più in basso del tetto</translation>
+    </message>
+    <message>
+        <source>an error of %1 must not be negative, and less than its velocity, %2</source>
+        <translation>un errore di %1 non può essere negativo, e deve essere minore della velocità, %2</translation>
+    </message>
+    <message>
+        <source>Farther from the line than half the spacing of %1: %2</source>
+        <translation>Più lontani dalla linea di metà del passo di %1: %2</translation>
+    </message>
+    <message>
+        <source>Vp %1, Vs %2, Vp/Vs %3, Poisson&apos;s ratio %4</source>
+        <translation>Vp %1, Vs %2, Vp/Vs %3, coefficiente di Poisson %4</translation>
+    </message>
+    <message>
+        <source>Gardner&apos;s rule was found for rocks faster than %1; at %2 of %3 places Vp is less, and the density a guess.</source>
+        <translation>La relazione di Gardner vale per rocce più veloci di %1; in %2 punti su %3 Vp è minore, e la densità solo indicativa.</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off from shot %3 at %4 on</source>
+        <translation>il profilo si adatta ai suoi primi arrivi solo entro %1 ms, le onde della proposta entro %2 ms: se ne scosta dal tiro %3 a %4 in poi</translation>
+    </message>
+    <message>
+        <source>the profile fits its picks to %1 ms only, the waves of the proposal to %2 ms: it is off most at shot %3 at %4</source>
+        <translation>il profilo si adatta ai suoi primi arrivi solo entro %1 ms, le onde della proposta entro %2 ms: se ne scosta di più al tiro %3 a %4</translation>
+    </message>
+    <message>
+        <source>Layer %1: no velocity and no depth at %2 receivers, where the velocity comes out outside %3 to %4.</source>
+        <translation>Strato %1: né velocità né profondità a %2 ricevitori, dove la velocità risulta fuori dall&apos;intervallo da %3 a %4.</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3, no depth</source>
+        <translation>Strato %1, %2: %3, nessuna profondità</translation>
+    </message>
+    <message>
+        <source>Layer %1, %2: %3 at a depth of %4 (medians); depths at %5 of %6 geophones, %7 of them not carried by picks there</source>
+        <translation>Strato %1, %2: %3 a una profondità di %4 (mediane); profondità a %5 geofoni su %6, di cui %7 non sostenute da primi arrivi in quel punto</translation>
+    </message>
+    <message>
+        <source>Layer %1: depths are farthest apart at %2, from %3 (%4) to %5 (%6)</source>
+        <translation>Strato %1: le profondità discordano di più a %2, da %3 (%4) a %5 (%6)</translation>
+    </message>
+    <message>
+        <source>Layer %1: velocities are farthest apart at %2, from %3 (%4) to %5 (%6)</source>
+        <translation>Strato %1: le velocità discordano di più a %2, da %3 (%4) a %5 (%6)</translation>
+    </message>
+    <message>
+        <source>no layers: a velocity that grows steadily with depth, from %1 with a gradient of %2 1/s, has a misfit of %3 ms</source>
+        <translation>nessuno strato: una velocità che cresce costantemente con la profondità, da %1 con un gradiente di %2 1/s, ha uno scarto di %3 ms</translation>
+    </message>
+    <message>
+        <source>The velocity limits must be positive numbers, the least below the greatest; %1 and %2 are not.</source>
+        <translation>I limiti di velocità devono essere numeri positivi, il minimo sotto il massimo; %1 e %2 non lo sono.</translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3</source>
+        <translation>%1, da %2 a %3</translation>
+    </message>
+    <message>
+        <source>velocities of %1 and %2 do not increase with depth</source>
+        <translation>velocità di %1 e %2 non crescono con la profondità</translation>
+    </message>
+    <message>
+        <source>%1 at the surface, %2 where the deepest ray turns, %3 down</source>
+        <translation>%1 in superficie, %2 dove il raggio più profondo risale, a %3 di profondità</translation>
+    </message>
+    <message>
+        <source>%1, %2 from %3 down, %4 from %5 down</source>
+        <translation>%1, %2 oltre %3 di profondità, %4 oltre %5</translation>
+    </message>
+    <message>
+        <source>%1 with a gradient of %2 1/s, %3 from %4 down</source>
+        <translation>%1 con un gradiente di %2 1/s, %3 oltre %4 di profondità</translation>
+    </message>
+    <message>
+        <source>%1, %2 from %3 down</source>
+        <translation>%1, %2 oltre %3 di profondità</translation>
+    </message>
+    <message>
+        <source>Layer %1 is known from %2 to %3; its depth and velocity stay as they are there to the ends of the grid.</source>
+        <translation>Lo strato %1 è noto da %2 a %3; oltre, fino ai bordi della griglia, profondità e velocità restano quelle dei due estremi.</translation>
+    </message>
+    <message>
+        <source>the records of shot %1 and shot %2 begin too far apart in time to be laid over each other; look at the delays in their headers</source>
+        <translation>le registrazioni del tiro %1 e del tiro %2 cominciano troppo lontano nel tempo per essere sovrapposte; guarda i ritardi nelle loro intestazioni</translation>
+    </message>
+    <message>
+        <source>the shots are at one place</source>
+        <translation>i tiri sono nello stesso punto</translation>
+    </message>
+    <message>
+        <source>the shots are %1 apart</source>
+        <translation>i tiri distano fra loro %1</translation>
+    </message>
+    <message>
+        <source>the shots are %1 apart: difference and sum are not of one place</source>
+        <translation>i tiri distano fra loro %1: differenza e somma non sono di uno stesso punto</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs with a trace that is killed, or has no samples or no interval</source>
+        <translation>tralasciate: %1 coppie con una traccia esclusa, senza campioni o senza intervallo</translation>
+    </message>
+    <message>
+        <source>left out: %1 pairs whose records begin too far apart in time</source>
+        <translation>tralasciate: %1 coppie le cui registrazioni cominciano troppo lontano nel tempo</translation>
     </message>
 </context>
 <context>
@@ -9503,6 +9884,10 @@ Impostare la posizione dei geofoni
         <source>What would fit:</source>
         <translation>Ci starebbe con:</translation>
     </message>
+    <message>
+        <source>This is the first usual scale from %1 on at which it fits one sheet.</source>
+        <translation>È la prima scala usuale da %1 in poi con cui sta su un solo foglio.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::PrintPreview</name>
@@ -9762,6 +10147,10 @@ Impostare la posizione dei geofoni
     <message>
         <source>none: there is no recording to shift</source>
         <translation>nessuna: non c&apos;è una registrazione da traslare</translation>
+    </message>
+    <message>
+        <source>Pick the traces of more shots. Where they have picks, see whether geophones and shots stand where they stood.</source>
+        <translation>Segna i primi arrivi di altri tiri. Dove ci sono già, controlla che geofoni e tiri siano dove stavano.</translation>
     </message>
 </context>
 <context>
@@ -12307,16 +12696,24 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <source>Shots that seem to be shifted in time; a click shows the shot:</source>
         <translation>Tiri che sembrano traslati nel tempo; un clic mostra il tiro:</translation>
     </message>
+    <message>
+        <source>Picks that the section cannot explain</source>
+        <translation>Primi arrivi che la sezione non spiega</translation>
+    </message>
+    <message>
+        <source>Shots shifted in time</source>
+        <translation>Tiri traslati nel tempo</translation>
+    </message>
+    <message>
+        <source>Ground to look at</source>
+        <translation>Terreno da riguardare</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::SectionView</name>
     <message>
         <source>Vertical exaggeration:</source>
         <translation>Esagerazione verticale:</translation>
-    </message>
-    <message>
-        <source>How much higher than wide a metre is drawn</source>
-        <translation>Quanto un metro è disegnato più alto che largo</translation>
     </message>
     <message>
         <source>Vertical exaggeration</source>
@@ -12379,10 +12776,6 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <translation>Disegna</translation>
     </message>
     <message>
-        <source>Click texts, lines and areas of ground into the section; Esc ends</source>
-        <translation>Mette testi, linee e aree di terreno sulla sezione con clic; Esc termina</translation>
-    </message>
-    <message>
         <source>Text</source>
         <translation>Testo</translation>
     </message>
@@ -12405,6 +12798,22 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
     <message>
         <source>Click the corners of an area of the section</source>
         <translation>Fai clic sui vertici di un&apos;area della sezione</translation>
+    </message>
+    <message>
+        <source>How much larger heights are drawn than distances</source>
+        <translation>Di quanto le altezze sono ingrandite rispetto alle distanze</translation>
+    </message>
+    <message>
+        <source>Click texts, lines and areas of ground into the section, or move them; Esc ends</source>
+        <translation>Mette testi, linee e aree di terreno sulla sezione con clic, o li sposta; Esc termina</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Sposta</translation>
+    </message>
+    <message>
+        <source>Drag what has been drawn, or one of its corners</source>
+        <translation>Trascina ciò che è stato disegnato, o uno dei suoi vertici</translation>
     </message>
 </context>
 <context>
@@ -12730,6 +13139,22 @@ Per averli, scegliere &quot;Metodo reciproco&quot; e premere &quot;Costruisci pr
         <source>%1: %2</source>
         <comment>step, reason</comment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>talvesk::StoppingProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Stopping ...</source>
+        <translation>Interruzione ...</translation>
+    </message>
+    <message>
+        <source>Stopping: %1</source>
+        <comment>work</comment>
+        <translation>Interruzione: %1</translation>
     </message>
 </context>
 <context>
@@ -15347,10 +15772,6 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>Disegno in DXF ...</translation>
     </message>
     <message>
-        <source>Export surface, isolines, refractors, geophones and shots as a drawing for CAD</source>
-        <translation>Esporta superficie, isolinee, rifrattori, geofoni e tiri come disegno per CAD</translation>
-    </message>
-    <message>
         <source>Section as curtain on the map ...</source>
         <translation>Sezione come cortina sulla mappa ...</translation>
     </message>
@@ -15700,10 +16121,6 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <translation>%1: progetto %2 di %3</translation>
     </message>
     <message>
-        <source>Stopped; the campaign page has not been saved.</source>
-        <translation>Interrotto; la pagina della campagna non è stata salvata.</translation>
-    </message>
-    <message>
         <source>Saved in %1, without the changes of this survey that are not saved</source>
         <translation>Salvata in %1, senza le modifiche di questo rilievo che non sono salvate</translation>
     </message>
@@ -15835,6 +16252,18 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
         <source>Section as it is shown</source>
         <translation>Sezione come è mostrata</translation>
     </message>
+    <message>
+        <source>Export surface, isolines, refractors, geophones, shots and annotations as a drawing for CAD</source>
+        <translation>Esporta superficie, isolinee, rifrattori, geofoni, tiri e annotazioni come disegno per CAD</translation>
+    </message>
+    <message>
+        <source>Stopped; the campaign page has not been saved, pages of %1 of its %2 projects have.</source>
+        <translation>Interrotto; la pagina della campagna non è stata salvata, quelle di %1 dei suoi %2 progetti sì.</translation>
+    </message>
+    <message>
+        <source>The printer failed after %1 of %2 sheets.</source>
+        <translation>La stampante si è fermata dopo %1 fogli su %2.</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::TraceAxes</name>
@@ -15914,6 +16343,10 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>Rows copied: %1</source>
         <translation>Righe copiate: %1</translation>
+    </message>
+    <message>
+        <source>Not in the table: %1</source>
+        <translation>Fuori dalla tabella: %1</translation>
     </message>
 </context>
 <context>
@@ -16838,6 +17271,10 @@ Segna i primi arrivi nelle tracce, a mano o con l&apos;AutoPick, o importa tempi
     <message>
         <source>What the section shows has no contours. Those of the velocity lie between %1 and %2 %3</source>
         <translation>Ciò che la sezione mostra non ha isolinee. Quelle della velocità stanno fra %1 e %2 %3</translation>
+    </message>
+    <message>
+        <source>; the file has them in %1</source>
+        <translation>; nel file sono in %1</translation>
     </message>
 </context>
 <context>
