@@ -1,6 +1,7 @@
 #include "view/ContourLines.h"
 
 #include "base/RoundStep.h"
+#include "base/TextNumber.h"
 #include "view/ShownUnit.h"
 
 #include <algorithm>
@@ -215,7 +216,11 @@ std::vector<double> shownRoundValues(const ValueRange& range, int most, const st
   const double factor = shownUnit(unit).factor;
   if (factor == 1.0) return roundValues(range, most);
   std::vector<double> values = roundValues({range.min * factor, range.max * factor}, most);
-  for (double& value : values) value = std::clamp(value / factor, range.min, range.max);
+  for (double& value : values) {
+    // The number that stands for it when it is typed: 1500 ft/s are 457.2 m/s, to 15 digits.
+    parseDouble(formatDouble(value / factor, 15), value);
+    value = std::clamp(value, range.min, range.max);
+  }
   return values;
 }
 

@@ -242,6 +242,7 @@ TEST_F(Feet, leaveIsovaluesAsTheyAreAndTakeTypedOnesExactly) {
   dialog.findChild<QPushButton*>("round_button")->click();
   for (const double value : dialog.settings().customValues) {
     EXPECT_NEAR(std::remainder(shownLength(value), 50.0), 0.0, 1e-9) << value;
+    EXPECT_EQ(value, QString::number(value, 'g', 15).toDouble()) << "as if it were typed";
   }
 }
 
