@@ -30,7 +30,7 @@ Blow readBlow(std::string text) {
 
 void readPair(const std::string& text, BlowPairRequest& pair) {
   const std::vector<std::string_view> parts = splitFields(text, ',');
-  if (parts.size() != 2) {
+  if (parts.size() != 2 || text.back() == ',') {  // an empty last field is none
     throw CLI::ValidationError(kOption, "'" + text + "' does not name two shots: 3,5");
   }
   pair.first = readBlow(std::string(parts[0]));
@@ -130,13 +130,14 @@ Status writeBlowPairRecords(const RecordsOptions& options, const TomoDocument& d
   if (status.ok() && !pair.hasSum()) status = Status::failure(pair.noSum);
   if (!status.ok()) return status;
   for (const Message& line : describeLosses(pair)) warn(line);
-  if (pair.isOfTwoPlaces()) warn(describeShotPlaces(pair));
+  if (pair.isOfTwoPlaces() || pair.isWithoutPlaces()) warn(describeShotPlaces(pair));
   out << pair.matched << " traces at the same places; " << describeShotPlaces(pair)
       << "; the second is " << formatDouble(pair.strength, 3) << " times as strong\n";
   std::vector<Message> notes;
   for (const Wanted& each : wanted) {
-    status = writeRecord(pair.document, each.set, options.format, each.path, notes);
-    if (!status.ok()) return status;
+    status = writeRecord(pair.document, each.set, static_cast<int>(pair.shotOf(each.set) + 1),
+                         options.format, each.path, notes);
+    if (!status.ok()) return Status::failure(joined(nameOf(pair, each.set), status.text()));
     out << "Wrote " << each.path << std::endl;
   }
   for (const Message& note : notes) warn(note);

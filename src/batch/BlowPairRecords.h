@@ -17,7 +17,7 @@ namespace talvesk {
 
 /// --blow-pair and what goes with it. `pair` must outlive the parsing.
 /// \param allRecords options that are about all records of a survey
-/// \return to be called once the line is parsed; throws CLI::ValidationError
+/// \return to be called once the line is parsed; throws CLI::RequiredError
 std::function<void()> addBlowPair(CLI::App& command, std::optional<BlowPairRequest>& pair,
                                   const std::vector<CLI::Option*>& allRecords);
 

@@ -51,11 +51,11 @@ double startOf(const Trace& trace) {
   return std::fabs(start) < trace.sampleInterval / 1000.0 ? 0.0 : start;
 }
 
-Status uneven(std::size_t shot) {
+Status uneven(int shot) {
   return Status::failure(
       Message::tr("the traces of shot %1 differ in sample interval or in the time of their first "
                   "sample; they cannot be in one record")
-          .arg(shot + 1));
+          .arg(shot));
 }
 
 /// Where the survey has the geophone of a trace.
@@ -171,7 +171,8 @@ Status forEachRecord(const TomoDocument& document, const std::vector<std::size_t
   for (std::size_t i = 0; i < shots.size(); ++i) {
     if (progress && !progress(i)) return Status::failure(Message::tr("it was stopped"));
     WrittenShot shot;
-    Status status = writtenShotOf(document, shots[i], shot, rounded);
+    Status status =
+        writtenShotOf(document, shots[i], static_cast<int>(shots[i] + 1), shot, rounded);
     if (status.ok()) status = take(i, std::move(shot));
     if (!status.ok()) return status;
   }
@@ -184,17 +185,17 @@ std::vector<std::string> recordFiles(const TomoDocument& document, const RecordE
   return filesOf(shotsToWrite(document), document.ttArray.size(), wanted);
 }
 
-Status writtenShotOf(const TomoDocument& document, std::size_t shot, WrittenShot& written,
-                     std::size_t& rounded) {
+Status writtenShotOf(const TomoDocument& document, std::size_t shot, int number,
+                     WrittenShot& written, std::size_t& rounded) {
   const TravelTime& record = document.ttArray[shot];
   const TraceSet* traces = document.tracesOf(record);
   if (!hasSamples(traces)) {
-    return Status::failure(Message::tr("shot %1 has no samples").arg(shot + 1));
+    return Status::failure(Message::tr("shot %1 has no samples").arg(number));
   }
   const auto set = static_cast<std::size_t>(record.traceSetID);
   const Trace& first = traces->front();
   written = {};
-  written.number = static_cast<int>(shot + 1);
+  written.number = number;
   written.source = isFinite(record.shotPos2d) ? record.shotPos2d : first.sourcePosition;
   written.sampleInterval = first.sampleInterval;
   written.delay = startOf(first);
@@ -207,23 +208,22 @@ Status writtenShotOf(const TomoDocument& document, std::size_t shot, WrittenShot
   for (std::size_t i = 0; i < traces->size(); ++i) {
     const Trace& trace = (*traces)[i];
     if (trace.sampleInterval != first.sampleInterval || startOf(trace) != written.delay) {
-      return uneven(shot);
+      return uneven(number);
     }
     written.receivers.push_back(receiverOf(document, record, trace, i));
     written.dead.push_back(isDead(document, set, i));
     if (takeSamples(trace.samples, length, written.traces.emplace_back(), rounded)) continue;
-    return Status::failure(Message::tr("shot %1, trace %2: a sample is too large for a file")
-                               .arg(shot + 1)
-                               .arg(i + 1));
+    return Status::failure(
+        Message::tr("shot %1, trace %2: a sample is too large for a file").arg(number).arg(i + 1));
   }
   return {};
 }
 
-Status writeRecord(const TomoDocument& document, std::size_t shot, RecordFormat format,
+Status writeRecord(const TomoDocument& document, std::size_t shot, int number, RecordFormat format,
                    const std::string& path, std::vector<Message>& notes) {
   WrittenShot written;
   std::size_t rounded = 0;
-  Status status = writtenShotOf(document, shot, written, rounded);
+  Status status = writtenShotOf(document, shot, number, written, rounded);
   if (status.ok()) status = fits(written, format);
   if (!status.ok()) return status;
   const bool seg2 = format == RecordFormat::kSeg2;

@@ -29,12 +29,12 @@ std::vector<std::string> recordFiles(const TomoDocument& document, const RecordE
 /// Makes the record of a shot as the survey has it now: its mended samples with the positions of
 /// the survey. Samples become 32-bit floats. Readers that never read the last sample of a trace
 /// would lose it, so a trace whose last sample is not 0 makes all of the shot longer by a 0.
-/// \param shot from 0
+/// \param shot from 0 \param number that the record has in files and complaints
 /// \param rounded out, added to: samples that such a float does not hold exactly
 /// \return failure for a shot whose traces have no common interval, start or length in time, or a
 /// sample beyond every float
-Status writtenShotOf(const TomoDocument& document, std::size_t shot, WrittenShot& written,
-                     std::size_t& rounded);
+Status writtenShotOf(const TomoDocument& document, std::size_t shot, int number,
+                     WrittenShot& written, std::size_t& rounded);
 
 /// Writes the records of a survey, every file whole or not at all. Nothing is written where a shot
 /// does not fit the format. Shots without samples and disabled shots are left out.
@@ -47,7 +47,7 @@ Status exportRecords(const TomoDocument& document, const RecordExport& wanted,
 
 /// Writes the record of one shot to a file of any name. Fails as writtenShotOf(), and where the
 /// shot does not fit the format. \param notes out, added to: what was rounded
-Status writeRecord(const TomoDocument& document, std::size_t shot, RecordFormat format,
+Status writeRecord(const TomoDocument& document, std::size_t shot, int number, RecordFormat format,
                    const std::string& path, std::vector<Message>& notes);
 
 }  // namespace talvesk

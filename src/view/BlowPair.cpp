@@ -60,8 +60,9 @@ std::vector<Match> matchesOf(const std::vector<Point2D>& first, const std::vecto
   for (std::size_t j = 0; j < second.size(); ++j) {
     if (std::isfinite(second[j].x)) byPlace.push_back(j);
   }
-  std::sort(byPlace.begin(), byPlace.end(),
-            [&](std::size_t a, std::size_t b) { return second[a].x < second[b].x; });
+  // Those at one place stay in the order of their numbers.
+  std::stable_sort(byPlace.begin(), byPlace.end(),
+                   [&](std::size_t a, std::size_t b) { return second[a].x < second[b].x; });
   std::vector<Near> near;
   for (std::size_t i = 0; i < first.size(); ++i) {
     if (!std::isfinite(first[i].x)) continue;

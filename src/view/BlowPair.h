@@ -66,6 +66,11 @@ struct BlowPair {
   Message noSum;                 ///< why there is neither difference nor sum; empty where there are
 
   bool hasSum() const { return noSum.empty(); }
+  /// Which shot a set of `document` is of, and the place of: the difference and the sum have those
+  /// of the first.
+  std::size_t shotOf(Set set) const { return set == kSecond ? second.shot : first.shot; }
+  /// Nothing tells where shots and geophones were: all are at one place, or a shot at none.
+  bool isWithoutPlaces() const;
   /// The shots are so far apart that their difference and sum are not of one place: by more than a
   /// tenth of what geophones are.
   bool isOfTwoPlaces() const;

@@ -9,11 +9,19 @@ constexpr double kOnePlace = 0.1;  ///< of the distance between geophones
 
 }  // namespace
 
+bool BlowPair::isWithoutPlaces() const {
+  return !std::isfinite(shotsApart) || (matched > 1 && !(spacing > 0.0));
+}
+
 bool BlowPair::isOfTwoPlaces() const {
   return shotsApart > kOnePlace * spacing && shotsApart > 0.0;
 }
 
 Message describeShotPlaces(const BlowPair& pair) {
+  if (pair.isWithoutPlaces()) {
+    return Message::tr(
+        "where shots and geophones were is not known: traces go together as numbered");
+  }
   if (!(pair.shotsApart > 0.0)) return Message::tr("the shots are at one place");
   const Message apart = Message::length(pair.shotsApart, 3);
   if (!pair.isOfTwoPlaces()) return Message::tr("the shots are %1 apart").arg(apart);

@@ -4,6 +4,9 @@
 #include "support/ShotDocument.h"
 #include "view/ColorPalette.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
@@ -50,9 +53,30 @@ TEST_F(BlowPairRecords, areTheDifferenceAndTheSumOfTwoShots) {
 }
 
 TEST_F(BlowPairRecords, areSeg2OnDemandAndOfEqualStrength) {
-  ASSERT_EQ(run({"--blow-pair", "2,3", "--sum", "--equal-strength", "--as", "seg2"}).code, 0);
-  EXPECT_TRUE(folder.holds("out/sum02-03.sg2"));
+  const std::vector<std::string> sum = {"--blow-pair", "2,3", "--sum", "--as", "seg2"};
+  ASSERT_EQ(run(sum).code, 0);
+  const std::vector<double> as = samplesOf(folder / "out/sum02-03.sg2", 4);
+  std::vector<std::string> equal = sum;
+  equal.push_back("--equal-strength");
+  ASSERT_EQ(run(equal).code, 0);
+  const std::vector<double> balanced = samplesOf(folder / "out/sum02-03.sg2", 4);
   EXPECT_FALSE(folder.holds("out/difference02-03.sg2"));
+  const std::vector<double> a = samplesOf(shots[1], 4);
+  const std::vector<double> b = samplesOf(shots[2], 4);
+  const auto largest = static_cast<std::size_t>(std::max_element(b.begin(), b.end()) - b.begin());
+  const double factor = (balanced[largest] - a[largest]) / b[largest];
+  EXPECT_GT(std::abs(factor - 1.0), 1e-5) << "they are nearly as strong, but not quite";
+  for (std::size_t i = 0; i < b.size(); ++i) {
+    EXPECT_FLOAT_EQ(static_cast<float>(as[i]), static_cast<float>(a[i] + b[i]));
+    EXPECT_NEAR(balanced[i], a[i] + factor * b[i], 2e-7 * (std::abs(a[i]) + std::abs(b[i])) + 1e-6);
+  }
+}
+
+TEST_F(BlowPairRecords, haveTheNumberOfTheFirst) {
+  ASSERT_EQ(run({"--blow-pair", "2,3", "--sum"}).code, 0);
+  const std::string bytes = contentsOf(folder / "out/sum02-03.sgy");
+  ASSERT_GT(bytes.size(), 3612U);
+  EXPECT_EQ(bytes.substr(3608, 4), std::string("\0\0\0\2", 4)) << "its field record";
 }
 
 TEST_F(BlowPairRecords, areRefusedWithAReason) {
@@ -64,6 +88,7 @@ TEST_F(BlowPairRecords, areRefusedWithAReason) {
       {{"--blow-pair", "1,2"}, 2, "--difference or --sum"},
       {{"--difference"}, 2, "--blow-pair"},
       {{"--blow-pair", "1", "--sum"}, 2, "does not name two shots"},
+      {{"--blow-pair", "1,2,", "--sum"}, 2, "does not name two shots"},
       {{"--blow-pair", "1,1", "--sum"}, 2, "names one recording twice"},
       {{"--blow-pair", "0,1", "--sum"}, 2, "not a whole number"},
       {{"--blow-pair", "1,x", "--sum"}, 2, "not a whole number"},

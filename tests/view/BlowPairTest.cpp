@@ -209,6 +209,21 @@ INSTANTIATE_TEST_SUITE_P(
         Places{0.125, false, "the shots are 0.125 m apart"},
         Places{0.5, true, "the shots are 0.5 m apart: difference and sum are not of one place"}));
 
+TEST(BlowPair, doubtsPlacesThatNobodyKnows) {
+  TomoDocument document = oppositeBlows();
+  for (TravelTime& record : document.ttArray.edit()) record.shotPos2d = {0.0, 0.0};
+  for (Point2D& place : document.line.edit().goephonesStringSet[0]) place = {0.0, 0.0};
+  const BlowPair pair = layered(document);
+  EXPECT_EQ(pair.matched, 6U);
+  EXPECT_TRUE(pair.isWithoutPlaces());
+  EXPECT_THAT(describeShotPlaces(pair).english(), HasSubstr("is not known"));
+  for (std::size_t trace = 0; trace < 6; ++trace) {
+    EXPECT_NEAR(samplesOf(pair, BlowPair::kSum, trace)[5], 2.0 * std::sin(3.5), 1e-12)
+        << "by their numbers";
+  }
+  EXPECT_FALSE(layered(oppositeBlows()).isWithoutPlaces());
+}
+
 TEST(BlowPair, refusesASumOfWhatIsSampledOtherwise) {
   TomoDocument document = oppositeBlows();
   for (Trace& trace : document.recordings.edit().traceSets[1]) trace.sampleInterval = 0.0005;

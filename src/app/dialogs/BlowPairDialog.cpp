@@ -213,7 +213,7 @@ void BlowPairDialog::compute() {
 void BlowPairDialog::refreshNotices() {
   QString places = mHasPair ? textOf(describeShotPlaces(mPair)) : QString();
   if (!places.isEmpty()) places[0] = places[0].toUpper();
-  const bool doubtful = mHasPair && mPair.isOfTwoPlaces();
+  const bool doubtful = mHasPair && (mPair.isOfTwoPlaces() || mPair.isWithoutPlaces());
   mUi->placesLabel->setText(places);
   mUi->placesLabel->setStyleSheet(doubtful ? warningStyle(*mUi->placesLabel) : QString());
   mUi->placesLabel->setVisible(!places.isEmpty());

@@ -80,7 +80,9 @@ void BlowPairPresenter::saveShot() {
   const bool segy = file.endsWith(QLatin1String(".sgy"), Qt::CaseInsensitive);
   std::vector<Message> notes;
   exportTo(mDesk, file, [&](const std::string& path) {
-    return writeRecord(mDialog->pair().document, mDialog->wanted(),
+    const BlowPair& pair = mDialog->pair();
+    const BlowPair::Set wanted = mDialog->wanted();
+    return writeRecord(pair.document, wanted, static_cast<int>(pair.shotOf(wanted) + 1),
                        segy ? RecordFormat::kSegy : RecordFormat::kSeg2, path, notes);
   });
   if (!notes.empty()) mDesk.tellNotes(notes);
