@@ -316,6 +316,11 @@ TEST_F(Fitting, takesFoundTimeShiftsOverAsMends) {
   table.setCurrentCell(1, 1);
   EXPECT_EQ(child<QTabWidget>("tabWidget").currentWidget(), &child<QWidget>("tab_3"));
   EXPECT_EQ(child<editTravelTimesWidget>("showTracesWidget").shot(), 1);
+  table.item(3, 0)->setCheckState(Qt::Unchecked);
+  QEvent change(QEvent::LanguageChange);
+  QApplication::sendEvent(window.get(), &change);
+  EXPECT_EQ(table.item(3, 0)->checkState(), Qt::Unchecked) << "what was chosen stays";
+  table.item(3, 0)->setCheckState(Qt::Checked);
   look.findChild<QPushButton*>("takeOverButton")->click();
   const TomoDocument& line = window->document();
   ASSERT_GE(line.recordings->mends.size(), 2U);

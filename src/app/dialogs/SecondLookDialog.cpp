@@ -61,11 +61,34 @@ SecondLookDialog::SecondLookDialog(QWidget* parent)
 SecondLookDialog::~SecondLookDialog() = default;
 
 void SecondLookDialog::setLook(SecondLook look) {
+  const SecondLook before = std::move(mLook);
+  std::vector<bool> chosen;
+  for (std::size_t i = 0; i < before.shifts.size(); ++i) {
+    const QTableWidgetItem* item = mUi->shiftsTable->item(static_cast<int>(i), kShiftShot);
+    chosen.push_back(item->checkState() == Qt::Checked);
+  }
   mLook = std::move(look);
   fillSuspects();
   fillShifts();
+  keepChoice(before.shifts, chosen);
   fillCells();
   showTexts();
+}
+
+/// What was chosen stays chosen where the same is found again.
+void SecondLookDialog::keepChoice(const std::vector<ShotShift>& before,
+                                  const std::vector<bool>& chosen) {
+  const QSignalBlocker quiet(mUi->shiftsTable);
+  for (std::size_t i = 0; i < mLook.shifts.size(); ++i) {
+    const ShotShift& now = mLook.shifts[i];
+    const auto same = std::find_if(before.begin(), before.end(), [&now](const ShotShift& each) {
+      return each.record == now.record && each.late == now.late && each.seeming == now.seeming;
+    });
+    if (same == before.end()) continue;
+    const bool checked = chosen[static_cast<std::size_t>(same - before.begin())];
+    mUi->shiftsTable->item(static_cast<int>(i), kShiftShot)
+        ->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+  }
 }
 
 std::vector<ShotShift> SecondLookDialog::taken() const {

@@ -34,6 +34,7 @@ class SecondLookDialog : public QDialog {
  private:
   void fillSuspects();
   void fillShifts();
+  void keepChoice(const std::vector<ShotShift>& before, const std::vector<bool>& chosen);
   void showTexts();
   void showSuspect(int row);
   void showShift(int row);
