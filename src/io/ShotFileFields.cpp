@@ -68,8 +68,8 @@ class Seg2Fields {
     for (std::size_t i = 0; i < count; ++i) {
       const std::uint64_t at = mReader.u32(kSeg2Descriptor + 4 * i, mLayout.order);
       fields.traces.emplace_back();
+      if (at >= table) firstTrace = std::min(firstTrace, at);  // even where no trace begins there
       if (mReader.u16(at, mLayout.order) != kSeg2Trace) continue;
-      if (at >= table) firstTrace = std::min(firstTrace, at);
       const std::uint64_t size = mReader.u16(at + 2, mLayout.order);
       if (size <= kSeg2Descriptor) continue;
       fields.traces.back() = fieldsOf(at + kSeg2Descriptor, size - kSeg2Descriptor);
@@ -91,7 +91,7 @@ class Seg2Fields {
       std::string name = lineOf(line.keyword);
       if (name.empty()) continue;
       if (fields.size() == kMostFields) {
-        mLeftOut.insert(std::move(name));
+        if (mLeftOut.size() < kMostLeftOut) mLeftOut.insert(std::move(name));
         continue;
       }
       fields.push_back({std::move(name), lineOf(line.value)});

@@ -15,11 +15,15 @@ struct FileField {
   std::string value;
 };
 
+/// Of what has no room so many names are kept: where there are more, they are no names.
+constexpr std::size_t kMostLeftOut = 1000;
+
 /// What the headers of a shot file say, whether or not a reader uses it.
 struct ShotFileFields {
   std::vector<FileField> common;               ///< of the file
   std::vector<std::vector<FileField>> traces;  ///< of its traces, in the order of the file
-  /// Names of fields that are not among them: more in one header than any instrument writes.
+  /// Names of fields that are not among them: more in one header than any instrument writes. The
+  /// first kMostLeftOut of them.
   std::set<std::string> leftOut;
 };
 

@@ -142,8 +142,9 @@ Source number(const char* name, Message title, Kind kind, double (*value)(const 
 
 std::vector<Source> placeSources() {
   return {
-      number("shot", Message::tr("Shot"), Kind::kCount,
-             [](const Row& row) { return static_cast<double>(row.shot + 1); }),
+      number(
+          "shot", Message::tr("Shot"), Kind::kCount,
+          [](const Row& row) { return row.record ? static_cast<double>(row.shot + 1) : kUnknown; }),
       number("trace", Message::tr("Trace"), Kind::kCount,
              [](const Row& row) { return static_cast<double>(row.index + 1); }),
       text("file", Message::tr("File"), fileOf),
@@ -246,6 +247,11 @@ Message describeLeftOut(const std::map<std::string, std::size_t>& known,
     if (column >= kMostFieldColumns) leftOut.insert(name);
   }
   if (leftOut.empty()) return {};
+  if (leftOut.size() >= kMostLeftOut) {
+    return Message::tr("%1 fields or more that there is no room for, among them %2")
+        .arg(kMostLeftOut)
+        .arg(*leftOut.begin());
+  }
   return Message::tr("%1 fields that there is no room for, among them %2")
       .arg(leftOut.size())
       .arg(*leftOut.begin());
@@ -316,6 +322,9 @@ const std::string& TraceHeaders::fieldOf(std::size_t set, std::size_t trace,
 /// Beyond the last column where there is no room for it.
 std::size_t TraceHeaders::fieldColumn(const std::string& name,
                                       std::map<std::string, std::size_t>& known) {
+  if (known.size() >= kMostFieldColumns + kMostLeftOut && known.count(name) == 0) {
+    return kMostFieldColumns;
+  }
   const auto [place, isNew] = known.emplace(name, known.size());
   if (isNew && place->second < kMostFieldColumns) mColumns.push_back({name, name, Kind::kText});
   return place->second;
@@ -331,11 +340,13 @@ void TraceHeaders::addFieldsOfFiles(std::vector<Message>& notes) {
   for (std::size_t set = 0; set < sets.size(); ++set) {
     ShotFileFields fields;
     if (const Status status = fieldsOfSet(mDocument, set, fields); !status.ok()) {
-      const std::size_t shot = mRecords[set] < mDocument.ttArray.size() ? mRecords[set] : set;
-      notes.push_back(Message::tr("shot %1: %2").arg(shot + 1).arg(status.text()));
+      const bool hasRecord = mRecords[set] < mDocument.ttArray.size();
+      notes.push_back(hasRecord
+                          ? Message::tr("shot %1: %2").arg(mRecords[set] + 1).arg(status.text())
+                          : joined(Message(shotFile(mDocument, set)), status.text()));
       continue;
     }
-    leftOut.merge(fields.leftOut);
+    if (leftOut.size() < kMostLeftOut) leftOut.merge(fields.leftOut);
     const bool turned = mendsOf(mDocument.recordings->mends, set).orderReversed;
     mFields[set].resize(sets[set].size());
     for (std::size_t trace = 0; trace < sets[set].size(); ++trace) {

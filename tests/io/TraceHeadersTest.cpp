@@ -118,6 +118,7 @@ TEST(TraceHeaders, takeTheRecordThatIsOfTheRecording) {
   EXPECT_EQ(numberAt(headers, 4, "shot"), 1.0);
   EXPECT_EQ(numberAt(headers, 4, "shot_x_m"), 17.0);
   EXPECT_TRUE(std::isnan(numberAt(headers, 2, "shot_x_m"))) << "a recording without a record";
+  EXPECT_TRUE(std::isnan(numberAt(headers, 2, "shot"))) << "the number is another one's";
   EXPECT_TRUE(std::isnan(numberAt(headers, 2, "pick_ms")));
 }
 
@@ -235,6 +236,27 @@ TEST(ShotFileFields, sayWhatTheyLeaveOutAndCut) {
   EXPECT_EQ(fields.traces[0].size(), 256U);
   EXPECT_THAT(fields.leftOut, ElementsAre("F1255", "F1256", "F1257", "F1258", "F1259"));
   EXPECT_EQ(fields.traces[0][0].value, std::string(197, 'x') + "\xE2\x80\xA6");
+}
+
+TEST(ShotFileFields, keepNamesOfWhatIsLeftOutWithinBounds) {
+  std::vector<std::string> strings;
+  for (int i = 0; i < 1500; ++i) strings.push_back("F" + std::to_string(10000 + i) + " 1");
+  ShotFileFields fields;
+  const std::string bytes = seg2Bytes({Seg2Channel{4, {1, 2, 3}, seg2Area(strings)}});
+  ASSERT_TRUE(readShotFileFields(bytes, "a.sg2", fields).ok());
+  EXPECT_EQ(fields.leftOut.size(), kMostLeftOut);
+}
+
+TEST(ShotFileFields, takeNoSamplesForFieldsOfTheFile) {
+  std::string bytes = formatSeg2(writtenShot());
+  ShotFileFields whole;
+  ASSERT_TRUE(readShotFileFields(bytes, "a.sg2", whole).ok());
+  for (std::size_t at = 32; (at = bytes.find("\x22\x44", at)) != std::string::npos; ++at) {
+    bytes[at] = bytes[at + 1] = '\0';
+  }
+  ShotFileFields broken;
+  ASSERT_TRUE(readShotFileFields(bytes, "a.sg2", broken).ok());
+  EXPECT_EQ(broken.common.size(), whole.common.size()) << "traces without their mark are traces";
 }
 
 TEST(ShotFileFields, areOneLineOfPrintableTextEach) {
