@@ -59,6 +59,11 @@ void addInfo(CLI::App& app, InfoOptions& info) {
     if (headers->count() > 0 && !oneProject && !shots) {
       throw CLI::ValidationError("--headers", "it takes shot files, or one project");
     }
+    if (!info.surveyed.table.empty() && !info.json.empty() && shots) {
+      throw CLI::ValidationError("--positions",
+                                 "--json tells of shot files what stands in them; ask for the "
+                                 "places of the table with --headers or --positions-json");
+    }
     if (list->count() > 0 && std::none_of(info.files.begin(), info.files.end(), isProjectFile)) {
       throw CLI::ValidationError("--list", "only projects have inversion runs to list");
     }

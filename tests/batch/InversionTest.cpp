@@ -1,4 +1,5 @@
 #include "batch/BatchRunner.h"
+#include "batch/OptionParsing.h"
 
 #include <algorithm>
 #include <set>
@@ -237,6 +238,13 @@ TEST(Inversion, startsNoMoreThreadsThanAMachineHasUseFor) {
   if (processors > 255) GTEST_SKIP() << "a machine that has use for them";
   EXPECT_THAT(outcome.err, HasSubstr("--threads 1024: this machine has " +
                                      std::to_string(processors) + " processors"));
+  CLI::App app;
+  unsigned threads = 0;
+  addThreadCount(app, "", [&threads](unsigned count) { threads = count; });
+  app.parse("--threads 1024");
+  EXPECT_EQ(threads, std::max(4 * processors, 32U));
+  app.parse("--threads 3");
+  EXPECT_EQ(threads, 3U);
 }
 
 TEST(Inversion, everyOutputIsTheSameInALocaleWithDecimalCommas) {

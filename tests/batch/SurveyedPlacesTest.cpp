@@ -161,6 +161,10 @@ TEST_F(SurveyedPlaces, areRefusedWhole) {
     EXPECT_FALSE(folder.holds("a.json")) << c.complaint;
   }
   EXPECT_EQ(contentsOf(line), smallLine());
+  const Outcome json = run(
+      {"info", writeSmallShots(folder).front(), "--positions", table(), "--json", in("a.json")});
+  EXPECT_EQ(json.code, 2) << "which tells what stands in the file, not where the table puts it";
+  EXPECT_THAT(json.err, HasSubstr("--positions-json"));
 }
 
 }  // namespace
