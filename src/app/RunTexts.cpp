@@ -56,7 +56,8 @@ QString runSettings(const KeptRun& run) {
                .arg(run.size.col)
                .arg(withLengthUnit(lengthText(run.size.aLato)));
   words += RunTexts::tr("velocities from %1 to %2")
-               .arg(lengthNumber(record.minVelocity, 0), velocityWithUnit(record.maxVelocity, 0));
+               .arg(lengthDigits(record.minVelocity, 6),
+                    withVelocityUnit(lengthDigits(record.maxVelocity, 6)));
   words += RunTexts::tr("errors of %1").arg(runErrors(run));
   if (record.fit) {
     words += RunTexts::tr("from \"%1\"").arg(referenceText(record.fit->reference));

@@ -141,6 +141,7 @@ void CampaignPresenter::writeAll(const QStringList& projects, const QString& pag
     lines.push_back(writeLine(projects[i], names[at], files[at], place, texts, progress, notes));
   }
   const bool stopped = progress.isStopping();
+  bool saved = false;
   progress.hide();
   if (stopped) {
     const auto written = std::count_if(
@@ -150,6 +151,7 @@ void CampaignPresenter::writeAll(const QStringList& projects, const QString& pag
                    .arg(written)
                    .arg(projects.size()));
   } else if (const Status status = writeCampaignPage(place.page(), lines, all); status.ok()) {
+    saved = true;
     const bool behind = mDesk.session.modified() && projects.contains(mDesk.project.path());
     mDesk.tell(
         behind ? tr("Saved in %1, without the changes of this survey that are not saved").arg(page)
@@ -157,7 +159,7 @@ void CampaignPresenter::writeAll(const QStringList& projects, const QString& pag
   } else {
     mDesk.tellFailure(tr("The file has not been saved."), status);
   }
-  tell(notes);
+  tell(notes, saved);
 }
 
 CampaignLine CampaignPresenter::writeLine(const QString& project, const std::string& name,
@@ -228,17 +230,18 @@ Status CampaignPresenter::read(const QString& file, const StoppingProgress& prog
   return status;
 }
 
-void CampaignPresenter::tell(const Notes& notes) {
+void CampaignPresenter::tell(const Notes& notes, bool saved) {
   if (!notes.repairs.isEmpty()) {
     showWarning(&mDesk.window, tr("Warning"),
                 tr("Some values of the projects cannot be. They were put right or left out."),
                 shortList(notes.repairs));
   }
   if (!notes.failures.isEmpty()) {
-    showErrors(
-        &mDesk.window, tr("Error occured"),
-        tr("Projects that failed: %1. The campaign page names them.").arg(notes.failures.size()),
-        notes.failures);
+    showErrors(&mDesk.window, tr("Error occured"),
+               (saved ? tr("Projects that failed: %1. The campaign page names them.")
+                      : tr("Projects that failed: %1. There is no campaign page that names them."))
+                   .arg(notes.failures.size()),
+               notes.failures);
   }
 }
 

@@ -41,7 +41,7 @@ class CampaignPresenter : public QObject {
                          StoppingProgress& progress, Notes& notes);
   Status read(const QString& file, const StoppingProgress& progress, LoadedProject& project,
               Notes& notes);
-  void tell(const Notes& notes);
+  void tell(const Notes& notes, bool saved);  ///< saved: the campaign page
 
   Desk& mDesk;
 };
