@@ -9416,6 +9416,14 @@ Bitte legen Sie die Positionen der Geophone fest
         <source>left out: %1 pairs whose records begin too far apart in time</source>
         <translation>weggelassen: %1 Paare, deren Aufzeichnungen zeitlich zu weit auseinander beginnen</translation>
     </message>
+    <message>
+        <source>%1 fields or more that there is no room for, among them %2</source>
+        <translation>%1 Felder oder mehr, für die kein Platz ist, darunter %2</translation>
+    </message>
+    <message>
+        <source>where shots and geophones were is not known: traces go together as numbered</source>
+        <translation>wo Schüsse und Geophone lagen, ist nicht bekannt: Spuren gehören nach ihrer Nummer zusammen</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -16263,6 +16271,10 @@ Möchten Sie die Refraktionsauswertung trotzdem starten? </translation>
     <message>
         <source>The printer failed after %1 of %2 sheets.</source>
         <translation>Der Drucker ist nach %1 von %2 Blättern ausgefallen.</translation>
+    </message>
+    <message>
+        <source>Projects that failed: %1. There is no campaign page that names them.</source>
+        <translation>Fehlgeschlagene Projekte: %1. Es gibt keine Kampagnenseite, die sie nennt.</translation>
     </message>
 </context>
 <context>

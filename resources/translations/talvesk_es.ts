@@ -9416,6 +9416,14 @@ Defina la posición de los geófonos
         <source>left out: %1 pairs whose records begin too far apart in time</source>
         <translation>excluidos: pares cuyos registros empiezan demasiado separados en el tiempo: %1</translation>
     </message>
+    <message>
+        <source>%1 fields or more that there is no room for, among them %2</source>
+        <translation>%1 campos o más para los que no hay sitio, entre ellos %2</translation>
+    </message>
+    <message>
+        <source>where shots and geophones were is not known: traces go together as numbered</source>
+        <translation>no se sabe dónde estaban disparos y geófonos: las trazas se unen según su número</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -16263,6 +16271,10 @@ Do you want to run refraction processing anyway? </source>
     <message>
         <source>The printer failed after %1 of %2 sheets.</source>
         <translation>La impresora ha fallado tras %1 de %2 hojas.</translation>
+    </message>
+    <message>
+        <source>Projects that failed: %1. There is no campaign page that names them.</source>
+        <translation>Proyectos con fallos: %1. No hay página de campaña que los nombre.</translation>
     </message>
 </context>
 <context>

@@ -9416,6 +9416,14 @@ Veuillez définir la position des géophones
         <source>left out: %1 pairs whose records begin too far apart in time</source>
         <translation>écartées&#xa0;: %1 paires dont les enregistrements commencent trop loin l&apos;un de l&apos;autre dans le temps</translation>
     </message>
+    <message>
+        <source>%1 fields or more that there is no room for, among them %2</source>
+        <translation>%1 champs ou plus pour lesquels il n&apos;y a pas de place, dont %2</translation>
+    </message>
+    <message>
+        <source>where shots and geophones were is not known: traces go together as numbered</source>
+        <translation>on ne sait pas où étaient tirs et géophones&#xa0;: les traces vont ensemble selon leur numéro</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -16263,6 +16271,10 @@ Voulez-vous tout de même lancer le traitement en réfraction&#xa0;? </translati
     <message>
         <source>The printer failed after %1 of %2 sheets.</source>
         <translation>L&apos;imprimante s&apos;est arrêtée en erreur après %1 feuilles sur %2.</translation>
+    </message>
+    <message>
+        <source>Projects that failed: %1. There is no campaign page that names them.</source>
+        <translation>Projets en échec&#xa0;: %1. Il n&apos;y a pas de page de campagne qui les nomme.</translation>
     </message>
 </context>
 <context>

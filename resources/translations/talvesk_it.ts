@@ -9416,6 +9416,14 @@ Impostare la posizione dei geofoni
         <source>left out: %1 pairs whose records begin too far apart in time</source>
         <translation>tralasciate: %1 coppie le cui registrazioni cominciano troppo lontano nel tempo</translation>
     </message>
+    <message>
+        <source>%1 fields or more that there is no room for, among them %2</source>
+        <translation>%1 campi o più per cui non c&apos;è posto, fra cui %2</translation>
+    </message>
+    <message>
+        <source>where shots and geophones were is not known: traces go together as numbered</source>
+        <translation>non si sa dove fossero tiri e geofoni: le tracce vanno insieme secondo il numero</translation>
+    </message>
 </context>
 <context>
     <name>talvesk::Messages</name>
@@ -16263,6 +16271,10 @@ Eseguire comunque l&apos;elaborazione a rifrazione? </translation>
     <message>
         <source>The printer failed after %1 of %2 sheets.</source>
         <translation>La stampante si è fermata dopo %1 fogli su %2.</translation>
+    </message>
+    <message>
+        <source>Projects that failed: %1. There is no campaign page that names them.</source>
+        <translation>Progetti non riusciti: %1. Non c&apos;è una pagina della campagna che li nomini.</translation>
     </message>
 </context>
 <context>
