@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -61,12 +62,13 @@ QPointF intoRoom(const QRectF& box, const QRectF& room) {
 }
 
 /// Where the text of an area stands, of which only what lies on the plot is seen.
-QPointF insideOf(const QPolygonF& area, const QRectF& plot) {
+std::optional<QPointF> insideOf(const QPolygonF& area, const QRectF& plot) {
   std::vector<Point2D> corners;
   for (const QPointF& p : area) corners.push_back({p.x(), p.y()});
-  const Point2D place =
+  const std::optional<Point2D> place =
       labelPlace(corners, {plot.left(), plot.top()}, {plot.right(), plot.bottom()});
-  return {place.x, place.z};
+  if (!place) return std::nullopt;
+  return QPointF(place->x, place->z);
 }
 
 QFont fontOf(const QFont& base, double points) {
@@ -137,7 +139,8 @@ void SectionPaperPainter::paintAnnotations() {
             {line, QString::fromStdString(item.text), QColor(QRgb(item.color)), item.textSize});
         break;
       case AnnotationKind::kPolygon:
-        putNote(item, insideOf(line, mPlot));
+        if (item.text.empty()) break;
+        if (const auto middle = insideOf(line, mPlot)) putNote(item, *middle);
         break;
     }
   }
