@@ -1,11 +1,15 @@
+#include "model/Annotations.h"
 #include "support/PrintedSheets.h"
 #include "support/SectionDocument.h"
 #include "support/ShotDocument.h"
 
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -95,7 +99,8 @@ TEST(PrintTiles, partsOfCurvesAndTracesMeetTrueToScale) {
   }
 }
 
-TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
+/// Two layers with all that P and S tell of them, over 78 m.
+ElasticLine elasticLine() {
   ElasticLine line;
   line.layers.resize(2);
   for (std::uint32_t layer = 0; layer < 2; ++layer) {
@@ -108,6 +113,11 @@ TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
       line.layers[layer].points.push_back(point);
     }
   }
+  return line;
+}
+
+TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
+  const ElasticLine line = elasticLine();
   PrintSettings settings = on("A4", true, 200.0);
   settings.tiles = true;
   const PrintPages pages = prepared(printedElastic(line, {}), settings);
@@ -121,6 +131,43 @@ TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
     const std::string picture = svgOf(pages, page);
     for (const char* words : {"Distance [m]", "Vp/Vs", "Match line: sheet "}) {
       EXPECT_NE(picture.find(words), std::string::npos) << words;
+    }
+  }
+}
+
+/// Dark pixels of the titles of upright axes, from the first plot down.
+std::vector<int> inkOfTitles(const PrintPages& pages, double dpi) {
+  constexpr double kNumbersMm = 15.0;
+  constexpr double kBetweenMm = 4.0;
+  const double perMm = dpi / kMmPerInch;
+  const QImage image = imageOf(pages, dpi);
+  const PlotPlace& place = pages.places[0];
+  std::vector<int> inks;
+  double last = -1e9;
+  for (int row = 0; row < (place.bottomMm + 2.0) * perMm; ++row) {
+    int ink = 0;
+    for (int column = 0; column < (place.leftMm - kNumbersMm) * perMm; ++column) {
+      ink += qGray(image.pixel(column, row)) < 128 ? 1 : 0;
+    }
+    if (ink == 0) continue;
+    if (row - last > kBetweenMm * perMm) inks.push_back(0);
+    inks.back() += ink;
+    last = row;
+  }
+  return inks;
+}
+
+TEST(PrintTiles, lowCurvesOfPAndSKeepTheirUnits) {
+  const ElasticLine line = elasticLine();
+  for (const double height : {205.0, 210.0, 215.0, 230.0}) {
+    PrintSettings settings = on("A4", true, 500.0);
+    settings.sheet.heightMm = height;
+    const PrintPages pages = prepared(printedElastic(line, {}), settings);
+    for (const double dpi : {96.0, 150.0, 300.0}) {
+      const std::vector<int> inks = inkOfTitles(pages, dpi);
+      ASSERT_EQ(inks.size(), 5U) << height << " at " << dpi;
+      EXPECT_GT(inks[4], 0.7 * inks[3])
+          << "K, M [MPa] after G0, E0 [MPa], " << height << " " << dpi;
     }
   }
 }
