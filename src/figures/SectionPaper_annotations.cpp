@@ -105,22 +105,17 @@ void SectionPaperPainter::paintAreas() {
 }
 
 /// A text of an annotation. It stands where the user put it, whatever lies below; at the edge of
-/// the plot it gives way, so that all of it is read.
+/// the plot it gives way, so that all of it is read. Parts of a plot have it at one place, and it
+/// goes on from sheet to sheet.
 void SectionPaperPainter::putNote(const Annotation& item, const QPointF& middle) {
-  if (item.text.empty() || !mPlot.contains(middle)) return;
+  if (item.text.empty() || !mWhole.contains(middle)) return;
   mPainter.save();
   mPainter.setFont(fontOf(mDress.font, item.textSize));
   const QString text =
       QFontMetricsF(mPainter.font())
-          .elidedText(QString::fromStdString(item.text), Qt::ElideRight, mPlot.width() - 4.0);
+          .elidedText(QString::fromStdString(item.text), Qt::ElideRight, mWhole.width() - 4.0);
   const QRectF outline = outlineOf(text, middle, 0.0).boundingRect().adjusted(-2, 0, 2, 0);
-  const QPointF shift = intoRoom(outline, mPlot);
-  mPainter.setPen(Qt::NoPen);
-  mPainter.setBrush(QColor(255, 255, 255, 190));
-  mPainter.drawRect(outline.translated(shift));
-  mPainter.setBrush(Qt::NoBrush);
-  mPainter.setPen(QColor(QRgb(item.color)));
-  put(text, middle + shift);
+  putOnPlate(text, middle + intoRoom(outline, mWhole), 2.0, QColor(QRgb(item.color)));
   mPainter.restore();
 }
 
@@ -140,7 +135,7 @@ void SectionPaperPainter::paintAnnotations() {
         break;
       case AnnotationKind::kPolygon:
         if (item.text.empty()) break;
-        if (const auto middle = insideOf(line, mPlot)) putNote(item, *middle);
+        if (const auto middle = insideOf(line, mWhole)) putNote(item, *middle);
         break;
     }
   }
