@@ -9781,8 +9781,8 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>Hochformat</translation>
     </message>
     <message>
-        <source>Neighbouring sheets have 10 mm in common, with crosses by which they are put together</source>
-        <translation>Benachbarte Blätter haben 10 mm gemeinsam, mit Kreuzen, an denen sie zusammengesetzt werden</translation>
+        <source>Neighbouring sheets have 10 mm in common, with match lines where they are joined</source>
+        <translation>Benachbarte Blätter haben 10 mm gemeinsam, mit Anschlusslinien, an denen sie zusammengesetzt werden</translation>
     </message>
     <message>
         <source>Sp&amp;lit over several sheets</source>

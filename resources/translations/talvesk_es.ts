@@ -9781,8 +9781,8 @@ Defina la posición de los geófonos
         <translation>Vertical</translation>
     </message>
     <message>
-        <source>Neighbouring sheets have 10 mm in common, with crosses by which they are put together</source>
-        <translation>Las hojas vecinas tienen 10 mm en común, con cruces con las que se unen</translation>
+        <source>Neighbouring sheets have 10 mm in common, with match lines where they are joined</source>
+        <translation>Las hojas vecinas tienen 10 mm en común, con líneas de unión por las que se juntan</translation>
     </message>
     <message>
         <source>Sp&amp;lit over several sheets</source>

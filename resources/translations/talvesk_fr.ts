@@ -9781,8 +9781,8 @@ Veuillez définir la position des géophones
         <translation>Portrait</translation>
     </message>
     <message>
-        <source>Neighbouring sheets have 10 mm in common, with crosses by which they are put together</source>
-        <translation>Les feuilles voisines ont 10 mm en commun, avec des croix pour les assembler</translation>
+        <source>Neighbouring sheets have 10 mm in common, with match lines where they are joined</source>
+        <translation>Les feuilles voisines ont 10 mm en commun, avec des lignes de raccord pour les assembler</translation>
     </message>
     <message>
         <source>Sp&amp;lit over several sheets</source>

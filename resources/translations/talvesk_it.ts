@@ -9781,8 +9781,8 @@ Impostare la posizione dei geofoni
         <translation>Verticale</translation>
     </message>
     <message>
-        <source>Neighbouring sheets have 10 mm in common, with crosses by which they are put together</source>
-        <translation>I fogli vicini hanno 10 mm in comune, con croci per accostarli</translation>
+        <source>Neighbouring sheets have 10 mm in common, with match lines where they are joined</source>
+        <translation>I fogli vicini hanno 10 mm in comune, con linee di giunzione per accostarli</translation>
     </message>
     <message>
         <source>Sp&amp;lit over several sheets</source>

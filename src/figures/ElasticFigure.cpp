@@ -374,7 +374,8 @@ QString densityText(const DensityRule& rule) {
   if (rule.gardner) return FigureWords::tr("Density from Vp by Gardner's rule");
   QStringList numbers;
   for (const double density : rule.layers) numbers << figureNumber(density);
-  return FigureWords::tr("Density %1 kg/m3").arg(numbers.join(QStringLiteral(", ")));
+  // Not with commas, which some languages have inside numbers.
+  return FigureWords::tr("Density %1 kg/m3").arg(numbers.join(QStringLiteral("; ")));
 }
 
 Status prepareElasticFigure(const ElasticLine& line, const ElasticFigureOptions& options,

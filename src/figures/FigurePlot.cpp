@@ -8,6 +8,8 @@
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
+#include <QRegularExpression>
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -35,6 +37,33 @@ QwtText plainText(const QString& words, double points, bool bold = false) {
   result.setFont(figureFont(points, bold));
   result.setRenderFlags(Qt::AlignCenter | Qt::TextWordWrap);
   return result;
+}
+
+/// Sets the title of an upright axis in lines that have room, with some to spare: layout and
+/// painter measure letters a little differently, and a line that only one of them breaks loses its
+/// end. \param length of the axis, points \return whether the title has changed
+bool breakTitle(QwtPlot& plot, int axis, double length) {
+  constexpr double kSure = 0.9;
+  QwtText title = plot.axisTitle(axis);
+  const auto widthOf = [&title](const QString& words) {
+    QwtText line(words, QwtText::PlainText);
+    line.setFont(title.font());
+    return line.textSize().width();
+  };
+  QStringList lines;
+  for (const QString& word : title.text().split(QRegularExpression(QStringLiteral("[ \n]")))) {
+    const QString longer = lines.isEmpty() ? word : lines.back() + QLatin1Char(' ') + word;
+    if (lines.isEmpty() || widthOf(longer) > kSure * length) {
+      lines << word;
+    } else {
+      lines.back() = longer;
+    }
+  }
+  const QString broken = lines.join(QLatin1Char('\n'));
+  if (broken == title.text()) return false;
+  title.setText(broken, QwtText::PlainText);
+  plot.setAxisTitle(axis, title);
+  return true;
 }
 
 }  // namespace
@@ -225,7 +254,11 @@ Status FigurePlot::fit(double widthMm, double heightMm, double leastWidth, doubl
           Message::tr("The picture is too small for what it shows with its axes and texts: "
                       "choose a larger size."));
     }
-    if (width == setWidth && height == setHeight) return {};
+    bool broken = false;
+    for (const int axis : {QwtPlot::yLeft, QwtPlot::yRight}) {
+      if (mPlot->axisEnabled(axis)) broken = breakTitle(*mPlot, axis, height) || broken;
+    }
+    if (!broken && width == setWidth && height == setHeight) return {};
     // A last number that stands beyond the end, takes its room, and is gone from the scale that is
     // left goes to and fro: room for it is kept, then.
     if (round == kPatience) keepEndsFree();

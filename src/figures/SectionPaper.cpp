@@ -57,10 +57,12 @@ double SectionPaper::heightToFill(double plotWidth, double exaggeration) const {
 }
 
 std::vector<PlacedText> SectionPaper::paint(QPainter& painter, const QSizeF& size,
-                                            const SectionCamera& camera) const {
+                                            const SectionCamera& camera,
+                                            const SectionWhole* whole) const {
   painter.save();
   painter.setFont(mDress.font);
   SectionPaperPainter sheet(mScene, mExtent, mColors, mDress, painter, size, camera);
+  if (whole != nullptr) sheet.showPartOf(*whole);
   sheet.paintMarks();
   sheet.paintMargins();
   sheet.paintAxes();
@@ -84,9 +86,23 @@ SectionPaperPainter::SectionPaperPainter(const SectionScene& scene, const Sectio
       mCamera(camera),
       mLayout(scene, extent, colors, dress, size, camera.exaggeration),
       mPlot(mLayout.plot),
+      mWhole(mPlot),
       mMap(camera.toPicture(mPlot.size()) * QTransform::fromTranslate(mPlot.left(), mPlot.top())),
       mMetrics(dress.font),
       mLine(mMetrics.height()) {}
+
+void SectionPaperPainter::showPartOf(const SectionWhole& whole) {
+  mWhole = whole.plot.translated(mPlot.topLeft());
+  mMeet = whole.meet;
+}
+
+/// What of the plot is this sheet's when all are joined.
+QRectF SectionPaperPainter::ownPart() const {
+  const auto beyond = [this](double outward) { return outward > 0.5 * mMeet ? mMeet : 0.0; };
+  return mPlot.adjusted(beyond(mPlot.left() - mWhole.left()), beyond(mPlot.top() - mWhole.top()),
+                        -beyond(mWhole.right() - mPlot.right()),
+                        -beyond(mWhole.bottom() - mPlot.bottom()));
+}
 
 /// Of a line in the painter's font, turned by degrees about its middle.
 QPolygonF SectionPaperPainter::outlineOf(const QString& text, const QPointF& middle,
@@ -110,6 +126,34 @@ void SectionPaperPainter::put(const QString& text, const QPointF& middle, double
       QPointF(-0.5 * metrics.horizontalAdvance(text), metrics.ascent() - 0.5 * metrics.height()),
       text);
   mPainter.restore();
+}
+
+/// A text on a plate that covers what is below it. One on another part of the whole only takes its
+/// place.
+void SectionPaperPainter::putOnPlate(const QString& text, const QPointF& middle, double beside,
+                                     const QColor& color) {
+  const QPolygonF outline = outlineOf(text, middle, 0.0);
+  const QRectF plate = outline.boundingRect().adjusted(-beside, 0, beside, 0);
+  if (!plate.intersects(mPlot)) {
+    texts.push_back({text, outline});
+    return;
+  }
+  mPainter.setPen(Qt::NoPen);
+  mPainter.setBrush(QColor(255, 255, 255, 190));
+  mPainter.drawRect(plate);
+  mPainter.setBrush(Qt::NoBrush);
+  mPainter.setPen(color);
+  put(text, middle);
+}
+
+/// What lies beyond a part of the plot stands on other sheets, and in nobody's way here.
+void SectionPaperPainter::dropTextsBeyond() {
+  std::vector<PlacedText> seen;
+  for (PlacedText& text : texts) {
+    text.outline = text.outline.intersected(QPolygonF(mPlot));
+    if (!text.outline.isEmpty()) seen.push_back(std::move(text));
+  }
+  texts = std::move(seen);
 }
 
 void SectionPaperPainter::paintMargins() {

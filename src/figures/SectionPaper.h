@@ -49,6 +49,12 @@ struct PlacedText {
   QPolygonF outline;  ///< of its line, not of its glyphs
 };
 
+/// The plot that a sheet shows a part of, where a section goes over several. Logical pixels.
+struct SectionWhole {
+  QRectF plot;        ///< from the upper left corner of the sheet's own plot
+  double meet = 0.0;  ///< from a side that a neighbour shows too to where both are joined
+};
+
 /// The sheet around and over a section, the same on the screen and in files: axes, title, colour
 /// bar, legend and caption beside the plot; grid lines, surface, refractors, coverage limit,
 /// contour values and markers on it. What fills the plot - cells, rays, contour lines - somebody
@@ -71,9 +77,11 @@ class SectionPaper {
   double heightToFill(double plotWidth, double exaggeration) const;
 
   /// Paints all but what fills plotRect(), which is seen through `camera`.
+  /// \param whole null: the plot is all of it. Of a part, words go where they go on the whole, and
+  /// those that stand along lines keep to their sheet, so that none is cut or doubled at a joint.
   /// \return every text in the order of painting, but for the values of contours
-  std::vector<PlacedText> paint(QPainter& painter, const QSizeF& size,
-                                const SectionCamera& camera) const;
+  std::vector<PlacedText> paint(QPainter& painter, const QSizeF& size, const SectionCamera& camera,
+                                const SectionWhole* whole = nullptr) const;
 
  private:
   SectionCamera::Padding padding() const;

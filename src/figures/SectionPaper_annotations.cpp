@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -61,12 +62,13 @@ QPointF intoRoom(const QRectF& box, const QRectF& room) {
 }
 
 /// Where the text of an area stands, of which only what lies on the plot is seen.
-QPointF insideOf(const QPolygonF& area, const QRectF& plot) {
+std::optional<QPointF> insideOf(const QPolygonF& area, const QRectF& plot) {
   std::vector<Point2D> corners;
   for (const QPointF& p : area) corners.push_back({p.x(), p.y()});
-  const Point2D place =
+  const std::optional<Point2D> place =
       labelPlace(corners, {plot.left(), plot.top()}, {plot.right(), plot.bottom()});
-  return {place.x, place.z};
+  if (!place) return std::nullopt;
+  return QPointF(place->x, place->z);
 }
 
 QFont fontOf(const QFont& base, double points) {
@@ -103,22 +105,17 @@ void SectionPaperPainter::paintAreas() {
 }
 
 /// A text of an annotation. It stands where the user put it, whatever lies below; at the edge of
-/// the plot it gives way, so that all of it is read.
+/// the plot it gives way, so that all of it is read. Parts of a plot have it at one place, and it
+/// goes on from sheet to sheet.
 void SectionPaperPainter::putNote(const Annotation& item, const QPointF& middle) {
-  if (item.text.empty() || !mPlot.contains(middle)) return;
+  if (item.text.empty() || !mWhole.contains(middle)) return;
   mPainter.save();
   mPainter.setFont(fontOf(mDress.font, item.textSize));
   const QString text =
       QFontMetricsF(mPainter.font())
-          .elidedText(QString::fromStdString(item.text), Qt::ElideRight, mPlot.width() - 4.0);
+          .elidedText(QString::fromStdString(item.text), Qt::ElideRight, mWhole.width() - 4.0);
   const QRectF outline = outlineOf(text, middle, 0.0).boundingRect().adjusted(-2, 0, 2, 0);
-  const QPointF shift = intoRoom(outline, mPlot);
-  mPainter.setPen(Qt::NoPen);
-  mPainter.setBrush(QColor(255, 255, 255, 190));
-  mPainter.drawRect(outline.translated(shift));
-  mPainter.setBrush(Qt::NoBrush);
-  mPainter.setPen(QColor(QRgb(item.color)));
-  put(text, middle + shift);
+  putOnPlate(text, middle + intoRoom(outline, mWhole), 2.0, QColor(QRgb(item.color)));
   mPainter.restore();
 }
 
@@ -137,7 +134,8 @@ void SectionPaperPainter::paintAnnotations() {
             {line, QString::fromStdString(item.text), QColor(QRgb(item.color)), item.textSize});
         break;
       case AnnotationKind::kPolygon:
-        putNote(item, insideOf(line, mPlot));
+        if (item.text.empty()) break;
+        if (const auto middle = insideOf(line, mWhole)) putNote(item, *middle);
         break;
     }
   }

@@ -55,14 +55,9 @@ QString SectionPaperPainter::velocityWords(double velocity) const {
 void SectionPaperPainter::putOnSection(const QString& text, const QPointF& middle) {
   const QPolygonF outline = outlineOf(text, middle, 0.0);
   const auto touches = [&](const PlacedText& other) { return other.outline.intersects(outline); };
-  if (!mPlot.contains(outline.boundingRect())) return;
+  if (!mWhole.contains(outline.boundingRect())) return;
   if (std::any_of(texts.begin(), texts.end(), touches)) return;
-  mPainter.setPen(Qt::NoPen);
-  mPainter.setBrush(QColor(255, 255, 255, 190));
-  mPainter.drawRect(outline.boundingRect().adjusted(-1, 0, 1, 0));
-  mPainter.setBrush(Qt::NoBrush);
-  mPainter.setPen(Qt::black);
-  put(text, middle);
+  putOnPlate(text, middle, 1.0, Qt::black);
 }
 
 void SectionPaperPainter::paintKnown() {

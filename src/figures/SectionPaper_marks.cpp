@@ -48,9 +48,10 @@ void SectionPaperPainter::paintMarks() {
   paintAnnotations();
   std::vector<QRectF> taken;
   for (const PlacedText& text : texts) taken.push_back(text.outline.boundingRect());
-  paintLineLabels(mPainter, mLineLabels, mPlot, taken);
+  paintLineLabels(mPainter, mLineLabels, ownPart(), taken);
   paintContourValues(taken);
   paintMarkers();
+  if (mWhole != mPlot) dropTextsBeyond();
   mPainter.restore();
 }
 
@@ -96,7 +97,7 @@ void SectionPaperPainter::paintContourValues(std::vector<QRectF>& taken) {
   const ShownUnit shown = FigureWords::unitOf(mScene);
   const double step = shown.shown(mScene.range.span() / 50.0);
   paintContourLabels(
-      mPainter, mScene, lines, mDress.contours, mPlot,
+      mPainter, mScene, lines, mDress.contours, ownPart(),
       [&](double value) { return withSignOf(mDress.locale, valueText(shown.shown(value), step)); },
       taken);
 }

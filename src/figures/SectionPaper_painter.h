@@ -22,7 +22,8 @@ class SectionPaperPainter {
                       const ColorTable& colors, const SectionDress& dress, QPainter& painter,
                       const QSizeF& size, const SectionCamera& camera);
 
-  void paintMarks();  ///< what lies on the section; within the plot
+  void showPartOf(const SectionWhole& whole);  ///< first of all, if at all
+  void paintMarks();                           ///< what lies on the section; within the plot
   void paintMargins();
   void paintAxes();
   void paintColorBar();
@@ -58,6 +59,9 @@ class SectionPaperPainter {
   void putWithin(const QRectF& room, const QString& text, const QPointF& middle,
                  double angle = 0.0);
   void put(const QString& text, const QPointF& middle, double angle = 0.0);
+  void putOnPlate(const QString& text, const QPointF& middle, double beside, const QColor& color);
+  void dropTextsBeyond();
+  QRectF ownPart() const;
 
   void paintFading();
   void paintDepthBands();
@@ -84,7 +88,9 @@ class SectionPaperPainter {
   SectionCamera mCamera;
   SectionPaperLayout mLayout;
   QRectF mPlot;
-  QTransform mMap;  ///< survey positions to the sheet
+  QRectF mWhole;       ///< the plot, or that of which it is a part
+  double mMeet = 0.0;  ///< see SectionWhole
+  QTransform mMap;     ///< survey positions to the sheet
   QFontMetricsF mMetrics;
   double mLine;                                       ///< height of a line of text
   std::vector<section_items::LineLabel> mLineLabels;  ///< of lines painted so far

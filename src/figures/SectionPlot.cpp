@@ -85,6 +85,7 @@ struct SectionPlot::Parts {
   SectionCamera camera;
   double metresPerPoint = 0.0;    ///< 0: as large as the sheet has room for
   std::optional<QPointF> corner;  ///< upper left of a part, survey position; none: all of it
+  SectionWhole cutFrom;           ///< the part
 };
 
 /// By the options or by the section's own shape, which it must have.
@@ -188,7 +189,8 @@ Status SectionPlot::layOut(double widthMm, double heightMm) {
   return {};
 }
 
-Status SectionPlot::layOutToScale(double scale, const std::optional<PlotPart>& part) {
+Status SectionPlot::layOutToScale(double scale, const std::optional<PlotPart>& part,
+                                  double meetMm) {
   Parts& parts = *mParts;
   if (Status status = parts.chooseExaggeration(); !status.ok()) return status;
   parts.metresPerPoint = 1e-3 * scale / kPointsPerMm;
@@ -200,6 +202,8 @@ Status SectionPlot::layOutToScale(double scale, const std::optional<PlotPart>& p
   parts.corner.reset();
   if (part) {
     parts.corner = parts.cornerOf(*part, held);
+    parts.cutFrom = {QRectF(QPointF(-part->leftMm, -part->topMm) * kPointsPerMm, held),
+                     meetMm * kPointsPerMm};
     held = {std::ceil(part->widthMm * kPointsPerMm), std::ceil(part->heightMm * kPointsPerMm)};
   }
   mLayout = {};
@@ -224,7 +228,7 @@ void SectionPlot::paint(QPainter& painter, const QRectF& sheet) {
   painter.translate(sheet.topLeft());
   painter.scale(unitsPerPoint, unitsPerPoint);
   parts.paintFill(painter, parts.plotRect(size));
-  parts.paper.paint(painter, size, parts.camera);
+  parts.paper.paint(painter, size, parts.camera, parts.corner ? &parts.cutFrom : nullptr);
   painter.restore();
 }
 

@@ -30,7 +30,9 @@ class SectionPlot {
   /// Lays out so that `scale` metres along the line are a metre of the sheet, whose size follows.
   /// Of a section larger than any sheet (FigureSheet::kMaxMm) only the size is told, without axes.
   /// \param part of the plot of this size, for a section that goes over several sheets
-  Status layOutToScale(double scale, const std::optional<PlotPart>& part = std::nullopt);
+  /// \param meetMm from a side that a neighbour shows too to where both are joined
+  Status layOutToScale(double scale, const std::optional<PlotPart>& part = std::nullopt,
+                       double meetMm = 0.0);
   /// As laid out; after paint() as painted.
   const SectionFigureLayout& layout() const { return mLayout; }
   const std::string& title() const { return mTitle; }

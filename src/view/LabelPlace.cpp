@@ -40,6 +40,21 @@ Point2D halfway(const std::vector<Point2D>& line) {
   return line.back();
 }
 
+/// Of the parts of a level line inside an area, as far as they lie between two places.
+/// \param edges see crossings()
+std::optional<double> middleOfWidest(const std::vector<double>& edges, double from, double to) {
+  std::optional<double> middle;
+  double widest = 0.0;
+  for (std::size_t i = 0; i + 1 < edges.size(); i += 2) {
+    const double left = std::max(edges[i], from);
+    const double right = std::min(edges[i + 1], to);
+    if (right - left <= widest) continue;
+    widest = right - left;
+    middle = 0.5 * (left + right);
+  }
+  return middle;
+}
+
 }  // namespace
 
 std::vector<double> crossings(const std::vector<Point2D>& area, double z) {
@@ -62,27 +77,29 @@ Point2D labelPlace(const Annotation& item) {
       return halfway(item.points);
     case AnnotationKind::kPolygon:
       const auto [low, high] = extentOf(item.points);
-      return labelPlace(item.points, low, high);
+      return labelPlace(item.points, low, high).value_or(item.points.front());
   }
   return item.points.front();
 }
 
-Point2D labelPlace(const std::vector<Point2D>& area, const Point2D& low, const Point2D& high) {
+std::optional<Point2D> labelPlace(const std::vector<Point2D>& area, const Point2D& low,
+                                  const Point2D& high) {
   const auto [least, most] = extentOf(area);
   const Point2D from{std::max(least.x, low.x), std::max(least.z, low.z)};
   const Point2D to{std::min(most.x, high.x), std::min(most.z, high.z)};
-  const double z = 0.5 * (from.z + to.z);
-  const std::vector<double> edges = crossings(area, z);
-  Point2D place{0.5 * (from.x + to.x), z};
-  double widest = 0.0;
-  for (std::size_t i = 0; i + 1 < edges.size(); i += 2) {
-    const double left = std::max(edges[i], from.x);
-    const double right = std::min(edges[i + 1], to.x);
-    if (right - left <= widest) continue;
-    widest = right - left;
-    place.x = 0.5 * (left + right);
+  if (from.x > to.x || from.z > to.z) return std::nullopt;
+  // The middle, then the middles of both halves, and so on.
+  constexpr int kFinest = 32;
+  for (int parts = 2; parts <= kFinest; parts *= 2) {
+    for (int part = 1; part < parts; part += 2) {
+      const double z = from.z + part * (to.z - from.z) / parts;
+      if (const auto x = middleOfWidest(crossings(area, z), from.x, to.x)) return Point2D{*x, z};
+    }
   }
-  return place;
+  // What is no more than a line has no inside, and a name still.
+  const bool allSeen = from.x == least.x && from.z == least.z && to.x == most.x && to.z == most.z;
+  if (allSeen) return Point2D{0.5 * (from.x + to.x), 0.5 * (from.z + to.z)};
+  return std::nullopt;
 }
 
 }  // namespace talvesk

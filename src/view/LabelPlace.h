@@ -2,6 +2,7 @@
 
 #include "base/Point2D.h"
 
+#include <optional>
 #include <vector>
 
 namespace talvesk {
@@ -16,8 +17,11 @@ std::vector<double> crossings(const std::vector<Point2D>& area, double z);
 /// at least
 Point2D labelPlace(const Annotation& item);
 
-/// The same of an area, of which only what lies in a rectangle is seen. \param low, high its
-/// corners
-Point2D labelPlace(const std::vector<Point2D>& area, const Point2D& low, const Point2D& high);
+/// The same of an area, of which only what lies in a rectangle is seen: inside what is seen of it,
+/// at the middle height of that or else at another one where the area is; nowhere when none of some
+/// heights has any of it. \param area of a corner at least \param low, high corners of the
+/// rectangle
+std::optional<Point2D> labelPlace(const std::vector<Point2D>& area, const Point2D& low,
+                                  const Point2D& high);
 
 }  // namespace talvesk

@@ -1,3 +1,4 @@
+#include "figures/ElasticFigure.h"
 #include "figures/FigurePlot.h"
 #include "figures/FigureWords.h"
 #include "figures/report/ReportBuilder.h"
@@ -5,6 +6,8 @@
 #include "model/Residuals.h"
 #include "model/TomographyOutcome.h"
 #include "support/SectionDocument.h"
+
+#include <QLocale>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -78,6 +81,17 @@ TEST(FigureWords, numbersAreThoseOfTheLanguageWithoutMarksBetweenThousands) {
     EXPECT_EQ(figureNumber(12500.5).toStdString(), c.large);
   }
   QLocale::setDefault(before);
+}
+
+TEST(FigureWords, densitiesAreToldApartWhereNumbersHaveCommas) {
+  DensityRule rule;
+  rule.layers = {1800.0, 2100.5, 2350.0};
+  EXPECT_EQ(densityText(rule).toStdString(), "Density 1800; 2100.5; 2350 kg/m3");
+  const QLocale before;
+  QLocale::setDefault(QLocale(QLocale::German));
+  const std::string german = densityText(rule).toStdString();
+  QLocale::setDefault(before);
+  EXPECT_EQ(german, "Density 1800; 2100,5; 2350 kg/m3");
 }
 
 }  // namespace

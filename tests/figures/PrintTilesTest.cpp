@@ -1,11 +1,15 @@
+#include "model/Annotations.h"
 #include "support/PrintedSheets.h"
 #include "support/SectionDocument.h"
 #include "support/ShotDocument.h"
 
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -95,7 +99,8 @@ TEST(PrintTiles, partsOfCurvesAndTracesMeetTrueToScale) {
   }
 }
 
-TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
+/// Two layers with all that P and S tell of them, over 78 m.
+ElasticLine elasticLine() {
   ElasticLine line;
   line.layers.resize(2);
   for (std::uint32_t layer = 0; layer < 2; ++layer) {
@@ -108,6 +113,11 @@ TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
       line.layers[layer].points.push_back(point);
     }
   }
+  return line;
+}
+
+TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
+  const ElasticLine line = elasticLine();
   PrintSettings settings = on("A4", true, 200.0);
   settings.tiles = true;
   const PrintPages pages = prepared(printedElastic(line, {}), settings);
@@ -123,6 +133,156 @@ TEST(PrintTiles, allCurvesOfPAndSStandOnEverySheet) {
       EXPECT_NE(picture.find(words), std::string::npos) << words;
     }
   }
+}
+
+/// Dark pixels of the titles of upright axes, from the first plot down.
+std::vector<int> inkOfTitles(const PrintPages& pages, double dpi) {
+  constexpr double kNumbersMm = 15.0;
+  constexpr double kBetweenMm = 4.0;
+  const double perMm = dpi / kMmPerInch;
+  const QImage image = imageOf(pages, dpi);
+  const PlotPlace& place = pages.places[0];
+  std::vector<int> inks;
+  double last = -1e9;
+  for (int row = 0; row < (place.bottomMm + 2.0) * perMm; ++row) {
+    int ink = 0;
+    for (int column = 0; column < (place.leftMm - kNumbersMm) * perMm; ++column) {
+      ink += qGray(image.pixel(column, row)) < 128 ? 1 : 0;
+    }
+    if (ink == 0) continue;
+    if (row - last > kBetweenMm * perMm) inks.push_back(0);
+    inks.back() += ink;
+    last = row;
+  }
+  return inks;
+}
+
+TEST(PrintTiles, lowCurvesOfPAndSKeepTheirUnits) {
+  const ElasticLine line = elasticLine();
+  for (const double height : {205.0, 210.0, 215.0, 230.0}) {
+    PrintSettings settings = on("A4", true, 500.0);
+    settings.sheet.heightMm = height;
+    const PrintPages pages = prepared(printedElastic(line, {}), settings);
+    for (const double dpi : {96.0, 150.0, 300.0}) {
+      const std::vector<int> inks = inkOfTitles(pages, dpi);
+      ASSERT_EQ(inks.size(), 5U) << height << " at " << dpi;
+      EXPECT_GT(inks[4], 0.7 * inks[3])
+          << "K, M [MPa] after G0, E0 [MPa], " << height << " " << dpi;
+    }
+  }
+}
+
+/// Where ink of a colour that nothing else has lies on a sheet, metres along the line.
+struct Reach {
+  double from = 1e9;
+  double to = -1e9;
+
+  bool empty() const { return from > to; }
+};
+
+constexpr std::uint32_t kRareInk = 0xff00ff;
+
+/// \param but rows at this elevation do not count
+Reach reachOf(const PrintPages& pages, std::size_t page, double but = 1e9) {
+  constexpr double kDpi = 254.0;  // ten pixels to a millimetre
+  const QImage image = imageOf(pages, kDpi, page);
+  const PlotPlace& place = pages.places[page];
+  Reach reach;
+  const double butRow = 10.0 * place.yToMm(but);
+  for (int row = 0; row < image.height(); ++row) {
+    if (std::abs(row - butRow) < 5.0) continue;
+    for (int column = 0; column < image.width(); ++column) {
+      if ((image.pixel(column, row) & 0xffffffU) != kRareInk) continue;
+      const double metres = (place.right - place.left) / (place.rightMm - place.leftMm);
+      const double x = place.left + (0.1 * (column + 0.5) - place.leftMm) * metres;
+      reach.from = std::min(reach.from, x);
+      reach.to = std::max(reach.to, x);
+    }
+  }
+  return reach;
+}
+
+/// A section whose first match line is at x, and what is drawn on it.
+struct DrawnSheets {
+  TomoDocument document = sectionDocument(8, 30, 0.0, layers);
+  PrintSettings settings = on("A4", true, 40.0);
+  double match = 0.0;  ///< between the first sheet and the second
+  double high = 0.0;   ///< an elevation in the middle of both
+
+  DrawnSheets() {
+    settings.tiles = true;
+    const PrintPages pages = sheets();
+    match = 0.5 * (pages.places[0].right + pages.places[1].left);
+    high = 0.5 * (pages.places[0].top + pages.places[0].bottom);
+  }
+
+  PrintPages sheets() const { return prepared(printedSection(document, {}), settings); }
+  PrintPages whole() const {
+    PrintSettings large = settings;
+    large.tiles = false;
+    large.sheet = {40.0, 850.0, 330.0};
+    return prepared(printedSection(document, {}), large);
+  }
+  void draw(const Annotation& item) {
+    document.annotations.edit().items = {item};
+    document.annotations.edit().items[0].color = kRareInk;
+  }
+};
+
+constexpr double kMmOfGround = 0.04;  ///< metres to a millimetre of those sheets
+
+TEST(PrintTiles, aTextAtAMatchLineGoesOnFromSheetToSheet) {
+  DrawnSheets drawn;
+  for (const double beside : {-9.0, -4.0, 4.0, 9.0}) {
+    Annotation text{AnnotationKind::kText, "Oldquarryofthevillage", {{0.0, drawn.high}}};
+    text.points[0].x = drawn.match + beside * kMmOfGround;
+    drawn.draw(text);
+    const PrintPages pages = drawn.sheets();
+    const Reach whole = reachOf(drawn.whole(), 0);
+    ASSERT_LT(whole.from, drawn.match) << beside;
+    ASSERT_GT(whole.to, drawn.match) << beside;
+    constexpr double kPixels = 0.3 * kMmOfGround;
+    const Reach left = reachOf(pages, 0);
+    const Reach right = reachOf(pages, 1);
+    EXPECT_NEAR(left.from, whole.from, kPixels) << beside;
+    EXPECT_NEAR(right.to, whole.to, kPixels) << beside;
+    EXPECT_GT(left.to, drawn.match - kMmOfGround) << beside;
+    EXPECT_LT(right.from, drawn.match + kMmOfGround) << beside;
+    EXPECT_TRUE(reachOf(pages, pages.columns + 2).empty()) << "far from there";
+  }
+}
+
+TEST(PrintTiles, theNameOfALineLiesWithinTheMatchLinesOfItsSheet) {
+  DrawnSheets drawn;
+  for (const double beside : {-3.5, 0.0, 3.5}) {
+    const double middle = drawn.match + beside * kMmOfGround;
+    const double half = 12.0 * kMmOfGround;
+    Annotation line{AnnotationKind::kLine, "fault", {{middle - half, drawn.high}}};
+    line.points.push_back({middle + half, drawn.high});
+    line.width = 0.5;
+    drawn.draw(line);
+    const PrintPages pages = drawn.sheets();
+    const Reach left = reachOf(pages, 0, drawn.high);
+    const Reach right = reachOf(pages, 1, drawn.high);
+    EXPECT_FALSE(left.empty() && right.empty()) << beside;
+    EXPECT_TRUE(left.empty() || left.to < drawn.match) << beside;
+    EXPECT_TRUE(right.empty() || right.from > drawn.match) << beside;
+  }
+}
+
+TEST(PrintTiles, theNameOfAnAreaStandsOnceWhenSheetsAreJoined) {
+  DrawnSheets drawn;
+  Annotation area{AnnotationKind::kPolygon, "pit", {{101, 99}, {129, 99}, {129, 93}, {101, 93}}};
+  area.width = 0.2;
+  drawn.draw(area);
+  int named = 0;
+  const PrintPages pages = drawn.sheets();
+  ASSERT_GT(pages.count(), 6U);
+  for (std::size_t page = 0; page < pages.count(); ++page) {
+    named += svgOf(pages, page).find(">pit<") != std::string::npos ? 1 : 0;
+  }
+  EXPECT_GE(named, 1);
+  EXPECT_LE(named, 4) << "where four sheets meet";
 }
 
 TEST(PrintTiles, eachOfSeveralSheetsHasAxesAndTellsItsPlace) {

@@ -117,6 +117,8 @@ TEST_F(Printing, saysWhatDoesNotFitAndTakesOverWhatWould) {
       settle(dialog);
       EXPECT_TRUE(in<QPushButton>(dialog, "pdfButton").isEnabled()) << target.toStdString();
       EXPECT_THAT(said(dialog), Not(HasSubstr("href")));
+      EXPECT_THAT(in<QCheckBox>(dialog, "tilesBox").toolTip().toStdString(),
+                  HasSubstr("match lines"));
       const bool tiles = QLatin1String(way) == QLatin1String("tiles");
       EXPECT_EQ(in<PrintPreview>(dialog, "preview").sheets().size() > 1, tiles);
       // As it was, for the next.

@@ -64,13 +64,29 @@ TEST(SectionAnnotations, haveTheirTextsWhereTheyAre) {
   const Annotation area{AnnotationKind::kPolygon, "pit", horseshoe};
   EXPECT_EQ(labelPlace(area).x, 1.5) << "in its left arm, not in the gap between both";
   EXPECT_EQ(labelPlace(area).z, 4.0);
-  const Point2D seen = labelPlace(horseshoe, {2.5, -1.0}, {20.0, 20.0});
-  EXPECT_EQ(seen.x, 8.5) << "of the left arm less is seen than of the right one";
+  const auto seen = labelPlace(horseshoe, {2.5, -1.0}, {20.0, 20.0});
+  ASSERT_TRUE(seen.has_value());
+  EXPECT_EQ(seen->x, 8.5) << "of the left arm less is seen than of the right one";
   const Annotation line{AnnotationKind::kLine, "fault", {{0, 0}, {0, 0}, {6, 0}, {6, -2}}};
   EXPECT_EQ(labelPlace(line).x, 4.0) << "halfway, not at a middle corner";
   EXPECT_EQ(labelPlace(line).z, 0.0);
   const Annotation spot{AnnotationKind::kLine, "", {{5, 5}, {5, 5}}};
   EXPECT_EQ(labelPlace(spot).x, 5.0);
+}
+
+TEST(SectionAnnotations, haveNoTextWhereTheAreaIsOutOfSight) {
+  const std::vector<Point2D> angle = {{0, 82}, {90, 82}, {90, 84}, {4, 84}, {4, 100}, {0, 100}};
+  EXPECT_FALSE(labelPlace(angle, {40.0, 86.0}, {50.0, 96.0})) << "between its legs";
+  EXPECT_FALSE(labelPlace(angle, {95.0, 80.0}, {99.0, 90.0})) << "beside it";
+  // The middle height of what is seen lies above the lying leg.
+  const auto place = labelPlace(angle, {40.0, 80.0}, {50.0, 96.0});
+  ASSERT_TRUE(place.has_value());
+  EXPECT_EQ(place->x, 45.0);
+  EXPECT_GT(place->z, 82.0);
+  EXPECT_LT(place->z, 84.0);
+  const auto flat = labelPlace({{2, 5}, {8, 5}, {4, 5}}, {0.0, 0.0}, {10.0, 10.0});
+  ASSERT_TRUE(flat.has_value()) << "an area without height keeps its name";
+  EXPECT_EQ(flat->x, 5.0);
 }
 
 TEST(Annotations, sayWhatCannotBe) {

@@ -6,6 +6,7 @@
 #include "figures/GatherScene.h"
 #include "figures/MisfitFigures.h"
 #include "figures/SectionPlot.h"
+#include "figures/print/PrintSheet.h"
 #include "model/TomoDocument.h"
 
 #include <QPainter>
@@ -18,6 +19,7 @@ namespace {
 
 using Upright = PrintFigure::Upright;
 
+constexpr double kMeetMm = 0.5 * kPrintOverlapMm;
 constexpr double kHighOverWide = 0.62;  ///< of curves that could be of any height, at most
 
 double heightOf(const PrintSize& size) {
@@ -73,7 +75,7 @@ PlotPlace placeOf(const SectionFigureLayout& layout) {
 Status layOutSection(SectionPlots& plots, const PrintSize& size, LaidFigure& laid) {
   std::shared_ptr<SectionPlot> plot;
   Status status = plots.at(size.exaggeration, plot);
-  if (status.ok()) status = plot->layOutToScale(size.scale, size.part);
+  if (status.ok()) status = plot->layOutToScale(size.scale, size.part, kMeetMm);
   if (!status.ok()) return status;
   const SectionFigureLayout& layout = plot->layout();
   laid.drawing.sheet = {layout.widthMm, layout.heightMm, 150.0, plot->title()};
@@ -82,7 +84,7 @@ Status layOutSection(SectionPlots& plots, const PrintSize& size, LaidFigure& lai
   laid.drawing.paint = [plot, scale = size.scale, part = size.part](QPainter& painter,
                                                                     const QRectF& rect) {
     // Others may have had it laid out at theirs meanwhile.
-    if (plot->layOutToScale(scale, part).ok()) plot->paint(painter, rect);
+    if (plot->layOutToScale(scale, part, kMeetMm).ok()) plot->paint(painter, rect);
   };
   return {};
 }

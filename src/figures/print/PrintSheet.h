@@ -35,8 +35,8 @@ struct PrintSheet {
 
 /// Most sheets that a figure is split over.
 constexpr std::size_t kMostPrintPages = 200;
-/// What neighbouring sheets have in common, millimetres. A cross in its middle lies at the same
-/// place of both.
+/// What neighbouring sheets have in common, millimetres. A match line in its middle lies at the
+/// same place of both.
 constexpr double kPrintOverlapMm = 10.0;
 
 }  // namespace talvesk
