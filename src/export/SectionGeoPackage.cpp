@@ -131,15 +131,18 @@ class Layers {
   GeoPackage mFile;
 };
 
-/// The isovalues with those that the user has marked, as far as there is room for more.
-DrawingOptions withMarks(DrawingOptions options, const TomoDocument& document) {
-  std::vector<double>& values = options.isovalues;
-  for (const MarkedIsoline& mark : document.annotations->isolines) {
-    const bool known = std::find(values.begin(), values.end(), mark.velocity) != values.end();
-    if (!known && values.size() < SectionSceneOptions::kMaxContours)
-      values.push_back(mark.velocity);
+/// Puts the isolines that the user has marked among the others, however many these are.
+void addMarks(SectionScene& scene) {
+  std::vector<double>& levels = scene.contourLevels;
+  for (const DrawnIsoline& isoline : scene.annotations.isolines) {
+    const double velocity = isoline.mark.velocity;
+    const auto at = std::lower_bound(levels.begin(), levels.end(), velocity);
+    if (at != levels.end() && *at == velocity) continue;
+    levels.insert(at, velocity);
+    scene.contours.insert(scene.contours.end(), isoline.lines.begin(), isoline.lines.end());
   }
-  return options;
+  std::stable_sort(scene.contours.begin(), scene.contours.end(),
+                   [](const ContourLine& a, const ContourLine& b) { return a.value < b.value; });
 }
 
 }  // namespace
@@ -147,10 +150,10 @@ DrawingOptions withMarks(DrawingOptions options, const TomoDocument& document) {
 Status writeSectionGeoPackage(const std::string& path, const TomoDocument& document,
                               const DrawingOptions& options) {
   SectionScene scene;
-  if (const Status status = buildDrawing(document, withMarks(options, document), scene);
-      !status.ok()) {
+  if (const Status status = buildDrawing(document, options, scene); !status.ok()) {
     return cannotWrite(path, status.text());
   }
+  addMarks(scene);
   const LineOnMap map(document);
   if (!map.status().ok()) return cannotWrite(path, map.status().text());
   return told(Layers(document, scene, map).write(path));

@@ -8,6 +8,7 @@
 #include "model/TomoDocument.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <map>
@@ -159,28 +160,56 @@ Status putPicks(const TomoDocument& document, const Source& source, std::string&
   return putPicksIntoSegy(bytes, su ? SegyKind::kSu : SegyKind::kSegy, picks, replaced);
 }
 
-/// Whether a file is a recording of the survey, to the byte, that its copy would change. A project
-/// knows no more of the file that it was made from.
-bool isRecordingItself(const TomoDocument& document, const Source& source,
-                       const std::string& target) {
-  const QFileInfo file(QString::fromStdString(target));
-  if (!file.exists() || file.size() != QFileInfo(QString::fromStdString(source.path)).size()) {
-    return false;
+/// What there is where a copy goes.
+enum class Found { kNothing, kRecording, kOther };
+
+/// Reads no further than to the first difference.
+bool holdTheSame(const std::string& path, const std::string& other) {
+  constexpr qint64 kBlock = 1 << 20;
+  QFile one(QString::fromStdString(path));
+  QFile two(QString::fromStdString(other));
+  if (!one.open(QIODevice::ReadOnly) || !two.open(QIODevice::ReadOnly)) return false;
+  if (one.size() != two.size()) return false;
+  while (!one.atEnd()) {
+    const QByteArray block = one.read(kBlock);
+    if (block.isEmpty() || block != two.read(kBlock)) return false;
   }
-  std::string bytes;
-  std::string there;
-  if (!readWholeFile(source.path, bytes).ok() || !readWholeFile(target, there).ok()) return false;
-  if (bytes != there) return false;
-  std::size_t written = 0;
-  std::size_t replaced = 0;
-  return putPicks(document, source, bytes, written, replaced).ok() && bytes != there;
+  return true;
 }
 
+/// A project knows no more of the file that it was made from than its bytes.
+Found foundAt(const Source& source, const std::string& target) {
+  if (!QFileInfo::exists(QString::fromStdString(target))) return Found::kNothing;
+  return holdTheSame(source.path, target) ? Found::kRecording : Found::kOther;
+}
+
+/// Whether a copy with picks would change its recording.
+bool wouldChange(const TomoDocument& document, const Source& source) {
+  std::string before;
+  if (!readWholeFile(source.path, before).ok()) return false;
+  std::string bytes = before;
+  std::size_t written = 0;
+  std::size_t replaced = 0;
+  return putPicks(document, source, bytes, written, replaced).ok() && written > 0 &&
+         bytes != before;
+}
+
+Status stopped() {
+  return Status::failure(Message::tr("it was stopped"));
+}
+
+/// What is at the places of all copies. Fails where a recording of the survey would be replaced:
+/// no copy is like its recording to the byte, because those without picks are not written.
 Status checkRecordings(const TomoDocument& document, const std::vector<Source>& sources,
-                       const std::string& folder) {
-  for (const Source& source : sources) {
-    const std::string target = targetOf(source, folder);
-    if (isRecordingItself(document, source, target)) return isShotFile(target);
+                       const std::string& folder, const std::function<bool(std::size_t)>& progress,
+                       std::vector<Found>& found) {
+  for (std::size_t i = 0; i < sources.size(); ++i) {
+    if (progress && !progress(i)) return stopped();
+    const std::string target = targetOf(sources[i], folder);
+    found.push_back(foundAt(sources[i], target));
+    if (found.back() == Found::kRecording && wouldChange(document, sources[i])) {
+      return isShotFile(target);
+    }
   }
   return {};
 }
@@ -199,18 +228,25 @@ Status writePickedCopies(const TomoDocument& document, const std::string& folder
   const std::vector<Source> sources = sourcesOf(document);
   if (sources.empty()) return Status::failure(Message::tr("the survey has no shot files"));
   if (Status status = checkTargets(document, sources, folder); !status.ok()) return status;
-  if (Status status = checkRecordings(document, sources, folder); !status.ok()) return status;
+  std::vector<Found> found;
+  if (Status status = checkRecordings(document, sources, folder, progress, found); !status.ok()) {
+    return status;
+  }
   std::size_t shots = 0;
   std::size_t replaced = 0;
   std::size_t copies = 0;
   Status last;
   for (std::size_t i = 0; i < sources.size(); ++i) {
-    if (progress && !progress(i)) return Status::failure(Message::tr("it was stopped"));
+    if (progress && !progress(sources.size() + i)) return stopped();
     shots += sources[i].records.size();
     std::string bytes;
     std::size_t written = 0;
     Status status = readWholeFile(sources[i].path, bytes);
     if (status.ok()) status = putPicks(document, sources[i], bytes, written, replaced);
+    // One that had picks before does not keep them.
+    if (status.ok() && written == 0 && found[i] != Found::kOther) {
+      status = Status::failure(Message::tr("no picks yet"));
+    }
     if (!status.ok()) {
       last = status;
       notes.push_back(Message::tr("%1 was left out: %2").arg(sources[i].path).arg(status.text()));

@@ -11,9 +11,6 @@ namespace {
 constexpr double kSlowest = 1.0;      ///< m/s
 constexpr double kFastest = 20000.0;  ///< m/s
 constexpr std::uint32_t kWhite = 0xffffff;
-/// Of one annotation: outlines that cross themselves a million times keep painters busy for
-/// minutes.
-constexpr std::size_t kMostOfOne = 500;
 
 auto fieldsOf(const MarkedIsoline& a) {
   return std::tie(a.name, a.velocity, a.color, a.width);
@@ -130,11 +127,6 @@ Message faultOf(const Annotation& annotation) {
                : Message::tr("it has %1 points and needs %2 at least")
                      .arg(annotation.points.size())
                      .arg(fewest);
-  }
-  if (annotation.points.size() > kMostOfOne) {
-    return Message::tr("it has %1 points, more than %2")
-        .arg(annotation.points.size())
-        .arg(kMostOfOne);
   }
   for (const Point2D& p : annotation.points) {
     if (!isPlace(p))

@@ -208,6 +208,24 @@ TEST(SectionDxf, hasWhatTheUserHasDrawnInLayersOfItsKind) {
   EXPECT_EQ(drawing.of("TEXT", "ANNOTATION_AREA").front().text(1), "pit");
 }
 
+/// Before there is a grid only the isolines have nothing to run through.
+TEST(SectionDxf, hasWhatTheUserHasDrawnWithoutAGridToo) {
+  const ConsoleCapture console;
+  const TestFolder folder;
+  TomoDocument document = annotated();
+  document.model.edit().grid = {};
+  for (const DrawingPlace place : {DrawingPlace::kSection, DrawingPlace::kMap}) {
+    ASSERT_TRUE(writeSectionDxf(folder.file("s.dxf"), document, twoLines(), place).ok());
+    const Drawing drawing(folder.file("s.dxf"));
+    EXPECT_EQ(drawing.of("POLYLINE", "REFRACTOR_1").size(), 2U);
+    EXPECT_EQ(drawing.of("TEXT", "ANNOTATION_TEXT").size(), 1U);
+    EXPECT_EQ(drawing.of("VERTEX", "ANNOTATION_LINE").size(), 2U);
+    EXPECT_EQ(drawing.of("VERTEX", "GROUND_GRAVEL").size(), 3U);
+    EXPECT_EQ(drawing.of("TEXT", "ANNOTATION_AREA").size(), 1U);
+    EXPECT_EQ(drawing.layers.count("MARKED_ISOLINE_600"), 0U);
+  }
+}
+
 TEST(SectionDxf, standsAnnotationsOnTheMapToo) {
   const ConsoleCapture console;
   const TestFolder folder;

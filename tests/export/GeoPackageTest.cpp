@@ -6,6 +6,7 @@
 #include "support/ConsoleCapture.h"
 #include "support/SectionDocument.h"
 #include "support/TestFolder.h"
+#include "view/SectionScene.h"
 
 #include <cstring>
 #include <limits>
@@ -155,6 +156,24 @@ TEST(SectionGeoPackage, hasMarkedIsolinesWithTheirNamesWhateverElseIsAskedFor) {
   EXPECT_THAT(tables.ask("SELECT count(*), min(round(depth_m, 9)) FROM isovalue_depths WHERE name "
                          "LIKE 'water%'"),
               ElementsAre("10", "1.75"));
+}
+
+TEST(SectionGeoPackage, hasMarkedIsolinesBesideAsManyIsovaluesAsThereMayBe) {
+  const ConsoleCapture console;
+  const TestFolder folder;
+  TomoDocument document = placed();
+  document.annotations.edit().isolines = {{"water table", 625.0}};
+  DrawingOptions many;
+  for (std::size_t i = 0; i + 1 < SectionSceneOptions::kMaxContours; ++i) {
+    many.isovalues.push_back(5000.0 + static_cast<double>(i));
+  }
+  many.isovalues.push_back(600.0);
+  ASSERT_TRUE(writeSectionGeoPackage(folder.file("s.gpkg"), document, many).ok());
+  const Tables tables(folder.file("s.gpkg"));
+  EXPECT_THAT(tables.ask("SELECT DISTINCT velocity_m_s, name FROM isolines ORDER BY 1"),
+              ElementsAre("600.0", "", "625.0", "water table"));
+  EXPECT_THAT(tables.ask("SELECT count(*) FROM isovalue_depths WHERE name = 'water table'"),
+              ElementsAre("10"));
 }
 
 TEST(IsovalueDepths, areThoseOfTheShallowestLine) {

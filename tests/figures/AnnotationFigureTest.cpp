@@ -3,11 +3,13 @@
 #include "support/SectionDocument.h"
 
 #include <QByteArray>
-#include <QElapsedTimer>
 #include <QImage>
+#include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPolygonF>
 #include <QStringList>
+#include <algorithm>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -85,23 +87,85 @@ TEST(AnnotationFigure, shortensLongNamesInTheLegendAndKeepsTheirVelocities) {
   EXPECT_THAT(svg, HasSubstr("w table: 1500 m/s<"));
 }
 
-/// As a hostile survey may bring them, with all the points that one may have: as one stroke, and
-/// without a limit for each, this took a minute.
-TEST(AnnotationFigure, paintsOutlinesThatCrossThemselvesSoon) {
-  TomoDocument document = annotated();
-  Annotation tangle{AnnotationKind::kPolygon, "", {}, Lithology::kRock, 0x0000aa, 10.0};
-  for (int i = 0; i < 500; ++i) {
-    tangle.points.push_back({100.0 + (i * 7919) % 601 * 0.1, 86.0 + (i * 104729) % 141 * 0.1});
+/// What a painter is asked for, counted instead of painted.
+class CountingEngine : public QPaintEngine {
+ public:
+  CountingEngine() : QPaintEngine(AllFeatures) {}
+  bool begin(QPaintDevice*) override { return true; }
+  bool end() override { return true; }
+  void updateState(const QPaintEngineState& now) override {
+    if (now.state().testFlag(DirtyHints)) mSmooth = now.renderHints() & QPainter::Antialiasing;
   }
-  ASSERT_TRUE(faultOf(tangle).empty());
-  document.annotations.edit().items.assign(10, tangle);
-  QByteArray bytes;
-  QElapsedTimer timer;
-  timer.start();
-  ASSERT_TRUE(renderSectionFigure(document, {}, FigureFormat::kPng, bytes).ok());
-  EXPECT_LT(timer.elapsed(), 10000);
-  tangle.points.push_back({100.0, 90.0});
-  EXPECT_THAT(faultOf(tangle).english(), HasSubstr("501 points"));
+  void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+  void drawPath(const QPainterPath&) override {}
+  void drawPolygon(const QPointF*, int count, PolygonDrawMode mode) override {
+    if (mode == PolylineMode) {
+      longestStroke = std::max(longestStroke, count);
+      stroked += count;
+    } else {
+      int& largest = mSmooth ? largestSmooth : largestRough;
+      largest = std::max(largest, count);
+    }
+  }
+  Type type() const override { return User; }
+
+  int longestStroke = 0;  ///< points
+  int stroked = 0;        ///< points of all
+  int largestSmooth = 0;  ///< corners of areas
+  int largestRough = 0;
+
+ private:
+  bool mSmooth = false;
+};
+
+class CountingSheet : public QPaintDevice {
+ public:
+  QPaintEngine* paintEngine() const override { return &engine; }
+  mutable CountingEngine engine;
+
+ protected:
+  int metric(PaintDeviceMetric what) const override {
+    switch (what) {
+      case PdmWidth:
+      case PdmHeight:
+        return 2000;
+      case PdmDevicePixelRatio:
+        return 1;
+      case PdmDevicePixelRatioScaled:
+        return static_cast<int>(devicePixelRatioFScale());
+      case PdmDepth:
+        return 32;
+      default:
+        return 96;
+    }
+  }
+};
+
+/// As a hostile survey may bring them, with all the points that there may be in one. A stroke that
+/// crosses itself, and smooth edges of an area that does, cost painters the square of its points.
+TEST(AnnotationFigure, paintsOutlinesThatCrossThemselvesPieceByPiece) {
+  constexpr int kCorners = 4900;
+  for (const AnnotationKind kind : {AnnotationKind::kPolygon, AnnotationKind::kLine}) {
+    TomoDocument document = annotated();
+    Annotation tangle{kind, "tangle", {}, Lithology::kRock, 0x0000aa, 10.0};
+    for (int i = 0; i < kCorners; ++i) {
+      tangle.points.push_back({100.0 + (i * 7919) % 601 * 0.1, 86.0 + (i * 104729) % 141 * 0.1});
+    }
+    document.annotations.edit() = {{}, {tangle}};
+    ASSERT_TRUE(faultOf(*document.annotations).empty());
+    FigureDrawing drawing;
+    ASSERT_TRUE(prepareSectionFigure(document, {}, drawing).ok());
+    CountingSheet sheet;
+    QPainter painter(&sheet);
+    drawing.paint(painter, QRectF(0.0, 0.0, 1000.0, 700.0));
+    painter.end();
+    const CountingEngine& asked = sheet.engine;
+    EXPECT_GT(asked.stroked, 2 * kCorners) << "with its halo";
+    EXPECT_LT(asked.stroked, 4 * kCorners);
+    EXPECT_LE(asked.longestStroke, 200);
+    EXPECT_LE(asked.largestSmooth, 200);
+    EXPECT_EQ(asked.largestRough == kCorners, kind == AnnotationKind::kPolygon);
+  }
 }
 
 /// Where the middle of a text is in a figure: it is painted around an origin of its own.

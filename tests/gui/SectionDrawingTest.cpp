@@ -185,6 +185,43 @@ TEST_F(SectionDrawing, dragsWhatIsDrawnAndItsCornersAndUndoesEach) {
   EXPECT_EQ(drawn().items, (std::vector<Annotation>{note, area})) << "given up halfway";
 }
 
+/// The items count from the first, and an undo gives another one the number of what is held.
+TEST_F(SectionDrawing, movesNothingElseWhenWhatIsDraggedIsUndone) {
+  openLine();
+  const double z = top();
+  const Annotation area{
+      AnnotationKind::kPolygon, "", {{10.0, z - 2}, {20.0, z - 2}, {20.0, z - 6}, {10.0, z - 6}}};
+  Annotation other = area;
+  for (Point2D& p : other.points) p.x += 20.0;
+  const auto put = [&](const std::vector<Annotation>& items) {
+    return window->session().apply(Edit::kAnnotations, [&](Survey& survey) {
+      survey.document.annotations.edit().items = items;
+      return Status();
+    });
+  };
+  ASSERT_TRUE(put({other}).ok());
+  ASSERT_TRUE(put({area}).ok());
+  view().findChild<QAction*>("moveAnnotations")->trigger();
+  const auto hold = [&] {
+    QTest::mousePress(view().sheet(), Qt::LeftButton, Qt::NoModifier, at(15.0, -4.0));
+    point(18.0, -5.0, Qt::LeftButton);
+    action("actionUndo").trigger();
+  };
+  hold();
+  QApplication::processEvents();
+  QTest::mouseRelease(view().sheet(), Qt::LeftButton, Qt::NoModifier, at(18.0, -5.0));
+  QApplication::processEvents();
+  EXPECT_EQ(drawn().items, std::vector<Annotation>{other});
+
+  action("actionRedo").trigger();
+  QApplication::processEvents();
+  ASSERT_EQ(drawn().items, std::vector<Annotation>{area});
+  hold();
+  QTest::mouseRelease(view().sheet(), Qt::LeftButton, Qt::NoModifier, at(18.0, -5.0));
+  QApplication::processEvents();
+  EXPECT_EQ(drawn().items, std::vector<Annotation>{other}) << "before the picture is painted anew";
+}
+
 TEST_F(SectionDrawing, needsNoMouseAndTakesNothingThatCannotBe) {
   openLine();
   expectDialog<AnnotationsDialog>([](AnnotationsDialog& dialog) {

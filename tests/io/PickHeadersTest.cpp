@@ -261,7 +261,9 @@ TEST_F(Copies, areNeverWrittenOverTheFilesOfTheSurvey) {
 
 /// A project brings its recordings along, and does not know where they came from.
 TEST_F(Copies, areNeverWrittenOverTheFilesThatAProjectWasMadeFrom) {
-  load({in.put("a.sg2", seg2File()), in.put("b.sg2", seg2File())}, ShotReader::kRules);
+  SegyFixture segy;
+  segy.channels = {{{1, 2, 3}, 0, 5}, {{4, 5, 6}, 0, 10}};
+  load({in.put("a.sg2", seg2File()), in.put("b.sgy", segyBytes(segy))}, ShotReader::kRules);
   pick(0, {0.02, 0.02, 0.03});
   out.put("a.sg2", seg2File());
   EXPECT_THAT(writePickedCopies(document, out.path(), notes).message(),
@@ -274,6 +276,46 @@ TEST_F(Copies, areNeverWrittenOverTheFilesThatAProjectWasMadeFrom) {
   pick(0, {0.02, 0.02, 0.04});
   ASSERT_TRUE(writePickedCopies(document, out.path(), notes).ok());
   EXPECT_THAT(TestFolder::get(target("a.sg2")), HasSubstr("FIRST_BREAK 0.038000"));
+  // Nor are copies in the way that were made when fewer shots had picks.
+  pick(1, {kUnpicked, 0.0015});
+  EXPECT_TRUE(writePickedCopies(document, out.path(), notes).ok());
+  EXPECT_EQ(TestFolder::get(target("b.sgy")).substr(3600 + 252 + 232, 4),
+            integerBytes(1500, 4, ByteOrder::kBig));
+}
+
+TEST_F(Copies, areOfFilesWithPicksAloneAndKeepNoOlderOnes) {
+  load({in.put("a.sg2", seg2File()), in.put("b.sg2", seg2File())}, ShotReader::kRules);
+  EXPECT_FALSE(writePickedCopies(document, out.path(), notes).ok()) << "none has any";
+  notes.clear();
+  pick(0, {0.02, 0.02, 0.03});
+  ASSERT_TRUE(writePickedCopies(document, out.path(), notes).ok());
+  EXPECT_EQ(out.entries(), 1);
+  ASSERT_EQ(notes.size(), 1U);
+  EXPECT_EQ(notes[0].english(), in.file("b.sg2") + " was left out: no picks yet");
+  pick(0, {kUnpicked, kUnpicked, kUnpicked});
+  pick(1, {0.02, 0.02, 0.03});
+  notes.clear();
+  ASSERT_TRUE(writePickedCopies(document, out.path(), notes).ok());
+  EXPECT_THAT(TestFolder::get(target("a.sg2")), ::testing::Not(HasSubstr("FIRST_BREAK 0.0")));
+  ASSERT_EQ(notes.size(), 1U);
+  EXPECT_THAT(notes[0].english(), HasSubstr("a.sg2 has no picks"));
+}
+
+TEST_F(Copies, canBeStoppedBeforeEveryFileIsComparedAndWritten) {
+  load({in.put("a.sg2", seg2File()), in.put("b.sg2", seg2File())}, ShotReader::kRules);
+  pick(0, {0.02, 0.02, 0.03});
+  pick(1, {0.02, 0.02, 0.03});
+  for (std::size_t last = 0; last < 4; ++last) {
+    std::vector<std::size_t> steps;
+    const Status status = writePickedCopies(document, out.path(), notes, [&](std::size_t step) {
+      steps.push_back(step);
+      return step < last;
+    });
+    EXPECT_THAT(status.message(), HasSubstr("it was stopped"));
+    ASSERT_EQ(steps.size(), last + 1) << "each step is another, for windows live by them";
+    for (std::size_t i = 0; i < steps.size(); ++i) EXPECT_EQ(steps[i], i);
+    EXPECT_EQ(out.entries(), last < 3 ? 0 : 1) << last;
+  }
 }
 
 TEST_F(Copies, leaveOutAndNameWhatCannotTakePicks) {

@@ -67,6 +67,22 @@ TEST_F(AnnotationsOfAProject, areLeftOutWithALineWhereTheyCannotBe) {
   }
 }
 
+/// Outlines that were digitised elsewhere have many corners.
+TEST_F(AnnotationsOfAProject, comeBackWithAsManyCornersAsAllTogetherMayHave) {
+  for (const std::size_t corners : {std::size_t{501}, Annotations::kMostPoints - 1}) {
+    Annotation& area = project.document.annotations.edit().items[1];
+    area.points.clear();
+    for (std::size_t i = 0; i < corners; ++i) {
+      area.points.push_back({0.1 * static_cast<double>(i), i % 2 == 0 ? -1.0 : -2.0});
+    }
+    ASSERT_EQ(save(), 0) << writer.message();
+    LoadedProject other;
+    ASSERT_EQ(load(archive(), other), 0) << reader.message();
+    EXPECT_THAT(reader.repairs(), IsEmpty());
+    EXPECT_EQ(*other.document.annotations, *project.document.annotations);
+  }
+}
+
 TEST_F(AnnotationsOfAProject, loseWhatNoSheetCanHold) {
   ASSERT_EQ(save(), 0) << writer.message();
   auto entries = entriesOf(archive());

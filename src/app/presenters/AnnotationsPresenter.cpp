@@ -52,11 +52,15 @@ void AnnotationsPresenter::drawn(AnnotationKind kind, const std::vector<Point2D>
   ask(&item);
 }
 
-void AnnotationsPresenter::moved(std::size_t item, const std::vector<Point2D>& points) {
+void AnnotationsPresenter::moved(std::size_t item, const Annotation& before,
+                                 const std::vector<Point2D>& points) {
   if (mDesk.inversionRuns) return tellToWait();
   const std::vector<Annotation>& items = mDesk.document().annotations->items;
-  if (item >= items.size() || items[item].points.size() != points.size()) return;
-  Annotation there = items[item];
+  // The survey may be ahead of the picture that the mouse was on.
+  if (item >= items.size() || !(items[item] == before) || before.points.size() != points.size()) {
+    return;
+  }
+  Annotation there = before;
   for (std::size_t i = 0; i < points.size(); ++i) {
     // A corner that stayed keeps its bits.
     if (!(points[i] == there.points[i])) there.points[i] = byMouse(points[i]);

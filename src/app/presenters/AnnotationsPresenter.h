@@ -22,7 +22,7 @@ class AnnotationsPresenter : public QObject {
  private:
   void drawn(AnnotationKind kind, const std::vector<Point2D>& points);
   void tellToWait();
-  void moved(std::size_t item, const std::vector<Point2D>& points);
+  void moved(std::size_t item, const Annotation& before, const std::vector<Point2D>& points);
   /// Asks with the dialog. \param begun shown as the last one, to be named; null: none
   void ask(const Annotation* begun);
 

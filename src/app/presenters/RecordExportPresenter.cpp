@@ -114,7 +114,7 @@ void RecordExportPresenter::copyWithPicks() {
   const auto writing = [&](const std::function<bool(std::size_t)>& progress) {
     return writePickedCopies(document, folder.toStdString(), notes, progress);
   };
-  if (!written(tr("Writing recordings ..."), folder, files.size(), writing)) return;
+  if (!written(tr("Writing recordings ..."), folder, 2 * files.size(), writing)) return;
   QStringList lines = {
       tr("In SEG-2 files a pick is FIRST_BREAK in seconds; in SEG-Y and SU files "
          "it is whole microseconds in bytes 233 to 236 of the trace header. Both "

@@ -88,6 +88,13 @@ std::optional<SectionMoveTool::Grip> SectionMoveTool::gripAt(const Point2D& at) 
   return std::nullopt;
 }
 
+/// Whether what is held is still what it was; an undo while it is dragged can bring another to its
+/// place.
+bool SectionMoveTool::isThere() const {
+  const std::vector<Annotation>* items = mItems();
+  return items != nullptr && mGrip->item < items->size() && (*items)[mGrip->item] == mGrip->what;
+}
+
 /// The points of what is held, where the mouse has brought them.
 std::vector<Point2D> SectionMoveTool::dragged() const {
   std::vector<Point2D> points = mGrip->what.points;
@@ -106,15 +113,16 @@ void SectionMoveTool::press(const Point2D& at) {
 
 void SectionMoveTool::move(const Point2D& at, bool pressed) {
   if (!pressed) mGrip = gripAt(at);
+  if (mGrip && !isThere()) mGrip.reset();
   mMouse = at;
 }
 
 void SectionMoveTool::release(const Point2D& at) {
   mMouse = at;
-  const bool moved = mGrip && mPressed && !(mMouse == mGrip->from);
+  const bool moved = mGrip && isThere() && mPressed && !(mMouse == mGrip->from);
   mPressed = false;
   if (!moved) return;
-  mDone(mGrip->item, dragged());
+  mDone(mGrip->item, mGrip->what, dragged());
   mGrip.reset();
 }
 

@@ -12,7 +12,8 @@ class SectionMoveTool : public SectionTool {
  public:
   /// The annotations in view; null: none.
   using Items = std::function<const std::vector<Annotation>*()>;
-  using Done = std::function<void(std::size_t item, const std::vector<Point2D>& points)>;
+  using Done = std::function<void(std::size_t item, const Annotation& before,
+                                  const std::vector<Point2D>& points)>;
 
   /// \param toSheet to the pixels that count as near \param done told when something was dragged
   SectionMoveTool(Items items, ToSheet toSheet, Done done)
@@ -36,6 +37,7 @@ class SectionMoveTool : public SectionTool {
   std::optional<Grip> gripAt(const Point2D& at) const;
   bool isUnder(const Annotation& item, const QPointF& mouse) const;
   std::optional<std::size_t> cornerUnder(const Annotation& item, const QPointF& mouse) const;
+  bool isThere() const;
   std::vector<Point2D> dragged() const;
 
   Items mItems;

@@ -80,8 +80,9 @@ class SectionView : public QWidget {
   void viewChanged();
   /// \param points survey positions, as many as the kind needs
   void annotationDrawn(AnnotationKind kind, const std::vector<Point2D>& points);
-  /// \param item of the scene's annotations \param points all of it, survey positions
-  void annotationMoved(std::size_t item, const std::vector<Point2D>& points);
+  /// \param item of the scene's annotations, as it was \param points all of it, survey positions
+  void annotationMoved(std::size_t item, const Annotation& before,
+                       const std::vector<Point2D>& points);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -81,9 +81,11 @@ void SectionView::startDrawing(AnnotationKind kind) {
 
 void SectionView::startMoving() {
   const auto items = [this] { return scene() ? &scene()->annotations.items : nullptr; };
-  const auto done = [this](std::size_t item, const std::vector<Point2D>& points) {
+  const auto done = [this](std::size_t item, const Annotation& before,
+                           const std::vector<Point2D>& points) {
     QMetaObject::invokeMethod(
-        this, [this, item, points] { emit annotationMoved(item, points); }, Qt::QueuedConnection);
+        this, [this, item, before, points] { emit annotationMoved(item, before, points); },
+        Qt::QueuedConnection);
   };
   setTool(std::make_unique<SectionMoveTool>(
       items, [this](const Point2D& at) { return pointOf(at); }, done));
