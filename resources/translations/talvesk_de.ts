@@ -9301,10 +9301,6 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>%1 ist keine Geschwindigkeit von Untergrund (%2 bis %3)</translation>
     </message>
     <message>
-        <source>it has %1 points, more than %2</source>
-        <translation>sie hat %1 Punkte, mehr als %2</translation>
-    </message>
-    <message>
         <source>%1 is no depth below the surface (0 to %2)</source>
         <translation>%1 ist keine Tiefe unter der Oberfläche (0 bis %2)</translation>
     </message>

@@ -9301,10 +9301,6 @@ Defina la posición de los geófonos
         <translation>%1 no es una velocidad del terreno (de %2 a %3)</translation>
     </message>
     <message>
-        <source>it has %1 points, more than %2</source>
-        <translation>tiene %1 puntos, más de %2</translation>
-    </message>
-    <message>
         <source>%1 is no depth below the surface (0 to %2)</source>
         <translation>%1 no es una profundidad bajo la superficie (de 0 a %2)</translation>
     </message>

@@ -9301,10 +9301,6 @@ Veuillez définir la position des géophones
         <translation>%1 n&apos;est pas une vitesse de terrain (%2 à %3)</translation>
     </message>
     <message>
-        <source>it has %1 points, more than %2</source>
-        <translation>elle a %1 points, plus que %2</translation>
-    </message>
-    <message>
         <source>%1 is no depth below the surface (0 to %2)</source>
         <translation>%1 n&apos;est pas une profondeur sous la surface (0 à %2)</translation>
     </message>

@@ -9301,10 +9301,6 @@ Impostare la posizione dei geofoni
         <translation>%1 non è una velocità del terreno (da %2 a %3)</translation>
     </message>
     <message>
-        <source>it has %1 points, more than %2</source>
-        <translation>ha %1 punti, più di %2</translation>
-    </message>
-    <message>
         <source>%1 is no depth below the surface (0 to %2)</source>
         <translation>%1 non è una profondità dal suolo (da 0 a %2)</translation>
     </message>
