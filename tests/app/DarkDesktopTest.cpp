@@ -23,7 +23,7 @@ QPalette dark() {
 /// How far the lightest pixel of what is to be ticked stands out from the ground of a table.
 int standsOut(const QStyle& style, QStyle::PrimitiveElement element, const QPalette& palette,
               QStyle::State state = QStyle::State_Enabled | QStyle::State_Off) {
-  const QColor ground = palette.color(QPalette::Base);
+  const QColor& ground = palette.color(QPalette::Base);
   QImage image(32, 32, QImage::Format_RGB32);
   image.fill(ground);
   QStyleOptionViewItem option;

@@ -13,7 +13,7 @@ using Json = nlohmann::json;
 
 class SurveyedPlaces : public ::testing::Test {
  protected:
-  Outcome run(std::vector<std::string> arguments) { return runBatch(arguments); }
+  Outcome run(const std::vector<std::string>& arguments) { return runBatch(arguments); }
   std::string in(const std::string& name) const { return folder / name; }
   Json jsonOf(const std::string& name) { return Json::parse(contentsOf(in(name))); }
 

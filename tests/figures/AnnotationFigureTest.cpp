@@ -36,7 +36,7 @@ TomoDocument annotated() {
   return document;
 }
 
-std::string svgOf(const TomoDocument& document, SectionFigureOptions options = {}) {
+std::string svgOf(const TomoDocument& document, const SectionFigureOptions& options = {}) {
   QByteArray bytes;
   const Status status = renderSectionFigure(document, options, FigureFormat::kSvg, bytes);
   EXPECT_TRUE(status.ok()) << status.message();

@@ -52,7 +52,8 @@ struct FitLine {
     return options;
   }
   double depth(std::size_t cell) const {
-    return (static_cast<double>(cell / geometry->col()) + 0.5) * geometry->aLato();
+    const std::size_t row = cell / geometry->col();
+    return (static_cast<double>(row) + 0.5) * geometry->aLato();
   }
 };
 

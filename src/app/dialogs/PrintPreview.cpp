@@ -148,7 +148,8 @@ QRectF PrintPreview::placeOf(std::size_t page) const {
   const QPointF corner(0.5 * std::max(mCanvas->width() - width, 0.0) + kGap,
                        0.5 * std::max(mCanvas->height() - height, 0.0) + kGap);
   const auto column = static_cast<double>(page % mPages->columns);
-  const auto row = static_cast<double>(page / mPages->columns);
+  const std::size_t full = page / mPages->columns;  // rows above this one
+  const auto row = static_cast<double>(full);
   return {corner + QPointF(column * (sheet.width() + kGap), row * (sheet.height() + kGap)), sheet};
 }
 

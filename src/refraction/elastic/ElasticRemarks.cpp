@@ -17,12 +17,13 @@ void remarkOnTops(const ElasticLayer& layer, double tolerance, std::vector<Messa
   }
   if (p.empty()) return;
   const double none = Estimate().value;
+  const std::size_t places = p.size();
   remarks.push_back(
       Message::tr("Layer %1: at %2 of %3 places the depths of its top by P and by S differ by more "
                   "than %4 % (median there %5 by P, %6 by S). P waves often see the water "
                   "table, which S waves do not: the same number may be different ground.")
           .arg(layer.layer)
-          .arg(p.size())
+          .arg(places)
           .arg(layer.points.size())
           .arg(tolerance)
           .arg(Message::length(medianOf(std::move(p), none), 3))
