@@ -9417,8 +9417,12 @@ Bitte legen Sie die Positionen der Geophone fest
         <translation>%1 Felder oder mehr, für die kein Platz ist, darunter %2</translation>
     </message>
     <message>
-        <source>where shots and geophones were is not known: traces go together as numbered</source>
-        <translation>wo Schüsse und Geophone lagen, ist nicht bekannt: Spuren gehören nach ihrer Nummer zusammen</translation>
+        <source>%1 traces go together by their numbers, for all are at one place</source>
+        <translation>%1 Spuren gehören nach ihren Nummern zusammen, denn alle liegen an einer Stelle</translation>
+    </message>
+    <message>
+        <source>where a shot was is not known</source>
+        <translation>wo ein Schuss lag, ist nicht bekannt</translation>
     </message>
 </context>
 <context>

@@ -9417,8 +9417,12 @@ Defina la posición de los geófonos
         <translation>%1 campos o más para los que no hay sitio, entre ellos %2</translation>
     </message>
     <message>
-        <source>where shots and geophones were is not known: traces go together as numbered</source>
-        <translation>no se sabe dónde estaban disparos y geófonos: las trazas se unen según su número</translation>
+        <source>%1 traces go together by their numbers, for all are at one place</source>
+        <translation>%1 trazas se unen según sus números, pues todas están en un mismo lugar</translation>
+    </message>
+    <message>
+        <source>where a shot was is not known</source>
+        <translation>no se sabe dónde estaba un disparo</translation>
     </message>
 </context>
 <context>

@@ -9417,8 +9417,12 @@ Veuillez définir la position des géophones
         <translation>%1 champs ou plus pour lesquels il n&apos;y a pas de place, dont %2</translation>
     </message>
     <message>
-        <source>where shots and geophones were is not known: traces go together as numbered</source>
-        <translation>on ne sait pas où étaient tirs et géophones&#xa0;: les traces vont ensemble selon leur numéro</translation>
+        <source>%1 traces go together by their numbers, for all are at one place</source>
+        <translation>%1 traces vont ensemble selon leurs numéros, car toutes sont au même endroit</translation>
+    </message>
+    <message>
+        <source>where a shot was is not known</source>
+        <translation>on ne sait pas où était un tir</translation>
     </message>
 </context>
 <context>

@@ -9417,8 +9417,12 @@ Impostare la posizione dei geofoni
         <translation>%1 campi o più per cui non c&apos;è posto, fra cui %2</translation>
     </message>
     <message>
-        <source>where shots and geophones were is not known: traces go together as numbered</source>
-        <translation>non si sa dove fossero tiri e geofoni: le tracce vanno insieme secondo il numero</translation>
+        <source>%1 traces go together by their numbers, for all are at one place</source>
+        <translation>%1 tracce vanno insieme secondo i numeri, perché sono tutte nello stesso punto</translation>
+    </message>
+    <message>
+        <source>where a shot was is not known</source>
+        <translation>non si sa dove fosse un tiro</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include "io/RecordExport.h"
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <ostream>
 
@@ -130,9 +131,10 @@ Status writeBlowPairRecords(const RecordsOptions& options, const TomoDocument& d
   if (status.ok() && !pair.hasSum()) status = Status::failure(pair.noSum);
   if (!status.ok()) return status;
   for (const Message& line : describeLosses(pair)) warn(line);
-  if (pair.isOfTwoPlaces() || pair.isWithoutPlaces()) warn(describeShotPlaces(pair));
-  out << pair.matched << " traces at the same places; " << describeShotPlaces(pair)
-      << "; the second is " << formatDouble(pair.strength, 3) << " times as strong\n";
+  if (pair.withoutPlaces) warn(describeMatch(pair));
+  if (pair.isOfTwoPlaces() || !std::isfinite(pair.shotsApart)) warn(describeShotPlaces(pair));
+  out << describeMatch(pair) << "; " << describeShotPlaces(pair) << "; the second is "
+      << formatDouble(pair.strength, 3) << " times as strong\n";
   std::vector<Message> notes;
   for (const Wanted& each : wanted) {
     status = writeRecord(pair.document, each.set, static_cast<int>(pair.shotOf(each.set) + 1),

@@ -49,6 +49,28 @@ double startOf(const Trace& trace) {
   return trace.delay + static_cast<double>(trace.droppedSamples) * trace.sampleInterval;
 }
 
+/// For traces of which none has a place of its own.
+std::vector<Match> matchesByNumber(const std::vector<Point2D>& first,
+                                   const std::vector<Point2D>& second) {
+  std::vector<Match> matches;
+  for (std::size_t i = 0; i < std::min(first.size(), second.size()); ++i) {
+    matches.push_back({i, i});
+  }
+  return matches;
+}
+
+/// Whether all are at one place, as where a file says nothing of places.
+bool areOneHeap(const std::vector<Point2D>& first, const std::vector<Point2D>& second,
+                double tolerance) {
+  if (first.empty() || second.empty()) return false;
+  const double x = first.front().x;
+  const auto isThere = [x](const Point2D& place) { return place.x == x; };
+  return std::all_of(first.begin(), first.end(), isThere) &&
+         std::all_of(second.begin(), second.end(),
+                     [&](const Point2D& place) { return place.x == second.front().x; }) &&
+         std::abs(second.front().x - x) <= tolerance;
+}
+
 /// Each trace of the first to the nearest of the second that is still free, the nearest first.
 std::vector<Match> matchesOf(const std::vector<Point2D>& first, const std::vector<Point2D>& second,
                              double tolerance) {
@@ -122,7 +144,9 @@ class Overlay {
   Status make() {
     const std::vector<Point2D> first = placesOf(mFirst, mFirstTraces);
     const std::vector<Point2D> second = placesOf(mSecond, mSecondTraces);
-    std::vector<Match> matches = matchesOf(first, second, mOptions.tolerance);
+    const bool oneHeap = areOneHeap(first, second, mOptions.tolerance);
+    std::vector<Match> matches =
+        oneHeap ? matchesByNumber(first, second) : matchesOf(first, second, mOptions.tolerance);
     mPair.unmatchedFirst = first.size() - matches.size();
     mPair.unmatchedSecond = second.size() - matches.size();
     leaveOutKilled(matches);
@@ -132,6 +156,7 @@ class Overlay {
     mPair.shotsApart = std::hypot(mSecond.shotPos2d.x - mFirst.shotPos2d.x,
                                   mSecond.shotPos2d.z - mFirst.shotPos2d.z);
     mPair.spacing = spacingOf(first);
+    mPair.withoutPlaces = oneHeap && matches.size() > 1;
     layOut(matches, first);
     measure();
     combine();

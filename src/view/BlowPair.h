@@ -58,6 +58,8 @@ struct BlowPair {
   std::size_t tooFarInTime = 0;  ///< the same, whose records begin too far apart
   double shotsApart = 0.0;       ///< metres between the places of the two shots
   double spacing = 0.0;          ///< usual metres between geophones; 0: there is one only
+  /// Nothing tells where geophones were: all are at one place, and traces go by their numbers.
+  bool withoutPlaces = false;
   double secondLater = 0.0;      ///< seconds that the record of the second begins later
   double strength = 1.0;         ///< of the second, by that of the first
   double factor = 1.0;           ///< that the second was multiplied by
@@ -69,11 +71,11 @@ struct BlowPair {
   /// Which shot a set of `document` is of, and the place of: the difference and the sum have those
   /// of the first.
   std::size_t shotOf(Set set) const { return set == kSecond ? second.shot : first.shot; }
-  /// Nothing tells where shots and geophones were: all are at one place, or a shot at none.
-  bool isWithoutPlaces() const;
   /// The shots are so far apart that their difference and sum are not of one place: by more than a
   /// tenth of what geophones are.
   bool isOfTwoPlaces() const;
+  /// They are, or it is not known.
+  bool arePlacesDoubtful() const;
 };
 
 /// Lays two blows over each other. Traces belong together by the places of their geophones, each to
@@ -85,6 +87,9 @@ struct BlowPair {
 /// before then
 Status layOver(const TomoDocument& document, const Blow& first, const Blow& second,
                const BlowPairOptions& options, BlowPair& pair);
+
+/// How many traces go together, and by what.
+Message describeMatch(const BlowPair& pair);
 
 /// How far apart the two shots are, and whether that matters.
 Message describeShotPlaces(const BlowPair& pair);

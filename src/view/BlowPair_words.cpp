@@ -9,19 +9,23 @@ constexpr double kOnePlace = 0.1;  ///< of the distance between geophones
 
 }  // namespace
 
-bool BlowPair::isWithoutPlaces() const {
-  return !std::isfinite(shotsApart) || (matched > 1 && !(spacing > 0.0));
-}
-
 bool BlowPair::isOfTwoPlaces() const {
   return shotsApart > kOnePlace * spacing && shotsApart > 0.0;
 }
 
+bool BlowPair::arePlacesDoubtful() const {
+  return isOfTwoPlaces() || withoutPlaces || !std::isfinite(shotsApart);
+}
+
+Message describeMatch(const BlowPair& pair) {
+  return (pair.withoutPlaces
+              ? Message::tr("%1 traces go together by their numbers, for all are at one place")
+              : Message::tr("%1 traces at the same places"))
+      .arg(pair.matched);
+}
+
 Message describeShotPlaces(const BlowPair& pair) {
-  if (pair.isWithoutPlaces()) {
-    return Message::tr(
-        "where shots and geophones were is not known: traces go together as numbered");
-  }
+  if (!std::isfinite(pair.shotsApart)) return Message::tr("where a shot was is not known");
   if (!(pair.shotsApart > 0.0)) return Message::tr("the shots are at one place");
   const Message apart = Message::length(pair.shotsApart, 3);
   if (!pair.isOfTwoPlaces()) return Message::tr("the shots are %1 apart").arg(apart);
@@ -59,8 +63,7 @@ std::vector<Message> describeLosses(const BlowPair& pair) {
 }
 
 std::vector<Message> describe(const BlowPair& pair) {
-  std::vector<Message> lines = {Message::tr("%1 traces at the same places").arg(pair.matched),
-                                describeShotPlaces(pair)};
+  std::vector<Message> lines = {describeMatch(pair), describeShotPlaces(pair)};
   lines.push_back(
       Message::tr("the second is %1 times as strong").arg(Message::number(pair.strength, 3)));
   if (pair.factor != 1.0) {

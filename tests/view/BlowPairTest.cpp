@@ -5,6 +5,7 @@
 #include "view/BlowPair.h"
 
 #include <cmath>
+#include <limits>
 
 #include <gmock/gmock.h>
 
@@ -209,19 +210,25 @@ INSTANTIATE_TEST_SUITE_P(
         Places{0.125, false, "the shots are 0.125 m apart"},
         Places{0.5, true, "the shots are 0.5 m apart: difference and sum are not of one place"}));
 
-TEST(BlowPair, doubtsPlacesThatNobodyKnows) {
-  TomoDocument document = oppositeBlows();
+TEST(BlowPair, goesByNumbersWhereNobodyKnowsPlaces) {
+  TomoDocument document = shotDocument(2, 96, 40);
   for (TravelTime& record : document.ttArray.edit()) record.shotPos2d = {0.0, 0.0};
   for (Point2D& place : document.line.edit().goephonesStringSet[0]) place = {0.0, 0.0};
-  const BlowPair pair = layered(document);
-  EXPECT_EQ(pair.matched, 6U);
-  EXPECT_TRUE(pair.isWithoutPlaces());
-  EXPECT_THAT(describeShotPlaces(pair).english(), HasSubstr("is not known"));
-  for (std::size_t trace = 0; trace < 6; ++trace) {
-    EXPECT_NEAR(samplesOf(pair, BlowPair::kSum, trace)[5], 2.0 * std::sin(3.5), 1e-12)
-        << "by their numbers";
+  for (std::size_t i = 0; i < 96; ++i) {
+    for (TraceSet& set : document.recordings.edit().traceSets) {
+      set[i].samples = std::vector<double>(40, static_cast<double>(i));
+    }
   }
-  EXPECT_FALSE(layered(oppositeBlows()).isWithoutPlaces());
+  const BlowPair pair = layered(document);
+  EXPECT_EQ(pair.matched, 96U);
+  EXPECT_TRUE(pair.withoutPlaces && pair.arePlacesDoubtful());
+  EXPECT_THAT(describeMatch(pair).english(), HasSubstr("by their numbers"));
+  for (std::size_t trace = 0; trace < 96; ++trace) {
+    EXPECT_EQ(samplesOf(pair, BlowPair::kSum, trace)[5], 2.0 * static_cast<double>(trace));
+  }
+  document.ttArray.edit()[1].shotPos2d.x = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_THAT(describeShotPlaces(layered(document)).english(), HasSubstr("is not known"));
+  EXPECT_FALSE(layered(oppositeBlows()).arePlacesDoubtful());
 }
 
 TEST(BlowPair, refusesASumOfWhatIsSampledOtherwise) {

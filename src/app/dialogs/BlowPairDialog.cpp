@@ -211,9 +211,11 @@ void BlowPairDialog::compute() {
 
 /// How far apart the shots are, in the unit that is shown.
 void BlowPairDialog::refreshNotices() {
-  QString places = mHasPair ? textOf(describeShotPlaces(mPair)) : QString();
+  QString places =
+      mHasPair ? textOf(mPair.withoutPlaces ? describeMatch(mPair) : describeShotPlaces(mPair))
+               : QString();
   if (!places.isEmpty()) places[0] = places[0].toUpper();
-  const bool doubtful = mHasPair && (mPair.isOfTwoPlaces() || mPair.isWithoutPlaces());
+  const bool doubtful = mHasPair && mPair.arePlacesDoubtful();
   mUi->placesLabel->setText(places);
   mUi->placesLabel->setStyleSheet(doubtful ? warningStyle(*mUi->placesLabel) : QString());
   mUi->placesLabel->setVisible(!places.isEmpty());
