@@ -211,15 +211,21 @@ TEST(PrintPages, toFitIsTheLargestScaleOfThreeDigits) {
   }
 }
 
-TEST(PrintPages, figuresWithoutALengthFillTheSheetAtAnyScale) {
-  TomoDocument document;
+/// Of an inversion whose section fits better with every iteration.
+InversionRecord recordOf(int iterations) {
   InversionRecord record;
-  for (int i = 0; i < 5; ++i) {
+  for (int i = 0; i < iterations; ++i) {
     SectionMisfit misfit;
     misfit.rmse = 0.002 / (1 + i);
     misfit.count = 40;
     record.sectionHistory.push_back(misfit);
   }
+  return record;
+}
+
+TEST(PrintPages, figuresWithoutALengthFillTheSheetAtAnyScale) {
+  TomoDocument document;
+  const InversionRecord record = recordOf(5);
   for (const char* paper : {"A4", "A0"}) {
     const PrintPages pages = prepared(printedMisfit(document, record), on(paper, true, 1.0));
     EXPECT_EQ(pages.count(), 1U);
@@ -232,12 +238,8 @@ TEST(PrintPages, figuresWithoutALengthFillTheSheetAtAnyScale) {
 
 TEST(PrintPages, misfitNamesThePassesOfASolverThatThereWere) {
   TomoDocument document;
-  InversionRecord record;
+  InversionRecord record = recordOf(3);
   for (int i = 0; i < 3; ++i) {
-    SectionMisfit misfit;
-    misfit.rmse = 0.002 / (1 + i);
-    misfit.count = 40;
-    record.sectionHistory.push_back(misfit);
     Misfit pass;
     pass.rmse = 0.001;
     pass.count = 40;

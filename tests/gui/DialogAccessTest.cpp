@@ -100,18 +100,6 @@ TEST_F(DialogAccess, cutsNoTextOfADialogAsItOpens) {
   }
 }
 
-TEST_F(DialogAccess, keepsTheEnterKeyFromOpeningTheGuide) {
-  openSurvey();
-  for (const Case& each : cases()) {
-    const auto dialog = each.make();
-    show(*dialog);
-    for (const QDialogButtonBox* buttons : dialog->findChildren<QDialogButtonBox*>()) {
-      const QPushButton* help = buttons->button(QDialogButtonBox::Help);
-      EXPECT_FALSE(help != nullptr && help->isDefault()) << each.name;
-    }
-  }
-}
-
 /// As of a desktop with dark colours.
 QPalette darkPalette() {
   QPalette dark(QColor(0x31, 0x36, 0x3b));
