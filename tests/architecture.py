@@ -34,7 +34,8 @@ ALLOWED = {
 HEAVY_IN_HEADER = re.compile(r"^(vtk|qwt_|cereal/)")
 # Headers of the system, beside those of C++ and the libraries, and the only files that may include them: one for
 # each need, which docs/other-systems.md lists with what another system would take.
-OF_SYSTEM = re.compile(r"^(sys/.*|linux/.*|unistd\.h|fcntl\.h|pwd\.h|dlfcn\.h|pthread\.h|poll\.h|spawn\.h|termios\.h)$")
+OF_SYSTEM = re.compile(r"^(sys/.*|linux/.*|unistd\.h|fcntl\.h|pwd\.h|dlfcn\.h|pthread\.h|poll\.h|spawn\.h|termios\.h|c?signal(\.h)?|dirent\.h|sched\.h|"
+                       r"netdb\.h|glob\.h|arpa/.*|net/.*|X11/.*|xcb/.*)$")
 MEETS_SYSTEM = {f"src/base/{name}.cpp" for name in
                 ("FileReplacement", "LockedFile", "PrivateFolder", "ScratchFile", "StandardStreams", "StreamPlace",
                  "ThisProcess")} | {"src/app/Termination.cpp", "src/batch/Interrupt.cpp"}
